@@ -1,0 +1,120 @@
+#include "text/Utf.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace nerlo::text {
+namespace {
+
+// One character after the other, by the definition of well-formed UTF-8.
+Utf16Result decodedSlowly(std::string_view bytes) {
+    Utf16Result result;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const auto byte = [&](std::size_t i) {
+            return at + i < bytes.size() ? static_cast<unsigned char>(bytes[at + i]) : 0u;
+        };
+        const unsigned lead = byte(0);
+        std::size_t length = lead < 0x80       ? 1
+                             : lead >> 5 == 6  ? 2
+                             : lead >> 4 == 14 ? 3
+                             : lead >> 3 == 30 ? 4
+                                               : 0;
+        char32_t character = length == 1 ? lead : lead & (0xFFu >> (length + 1));
+        for (std::size_t i = 1; i < length; ++i) {
+            if ((byte(i) & 0xC0) != 0x80) {
+                length = 0;
+                break;
+            }
+            character = character << 6 | (byte(i) & 0x3F);
+        }
+        constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+        if (length == 0 || character < smallest[length] || character > 0x10FFFF ||
+            (character >= 0xD800 && character < 0xE000)) {
+            result.invalidAt = at;
+            break;
+        }
+        if (character < 0x10000) {
+            result.text.push_back(static_cast<char16_t>(character));
+        } else {
+            result.text.push_back(static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10)));
+            result.text.push_back(static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
+        }
+        at += length;
+    }
+    return result;
+}
+
+void expectSame(const std::string &bytes, std::size_t cut) {
+    const Utf16Result expected = decodedSlowly(bytes);
+    const Utf16Result whole = utf8ToUtf16(bytes);
+    ASSERT_EQ(whole.text, expected.text);
+    ASSERT_EQ(whole.invalidAt, expected.invalidAt);
+    Utf8Decoder decoder;
+    std::u16string text;
+    for (std::size_t at = 0; at < bytes.size(); at += cut) {
+        decoder.decode(std::string_view(bytes).substr(at, cut), text);
+    }
+    decoder.finish();
+    ASSERT_EQ(decoder.invalidAt(), expected.invalidAt) << "in pieces of " << cut;
+    ASSERT_EQ(text, expected.text) << "in pieces of " << cut;
+}
+
+TEST(Utf, DecodesEveryShortSequence) {
+    for (std::uint32_t lead = 0x7F; lead <= 0xFF; ++lead) {
+        for (const std::uint32_t second :
+             {0x00, 0x7F, 0x80, 0x8F, 0x90, 0x9F, 0xA0, 0xBF, 0xC0, 0xFF}) {
+            for (const std::uint32_t third : {0x00, 0x7F, 0x80, 0xBF, 0xC0}) {
+                for (const std::uint32_t fourth : {0x00, 0x80, 0xBF, 0xC2}) {
+                    std::string bytes("ab");
+                    for (const std::uint32_t byte : {lead, second, third, fourth}) {
+                        bytes.push_back(static_cast<char>(byte));
+                        ASSERT_NO_FATAL_FAILURE(expectSame(bytes, 1));
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Utf, DecodesAndEncodesRandomTexts) {
+    std::mt19937 random(1);
+    const auto below = [&](std::size_t bound) { return random() % bound; };
+    constexpr std::string_view pieces[] = {"a",
+                                           "text of ASCII only, ",
+                                           "\xC3\xA9",
+                                           "\xD0\xB6\xD0\xB8",
+                                           "\xE6\x97\xA5",
+                                           "\xF0\x9F\x8E\x89",
+                                           "\n",
+                                           std::string_view("\0", 1)};
+    for (int round = 0; round < 4000; ++round) {
+        std::string bytes;
+        for (std::size_t i = below(round % 50 == 0 ? 20'000 : 60); i > 0; --i) {
+            bytes += pieces[below(std::size(pieces))];
+        }
+        const std::size_t cut = 1 + below(40);
+        ASSERT_NO_FATAL_FAILURE(expectSame(bytes, cut));
+        const Utf16Result decoded = utf8ToUtf16(bytes);
+        ASSERT_EQ(utf16ToUtf8(decoded.text), bytes);
+        if (!bytes.empty()) {
+            bytes[below(bytes.size())] = static_cast<char>(below(256));
+            ASSERT_NO_FATAL_FAILURE(expectSame(bytes, cut));
+        }
+    }
+}
+
+TEST(Utf, ReplacesUnpairedSurrogates) {
+    constexpr char16_t high = 0xD83C;
+    constexpr char16_t low = 0xDF89;
+    const std::string mark = "\xEF\xBF\xBD";
+    EXPECT_EQ(utf16ToUtf8(std::u16string{high}), mark);
+    EXPECT_EQ(utf16ToUtf8(std::u16string{low, high}), mark + mark);
+    EXPECT_EQ(utf16ToUtf8(std::u16string{high, u'a', high, low}), mark + "a\xF0\x9F\x8E\x89");
+    std::u16string text(20'000, u'\u65E5');
+    text.insert(9'999, std::u16string{high, low});
+    EXPECT_EQ(utf8ToUtf16(utf16ToUtf8(text)).text, text) << "across the blocks";
+}
+
+} // namespace
+} // namespace nerlo::text

@@ -1,0 +1,86 @@
+#include "text/Characters.h"
+
+#include <unicode/uchar.h>
+#include <unicode/utf16.h>
+
+namespace nerlo::text {
+
+namespace {
+
+UChar32 code(char32_t character) {
+    return static_cast<UChar32>(character);
+}
+
+// Characters that never stand apart from the one before them.
+bool extends(char32_t character) {
+    return character >= 0x80 && (u_hasBinaryProperty(code(character), UCHAR_GRAPHEME_EXTEND) ||
+                                 u_charType(code(character)) == U_FORMAT_CHAR);
+}
+
+} // namespace
+
+char32_t characterAt(std::u16string_view text, std::size_t at) {
+    UChar32 character = 0;
+    U16_GET(text.data(), 0, at, text.size(), character);
+    return static_cast<char32_t>(character);
+}
+
+std::size_t sizeOf(char32_t character) {
+    return character > 0xFFFF ? 2 : 1;
+}
+
+bool isWhiteSpace(char32_t character) {
+    if (character < 0x80) {
+        return character == U' ' || (character >= U'\t' && character <= U'\r');
+    }
+    return u_isUWhiteSpace(code(character));
+}
+
+bool isWordCharacter(char32_t character) {
+    if (character < 0x80) {
+        return (character >= U'a' && character <= U'z') ||
+               (character >= U'A' && character <= U'Z') ||
+               (character >= U'0' && character <= U'9') || character == U'_';
+    }
+    constexpr std::uint32_t marksDigitsConnectors = U_GC_M_MASK | U_GC_ND_MASK | U_GC_PC_MASK;
+    return u_isUAlphabetic(code(character)) ||
+           (U_GET_GC_MASK(code(character)) & marksDigitsConnectors) != 0 ||
+           character == U'\u200C' || character == U'\u200D';
+}
+
+bool isPunctuation(char32_t character) {
+    return (U_GET_GC_MASK(code(character)) & U_GC_P_MASK) != 0;
+}
+
+bool isShown(char32_t character) {
+    return (U_GET_GC_MASK(code(character)) &
+            (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK | U_GC_P_MASK | U_GC_S_MASK)) != 0;
+}
+
+bool isLineEnd(char16_t unit) {
+    return (unit >= u'\n' && unit <= u'\r') || unit == u'\u0085' || unit == u'\u2028' ||
+           unit == u'\u2029';
+}
+
+bool isWordBoundary(std::u16string_view text, std::size_t at) {
+    bool isWord = false;
+    if (at < text.size()) {
+        const char32_t character = characterAt(text, at);
+        if (extends(character)) {
+            return false;
+        }
+        isWord = isWordCharacter(character);
+    }
+    bool wasWord = false;
+    while (at > 0) {
+        UChar32 before = 0;
+        U16_PREV(text.data(), 0, at, before);
+        if (!extends(static_cast<char32_t>(before))) {
+            wasWord = isWordCharacter(static_cast<char32_t>(before));
+            break;
+        }
+    }
+    return isWord != wasWord;
+}
+
+} // namespace nerlo::text

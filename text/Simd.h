@@ -1,0 +1,28 @@
+// NERLO_CLONES before a function compiles it for several instruction sets; which one runs is
+// decided once, when the program is loaded. Sanitizers instrument the chooser too early for that.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) &&                             \
+    !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#define NERLO_CLONES __attribute__((target_clones("arch=x86-64-v4", "arch=x86-64-v3", "default")))
+#else
+#define NERLO_CLONES
+#endif
+
+namespace nerlo::text {
+
+// 64 bytes of 0 or 1, to one bit each.
+inline std::uint64_t packFlags(const std::uint8_t *flags) {
+    std::uint64_t mask = 0;
+    for (std::uint64_t group = 0; group < 8; ++group) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, flags + 8 * group, sizeof eight);
+        mask |= (eight * 0x0102040810204080u >> 56) << (8 * group);
+    }
+    return mask;
+}
+
+} // namespace nerlo::text

@@ -1,0 +1,139 @@
+// Finding code units of a small set, 64 at a time.
+//
+// The loops are plain C++ that the compiler turns into vector code, once for each instruction set
+// worth having; the processor's own is chosen when the program starts.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace nerlo::text {
+
+// A set of code units, as at most `maxRanges` ranges.
+class UnitSet {
+  public:
+    struct UnitRange {
+        char16_t first;
+        char16_t last;
+    };
+    static constexpr std::size_t maxRanges = 24;
+
+    constexpr UnitSet() = default;
+    constexpr explicit UnitSet(std::u16string_view units) {
+        for (const char16_t unit : units) {
+            add(unit, unit);
+        }
+    }
+
+    constexpr void add(char16_t first, char16_t last) {
+        for (std::size_t at = 0; at < size_; ++at) {
+            UnitRange &range = ranges_[at];
+            if (first >= range.first && last <= range.last) {
+                return;
+            }
+            if (first == range.last + 1) {
+                range.last = last;
+                return;
+            }
+            if (last + 1 == range.first) {
+                range.first = first;
+                return;
+            }
+        }
+        ranges_.at(size_++) = {first, last};
+    }
+
+    constexpr bool contains(char16_t unit) const {
+        for (std::size_t at = 0; at < size_; ++at) {
+            if (unit >= ranges_[at].first && unit <= ranges_[at].last) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    constexpr const UnitRange *begin() const { return ranges_.data(); }
+    constexpr const UnitRange *end() const { return ranges_.data() + size_; }
+
+  private:
+    std::array<UnitRange, maxRanges> ranges_{};
+    std::size_t size_ = 0;
+};
+
+inline constexpr std::size_t scanBlock = 64;
+
+// Bit i says whether units[i] is in the set. Reads exactly 64 units.
+std::uint64_t scanUnits(const char16_t *units, const UnitSet &set);
+// The same for a single unit.
+std::uint64_t scanUnit(const char16_t *units, char16_t unit);
+
+// The mask of the `count` (at most 64) units at `units`.
+std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &set);
+
+// The position of the first unit of the set at or after `from`, or the text's size.
+std::size_t findUnit(std::u16string_view text, std::size_t from, const UnitSet &set);
+std::size_t findUnit(std::u16string_view text, std::size_t from, char16_t unit);
+
+std::size_t countUnits(std::u16string_view text, const UnitSet &set);
+
+bool containsAny(std::u16string_view text, const UnitSet &set);
+
+// Walks the positions of a set in a text in order, keeping the mask of the block at hand.
+class UnitCursor {
+  public:
+    // Both must outlive the cursor.
+    UnitCursor(std::u16string_view text, const UnitSet &set)
+        : text_(text)
+        , set_(set) {
+        load();
+    }
+
+    // The next position, or the text's size when there is none.
+    std::size_t next() {
+        while (mask_ == 0) {
+            block_ += scanBlock;
+            if (block_ >= text_.size()) {
+                block_ = text_.size();
+                return text_.size();
+            }
+            load();
+        }
+        const auto bit = static_cast<std::size_t>(std::countr_zero(mask_));
+        mask_ &= mask_ - 1;
+        return block_ + bit;
+    }
+
+    // The next position at or after `from`.
+    std::size_t nextFrom(std::size_t from) {
+        if (from >= block_ + scanBlock) {
+            block_ = from / scanBlock * scanBlock;
+            if (block_ >= text_.size()) {
+                block_ = text_.size();
+                mask_ = 0;
+                return text_.size();
+            }
+            load();
+        }
+        if (from > block_) {
+            mask_ &= ~std::uint64_t{0} << (from - block_);
+        }
+        return next();
+    }
+
+  private:
+    void load() {
+        const std::size_t left = text_.size() - block_;
+        mask_ = left >= scanBlock ? scanUnits(text_.data() + block_, set_)
+                                  : scanTail(text_.data() + block_, left, set_);
+    }
+
+    std::u16string_view text_;
+    const UnitSet &set_;
+    std::size_t block_ = 0;
+    std::uint64_t mask_ = 0;
+};
+
+} // namespace nerlo::text

@@ -1,0 +1,251 @@
+#include "text/Utf.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace nerlo::text {
+
+namespace {
+
+constexpr char32_t replacementCharacter = U'\uFFFD';
+constexpr std::size_t chunk = 16;         // units or bytes looked at together
+constexpr std::size_t blockSize = 16'384; // units made at a time, to stay in the cache
+
+unsigned byteOf(char byte) {
+    return static_cast<unsigned char>(byte);
+}
+
+// `yes` when the condition is 1, `no` when it is 0; the compiler would make a branch of "?:".
+std::uint32_t select(std::uint32_t condition, std::uint32_t yes, std::uint32_t no) {
+    return (yes & (0 - condition)) | (no & (condition - 1));
+}
+
+// The leading bytes of the sixteen at `bytes` that are ASCII.
+std::size_t asciiPrefix(const char *bytes) {
+    std::uint64_t halves[2];
+    std::memcpy(halves, bytes, sizeof halves);
+    constexpr std::uint64_t high = 0x8080808080808080u;
+    if ((halves[0] & high) != 0) {
+        return static_cast<std::size_t>(std::countr_zero(halves[0] & high)) / 8;
+    }
+    if ((halves[1] & high) != 0) {
+        return 8 + static_cast<std::size_t>(std::countr_zero(halves[1] & high)) / 8;
+    }
+    return chunk;
+}
+
+// The length of the well-formed sequence at `at`, which `left` bytes follow; 0 when it is none, or
+// is not complete.
+std::size_t decodeOne(const char *at, std::size_t left, char32_t &character) {
+    const unsigned lead = byteOf(at[0]);
+    const auto trail = [at](std::size_t offset) { return byteOf(at[offset]) ^ 0x80u; };
+    if (lead < 0x80) {
+        character = lead;
+        return 1;
+    }
+    if (lead < 0xE0) {
+        if (lead < 0xC2 || left < 2 || trail(1) > 0x3F) {
+            return 0;
+        }
+        character = (lead & 0x1Fu) << 6 | trail(1);
+        return 2;
+    }
+    if (lead < 0xF0) {
+        if (left < 3 || (trail(1) | trail(2)) > 0x3F) {
+            return 0;
+        }
+        character = (lead & 0x0Fu) << 12 | trail(1) << 6 | trail(2);
+        return character < 0x800 || (character >> 11) == 0x1B ? 0 : 3;
+    }
+    if (lead > 0xF4 || left < 4 || (trail(1) | trail(2) | trail(3)) > 0x3F) {
+        return 0;
+    }
+    character = (lead & 0x07u) << 18 | trail(1) << 12 | trail(2) << 6 | trail(3);
+    return character < 0x10000 || character > 0x10FFFF ? 0 : 4;
+}
+
+// Whether `bytes`, which do not begin with a complete sequence, could be the beginning of one.
+bool mayBeIncomplete(std::string_view bytes) {
+    const unsigned lead = byteOf(bytes[0]);
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || bytes.size() >= length) {
+        return false;
+    }
+    // The second byte has limits of its own: no overlong forms, surrogates or too large values.
+    const unsigned lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    const unsigned highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    if (bytes.size() > 1 && (byteOf(bytes[1]) < lowest || byteOf(bytes[1]) > highest)) {
+        return false;
+    }
+    return bytes.size() < 3 || (byteOf(bytes[2]) & 0xC0) == 0x80;
+}
+
+// Decodes until the bytes end, do not go on, or `room` may not hold another chunk. Returns the
+// number of bytes taken; the units go to `to`.
+std::size_t decodeBlock(std::string_view bytes, char16_t *const to, std::size_t room,
+                        std::size_t &written) {
+    const char *at = bytes.data();
+    const char *const end = at + bytes.size();
+    char16_t *unit = to;
+    const char16_t *const full = to + room - chunk;
+    bool wellFormed = true;
+    while (wellFormed && at < end && unit <= full) {
+        if (static_cast<std::size_t>(end - at) >= chunk && byteOf(*at) < 0x80) {
+            for (std::size_t i = 0; i < chunk; ++i) {
+                unit[i] = static_cast<unsigned char>(at[i]);
+            }
+            const std::size_t ascii = asciiPrefix(at);
+            at += ascii;
+            unit += ascii;
+            if (ascii == chunk) {
+                continue;
+            }
+        }
+        // Sequences come in runs, words of them with single spaces between.
+        do {
+            const unsigned first = byteOf(at[0]);
+            if (first < 0xE0 && end - at >= 2) {
+                // One byte or two, without a branch that nobody can foresee.
+                const unsigned second = byteOf(at[1]) ^ 0x80u;
+                const unsigned two = first >> 7; // 1 for two
+                if ((two & static_cast<unsigned>((first < 0xC2) | (second > 0x3F))) != 0) {
+                    wellFormed = false;
+                    break;
+                }
+                *unit++ = static_cast<char16_t>(select(two, (first & 0x1F) << 6 | second, first));
+                at += 1 + two;
+                continue;
+            }
+            char32_t character = 0;
+            const std::size_t length = decodeOne(at, static_cast<std::size_t>(end - at), character);
+            if (length == 0) {
+                wellFormed = false;
+                break;
+            }
+            at += length;
+            if (character < 0x10000) {
+                *unit++ = static_cast<char16_t>(character);
+            } else {
+                *unit++ = static_cast<char16_t>(0xD7C0 + (character >> 10));
+                *unit++ = static_cast<char16_t>(0xDC00 + (character & 0x3FF));
+            }
+        } while (unit <= full && end - at >= 2 && (byteOf(at[0]) | byteOf(at[1])) >= 0x80);
+    }
+    written = static_cast<std::size_t>(unit - to);
+    return static_cast<std::size_t>(at - bytes.data());
+}
+
+} // namespace
+
+void Utf8Decoder::decode(std::string_view bytes, std::u16string &to) {
+    std::array<char16_t, blockSize> block;
+    while (!bytes.empty() && !invalidAt_) {
+        std::size_t units = 0;
+        if (!pending_.empty()) {
+            pending_.push_back(bytes.front());
+            bytes.remove_prefix(1);
+            if (decodeBlock(pending_, block.data(), block.size(), units) == pending_.size()) {
+                to.append(block.data(), units);
+                consumed_ += pending_.size();
+                pending_.clear();
+            } else if (!mayBeIncomplete(pending_)) {
+                invalidAt_ = consumed_;
+            }
+            continue;
+        }
+        const std::size_t taken = decodeBlock(bytes, block.data(), block.size(), units);
+        to.append(block.data(), units);
+        consumed_ += taken;
+        bytes.remove_prefix(taken);
+        if (!bytes.empty() && units <= block.size() - chunk) { // stopped before it was full
+            if (mayBeIncomplete(bytes)) {
+                pending_ = bytes;
+                return;
+            }
+            invalidAt_ = consumed_;
+        }
+    }
+}
+
+void Utf8Decoder::finish() {
+    if (!pending_.empty() && !invalidAt_) {
+        invalidAt_ = consumed_;
+    }
+}
+
+Utf16Result utf8ToUtf16(std::string_view bytes) {
+    Utf16Result result;
+    result.text.reserve(bytes.size());
+    Utf8Decoder decoder;
+    decoder.decode(bytes, result.text);
+    decoder.finish();
+    result.invalidAt = decoder.invalidAt();
+    return result;
+}
+
+std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
+    const char16_t *at = text.data();
+    const char16_t *const end = at + text.size();
+    char *to = room.data();
+    const char *const full = to + room.size();
+    while (at < end && full - to >= 4) {
+        if (*at < 0x80 && static_cast<std::size_t>(end - at) >= chunk &&
+            static_cast<std::size_t>(full - to) >= chunk) {
+            char16_t all = 0;
+            for (std::size_t i = 0; i < chunk; ++i) {
+                to[i] = static_cast<char>(at[i]);
+                all = static_cast<char16_t>(all | at[i]);
+            }
+            if (all < 0x80) {
+                at += chunk;
+                to += chunk;
+                continue;
+            }
+        }
+        // One by one up to the end of the chunk.
+        for (std::size_t i = 0; i < chunk && at < end && full - to >= 4; ++i) {
+            char32_t character = *at++;
+            if (character < 0x800) {
+                // One byte or two, without a branch that nobody can foresee.
+                const std::uint32_t unit = character;
+                const std::uint32_t two = (0x7F - unit) >> 31; // 1 for two
+                to[0] = static_cast<char>(select(two, 0xC0 | unit >> 6, unit));
+                to[1] = static_cast<char>(0x80 | (unit & 0x3F));
+                to += 1 + two;
+                continue;
+            }
+            if ((character & 0xF800) == 0xD800) {
+                if (character < 0xDC00 && at < end && (*at & 0xFC00) == 0xDC00) {
+                    character = 0x10000 + ((character & 0x3FF) << 10) + (*at++ & 0x3FFu);
+                    *to++ = static_cast<char>(0xF0 | character >> 18);
+                    *to++ = static_cast<char>(0x80 | (character >> 12 & 0x3F));
+                    *to++ = static_cast<char>(0x80 | (character >> 6 & 0x3F));
+                    *to++ = static_cast<char>(0x80 | (character & 0x3F));
+                    continue;
+                }
+                character = replacementCharacter;
+            }
+            *to++ = static_cast<char>(0xE0 | character >> 12);
+            *to++ = static_cast<char>(0x80 | (character >> 6 & 0x3F));
+            *to++ = static_cast<char>(0x80 | (character & 0x3F));
+        }
+    }
+    text.remove_prefix(static_cast<std::size_t>(at - text.data()));
+    return static_cast<std::size_t>(to - room.data());
+}
+
+std::string utf16ToUtf8(std::u16string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size() + text.size() / 16);
+    std::array<char, blockSize> block;
+    while (!text.empty()) {
+        const std::size_t size = encodeUtf8(text, block);
+        bytes.append(block.data(), size);
+    }
+    return bytes;
+}
+
+} // namespace nerlo::text
