@@ -1,0 +1,118 @@
+// The desktop's general clipboard (on X11 the CLIPBOARD selection; the primary selection is left
+// alone).
+//
+// The owner of the content is another program and may be slow, hang, vanish or lie, so nothing here
+// waits for it: a read or a write returns at once, and its handler runs later on the main queue,
+// exactly once, after a bounded time. The time limits below hold in every backend.
+//
+// All functions are called on the main thread, and all handlers run there. A pasteboard that is
+// destroyed drops the handlers that have not run yet; the destructor first hands content of ours to
+// a clipboard manager where the platform has one, for at most `pasteboardHandOverLimit`.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace nerlo::platform {
+
+// Differs after each replacement of the content by any program, this one included, and after the
+// content went with its owner. Compared for equality only.
+using ChangeCount = std::int64_t;
+
+// A read is given up when nothing arrives for this long,
+inline constexpr std::chrono::milliseconds pasteboardStallLimit{2000};
+// or when it takes this long altogether, however busy the owner looks.
+inline constexpr std::chrono::milliseconds pasteboardReadLimit{15000};
+inline constexpr std::chrono::milliseconds pasteboardHandOverLimit{2000};
+// More formats than this, or longer names (in bytes), are nonsense; the rest of the list is
+// ignored.
+inline constexpr std::size_t pasteboardFormatLimit = 256;
+inline constexpr std::size_t pasteboardFormatNameLimit = 255;
+
+// One format of the content, with its bytes.
+struct PasteboardData {
+    std::string format; // a MIME type or an X11 target name, as the owner spells it
+    // X11 only: the name of the property type that the owner delivered; empty for the same as
+    // `format`. Elsewhere empty and ignored.
+    std::string type;
+    std::shared_ptr<const std::string> bytes; // never null; formats may share their bytes
+};
+
+// What stands on the clipboard at one time. The order is the owner's.
+using PasteboardContent = std::vector<PasteboardData>;
+
+enum class PasteboardStatus {
+    done,
+    changed,     // the clipboard holds other content by now, or none
+    timedOut,    // the owner was given up
+    unavailable, // no connection to the desktop, or the owner does not answer in the protocol
+};
+
+struct PasteboardFormats {
+    PasteboardStatus status = PasteboardStatus::unavailable;
+    ChangeCount changeCount = 0;      // of the content that offers the formats
+    std::vector<std::string> formats; // empty: the clipboard is empty
+};
+
+struct PasteboardRead {
+    PasteboardStatus status = PasteboardStatus::unavailable;
+    // What has arrived, in the order in which it was asked for. With status `done` a format is
+    // missing because the owner refused it or because it was too large; with `timedOut` also
+    // because the owner was given up before; with `changed` and `unavailable` there is nothing.
+    PasteboardContent content;
+};
+
+struct PasteboardWrite {
+    PasteboardStatus status = PasteboardStatus::unavailable;
+    ChangeCount changeCount =
+        0; // with `done`: exactly the count that this write gave the clipboard
+};
+
+class Pasteboard {
+  public:
+    using FormatsHandler = std::function<void(PasteboardFormats)>;
+    using ReadHandler = std::function<void(PasteboardRead)>;
+    using WriteHandler = std::function<void(PasteboardWrite)>;
+
+    virtual ~Pasteboard() = default;
+
+    // Never waits. May lag behind another program's copy by the moment in which the news travels,
+    // but not behind a write of ours whose handler has run.
+    virtual ChangeCount changeCount() const = 0;
+
+    // Whether `setChangeHandler` is of use; if not, the count has to be polled.
+    virtual bool notifiesChanges() const = 0;
+    // Runs after changes of the count; several close together may be reported once. Null for none.
+    virtual void setChangeHandler(std::function<void()> changed) = 0;
+    // Runs once, when the connection to the desktop is gone for good. Null for none.
+    virtual void setLostHandler(std::function<void()> lost) = 0;
+
+    // The formats of the current content. Formats that belong to the transfer protocol and not to
+    // the content (TARGETS, TIMESTAMP, SAVE_TARGETS and their like) are not among them.
+    virtual void readFormats(FormatsHandler handler) = 0;
+
+    // The bytes of `formats`, one after the other, as long as the clipboard still holds the content
+    // that had the count `of`. A format that would bring the sum above `limit` bytes is left out,
+    // without more than `limit` bytes ever being kept.
+    virtual void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+                      ReadHandler handler) = 0;
+
+    // Replaces the content. With `onlyOver`, only if the clipboard still holds the content that had
+    // that count; else the status is `changed` and nothing is written. On Wayland a copy that
+    // reaches the compositor together with the write may still lose against it; on X11 it does not.
+    virtual void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
+                       WriteHandler handler) = 0;
+
+    // For the user's eyes: one English line on what this is ("X11, XFixes 5.0"), and one line for
+    // each thing that it cannot do.
+    virtual std::string description() const = 0;
+    virtual std::vector<std::string> limitations() const = 0;
+};
+
+} // namespace nerlo::platform

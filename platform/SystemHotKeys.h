@@ -1,0 +1,30 @@
+// The key combinations that the desktop has reserved for itself.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace nerlo::platform {
+
+// Masks of the hot-key service, in SystemHotKey and HotKeyRequest.
+inline constexpr std::uint32_t hotKeyCommand = 0x100;
+inline constexpr std::uint32_t hotKeyShift = 0x200;
+inline constexpr std::uint32_t hotKeyOption = 0x800;
+inline constexpr std::uint32_t hotKeyControl = 0x1000;
+
+struct SystemHotKey {
+    std::uint32_t code = 0;      // virtual key code
+    std::uint32_t modifiers = 0; // masks above
+    bool operator==(const SystemHotKey &) const = default;
+};
+
+class SystemHotKeys {
+  public:
+    virtual ~SystemHotKeys() = default;
+
+    // As they are now, whether switched on or not; empty where the desktop does not tell. Main
+    // thread; may take up to a second. Never fails.
+    virtual std::vector<SystemHotKey> symbolicHotKeys() = 0;
+};
+
+} // namespace nerlo::platform

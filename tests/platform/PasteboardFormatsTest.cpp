@@ -1,0 +1,100 @@
+#include "platform/PasteboardFormats.h"
+#include "platform/SpreadsheetLinks.h"
+
+#include <gtest/gtest.h>
+
+namespace nerlo::platform {
+namespace {
+
+TEST(PasteboardFormats, DecideByNameAlone) {
+    const struct {
+        const char *name;
+        std::vector<std::string> formats;
+        const char *text; // null: no plain text
+        bool url;
+        bool secret;
+    } rows[] = {
+        {"nothing", {}, nullptr, false, false},
+        {"terminal", {"STRING", "UTF8_STRING"}, "UTF8_STRING", false, false},
+        {"editor",
+         {"text/html", "TEXT", "text/plain", "text/plain;charset=utf-8"},
+         "text/plain;charset=utf-8",
+         false,
+         false},
+        {"letter case",
+         {"STRING", "Text/Plain;Charset=UTF-8"},
+         "Text/Plain;Charset=UTF-8",
+         false,
+         false},
+        {"another encoding is not read as UTF-8",
+         {"text/plain;charset=utf-16"},
+         nullptr,
+         false,
+         false},
+        {"image", {"image/png", "text/html"}, nullptr, false, false},
+        {"Firefox, ordinary text",
+         {"text/html", "text/x-moz-url-priv", "UTF8_STRING"},
+         "UTF8_STRING",
+         false,
+         false},
+        {"Firefox, link", {"text/x-moz-url", "UTF8_STRING"}, "UTF8_STRING", true, false},
+        {"files", {"text/uri-list;charset=utf-8", "text/plain"}, "text/plain", true, false},
+        {"cut in Dolphin", {"application/x-kde-cutselection"}, nullptr, true, false},
+        {"cut in Files", {"x-special/gnome-copied-files"}, nullptr, true, false},
+        {"KeePassXC", {"text/plain", "x-kde-passwordManagerHint"}, "text/plain", false, true},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto *text = bestTextFormat(row.formats);
+        ASSERT_EQ(text != nullptr, row.text != nullptr);
+        if (text) {
+            EXPECT_EQ(*text, row.text);
+        }
+        EXPECT_EQ(offersUrl(row.formats), row.url);
+        EXPECT_EQ(marksSecret(row.formats), row.secret);
+    }
+}
+
+TEST(PasteboardFormats, DecodeByTheFormatsEncoding) {
+    const auto decoded = [](std::string format, std::string bytes) {
+        return decodeText({std::move(format), {}, std::make_shared<const std::string>(bytes)});
+    };
+    EXPECT_EQ(decoded("UTF8_STRING", "\xc3\xa9\xf0\x9f\x99\x82"), u"é🙂");
+    EXPECT_EQ(decoded("STRING", "\xe9"), u"é");
+    EXPECT_EQ(decoded("text/plain", "caf\xe9"), std::nullopt);
+    EXPECT_EQ(decoded("text/plain", ""), u"");
+}
+
+TEST(PasteboardFormats, OurTextIsOfferedAsPlainTextOnly) {
+    const auto formats = [](const PasteboardContent &content) {
+        std::vector<std::string> names;
+        for (const auto &data : content) {
+            EXPECT_EQ(decodeText(data), decodeText(content.front())) << data.format;
+            names.push_back(data.format);
+        }
+        return names;
+    };
+    const std::vector<std::string> other{"text/plain;charset=utf-8", "UTF8_STRING", "text/plain",
+                                         "TEXT"};
+    EXPECT_EQ(formats(plainTextContent("\xc3\xa9")), other);
+    // STRING is Latin-1 and is offered only where that makes no difference.
+    const std::vector<std::string> ascii{"text/plain;charset=utf-8", "UTF8_STRING", "text/plain",
+                                         "STRING", "TEXT"};
+    EXPECT_EQ(formats(plainTextContent("e")), ascii);
+}
+
+TEST(SpreadsheetLinks, MapWindowsAndFormats) {
+    EXPECT_EQ(spreadsheetOfWindow("EXCEL.EXE"), "com.microsoft.Excel");
+    EXPECT_EQ(spreadsheetOfWindow("libreoffice-calc"), "org.libreoffice.Calc");
+    EXPECT_EQ(spreadsheetOfWindow("libreoffice-writer"), "");
+    EXPECT_EQ(spreadsheetOfWindow(""), "");
+    EXPECT_TRUE(offersLink({"UTF8_STRING", "Link"}, "com.microsoft.Link"));
+    EXPECT_FALSE(offersLink({"UTF8_STRING", "HTML Format"}, "com.microsoft.Link"));
+    const std::vector<std::string> calc{
+        R"(application/x-openoffice-link;windows_formatname="Link")"};
+    EXPECT_TRUE(offersLink(calc, "org.libreoffice.Link"));
+    EXPECT_FALSE(offersLink(calc, "com.microsoft.Link"));
+}
+
+} // namespace
+} // namespace nerlo::platform
