@@ -1,0 +1,42 @@
+// The user's own replacements: fixed pairs, patterns and the list of find-and-replace rules.
+//
+// Texts are UTF-16. Every function is pure, may run on any thread and never fails: a pattern that
+// does not compile, or that runs out of its budget, leaves the text as it was, except where a rule
+// keeps only its matches and has no expression to find them with.
+#pragma once
+
+#include "engine/CleaningOptions.h"
+#include "text/Regex.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace nerlo::engine {
+
+// Literal, letter case counts; an empty `find` changes nothing.
+std::u16string replaceString(std::u16string text, std::u16string_view find,
+                             std::u16string_view replace);
+
+// Mode 1 keeps only the matches of the pattern, one a line; any other mode removes them. Letter
+// case counts.
+std::u16string insertYourPattern(std::u16string text, std::u16string_view pattern,
+                                 std::int64_t mode);
+
+// Applies the active list of rules, in order.
+std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options);
+
+// One rule whose replacement begins with "{search}" or "{delete}".
+std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16string_view replacement,
+                                               std::u16string_view pattern);
+
+// Text, match, text, ..., text. A text that holds the marker "%%%%%%SPLIT-ME%%%%%%" is split there
+// too, which puts the turns out by one from there on.
+std::vector<std::u16string> splitByMatchesInString(std::u16string_view text,
+                                                   std::span<const text::Range> matches);
+// Whether the marker may play a part in splitting this text.
+bool holdsSplitMarker(std::u16string_view text);
+
+} // namespace nerlo::engine

@@ -1,0 +1,311 @@
+#include "engine/Operations.h"
+
+#include "engine/CaseConversion.h"
+#include "engine/FindReplace.h"
+#include "engine/LineJoining.h"
+#include "engine/Markup.h"
+#include "engine/Quotes.h"
+#include "engine/Sorting.h"
+#include "engine/Whitespace.h"
+
+#include <charconv>
+#include <utility>
+
+namespace nerlo::engine {
+
+namespace {
+
+using Context = CleaningContext;
+using Options = CleaningOptions;
+
+// Case mapping follows the locale from generation 108 on.
+std::string caseLocale(const Context &context) {
+    return (context.actualVersion & ~std::int64_t{1}) == 108 ? context.locale : std::string();
+}
+
+template <std::u16string (*run)(std::u16string)>
+std::u16string plain(std::u16string text, const Context &) {
+    return run(std::move(text));
+}
+
+template <std::size_t slot>
+std::u16string replaceSlot(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return replaceString(std::move(text),
+                         options.udChangePropertyChangeTextField[slot - 1].stringValue(),
+                         options.udChangePropertyToTextField[slot - 1].stringValue());
+}
+
+std::u16string changeReturns(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return removeSingleOrMultipleReturns(
+        std::move(text), static_cast<std::int32_t>(options.udChangeReturnsOption),
+        options.udChangeReturnsCustom1.stringValue(), options.udChangeReturnsCustom2.stringValue());
+}
+
+std::u16string changeCase(std::u16string text, const Context &context) {
+    const std::string locale = caseLocale(context);
+    switch (context.options.udChangeCaseOption) {
+    case 1:
+        return changeToCapitalized(std::move(text), locale);
+    case 2:
+        return changeToLowercase(std::move(text), locale);
+    case 3:
+        return changeToUppercase(std::move(text), locale);
+    default:
+        return changeToCapitalizedFirstWordOfSentence(std::move(text), locale);
+    }
+}
+
+std::u16string changeQuotes(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    const auto convert = options.udChangeQuotesOption == 1 ? replaceDoubleQuotesToSingleQuotes
+                                                           : replaceSingleQuotesToDoubleQuotes;
+    return convert(std::move(text), options.udChangeQuotesSingleOption,
+                   options.udChangeQuotesDoubleOption, options.udChangeQuotesAll);
+}
+
+std::u16string removeSingles(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return removeSingleQuotes(std::move(text), options.udRemoveSingleQuotesAll,
+                              options.udChangeQuotesSingleOption);
+}
+
+std::u16string removeDoubles(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return removeDoubleQuotes(std::move(text), options.udRemoveDoubleQuotesAll,
+                              options.udChangeQuotesDoubleOption);
+}
+
+std::u16string removeTags(std::u16string text, const Context &context) {
+    return removeHTMLTags(std::move(text), context.options.udRemoveHTMLTagsJS);
+}
+
+std::u16string applyPattern(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return insertYourPattern(std::move(text), options.udInsertYourPatternTextField.stringValue(),
+                             options.udInsertYourPatternOption == 1 ? 1 : 0);
+}
+
+std::u16string changeTabs(std::u16string text, const Context &context) {
+    return context.options.udChangeTabsAnd4SpacesOption == 1 ? changeSpacesToTabs(std::move(text))
+                                                             : changeTabsToSpaces(std::move(text));
+}
+
+std::u16string changeEllipsis(std::u16string text, const Context &context) {
+    return context.options.udChangeEllipsisAndDotsOption == 1
+               ? changeEllipsisTo3Dots(std::move(text))
+               : change3DotsToEllipsis(std::move(text));
+}
+
+std::u16string sort(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return sortLines(std::move(text), options.udSortOption, options.udSortSeparator,
+                     options.udSortCustomSeparatorTextField.stringValue(), context.locale);
+}
+
+std::u16string removeRepeatedLines(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    return sortLines(std::move(text), removeDuplicatesOption,
+                     options.udRemoveDuplicateLinesSeparator,
+                     options.udDuplicatesCustomSeparatorTextField.stringValue(), context.locale);
+}
+
+std::u16string unchanged(std::u16string text, const Context &) {
+    return text;
+}
+
+std::u16string joinLines(std::u16string text, const Context &context) {
+    return changeWrongInsertedReturnsTo(
+        std::move(text),
+        static_cast<std::int32_t>(context.options.udChangeWrongInsertedReturnsOption));
+}
+
+std::u16string removeDashes(std::u16string text, const Context &context) {
+    return context.options.udRemoveHyphensAll ? removeAllHyphensDashesMinusSign(std::move(text))
+                                              : removeHyphens(std::move(text));
+}
+
+std::u16string prefix(std::u16string text, const Context &context) {
+    return addPrefix(std::move(text), context.options.udPrefixTextField.stringValue());
+}
+
+std::u16string suffix(std::u16string text, const Context &context) {
+    return addSuffix(std::move(text), context.options.udSuffixTextField.stringValue());
+}
+
+std::u16string findReplaceList(std::u16string text, const Context &context) {
+    return replaceStringInFindReplace(std::move(text), context.options);
+}
+
+// The replacement slots 1 to 3 and 4 to 10 stand apart for historical reasons.
+constexpr Operation table[] = {
+    {0, "collapse-tabs", "sChangeMultipleTabsToSingleTab", "runs of tabs to one tab",
+     plain<removeMultipleTabs>},
+    {1, "remove-all-spaces", "sRemoveAllSpaces", "remove all white space and line breaks",
+     plain<removeAllSpaces>},
+    {2, "remove-tabs", "sRemoveAllTabs", "remove all tabs", plain<removeMultipleTabsToNone>},
+    {3, "collapse-white-space", "sRemoveAllSpacesTabsAndNewLines",
+     "every run of white space, line breaks included, to one space",
+     plain<removeMultipleSpacesTabsNewLines>},
+    {4, "change-returns", "sChangeReturnsTo", "replace runs of line breaks, or wrap every line",
+     changeReturns},
+    {5, "trim", "sRemoveSpacesBeforeAndAfterText", "trim white space at both ends of the text",
+     plain<removeSpacesStartAndEnd>},
+    {6, "change-case", "sChangeCaseTo", "change letter case", changeCase},
+    {7, "change-quotes", "sChangeQuotes", "single quotes to double quotes, or back", changeQuotes},
+    {8, "remove-single-quotes", "sRemoveSingleQuotes", "remove single quotes", removeSingles},
+    {9, "remove-double-quotes", "sRemoveDoubleQuotes", "remove double quotes", removeDoubles},
+    {10, "remove-reply-marks", "sRemoveReplyQuotes", "remove the > marks of mail replies",
+     plain<removeReplyQuotes>},
+    {11, "remove-tags", "sRemoveHTMLTags", "remove HTML tags", removeTags},
+    {12, "your-pattern", "sInsertYourPattern", "delete or keep the matches of your pattern",
+     applyPattern},
+    {13, "replace-1", "sChangeProperty1", "find and replace, pair 1", replaceSlot<1>},
+    {14, "replace-2", "sChangeProperty2", "find and replace, pair 2", replaceSlot<2>},
+    {15, "replace-3", "sChangeProperty3", "find and replace, pair 3", replaceSlot<3>},
+    {16, "collapse-spaces", "sChangeMultipleSpacesToSingleSpace", "runs of spaces to one space",
+     plain<removeMultipleSpaces>},
+    {17, "change-tabs", "sChangeTabsAnd4Spaces", "tabs to four spaces, or back", changeTabs},
+    {18, "remove-bullets", "sRemoveBullets", "remove list bullets", plain<removeBullets>},
+    {19, "remove-space-before-dot", "sRemoveSpaceBeforeDot", "remove a space before a dot",
+     plain<removeSpaceBeforeDot>},
+    {20, "remove-space-around-tab", "sRemoveSpaceBeforeAfterTab", "remove spaces next to tabs",
+     plain<removeSpaceBeforeAfterTab>},
+    {21, "remove-space-around-return", "sRemoveSpaceBeforeAfterReturn",
+     "remove spaces next to line breaks", plain<removeSpaceBeforeAfterReturn>},
+    {22, "change-ellipsis", "sChangeEllipsisAndDots", "three dots to an ellipsis, or back",
+     changeEllipsis},
+    {23, "sort-lines", "sSort", "sort lines or separated items", sort},
+    {24, "remove-duplicate-lines", "sRemoveDuplicateLines", "remove repeated lines or items",
+     removeRepeatedLines},
+    {25, "statistics", "sStatistics", "count characters, spaces, words and paragraphs", unchanged},
+    {26, "replace-4", "sChangeProperty4", "find and replace, pair 4", replaceSlot<4>},
+    {27, "replace-5", "sChangeProperty5", "find and replace, pair 5", replaceSlot<5>},
+    {28, "replace-6", "sChangeProperty6", "find and replace, pair 6", replaceSlot<6>},
+    {29, "replace-7", "sChangeProperty7", "find and replace, pair 7", replaceSlot<7>},
+    {30, "replace-8", "sChangeProperty8", "find and replace, pair 8", replaceSlot<8>},
+    {31, "replace-9", "sChangeProperty9", "find and replace, pair 9", replaceSlot<9>},
+    {32, "replace-10", "sChangeProperty10", "find and replace, pair 10", replaceSlot<10>},
+    {33, "join-lines", "sChangeWrongInsertedReturnsTo", "join lines broken inside sentences",
+     joinLines},
+    {34, "remove-hyphens", "sRemoveHyphens", "remove hyphens, or all dashes too", removeDashes},
+    {35, "add-prefix", "sAddPrefix", "put the prefix before the text", prefix},
+    {36, "add-suffix", "sAddSuffix", "put the suffix after the text", suffix},
+    {37, "find-replace-list", "sFindReplaceBool", "apply the find-and-replace list",
+     findReplaceList},
+};
+
+constexpr bool rowsStandAtTheirIndex() {
+    for (std::size_t at = 0; at < std::size(table); ++at) {
+        if (table[at].index != static_cast<std::int32_t>(at)) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(rowsStandAtTheirIndex());
+
+struct Step {
+    bool (*isOn)(const Options &options);
+    std::int32_t operation;
+};
+
+template <bool Options::*field>
+bool on(const Options &options) {
+    return options.*field;
+}
+
+template <std::size_t slot>
+bool slotOn(const Options &options) {
+    return options.udChangeProperty[slot - 1];
+}
+
+bool spacesBecomeTabs(const Options &options) {
+    return options.udChangeTabsAnd4SpacesOption == 1;
+}
+
+constexpr Step pipeline[] = {
+    {on<&Options::udChangeMultipleTabsToSingleTab>, 0},
+    {on<&Options::udRemoveAllSpaces>, 1},
+    {on<&Options::udRemoveAllTabs>, 2},
+    {on<&Options::udRemoveSpacesTabsAndNewLines>, 3},
+    {[](const Options &o) { return o.udRemoveHyphensAll || o.udRemoveHyphens; }, 34},
+    {on<&Options::udRemoveSpacesBeforeAndAfterText>, 5},
+    {on<&Options::udRemoveBullets>, 18},
+    {on<&Options::udChangeWrongInsertedReturnsTo>, 33},
+    {on<&Options::udChangeCaseTo>, 6},
+    {on<&Options::udChangeQuotes>, 7},
+    {on<&Options::udRemoveSingleQuotes>, 8},
+    {on<&Options::udRemoveDoubleQuotes>, 9},
+    {on<&Options::udRemoveReplyQuotes>, 10},
+    {on<&Options::udRemoveHTMLTags>, 11},
+    {on<&Options::udInsertYourPattern>, 12},
+    {on<&Options::udChangeEllipsisAndDots>, 22},
+    {slotOn<1>, 13},
+    {slotOn<2>, 14},
+    {slotOn<3>, 15},
+    {slotOn<4>, 26},
+    {slotOn<5>, 27},
+    {slotOn<6>, 28},
+    {slotOn<7>, 29},
+    {slotOn<8>, 30},
+    {slotOn<9>, 31},
+    {slotOn<10>, 32},
+    {on<&Options::udFindReplaceBool>, 37},
+    // Spaces are collapsed before tabs become four spaces, but only after runs of four spaces have
+    // become tabs.
+    {[](const Options &o) { return o.udChangeMultipleSpacesToSingleSpace && !spacesBecomeTabs(o); },
+     16},
+    {on<&Options::udChangeTabsAnd4Spaces>, 17},
+    {[](const Options &o) { return o.udChangeMultipleSpacesToSingleSpace && spacesBecomeTabs(o); },
+     16},
+    {on<&Options::udRemoveSpaceBeforeDot>, 19},
+    {on<&Options::udRemoveSpaceBeforeAfterTab>, 20},
+    {on<&Options::udRemoveSpaceBeforeAfterReturn>, 21},
+    {on<&Options::udChangeReturnsTo>, 4},
+    {on<&Options::udAddPrefix>, 35},
+    {on<&Options::udAddSuffix>, 36},
+    {on<&Options::udRemoveDuplicateLines>, 24},
+    {on<&Options::udSort>, 23},
+};
+
+} // namespace
+
+std::span<const Operation> operations() {
+    return table;
+}
+
+const Operation *findOperation(std::int32_t index) {
+    return index >= 0 && index < static_cast<std::int32_t>(std::size(table)) ? &table[index]
+                                                                             : nullptr;
+}
+
+const Operation *findOperation(std::string_view nameOrIndex) {
+    for (const Operation &operation : table) {
+        if (operation.name == nameOrIndex) {
+            return &operation;
+        }
+    }
+    std::int32_t index = 0;
+    const char *const end = nameOrIndex.data() + nameOrIndex.size();
+    const auto [stopped, error] = std::from_chars(nameOrIndex.data(), end, index);
+    return error == std::errc() && stopped == end ? findOperation(index) : nullptr;
+}
+
+std::u16string runOperation(std::int32_t index, std::u16string text,
+                            const CleaningContext &context) {
+    const Operation *const operation = findOperation(index);
+    return operation ? operation->run(std::move(text), context) : text;
+}
+
+std::u16string runPipeline(std::u16string text, const CleaningContext &context) {
+    for (const Step &step : pipeline) {
+        if (step.isOn(context.options)) {
+            text = runOperation(step.operation, std::move(text), context);
+        }
+    }
+    return text;
+}
+
+} // namespace nerlo::engine

@@ -1,0 +1,51 @@
+// What the engine can do to a text: the table of operations and the pipeline.
+//
+// Texts are UTF-16. Every function is pure and may run on any thread; none fails: at worst a text
+// comes back as it was given.
+#pragma once
+
+#include "engine/CleaningOptions.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace nerlo::engine {
+
+// What a clean needs besides the text. The options are only read.
+struct CleaningContext {
+    const CleaningOptions &options;
+    // An ICU locale id ("de_DE"); decides case mapping, segmentation and collation.
+    std::string locale;
+    // The generation of the operating system: 106, 107, 108 or 109. From 108 on, case mapping
+    // follows the locale; before, it is locale-free.
+    std::int64_t actualVersion = 109;
+};
+
+struct Operation {
+    std::int32_t index;
+    std::string_view name;    // for the command line: "sort-lines"
+    std::string_view hotKey;  // settings key of the global shortcut, also the key of its title
+    std::string_view summary; // one English line for listings
+    std::u16string (*run)(std::u16string text, const CleaningContext &context);
+};
+
+// Rows 0 to 37, each at its index. The row of the statistics operation returns its text unchanged.
+std::span<const Operation> operations();
+
+inline constexpr std::int32_t statisticsOperation = 25;
+
+// Null for an index outside the table.
+const Operation *findOperation(std::int32_t index);
+// By name, or by index in decimal digits; null for anything else.
+const Operation *findOperation(std::string_view nameOrIndex);
+
+// One operation, whether or not its switch is on; an index outside the table changes nothing.
+std::u16string runOperation(std::int32_t index, std::u16string text,
+                            const CleaningContext &context);
+
+// Every operation whose switch is on, in the fixed order.
+std::u16string runPipeline(std::u16string text, const CleaningContext &context);
+
+} // namespace nerlo::engine

@@ -1,0 +1,171 @@
+// The engine against its plain form: the same results on every short text over a tiny alphabet, and
+// on long runs of random texts. NERLO_EQUIVALENCE_SECONDS sets how long each random comparison
+// takes; the texts it begins with are always the same.
+#include "engine/Operations.h"
+#include "engine/Statistics.h"
+#include "tests/reference/PlainEngine.h"
+#include "tests/reference/RandomText.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+
+namespace nerlo {
+namespace {
+
+using engine::CleaningContext;
+using engine::CleaningOptions;
+using reference::escaped;
+using reference::Random;
+
+std::chrono::milliseconds timeForOne() {
+    const char *const seconds = std::getenv("NERLO_EQUIVALENCE_SECONDS");
+    return std::chrono::milliseconds(seconds ? static_cast<long>(std::atof(seconds) * 1000) : 4000);
+}
+
+// Runs until the time is over or a comparison fails, and at least 200 times.
+void repeat(std::uint64_t seed, const std::function<void(Random &)> &compare) {
+    Random random(seed);
+    const auto end = std::chrono::steady_clock::now() + timeForOne();
+    std::size_t rounds = 0;
+    while (!testing::Test::HasFailure() &&
+           (rounds < 200 || std::chrono::steady_clock::now() < end)) {
+        compare(random);
+        ++rounds;
+    }
+    testing::Test::RecordProperty("rounds", static_cast<int>(rounds));
+}
+
+void compareOperation(std::int32_t index, const std::u16string &text,
+                      const CleaningContext &context) {
+    const std::u16string expected = reference::runOperation(index, text, context);
+    const std::u16string actual = engine::runOperation(index, text, context);
+    ASSERT_EQ(escaped(actual), escaped(expected))
+        << "operation " << index << " on \"" << escaped(text) << "\", locale " << context.locale;
+}
+
+void compareOperations(std::initializer_list<std::int32_t> indices, reference::Tokens tokens,
+                       std::uint64_t seed) {
+    repeat(seed, [&](Random &random) {
+        const CleaningOptions options = random.options();
+        const CleaningContext context{options, random.locale(), random.oneIn(4) ? 107 : 109};
+        const std::u16string text = random.text(tokens);
+        for (const std::int32_t index : indices) {
+            compareOperation(index, text, context);
+        }
+    });
+}
+
+TEST(ShortTexts, GiveTheSameThroughEveryWhiteSpaceRule) {
+    constexpr std::u16string_view alphabet = u" \u00A0\t\r\na";
+    constexpr std::size_t longest = 5;
+    std::vector<std::u16string> texts{u""};
+    for (std::size_t begin = 0, length = 0; length < longest; ++length) {
+        const std::size_t end = texts.size();
+        for (; begin < end; ++begin) {
+            for (const char16_t unit : alphabet) {
+                texts.push_back(texts[begin] + unit);
+            }
+        }
+    }
+    std::vector<CleaningOptions> settings(3);
+    settings[0].udChangeReturnsOption = 2;
+    settings[1].udChangeTabsAnd4SpacesOption = 1;
+    settings[1].udChangeReturnsOption = 7;
+    settings[1].udChangeWrongInsertedReturnsOption = 1;
+    settings[2].udChangeReturnsOption = 6;
+    settings[2].udChangeReturnsCustom1 = u"$0";
+    for (const CleaningOptions &options : settings) {
+        const CleaningContext context{options, "en_US"};
+        for (const std::u16string &text : texts) {
+            for (const std::int32_t index : {0, 1, 2, 3, 4, 5, 16, 17, 20, 21, 33}) {
+                ASSERT_NO_FATAL_FAILURE(compareOperation(index, text, context));
+            }
+        }
+    }
+}
+
+TEST(EveryUnit, HasItsCaseChangedLikeICU) {
+    CleaningOptions options;
+    int failures = 0;
+    for (const char *locale : {"en_US", "de_DE"}) {
+        for (std::uint32_t code = 0; code <= 0xFFFF && failures < 10; ++code) {
+            const auto unit = static_cast<char16_t>(code);
+            std::u16string text;
+            for (const std::u16string_view context :
+                 {u"?", u"a?b", u"A?B", u"1?", u"?a", u"a.?", u"a'?a", u"\u03A3?", u"?\u03A3",
+                  u"\u00DF?\u0301", u"(?)", u"\u65E5?"}) {
+                for (const char16_t part : context) {
+                    text.push_back(part == u'?' ? unit : part);
+                }
+                text.append(u" ");
+            }
+            text.append(text.size() % 64, u'-');
+            for (options.udChangeCaseOption = 1; options.udChangeCaseOption <= 3;
+                 ++options.udChangeCaseOption) {
+                const CleaningContext context{options, locale};
+                const std::u16string expected = reference::runOperation(6, text, context);
+                const std::u16string actual = engine::runOperation(6, text, context);
+                EXPECT_EQ(escaped(actual), escaped(expected)) << options.udChangeCaseOption;
+                failures += actual != expected ? 1 : 0;
+            }
+        }
+    }
+}
+
+TEST(RandomTexts, GiveTheSameThroughTheWhiteSpaceRules) {
+    compareOperations({0, 1, 2, 3, 4, 5, 16, 17, 18, 19, 20, 21, 22, 34, 35, 36},
+                      reference::plainTokens(), 1);
+}
+
+TEST(RandomTexts, GiveTheSameThroughLineJoining) {
+    compareOperations({33}, reference::plainTokens(), 2);
+}
+
+TEST(RandomTexts, GiveTheSameThroughSortingAndReplacing) {
+    compareOperations({13, 14, 15, 23, 24, 26, 27, 28, 29, 30, 31, 32}, reference::plainTokens(),
+                      3);
+}
+
+TEST(RandomTexts, GiveTheSameThroughCaseConversion) {
+    compareOperations({6}, reference::plainTokens(), 4);
+}
+
+TEST(RandomTexts, GiveTheSameThroughTheQuoteRules) {
+    compareOperations({7, 8, 9}, reference::quoteTokens(), 5);
+}
+
+TEST(RandomTexts, GiveTheSameThroughTagRemoval) {
+    compareOperations({10, 11}, reference::tagTokens(), 6);
+}
+
+TEST(RandomTexts, HaveTheSameCounts) {
+    repeat(7, [](Random &random) {
+        const std::u16string text = random.text(reference::plainTokens());
+        const std::string locale = random.locale();
+        const reference::Counts expected = reference::count(text, locale);
+        const engine::TextStatistics actual = engine::countAll(text, locale);
+        const engine::TextStatistics same{expected.characters, expected.spaces, expected.words,
+                                          expected.paragraphs};
+        ASSERT_TRUE(actual == same)
+            << escaped(text) << ": words " << actual.words << " for " << same.words
+            << ", paragraphs " << actual.paragraphs << " for " << same.paragraphs;
+    });
+}
+
+TEST(RandomTexts, GiveTheSameThroughThePipeline) {
+    repeat(8, [](Random &random) {
+        const CleaningOptions options = random.options();
+        const CleaningContext context{options, random.locale()};
+        const std::u16string text =
+            random.text(random.oneIn(3) ? reference::quoteTokens() : reference::plainTokens());
+        const std::u16string expected = reference::runPipeline(text, context);
+        const std::u16string actual = engine::runPipeline(text, context);
+        ASSERT_EQ(escaped(actual), escaped(expected)) << escaped(text);
+    });
+}
+
+} // namespace
+} // namespace nerlo

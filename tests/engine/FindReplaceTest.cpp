@@ -1,0 +1,101 @@
+#include "engine/FindReplace.h"
+#include "tests/engine/Rows.h"
+
+namespace nerlo::engine {
+namespace {
+
+using platform::PropertyArray;
+using platform::PropertyDictionary;
+using platform::PropertyValue;
+
+PropertyValue rule(const char16_t *find, const char16_t *replace) {
+    return PropertyDictionary{{"checkbox", true}, {"find", find}, {"replace", replace}};
+}
+
+std::u16string apply(PropertyArray rules, const std::u16string &text) {
+    CleaningOptions options;
+    options.udFindAndReplaceItemsProfile = PropertyValue(std::move(rules));
+    return replaceStringInFindReplace(text, options);
+}
+
+TEST(FindReplace, AppliesARule) {
+    struct Case {
+        const char *shows;
+        const char16_t *find;
+        const char16_t *replace;
+        std::u16string text;
+        std::u16string expected;
+    };
+    const Case cases[] = {
+        {"literal, letter case counts", u"colour", u"color", u"Colour colour", u"Colour color"},
+        {"not a pattern without a token", u".", u"x", u"a.b", u"axb"},
+        {"a token later on is plain text", u"a", u"x{delete}", u"ab", u"x{delete}b"},
+        {"an empty find occurs nowhere", u"", u"x", u"ab", u"ab"},
+        {"matches with a separator, after the last too", u"[0-9]+", u"{search}, ", u"a1b22c",
+         u"1, 22, "},
+        {"a line each", u"[0-9]+", u"{search}", u"a1b22c", u"1\n22\n"},
+        {"no match leaves the text", u"[0-9]+", u"{search}", u"abc", u"abc"},
+        {"unless told not to look first", u"[0-9]+", u"!{search}", u"abc", u""},
+        {"groups in the template", u"(\\w+)=(\\w+)", u"{delete}$2 is $1", u"key=value",
+         u"value is key"},
+        {"the end of the text, not of every line", u" +$", u"{delete}", u"a \nb \n", u"a \nb\n"},
+        {"letter case counts in patterns", u"A", u"{delete}", u"aA", u"a"},
+        {"a pattern that does not compile is skipped", u"(", u"{delete}x", u"(a", u"(a"},
+        {"in search mode too", u"(", u"{search}", u"(a", u"(a"},
+        {"but untested it finds nothing", u"(", u"!{search}", u"(a", u""},
+        {"a group that is not there", u"a", u"{delete}$1", u"a", u"a"},
+        {"an escape in the template", u"a", u"{delete}\\$1\\\\", u"a", u"$1\\"},
+        {"the empty text can match", u"x*", u"{search}-", u"", u"-"},
+    };
+    for (const Case &row : cases) {
+        EXPECT_EQ(reference::escaped(apply({rule(row.find, row.replace)}, row.text)),
+                  reference::escaped(row.expected))
+            << row.shows;
+    }
+}
+
+TEST(FindReplace, WalksTheListInOrder) {
+    EXPECT_EQ(apply({rule(u"a", u"b"), rule(u"b", u"c")}, u"a"), u"c");
+    EXPECT_EQ(apply({rule(u"b", u"c"), rule(u"a", u"b")}, u"a"), u"b");
+    EXPECT_EQ(apply({rule(u"(", u"{delete}"), rule(u"a", u"b")}, u"a("), u"b(");
+    EXPECT_EQ(apply({PropertyDictionary{{"checkbox", false}, {"find", u"a"}, {"replace", u"b"}},
+                     PropertyDictionary{{"find", u"a"}, {"replace", u"b"}}, u"no rule", 7},
+                    u"a"),
+              u"a");
+    CleaningOptions options;
+    options.udFindAndReplaceItems = PropertyValue(PropertyArray{rule(u"a", u"shared")});
+    options.udFindAndReplaceItemsProfile = PropertyValue(PropertyArray{rule(u"a", u"own")});
+    EXPECT_EQ(replaceStringInFindReplace(u"a", options), u"own");
+    options.udOnlyOneProfile = true;
+    EXPECT_EQ(replaceStringInFindReplace(u"a", options), u"shared");
+    options.udFindAndReplaceItems = PropertyValue(u"not a list");
+    EXPECT_EQ(replaceStringInFindReplace(u"a", options), u"a");
+}
+
+TEST(CustomPattern, DeletesOrKeepsMatches) {
+    EXPECT_EQ(insertYourPattern(u"a1b22c", u"[0-9]+", 0), u"abc");
+    EXPECT_EQ(insertYourPattern(u"a1b22c", u"[0-9]+", 1), u"1\n22\n");
+    EXPECT_EQ(insertYourPattern(u"a1b22c", u"[0-9]+", 2), u"abc");
+    EXPECT_EQ(insertYourPattern(u"abc", u"[0-9]+", 1), u"");
+    EXPECT_EQ(insertYourPattern(u"abc", u"(", 1), u"");
+    EXPECT_EQ(insertYourPattern(u"abc", u"(", 0), u"abc");
+    EXPECT_EQ(insertYourPattern(u"abc", u"", 0), u"abc");
+    EXPECT_EQ(insertYourPattern(u"a\nB", u"^.$", 0), u"a\nB") << "anchors are those of the text";
+}
+
+// A user's pattern may be as bad as it likes: the text comes back as it was.
+TEST(CustomPattern, CannotHangOrCrash) {
+    const std::u16string letters = std::u16string(40, u'a') + u'!';
+    EXPECT_EQ(insertYourPattern(letters, u"(a+)+$", 0), letters);
+    EXPECT_EQ(insertYourPattern(letters, u"(a+)+$", 1), letters);
+    EXPECT_EQ(apply({rule(u"(a+)+$", u"{delete}"), rule(u"!", u"?")}, letters),
+              std::u16string(40, u'a') + u'?');
+    const std::u16string longer(100'000, u'b');
+    EXPECT_EQ(insertYourPattern(longer, u"(?:.|\n)*x", 0), longer);
+    EXPECT_EQ(insertYourPattern(longer, u"[^x]*+y", 0), longer) << "scans far, saves no states";
+    const std::u16string sound(900'000, u'b');
+    EXPECT_EQ(insertYourPattern(sound, u"(?:b|c)*", 0), u"") << "deep, but sound";
+}
+
+} // namespace
+} // namespace nerlo::engine

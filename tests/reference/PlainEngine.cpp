@@ -1,0 +1,630 @@
+#include "tests/reference/PlainEngine.h"
+
+#include "engine/FindReplace.h"
+#include "engine/QuoteStyles.h"
+#include "engine/ReplacementRules.h"
+
+#include <unicode/ubrk.h>
+#include <unicode/ucol.h>
+#include <unicode/uregex.h>
+#include <unicode/ustring.h>
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <vector>
+
+namespace nerlo::reference {
+
+namespace {
+
+using String = std::u16string;
+
+String replaced(String text, std::u16string_view find, std::u16string_view replacement) {
+    String result;
+    std::size_t at = 0;
+    while (!find.empty()) {
+        const std::size_t hit = text.find(find, at);
+        if (hit == String::npos) {
+            break;
+        }
+        result.append(text, at, hit - at).append(replacement);
+        at = hit + find.size();
+    }
+    return result.append(text, at);
+}
+
+String replacedInOrder(String text, const text::ReplacementTable &table) {
+    for (const text::Replacement &row : table.rows()) {
+        text = replaced(text, row.find, row.replace);
+    }
+    return text;
+}
+
+class Pattern {
+  public:
+    Pattern(const String &pattern, std::uint32_t flags) {
+        expression_ = uregex_open(pattern.data(), static_cast<std::int32_t>(pattern.size()), flags,
+                                  nullptr, &status_);
+        check();
+    }
+    ~Pattern() { uregex_close(expression_); }
+    Pattern(const Pattern &) = delete;
+    Pattern &operator=(const Pattern &) = delete;
+
+    String replaceAll(const String &text, const String &replacement) {
+        setText(text);
+        String result(text.size() * (replacement.size() + 2) + replacement.size() + 8, u'\0');
+        const auto size = uregex_replaceAll(
+            expression_, replacement.data(), static_cast<std::int32_t>(replacement.size()),
+            result.data(), static_cast<std::int32_t>(result.size()), &status_);
+        check();
+        result.resize(static_cast<std::size_t>(size));
+        return result;
+    }
+
+    std::vector<text::Range> findAll(const String &text) {
+        setText(text);
+        std::vector<text::Range> ranges;
+        while (uregex_findNext(expression_, &status_)) {
+            ranges.push_back({static_cast<std::size_t>(uregex_start(expression_, 0, &status_)),
+                              static_cast<std::size_t>(uregex_end(expression_, 0, &status_))});
+        }
+        check();
+        return ranges;
+    }
+
+  private:
+    void setText(const String &text) {
+        uregex_setText(expression_, text.data(), static_cast<std::int32_t>(text.size()), &status_);
+        check();
+    }
+    void check() const {
+        if (U_FAILURE(status_)) {
+            throw std::runtime_error(u_errorName(status_));
+        }
+    }
+
+    URegularExpression *expression_ = nullptr;
+    UErrorCode status_ = U_ZERO_ERROR;
+};
+
+String replacedPattern(const String &text, const String &pattern, const String &replacement,
+                       std::uint32_t flags = 0) {
+    return Pattern(pattern, flags).replaceAll(text, replacement);
+}
+
+const String whiteSpace = u"[\\p{Z}\\u0009-\\u000D\\u0085]";
+
+String allBreaks(const String &text) {
+    return replaced(replaced(text, u"\r\n", u"\n"), u"\r", u"\n");
+}
+
+String wrapped(const String &text, const String &prefix, const String &suffix) {
+    String result = prefix;
+    for (const char16_t unit : allBreaks(text)) {
+        if (unit == u'\n') {
+            result.append(suffix).append(u"\n").append(prefix);
+        } else {
+            result.push_back(unit);
+        }
+    }
+    return result.append(suffix);
+}
+
+String returns(const String &text, const engine::CleaningOptions &options) {
+    const String custom1 = options.udChangeReturnsCustom1.stringValue();
+    switch (options.udChangeReturnsOption) {
+    case 7:
+        return wrapped(text, u"<p>", u"</p>");
+    case 8:
+        return wrapped(text, u"[img]", u"[/img]");
+    case 9:
+        return wrapped(text, custom1, options.udChangeReturnsCustom2.stringValue());
+    case 1:
+        return replacedPattern(allBreaks(text), u"[\n]+", u"\n");
+    case 2:
+        return replacedPattern(allBreaks(text), u"[\n]+", u"\n\n");
+    case 3:
+        return replacedPattern(allBreaks(text), u"[\n]+", u" ");
+    case 4:
+        return replacedPattern(allBreaks(text), u"[\n]+", u"\n ");
+    case 5:
+        return replacedPattern(allBreaks(text), u"[\n]+", u"\n\t");
+    case 6:
+        return replacedPattern(allBreaks(text), u"[\n]+", u"\n" + custom1);
+    default:
+        return replacedPattern(allBreaks(text), u"[\n]+", u"");
+    }
+}
+
+template <class Map>
+String mapped(Map map, const String &text, const char *locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    String result(text.size() * 3 + 3, u'\0');
+    const auto size = map(result.data(), static_cast<std::int32_t>(result.size()), text.data(),
+                          static_cast<std::int32_t>(text.size()), locale, &status);
+    if (U_FAILURE(status)) {
+        throw std::runtime_error(u_errorName(status));
+    }
+    result.resize(static_cast<std::size_t>(size));
+    return result;
+}
+
+String upper(const String &text, const char *locale) {
+    return mapped(u_strToUpper, text, locale);
+}
+
+String lower(const String &text, const char *locale) {
+    return mapped(u_strToLower, text, locale);
+}
+
+String title(const String &text, const char *locale) {
+    const auto map = [](char16_t *to, std::int32_t room, const char16_t *from, std::int32_t size,
+                        const char *id, UErrorCode *status) {
+        return u_strToTitle(to, room, from, size, nullptr, id, status);
+    };
+    return mapped(map, text, locale);
+}
+
+template <class Visit>
+void segments(UBreakIteratorType kind, const String &text, const char *locale, Visit visit) {
+    UErrorCode status = U_ZERO_ERROR;
+    UBreakIterator *iterator =
+        ubrk_open(kind, locale, text.data(), static_cast<std::int32_t>(text.size()), &status);
+    std::int32_t begin = ubrk_first(iterator);
+    for (std::int32_t end = ubrk_next(iterator); end != UBRK_DONE;
+         begin = end, end = ubrk_next(iterator)) {
+        visit(text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)),
+              ubrk_getRuleStatus(iterator));
+    }
+    ubrk_close(iterator);
+}
+
+String capitalizedFirst(const String &text, const char *locale) {
+    return text.empty() ? text : upper(text.substr(0, 1), locale) + text.substr(1);
+}
+
+std::vector<String> split(const String &text, std::u16string_view separator) {
+    std::vector<String> pieces;
+    std::size_t begin = 0;
+    for (;;) {
+        const std::size_t end = text.find(separator, begin);
+        pieces.push_back(text.substr(begin, end - begin));
+        if (end == String::npos) {
+            return pieces;
+        }
+        begin = end + separator.size();
+    }
+}
+
+std::optional<String> capitalizedSeparated(const String &sentence, const String &separator,
+                                           const char *locale) {
+    const std::vector<String> pieces = split(sentence, separator);
+    if (pieces.size() < 2 || pieces[1].empty()) {
+        return std::nullopt;
+    }
+    String result;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        result += (i > 0 ? separator : u"") + capitalizedFirst(pieces[i], locale);
+    }
+    return result;
+}
+
+String smartCapitalized(const String &text, const char *locale) {
+    String result;
+    segments(UBRK_SENTENCE, text, locale, [&](const String &sentence, std::int32_t) {
+        for (const char16_t *separator : {u"\u2026 ", u"... ", u". "}) {
+            if (const auto done = capitalizedSeparated(sentence, separator, locale)) {
+                result += *done;
+                return;
+            }
+        }
+        result += capitalizedFirst(sentence, locale);
+    });
+    return result;
+}
+
+void smartForAll(String &text, const String &leftFind, const String &rightFind,
+                 const String &leftReplace, const String &rightReplace) {
+    text = replacedPattern(
+        text, u"(^|\\s|&nbsp;|--|&[mn]dash;|&#8211;|&#8212;|&#x201[34];)" + leftFind + u"(?=\\w)",
+        u"$1" + leftReplace, UREGEX_CASE_INSENSITIVE);
+    text = replacedPattern(text, u"([^ \\t\\r\\n\\[\\{\\(\\-])?" + rightFind, u"$1" + rightReplace,
+                           UREGEX_CASE_INSENSITIVE);
+}
+
+template <class Find, class Replace, class All>
+String convertedQuotes(String text, const Find &findStyles, std::int64_t find,
+                       const Replace &replaceStyles, std::int64_t replace, const All &all,
+                       bool changeAll) {
+    if (find < 0 || replace < 0 || static_cast<std::size_t>(find) >= findStyles.size() ||
+        static_cast<std::size_t>(replace) >= replaceStyles.size()) {
+        return text;
+    }
+    const String leftFind(findStyles[static_cast<std::size_t>(find)].left);
+    const String rightFind(findStyles[static_cast<std::size_t>(find)].right);
+    const String left(replaceStyles[static_cast<std::size_t>(replace)].left);
+    const String right(replaceStyles[static_cast<std::size_t>(replace)].right);
+    if (changeAll) {
+        smartForAll(text, leftFind, rightFind, left, right);
+        for (const auto &style : all) {
+            smartForAll(text, String(style.left), String(style.right), left, right);
+        }
+        for (const auto &style : all) {
+            text = replaced(replaced(text, style.left, left), style.right, right);
+        }
+    }
+    text = smartQuotes(text, leftFind, rightFind, left, right);
+    return replaced(replaced(text, leftFind, left), rightFind, right);
+}
+
+template <class Styles>
+String removedQuotes(String text, const Styles &styles, bool all, std::int64_t option) {
+    if (!all) {
+        if (option < 0 || static_cast<std::size_t>(option) >= styles.size()) {
+            return text;
+        }
+        const auto &style = styles[static_cast<std::size_t>(option)];
+        return replaced(replaced(text, style.left, u""), style.right, u"");
+    }
+    for (const auto &style : styles) {
+        text = replaced(text, style.left, u"");
+    }
+    for (const auto &style : styles) {
+        text = replaced(text, style.right, u"");
+    }
+    return text;
+}
+
+String removedTags(const String &text, bool withScripts) {
+    String result;
+    if (!withScripts) {
+        for (std::size_t at = 0; at < text.size();) {
+            const std::size_t open = text.find(u'<', at);
+            result.append(text, at, open - at);
+            const std::size_t close = open == String::npos ? open : text.find(u'>', open);
+            at = close == String::npos ? text.size() : close + 1;
+        }
+        return result;
+    }
+    Pattern tags(u"(?s:<!--.*?-->)|<\\?.*\\?>|(?:<[/!$]?[-a-zA-Z0-9:]+\\b(?>[^\"'>]+|\"[^\"]*\"|'["
+                 u"^']*')*>)",
+                 UREGEX_CASE_INSENSITIVE);
+    const std::vector<text::Range> matches = tags.findAll(text);
+    bool inScript = false;
+    bool isText = true;
+    for (const String &piece : engine::splitByMatchesInString(text, matches)) {
+        if (isText && !piece.empty() && !inScript) {
+            result += piece;
+        } else if (lower(piece, "").find(u"<script") != String::npos) {
+            inScript = true;
+        } else if (lower(piece, "").find(u"</script") != String::npos) {
+            inScript = false;
+        }
+        isText = !isText;
+    }
+    return result;
+}
+
+bool isUpper(char16_t unit) {
+    const String text(1, unit);
+    return upper(text, "") == text && lower(text, "") != text;
+}
+
+bool isCaseless(char16_t unit) {
+    const String text(1, unit);
+    return upper(text, "") == text && lower(text, "") == text;
+}
+
+bool isMark(char16_t unit) {
+    return String(u".?!\u2026\u00B7\u3002\u22C5\u30FB\u1427\u2024_:").find(unit) != String::npos;
+}
+
+bool beginsSentence(const String &line) {
+    if (line.empty()) {
+        return false;
+    }
+    if (line.front() == u' ') {
+        return line.size() > 1 && beginsSentence(line.substr(1));
+    }
+    return isUpper(line.front());
+}
+
+bool endsSentence(const String &line, bool comma) {
+    if (line.empty()) {
+        return false;
+    }
+    const char16_t last = line.back();
+    if (last == u' ') {
+        return line.size() > 1 && endsSentence(line.substr(0, line.size() - 1), false);
+    }
+    if (isUpper(last)) {
+        return line.size() == 1 || line[line.size() - 2] != u' ';
+    }
+    if (isCaseless(last) && line.size() > 1 &&
+        endsSentence(line.substr(line.size() - 2, 1), false)) {
+        return true;
+    }
+    return isMark(last) || (comma && last == u',');
+}
+
+String joinedLines(const String &input, std::int32_t option) {
+    const String joiner = option == 1 ? u" " : u"";
+    const bool hasSpace = input.find(u' ') != String::npos;
+    String text = allBreaks(input);
+    if (text.size() < 2) {
+        return text;
+    }
+    for (int pass = 0; pass < 2; ++pass) {
+        String output, pendingText;
+        bool pending = false, open = false;
+        for (const String &line : split(text, u"\n")) {
+            if (line.empty()) {
+                continue;
+            }
+            if (!endsSentence(line, false)) {
+                if (open && beginsSentence(line)) {
+                    if (pending) {
+                        output += pendingText + joiner + line + u"\n";
+                        pendingText.clear();
+                        pending = open = false;
+                    } else {
+                        pendingText = line;
+                        pending = true;
+                        open = false;
+                    }
+                } else {
+                    pendingText = pending ? pendingText + joiner + line : line;
+                    open = pending = true;
+                }
+            } else if (pending) {
+                const bool apart =
+                    hasSpace && beginsSentence(line) && endsSentence(pendingText, true);
+                output += pendingText + (apart ? u"\n" : joiner) + line + u"\n";
+                pendingText.clear();
+                pending = false;
+            } else {
+                output += line + u"\n";
+            }
+        }
+        if (!pendingText.empty()) {
+            output += pendingText + u"\n";
+        }
+        text = output;
+    }
+    if (text.ends_with(u'\n')) {
+        text.pop_back();
+    }
+    return replacedPattern(text, u"([A-z])(- )", u"$1");
+}
+
+String sorted(String text, std::int64_t option, std::int64_t separatorIndex, const String &custom,
+              const std::string &locale) {
+    const std::vector<String> separators{u"\n", u".",  u". ", u",",  u", ",
+                                         u";",  u"; ", u"\t", custom};
+    if (separatorIndex < 0 || separatorIndex > 8) {
+        return text;
+    }
+    const String separator = separators[static_cast<std::size_t>(separatorIndex)];
+    if (separator.empty()) {
+        return text;
+    }
+    if (separatorIndex == 0) {
+        text = allBreaks(text);
+    }
+    std::vector<String> items = split(text, separator);
+    UErrorCode status = U_ZERO_ERROR;
+    UCollator *collator = ucol_open(locale.c_str(), &status);
+    if (option != 2 && option != 3) {
+        ucol_setStrength(collator, UCOL_SECONDARY);
+    }
+    const auto compare = [&](const String &a, const String &b) {
+        return ucol_strcoll(collator, a.data(), static_cast<std::int32_t>(a.size()), b.data(),
+                            static_cast<std::int32_t>(b.size()));
+    };
+    const auto ascending = [&](const String &a, const String &b) { return compare(a, b) < 0; };
+    const auto descending = [&](const String &a, const String &b) { return compare(a, b) > 0; };
+    switch (option) {
+    case 1:
+    case 3:
+        std::ranges::stable_sort(items, descending);
+        break;
+    case 4:
+        std::ranges::sort(items);
+        break;
+    case 5:
+        std::ranges::sort(items, std::greater<>());
+        break;
+    case 6:
+        std::ranges::reverse(items);
+        break;
+    case 10: {
+        std::set<String> seen;
+        std::erase_if(items, [&](const String &item) { return !seen.insert(item).second; });
+        break;
+    }
+    default:
+        std::ranges::stable_sort(items, ascending);
+    }
+    ucol_close(collator);
+    String result;
+    for (const String &item : items) {
+        result += item + separator;
+    }
+    result.resize(result.size() - separator.size());
+    return result;
+}
+
+} // namespace
+
+String smartQuotes(String text, const String &leftFind, const String &rightFind,
+                   const String &leftReplace, const String &rightReplace) {
+    text = replacedPattern(text, u"^" + rightFind + u"(?=[:PUNCT:]\\B)", rightReplace,
+                           UREGEX_CASE_INSENSITIVE);
+    smartForAll(text, leftFind, rightFind, leftReplace, rightReplace);
+    return replaced(text, leftFind, leftReplace);
+}
+
+// The operations of the user's own rules have no plain form of their own here: they are the plain
+// form, on ICU's matcher.
+String runOperation(std::int32_t index, const String &text,
+                    const engine::CleaningContext &context) {
+    const engine::CleaningOptions &o = context.options;
+    const bool localized = context.actualVersion >= 108;
+    const char *locale = localized ? context.locale.c_str() : "";
+    const auto slot = [&](std::size_t number) {
+        return replaced(text, o.udChangePropertyChangeTextField[number - 1].stringValue(),
+                        o.udChangePropertyToTextField[number - 1].stringValue());
+    };
+    switch (index) {
+    case 0:
+        return replacedPattern(text, u"[\t]+", u"\t");
+    case 1:
+        return replacedPattern(text, whiteSpace, u"");
+    case 2:
+        return replacedPattern(text, u"[\t]+", u"");
+    case 3:
+        return replacedPattern(text, u"\\s+", u" ");
+    case 4:
+        return returns(text, o);
+    case 5:
+        return replacedPattern(text, u"\\A" + whiteSpace + u"+|" + whiteSpace + u"+\\z", u"");
+    case 6:
+        switch (o.udChangeCaseOption) {
+        case 1:
+            return title(text, locale);
+        case 2:
+            return lower(text, locale);
+        case 3:
+            return upper(text, locale);
+        default:
+            return smartCapitalized(text, locale);
+        }
+    case 7:
+        return o.udChangeQuotesOption == 1
+                   ? convertedQuotes(text, engine::doubleQuoteStyles, o.udChangeQuotesDoubleOption,
+                                     engine::singleQuoteStyles, o.udChangeQuotesSingleOption,
+                                     engine::doubleQuoteStylesAll, o.udChangeQuotesAll)
+                   : convertedQuotes(text, engine::singleQuoteStyles, o.udChangeQuotesSingleOption,
+                                     engine::doubleQuoteStyles, o.udChangeQuotesDoubleOption,
+                                     engine::singleQuoteStylesAll, o.udChangeQuotesAll);
+    case 8:
+        return removedQuotes(text, engine::singleQuoteStyles, o.udRemoveSingleQuotesAll,
+                             o.udChangeQuotesSingleOption);
+    case 9:
+        return removedQuotes(text, engine::doubleQuoteStyles, o.udRemoveDoubleQuotesAll,
+                             o.udChangeQuotesDoubleOption);
+    case 10:
+        return replaced(text, u">", u"");
+    case 11:
+        return removedTags(text, o.udRemoveHTMLTagsJS);
+    case 13:
+    case 14:
+    case 15:
+        return slot(static_cast<std::size_t>(index) - 12);
+    case 16:
+        return replacedPattern(replacedPattern(text, u"[ ]+", u" "), u"[\u00A0]+", u"\u00A0");
+    case 17:
+        return o.udChangeTabsAnd4SpacesOption == 1
+                   ? replaced(replaced(text, u"    ", u"\t"), u"\u00A0\u00A0\u00A0\u00A0", u"\t")
+                   : replaced(text, u"\t", u"    ");
+    case 18:
+        return replacedInOrder(text, engine::rules::bullets);
+    case 19:
+        return replacedInOrder(text, engine::rules::spaceBeforeDot);
+    case 20:
+        return replacedInOrder(text, engine::rules::spaceAroundTab);
+    case 21:
+        return replacedInOrder(text, engine::rules::spaceAroundReturn);
+    case 22:
+        return o.udChangeEllipsisAndDotsOption == 1 ? replaced(text, u"\u2026", u"...")
+                                                    : replaced(text, u"...", u"\u2026");
+    case 23:
+        return sorted(text, o.udSortOption, o.udSortSeparator,
+                      o.udSortCustomSeparatorTextField.stringValue(), context.locale);
+    case 24:
+        return sorted(text, 10, o.udRemoveDuplicateLinesSeparator,
+                      o.udDuplicatesCustomSeparatorTextField.stringValue(), context.locale);
+    case 26:
+    case 27:
+    case 28:
+    case 29:
+    case 30:
+    case 31:
+    case 32:
+        return slot(static_cast<std::size_t>(index) - 22);
+    case 33:
+        return joinedLines(text, static_cast<std::int32_t>(o.udChangeWrongInsertedReturnsOption));
+    case 34:
+        return replacedInOrder(text, o.udRemoveHyphensAll ? engine::rules::dashes
+                                                          : engine::rules::hyphens);
+    case 35:
+        return o.udPrefixTextField.stringValue() + text;
+    case 36:
+        return text + o.udSuffixTextField.stringValue();
+    default:
+        return engine::runOperation(index, text, context);
+    }
+}
+
+String runPipeline(String text, const engine::CleaningContext &context) {
+    const engine::CleaningOptions &o = context.options;
+    const auto step = [&](bool on, std::int32_t index) {
+        if (on) {
+            text = reference::runOperation(index, text, context);
+        }
+    };
+    const bool toTabs = o.udChangeTabsAnd4SpacesOption == 1;
+    step(o.udChangeMultipleTabsToSingleTab, 0);
+    step(o.udRemoveAllSpaces, 1);
+    step(o.udRemoveAllTabs, 2);
+    step(o.udRemoveSpacesTabsAndNewLines, 3);
+    step(o.udRemoveHyphensAll || o.udRemoveHyphens, 34);
+    step(o.udRemoveSpacesBeforeAndAfterText, 5);
+    step(o.udRemoveBullets, 18);
+    step(o.udChangeWrongInsertedReturnsTo, 33);
+    step(o.udChangeCaseTo, 6);
+    step(o.udChangeQuotes, 7);
+    step(o.udRemoveSingleQuotes, 8);
+    step(o.udRemoveDoubleQuotes, 9);
+    step(o.udRemoveReplyQuotes, 10);
+    step(o.udRemoveHTMLTags, 11);
+    step(o.udInsertYourPattern, 12);
+    step(o.udChangeEllipsisAndDots, 22);
+    for (std::int32_t slot = 1; slot <= 10; ++slot) {
+        step(o.udChangeProperty[static_cast<std::size_t>(slot - 1)],
+             slot <= 3 ? 12 + slot : 22 + slot);
+    }
+    step(o.udFindReplaceBool, 37);
+    step(o.udChangeMultipleSpacesToSingleSpace && !toTabs, 16);
+    step(o.udChangeTabsAnd4Spaces, 17);
+    step(o.udChangeMultipleSpacesToSingleSpace && toTabs, 16);
+    step(o.udRemoveSpaceBeforeDot, 19);
+    step(o.udRemoveSpaceBeforeAfterTab, 20);
+    step(o.udRemoveSpaceBeforeAfterReturn, 21);
+    step(o.udChangeReturnsTo, 4);
+    step(o.udAddPrefix, 35);
+    step(o.udAddSuffix, 36);
+    step(o.udRemoveDuplicateLines, 24);
+    step(o.udSort, 23);
+    return text;
+}
+
+Counts count(const String &text, const std::string &locale) {
+    Counts counts{text.size(), 0, 0, 0};
+    for (const char16_t unit : text) {
+        counts.spaces += unit == u' ' || unit == u'\u00A0' ? 1u : 0u;
+    }
+    segments(UBRK_WORD, text, locale.c_str(), [&](const String &, std::int32_t status) {
+        counts.words += status >= UBRK_WORD_NUMBER ? 1u : 0u;
+    });
+    if (!text.empty()) {
+        const std::vector<String> lines = split(allBreaks(text), u"\n");
+        counts.paragraphs = lines.size() - (lines.back().empty() ? 1 : 0);
+    }
+    return counts;
+}
+
+} // namespace nerlo::reference
