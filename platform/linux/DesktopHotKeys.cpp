@@ -1,0 +1,274 @@
+#include "platform/linux/DesktopHotKeys.h"
+
+#include "platform/linux/CommandOutput.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <utility>
+
+namespace nerlo::platform {
+
+namespace {
+
+// More than any desktop has; what a broken file says beyond it is left out.
+constexpr std::size_t mostHotKeys = 4096;
+constexpr std::size_t mostCustomBindings = 64;
+constexpr std::size_t largestFile = std::size_t{1} << 20;
+
+std::string lower(std::string_view text) {
+    std::string result(text);
+    for (char &c : result) {
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    }
+    return result;
+}
+
+std::optional<std::uint32_t> modifierOf(std::string_view name) {
+    const struct {
+        std::string_view name;
+        std::uint32_t flag;
+    } rows[] = {
+        {"primary", hotKeyCommand}, {"control", hotKeyCommand}, {"ctrl", hotKeyCommand},
+        {"ctl", hotKeyCommand},     {"shift", hotKeyShift},     {"shft", hotKeyShift},
+        {"alt", hotKeyOption},      {"mod1", hotKeyOption},     {"super", hotKeyControl},
+        {"mod4", hotKeyControl},    {"meta", hotKeyControl}, // Qt's name of the Super key
+    };
+    const std::string wanted = lower(name);
+    const auto *row = std::ranges::find(rows, wanted, &std::decay_t<decltype(rows[0])>::name);
+    return row == std::end(rows) ? std::nullopt : std::optional(row->flag);
+}
+
+// The xkb name of a key that Qt names otherwise, or the name itself.
+std::string symbolOfQtName(std::string_view name) {
+    const struct {
+        std::string_view qt;
+        const char *xkb;
+    } rows[] = {
+        {"esc", "Escape"},    {"ins", "Insert"},     {"del", "Delete"},     {"pgup", "Prior"},
+        {"pgdown", "Next"},   {"backtab", "Tab"},    {"enter", "KP_Enter"}, {",", "comma"},
+        {".", "period"},      {"/", "slash"},        {"\\", "backslash"},   {";", "semicolon"},
+        {"'", "apostrophe"},  {"`", "grave"},        {"-", "minus"},        {"=", "equal"},
+        {"[", "bracketleft"}, {"]", "bracketright"}, {"+", "plus"},         {"<", "less"},
+        {"#", "numbersign"},
+    };
+    const std::string wanted = lower(name);
+    const auto *row = std::ranges::find(rows, wanted, &std::decay_t<decltype(rows[0])>::qt);
+    return row == std::end(rows) ? std::string(name) : std::string(row->xkb);
+}
+
+class Collector {
+  public:
+    explicit Collector(const KeyboardLayout &layout)
+        : layout_(layout) {}
+
+    // "<Super><Shift>v"; anything else is dropped.
+    void addAccelerator(std::string_view text) {
+        std::uint32_t modifiers = 0;
+        while (!text.empty() && text.front() == '<') {
+            const auto end = text.find('>');
+            const auto modifier = modifierOf(text.substr(1, end == text.npos ? 0 : end - 1));
+            if (!modifier) {
+                return;
+            }
+            modifiers |= *modifier;
+            text.remove_prefix(end + 1);
+        }
+        // The window manager's name for the key over Tab, whatever it writes.
+        add(text == "Above_Tab" ? std::string("grave") : std::string(text), modifiers);
+    }
+
+    // "Meta+Shift+V", "Ctrl++".
+    void addQtSequence(std::string_view text) {
+        std::uint32_t modifiers = 0;
+        for (;;) {
+            const auto plus = text.find('+');
+            if (plus == text.npos || plus == 0 || plus + 1 == text.size()) {
+                break;
+            }
+            const auto modifier = modifierOf(text.substr(0, plus));
+            if (!modifier) {
+                return;
+            }
+            modifiers |= *modifier;
+            text.remove_prefix(plus + 1);
+        }
+        add(symbolOfQtName(text), modifiers);
+    }
+
+    std::vector<SystemHotKey> take() { return std::move(hotKeys_); }
+
+  private:
+    void add(const std::string &symbol, std::uint32_t modifiers) {
+        if (symbol.empty() || symbol.size() > 64 || hotKeys_.size() >= mostHotKeys) {
+            return;
+        }
+        if (const auto key = layout_.keyOfSymbol(symbol)) {
+            const SystemHotKey hotKey{*key, modifiers};
+            if (std::ranges::find(hotKeys_, hotKey) == hotKeys_.end()) {
+                hotKeys_.push_back(hotKey);
+            }
+        }
+    }
+
+    const KeyboardLayout &layout_;
+    std::vector<SystemHotKey> hotKeys_;
+};
+
+template <class Function>
+void forEachLine(std::string_view text, Function function) {
+    while (!text.empty()) {
+        const auto end = std::min(text.find('\n'), text.size());
+        function(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+// The texts between single quotes; none of those that matter holds an escaped one.
+template <class Function>
+void forEachQuoted(std::string_view text, Function function) {
+    for (;;) {
+        const auto begin = text.find('\'');
+        const auto end = begin == text.npos ? begin : text.find('\'', begin + 1);
+        if (end == text.npos) {
+            return;
+        }
+        function(text.substr(begin + 1, end - begin - 1));
+        text.remove_prefix(end + 1);
+    }
+}
+
+void collectGnome(const DesktopSources &sources, Collector &collector) {
+    const std::string mediaKeys = "org.gnome.settings-daemon.plugins.media-keys";
+    for (const auto &schema : {std::string("org.gnome.desktop.wm.keybindings"),
+                               std::string("org.gnome.mutter.keybindings"),
+                               std::string("org.gnome.mutter.wayland.keybindings"),
+                               std::string("org.gnome.shell.keybindings"), mediaKeys}) {
+        forEachQuoted(sources.output({"gsettings", "list-recursively", schema}),
+                      [&](std::string_view text) { collector.addAccelerator(text); });
+    }
+    std::size_t left = mostCustomBindings;
+    const std::string paths = sources.output({"gsettings", "get", mediaKeys, "custom-keybindings"});
+    forEachQuoted(paths, [&](std::string_view path) {
+        if (path.empty() || path.front() != '/' || left == 0) {
+            return;
+        }
+        --left;
+        forEachQuoted(
+            sources.output({"gsettings", "get",
+                            mediaKeys + ".custom-keybinding:" + std::string(path), "binding"}),
+            [&](std::string_view text) { collector.addAccelerator(text); });
+    });
+}
+
+// Lines such as "/xfwm4/custom/<Alt>Tab    cycle_windows_key". What stands under "default" is the
+// template that "custom" was made from, and counts only where nothing is custom yet.
+void collectXfce(const DesktopSources &sources, Collector &collector) {
+    const std::string list =
+        sources.output({"xfconf-query", "-c", "xfce4-keyboard-shortcuts", "-l", "-v"});
+    const std::string_view folder = list.find("/custom/") != list.npos ? "/custom/" : "/default/";
+    forEachLine(list, [&](std::string_view line) {
+        const auto at = line.find(folder);
+        if (at != line.npos) {
+            line.remove_prefix(at + folder.size());
+            collector.addAccelerator(line.substr(0, line.find_first_of(" \t")));
+        }
+    });
+}
+
+// Lines such as "Window Close=Alt+F4\tMeta+Q,Alt+F4,Close Window": the present keys, those of the
+// first start, the name. A comma that is a key has a backslash before it.
+void collectKde(const DesktopSources &sources, Collector &collector) {
+    const std::string file = sources.configuration("kglobalshortcutsrc");
+    forEachLine(file, [&](std::string_view line) {
+        const auto equals = line.find('=');
+        if (equals == line.npos || line.starts_with("_k_friendly_name")) {
+            return;
+        }
+        std::string sequence;
+        const auto finish = [&] {
+            if (sequence != "none") {
+                collector.addQtSequence(sequence);
+            }
+            sequence.clear();
+        };
+        const auto value = line.substr(equals + 1);
+        for (std::size_t at = 0; at < value.size() && value[at] != ','; ++at) {
+            if (value[at] != '\\' || at + 1 == value.size()) {
+                sequence += value[at];
+            } else if (value[++at] == 't') {
+                finish();
+            } else {
+                sequence += value[at];
+            }
+        }
+        finish();
+    });
+}
+
+struct Desktop {
+    std::string_view name; // in $XDG_CURRENT_DESKTOP, in small letters
+    void (*collect)(const DesktopSources &, Collector &);
+};
+
+constexpr std::array desktops{
+    Desktop{"gnome", collectGnome},
+    Desktop{"unity", collectGnome},
+    Desktop{"xfce", collectXfce},
+    Desktop{"kde", collectKde},
+};
+
+class DesktopHotKeys final : public SystemHotKeys {
+  public:
+    DesktopHotKeys(const KeyboardLayout &layout, DesktopSources sources)
+        : layout_(layout)
+        , sources_(std::move(sources)) {}
+
+    std::vector<SystemHotKey> symbolicHotKeys() override {
+        Collector collector(layout_);
+        const std::string names = ":" + lower(sources_.currentDesktop) + ":";
+        for (const auto &desktop : desktops) {
+            if (names.find(":" + std::string(desktop.name) + ":") != names.npos) {
+                desktop.collect(sources_, collector);
+                break;
+            }
+        }
+        return collector.take();
+    }
+
+  private:
+    const KeyboardLayout &layout_;
+    DesktopSources sources_;
+};
+
+std::string environment(const char *name) {
+    const char *value = std::getenv(name);
+    return value ? value : "";
+}
+
+} // namespace
+
+DesktopSources DesktopSources::system() {
+    return {environment("XDG_CURRENT_DESKTOP"),
+            [](const std::string &name) {
+                const std::string home = environment("XDG_CONFIG_HOME");
+                std::ifstream file((home.empty() ? environment("HOME") + "/.config" : home) + "/" +
+                                       name,
+                                   std::ios::binary);
+                std::string text(largestFile, '\0');
+                file.read(text.data(), static_cast<std::streamsize>(text.size()));
+                text.resize(static_cast<std::size_t>(file.gcount()));
+                return text;
+            },
+            [](const std::vector<std::string> &command) { return outputOfCommand(command); }};
+}
+
+std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,
+                                                    DesktopSources sources) {
+    return std::make_unique<DesktopHotKeys>(layout, std::move(sources));
+}
+
+} // namespace nerlo::platform

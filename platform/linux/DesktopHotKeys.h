@@ -1,0 +1,31 @@
+// The key combinations that GNOME, Xfce and KDE keep for themselves, from their own settings.
+#pragma once
+
+#include "platform/KeyboardLayout.h"
+#include "platform/SystemHotKeys.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace nerlo::platform {
+
+// Where the readers look; tests put something else in place.
+struct DesktopSources {
+    // $XDG_CURRENT_DESKTOP: names between colons.
+    std::string currentDesktop;
+    // The text of a file below the user's configuration folder, or empty.
+    std::function<std::string(const std::string &name)> configuration;
+    // The standard output of a program, or empty.
+    std::function<std::string(const std::vector<std::string> &command)> output;
+
+    static DesktopSources system();
+};
+
+// `layout` must outlive the result. On any other desktop the list is empty.
+std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,
+                                                    DesktopSources sources);
+
+} // namespace nerlo::platform

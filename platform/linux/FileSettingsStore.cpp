@@ -1,0 +1,95 @@
+#include "platform/linux/FileSettingsStore.h"
+
+#include "platform/MainQueue.h"
+#include "platform/PropertyList.h"
+#include "platform/SafeFile.h"
+
+namespace nerlo::platform {
+
+FileSettingsStore::FileSettingsStore(std::string path, MainQueue *queue, FileCalls &calls)
+    : path_(std::move(path))
+    , queue_(queue)
+    , calls_(calls) {
+    fileChanged();
+}
+
+FileSettingsStore::~FileSettingsStore() {
+    if (!dirty_.empty()) {
+        synchronize();
+    }
+}
+
+std::optional<PropertyDictionary> FileSettingsStore::read(bool &unusable) const {
+    const FileContent content = readFile(path_, PropertyListLimits::bytes, calls_);
+    unusable = content.state != FileContent::State::Missing;
+    if (content.state != FileContent::State::Read) {
+        return std::nullopt;
+    }
+    const ParsedPropertyList parsed = parsePropertyList(content.bytes);
+    const auto *dictionary = parsed.value ? parsed.value->as<PropertyDictionary>() : nullptr;
+    if (!dictionary) {
+        return std::nullopt;
+    }
+    unusable = false;
+    return *dictionary;
+}
+
+// A file that has gone or become unusable says nothing about our values: they all stay.
+PropertyDictionary FileSettingsStore::withOwnChanges(PropertyDictionary theirs) const {
+    for (const std::string &key : dirty_) {
+        if (const PropertyValue *value = find(key)) {
+            theirs.set(key, *value);
+        } else {
+            theirs.remove(key);
+        }
+    }
+    return theirs;
+}
+
+bool FileSettingsStore::synchronize() {
+    PropertyDictionary merged;
+    {
+        const FolderLock lock(folderOf(path_), calls_);
+        bool unusable = false;
+        const auto theirs = read(unusable);
+        merged = theirs ? withOwnChanges(*theirs) : values();
+        error_.clear();
+        const bool differs = theirs ? !(merged == *theirs) : !dirty_.empty();
+        if (differs) {
+            error_ = lock.error();
+            if (error_.empty() && unusable && !moveAside(path_, "unreadable", calls_)) {
+                error_ = path_ + " cannot be read and cannot be moved aside";
+            }
+            if (error_.empty()) {
+                error_ = replaceFile(path_, writePropertyList(merged), calls_);
+            }
+        }
+        if (error_.empty()) {
+            dirty_.clear();
+        }
+    }
+    replaceAll(std::move(merged));
+    return error_.empty();
+}
+
+void FileSettingsStore::fileChanged() {
+    bool unusable = false;
+    if (auto theirs = read(unusable)) {
+        replaceAll(withOwnChanges(std::move(*theirs)));
+    }
+}
+
+void FileSettingsStore::changed(std::string_view key) {
+    dirty_.emplace(key);
+    if (queue_ && !*posted_) {
+        *posted_ = true;
+        queue_->post([this, posted = std::weak_ptr(posted_)] {
+            if (const auto alive = posted.lock()) {
+                *alive = false;
+                synchronize();
+            }
+        });
+    }
+}
+
+} // namespace nerlo::platform

@@ -1,0 +1,50 @@
+// The settings store in one property-list file, shared with other processes.
+#pragma once
+
+#include "platform/FileCalls.h"
+#include "platform/SettingsStore.h"
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace nerlo::platform {
+
+class MainQueue;
+
+class FileSettingsStore final : public SettingsStore {
+  public:
+    // Reads the file. One that cannot be read, or holds no dictionary, is moved aside under a dated
+    // name at the first write, and the store begins empty. With a queue, changes are written by
+    // themselves once the present task is over; without, by synchronize() and the destructor.
+    explicit FileSettingsStore(std::string path, MainQueue *queue = nullptr,
+                               FileCalls &calls = FileCalls::system());
+    ~FileSettingsStore() override;
+
+    // Under the folder's lock: reads the file again, puts only the keys changed here into it, and
+    // writes it if that makes a difference.
+    bool synchronize() override;
+
+    // Takes over what other processes have written; to be called when the folder has changed.
+    void fileChanged();
+
+    const std::string &path() const { return path_; }
+    // Why the last write failed; empty when it did not.
+    const std::string &error() const { return error_; }
+
+  private:
+    void changed(std::string_view key) override;
+    // The file's dictionary. Nothing when it is not there or unusable; `unusable` says which.
+    std::optional<PropertyDictionary> read(bool &unusable) const;
+    PropertyDictionary withOwnChanges(PropertyDictionary theirs) const;
+
+    std::string path_;
+    MainQueue *queue_;
+    FileCalls &calls_;
+    std::set<std::string> dirty_; // set or removed here since the last write
+    std::shared_ptr<bool> posted_ = std::make_shared<bool>(false);
+    std::string error_;
+};
+
+} // namespace nerlo::platform

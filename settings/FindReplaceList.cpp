@@ -1,0 +1,109 @@
+#include "settings/FindReplaceList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace nerlo::settings {
+
+using platform::PropertyArray;
+using platform::PropertyDictionary;
+using platform::PropertyValue;
+
+FindReplaceList::FindReplaceList(Localize localize)
+    : localize_(std::move(localize)) {
+    setItems({});
+}
+
+bool FindReplaceList::contains(int row) const {
+    return row >= 0 && static_cast<std::size_t>(row) < items_.size();
+}
+
+void FindReplaceList::setItems(PropertyArray items) {
+    items_ = std::move(items);
+    select(-1);
+}
+
+void FindReplaceList::append() {
+    items_.emplace_back(PropertyDictionary{
+        {"checkbox", true}, {"find", localize_(u"sFindReplaceNewItem")}, {"replace", u""}});
+    select(static_cast<int>(items_.size()) - 1);
+}
+
+bool FindReplaceList::removeSelected() {
+    if (!contains(lastClickedRow_)) {
+        field_ = {localize_(u"sFindReplaceDelete"), {}, false};
+        return false;
+    }
+    items_.erase(items_.begin() + lastClickedRow_);
+    return true;
+}
+
+void FindReplaceList::select(int row) {
+    if (!contains(row)) {
+        lastClickedRow_ = -1;
+        field_ = {localize_(u"sFindReplaceSelect"), {}, false};
+        return;
+    }
+    lastClickedRow_ = row;
+    field_ = {textOf(items_[static_cast<std::size_t>(row)], "replace"),
+              localize_(u"sFindReplacePlaceholderString"), true};
+}
+
+void FindReplaceList::setInRule(int row, std::string_view key, PropertyValue value) {
+    if (!contains(row)) {
+        return;
+    }
+    PropertyValue &rule = items_[static_cast<std::size_t>(row)];
+    if (!rule.as<PropertyDictionary>()) {
+        rule = PropertyDictionary();
+    }
+    rule.as<PropertyDictionary>()->set(key, std::move(value));
+}
+
+void FindReplaceList::setFind(std::u16string text) {
+    setInRule(lastClickedRow_, "find", std::move(text));
+}
+
+void FindReplaceList::setReplacement(std::u16string text) {
+    if (contains(lastClickedRow_)) {
+        field_.text = text;
+    }
+    setInRule(lastClickedRow_, "replace", std::move(text));
+}
+
+void FindReplaceList::setCheckbox(int row, bool on) {
+    setInRule(row, "checkbox", on ? 1 : 0);
+}
+
+void FindReplaceList::move(const std::vector<int> &rows, int dropRow) {
+    std::vector<int> sorted;
+    std::ranges::copy_if(rows, std::back_inserter(sorted),
+                         [this](int row) { return contains(row); });
+    std::ranges::sort(sorted);
+    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+    if (sorted.empty() || dropRow < 0) {
+        return;
+    }
+    PropertyValue moved = items_[static_cast<std::size_t>(sorted.front())];
+    for (auto row = sorted.rbegin(); row != sorted.rend(); ++row) {
+        items_.erase(items_.begin() + *row);
+    }
+    const int left = static_cast<int>(items_.size());
+    const int place = left < dropRow ? dropRow - 1 : dropRow;
+    items_.insert(items_.begin() + std::min(place, left), std::move(moved));
+    select(-1);
+}
+
+bool FindReplaceList::isOn(const PropertyValue &rule) {
+    const auto *dictionary = rule.as<PropertyDictionary>();
+    const PropertyValue *on = dictionary ? dictionary->find("checkbox") : nullptr;
+    return on && on->boolValue();
+}
+
+std::u16string FindReplaceList::textOf(const PropertyValue &rule, std::string_view key) {
+    const auto *dictionary = rule.as<PropertyDictionary>();
+    const PropertyValue *text = dictionary ? dictionary->find(key) : nullptr;
+    return text ? text->stringValue() : std::u16string();
+}
+
+} // namespace nerlo::settings

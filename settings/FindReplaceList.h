@@ -1,0 +1,63 @@
+// The find-and-replace rules as the table shows and edits them: values only, no file.
+//
+// A rule is a dictionary with "checkbox", "find" and "replace"; other keys in it are kept. Main
+// thread only.
+#pragma once
+
+#include "platform/PropertyValue.h"
+#include "settings/OptionLists.h"
+
+#include <string>
+#include <vector>
+
+namespace nerlo::settings {
+
+class FindReplaceList {
+  public:
+    // The field under the table: the selected rule's replacement, or a hint.
+    struct ReplacementField {
+        std::u16string text;
+        std::u16string placeholder;
+        bool enabled = false;
+        bool operator==(const ReplacementField &) const = default;
+    };
+
+    explicit FindReplaceList(Localize localize);
+
+    const platform::PropertyArray &items() const { return items_; }
+    // Nothing is selected afterwards.
+    void setItems(platform::PropertyArray items);
+    // The selected row; -1 for none.
+    int lastClickedRow() const { return lastClickedRow_; }
+    const ReplacementField &field() const { return field_; }
+
+    // A ticked rule with a text to start from, selected.
+    void append();
+    // lastClickedRow() still tells the row that went, until the next select(). False, and a hint in
+    // the field, when no row is selected.
+    bool removeSelected();
+    // A row outside the list selects none.
+    void select(int row);
+    // Of the selected rule; nothing when none is.
+    void setFind(std::u16string text);
+    void setReplacement(std::u16string text);
+    void setCheckbox(int row, bool on);
+    // Only the first of the rows is put back: the table selects one row at a time. `dropRow` is
+    // the place between rows, from 0 to the number of rows.
+    void move(const std::vector<int> &rows, int dropRow);
+
+    // Of one rule.
+    static bool isOn(const platform::PropertyValue &rule);
+    static std::u16string textOf(const platform::PropertyValue &rule, std::string_view key);
+
+  private:
+    bool contains(int row) const;
+    void setInRule(int row, std::string_view key, platform::PropertyValue value);
+
+    Localize localize_;
+    platform::PropertyArray items_;
+    int lastClickedRow_ = -1;
+    ReplacementField field_;
+};
+
+} // namespace nerlo::settings

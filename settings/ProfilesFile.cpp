@@ -1,0 +1,288 @@
+#include "settings/ProfilesFile.h"
+
+#include "platform/PropertyList.h"
+#include "platform/SafeFile.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+#include <charconv>
+#include <deque>
+#include <unordered_map>
+#include <utility>
+
+namespace nerlo::settings {
+
+namespace {
+
+using platform::PropertyArray;
+using platform::PropertyDictionary;
+using platform::PropertyValue;
+
+class ById {
+  public:
+    explicit ById(const ProfileItems &items) {
+        for (const ProfileItem &item : items) {
+            places_.emplace(item.id, &item.record);
+        }
+    }
+    const ProfileRecord *find(std::uint64_t id) const {
+        const auto place = places_.find(id);
+        return place == places_.end() ? nullptr : place->second;
+    }
+
+  private:
+    std::unordered_map<std::uint64_t, const ProfileRecord *> places_;
+};
+
+ProfileRecord mergeRecords(const ProfileRecord &base, const ProfileRecord &mine,
+                           const ProfileRecord &theirs) {
+    if (theirs == base) {
+        return mine;
+    }
+    ProfileRecord merged = theirs;
+    for (const auto &[key, value] : mine) {
+        const PropertyValue *before = base.find(key);
+        if (!before || !(*before == value)) {
+            merged.set(key, value);
+        }
+    }
+    for (const auto &[key, value] : base) {
+        if (!mine.find(key)) {
+            merged.remove(key);
+        }
+    }
+    return merged;
+}
+
+PropertyArray arrayOf(const ProfileItems &items, const PropertyArray &others) {
+    PropertyArray array;
+    array.reserve(items.size() + others.size());
+    for (const ProfileItem &item : items) {
+        array.emplace_back(item.record);
+    }
+    array.insert(array.end(), others.begin(), others.end());
+    return array;
+}
+
+struct ArrayFile {
+    bool there = false;
+    std::optional<PropertyArray> array; // none when the file is not there or unusable
+    std::string error;                  // why it is unusable
+};
+
+ArrayFile readArray(const std::string &path, platform::FileCalls &calls) {
+    using platform::FileContent;
+    const FileContent content =
+        platform::readFile(path, platform::PropertyListLimits::bytes, calls);
+    ArrayFile file{content.state != FileContent::State::Missing, std::nullopt, content.error};
+    if (content.state == FileContent::State::Read) {
+        auto parsed = platform::parsePropertyList(content.bytes);
+        if (auto *array = parsed.value ? parsed.value->as<PropertyArray>() : nullptr) {
+            file.array = std::move(*array);
+        } else {
+            file.error = path + ": " + (parsed.value ? "no list" : parsed.error);
+        }
+    }
+    return file;
+}
+
+bool sameRecords(const ProfileItems &a, const ProfileItems &b) {
+    return std::ranges::equal(a, b, {}, &ProfileItem::record, &ProfileItem::record);
+}
+
+} // namespace
+
+std::optional<PropertyArray> readSharedFindReplace(const SettingsPaths &paths,
+                                                   platform::FileCalls &calls) {
+    return readArray(paths.sharedFindReplace, calls).array;
+}
+
+std::string writeSharedFindReplace(const SettingsPaths &paths, const PropertyArray &items,
+                                   platform::FileCalls &calls) {
+    const std::string &path = paths.sharedFindReplace;
+    const platform::FolderLock lock(platform::folderOf(path), calls);
+    if (!lock.error().empty()) {
+        return lock.error();
+    }
+    const ArrayFile before = readArray(path, calls);
+    if (before.array == items) {
+        return {};
+    }
+    if (before.there && !before.array && !platform::moveAside(path, "unreadable", calls)) {
+        return path + " cannot be read and cannot be moved aside";
+    }
+    return platform::replaceFile(path, platform::writePropertyList(PropertyValue(items)), calls);
+}
+
+std::u16string profileNameOf(const ProfileRecord &record) {
+    const PropertyValue *name = record.find("profileName");
+    return name ? name->stringValue() : std::u16string();
+}
+
+const ProfileItem *findProfile(const ProfileItems &items, std::string_view nameOrIndex) {
+    for (const ProfileItem &item : items) {
+        if (text::utf16ToUtf8(profileNameOf(item.record)) == nameOrIndex) {
+            return &item;
+        }
+    }
+    std::size_t index = 0;
+    const char *end = nameOrIndex.data() + nameOrIndex.size();
+    const auto parsed = std::from_chars(nameOrIndex.data(), end, index);
+    return parsed.ec == std::errc() && parsed.ptr == end && index < items.size() ? &items[index]
+                                                                                 : nullptr;
+}
+
+int selectedPlace(std::int64_t stored, std::size_t count) {
+    const auto size = static_cast<std::int64_t>(count);
+    if (stored > size && size > 0) {
+        return static_cast<int>(size - 1);
+    }
+    return stored < 0 || stored >= size ? 0 : static_cast<int>(stored);
+}
+
+ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths) {
+    const PropertyValue *onlyOne = record.find("sOnlyOneProfile");
+    if (onlyOne && onlyOne->boolValue()) {
+        if (auto shared = readSharedFindReplace(paths)) {
+            record.set("sFindAndReplaceItems", std::move(*shared));
+        }
+    }
+    return record;
+}
+
+ProfileItems mergeProfiles(const ProfileItems &base, const ProfileItems &mine,
+                           const ProfileItems &theirs) {
+    const ById inBase(base);
+    const ById inMine(mine);
+    const ById inTheirs(theirs);
+    ProfileItems merged;
+    for (const ProfileItem &item : theirs) {
+        const ProfileRecord *before = inBase.find(item.id);
+        const ProfileRecord *own = inMine.find(item.id);
+        if (before && own) {
+            merged.push_back({item.id, mergeRecords(*before, *own, item.record)});
+        } else if (!before || !(item.record == *before)) {
+            merged.push_back(item);
+        }
+    }
+    for (const ProfileItem &item : mine) {
+        const ProfileRecord *before = inBase.find(item.id);
+        if (!inTheirs.find(item.id) && (!before || !(item.record == *before))) {
+            merged.push_back(item);
+        }
+    }
+    return merged;
+}
+
+ProfilesFile::ProfilesFile(std::string path, platform::FileCalls &calls)
+    : path_(std::move(path))
+    , calls_(calls) {}
+
+ProfileItem ProfilesFile::newItem(ProfileRecord record) {
+    return {++lastId_, std::move(record)};
+}
+
+ProfilesFile::OnDisk ProfilesFile::read() {
+    ArrayFile file = readArray(path_, calls_);
+    OnDisk disk;
+    disk.there = file.there;
+    disk.usable = file.array.has_value();
+    disk.error = std::move(file.error);
+    PropertyArray elements = std::move(file.array).value_or(PropertyArray());
+    for (PropertyValue &element : elements) {
+        if (auto *record = element.as<PropertyDictionary>()) {
+            disk.items.push_back({0, std::move(*record)});
+        } else {
+            disk.others.push_back(std::move(element));
+        }
+    }
+    identify(disk.items);
+    return disk;
+}
+
+// A record is one that we know if it stands unchanged in its place, or else if it has the name of
+// one that does not; all others are new.
+void ProfilesFile::identify(ProfileItems &items) {
+    std::unordered_map<std::u16string, std::deque<std::uint64_t>> named;
+    for (std::size_t i = 0; i < base_.size(); ++i) {
+        if (i < items.size() && items[i].record == base_[i].record) {
+            items[i].id = base_[i].id;
+        } else {
+            named[profileNameOf(base_[i].record)].push_back(base_[i].id);
+        }
+    }
+    for (ProfileItem &item : items) {
+        if (item.id != 0) {
+            continue;
+        }
+        auto &ids = named[profileNameOf(item.record)];
+        if (ids.empty()) {
+            item.id = ++lastId_;
+        } else {
+            item.id = ids.front();
+            ids.pop_front();
+        }
+    }
+}
+
+ProfileItems ProfilesFile::load() {
+    OnDisk disk = read();
+    loadError_ = disk.there ? std::move(disk.error) : std::string();
+    base_ = std::move(disk.items);
+    return base_;
+}
+
+std::string ProfilesFile::write(const ProfileItems &items, const PropertyArray &others) {
+    const PropertyValue array(arrayOf(items, others));
+    return platform::replaceFile(path_, platform::writePropertyList(array), calls_);
+}
+
+std::string ProfilesFile::save(ProfileItems &items) {
+    const platform::FolderLock lock(platform::folderOf(path_), calls_);
+    if (!lock.error().empty()) {
+        return lock.error();
+    }
+    const OnDisk disk = read();
+    if (disk.there && !disk.usable && !platform::moveAside(path_, "unreadable", calls_)) {
+        return path_ + " cannot be read and cannot be moved aside";
+    }
+    // A file that has gone or become unusable says nothing about the records: all of ours stay.
+    ProfileItems merged = disk.usable ? mergeProfiles(base_, items, disk.items) : items;
+    // The other writer's own form of the same records is left alone.
+    std::string error =
+        disk.usable && sameRecords(merged, disk.items) ? std::string() : write(merged, disk.others);
+    if (error.empty()) {
+        base_ = merged;
+        items = std::move(merged);
+    }
+    return error;
+}
+
+std::string ProfilesFile::replace(ProfileItems &items) {
+    const platform::FolderLock lock(platform::folderOf(path_), calls_);
+    if (!lock.error().empty()) {
+        return lock.error();
+    }
+    const OnDisk disk = read();
+    if (disk.there &&
+        !platform::moveAside(path_, disk.usable ? "replaced" : "unreadable", calls_)) {
+        return path_ + " cannot be moved aside";
+    }
+    std::string error = write(items, {});
+    if (error.empty()) {
+        base_ = items;
+    }
+    return error;
+}
+
+std::optional<ProfileItems> ProfilesFile::refreshed(const ProfileItems &items) {
+    const OnDisk disk = read();
+    if (!disk.usable || sameRecords(disk.items, base_)) {
+        return std::nullopt;
+    }
+    ProfileItems merged = mergeProfiles(base_, items, disk.items);
+    base_ = disk.items;
+    return merged;
+}
+
+} // namespace nerlo::settings

@@ -1,0 +1,97 @@
+// The file of all profiles, shared with other processes.
+//
+// Each process edits its own list; a save reads the file again under the folder's lock and puts in
+// only what was changed here, record by record and key by key. Main thread only.
+#pragma once
+
+#include "platform/FileCalls.h"
+#include "platform/PropertyValue.h"
+#include "settings/SettingsPaths.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace nerlo::settings {
+
+using ProfileRecord = platform::PropertyDictionary;
+
+struct ProfileItem {
+    std::uint64_t id; // tells records of equal names apart; of this process only
+    ProfileRecord record;
+};
+using ProfileItems = std::vector<ProfileItem>;
+
+// The text under "profileName".
+std::u16string profileNameOf(const ProfileRecord &record);
+// By name, the first that has it; else by place, in decimal digits from 0. Null for neither.
+const ProfileItem *findProfile(const ProfileItems &items, std::string_view nameOrIndex);
+
+// What `mine` changed of `base`, put into `theirs`. A record removed on one side and changed on the
+// other stays; of a key changed on both sides, `mine` wins.
+ProfileItems mergeProfiles(const ProfileItems &base, const ProfileItems &mine,
+                           const ProfileItems &theirs);
+
+class ProfilesFile {
+  public:
+    explicit ProfilesFile(std::string path,
+                          platform::FileCalls &calls = platform::FileCalls::system());
+
+    // The file's records; none where it is missing or unusable. Changes no file.
+    ProfileItems load();
+    // Why the file that load() found is unusable; empty when it was read or is missing.
+    const std::string &loadError() const { return loadError_; }
+
+    ProfileItem newItem(ProfileRecord record);
+
+    // Puts the changes of `items` since the last load or save into the file; `items` then is what
+    // the file holds. A file that cannot be read is first kept under a dated name. Empty when done;
+    // else what went wrong, and the file and `items` are as they were.
+    std::string save(ProfileItems &items);
+
+    // As save(), but the records that are in the file go; the file that held them is kept under a
+    // dated name.
+    std::string replace(ProfileItems &items);
+
+    // When another process has written: `items` with its changes. Nothing when there are none.
+    std::optional<ProfileItems> refreshed(const ProfileItems &items);
+
+  private:
+    struct OnDisk {
+        bool usable = false;
+        bool there = false;
+        std::string error;
+        ProfileItems items;
+        platform::PropertyArray others; // elements that are no records; kept at the end
+    };
+    OnDisk read();
+    void identify(ProfileItems &items);
+    std::string write(const ProfileItems &items, const platform::PropertyArray &others);
+
+    std::string path_;
+    platform::FileCalls &calls_;
+    ProfileItems base_; // the file's records as last seen
+    std::uint64_t lastId_ = 0;
+    std::string loadError_;
+};
+
+// The place of the profile that is selected in a list of `count`, by the stored one: a place beyond
+// the list is its last, except the first one beyond, which like a negative one is 0.
+int selectedPlace(std::int64_t stored, std::size_t count);
+
+// A profile for programs that clean with it and edit nothing: where one list of rules is used for
+// all profiles, the list as it stands in its file.
+ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths);
+
+// The list of rules that all profiles may share. Nothing when the file is missing or unusable.
+std::optional<platform::PropertyArray>
+readSharedFindReplace(const SettingsPaths &paths,
+                      platform::FileCalls &calls = platform::FileCalls::system());
+// Under the folder's lock. A file that cannot be read is first kept under a dated name. Empty when
+// done, else what went wrong.
+std::string writeSharedFindReplace(const SettingsPaths &paths, const platform::PropertyArray &items,
+                                   platform::FileCalls &calls = platform::FileCalls::system());
+
+} // namespace nerlo::settings

@@ -1,0 +1,170 @@
+// The preferences without their window: the selected profile, the state of its controls, when what
+// is saved, and the find-and-replace list.
+//
+// The window shows controls(), items and fields from here and reports edits; it is told through
+// the hooks. Everything runs on the main thread; no call here waits for longer than a file takes.
+#pragma once
+
+#include "platform/MainQueue.h"
+#include "platform/SettingsStore.h"
+#include "settings/FindReplaceList.h"
+#include "settings/OptionLists.h"
+#include "settings/ProfilesFile.h"
+#include "settings/SettingsPaths.h"
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace nerlo::settings {
+
+// What the preferences ask of the rest of the program; each may be empty.
+struct PreferencesHooks {
+    std::function<void(const ProfileRecord &)> setAllBools; // refills the engine's options
+    // Stores the first start's hot key. A failure, also an exception, is dropped.
+    std::function<void()> setDefaultShortcut;
+    // Whether the profile may go. Without a hook, it may.
+    std::function<bool(const std::u16string &profileName)> confirmRemoval;
+    std::function<void()> profilesChanged;  // names, their order, or which one is selected
+    std::function<void()> controlsLoaded;   // all controls have new states
+    std::function<void(int mode)> updateUI; // of the rules' table, see nrPreferences::updateUI
+    std::function<void(const std::string &error)> saveFailed; // goes with the next save
+};
+
+class nrPreferences {
+  public:
+    static constexpr std::chrono::milliseconds checkBoxDelay{1000};
+    static constexpr std::chrono::milliseconds textFieldDelay{2000};
+
+    // The instance that the program made; null while there is none.
+    static nrPreferences *sharedInstance();
+
+    // Prepares paths and option lists; reads nothing yet.
+    nrPreferences(platform::SettingsStore &store, platform::MainQueue &queue, SettingsPaths paths,
+                  Localize localize = {}, std::string language = "en",
+                  platform::FileCalls &calls = platform::FileCalls::system());
+    ~nrPreferences();
+    nrPreferences(const nrPreferences &) = delete;
+    nrPreferences &operator=(const nrPreferences &) = delete;
+
+    PreferencesHooks &hooks() { return hooks_; }
+
+    // First start and update.
+    void firstRunPreferences();
+    void firstRunCombobox();
+    void convertAfterUpdate();
+
+    // Profiles.
+    void initProfilesItems(); // once, when everything is to be loaded
+    const ProfileItems &profilesItems() const { return profilesItems_; }
+    const ProfileRecord &profileSelected() const { return profileSelected_; }
+    const std::u16string &profileName() const { return profileName_; }
+    // The selected profile's place; the same as the tag of its menu item.
+    int selectedItem() const { return selectedItem_; }
+    // The pop-up's selected item; none when `selectedItem` has no item.
+    std::optional<int> popupSelection() const { return popupSelection_; }
+    void profilesSelect(std::optional<int> tag = {});
+    void profilesAdd();
+    void profilesAddingCloseWindow(const std::u16string &name);
+    void profilesAddingCancelWindow();
+    bool profilesAdding() const { return profilesAdding_; }
+    void profilesRemove();
+    void saveSelectedProfileInDictionary();
+    // False when the file could not be written; the changes go with the next save.
+    bool saveChangesInProfiles();
+    bool saveProfilesWithArray();
+    void saveCurrentState() { profilesSelect(); }
+    // Takes over what other processes have written; to be called when the folder has changed.
+    void profilesFileChanged();
+    // Saves at once what waits for its delay, and what combo boxes have changed, which no delayed
+    // save follows; for the program's end.
+    void savePending();
+
+    // Controls: the state of each by its key, as it is stored (0 or 1, text, index).
+    const platform::PropertyDictionary &controls() const { return controls_; }
+    const std::vector<OptionList> &optionLists() const { return optionLists_; }
+    // Any check box but the one-list box.
+    void checkBoxChanged(std::string_view key, bool on);
+    void controlTextDidChange(std::string_view key, std::u16string text);
+    // A negative index: no item is selected.
+    void comboBoxSelectionDidChange(std::string_view key, std::int64_t index);
+    void sUpdateStatisticksValue(std::u16string text);
+    // Whether the custom field beside a separator list ("udSortSeparator" or
+    // "udRemoveDuplicateLinesSeparator") can be edited.
+    bool customSeparatorEnabled(std::string_view separatorKey) const;
+    // The fields beside the list of returns.
+    struct ReturnsFields {
+        std::u16string label;
+        bool dimmed = false;
+        bool firstEnabled = false;
+        std::u16string firstPlaceholder;
+        bool secondShown = false; // then also enabled
+        std::u16string secondPlaceholder;
+        bool operator==(const ReturnsFields &) const = default;
+    };
+    ReturnsFields returnsFields() const;
+
+    // Each drops the request that waits and makes a new one, after 1 and 2 seconds.
+    void setAllBoolsInChangePasteboard();
+    void setAllBoolsInChangePasteboardForText();
+    void setAllBoolsInChangePasteboardAfterDelay();
+
+    // Find and replace.
+    const FindReplaceList &findReplaceList() const { return findReplace_; }
+    bool onlyOneProfile() const;
+    void onlyOneProfileChanged(bool on); // the one-list box was clicked
+    void OnlyOneProfileAction();
+    void addNewFindReplace();
+    void deleteFindReplace();
+    void selectedRow(int row);                                // -1 for none
+    void saveCurrentFindReplace(std::u16string find);         // of the selected row
+    void controlTextDidChangeReplace(std::u16string replace); // of the selected row
+    void saveCurrentFindReplaceCheckbox(int row, bool on);
+    void acceptDrop(const std::vector<int> &rows, int dropRow);
+    void saveCurrentFindReplaceList();
+
+  private:
+    void createDir();
+    void refreshProfilesMenu();
+    void refreshProfilesMenuItems();
+    void loadControls();
+    void schedule(std::chrono::milliseconds delay);
+    void fillEngine();
+    bool unsaved() const;
+    // 0 reload and show the first row, 1 the selected row goes, 2 a row came at the end, 3 the
+    // field is empty, others reload.
+    void updateUI(int mode);
+    platform::PropertyArray readSharedList() const;
+    bool writeSharedList();
+    bool report(const std::string &error);
+    void adopt(ProfileItems items);
+
+    platform::SettingsStore &store_;
+    platform::MainQueue &queue_;
+    SettingsPaths paths_;
+    Localize localize_;
+    std::string language_;
+    platform::FileCalls &calls_;
+    PreferencesHooks hooks_;
+    std::vector<OptionList> optionLists_;
+
+    ProfilesFile file_;
+    ProfileItems profilesItems_;
+    ProfileRecord profileSelected_;
+    int selectedItem_ = 0;
+    std::u16string profileName_;
+    std::optional<int> popupSelection_;
+    platform::PropertyDictionary controls_;
+    FindReplaceList findReplace_;
+    platform::MainQueue::TaskId pending_ = 0;
+
+    bool profilesAdding_ = false;
+    // Against re-entrance through hooks; set for a scope each.
+    bool profilesSaving_ = false;               // a file is being written
+    bool blockSaveProfileToDictionary_ = false; // a profile is being loaded into the controls
+    bool blockReadWhileSaving_ = false;         // the controls are being read
+};
+
+} // namespace nerlo::settings

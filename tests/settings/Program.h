@@ -1,0 +1,98 @@
+// The program's settings in a folder of their own, without windows.
+#pragma once
+
+#include "platform/PropertyList.h"
+#include "platform/linux/FileSettingsStore.h"
+#include "platform/memory/MemoryMainQueue.h"
+#include "settings/FirstStart.h"
+#include "settings/nrPreferences.h"
+#include "tests/TemporaryFolder.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace nerlo::settings::test {
+
+using namespace nerlo::test;
+using platform::FileSettingsStore;
+using platform::MemoryMainQueue;
+using platform::parsePropertyList;
+using platform::PropertyArray;
+using platform::PropertyDictionary;
+using platform::PropertyValue;
+
+inline SettingsPaths pathsIn(const TemporaryFolder &folder) {
+    return {folder / "config/nerlo-pro/defaults.plist", folder / "data/nerlo-pro/Data/profiles.nrp",
+            folder / "data/nerlo-pro/Data/profilesFR.nrp"};
+}
+
+// The program's settings, as a start makes them; the destructor is the program's end.
+struct Program {
+    explicit Program(const TemporaryFolder &folder)
+        : paths(pathsIn(folder))
+        , store(paths.store)
+        , preferences(store, queue, paths, {}, "fr") {
+        preferences.hooks().setAllBools = [this](const ProfileRecord &record) {
+            engine = record;
+            ++fills;
+        };
+        preferences.hooks().saveFailed = [this](const std::string &error) { failure = error; };
+    }
+    void start() {
+        setAllDefaultsInFirstRun(store, preferences);
+        preferences.initProfilesItems();
+        store.set("firstRunPreferences", true);
+        store.synchronize();
+    }
+    std::vector<std::u16string> names() const {
+        std::vector<std::u16string> names;
+        for (const ProfileItem &item : preferences.profilesItems()) {
+            names.push_back(profileNameOf(item.record));
+        }
+        return names;
+    }
+    const PropertyValue &control(const char *key) const {
+        return *preferences.controls().find(key);
+    }
+
+    SettingsPaths paths;
+    MemoryMainQueue queue;
+    FileSettingsStore store;
+    nrPreferences preferences;
+    ProfileRecord engine;
+    int fills = 0;
+    std::string failure;
+};
+
+inline PropertyArray profilesIn(const SettingsPaths &paths) {
+    const auto parsed = parsePropertyList(bytesOf(paths.profiles));
+    EXPECT_TRUE(parsed.value) << parsed.error;
+    const auto *array = parsed.value ? parsed.value->as<PropertyArray>() : nullptr;
+    return array ? *array : PropertyArray();
+}
+
+inline PropertyValue valueIn(const PropertyValue &record, std::string_view key) {
+    const PropertyValue *value = record.as<PropertyDictionary>()->find(key);
+    return value ? *value : PropertyValue(u"(absent)");
+}
+
+inline std::map<std::string, std::string> allFiles(const TemporaryFolder &folder) {
+    std::map<std::string, std::string> files;
+    for (const auto &entry : std::filesystem::recursive_directory_iterator(folder.path())) {
+        if (entry.is_regular_file()) {
+            files[entry.path().string()] = bytesOf(entry.path().string());
+        }
+    }
+    return files;
+}
+
+inline PropertyArray named(std::initializer_list<const char16_t *> names) {
+    PropertyArray array;
+    for (const char16_t *name : names) {
+        array.emplace_back(PropertyDictionary{{"profileName", name}});
+    }
+    return array;
+}
+
+} // namespace nerlo::settings::test

@@ -1,0 +1,163 @@
+#include "settings/SettingsKeys.h"
+
+#include "engine/Operations.h"
+#include "settings/OptionLists.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace nerlo::settings {
+namespace {
+
+using platform::PropertyArray;
+using platform::PropertyDictionary;
+using platform::PropertyValue;
+
+std::size_t place(std::string_view key) {
+    const SettingsKey *row = findKey(key);
+    EXPECT_NE(row, nullptr) << key;
+    return static_cast<std::size_t>(row - settingsKeys().data());
+}
+
+TEST(SettingsKeys, NoKeyTwiceInAScopeAndTheProfileFirst) {
+    std::set<std::pair<SettingScope, std::string>> seen;
+    for (const SettingsKey &row : settingsKeys()) {
+        EXPECT_TRUE(seen.emplace(row.scope, row.key).second) << row.key;
+        EXPECT_FALSE(row.meaning.empty()) << row.key;
+        EXPECT_EQ(row.key.find('%'), std::string::npos) << row.key;
+    }
+    // 1 name, 42 switches and 1 more, 27 texts and 1 more, 12 choices and 1 more, 2 switches and
+    // 2 lists of find and replace.
+    EXPECT_EQ(profileKeys().size(), 89u);
+    EXPECT_EQ(findKey("sFindReplaceBool")->kind, SettingKind::Switch);
+    EXPECT_EQ(findKey("sFindReplaceBool", SettingScope::Store)->kind, SettingKind::HotKey);
+    EXPECT_EQ(findKey("udStatisticsValue")->kind, SettingKind::Text);
+    EXPECT_EQ(findKey("udStatisticsValue", SettingScope::Store)->kind, SettingKind::Integer);
+    EXPECT_EQ(findKey("nothing"), nullptr);
+    EXPECT_EQ(findKey("sSort", SettingScope::Profile), nullptr);
+}
+
+TEST(SettingsKeys, KeysOfSettingsAloneStandAmongTheEngines) {
+    EXPECT_EQ(place("profileName"), 0u);
+    EXPECT_EQ(place("udStatisticsDelaySwitcher"), place("udStatistics") + 1);
+    EXPECT_EQ(place("udChangeMultipleSpacesToSingleSpace"), place("udStatistics") + 2);
+    EXPECT_EQ(place("udStatisticsValue"), place("udDuplicatesCustomSeparator") + 1);
+    EXPECT_EQ(place("udStatisticsDefaultPosition"), place("udRemoveDuplicateLinesSeparator") + 1);
+    EXPECT_EQ(place("udChangeProperty10"), place("udChangeProperty1") + 9);
+    EXPECT_EQ(findKey("udChangeProperty10ToTextField")->meaning, "replacement of pair 10");
+    for (const engine::Operation &operation : engine::operations()) {
+        EXPECT_NE(findKey(operation.hotKey, SettingScope::Store), nullptr) << operation.hotKey;
+    }
+}
+
+TEST(SettingsKeys, FirstStartWritesTheseValuesInThisOrder) {
+    const PropertyDictionary expected{
+        {"profileName", u"default"},
+        {"udSortOption", 0},
+        {"udSortSeparator", 0},
+        {"udRemoveDuplicateLinesSeparator", 0},
+        {"udStatisticsValue", 3},
+        {"udStatisticsDefaultPosition", 5},
+        {"udChangeTabsAnd4SpacesOption", 0},
+        {"udChangeEllipsisAndDotsOption", 0},
+        {"udChangeWrongInsertedReturnsOption", 1},
+        {"udChangeReturnsOption", 1},
+        {"udChangeCaseOption", 0},
+        {"udChangeQuotesOption", 0},
+        {"udChangeQuotesSingleOption", 1},
+        {"udChangeQuotesDoubleOption", 4},
+        {"udInsertYourPatternOption", 0},
+        {"udStatistics", 1},
+        {"udStatisticsDelaySwitcher", 1},
+        {"udChangeMultipleSpacesToSingleSpace", 1},
+        {"udRemoveSpaceBeforeDot", 1},
+        {"udRemoveSpaceBeforeAfterTab", 1},
+        {"udRemoveSpaceBeforeAfterReturn", 1},
+        {"udChangeWrongInsertedReturnsTo", 1},
+        {"udChangeReturnsTo", 1},
+        {"udRemoveSpacesBeforeAndAfterText", 1},
+        {"udChangeQuotes", 1},
+        {"udRemoveBullets", 1},
+        {"udRemoveReplyQuotes", 1},
+    };
+    EXPECT_EQ(firstStartProfile("nb"), expected);
+    for (const auto &[key, value] : expected) {
+        const SettingsKey *row = findKey(key, SettingScope::Profile);
+        ASSERT_NE(row, nullptr) << key;
+        if (!key.starts_with("udChangeQuotesSingle") && !key.starts_with("udChangeQuotesDouble")) {
+            EXPECT_EQ(row->firstStart, value) << key;
+        }
+    }
+    // A region that the language table does not list falls to 0.
+    EXPECT_EQ(*firstStartProfile("de-AT").find("udChangeQuotesSingleOption"), PropertyValue(0));
+}
+
+TEST(SettingsKeys, ReadsValuesFromACommandLine) {
+    struct Row {
+        const char *key;
+        const char *text;
+        std::optional<PropertyValue> value;
+    };
+    const Row rows[] = {
+        {"udSort", "on", 1},
+        {"udSort", "false", 0},
+        {"udSort", "maybe", {}},
+        {"udSort", "", {}},
+        {"stayOnTop", "yes", true},
+        {"udSortOption", "7", 7},
+        {"udSortOption", "-1", -1},
+        {"udSortOption", "7x", {}},
+        {"udSortOption", "", {}},
+        {"udSortOption", "99999999999999999999", {}},
+        {"udPrefixTextField", "\xC3\xA9=", u"\xE9="},
+        {"udPrefixTextField", "", u""},
+        {"udPrefixTextField", "\xFF", {}},
+        {"AppleLanguages", "de,en", PropertyArray{u"de", u"en"}},
+        {"sFindAndReplaceItems", "x", {}},
+        {"sSort", "x", {}},
+    };
+    for (const Row &row : rows) {
+        const ParsedSetting parsed = parseSetting(*findKey(row.key), row.text);
+        EXPECT_EQ(parsed.value, row.value) << row.key << "=" << row.text;
+        EXPECT_EQ(parsed.error.empty(), row.value.has_value()) << row.key << "=" << row.text;
+    }
+}
+
+TEST(OptionLists, OneForEveryIndexWithAsManyItemsAsTheEngineKnows) {
+    const std::vector<OptionList> lists = optionLists();
+    std::vector<std::string> indexKeys;
+    for (const SettingsKey &row : profileKeys()) {
+        if (row.kind == SettingKind::Index) {
+            indexKeys.push_back(row.key);
+        }
+    }
+    ASSERT_EQ(lists.size(), indexKeys.size());
+    const std::size_t sizes[] = {8, 9, 9, 6, 2, 2, 2, 10, 4, 2, 10, 9, 2};
+    for (std::size_t i = 0; i < lists.size(); ++i) {
+        EXPECT_EQ(lists[i].key, indexKeys[i]);
+        EXPECT_EQ(lists[i].items.size(), sizes[i]) << lists[i].key;
+    }
+    EXPECT_EQ(lists[1].items[3], u"\",\"");
+    EXPECT_EQ(lists[1].items[sortCustomSeparatorPosition], u"Custom");
+    EXPECT_EQ(lists[3].items.back(), u"Cursor position");
+    EXPECT_EQ(lists[10].items[5], u"‹ … ›");
+    EXPECT_EQ(lists[11].items[8], u"\"…\"");
+}
+
+TEST(OptionLists, TranslationsAreSplitAndMayNameAllTenReturns) {
+    const auto lists = optionLists([](std::u16string_view key) -> std::u16string {
+        if (key == u"none, single return, double returns, space") {
+            return u"a, b, c, d, e, f, g, h, i, j";
+        }
+        return key == u"delete, search" ? u"löschen, suchen" : std::u16string(key);
+    });
+    EXPECT_EQ(lists[7].items.size(), 10u);
+    EXPECT_EQ(lists[7].items[9], u"j");
+    EXPECT_EQ(lists.back().items[1], u"suchen");
+}
+
+} // namespace
+} // namespace nerlo::settings
