@@ -1,0 +1,31 @@
+// One line of `nerlo batch` in, one line out. Lines are JSON in UTF-8.
+#pragma once
+
+#include "engine/CleaningOptions.h"
+
+#include <string>
+#include <string_view>
+
+namespace nerlo::cli {
+
+struct Answer {
+    std::string line;    // ends with a line break
+    bool failed = false; // the line tells of an error
+};
+
+class BatchAnswers {
+  public:
+    // `defaults` and `locale`, an ICU locale id, serve the requests that bring none of their own.
+    BatchAnswers(engine::CleaningOptions defaults, std::string locale);
+
+    // `request` comes without its line break and may be any bytes. Any thread; never throws.
+    Answer answer(std::string_view request) const;
+
+  private:
+    std::string resultOf(std::string_view request, std::string &id) const;
+
+    engine::CleaningOptions defaults_;
+    std::string locale_;
+};
+
+} // namespace nerlo::cli

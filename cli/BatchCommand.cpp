@@ -1,0 +1,188 @@
+// nerlo batch: one JSON request a line in, one JSON answer a line out.
+#include "cli/BatchAnswers.h"
+#include "cli/Commands.h"
+#include "cli/CommonArguments.h"
+#include "cli/Input.h"
+#include "cli/OrderedWorkers.h"
+#include "cli/Output.h"
+#include "cli/Progress.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <cstdlib>
+#include <functional>
+#include <memory>
+
+#include <unistd.h>
+
+namespace nerlo::cli {
+
+namespace {
+
+constexpr std::size_t readAtMost = 64 * 1024;
+constexpr std::size_t writeAtLeast = 64 * 1024; // while more requests are at hand
+constexpr unsigned mostJobs = 256;
+
+struct BatchArguments {
+    unsigned jobs = 1;
+    std::string locale;
+};
+
+// Lines of standard input, without their line breaks; the last one may lack it.
+class LineReader {
+  public:
+    explicit LineReader(Progress &progress)
+        : progress_(progress) {}
+
+    // Calls `line` for each complete line at hand and `idle` before it waits for more.
+    void run(const std::function<void(std::string_view)> &line, const std::function<void()> &idle) {
+        for (;;) {
+            const std::size_t kept = buffer_.size();
+            buffer_.resize(kept + readAtMost);
+            const std::size_t count =
+                readSome(STDIN_FILENO, buffer_.data() + kept, readAtMost, nameOf("-"));
+            buffer_.resize(kept + count);
+            progress_.addRead(count);
+            if (count == 0) {
+                break;
+            }
+            handOut(kept, line);
+            idle();
+        }
+        if (!buffer_.empty()) {
+            line(buffer_);
+        }
+    }
+
+  private:
+    // The bytes before `searched` hold no line break.
+    void handOut(std::size_t searched, const std::function<void(std::string_view)> &line) {
+        std::size_t start = 0;
+        const std::string_view all = buffer_;
+        for (std::size_t end = all.find('\n', searched); end != std::string::npos;
+             end = all.find('\n', start)) {
+            line(all.substr(start, end - start));
+            start = end + 1;
+        }
+        buffer_.erase(0, start);
+    }
+
+    Progress &progress_;
+    std::string buffer_;
+};
+
+// Writes answers and remembers which of them tell of an error.
+class AnswerWriter {
+  public:
+    explicit AnswerWriter(Progress &progress)
+        : progress_(progress) {}
+
+    void add(const Answer &answer) {
+        ++lines_;
+        if (answer.failed) {
+            firstFailed_ = failed_ == 0 ? lines_ : firstFailed_;
+            ++failed_;
+        }
+        pending_ += answer.line;
+        if (pending_.size() >= writeAtLeast) {
+            flush();
+        }
+    }
+    void flush() {
+        writeOutput(pending_);
+        progress_.addDone(pending_.size());
+        pending_.clear();
+    }
+    ExitStatus finish() {
+        flush();
+        progress_.stop();
+        if (failed_ == 0) {
+            return ExitStatus::done;
+        }
+        report("standard input: " + std::to_string(failed_) + " of " + std::to_string(lines_) +
+               " lines answered with an error, the first is line " + std::to_string(firstFailed_));
+        return ExitStatus::ioFailed;
+    }
+
+  private:
+    Progress &progress_;
+    std::string pending_;
+    std::size_t lines_ = 0;
+    std::size_t failed_ = 0;
+    std::size_t firstFailed_ = 0; // counted from 1
+};
+
+// Ends the program from a thread that cannot write any more: the main thread may be waiting for
+// input that never comes.
+[[noreturn]] void endNow(ExitStatus status) {
+    std::_Exit(static_cast<int>(status));
+}
+
+ExitStatus runBatch(const BatchArguments &arguments) {
+    engine::CleaningOptions options;
+    options.setAllBools(defaultOptions());
+    const BatchAnswers answers(std::move(options), arguments.locale);
+    Progress progress;
+    LineReader reader(progress);
+    AnswerWriter writer(progress);
+    if (arguments.jobs <= 1) {
+        reader.run([&](std::string_view line) { writer.add(answers.answer(line)); },
+                   [&] { writer.flush(); });
+        return writer.finish();
+    }
+    {
+        OrderedWorkers workers(
+            arguments.jobs, [&](std::string_view line) { return answers.answer(line); },
+            [&](const std::vector<Answer> &ready) {
+                try {
+                    for (const Answer &answer : ready) {
+                        writer.add(answer);
+                    }
+                    writer.flush();
+                } catch (const ClosedPipe &) {
+                    endNow(ExitStatus::done);
+                } catch (const Failure &failure) {
+                    report(failure.what());
+                    endNow(failure.status);
+                }
+            });
+        reader.run([&](std::string_view line) { workers.push(std::string(line)); }, [] {});
+    }
+    return writer.finish();
+}
+
+} // namespace
+
+void addBatch(CLI::App &app, ExitStatus &status) {
+    CLI::App *command = app.add_subcommand("batch", "Answer requests, one JSON object a line");
+    command->footer(
+        "Reads one request a line and writes one answer a line, in the same order:\n"
+        "\n"
+        "  {\"id\": 1, \"text\": \"a  b\"}            ->  {\"id\":1,\"text\":\"a b\"}\n"
+        "  {\"text\": \"a b\", \"operation\": 25}     ->  {\"id\":null,\"statistics\":{...}}\n"
+        "  {\"id\": 2}                          ->  {\"id\":2,\"error\":\"no \\\"text\\\"\"}\n"
+        "\n"
+        "A request may hold \"id\" (any value, given back as it came), \"text\", \"operation\" "
+        "(index\n"
+        "or name; the full pipeline when missing), \"options\" (an object of settings keys that\n"
+        "stands for a whole profile: a key that is missing is off, 0 or empty; without the "
+        "object,\n"
+        "the same options hold as for `nerlo clean`) and \"locale\". Operation 25 answers with "
+        "the\n"
+        "four counts. A line that cannot be answered gets an error, the rest goes on, and the "
+        "exit\n"
+        "status is 1 at the end. The answers do not depend on the number of jobs.\n" +
+        std::string(localeHelp) +
+        "\n"
+        "Example:\n"
+        "  printf '{\"text\": \"a  b\"}\\n' | nerlo batch --jobs 2");
+    const auto arguments = std::make_shared<BatchArguments>();
+    command->add_option("--jobs", arguments->jobs, "Work on so many requests at a time (1)")
+        ->check(CLI::Range(1u, mostJobs))
+        ->option_text("N");
+    addLocale(*command, arguments->locale);
+    command->callback([arguments, &status] { status = runBatch(*arguments); });
+}
+
+} // namespace nerlo::cli

@@ -1,0 +1,125 @@
+// nerlo clean: files or standard input in, clean text out.
+#include "cli/Commands.h"
+#include "cli/CommonArguments.h"
+#include "cli/Input.h"
+#include "cli/Output.h"
+#include "cli/Progress.h"
+#include "engine/Operations.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <memory>
+
+namespace nerlo::cli {
+
+namespace {
+
+struct CleanArguments {
+    std::string operation; // empty: the full pipeline
+    OptionArguments options;
+    std::string locale;
+    bool inPlace = false;
+    std::vector<std::string> files;
+};
+
+const engine::Operation *operationOf(const std::string &nameOrIndex) {
+    const engine::Operation *operation = engine::findOperation(nameOrIndex);
+    if (!operation) {
+        throw Failure(ExitStatus::unusableArguments,
+                      "unknown operation \"" + nameOrIndex + "\"; `nerlo operations` lists them");
+    }
+    return operation;
+}
+
+void checkInPlace(const CleanArguments &arguments) {
+    if (!arguments.inPlace) {
+        return;
+    }
+    if (arguments.files.empty()) {
+        throw Failure(ExitStatus::unusableArguments, "--in-place needs a file");
+    }
+    for (const std::string &file : arguments.files) {
+        if (file == "-") {
+            throw Failure(ExitStatus::unusableArguments,
+                          "--in-place cannot rewrite standard input");
+        }
+    }
+}
+
+ExitStatus runClean(const CleanArguments &arguments) {
+    checkInPlace(arguments);
+    const engine::Operation *operation =
+        arguments.operation.empty() ? nullptr : operationOf(arguments.operation);
+    engine::CleaningOptions options;
+    options.setAllBools(chosenOptions(arguments.options));
+    const engine::CleaningContext context{options, arguments.locale};
+
+    const std::vector<std::string> files =
+        arguments.files.empty() ? std::vector<std::string>{"-"} : arguments.files;
+    ExitStatus status = ExitStatus::done;
+    std::vector<std::u16string> cleaned; // for standard output, written only if all inputs are good
+    Progress progress;
+    for (const std::string &file : files) {
+        try {
+            std::size_t bytes = 0;
+            std::u16string text = readText(file, progress, &bytes);
+            text = operation ? engine::runOperation(operation->index, std::move(text), context)
+                             : engine::runPipeline(std::move(text), context);
+            progress.addDone(bytes);
+            if (arguments.inPlace) {
+                replaceFile(file, text);
+            } else {
+                cleaned.push_back(std::move(text));
+            }
+        } catch (const Failure &failure) {
+            // The other files are tried all the same, so that every bad one is named.
+            progress.stop();
+            report(failure.what());
+            status = failure.status;
+        }
+    }
+    progress.stop();
+    if (status == ExitStatus::done) {
+        writeOutput(cleaned);
+    }
+    return status;
+}
+
+} // namespace
+
+void addClean(CLI::App &app, ExitStatus &status) {
+    CLI::App *command = app.add_subcommand("clean", "Clean texts with the options that are on");
+    command->footer(
+        "Reads the files, or standard input, as UTF-8 and writes the cleaned text to standard\n"
+        "output, with no line break added. Several files are cleaned each on its own and written\n"
+        "one after another. Unless every input could be read, nothing is written.\n"
+        "\n"
+        "--options takes a property list, XML or binary; a key that it lacks is off, 0 or empty.\n"
+        "Without it, the profile holds that --profile names or that is selected in the desktop\n"
+        "program, and the first-start values where there are no profiles. --set changes single\n"
+        "keys; a list of rules is written as a JSON array. `nerlo keys` lists the keys,\n"
+        "`nerlo profiles` the profiles and `nerlo operations` the operations.\n" +
+        std::string(localeHelp) +
+        "\n"
+        "Examples:\n"
+        "  nerlo clean letter.txt > clean.txt\n"
+        "  xclip -o -sel c | nerlo clean | xclip -sel c\n"
+        "  nerlo clean --operation change-case --set udChangeCaseOption=3 --in-place *.txt\n"
+        "\n"
+        "Exit status: 0 done; 1 an input or output failed, with a message that names it, and for\n"
+        "invalid UTF-8 the offset of the first bad byte, counted from 0; 2 unusable arguments.");
+    const auto arguments = std::make_shared<CleanArguments>();
+    command
+        ->add_option("--operation", arguments->operation,
+                     "Run only this operation, whether or not it is on")
+        ->type_name("INDEX|NAME");
+    addOptions(*command, arguments->options);
+    addLocale(*command, arguments->locale);
+    command->add_flag("--in-place", arguments->inPlace,
+                      "Rewrite each file; one that fails stays as it was");
+    addFiles(*command, arguments->files);
+    command->callback([arguments, &status] { status = runClean(*arguments); });
+}
+
+} // namespace nerlo::cli

@@ -1,0 +1,158 @@
+#include "cli/CommonArguments.h"
+
+#include "cli/Failure.h"
+#include "cli/Input.h"
+#include "cli/JsonOptions.h"
+#include "cli/Progress.h"
+#include "platform/PropertyList.h"
+#include "platform/UserLocale.h"
+#include "platform/linux/FileSettingsStore.h"
+#include "settings/ProfilesFile.h"
+#include "settings/SettingsKeys.h"
+#include "settings/UserLanguages.h"
+
+#include <CLI/App.hpp>
+#include <nlohmann/json.hpp>
+
+namespace nerlo::cli {
+
+namespace {
+
+using platform::PropertyDictionary;
+
+[[noreturn]] void refuse(const std::string &message) {
+    throw Failure(ExitStatus::unusableArguments, message);
+}
+
+const settings::SettingsKey &knownKey(const std::string &key, const std::string &place) {
+    const settings::SettingsKey *row = settings::findKey(key);
+    if (!row) {
+        refuse("unknown key \"" + key + "\" in " + place + "; `nerlo keys` lists them");
+    }
+    return *row;
+}
+
+PropertyDictionary readOptions(const std::string &file) {
+    Progress progress;
+    const InputFile input(file);
+    const Bytes bytes = readBytes(input.descriptor(), nameOf(file), progress);
+    const platform::ParsedPropertyList parsed = platform::parsePropertyList(bytes.view());
+    if (!parsed.value) {
+        throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + parsed.error);
+    }
+    const auto *dictionary = parsed.value->as<PropertyDictionary>();
+    if (!dictionary) {
+        throw Failure(ExitStatus::ioFailed,
+                      nameOf(file) + ": the property list is not a dictionary of settings keys");
+    }
+    for (const auto &[key, value] : *dictionary) {
+        knownKey(key, nameOf(file));
+    }
+    return *dictionary;
+}
+
+// The profile with this name or place; for an empty one the selected, and the defaults where no
+// profiles have been made yet.
+PropertyDictionary profileOptions(const std::string &nameOrIndex) {
+    const auto paths = settings::SettingsPaths::standard();
+    settings::ProfilesFile file(paths.profiles);
+    const settings::ProfileItems items = file.load();
+    if (!file.loadError().empty()) {
+        throw Failure(ExitStatus::ioFailed, file.loadError());
+    }
+    const settings::ProfileItem *item = nullptr;
+    if (!nameOrIndex.empty()) {
+        item = settings::findProfile(items, nameOrIndex);
+        if (!item) {
+            refuse("no profile \"" + nameOrIndex + "\"; `nerlo profiles` lists them");
+        }
+    } else if (!items.empty()) {
+        const platform::FileSettingsStore store(paths.store);
+        const auto place =
+            settings::selectedPlace(store.integerForKey("udSelectedProfileItem"), items.size());
+        item = &items[static_cast<std::size_t>(place)];
+    }
+    return item ? settings::withSharedRules(item->record, paths) : defaultOptions();
+}
+
+platform::PropertyValue readRules(const std::string &key, std::string_view text) {
+    const nlohmann::json value = nlohmann::json::parse(text, nullptr, false);
+    if (!value.is_array()) {
+        refuse("--set " + key + ": not a JSON array of rules");
+    }
+    return settingFromJson(key, value);
+}
+
+void applySetting(const std::string &setting, PropertyDictionary &options) {
+    const std::size_t equals = setting.find('=');
+    if (equals == std::string::npos) {
+        refuse("--set " + setting + ": not of the form KEY=VALUE");
+    }
+    const std::string key = setting.substr(0, equals);
+    const std::string_view text = std::string_view(setting).substr(equals + 1);
+    const settings::SettingsKey &row = knownKey(key, "--set");
+    if (row.kind == settings::SettingKind::List) {
+        options.set(key, readRules(key, text));
+        return;
+    }
+    settings::ParsedSetting parsed = settings::parseSetting(row, text);
+    if (!parsed.value) {
+        refuse("--set " + key + ": " + parsed.error);
+    }
+    options.set(key, std::move(*parsed.value));
+}
+
+} // namespace
+
+void addFiles(CLI::App &command, std::vector<std::string> &files) {
+    command.add_option("files", files, "The files to read; none or \"-\" is standard input")
+        ->option_text("FILE...");
+}
+
+void addLocale(CLI::App &command, std::string &locale) {
+    locale = platform::userLocale();
+    command
+        .add_option_function<std::string>(
+            "--locale",
+            [&locale](const std::string &name) {
+                const std::optional<std::string> id = platform::localeId(name);
+                if (!id) {
+                    refuse("unusable locale \"" + name + "\"");
+                }
+                locale = *id;
+            },
+            "Whose rules for letter case, words, sentences and sorting hold (de_DE)")
+        ->type_name("LOCALE");
+}
+
+void addOptions(CLI::App &command, OptionArguments &arguments) {
+    command
+        .add_option("--options", arguments.file,
+                    "Take the options from a property list of settings keys")
+        ->type_name("FILE");
+    command
+        .add_option("--profile", arguments.profile,
+                    "Take the options from this profile instead of the selected one")
+        ->type_name("NAME|INDEX");
+    command.add_option("--set", arguments.settings, "Change one key; may be given several times")
+        ->type_name("KEY=VALUE")
+        ->allow_extra_args(false);
+}
+
+PropertyDictionary defaultOptions() {
+    return settings::firstStartProfile(settings::userLanguages().front());
+}
+
+PropertyDictionary chosenOptions(const OptionArguments &arguments) {
+    if (!arguments.file.empty() && !arguments.profile.empty()) {
+        refuse("--options and --profile exclude each other");
+    }
+    PropertyDictionary options =
+        arguments.file.empty() ? profileOptions(arguments.profile) : readOptions(arguments.file);
+    for (const std::string &setting : arguments.settings) {
+        applySetting(setting, options);
+    }
+    return options;
+}
+
+} // namespace nerlo::cli

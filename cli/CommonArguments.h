@@ -1,0 +1,44 @@
+// Arguments that several commands share.
+#pragma once
+
+#include "platform/PropertyValue.h"
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace nerlo::cli {
+
+// FILE...: standard input when none is named; "-" also means it.
+void addFiles(CLI::App &command, std::vector<std::string> &files);
+
+// What help texts say about --locale.
+inline constexpr const char *localeHelp = "Without --locale, the user's locale holds (LC_ALL, else "
+                                          "LC_CTYPE, else LANG), and en_US where\n"
+                                          "that is C or POSIX.\n";
+
+// --locale LOCALE. Afterwards `locale` is an ICU locale id, the user's unless one was given.
+void addLocale(CLI::App &command, std::string &locale);
+
+// --options FILE, --profile NAME|INDEX and --set KEY=VALUE.
+struct OptionArguments {
+    std::string file;    // empty when not given
+    std::string profile; // empty when not given
+    std::vector<std::string> settings;
+};
+
+void addOptions(CLI::App &command, OptionArguments &arguments);
+
+// The settings that hold when nothing on the command line says otherwise.
+platform::PropertyDictionary defaultOptions();
+
+// What the arguments ask for: the file, else the named profile, else the selected one, else the
+// defaults, each with the single settings put over it. Throws Failure: unusableArguments for a key
+// that is no settings key, a value that does not suit its key and an unknown profile, ioFailed for
+// a file that cannot be read.
+platform::PropertyDictionary chosenOptions(const OptionArguments &arguments);
+
+} // namespace nerlo::cli

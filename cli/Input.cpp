@@ -1,0 +1,145 @@
+#include "cli/Input.h"
+
+#include "cli/Failure.h"
+#include "text/Utf.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <new>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace nerlo::cli {
+
+namespace {
+
+constexpr std::size_t unknownSize = 64 * 1024; // first guess for a pipe
+constexpr std::size_t readAtMost = 1 << 20;    // a piece, so that the progress moves
+constexpr std::size_t blockSize = 128 * 1024;  // bytes decoded while they are in the cache
+
+// The size that a regular file says it has, which is only a hint.
+std::size_t sizeHint(int descriptor) {
+    struct stat status {};
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0) {
+        return static_cast<std::size_t>(status.st_size);
+    }
+    return unknownSize;
+}
+
+// Room for the text of so many bytes, which has at most as many units, and a few that a step may
+// need on the way. Large pages make first use of a large text several times cheaper.
+void reserve(std::u16string &text, std::size_t bytes) {
+    constexpr std::size_t slack = 64;
+    constexpr std::size_t large = 4 << 20;
+    text.reserve(bytes + slack);
+    const std::size_t size = text.capacity() * sizeof(char16_t);
+    if (size >= large) {
+        const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+        const auto address = reinterpret_cast<std::uintptr_t>(text.data());
+        const std::uintptr_t begin = (address + page - 1) / page * page;
+        // Only advice: where it is not taken, nothing is lost.
+        madvise(reinterpret_cast<void *>(begin), address + size - begin, MADV_HUGEPAGE);
+    }
+}
+
+} // namespace
+
+std::string nameOf(const std::string &file) {
+    return file == "-" ? "standard input" : file;
+}
+
+std::string systemMessage(const std::string &name, int error) {
+    return name + ": " + std::strerror(error);
+}
+
+InputFile::InputFile(const std::string &file)
+    : descriptor_(STDIN_FILENO) {
+    if (file == "-") {
+        return;
+    }
+    do {
+        descriptor_ = open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    } while (descriptor_ < 0 && errno == EINTR);
+    if (descriptor_ < 0) {
+        throw Failure(ExitStatus::ioFailed, systemMessage(file, errno));
+    }
+}
+
+InputFile::~InputFile() {
+    if (descriptor_ != STDIN_FILENO) {
+        close(descriptor_);
+    }
+}
+
+std::size_t readSome(int descriptor, char *data, std::size_t size, const std::string &name) {
+    for (;;) {
+        const ssize_t count = read(descriptor, data, size);
+        if (count >= 0) {
+            return static_cast<std::size_t>(count);
+        }
+        if (errno != EINTR) {
+            throw Failure(ExitStatus::ioFailed, systemMessage(name, errno));
+        }
+    }
+}
+
+Bytes readBytes(int descriptor, const std::string &name, Progress &progress) {
+    Bytes bytes;
+    std::size_t capacity = 0;
+    // One byte more than expected, so that the end is seen without growing.
+    std::size_t wanted = sizeHint(descriptor) + 1;
+    for (;;) {
+        if (bytes.size_ == capacity) {
+            capacity = std::max(wanted, capacity * 2);
+            char *grown = static_cast<char *>(std::realloc(bytes.data_.get(), capacity));
+            if (!grown) {
+                throw std::bad_alloc();
+            }
+            static_cast<void>(bytes.data_.release()); // realloc() has taken it over
+            bytes.data_.reset(grown);
+        }
+        const std::size_t count = readSome(descriptor, bytes.data_.get() + bytes.size_,
+                                           std::min(capacity - bytes.size_, readAtMost), name);
+        if (count == 0) {
+            return bytes;
+        }
+        bytes.size_ += count;
+        progress.addRead(count);
+    }
+}
+
+std::u16string readText(const std::string &file, Progress &progress, std::size_t *bytes) {
+    const std::string name = nameOf(file);
+    try {
+        const InputFile input(file);
+        std::u16string text;
+        reserve(text, sizeHint(input.descriptor()));
+        text::Utf8Decoder decoder;
+        const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
+        *bytes = 0;
+        while (const std::size_t count =
+                   readSome(input.descriptor(), block.get(), blockSize, name)) {
+            decoder.decode({block.get(), count}, text);
+            *bytes += count;
+            progress.addRead(count);
+            if (decoder.invalidAt()) {
+                break;
+            }
+        }
+        decoder.finish();
+        if (decoder.invalidAt()) {
+            throw Failure(ExitStatus::ioFailed,
+                          name + ": invalid UTF-8 at byte " + std::to_string(*decoder.invalidAt()));
+        }
+        return text;
+    } catch (const std::bad_alloc &) {
+        throw Failure(ExitStatus::ioFailed, systemMessage(name, ENOMEM));
+    }
+}
+
+} // namespace nerlo::cli

@@ -1,0 +1,62 @@
+// Reading whole inputs. Bytes are UTF-8; texts are UTF-16.
+#pragma once
+
+#include "cli/Progress.h"
+
+#include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace nerlo::cli {
+
+// What one input held.
+class Bytes {
+  public:
+    std::string_view view() const { return {data_.get(), size_}; }
+
+  private:
+    friend Bytes readBytes(int descriptor, const std::string &name, Progress &progress);
+
+    struct Free {
+        void operator()(char *data) const { std::free(data); }
+    };
+    // Grown with realloc(), which moves large blocks by their page tables instead of copying them.
+    std::unique_ptr<char, Free> data_;
+    std::size_t size_ = 0;
+};
+
+// An open file; "-" is standard input.
+class InputFile {
+  public:
+    // Throws Failure when the file cannot be opened.
+    explicit InputFile(const std::string &file);
+    ~InputFile();
+    InputFile(const InputFile &) = delete;
+    InputFile &operator=(const InputFile &) = delete;
+
+    int descriptor() const { return descriptor_; }
+
+  private:
+    int descriptor_;
+};
+
+// What messages call the file: "standard input" for "-", else its name.
+std::string nameOf(const std::string &file);
+
+// "NAME: " and the system's words for `error`, an errno value.
+std::string systemMessage(const std::string &name, int error);
+
+// read(2) again and again until something arrives: 0 at the end of the input. Throws Failure,
+// naming the input `name`.
+std::size_t readSome(int descriptor, char *data, std::size_t size, const std::string &name);
+
+// Everything up to the end of the input. Throws as readSome().
+Bytes readBytes(int descriptor, const std::string &name, Progress &progress);
+
+// The text of a file or, for "-", of standard input. Throws Failure when it cannot be read or is
+// not well-formed UTF-8. The size in bytes goes to `*bytes`.
+std::u16string readText(const std::string &file, Progress &progress, std::size_t *bytes);
+
+} // namespace nerlo::cli

@@ -1,0 +1,175 @@
+#include "cli/Output.h"
+
+#include "cli/Failure.h"
+#include "cli/Input.h"
+#include "text/Utf.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace nerlo::cli {
+
+namespace {
+
+const std::string standardOutput = "standard output";
+
+constexpr std::size_t blockSize = 128 * 1024; // bytes encoded and written at a time
+
+// Returns 0 or an errno value.
+int writeAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = write(descriptor, bytes.data(), bytes.size());
+        if (count >= 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        } else if (errno != EINTR) {
+            return errno;
+        }
+    }
+    return 0;
+}
+
+int writeText(int descriptor, std::u16string_view text) {
+    const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
+    while (!text.empty()) {
+        const std::size_t size = text::encodeUtf8(text, {block.get(), blockSize});
+        if (const int error = writeAll(descriptor, {block.get(), size})) {
+            return error;
+        }
+    }
+    return 0;
+}
+
+void checkOutput(int error) {
+    if (error == EPIPE) {
+        throw ClosedPipe();
+    }
+    if (error != 0) {
+        throw Failure(ExitStatus::ioFailed, systemMessage(standardOutput, error));
+    }
+}
+
+// Ctrl-C and the like wait until the temporary file is gone.
+class SignalsHeld {
+  public:
+    SignalsHeld() {
+        sigset_t set;
+        sigemptyset(&set);
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+            sigaddset(&set, signal);
+        }
+        pthread_sigmask(SIG_BLOCK, &set, &before_);
+    }
+    ~SignalsHeld() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    SignalsHeld(const SignalsHeld &) = delete;
+    SignalsHeld &operator=(const SignalsHeld &) = delete;
+
+  private:
+    sigset_t before_;
+};
+
+// A file beside `target` that is removed again unless it took the target's name.
+class TemporaryFile {
+  public:
+    explicit TemporaryFile(const std::string &target)
+        : path_(target.substr(0, target.rfind('/') + 1) + ".nerlo-XXXXXX")
+        , descriptor_(mkstemp(path_.data())) {
+        if (descriptor_ < 0) {
+            throw Failure(ExitStatus::ioFailed,
+                          systemMessage(target + ": no temporary file beside it", errno));
+        }
+    }
+    ~TemporaryFile() {
+        closeNow();
+        if (!path_.empty()) {
+            unlink(path_.c_str());
+        }
+    }
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    int descriptor() const { return descriptor_; }
+
+    // Both return 0 or an errno value.
+    int closeNow() {
+        const int result = descriptor_ < 0 ? 0 : close(descriptor_);
+        descriptor_ = -1;
+        return result == 0 ? 0 : errno;
+    }
+    int renameTo(const std::string &target) {
+        if (rename(path_.c_str(), target.c_str()) != 0) {
+            return errno;
+        }
+        path_.clear();
+        return 0;
+    }
+
+  private:
+    std::string path_;
+    int descriptor_;
+};
+
+// Returns 0 or an errno value. Another user's file cannot always be given back to that user; its
+// set-user-id bits must not then apply to us.
+int copyOwnerAndMode(const struct stat &from, int descriptor) {
+    mode_t mode = from.st_mode & 07777;
+    if (fchown(descriptor, from.st_uid, from.st_gid) != 0) {
+        mode &= 0777;
+    }
+    return fchmod(descriptor, mode) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+void writeOutput(std::string_view bytes) {
+    checkOutput(writeAll(STDOUT_FILENO, bytes));
+}
+
+void writeOutput(std::span<const std::u16string> texts) {
+    for (const std::u16string &text : texts) {
+        checkOutput(writeText(STDOUT_FILENO, text));
+    }
+}
+
+void closeOutput() {
+    // A closed standard output matters only to those who wrote, and they have been told.
+    if (close(STDOUT_FILENO) != 0 && errno != EBADF) {
+        checkOutput(errno);
+    }
+}
+
+void replaceFile(const std::string &file, std::u16string_view text) {
+    const auto check = [&](int error) {
+        if (error != 0) {
+            throw Failure(ExitStatus::ioFailed, systemMessage(file, error));
+        }
+    };
+    struct Free {
+        void operator()(char *path) const { std::free(path); }
+    };
+    const std::unique_ptr<char, Free> resolved(realpath(file.c_str(), nullptr));
+    check(resolved ? 0 : errno);
+    const std::string target = resolved.get();
+
+    struct stat status {};
+    check(stat(target.c_str(), &status) == 0 ? 0 : errno);
+    if (!S_ISREG(status.st_mode)) {
+        throw Failure(ExitStatus::ioFailed, file + ": not a regular file");
+    }
+
+    const SignalsHeld held;
+    TemporaryFile temporary(target);
+    check(writeText(temporary.descriptor(), text));
+    check(copyOwnerAndMode(status, temporary.descriptor()));
+    // On the disk before it takes the name: a power cut must not leave an empty file.
+    check(fsync(temporary.descriptor()) == 0 ? 0 : errno);
+    check(temporary.closeNow());
+    check(temporary.renameTo(target));
+}
+
+} // namespace nerlo::cli

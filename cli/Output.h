@@ -1,0 +1,27 @@
+// Writing results. Texts are UTF-16 and written as UTF-8, an unpaired surrogate as U+FFFD.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace nerlo::cli {
+
+// The reader of standard output has gone away: nobody waits for the rest, so the program ends
+// without a word.
+struct ClosedPipe {};
+
+// All of it to standard output. Throws ClosedPipe or Failure.
+void writeOutput(std::string_view bytes);
+// The texts one after another, in blocks, so that no second copy of a text is needed.
+void writeOutput(std::span<const std::u16string> texts);
+// Gives standard output back; some file systems tell only now that a write failed. Throws Failure.
+void closeOutput();
+
+// Puts `text` in the place of a regular file: written to a temporary file beside it, which then
+// takes its name, so that the file holds the old text or the new one at any moment. Mode and, where
+// allowed, owner are kept; a symbolic link is followed and stays. Throws Failure, and then the file
+// is as it was.
+void replaceFile(const std::string &file, std::u16string_view text);
+
+} // namespace nerlo::cli

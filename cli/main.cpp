@@ -1,0 +1,85 @@
+// nerlo: text cleaning for pipes, scripts and editors.
+#include "cli/Commands.h"
+#include "cli/Output.h"
+
+#include <CLI/App.hpp>
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <array>
+#include <csignal>
+#include <new>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace nerlo::cli {
+
+namespace {
+
+constexpr std::array commands{addClean, addCount, addBatch, addOperations, addKeys, addProfiles};
+
+// A descriptor that was closed by the caller would be given to the next file that is opened, and
+// what is meant for the terminal would land in it. Opened the wrong way round, it only fails.
+void occupyStandardDescriptors() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) < 0) {
+            open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+
+ExitStatus run(int argc, char **argv) {
+    CLI::App app("Cleans text: spaces, line breaks, quotes, bullets, reply marks, tags and more.",
+                 "nerlo");
+    app.set_version_flag("--version", "nerlo " NERLO_VERSION, "Print the version and end");
+    app.set_help_flag("--help,-h", "Print this help and end");
+    app.require_subcommand(0, 1); // none at all gets a message of ours
+    app.footer("`nerlo COMMAND --help` tells more, with examples.");
+    ExitStatus status = ExitStatus::done;
+    for (const auto add : commands) {
+        add(app, status);
+    }
+    try {
+        app.parse(argc, argv);
+        if (app.get_subcommands().empty()) {
+            throw CLI::RequiredError("A command");
+        }
+    } catch (const CLI::CallForVersion &) {
+        writeOutput(app.version() + "\n");
+    } catch (const CLI::CallForHelp &) {
+        writeOutput(app.help());
+    } catch (const CLI::ParseError &error) {
+        throw Failure(ExitStatus::unusableArguments,
+                      std::string(error.what()) + "\nTry `nerlo --help`.");
+    }
+    closeOutput();
+    return status;
+}
+
+} // namespace
+
+} // namespace nerlo::cli
+
+int main(int argc, char **argv) {
+    using namespace nerlo::cli;
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is seen as a failed write,
+    std::signal(SIGXFSZ, SIG_IGN); // and so is a limit on the size of files
+    occupyStandardDescriptors();
+    ExitStatus status = ExitStatus::done;
+    try {
+        status = run(argc, argv);
+    } catch (const ClosedPipe &) {
+        // Whoever read has enough.
+    } catch (const Failure &failure) {
+        report(failure.what());
+        status = failure.status;
+    } catch (const std::bad_alloc &) {
+        report("out of memory");
+        status = ExitStatus::ioFailed;
+    } catch (const std::exception &exception) {
+        report(exception.what());
+        status = ExitStatus::ioFailed;
+    }
+    return static_cast<int>(status);
+}

@@ -1,0 +1,111 @@
+#include "platform/PropertyList.h"
+#include "tests/TemporaryFolder.h"
+#include "tests/cli/RunNerlo.h"
+
+#include <gtest/gtest.h>
+
+namespace nerlo::test {
+namespace {
+
+using platform::PropertyArray;
+using platform::PropertyDictionary;
+using platform::PropertyValue;
+
+class Profiles : public testing::Test {
+  protected:
+    Ended nerlo(std::vector<std::string> arguments, std::string input = {}) const {
+        NerloRun run;
+        run.arguments = std::move(arguments);
+        run.input = std::move(input);
+        run.environment = {{"XDG_CONFIG_HOME", folder / "config"},
+                           {"XDG_DATA_HOME", folder / "data"},
+                           {"LANG", "C.UTF-8"}};
+        return run.toEnd();
+    }
+    void putProfiles(const std::string &bytes) const {
+        putBytes(folder / "data/nerlo-pro/Data/profiles.nrp", bytes);
+    }
+
+    const TemporaryFolder folder;
+    // Upper case for one, lower case for the other; a key that is nobody's.
+    const PropertyDictionary upper{{"profileName", u"Größe"},
+                                   {"udChangeCaseTo", 1},
+                                   {"udChangeCaseOption", 3},
+                                   {"future", platform::PropertyDate{5}}};
+    const PropertyDictionary lower{
+        {"profileName", u"small"}, {"udChangeCaseTo", 1}, {"udChangeCaseOption", 2}};
+};
+
+TEST_F(Profiles, AreImportedListedShownAndExported) {
+    EXPECT_EQ(nerlo({"profiles"}).out, "");
+    EXPECT_EQ(nerlo({"profiles", "--json"}).out, "[]\n");
+    EXPECT_EQ(nerlo({"profiles", "import", "-"}, writeBinary(upper)).status, 0);
+    EXPECT_EQ(nerlo({"profiles", "import", "-"}, writeXml(PropertyArray{lower, upper})).status, 0);
+    EXPECT_EQ(nerlo({"profiles"}).out, "* 0  Größe\n  1  small\n  2  Größe\n");
+    EXPECT_EQ(nerlo({"profiles", "show", "small"}).out,
+              "profileName = \"small\"\nudChangeCaseTo = 1\nudChangeCaseOption = 2\n");
+    EXPECT_EQ(nerlo({"profiles", "export", "Größe", "-"}).out, writeXml(upper));
+    EXPECT_EQ(nerlo({"profiles", "export", "1", folder / "out.plist"}).status, 0);
+    EXPECT_EQ(bytesOf(folder / "out.plist"), writeXml(lower));
+}
+
+TEST_F(Profiles, ChooseHowTextsAreCleaned) {
+    EXPECT_EQ(nerlo({"clean"}, "aB  c").out, "aB c") << "first-start values";
+    putProfiles(writeXml(PropertyArray{upper, lower}));
+    EXPECT_EQ(nerlo({"clean"}, "aB  c").out, "AB  C");
+    putBytes(folder / "config/nerlo-pro/defaults.plist",
+             writeXml(PropertyDictionary{{"udSelectedProfileItem", 1}}));
+    EXPECT_EQ(nerlo({"clean"}, "aB").out, "ab");
+    EXPECT_EQ(nerlo({"clean", "--profile", "Größe"}, "aB").out, "AB");
+    EXPECT_EQ(nerlo({"clean", "--profile", "0", "--set", "udChangeCaseTo=off"}, "aB").out, "aB");
+}
+
+TEST_F(Profiles, ListOfRulesForAllIsReadFromItsFile) {
+    const PropertyDictionary old{{"checkbox", true}, {"find", u"a"}, {"replace", u"old"}};
+    const PropertyDictionary now{{"checkbox", true}, {"find", u"a"}, {"replace", u"now"}};
+    putProfiles(
+        writeXml(PropertyArray{PropertyDictionary{{"sFindReplaceBool", 1},
+                                                  {"sOnlyOneProfile", 1},
+                                                  {"sFindAndReplaceItems", PropertyArray{old}}}}));
+    EXPECT_EQ(nerlo({"clean"}, "a").out, "old");
+    putBytes(folder / "data/nerlo-pro/Data/profilesFR.nrp", writeXml(PropertyArray{now}));
+    EXPECT_EQ(nerlo({"clean"}, "a").out, "now");
+}
+
+TEST_F(Profiles, WhatCannotBeUsedIsNamedAndNothingIsChanged) {
+    putProfiles(writeXml(PropertyArray{upper}));
+    struct Row {
+        const char *shows;
+        std::vector<std::string> arguments;
+        std::string input;
+        int status;
+        const char *message;
+    };
+    const Row rows[] = {
+        {"unknown profile", {"clean", "--profile", "nobody"}, "x", 2, "nobody"},
+        {"a place beyond", {"profiles", "show", "1"}, "", 2, "\"1\""},
+        {"options and profile", {"clean", "--options", "x", "--profile", "0"}, "", 2, "--profile"},
+        {"no property list", {"profiles", "import", "-"}, "hello", 1, "standard input"},
+        {"no profile",
+         {"profiles", "import", "-"},
+         writeXml(PropertyDictionary{{"a", 1}}),
+         1,
+         "settings keys"},
+        {"no file", {"profiles", "import", folder / "nothing"}, "", 1, "nothing"},
+        {"a folder in the way", {"profiles", "export", "0", folder.path()}, "", 1, "regular"},
+    };
+    for (const Row &row : rows) {
+        const Ended ended = nerlo(row.arguments, row.input);
+        EXPECT_EQ(ended.status, row.status) << row.shows;
+        EXPECT_EQ(ended.out, "") << row.shows;
+        EXPECT_NE(ended.err.find(row.message), std::string::npos) << row.shows << ": " << ended.err;
+    }
+    EXPECT_EQ(bytesOf(folder / "data/nerlo-pro/Data/profiles.nrp"), writeXml(PropertyArray{upper}));
+    putProfiles("damaged");
+    EXPECT_EQ(nerlo({"clean"}, "x").status, 1);
+    EXPECT_EQ(nerlo({"profiles", "import", "-"}, writeXml(upper)).status, 1);
+    EXPECT_EQ(bytesOf(folder / "data/nerlo-pro/Data/profiles.nrp"), "damaged");
+}
+
+} // namespace
+} // namespace nerlo::test
