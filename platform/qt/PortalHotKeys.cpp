@@ -1,0 +1,197 @@
+#include "platform/qt/PortalHotKeys.h"
+
+#include "platform/qt/PortalSession.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <utility>
+
+namespace nerlo::platform {
+
+namespace {
+
+class PortalHotKeys final : public HotKeyService {
+  public:
+    PortalHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout, QDBusConnection bus,
+                  const std::string &applicationId)
+        : mainQueue_(mainQueue)
+        , layout_(layout)
+        , session_(std::move(bus), QString::fromStdString(applicationId)) {
+        QObject::connect(&session_, &PortalSession::activated, &session_,
+                         [this](const QString &id) { activate(id); });
+        QObject::connect(&session_, &PortalSession::bound, &session_,
+                         [this](const QMap<QString, QString> &triggers) { take(triggers); });
+        QObject::connect(&session_, &PortalSession::refused, &session_,
+                         [this](const QString &why) { refuse(why.toStdString()); });
+    }
+
+    bool installHandler(Pressed pressed) override {
+        pressed_ = std::move(pressed);
+        return true;
+    }
+    void removeHandler() override { pressed_ = nullptr; }
+
+    Registration registerHotKey(const HotKeyRequest &request) override {
+        entries_.emplace(++last_, Entry{request, {HotKeyState::pending, {}}});
+        bindSoon();
+        return {last_, {}};
+    }
+    void unregisterHotKey(Handle handle) override {
+        if (entries_.erase(handle) != 0) {
+            bindSoon();
+        }
+    }
+
+    HotKeyStatus status(Handle handle) const override {
+        const auto entry = entries_.find(handle);
+        return entry == entries_.end() ? HotKeyStatus() : entry->second.status;
+    }
+    void setStatusHandler(StatusChanged changed) override { statusChanged_ = std::move(changed); }
+
+    // The desktop keeps the keys; what they would run waits.
+    void setSuspended(bool suspended) override { suspended_ = suspended; }
+
+    std::string description() const override {
+        return missing_.empty() ? "the desktop portal's GlobalShortcuts" : missing_;
+    }
+
+  private:
+    struct Entry {
+        HotKeyRequest request;
+        HotKeyStatus status;
+    };
+
+    static QString idOf(const HotKeyRequest &request) {
+        return request.name.empty() ? QStringLiteral("hot-key-%1").arg(request.id.id)
+                                    : QString::fromStdString(request.name);
+    }
+
+    // Many come and go in one task, at the program's start above all; the user is asked once.
+    void bindSoon() {
+        if (std::exchange(*bindPosted_, true)) {
+            return;
+        }
+        mainQueue_.post([this, weak = std::weak_ptr(bindPosted_)] {
+            if (const auto posted = weak.lock()) {
+                *posted = false;
+                bind();
+            }
+        });
+    }
+
+    void bind() {
+        QList<PortalShortcut> shortcuts;
+        for (auto &[handle, entry] : entries_) {
+            QVariantMap properties{
+                {QStringLiteral("description"), QString::fromStdString(entry.request.title)}};
+            if (const auto trigger = preferredTrigger(entry.request, layout_); !trigger.empty()) {
+                properties.insert(QStringLiteral("preferred_trigger"),
+                                  QString::fromStdString(trigger));
+            }
+            shortcuts.append({idOf(entry.request), properties});
+            entry.status = {HotKeyState::pending, {}};
+        }
+        session_.bind(shortcuts);
+    }
+
+    void activate(const QString &id) {
+        for (const auto &[handle, entry] : entries_) {
+            if (entry.status.state == HotKeyState::active && idOf(entry.request) == id) {
+                if (pressed_ && !suspended_) {
+                    const Pressed pressed = pressed_;
+                    pressed(entry.request.id);
+                }
+                return;
+            }
+        }
+    }
+
+    void take(const QMap<QString, QString> &triggers) {
+        missing_.clear();
+        setStatuses([&](const Entry &entry) -> HotKeyStatus {
+            const auto trigger = triggers.find(idOf(entry.request));
+            if (trigger == triggers.end()) {
+                return {HotKeyState::refused, "the desktop did not bind this shortcut"};
+            }
+            return {HotKeyState::active, trigger->toStdString()};
+        });
+    }
+
+    void refuse(const std::string &why) {
+        missing_ = session_.available() ? std::string() : why;
+        setStatuses([&](const Entry &) { return HotKeyStatus{HotKeyState::refused, why}; });
+    }
+
+    template <class StatusOf>
+    void setStatuses(StatusOf statusOf) {
+        std::vector<std::pair<HotKeyId, HotKeyStatus>> changes;
+        for (auto &[handle, entry] : entries_) {
+            if (auto status = statusOf(entry); status != entry.status) {
+                entry.status = status;
+                changes.emplace_back(entry.request.id, std::move(status));
+            }
+        }
+        for (const auto &[id, status] : changes) {
+            if (statusChanged_) {
+                const StatusChanged changed = statusChanged_;
+                changed(id, status);
+            }
+        }
+    }
+
+    MainQueue &mainQueue_;
+    const KeyboardLayout &layout_;
+    PortalSession session_;
+    Pressed pressed_;
+    StatusChanged statusChanged_;
+    std::map<Handle, Entry> entries_;
+    Handle last_ = 0;
+    bool suspended_ = false;
+    std::string missing_; // why there is no portal, as far as is known
+    std::shared_ptr<bool> bindPosted_ = std::make_shared<bool>(false);
+};
+
+} // namespace
+
+Created<HotKeyService> createPortalHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout,
+                                           std::string applicationId) {
+    // A connection of its own: the portal knows an application by its connection, and wants to be
+    // told its name before anything else is asked over it.
+    auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus,
+                                             QStringLiteral("nerlo-hot-keys"));
+    if (!bus.isConnected()) {
+        QDBusConnection::disconnectFromBus(bus.name());
+        return {nullptr, "there is no session bus"};
+    }
+    return {std::make_unique<PortalHotKeys>(mainQueue, layout, std::move(bus), applicationId), {}};
+}
+
+std::string preferredTrigger(const HotKeyRequest &request, const KeyboardLayout &layout) {
+    // Desktops match the name against Latin layouts too, but not the other way round.
+    const std::u16string text = layout.textOfKey(request.keyCode);
+    const bool latin = std::ranges::all_of(text, [](char16_t unit) { return unit < 0x100; });
+    static const XkbKeyboardLayout us(xkb::Keymap::fromNames("us"));
+    const std::string symbol =
+        (latin ? layout : static_cast<const KeyboardLayout &>(us)).symbolOfKey(request.keyCode);
+    if (symbol.empty()) {
+        return {};
+    }
+    const struct {
+        std::uint32_t flag;
+        const char *name;
+    } names[] = {{hotKeyCommand, "CTRL+"},
+                 {hotKeyControl, "LOGO+"},
+                 {hotKeyOption, "ALT+"},
+                 {hotKeyShift, "SHIFT+"}};
+    std::string trigger;
+    for (const auto &row : names) {
+        if ((request.modifiers & row.flag) != 0) {
+            trigger += row.name;
+        }
+    }
+    return trigger + symbol;
+}
+
+} // namespace nerlo::platform

@@ -1,0 +1,254 @@
+#include "platform/qt/PortalSession.h"
+
+#include "platform/HotKeyService.h"
+
+#include <optional>
+#include <utility>
+
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+
+namespace nerlo::platform {
+
+// Found by the meta type system where the type lives.
+QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcut) {
+    argument.beginStructure();
+    argument << shortcut.id << shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &shortcut) {
+    argument.beginStructure();
+    argument >> shortcut.id >> shortcut.properties;
+    argument.endStructure();
+    return argument;
+}
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString desktopPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString shortcutsInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
+const QString sessionInterface = QStringLiteral("org.freedesktop.portal.Session");
+const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
+const QString registryInterface = QStringLiteral("org.freedesktop.host.portal.Registry");
+
+// A trigger's text is for one line of a tooltip.
+constexpr qsizetype longestTrigger = 200;
+
+QString shown(const QVariant &text) {
+    return text.toString().simplified().left(longestTrigger);
+}
+
+// The portal's list of shortcuts, if it is one.
+std::optional<QMap<QString, QString>> triggersOf(const QVariant &value) {
+    if (value.metaType() != QMetaType::fromType<QDBusArgument>()) {
+        return std::nullopt;
+    }
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String("a(sa{sv})")) {
+        return std::nullopt;
+    }
+    QMap<QString, QString> triggers;
+    for (const auto &shortcut : qdbus_cast<QList<PortalShortcut>>(argument)) {
+        triggers.insert(shortcut.id,
+                        shown(shortcut.properties.value(QStringLiteral("trigger_description"))));
+    }
+    return triggers;
+}
+
+} // namespace
+
+PortalSession::PortalSession(QDBusConnection bus, QString applicationId)
+    : bus_(std::move(bus))
+    , applicationId_(std::move(applicationId)) {
+    qDBusRegisterMetaType<PortalShortcut>();
+    qDBusRegisterMetaType<QList<PortalShortcut>>();
+    bus_.connect(service, desktopPath, shortcutsInterface, QStringLiteral("Activated"), this,
+                 SLOT(onActivated(QDBusMessage)));
+    bus_.connect(service, desktopPath, shortcutsInterface, QStringLiteral("ShortcutsChanged"), this,
+                 SLOT(onShortcutsChanged(QDBusMessage)));
+    // Every request of this connection, whatever path the portal gives it.
+    bus_.connect(service, QString(), requestInterface, QStringLiteral("Response"), this,
+                 SLOT(onResponse(uint, QVariantMap, QDBusMessage)));
+    bus_.connect(service, QString(), sessionInterface, QStringLiteral("Closed"), this,
+                 SLOT(onClosed(QDBusMessage)));
+    auto *watcher =
+        new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this,
+            [this] { nameOwnerChanged(true); });
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this,
+            [this] { nameOwnerChanged(false); });
+}
+
+PortalSession::~PortalSession() {
+    end();
+    QDBusConnection::disconnectFromBus(bus_.name());
+}
+
+void PortalSession::bind(QList<PortalShortcut> shortcuts) {
+    end();
+    ++generation_;
+    shortcuts_ = std::move(shortcuts);
+    if (shortcuts_.isEmpty()) {
+        return;
+    }
+    if (introduced_) {
+        createSession();
+    } else {
+        introduce();
+    }
+}
+
+// Tells the portal which application this is, where it takes that from programs outside sandboxes.
+// Older portals know it by its systemd scope or not at all, and go on without.
+void PortalSession::introduce() {
+    introduced_ = true;
+    auto call = QDBusMessage::createMethodCall(service, desktopPath, registryInterface,
+                                               QStringLiteral("Register"));
+    call << applicationId_ << QVariantMap();
+    auto *watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, generation = generation_](QDBusPendingCallWatcher *finished) {
+                finished->deleteLater();
+                if (generation == generation_) {
+                    createSession();
+                }
+            });
+}
+
+void PortalSession::createSession() {
+    request(QStringLiteral("CreateSession"), {},
+            {{QStringLiteral("session_handle_token"), QStringLiteral("nerlo%1").arg(++tokens_)}},
+            [this](const QVariantMap &results) {
+                const auto handle = results.value(QStringLiteral("session_handle"));
+                session_ = handle.metaType() == QMetaType::fromType<QDBusObjectPath>()
+                               ? handle.value<QDBusObjectPath>().path()
+                               : handle.toString();
+                if (session_.isEmpty()) {
+                    fail(QStringLiteral("the desktop portal gave no session"));
+                } else {
+                    bindShortcuts();
+                }
+            });
+}
+
+void PortalSession::bindShortcuts() {
+    request(QStringLiteral("BindShortcuts"),
+            {QVariant::fromValue(QDBusObjectPath(session_)), QVariant::fromValue(shortcuts_),
+             QString()},
+            {}, [this](const QVariantMap &results) {
+                const auto triggers = triggersOf(results.value(QStringLiteral("shortcuts")));
+                if (triggers) {
+                    emit bound(*triggers);
+                } else {
+                    fail(QStringLiteral("the desktop bound no shortcut"));
+                }
+            });
+}
+
+void PortalSession::request(const QString &method, QVariantList arguments, QVariantMap options,
+                            Answer answer) {
+    const QString token = QStringLiteral("nerlo%1").arg(++tokens_);
+    options.insert(QStringLiteral("handle_token"), token);
+    arguments.append(options);
+    // Known beforehand, as the answer may be faster than the call's own return.
+    const QString sender = bus_.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+    awaitedRequest_ = desktopPath + QStringLiteral("/request/") + sender + QLatin1Char('/') + token;
+    answer_ = std::move(answer);
+    auto call = QDBusMessage::createMethodCall(service, desktopPath, shortcutsInterface, method);
+    call.setArguments(arguments);
+    auto *watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, generation = generation_](QDBusPendingCallWatcher *finished) {
+                finished->deleteLater();
+                if (generation == generation_ && finished->isError()) {
+                    failCall(finished->reply());
+                }
+            });
+}
+
+void PortalSession::onResponse(uint code, const QVariantMap &results, const QDBusMessage &message) {
+    if (awaitedRequest_.isEmpty() || message.path() != awaitedRequest_) {
+        return;
+    }
+    awaitedRequest_.clear();
+    const Answer answer = std::exchange(answer_, nullptr);
+    if (code == 0) {
+        available_ = true;
+        answer(results);
+    } else {
+        fail(code == 1 ? QStringLiteral("it was declined in the desktop's dialog")
+                       : QStringLiteral("the desktop portal refused it"));
+    }
+}
+
+void PortalSession::onActivated(const QDBusMessage &message) {
+    const auto arguments = message.arguments();
+    if (!session_.isEmpty() && arguments.size() >= 2 &&
+        arguments[0].value<QDBusObjectPath>().path() == session_) {
+        emit activated(arguments[1].toString());
+    }
+}
+
+void PortalSession::onShortcutsChanged(const QDBusMessage &message) {
+    const auto arguments = message.arguments();
+    if (session_.isEmpty() || arguments.size() < 2 ||
+        arguments[0].value<QDBusObjectPath>().path() != session_) {
+        return;
+    }
+    if (const auto triggers = triggersOf(arguments[1])) {
+        emit bound(*triggers);
+    }
+}
+
+void PortalSession::onClosed(const QDBusMessage &message) {
+    if (!session_.isEmpty() && message.path() == session_) {
+        session_.clear();
+        fail(QStringLiteral("the desktop has ended the shortcuts of this program"));
+    }
+}
+
+void PortalSession::failCall(const QDBusMessage &error) {
+    const QString name = error.errorName();
+    available_ = name != QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown") &&
+                 name != QLatin1String("org.freedesktop.DBus.Error.UnknownInterface") &&
+                 name != QLatin1String("org.freedesktop.DBus.Error.UnknownMethod") &&
+                 name != QLatin1String("org.freedesktop.DBus.Error.UnknownObject") &&
+                 name != QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner") &&
+                 !name.startsWith(QLatin1String("org.freedesktop.DBus.Error.Spawn"));
+    fail(available_ ? QStringLiteral("the desktop portal does not answer as it should")
+                    : QStringLiteral("this desktop has no GlobalShortcuts portal; ") +
+                          QLatin1String(hotKeysByHand));
+}
+
+void PortalSession::fail(const QString &why) {
+    end();
+    emit refused(why);
+}
+
+void PortalSession::end() {
+    awaitedRequest_.clear();
+    answer_ = nullptr;
+    if (!session_.isEmpty()) {
+        bus_.send(QDBusMessage::createMethodCall(service, std::exchange(session_, QString()),
+                                                 sessionInterface, QStringLiteral("Close")));
+    }
+}
+
+void PortalSession::nameOwnerChanged(bool there) {
+    // Another portal knows nothing of us.
+    introduced_ = false;
+    if (there && session_.isEmpty() && awaitedRequest_.isEmpty() && !available_) {
+        bind(std::exchange(shortcuts_, {}));
+    } else if (!there && !shortcuts_.isEmpty() && !session_.isEmpty()) {
+        session_.clear();
+        available_ = false;
+        fail(QStringLiteral("the desktop portal has ended"));
+    }
+}
+
+} // namespace nerlo::platform

@@ -1,0 +1,392 @@
+#include "platform/wayland/SelectionPeer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include <wayland-client.h>
+
+namespace nerlo::platform::wayland {
+
+namespace {
+
+// A program that pastes may stop reading for a while (a pager at the end of a pipe does), but not
+// hold our content for ever.
+constexpr auto receiverStallLimit = std::chrono::seconds(60);
+// Receivers served at the same time; beyond that the one that has been still for longest goes.
+constexpr std::size_t receiverLimit = 64;
+
+// Offers of which no event has said what they are. One at a time is the rule; a compositor that
+// leaves more of them is not to fill the memory, but may still come back to the latest.
+constexpr std::size_t announcedLimit = 8;
+
+bool contains(const std::vector<std::string> &names, std::string_view name) {
+    return std::ranges::find(names, name) != names.end();
+}
+
+// Longer names do not fit into a message of the protocol, and nobody could ask for them.
+bool usableName(const std::string &name) {
+    return !name.empty() && name.size() <= pasteboardFormatNameLimit &&
+           name.find('\0') == std::string::npos;
+}
+
+} // namespace
+
+struct SelectionPeer::ReadJob {
+    std::vector<std::string> formats;
+    std::size_t next = 0;
+    std::size_t bytesLeft;
+    Clock::time_point end;
+    PasteboardContent content;
+    Pasteboard::ReadHandler handler; // null once the job has ended
+
+    void finish(PasteboardStatus status) {
+        if (handler) {
+            const bool partial =
+                status == PasteboardStatus::done || status == PasteboardStatus::timedOut;
+            std::exchange(handler,
+                          nullptr)({status, partial ? std::move(content) : PasteboardContent()});
+        }
+    }
+};
+
+SelectionPeer::SelectionPeer(EventLoop &loop, std::function<void(ChangeCount)> replaced)
+    : loop_(loop)
+    , replaced_(std::move(replaced)) {}
+
+SelectionPeer::~SelectionPeer() {
+    destroyObjects();
+}
+
+void SelectionPeer::destroyObjects() {
+    leaveSeat();
+    for (const auto &[name, seat] : std::exchange(seats_, {})) {
+        wl_seat_destroy(seat);
+    }
+    if (manager_) {
+        destroyManager(std::exchange(manager_, nullptr));
+    }
+    managers_.clear();
+    registry_.reset();
+}
+
+std::string SelectionPeer::prepare() {
+    registry_ = std::make_unique<Registry>(
+        loop_.display(),
+        [this](std::uint32_t name, std::string_view interface, std::uint32_t version) {
+            addGlobal(name, interface, version);
+        },
+        [this](std::uint32_t name) { removeGlobal(name); });
+    if (!loop_.roundTrip(pasteboardStallLimit)) {
+        return "the Wayland compositor does not answer";
+    }
+    for (const auto &protocol : dataControls) {
+        const auto found = managers_.find(protocol.manager->name);
+        if (!manager_ && found != managers_.end()) {
+            protocol_ = &protocol;
+            // Version 1 of either: from version 2 on, one of them also tells of each change of the
+            // primary selection, which would wake us for nothing.
+            manager_ = registry_->bind(found->second, *protocol.manager, 1);
+        }
+    }
+    if (!manager_) {
+        return "the Wayland compositor has no data-control protocol";
+    }
+    takeSeat();
+    if (!loop_.roundTrip(pasteboardStallLimit)) {
+        return "the Wayland compositor does not answer";
+    }
+    return {};
+}
+
+void SelectionPeer::addGlobal(std::uint32_t name, std::string_view interface, std::uint32_t) {
+    if (interface == wl_seat_interface.name) {
+        seats_[name] = reinterpret_cast<wl_seat *>(registry_->bind(name, wl_seat_interface, 1));
+        if (manager_) {
+            takeSeat();
+        }
+    } else {
+        managers_.emplace(interface, name);
+    }
+}
+
+void SelectionPeer::removeGlobal(std::uint32_t name) {
+    const auto found = seats_.find(name);
+    if (found == seats_.end()) {
+        return;
+    }
+    if (name == seat_) {
+        leaveSeat();
+        replaceContent({});
+    }
+    wl_seat_destroy(found->second);
+    seats_.erase(found);
+    takeSeat();
+}
+
+void SelectionPeer::takeSeat() {
+    if (!device_ && manager_ && !seats_.empty()) {
+        seat_ = seats_.begin()->first;
+        device_ = protocol_->newDevice(manager_, seats_.begin()->second, *this);
+    }
+}
+
+void SelectionPeer::leaveSeat() {
+    announced_.push_back(std::exchange(current_, {}));
+    for (const Offer &offer : std::exchange(announced_, {})) {
+        if (offer.proxy) {
+            destroyOffer(offer.proxy);
+        }
+    }
+    for (const OwnSource &source : sources_) {
+        destroySource(source.proxy);
+    }
+    sources_.clear();
+    if (device_) {
+        destroyDevice(std::exchange(device_, nullptr));
+    }
+    seat_ = 0;
+}
+
+void SelectionPeer::finished() {
+    // The seat went, or the compositor has withdrawn the protocol from us: there is no use in
+    // asking for the same seat again.
+    leaveSeat();
+    replaceContent({});
+}
+
+void SelectionPeer::newOffer(wl_proxy *offer) {
+    if (announced_.size() == announcedLimit) {
+        destroyOffer(announced_.front().proxy);
+        announced_.erase(announced_.begin());
+    }
+    announced_.push_back({offer, {}});
+    listen(offer, *this);
+}
+
+void SelectionPeer::offeredFormat(wl_proxy *offer, const char *format) {
+    const auto found = std::ranges::find(announced_, offer, &Offer::proxy);
+    if (found != announced_.end() && found->formats.size() < pasteboardFormatLimit &&
+        std::strlen(format) <= pasteboardFormatNameLimit && !contains(found->formats, format)) {
+        found->formats.emplace_back(format);
+    }
+}
+
+SelectionPeer::Offer SelectionPeer::takeAnnounced(wl_proxy *offer) {
+    const auto found = std::ranges::find(announced_, offer, &Offer::proxy);
+    if (found == announced_.end()) {
+        return {};
+    }
+    Offer taken = std::move(*found);
+    announced_.erase(found);
+    return taken;
+}
+
+void SelectionPeer::selection(wl_proxy *offer) {
+    Offer taken = takeAnnounced(offer);
+    // An offer that was never announced, or the current one once more, is no news.
+    if (taken.proxy || !offer) {
+        replaceContent(std::move(taken));
+    }
+}
+
+void SelectionPeer::primarySelection(wl_proxy *offer) {
+    if (const Offer taken = takeAnnounced(offer); taken.proxy) {
+        destroyOffer(taken.proxy);
+    }
+}
+
+void SelectionPeer::replaceContent(Offer offer) {
+    if (current_.proxy) {
+        destroyOffer(current_.proxy);
+    }
+    current_ = std::move(offer);
+    ++count_;
+    endReads(PasteboardStatus::changed);
+    if (window_) {
+        ++window_->replacements;
+    } else {
+        replaced_(count_);
+    }
+}
+
+void SelectionPeer::endReads(PasteboardStatus status) {
+    for (const auto &job : std::exchange(reads_, {})) {
+        job->finish(status);
+    }
+    loop_.abandonIncoming();
+}
+
+void SelectionPeer::readFormats(const Pasteboard::FormatsHandler &handler) {
+    if (!loop_.connected()) {
+        handler({});
+        return;
+    }
+    handler({PasteboardStatus::done, count_, current_.formats});
+}
+
+void SelectionPeer::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+                         Pasteboard::ReadHandler handler) {
+    const auto job = std::make_shared<ReadJob>(ReadJob{.formats = std::move(formats),
+                                                       .bytesLeft = limit,
+                                                       .end = Clock::now() + pasteboardReadLimit,
+                                                       .content = {},
+                                                       .handler = std::move(handler)});
+    if (!loop_.connected()) {
+        job->finish(PasteboardStatus::unavailable);
+    } else if (of != count_) {
+        job->finish(PasteboardStatus::changed);
+    } else {
+        reads_.push_back(job);
+        readNext(job);
+    }
+}
+
+void SelectionPeer::readNext(const std::shared_ptr<ReadJob> &job) {
+    const auto end = [this, job](PasteboardStatus status) {
+        std::erase(reads_, job);
+        job->finish(status);
+    };
+    while (job->next < job->formats.size() &&
+           !contains(current_.formats, job->formats[job->next])) {
+        ++job->next;
+    }
+    if (job->next == job->formats.size()) {
+        // A compositor closes the pipe at once when the content is replaced; the news of that may
+        // come a moment later, and ends the job otherwise.
+        loop_.afterRoundTrip(pasteboardStallLimit, [end](bool) { end(PasteboardStatus::done); });
+        return;
+    }
+    Pipe pipe = makePipe();
+    if (!pipe.reader) {
+        end(PasteboardStatus::unavailable);
+        return;
+    }
+    const std::string &format = job->formats[job->next++];
+    receive(current_.proxy, format.c_str(), pipe.writer.get());
+    loop_.add(std::make_unique<IncomingTransfer>(
+        std::move(pipe.reader), TransferLimits{job->bytesLeft, pasteboardStallLimit, job->end},
+        [this, job, format, end](IncomingTransfer::Outcome outcome, std::string bytes) {
+            if (!job->handler) {
+                return;
+            }
+            if (outcome == IncomingTransfer::Outcome::abandoned) {
+                end(PasteboardStatus::timedOut);
+                return;
+            }
+            // An owner that has nothing to say closes the pipe: that is how it refuses a format.
+            if (!bytes.empty()) {
+                job->bytesLeft -= bytes.size();
+                job->content.push_back(
+                    {format, {}, std::make_shared<const std::string>(std::move(bytes))});
+            }
+            readNext(job);
+        }));
+}
+
+void SelectionPeer::write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
+                          Pasteboard::WriteHandler handler) {
+    writes_.push_back({std::move(content), onlyOver, std::move(handler)});
+    if (writes_.size() == 1) {
+        startWrite();
+    }
+}
+
+// One write at a time. The first round trip brings in what other programs did before; the second
+// one brings in the news of our own write.
+void SelectionPeer::startWrite() {
+    loop_.afterRoundTrip(pasteboardStallLimit, [this](bool answered) {
+        const auto &onlyOver = writes_.front().onlyOver;
+        if (!loop_.connected() || !device_) {
+            endWrite({PasteboardStatus::unavailable, 0});
+        } else if (!answered) {
+            endWrite({PasteboardStatus::timedOut, 0});
+        } else if (onlyOver && *onlyOver != count_) {
+            endWrite({PasteboardStatus::changed, 0});
+        } else {
+            setContent();
+        }
+    });
+}
+
+void SelectionPeer::setContent() {
+    PasteboardContent &content = writes_.front().content;
+    window_ = WriteWindow{nullptr};
+    if (!content.empty()) {
+        window_->source = protocol_->newSource(manager_, *this);
+        for (const PasteboardData &data : content) {
+            if (usableName(data.format)) {
+                addFormat(window_->source, data.format.c_str());
+            }
+        }
+        sources_.push_back({window_->source, std::move(content)});
+    }
+    setSelection(device_, window_->source);
+    loop_.afterRoundTrip(pasteboardStallLimit, [this](bool answered) {
+        if (answered) {
+            confirmWrite();
+            return;
+        }
+        window_.reset();
+        endWrite(
+            {loop_.connected() ? PasteboardStatus::timedOut : PasteboardStatus::unavailable, 0});
+    });
+}
+
+void SelectionPeer::confirmWrite() {
+    const WriteWindow window = *std::exchange(window_, std::nullopt);
+    const bool overtaken = window.source ? window.cancelled : current_.proxy != nullptr;
+    // One piece of news for our write, one more if a copy came after it; a compositor may keep ours
+    // from us.
+    for (int missing = (overtaken ? 2 : 1) - window.replacements; missing > 0; --missing) {
+        ++count_;
+    }
+    const ChangeCount own = overtaken ? count_ - 1 : count_;
+    endWrite({PasteboardStatus::done, own});
+    if (overtaken) {
+        replaced_(count_);
+    }
+}
+
+void SelectionPeer::endWrite(PasteboardWrite result) {
+    const auto handler = std::move(writes_.front().handler);
+    writes_.pop_front();
+    handler(result);
+    if (!writes_.empty()) {
+        startWrite();
+    }
+}
+
+void SelectionPeer::send(wl_proxy *source, const char *format, int fd) {
+    FileDescriptor receiver(fd);
+    const auto own = std::ranges::find(sources_, source, &OwnSource::proxy);
+    if (own == sources_.end()) {
+        return;
+    }
+    const auto data =
+        std::ranges::find(own->content, std::string_view(format),
+                          [](const auto &each) -> std::string_view { return each.format; });
+    if (data == own->content.end()) {
+        return;
+    }
+    if (auto transfer =
+            OutgoingTransfer::create(std::move(receiver), data->bytes, receiverStallLimit)) {
+        loop_.add(std::move(transfer));
+        loop_.limitOutgoing(receiverLimit);
+    }
+}
+
+void SelectionPeer::cancelled(wl_proxy *source) {
+    if (window_ && window_->source == source) {
+        window_->cancelled = true;
+    }
+    std::erase_if(sources_, [source](const OwnSource &own) { return own.proxy == source; });
+    destroySource(source);
+}
+
+void SelectionPeer::lost() {
+    endReads(PasteboardStatus::unavailable);
+    destroyObjects();
+}
+
+} // namespace nerlo::platform::wayland

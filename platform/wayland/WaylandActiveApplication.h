@@ -1,0 +1,17 @@
+// The application in front on a Wayland desktop whose compositor has foreign-toplevel management.
+#pragma once
+
+#include "platform/ActiveApplication.h"
+#include "platform/Created.h"
+#include "platform/MainQueue.h"
+
+#include <string>
+
+namespace nerlo::platform {
+
+// Waits for the compositor's first answers, for at most the clipboard's stall limit. `display` is
+// the name of a compositor's socket; empty for the one that the environment names.
+Created<ActiveApplication> createWaylandActiveApplication(MainQueue &mainQueue,
+                                                          const std::string &display = {});
+
+} // namespace nerlo::platform

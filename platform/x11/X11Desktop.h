@@ -1,0 +1,19 @@
+// What a window manager and a panel on X11 are asked and told.
+#pragma once
+
+#include "platform/MainQueue.h"
+#include "platform/TaskbarHint.h"
+#include "platform/TrayWatch.h"
+
+#include <functional>
+#include <memory>
+
+namespace nerlo::platform {
+
+// Null where $DISPLAY names no X server that answers. Main thread.
+std::unique_ptr<TaskbarHint> createX11TaskbarHint();
+// `appeared` runs on the main queue, at most once: soon if there is a tray already, else when one
+// comes. Null as above.
+std::unique_ptr<TrayWatch> createX11TrayWatch(MainQueue &mainQueue, std::function<void()> appeared);
+
+} // namespace nerlo::platform

@@ -1,0 +1,426 @@
+#include "platform/x11/X11HotKeys.h"
+
+#include "platform/VirtualKeys.h"
+#include "platform/x11/EventThread.h"
+#include "platform/x11/XkbEvents.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <future>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include <xkbcommon/xkbcommon-keysyms.h>
+
+namespace nerlo::platform {
+
+namespace {
+
+using x11::Connection;
+using x11::XkbEvents;
+using Handle = HotKeyService::Handle;
+
+// An X server that takes longer is stopped or far away; the main thread waits no more for it.
+constexpr std::chrono::seconds answerLimit{5};
+
+// Which modifier bits are what, by the keyboard map. 0 for a key that the keyboard does not have.
+struct ModifierMasks {
+    std::uint16_t alt = 0;
+    std::uint16_t super = 0;
+    std::uint16_t numLock = 0;
+    std::uint16_t scrollLock = 0;
+
+    bool operator==(const ModifierMasks &) const = default;
+
+    std::uint16_t locks() const {
+        return static_cast<std::uint16_t>(XCB_MOD_MASK_LOCK | numLock | scrollLock);
+    }
+    // Nothing, and why in `refusal`, if a modifier is not on the keyboard.
+    std::optional<std::uint16_t> of(std::uint32_t hotKeyModifiers, std::string &refusal) const {
+        const struct {
+            std::uint32_t flag;
+            std::uint16_t mask;
+            const char *name;
+        } rows[] = {{hotKeyCommand, XCB_MOD_MASK_CONTROL, "Ctrl"},
+                    {hotKeyShift, XCB_MOD_MASK_SHIFT, "Shift"},
+                    {hotKeyOption, alt, "Alt"},
+                    {hotKeyControl, super, "Super"}};
+        std::uint16_t masks = 0;
+        for (const auto &row : rows) {
+            if ((hotKeyModifiers & row.flag) != 0) {
+                if (row.mask == 0) {
+                    refusal = std::string("the keyboard has no ") + row.name + " key";
+                    return std::nullopt;
+                }
+                masks |= row.mask;
+            }
+        }
+        return masks;
+    }
+};
+
+ModifierMasks readMasks(Connection &connection) {
+    const auto *setup = xcb_get_setup(connection.get());
+    const auto first = setup->min_keycode;
+    const auto count = static_cast<std::uint8_t>(setup->max_keycode - first + 1);
+    const auto modifierCookie = xcb_get_modifier_mapping(connection.get());
+    const auto keyCookie = xcb_get_keyboard_mapping(connection.get(), first, count);
+    const x11::Reply<xcb_get_modifier_mapping_reply_t> modifiers(
+        xcb_get_modifier_mapping_reply(connection.get(), modifierCookie, nullptr));
+    const x11::Reply<xcb_get_keyboard_mapping_reply_t> keys(
+        xcb_get_keyboard_mapping_reply(connection.get(), keyCookie, nullptr));
+    if (!modifiers || !keys) {
+        return {};
+    }
+    const std::size_t perKey = keys->keysyms_per_keycode;
+    const auto *symbols = xcb_get_keyboard_mapping_keysyms(keys.get());
+    const auto has = [&](xcb_keycode_t key, std::initializer_list<xcb_keysym_t> wanted) {
+        if (key < first) {
+            return false;
+        }
+        const auto *begin = symbols + static_cast<std::size_t>(key - first) * perKey;
+        return std::any_of(begin, begin + perKey, [&](xcb_keysym_t symbol) {
+            return std::ranges::find(wanted, symbol) != wanted.end();
+        });
+    };
+    const std::size_t perModifier = modifiers->keycodes_per_modifier;
+    const auto *codes = xcb_get_modifier_mapping_keycodes(modifiers.get());
+    const auto maskOf = [&](std::initializer_list<xcb_keysym_t> wanted) -> std::uint16_t {
+        // Shift, Lock and Control come first and are what they are.
+        for (std::size_t modifier = 3; modifier < 8; ++modifier) {
+            for (std::size_t at = 0; at < perModifier; ++at) {
+                if (has(codes[modifier * perModifier + at], wanted)) {
+                    return static_cast<std::uint16_t>(1u << modifier);
+                }
+            }
+        }
+        return 0;
+    };
+    ModifierMasks masks;
+    masks.alt = maskOf({XKB_KEY_Alt_L, XKB_KEY_Alt_R});
+    if (masks.alt == 0) {
+        masks.alt = maskOf({XKB_KEY_Meta_L, XKB_KEY_Meta_R});
+    }
+    masks.super = maskOf({XKB_KEY_Super_L, XKB_KEY_Super_R});
+    masks.numLock = maskOf({XKB_KEY_Num_Lock});
+    masks.scrollLock = maskOf({XKB_KEY_Scroll_Lock});
+    return masks;
+}
+
+struct Grab {
+    HotKeyRequest request;
+    xcb_keycode_t key = 0;
+    std::uint16_t modifiers = 0;
+    bool held = false;
+    std::string refusal;
+};
+
+// Lives on the event thread once that has started.
+class Grabs final : public x11::EventSource {
+  public:
+    using Pressed = std::function<void(HotKeyId)>;
+    using Changed = std::function<void(Handle, HotKeyId, HotKeyStatus)>;
+
+    Grabs(std::unique_ptr<Connection> connection, XkbEvents events, Pressed pressed,
+          Changed changed)
+        : connection_(std::move(connection))
+        , events_(events)
+        , masks_(readMasks(*connection_))
+        , pressed_(std::move(pressed))
+        , changed_(std::move(changed)) {
+        events_.detectAutoRepeat(*connection_);
+    }
+
+    int fileDescriptor() const override {
+        return connection_->broken() ? -1 : xcb_get_file_descriptor(connection_->get());
+    }
+    std::optional<Clock::time_point> deadline() const override { return std::nullopt; }
+    void process() override {
+        for (;;) {
+            bool otherMap = false;
+            while (const auto event = x11::Event(xcb_poll_for_event(connection_->get()))) {
+                otherMap |= events_.isMapChange(*event);
+                handle(*event);
+            }
+            if (!otherMap) {
+                return;
+            }
+            followMap();
+        }
+    }
+
+    // Empty when the combination is ours now, else why it is not.
+    std::string add(Handle handle, const HotKeyRequest &request) {
+        Grab grab{request, 0, 0, false, {}};
+        if (suspended_) {
+            describe(grab);
+        } else {
+            take(grab);
+        }
+        std::string refusal = grab.refusal;
+        if (refusal.empty()) {
+            grabs_.emplace(handle, std::move(grab));
+        }
+        return refusal;
+    }
+
+    void remove(Handle handle) {
+        if (const auto entry = grabs_.find(handle); entry != grabs_.end()) {
+            release(entry->second);
+            grabs_.erase(entry);
+        }
+    }
+
+    void setSuspended(bool suspended) {
+        suspended_ = suspended;
+        takeAgain();
+    }
+
+  private:
+    void handle(const xcb_generic_event_t &event) {
+        const auto type = event.response_type & 0x7f;
+        const auto &key = reinterpret_cast<const xcb_key_press_event_t &>(event);
+        if (type == XCB_KEY_RELEASE) {
+            down_.erase(key.detail);
+            released_[key.detail] = key.time;
+        } else if (type == XCB_KEY_PRESS) {
+            // A held key repeats: presses with no release between, or, from a server that cannot do
+            // so, with a release of the same moment.
+            const auto release = released_.find(key.detail);
+            const bool repeated = !down_.insert(key.detail).second ||
+                                  (release != released_.end() && release->second == key.time);
+            if (!repeated) {
+                press(key);
+            }
+        }
+    }
+
+    void press(const xcb_key_press_event_t &key) {
+        const auto modifiers = static_cast<std::uint16_t>(key.state & 0xff & ~masks_.locks());
+        for (const auto &[handle, grab] : grabs_) {
+            if (grab.held && grab.key == key.detail && grab.modifiers == modifiers) {
+                pressed_(grab.request.id);
+                return;
+            }
+        }
+    }
+
+    void followMap() {
+        const auto masks = readMasks(*connection_);
+        if (masks != masks_) {
+            // Given back under the old masks, taken under the new ones.
+            for (auto &[handle, grab] : grabs_) {
+                release(grab);
+            }
+            masks_ = masks;
+            takeAgain();
+        }
+    }
+
+    void takeAgain() {
+        for (auto &[handle, grab] : grabs_) {
+            const std::string before = grab.refusal;
+            if (suspended_) {
+                release(grab);
+            } else if (!grab.held) {
+                take(grab);
+            }
+            if (grab.refusal != before) {
+                changed_(handle, grab.request.id,
+                         {grab.refusal.empty() ? HotKeyState::active : HotKeyState::refused,
+                          grab.refusal});
+            }
+        }
+        xcb_flush(connection_->get());
+    }
+
+    // Finds the key and modifiers on the keyboard; false, and why, when they are not there.
+    bool describe(Grab &grab) const {
+        grab.refusal.clear();
+        const auto key = x11KeyOfVirtualKey(grab.request.keyCode);
+        if (!key) {
+            grab.refusal = "the keyboard has no such key";
+            return false;
+        }
+        const auto modifiers = masks_.of(grab.request.modifiers, grab.refusal);
+        if (!modifiers) {
+            return false;
+        }
+        grab.key = *key;
+        grab.modifiers = *modifiers;
+        return true;
+    }
+
+    // The modifiers with every set of locks; a lock without a key adds none.
+    std::set<std::uint16_t> statesOf(const Grab &grab) const {
+        std::set<std::uint16_t> states{grab.modifiers};
+        for (const auto lock :
+             {std::uint16_t{XCB_MOD_MASK_LOCK}, masks_.numLock, masks_.scrollLock}) {
+            for (const auto state : std::set(states)) {
+                states.insert(static_cast<std::uint16_t>(state | lock));
+            }
+        }
+        return states;
+    }
+
+    void take(Grab &grab) {
+        if (!describe(grab)) {
+            return;
+        }
+        std::vector<xcb_void_cookie_t> cookies;
+        for (const auto state : statesOf(grab)) {
+            cookies.push_back(xcb_grab_key_checked(connection_->get(), 0,
+                                                   connection_->screen().root, state, grab.key,
+                                                   XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+        }
+        bool all = true;
+        for (const auto cookie : cookies) {
+            const x11::Reply<xcb_generic_error_t> error(
+                xcb_request_check(connection_->get(), cookie));
+            all = all && !error;
+        }
+        all = all && !connection_->broken();
+        grab.held = true;
+        if (!all) {
+            release(grab);
+            grab.refusal = connection_->broken() ? "the X server is gone"
+                                                 : "another program has taken this key combination";
+        }
+    }
+
+    void release(Grab &grab) {
+        if (std::exchange(grab.held, false)) {
+            for (const auto state : statesOf(grab)) {
+                xcb_ungrab_key(connection_->get(), grab.key, connection_->screen().root, state);
+            }
+            xcb_flush(connection_->get());
+        }
+    }
+
+    std::unique_ptr<Connection> connection_;
+    XkbEvents events_;
+    ModifierMasks masks_;
+    Pressed pressed_;
+    Changed changed_;
+    std::map<Handle, Grab> grabs_;
+    bool suspended_ = false;
+    std::set<xcb_keycode_t> down_;
+    std::map<xcb_keycode_t, xcb_timestamp_t> released_;
+};
+
+class X11HotKeys final : public HotKeyService {
+  public:
+    X11HotKeys(MainQueue &mainQueue, std::unique_ptr<Connection> connection, XkbEvents events)
+        : state_(std::make_shared<State>())
+        , grabs_(std::make_unique<Grabs>(
+              std::move(connection), events,
+              [&mainQueue, weak = std::weak_ptr(state_)](HotKeyId id) {
+                  mainQueue.post([weak, id] {
+                      const auto state = weak.lock();
+                      if (state && state->pressed && !state->suspended) {
+                          const Pressed pressed = state->pressed;
+                          pressed(id);
+                      }
+                  });
+              },
+              [&mainQueue, weak = std::weak_ptr(state_)](Handle handle, HotKeyId id,
+                                                         HotKeyStatus status) {
+                  mainQueue.post([weak, handle, id, status = std::move(status)] {
+                      if (const auto state = weak.lock()) {
+                          state->change(handle, id, status);
+                      }
+                  });
+              }))
+        , thread_(std::make_unique<x11::EventThread>(*grabs_)) {}
+
+    bool installHandler(Pressed pressed) override {
+        state_->pressed = std::move(pressed);
+        return true;
+    }
+    void removeHandler() override { state_->pressed = nullptr; }
+
+    Registration registerHotKey(const HotKeyRequest &request) override {
+        const Handle handle = ++last_;
+        auto answer = std::make_shared<std::promise<std::string>>();
+        auto answered = answer->get_future();
+        thread_->submit([grabs = grabs_.get(), handle, request, answer] {
+            answer->set_value(grabs->add(handle, request));
+        });
+        if (answered.wait_for(answerLimit) != std::future_status::ready) {
+            // Whatever still comes of it.
+            thread_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
+            return {0, "the X server does not answer"};
+        }
+        if (auto refusal = answered.get(); !refusal.empty()) {
+            return {0, std::move(refusal)};
+        }
+        state_->statuses[handle] = {HotKeyState::active, {}};
+        return {handle, {}};
+    }
+
+    void unregisterHotKey(Handle handle) override {
+        if (state_->statuses.erase(handle) != 0) {
+            thread_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
+        }
+    }
+
+    HotKeyStatus status(Handle handle) const override {
+        const auto entry = state_->statuses.find(handle);
+        return entry == state_->statuses.end() ? HotKeyStatus() : entry->second;
+    }
+    void setStatusHandler(StatusChanged changed) override {
+        state_->statusChanged = std::move(changed);
+    }
+
+    void setSuspended(bool suspended) override {
+        state_->suspended = suspended;
+        thread_->submit([grabs = grabs_.get(), suspended] { grabs->setSuspended(suspended); });
+    }
+
+    std::string description() const override { return "X11, grabbed keys"; }
+
+  private:
+    // Belongs to the main thread; tasks on the main queue hold it weakly.
+    struct State {
+        void change(Handle handle, HotKeyId id, const HotKeyStatus &status) {
+            const auto entry = statuses.find(handle);
+            if (entry == statuses.end()) {
+                return;
+            }
+            entry->second = status;
+            if (statusChanged) {
+                const StatusChanged changed = statusChanged;
+                changed(id, status);
+            }
+        }
+        Pressed pressed;
+        StatusChanged statusChanged;
+        std::map<Handle, HotKeyStatus> statuses;
+        bool suspended = false;
+    };
+
+    std::shared_ptr<State> state_;
+    std::unique_ptr<Grabs> grabs_;
+    std::unique_ptr<x11::EventThread> thread_;
+    Handle last_ = 0;
+};
+
+} // namespace
+
+Created<HotKeyService> createX11HotKeys(MainQueue &mainQueue) {
+    auto connection = Connection::open();
+    if (!connection) {
+        return {nullptr, "no X display"};
+    }
+    const auto events = XkbEvents::select(*connection);
+    if (!events) {
+        return {nullptr, "the X server has no keyboard extension"};
+    }
+    return {std::make_unique<X11HotKeys>(mainQueue, std::move(connection), *events), {}};
+}
+
+} // namespace nerlo::platform

@@ -1,0 +1,17 @@
+// Hot keys by passive grabs on the root window.
+//
+// A grab belongs to one key code and one exact set of modifiers, so each hot key takes a grab for
+// every state of Caps Lock, Num Lock and Scroll Lock. Which modifiers Alt, Super and the locks are
+// is the keyboard map's to say; when that changes, the grabs are made again.
+#pragma once
+
+#include "platform/Created.h"
+#include "platform/HotKeyService.h"
+#include "platform/MainQueue.h"
+
+namespace nerlo::platform {
+
+// On the display in $DISPLAY. The main queue must outlive the result.
+Created<HotKeyService> createX11HotKeys(MainQueue &mainQueue);
+
+} // namespace nerlo::platform

@@ -1,0 +1,511 @@
+// The Wayland clipboard against a compositor, owners and receivers that do what real ones should
+// not.
+#include "platform/wayland/WaylandPasteboard.h"
+
+#include "platform/memory/MemoryMainQueue.h"
+#include "platform/wayland/DataControl.h"
+#include "platform/wayland/Transfer.h"
+#include "tests/platform/wayland/FakeCompositor.h"
+
+#include <algorithm>
+#include <chrono>
+#include <mutex>
+#include <optional>
+#include <random>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace nerlo::platform {
+namespace {
+
+using namespace std::chrono_literals;
+using test::FakeCompositor;
+using wayland::dataControls;
+using wayland::FileDescriptor;
+
+using Strings = std::vector<std::string>;
+
+PasteboardContent content(const Strings &formats, const std::string &bytes) {
+    const auto shared = std::make_shared<const std::string>(bytes);
+    PasteboardContent made;
+    for (const auto &format : formats) {
+        made.push_back({format, {}, shared});
+    }
+    return made;
+}
+
+struct Desktop {
+    explicit Desktop(const wl_interface *manager = dataControls[0].manager, int seats = 1)
+        : compositor(manager, seats) {
+        auto created = createWaylandPasteboard(queue, compositor.display());
+        pasteboard = std::move(created.backend);
+        declined = created.declined;
+    }
+
+    // Serves the main queue until `done`; false after ten seconds.
+    bool until(const std::function<bool()> &done) {
+        const auto end = std::chrono::steady_clock::now() + 10s;
+        while (!done()) {
+            if (std::chrono::steady_clock::now() > end) {
+                return false;
+            }
+            std::this_thread::sleep_for(200us);
+            queue.runPosted();
+        }
+        return true;
+    }
+    bool untilCount(ChangeCount count) {
+        return until([&] { return pasteboard->changeCount() == count; });
+    }
+
+    PasteboardFormats formats() {
+        std::optional<PasteboardFormats> result;
+        pasteboard->readFormats([&](PasteboardFormats got) { result = std::move(got); });
+        until([&] { return result.has_value(); });
+        return result.value_or(PasteboardFormats());
+    }
+    std::optional<PasteboardRead> startedRead;
+    void startRead(const Strings &formats, std::size_t limit = 1 << 20) {
+        startedRead.reset();
+        pasteboard->read(pasteboard->changeCount(), formats, limit,
+                         [&](PasteboardRead got) { startedRead = std::move(got); });
+    }
+    PasteboardRead read(const Strings &formats, std::size_t limit = 1 << 20) {
+        startRead(formats, limit);
+        until([&] { return startedRead.has_value(); });
+        return startedRead.value_or(PasteboardRead());
+    }
+    std::string text(const std::string &format = "text/plain;charset=utf-8") {
+        const auto result = read({format});
+        return result.content.size() == 1 ? *result.content[0].bytes : "(nothing)";
+    }
+    PasteboardWrite write(const PasteboardContent &what, std::optional<ChangeCount> over = {}) {
+        std::optional<PasteboardWrite> result;
+        pasteboard->write(what, over, [&](PasteboardWrite got) { result = got; });
+        until([&] { return result.has_value(); });
+        return result.value_or(PasteboardWrite());
+    }
+
+    MemoryMainQueue queue;
+    FakeCompositor compositor;
+    std::unique_ptr<Pasteboard> pasteboard;
+    std::string declined;
+};
+
+TEST(WaylandPasteboard, CountsReadsAndWritesUnderBothNamesOfTheProtocol) {
+    for (const auto &protocol : dataControls) {
+        SCOPED_TRACE(protocol.name);
+        Desktop desktop(protocol.manager);
+        ASSERT_TRUE(desktop.pasteboard) << desktop.declined;
+        EXPECT_EQ(desktop.pasteboard->description(), std::string("Wayland, ") + protocol.name);
+        int changes = 0;
+        desktop.pasteboard->setChangeHandler([&] { ++changes; });
+        desktop.queue.runPosted();
+        changes = 0;
+        const auto start = desktop.pasteboard->changeCount();
+        desktop.compositor.copyText("one");
+        ASSERT_TRUE(desktop.untilCount(start + 1));
+        ASSERT_TRUE(desktop.until([&] { return changes == 1; }));
+        EXPECT_EQ(desktop.formats().formats, Strings{"text/plain;charset=utf-8"});
+        EXPECT_EQ(desktop.text(), "one");
+
+        const auto written = desktop.write(content({"text/plain", "text/html"}, "two"), start + 1);
+        EXPECT_EQ(written.status, PasteboardStatus::done);
+        EXPECT_EQ(written.changeCount, start + 2);
+        EXPECT_EQ(desktop.pasteboard->changeCount(), start + 2);
+        EXPECT_EQ(desktop.compositor.programFormats(), (Strings{"text/plain", "text/html"}));
+        EXPECT_EQ(desktop.compositor.paste("text/html"), "two");
+        EXPECT_EQ(desktop.text("text/plain"), "two") << "our own content, through the compositor";
+
+        EXPECT_EQ(desktop.write({}).changeCount, start + 3);
+        EXPECT_EQ(desktop.formats().formats, Strings());
+        desktop.compositor.copyText("three");
+        desktop.compositor.empty();
+        ASSERT_TRUE(desktop.untilCount(start + 5));
+        EXPECT_EQ(desktop.pasteboard->changeCount(), desktop.formats().changeCount);
+    }
+}
+
+TEST(WaylandPasteboard, WhatStandsThereBeforeItIsNotAChange) {
+    FakeCompositor compositor(dataControls[1].manager);
+    compositor.copyText("old");
+    MemoryMainQueue queue;
+    const auto pasteboard = createWaylandPasteboard(queue, compositor.display()).backend;
+    const auto start = pasteboard->changeCount();
+    std::optional<PasteboardFormats> formats;
+    pasteboard->readFormats([&](PasteboardFormats got) { formats = std::move(got); });
+    while (!formats) {
+        queue.runPosted();
+    }
+    EXPECT_EQ(formats->formats.size(), 1u);
+    EXPECT_EQ(pasteboard->changeCount(), start);
+}
+
+TEST(WaylandPasteboard, AnOwnWriteDoesNotShowInTheCountBeforeItsHandlerHasRun) {
+    Desktop desktop;
+    const auto start = desktop.pasteboard->changeCount();
+    ChangeCount inHandler = 0;
+    desktop.pasteboard->write(content({"text/plain"}, "own"), {},
+                              [&](PasteboardWrite result) { inHandler = result.changeCount; });
+    while (desktop.compositor.programFormats().empty()) {
+        std::this_thread::yield();
+    }
+    // The compositor has it; the news must not look like another program's copy.
+    EXPECT_EQ(desktop.compositor.paste("text/plain"), "own");
+    EXPECT_EQ(desktop.pasteboard->changeCount(), start);
+    ASSERT_TRUE(desktop.until([&] { return inHandler != 0; }));
+    EXPECT_EQ(inHandler, start + 1);
+    EXPECT_EQ(desktop.pasteboard->changeCount(), start + 1);
+}
+
+TEST(WaylandPasteboard, WritesThatMeetAnotherProgramsCopy) {
+    Desktop desktop;
+    const auto start = desktop.pasteboard->changeCount();
+    desktop.compositor.copyText("newer");
+    EXPECT_EQ(desktop.write(content({"text/plain"}, "late"), start).status,
+              PasteboardStatus::changed);
+    EXPECT_EQ(desktop.compositor.programFormats(), Strings()) << "the newer copy is kept";
+
+    desktop.compositor.overtakeNextWrite();
+    auto written = desktop.write(content({"text/plain"}, "overtaken"));
+    EXPECT_EQ(written.status, PasteboardStatus::done);
+    EXPECT_EQ(written.changeCount, start + 2);
+    ASSERT_TRUE(desktop.untilCount(start + 3)) << "the copy after it is news";
+
+    desktop.compositor.keepOwnWritesQuiet();
+    written = desktop.write(content({"text/plain"}, "quiet"));
+    EXPECT_EQ(written.changeCount, start + 4) << "counted even if the compositor keeps it from us";
+    EXPECT_EQ(desktop.pasteboard->changeCount(), start + 4);
+}
+
+void say(int fd, const std::string &text) {
+    [[maybe_unused]] const auto written = write(fd, text.data(), text.size());
+}
+
+// Owners that end their turn at once, each with what is read of {"broken", "good"} from them.
+TEST(WaylandPasteboard, OwnersThatMisbehave) {
+    struct Row {
+        const char *name;
+        std::function<void(int fd)> broken;
+        Strings expected;
+    };
+    const Row rows[] = {
+        {"closes the pipe at once", [](int fd) { close(fd); }, {"good"}},
+        {"delivers more than the limit",
+         [](int fd) {
+             std::thread([fd] {
+                 const std::string piece(60'000, 'x');
+                 while (write(fd, piece.data(), piece.size()) > 0) {
+                 }
+                 close(fd);
+             }).detach();
+         },
+         {"good"}},
+        {"delivers bytes that are no text",
+         [](int fd) {
+             say(fd, std::string("\0\xff\xc0\0", 4));
+             close(fd);
+         },
+         {"broken", "good"}},
+    };
+    signal(SIGPIPE, SIG_IGN); // for the owners' sake
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        Desktop desktop;
+        const auto start = desktop.pasteboard->changeCount();
+        desktop.compositor.copy({"broken", "good"}, [&](const std::string &format, int fd) {
+            if (format == "broken") {
+                row.broken(fd);
+            } else {
+                say(fd, "fine");
+                close(fd);
+            }
+        });
+        ASSERT_TRUE(desktop.untilCount(start + 1));
+        const auto result = desktop.read({"broken", "never offered", "good"}, 200'000);
+        EXPECT_EQ(result.status, PasteboardStatus::done);
+        Strings got;
+        std::ranges::transform(result.content, std::back_inserter(got), &PasteboardData::format);
+        EXPECT_EQ(got, row.expected);
+    }
+}
+
+TEST(WaylandPasteboard, AnOwnerThatHangsIsGivenUpAndHoldsUpNothing) {
+    Desktop desktop;
+    const auto start = desktop.pasteboard->changeCount();
+    std::vector<FileDescriptor> kept;
+    const auto hang = [&](const std::string &format, int fd) {
+        say(fd, format == "first" ? "whole" : "half");
+        if (format == "first") {
+            close(fd);
+        } else {
+            kept.emplace_back(fd);
+        }
+    };
+    desktop.compositor.copy({"first", "second"}, hang);
+    ASSERT_TRUE(desktop.untilCount(start + 1));
+    const auto before = std::chrono::steady_clock::now();
+    const auto result = desktop.read({"first", "second"});
+    const auto took = std::chrono::steady_clock::now() - before;
+    EXPECT_EQ(result.status, PasteboardStatus::timedOut);
+    ASSERT_EQ(result.content.size(), 1u) << "what came whole is kept";
+    EXPECT_EQ(*result.content[0].bytes, "whole");
+    EXPECT_GE(took, pasteboardStallLimit);
+    EXPECT_LT(took, pasteboardStallLimit + 2s);
+
+    // The next copy does not wait for the one that hangs.
+    desktop.startRead({"second"});
+    desktop.compositor.copyText("next");
+    ASSERT_TRUE(desktop.until([&] { return desktop.startedRead.has_value(); }));
+    EXPECT_EQ(desktop.startedRead->status, PasteboardStatus::changed);
+    EXPECT_EQ(desktop.text(), "next");
+}
+
+TEST(WaylandPasteboard, FormatListsOutOfAllProportion) {
+    Desktop desktop;
+    const auto start = desktop.pasteboard->changeCount();
+    Strings formats{"text/plain", "text/plain", std::string(4000, 'n'),
+                    std::string(pasteboardFormatNameLimit, 'y')};
+    for (int i = 0; i < 2'000; ++i) {
+        formats.push_back("x/" + std::to_string(i));
+    }
+    desktop.compositor.copy(formats, [](const std::string &, int fd) { close(fd); });
+    ASSERT_TRUE(desktop.untilCount(start + 1));
+    const auto known = desktop.formats().formats;
+    ASSERT_EQ(known.size(), pasteboardFormatLimit);
+    EXPECT_EQ(known[1], formats[3]);
+    EXPECT_EQ(known[2], "x/0");
+
+    // And names that no compositor takes, on the way out.
+    EXPECT_EQ(desktop
+                  .write(content({"a", "", std::string(1 << 20, 'n'), std::string("b\0c", 3), "d"},
+                                 "out"))
+                  .status,
+              PasteboardStatus::done);
+    EXPECT_EQ(desktop.compositor.programFormats(), (Strings{"a", "d"}));
+}
+
+TEST(WaylandPasteboard, ReceiversThatDoNotReadHoldUpNothing) {
+    Desktop desktop;
+    const std::string large(10 << 20, 'l');
+    ASSERT_EQ(desktop.write(content({"text/plain"}, large)).status, PasteboardStatus::done);
+    std::vector<wayland::Pipe> stuck;
+    for (int i = 0; i < 200; ++i) {
+        stuck.push_back(wayland::makePipe());
+        desktop.compositor.requestFrom("text/plain", stuck.back().writer.get());
+        // The flags of this description are the receiver's to change; it blocks.
+        fcntl(stuck.back().writer.get(), F_SETFL, 0);
+    }
+    const FileDescriptor folder(open("/", O_RDONLY | O_CLOEXEC));
+    desktop.compositor.requestFrom("text/plain", folder.get());
+    wayland::Pipe gone = wayland::makePipe();
+    gone.reader = {};
+    desktop.compositor.requestFrom("text/plain", gone.writer.get());
+    EXPECT_EQ(desktop.compositor.paste("never offered"), "");
+    EXPECT_EQ(desktop.compositor.paste("text/plain"), large);
+    // A pipe whose program was cut off ends after what was in it.
+    std::string rest;
+    char buffer[4096];
+    stuck.front().writer = {};
+    fcntl(stuck.front().reader.get(), F_SETFL, 0);
+    for (ssize_t count = 1; count > 0;) {
+        count = read(stuck.front().reader.get(), buffer, sizeof buffer);
+        rest.append(buffer, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    }
+    EXPECT_LT(rest.size(), large.size());
+}
+
+TEST(WaylandPasteboard, SeatsThatComeLateAndGo) {
+    Desktop desktop(dataControls[0].manager, 0);
+    ASSERT_TRUE(desktop.pasteboard) << desktop.declined;
+    const auto start = desktop.pasteboard->changeCount();
+    EXPECT_EQ(desktop.formats().formats, Strings());
+    EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::unavailable);
+    desktop.compositor.copyText("one");
+    desktop.compositor.addSeat();
+    ASSERT_TRUE(desktop.untilCount(start + 1));
+    EXPECT_EQ(desktop.text(), "one");
+    EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::done);
+    desktop.compositor.removeSeat();
+    ASSERT_TRUE(desktop.untilCount(start + 3)) << "the content went with its seat";
+    EXPECT_EQ(desktop.formats().formats, Strings());
+    desktop.compositor.addSeat();
+    ASSERT_TRUE(desktop.until([&] { return desktop.pasteboard->changeCount() != start + 3; }));
+    desktop.compositor.copyText("two");
+    ASSERT_TRUE(desktop.until([&] { return desktop.text() == "two"; }));
+    desktop.compositor.finishDevice();
+    ASSERT_TRUE(desktop.until([&] { return desktop.formats().formats.empty(); }));
+    EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::unavailable);
+}
+
+// A compositor throws a client out that does not keep pace with it.
+TEST(WaylandPasteboard, ComesBackAfterItWasThrownOut) {
+    Desktop desktop;
+    bool lost = false;
+    desktop.pasteboard->setLostHandler([&] { lost = true; });
+    for (const std::string text : {"one", "two"}) {
+        const auto count = desktop.pasteboard->changeCount();
+        desktop.startRead({"text/plain"});
+        desktop.compositor.throwOut();
+        desktop.compositor.copyText(text);
+        ASSERT_TRUE(desktop.until([&] { return desktop.pasteboard->changeCount() > count; }));
+        EXPECT_EQ(desktop.text(), text);
+        EXPECT_EQ(desktop.write(content({"text/plain"}, "own")).status, PasteboardStatus::done);
+        EXPECT_EQ(desktop.compositor.paste("text/plain"), "own");
+    }
+    EXPECT_FALSE(lost);
+}
+
+// Whatever comes in whatever order, each handler runs once and the next copy gets through.
+TEST(WaylandPasteboard, AnyOrderOfEvents) {
+    for (unsigned seed = 1; seed <= 3; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        Desktop desktop(dataControls[seed % 2].manager);
+        int begun = 0;
+        int ended = 0;
+        std::mutex mutex;
+        std::vector<FileDescriptor> kept; // of owners and receivers that hang
+        const auto hang = [&](const std::string &, int fd) {
+            const std::lock_guard lock(mutex);
+            kept.emplace_back(fd);
+        };
+        const auto own = content({"text/plain", "text/html"}, std::string(200'000, 'o'));
+        using Action = std::function<void()>;
+        const Action actions[] = {
+            [&] { desktop.compositor.copyText("copy"); },
+            [&] {
+                desktop.compositor.copy({"text/plain", "text/html"}, hang);
+            },
+            [&] { desktop.compositor.empty(); },
+            [&] { desktop.compositor.overtakeNextWrite(); },
+            [&] { desktop.pasteboard->write(own, {}, [&](PasteboardWrite) { ++ended; }); },
+            [&] {
+                desktop.pasteboard->write(own, desktop.pasteboard->changeCount(),
+                                          [&](PasteboardWrite) { ++ended; });
+            },
+            [&] { desktop.pasteboard->write({}, {}, [&](PasteboardWrite) { ++ended; }); },
+            [&] {
+                desktop.pasteboard->read(desktop.pasteboard->changeCount(),
+                                         {"text/plain;charset=utf-8", "text/plain", "text/html"},
+                                         300'000, [&](const PasteboardRead &) { ++ended; });
+            },
+            [&] { desktop.pasteboard->readFormats([&](const PasteboardFormats &) { ++ended; }); },
+            [&] {
+                auto pipe = wayland::makePipe();
+                desktop.compositor.requestFrom("text/plain", pipe.writer.get());
+                hang({}, pipe.reader.release());
+            },
+            [&] {
+                const std::lock_guard lock(mutex);
+                kept.clear();
+            },
+            [&] { desktop.queue.runPosted(); },
+            [&] { desktop.compositor.addSeat(); },
+            [&] { desktop.compositor.removeSeat(); },
+            [&] { desktop.compositor.finishDevice(); },
+            [&] { desktop.compositor.throwOut(); },
+        };
+        // The last three are rare, or there would hardly be anything else.
+        std::discrete_distribution<std::size_t> pick(
+            {20, 20, 10, 5, 20, 20, 5, 40, 20, 20, 10, 40, 4, 2, 1, 1});
+        for (int step = 0; step < 600; ++step) {
+            const auto action = pick(random);
+            begun += action >= 4 && action <= 8 ? 1 : 0;
+            actions[action]();
+        }
+        ASSERT_TRUE(desktop.until([&] { return ended == begun; })) << ended << " of " << begun;
+        for (int i = 0; i < 600; ++i) {
+            desktop.compositor.removeSeat();
+        }
+        desktop.compositor.addSeat();
+        ASSERT_TRUE(desktop.until([&] {
+            desktop.compositor.copyText("last");
+            return desktop.text() == "last";
+        }));
+        EXPECT_EQ(ended, begun);
+    }
+}
+
+TEST(WaylandPasteboard, TheCompositorDiesInTheMiddleOfEverything) {
+    Desktop desktop;
+    int lost = 0;
+    desktop.pasteboard->setLostHandler([&] { ++lost; });
+    const auto start = desktop.pasteboard->changeCount();
+    std::vector<FileDescriptor> kept;
+    desktop.compositor.copy({"text/plain"},
+                            [&](const std::string &, int fd) { kept.emplace_back(fd); });
+    ASSERT_TRUE(desktop.untilCount(start + 1));
+    desktop.startRead({"text/plain"});
+    std::optional<PasteboardWrite> written;
+    desktop.compositor.die();
+    desktop.pasteboard->write(content({"text/plain"}, "x"), {},
+                              [&](PasteboardWrite result) { written = result; });
+    ASSERT_TRUE(desktop.until([&] { return desktop.startedRead && written && lost == 1; }));
+    EXPECT_EQ(desktop.startedRead->status, PasteboardStatus::unavailable);
+    EXPECT_EQ(written->status, PasteboardStatus::unavailable);
+    EXPECT_EQ(desktop.formats().status, PasteboardStatus::unavailable);
+    EXPECT_EQ(desktop.read({"text/plain"}).status, PasteboardStatus::unavailable);
+    EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::unavailable);
+    EXPECT_EQ(lost, 1);
+}
+
+TEST(WaylandPasteboard, ACompositorThatStopsAnsweringIsWaitedForOnlySoLong) {
+    Desktop desktop;
+    desktop.compositor.freeze();
+    EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::timedOut);
+    MemoryMainQueue queue;
+    const auto second = createWaylandPasteboard(queue, desktop.compositor.display());
+    EXPECT_FALSE(second.backend);
+    EXPECT_EQ(second.declined, "the Wayland compositor does not answer");
+}
+
+TEST(WaylandPasteboard, DeclinesWhereThereIsNothingToTalkTo) {
+    EXPECT_EQ(Desktop(nullptr).declined, "the Wayland compositor has no data-control protocol");
+    MemoryMainQueue queue;
+    EXPECT_EQ(createWaylandPasteboard(queue, "/nonexistent/socket").declined,
+              "there is no Wayland compositor");
+}
+
+TEST(WaylandPasteboard, HandlersEndWithIt) {
+    Desktop desktop;
+    bool ran = false;
+    desktop.pasteboard->readFormats([&](const PasteboardFormats &) { ran = true; });
+    desktop.pasteboard->write(content({"text/plain"}, "x"), {},
+                              [&](PasteboardWrite) { ran = true; });
+    desktop.pasteboard.reset();
+    desktop.queue.runPosted();
+    EXPECT_FALSE(ran);
+}
+
+// A trickle is as bad as silence, and the time limit of the whole holds for it.
+TEST(WaylandTransfer, EndsAtItsLimits) {
+    auto pipe = wayland::makePipe();
+    std::optional<wayland::IncomingTransfer::Outcome> outcome;
+    const auto end = wayland::Clock::now() + 1h;
+    wayland::IncomingTransfer transfer(
+        std::move(pipe.reader), {10, 1min, end},
+        [&](wayland::IncomingTransfer::Outcome got, const std::string &) { outcome = got; });
+    EXPECT_LT(transfer.deadline(), end);
+    say(pipe.writer.get(), "0123456789");
+    EXPECT_TRUE(transfer.advance());
+    say(pipe.writer.get(), "x");
+    EXPECT_FALSE(transfer.advance());
+    EXPECT_EQ(outcome, wayland::IncomingTransfer::Outcome::tooLarge);
+
+    pipe = wayland::makePipe();
+    const auto now = wayland::Clock::now();
+    wayland::IncomingTransfer trickle(std::move(pipe.reader), {10, 1min, now + 1s}, {});
+    say(pipe.writer.get(), "0");
+    EXPECT_TRUE(trickle.advance());
+    EXPECT_EQ(trickle.deadline(), now + 1s);
+}
+
+} // namespace
+} // namespace nerlo::platform

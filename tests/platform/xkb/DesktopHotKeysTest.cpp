@@ -1,0 +1,104 @@
+#include "platform/linux/DesktopHotKeys.h"
+#include "platform/linux/CommandOutput.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <map>
+#include <random>
+
+namespace nerlo::platform {
+
+static void PrintTo(const SystemHotKey &hotKey, std::ostream *out) {
+    *out << hotKey.code << '/' << hotKey.modifiers;
+}
+
+namespace {
+
+using HotKeyList = std::vector<SystemHotKey>;
+
+HotKeyList read(const std::string &desktop, std::map<std::string, std::string> texts) {
+    static const XkbKeyboardLayout layout(xkb::Keymap::fromNames("de"));
+    const auto join = [](const std::vector<std::string> &words) {
+        std::string text;
+        for (const auto &word : words) {
+            text += (text.empty() ? "" : " ") + word;
+        }
+        return text;
+    };
+    return createDesktopHotKeys(layout,
+                                {desktop, [&](const std::string &name) { return texts[name]; },
+                                 [&](const auto &command) { return texts[join(command)]; }})
+        ->symbolicHotKeys();
+}
+
+TEST(DesktopHotKeys, OfEachDesktop) {
+    EXPECT_EQ(
+        read("ubuntu:GNOME",
+             {{"gsettings list-recursively org.gnome.desktop.wm.keybindings",
+               "org.gnome.desktop.wm.keybindings close ['<Alt>F4']\n"
+               "org.gnome.desktop.wm.keybindings maximize @as []\n"
+               "org.gnome.desktop.wm.keybindings panel ['<Primary><Shift>z', '<Mod4>F2']\n"
+               "org.gnome.desktop.wm.keybindings group ['<Super>Above_Tab', '<Hyper>a']\n"},
+              {"gsettings get org.gnome.settings-daemon.plugins.media-keys custom-keybindings",
+               "['/custom0/', 'no path']"},
+              {"gsettings get org.gnome.settings-daemon.plugins.media-keys.custom-keybinding:"
+               "/custom0/ binding",
+               "'<Super>v'"}}),
+        // Z is where the German layout has it.
+        (HotKeyList{{118, 0x800}, {16, 0x300}, {120, 0x1000}, {50, 0x1000}, {9, 0x1000}}));
+    EXPECT_EQ(read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v",
+                             "/commands/custom/<Alt>F2   xfce4-appfinder --collapsed\n"
+                             "/commands/custom/override  true\n"
+                             "/xfwm4/default/<Alt>F6     stick_window_key\n"
+                             "/xfwm4/custom/<Primary>F1  workspace_1_key\n"}}),
+              (HotKeyList{{118 + 2, 0x800}, {122, 0x100}}));
+    EXPECT_EQ(read("KDE", {{"kglobalshortcutsrc", "[kwin]\n"
+                                                  "_k_friendly_name=KWin\n"
+                                                  "Close=Alt+F4\\tMeta+Q,Alt+F4,Close Window\n"
+                                                  "Expose=none,Ctrl+F9,Toggle\n"
+                                                  "Zoom=Meta+\\,,none,Zoom\n"
+                                                  "Page=Ctrl+PgUp,none,Up\n"
+                                                  "_launch=Meta+Ctrl+Esc\n"}}),
+              (HotKeyList{{118, 0x800}, {12, 0x1000}, {43, 0x1000}, {116, 0x100}, {53, 0x1100}}));
+    EXPECT_TRUE(read("sway", {{"kglobalshortcutsrc", "a=Meta+V,,"}}).empty());
+}
+
+TEST(DesktopHotKeys, BrokenFilesGiveWhatTheyCan) {
+    for (const std::string text : {"", "=", "a=", "a=Ctrl+", "a=Foo+B", "'", "'<", "'<Super'",
+                                   "'<>a'", "/custom/", "/custom/<", "a=Meta+\xff\xfe,"}) {
+        for (const char *desktop : {"KDE", "GNOME", "XFCE"}) {
+            std::map<std::string, std::string> texts{
+                {"kglobalshortcutsrc", text},
+                {"xfconf-query -c xfce4-keyboard-shortcuts -l -v", text},
+                {"gsettings list-recursively org.gnome.shell.keybindings", text}};
+            EXPECT_TRUE(read(desktop, texts).empty()) << text;
+        }
+    }
+    std::mt19937 random(1);
+    const std::string letters = "aA1<>'+=,\\\n/ tMetaCtrl\xff";
+    for (int round = 0; round < 3000; ++round) {
+        std::string text = "a=";
+        for (int n = 0; n < 60; ++n) {
+            text += letters[random() % letters.size()];
+        }
+        read("KDE", {{"kglobalshortcutsrc", text}});
+        read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v", "/custom/" + text}});
+        read("GNOME", {{"gsettings list-recursively org.gnome.shell.keybindings", "'" + text}});
+    }
+}
+
+TEST(CommandOutput, HasItsLimits) {
+    EXPECT_EQ(outputOfCommand({"printf", "a b"}), "a b");
+    EXPECT_EQ(outputOfCommand({"sh", "-c", "echo half; exit 3"}), "");
+    EXPECT_EQ(outputOfCommand({"no-such-program"}), "");
+    EXPECT_EQ(outputOfCommand({"cat"}), "");
+    EXPECT_EQ(outputOfCommand({"yes"}, {std::chrono::seconds(20), 100000}), "");
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(outputOfCommand({"sleep", "30"}, {std::chrono::milliseconds(50), 10}), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
+}
+
+} // namespace
+} // namespace nerlo::platform
