@@ -1,0 +1,366 @@
+#include "shortcuts/nrShortcut.h"
+
+#include "platform/PropertyList.h"
+#include "platform/SystemHotKeys.h"
+#include "shortcuts/ShortcutTexts.h"
+#include "text/CaseMapping.h"
+#include "text/Characters.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cstring>
+#include <utility>
+
+namespace nerlo::shortcuts {
+
+namespace {
+
+using platform::PropertyArray;
+using platform::PropertyData;
+using platform::PropertyDictionary;
+using platform::PropertyUid;
+using platform::PropertyValue;
+
+std::atomic<bool> anyWithOption = false;
+
+constexpr std::uint64_t returnKey = 36;
+constexpr std::uint64_t spaceKey = 49;
+constexpr std::uint64_t escapeKey = 53;
+
+// F1 to F20, in that order.
+constexpr std::array<std::uint64_t, 20> functionKeys{
+    122, 120, 99, 118, 96, 97, 98, 100, 101, 109, 103, 111, 105, 107, 113, 106, 64, 79, 80, 90};
+// F20 has neither a text nor a character of its own.
+constexpr std::ptrdiff_t shownFunctionKeys = 19;
+constexpr char16_t firstFunctionKeyCharacter = 0xf704;
+
+struct KeyText {
+    std::uint64_t keyCode;
+    std::u16string_view text;
+    std::u16string_view name; // spelled out; empty where the text says it
+};
+
+// Keys whose text does not follow the layout, but for Space and the function keys.
+constexpr std::array keyTexts{
+    KeyText{returnKey, u"\u21a9", u"Return"},
+    KeyText{48, u"\u21e5", u"Tab"},
+    KeyText{51, u"\u232b", u"Backspace"},
+    KeyText{escapeKey, u"\u238b", u"Escape"},
+    KeyText{65, u".", u"Keypad ."},
+    KeyText{67, u"*", u"Keypad *"},
+    KeyText{69, u"+", u"Keypad +"},
+    KeyText{71, u"\u2327", u"Num Lock"},
+    KeyText{75, u"/", u"Keypad /"},
+    KeyText{76, u"\u2305", u"Keypad Enter"},
+    KeyText{78, u"\u2013", u"Keypad -"},
+    KeyText{81, u"=", u"Keypad ="},
+    KeyText{82, u"0", u"Keypad 0"},
+    KeyText{83, u"1", u"Keypad 1"},
+    KeyText{84, u"2", u"Keypad 2"},
+    KeyText{85, u"3", u"Keypad 3"},
+    KeyText{86, u"4", u"Keypad 4"},
+    KeyText{87, u"5", u"Keypad 5"},
+    KeyText{88, u"6", u"Keypad 6"},
+    KeyText{89, u"7", u"Keypad 7"},
+    KeyText{91, u"8", u"Keypad 8"},
+    KeyText{92, u"9", u"Keypad 9"},
+    KeyText{114, u"?", u"Insert"},
+    KeyText{115, u"\u2196", u"Home"},
+    KeyText{116, u"\u21de", u"Page Up"},
+    KeyText{117, u"\u2326", u"Delete"},
+    KeyText{119, u"\u2198", u"End"},
+    KeyText{121, u"\u21df", u"Page Down"},
+    KeyText{123, u"\u2190", u"Left"},
+    KeyText{124, u"\u2192", u"Right"},
+    KeyText{125, u"\u2193", u"Down"},
+    KeyText{126, u"\u2191", u"Up"},
+};
+
+struct Modifier {
+    std::uint64_t flag;
+    std::uint32_t carbon;
+    char16_t glyph;
+    std::u16string_view name;
+};
+
+// In the order of the glyphs.
+constexpr std::array modifiers{
+    Modifier{controlModifier, platform::hotKeyControl, u'\u2303', u"Super"},
+    Modifier{optionModifier, platform::hotKeyOption, u'\u2325', u"Alt"},
+    Modifier{shiftModifier, platform::hotKeyShift, u'\u21e7', u"Shift"},
+    Modifier{commandModifier, platform::hotKeyCommand, u'\u2318', u"Ctrl"},
+};
+// Ctrl and Super come first in a spelled-out name.
+constexpr std::array spelledOutOrder{&modifiers[3], &modifiers[0], &modifiers[1], &modifiers[2]};
+
+constexpr std::u16string_view takenBySystem =
+    u"The key combination \"%@\" can't be used because it's already used by a system-wide keyboard "
+    u"shortcut. If you really want to use this key combination, most shortcuts can be changed in "
+    u"the Keyboard panel in System Preferences.";
+constexpr std::u16string_view takenByMenuItem =
+    u"The key combination \"%@\" can't be used because it's already used by the menu item \"%@\".";
+
+// The place among the function keys, or none.
+std::optional<std::ptrdiff_t> functionKeyIndex(std::uint64_t keyCode) {
+    const auto *at = std::ranges::find(functionKeys, keyCode);
+    return at == functionKeys.end() ? std::nullopt : std::optional(at - functionKeys.begin());
+}
+
+std::u16string functionKeyName(std::ptrdiff_t index) {
+    const std::ptrdiff_t number = index + 1;
+    std::u16string name = u"F";
+    if (number >= 10) {
+        name += static_cast<char16_t>(u'0' + number / 10);
+    }
+    name += static_cast<char16_t>(u'0' + number % 10);
+    return name;
+}
+
+std::u16string textByLayout(std::uint64_t keyCode, const platform::KeyboardLayout &layout) {
+    std::u16string text = layout.textOfKey(keyCode);
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t character = text::characterAt(text, at);
+        if (!text::isShown(character)) {
+            return {};
+        }
+        at += text::sizeOf(character);
+    }
+    return text::toUppercase(std::move(text), {});
+}
+
+void fill(ShortcutError *error, std::u16string message) {
+    if (error) {
+        *error = {"NSCocoaErrorDomain", 0, std::move(message)};
+    }
+}
+
+constexpr std::u16string_view className = u"nrShortcut";
+
+bool isText(const PropertyValue *value, std::u16string_view text) {
+    const auto *string = value ? value->as<std::u16string>() : nullptr;
+    return string && *string == text;
+}
+
+// The object that a reference in `value` leads to, or null.
+const PropertyValue *follow(const PropertyArray &objects, const PropertyValue *value) {
+    const auto *uid = value ? value->as<PropertyUid>() : nullptr;
+    return uid && uid->index < objects.size() ? &objects[uid->index] : nullptr;
+}
+
+bool isOurClass(const PropertyValue *value) {
+    const auto *dictionary = value ? value->as<PropertyDictionary>() : nullptr;
+    return dictionary && isText(dictionary->find("$classname"), className);
+}
+
+std::optional<std::int64_t> integer(const PropertyValue *value) {
+    if (const auto *number = value ? value->as<std::int64_t>() : nullptr) {
+        return *number;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<nrShortcut> nrShortcut::shortcutWithData(std::span<const std::byte> data) {
+    if (data.empty()) {
+        return std::nullopt;
+    }
+    const auto parsed =
+        platform::parsePropertyList({reinterpret_cast<const char *>(data.data()), data.size()});
+    const auto *archive = parsed.value ? parsed.value->as<PropertyDictionary>() : nullptr;
+    if (!archive || !isText(archive->find("$archiver"), u"NSKeyedArchiver")) {
+        return std::nullopt;
+    }
+    const auto *top = archive->find("$top");
+    const auto *entries = top ? top->as<PropertyDictionary>() : nullptr;
+    const auto *list = archive->find("$objects");
+    const auto *objects = list ? list->as<PropertyArray>() : nullptr;
+    if (!entries || !objects) {
+        return std::nullopt;
+    }
+    const auto *root = follow(*objects, entries->find("root"));
+    const auto *fields = root ? root->as<PropertyDictionary>() : nullptr;
+    if (!fields || !isOurClass(follow(*objects, fields->find("$class")))) {
+        return std::nullopt;
+    }
+    return initWithCoder(*fields);
+}
+
+PropertyData nrShortcut::data() const {
+    PropertyDictionary object{{"$class", PropertyUid{2}}};
+    for (const auto &[key, value] : encodeWithCoder()) {
+        object.set(key, value);
+    }
+    const PropertyDictionary classEntry{
+        {"$classname", className},
+        {"$classes", PropertyArray{className, u"NSObject"}},
+    };
+    const std::string bytes = platform::writeBinary(PropertyDictionary{
+        {"$version", 100000},
+        {"$archiver", u"NSKeyedArchiver"},
+        {"$top", PropertyDictionary{{"root", PropertyUid{1}}}},
+        {"$objects", PropertyArray{u"$null", std::move(object), classEntry}},
+    });
+    PropertyData data(bytes.size());
+    std::memcpy(data.data(), bytes.data(), bytes.size());
+    return data;
+}
+
+PropertyDictionary nrShortcut::encodeWithCoder() const {
+    return {
+        {"KeyCode", keyCode_ == absentKey ? std::int64_t{-1} : static_cast<std::int64_t>(keyCode_)},
+        {"ModifierFlags", static_cast<std::int64_t>(modifierFlags_)},
+    };
+}
+
+std::optional<nrShortcut> nrShortcut::initWithCoder(const PropertyDictionary &fields) {
+    const auto keyCode = integer(fields.find("KeyCode"));
+    const auto flags = integer(fields.find("ModifierFlags"));
+    if (!keyCode || !flags) {
+        return std::nullopt;
+    }
+    return nrShortcut(*keyCode < 0 ? absentKey : static_cast<std::uint64_t>(*keyCode),
+                      static_cast<std::uint64_t>(*flags));
+}
+
+std::u16string nrShortcut::keyCodeString(const ShortcutTexts &texts) const {
+    if (keyCode_ == absentKey) {
+        return {};
+    }
+    if (keyCode_ == spaceKey) {
+        return texts.localized(u"Space");
+    }
+    if (const auto *row = std::ranges::find(keyTexts, keyCode_, &KeyText::keyCode);
+        row != keyTexts.end()) {
+        return std::u16string(row->text);
+    }
+    if (const auto index = functionKeyIndex(keyCode_); index && *index < shownFunctionKeys) {
+        return functionKeyName(*index);
+    }
+    return textByLayout(keyCode_, texts.layout());
+}
+
+std::u16string nrShortcut::modifierFlagsString() const {
+    std::u16string glyphs;
+    for (const auto &modifier : modifiers) {
+        if ((modifierFlags_ & modifier.flag) != 0) {
+            glyphs += modifier.glyph;
+        }
+    }
+    return glyphs;
+}
+
+std::u16string nrShortcut::description(const ShortcutTexts &texts) const {
+    return modifierFlagsString() + keyCodeString(texts);
+}
+
+std::u16string nrShortcut::spelledOutName(const ShortcutTexts &texts) const {
+    std::u16string name;
+    for (const auto *modifier : spelledOutOrder) {
+        if ((modifierFlags_ & modifier->flag) != 0) {
+            name += texts.localized(modifier->name);
+            name += u'+';
+        }
+    }
+    const auto *row = std::ranges::find(keyTexts, keyCode_, &KeyText::keyCode);
+    if (row != keyTexts.end()) {
+        return name + texts.localized(row->name);
+    }
+    return name + keyCodeString(texts);
+}
+
+std::u16string nrShortcut::keyCodeStringForKeyEquivalent(const ShortcutTexts &texts) const {
+    std::u16string text = keyCodeString(texts);
+    if (text.size() < 2) {
+        return text::toLowercase(std::move(text), {});
+    }
+    if (keyCode_ == spaceKey) {
+        return u" ";
+    }
+    if (const auto index = functionKeyIndex(keyCode_); index && *index < shownFunctionKeys) {
+        return {static_cast<char16_t>(firstFunctionKeyCharacter + *index)};
+    }
+    return {};
+}
+
+std::uint32_t nrShortcut::carbonKeyCode() const {
+    return keyCode_ == absentKey ? 0 : static_cast<std::uint32_t>(keyCode_);
+}
+
+std::uint32_t nrShortcut::carbonFlags() const {
+    std::uint32_t flags = 0;
+    for (const auto &modifier : modifiers) {
+        if ((modifierFlags_ & modifier.flag) != 0) {
+            flags |= modifier.carbon;
+        }
+    }
+    return flags;
+}
+
+bool nrShortcut::isValid() const {
+    if (functionKeyIndex(keyCode_)) {
+        return true;
+    }
+    if ((modifierFlags_ & (controlModifier | commandModifier)) != 0) {
+        return true;
+    }
+    if ((modifierFlags_ & optionModifier) == 0) {
+        return false;
+    }
+    return keyCode_ == spaceKey || keyCode_ == escapeKey || allowsAnyHotkeyWithOptionModifier();
+}
+
+bool nrShortcut::shouldBypass(const ShortcutTexts &texts) const {
+    if (modifierFlags_ != commandModifier) {
+        return false;
+    }
+    const std::u16string text = keyCodeString(texts);
+    return text == u"W" || text == u"Q";
+}
+
+bool nrShortcut::isTakenError(ShortcutError *error, const ShortcutTexts &texts,
+                              platform::SystemHotKeys &systemHotKeys,
+                              std::span<const MenuItem> mainMenu) const {
+    for (const auto &taken : systemHotKeys.symbolicHotKeys()) {
+        if (taken.code == keyCode_ && taken.modifiers == carbonFlags()) {
+            fill(error, texts.formatted(takenBySystem, {description(texts)}));
+            return true;
+        }
+    }
+    return isKeyEquivalent(keyCodeStringForKeyEquivalent(texts), modifierFlags_, mainMenu, error,
+                           texts);
+}
+
+bool nrShortcut::isKeyEquivalent(std::u16string_view keyEquivalent, std::uint64_t flags,
+                                 std::span<const MenuItem> menu, ShortcutError *error,
+                                 const ShortcutTexts &texts) const {
+    for (const auto &item : menu) {
+        if (!item.submenu.empty() &&
+            isKeyEquivalent(keyEquivalent, flags, item.submenu, error, texts)) {
+            return true;
+        }
+        if (text::toLowercase(item.keyEquivalent, {}) != keyEquivalent) {
+            continue;
+        }
+        // An upper-case letter brings Shift with it, and then the mask counts as it stands.
+        const bool hit = item.keyEquivalent == keyEquivalent
+                             ? (item.modifierMask & allModifiers) == flags
+                             : (item.modifierMask | shiftModifier) == flags;
+        if (hit) {
+            fill(error, texts.formatted(takenByMenuItem, {description(texts), item.title}));
+            return true;
+        }
+    }
+    return false;
+}
+
+void nrShortcut::setAllowsAnyHotkeyWithOptionModifier(bool allows) {
+    anyWithOption = allows;
+}
+
+bool nrShortcut::allowsAnyHotkeyWithOptionModifier() {
+    return anyWithOption;
+}
+
+} // namespace nerlo::shortcuts

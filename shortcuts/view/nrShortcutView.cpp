@@ -1,0 +1,492 @@
+#include "shortcuts/view/nrShortcutView.h"
+
+#include "platform/SystemHotKeys.h"
+#include "shortcuts/ShortcutTexts.h"
+#include "shortcuts/view/KeyEvents.h"
+#include "shortcuts/view/ShortcutAccessible.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+#include <QToolTip>
+
+namespace nerlo::shortcuts {
+
+namespace {
+
+constexpr std::uint64_t deleteKey = 51;
+constexpr std::uint64_t forwardDeleteKey = 117;
+constexpr std::uint64_t escapeKey = 53;
+
+constexpr int margin = 6;
+constexpr qreal radius = 4;
+
+constexpr auto clickToRecord = u"Click to record shortcut";
+
+// At most one control records.
+QPointer<nrShortcutView> recordingView;
+
+void showAlert(QWidget *parent, const QString &message, const QString &informative) {
+    QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(), message,
+                    QMessageBox::NoButton, parent);
+    box.setObjectName(QStringLiteral("shortcutTaken"));
+    box.setInformativeText(informative);
+    box.exec();
+}
+
+// Amber that can be read on the background.
+QColor warningColor(const QPalette &palette) {
+    return palette.color(QPalette::Base).lightness() < 128 ? QColor(255, 190, 80)
+                                                           : QColor(170, 85, 0);
+}
+
+} // namespace
+
+nrShortcutView::nrShortcutView(const ShortcutViewContext &context, QWidget *parent)
+    : QWidget(parent)
+    , context_(context) {
+    installShortcutAccessible();
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    if (!context_.alert) {
+        context_.alert = showAlert;
+    }
+    if (!context_.beep) {
+        context_.beep = &QApplication::beep;
+    }
+    statusObservation_ = context_.hotKeys.observeStatus([this] { announce(); });
+    resetToolTips();
+}
+
+nrShortcutView::~nrShortcutView() {
+    setRecording(false);
+    defaultsObserver_.reset();
+}
+
+void nrShortcutView::setShortcutValue(const std::optional<nrShortcut> &value) {
+    if (value == shortcutValue_) {
+        return;
+    }
+    shortcutValue_ = value;
+    resetToolTips();
+    if (observer_) {
+        observer_();
+    }
+    if (shortcutValueChange) {
+        shortcutValueChange(*this);
+    }
+    announce();
+}
+
+void nrShortcutView::setShortcutValueObserver(std::function<void()> changed) {
+    observer_ = std::move(changed);
+}
+
+void nrShortcutView::setAssociatedUserDefaultsKey(const std::string &key) {
+    defaultsObserver_.reset();
+    if (!key.empty()) {
+        defaultsObserver_ =
+            std::make_unique<nrShortcutDefaultsObserver>(*this, context_.hotKeys.store(), key);
+    }
+    announce();
+}
+
+std::string nrShortcutView::associatedUserDefaultsKey() const {
+    return defaultsObserver_ ? defaultsObserver_->userDefaultsKey() : std::string();
+}
+
+void nrShortcutView::setRecording(bool recording) {
+    if (recording) {
+        if (recordingView && recordingView != this) {
+            recordingView->setRecording(false);
+        }
+        recordingView = this;
+        if (!isEnabled()) {
+            return;
+        }
+    }
+    if (recording == recording_) {
+        return;
+    }
+    recording_ = recording;
+    if (!recording && recordingView == this) {
+        recordingView = nullptr;
+    }
+    shortcutPlaceholder_.clear();
+    resetToolTips();
+    activateEventMonitoring(recording);
+    activateResignObserver(recording);
+    // Out of the way, so that a combination in use reaches us.
+    suspension_.reset();
+    if (recording) {
+        suspension_ = std::make_unique<GlobalHotKeys::Suspension>(context_.hotKeys.hotKeys());
+    }
+    announce();
+}
+
+void nrShortcutView::setShortcutPlaceholder(const QString &placeholder) {
+    shortcutPlaceholder_ = placeholder;
+    update();
+}
+
+void nrShortcutView::setAppearance(Appearance appearance) {
+    appearance_ = appearance;
+    update();
+}
+
+QString nrShortcutView::fromTable(std::u16string_view key) const {
+    return QString::fromStdU16String(context_.texts.localized(key));
+}
+
+QString nrShortcutView::title() const {
+    if (!recording_) {
+        return shortcutValue_
+                   ? QString::fromStdU16String(shortcutValue_->description(context_.texts))
+                   : fromTable(clickToRecord);
+    }
+    if (hinting_) {
+        return fromTable(shortcutValue_ ? u"Use old shortcut" : u"Cancel");
+    }
+    return shortcutPlaceholder_.isEmpty() ? fromTable(u"Type shortcut") : shortcutPlaceholder_;
+}
+
+QString nrShortcutView::buttonGlyph() const {
+    return recording_       ? QStringLiteral("\u238b")
+           : shortcutValue_ ? QStringLiteral("\u232b")
+                            : QString();
+}
+
+QString nrShortcutView::warning() const {
+    const auto status = context_.hotKeys.status(associatedUserDefaultsKey());
+    if (!shortcutValue_ || status.state != platform::HotKeyState::refused) {
+        return {};
+    }
+    return fromTable(QString::fromStdString(status.text).toStdU16String());
+}
+
+QString nrShortcutView::spokenValue() const {
+    if (recording_ || !shortcutValue_) {
+        return title();
+    }
+    return QString::fromStdU16String(shortcutValue_->spelledOutName(context_.texts));
+}
+
+int nrShortcutView::buttonWidth() const {
+    return height() + 4;
+}
+
+QRect nrShortcutView::buttonRect() const {
+    if (buttonGlyph().isEmpty()) {
+        return {};
+    }
+    const QRect button(width() - buttonWidth() - 2, 2, buttonWidth(), height() - 4);
+    return QStyle::visualRect(layoutDirection(), rect(), button);
+}
+
+QRect nrShortcutView::warningRect() const {
+    if (recording_ || warning().isEmpty()) {
+        return {};
+    }
+    return QStyle::visualRect(layoutDirection(), rect(), {0, 0, height(), height()});
+}
+
+QRect nrShortcutView::shortcutRect() const {
+    int left = warningRect().isEmpty() ? 0 : height();
+    int right = buttonRect().isEmpty() ? 0 : buttonWidth() + 2;
+    return QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(left, 0, -right, 0));
+}
+
+QSize nrShortcutView::sizeHint() const {
+    const int line = fontMetrics().height() + 2 * margin;
+    int widest = 0;
+    for (const auto *text : {clickToRecord, u"Type shortcut", u"Use old shortcut", u"Cancel"}) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(fromTable(text)));
+    }
+    return {widest + 2 * margin + 2 * line + 6, line};
+}
+
+void nrShortcutView::announce() {
+    // The value is part of the name: changes of a value are for numbers only.
+    QAccessibleEvent name(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&name);
+    update();
+}
+
+void nrShortcutView::resetToolTips() {
+    shortcutToolTip_ = fromTable(clickToRecord);
+    buttonToolTip_ = recording_ ? QString() : fromTable(u"Delete shortcut");
+    if (shortcutValue_ && !recording_) {
+        shortcutToolTip_ = spokenValue() + QLatin1Char('\n') + shortcutToolTip_;
+    }
+}
+
+void nrShortcutView::setHinting(bool hinting) {
+    if (hinting != hinting_) {
+        hinting_ = hinting;
+        update();
+    }
+}
+
+bool nrShortcutView::event(QEvent *event) {
+    if (event->type() == QEvent::ToolTip) {
+        auto *help = static_cast<QHelpEvent *>(event);
+        QString text = shortcutToolTip_;
+        if (warningRect().contains(help->pos())) {
+            text = warning();
+        } else if (buttonRect().contains(help->pos())) {
+            text = buttonToolTip_;
+        } else if (!recording_ && shortcutValue_) {
+            const auto status = context_.hotKeys.status(associatedUserDefaultsKey());
+            if (status.state == platform::HotKeyState::active && !status.text.empty()) {
+                // The desktop has given the command keys of its own choice.
+                text.prepend(QString::fromStdString(status.text) + QLatin1Char('\n'));
+            } else if (!warning().isEmpty()) {
+                text.prepend(warning() + QLatin1Char('\n'));
+            }
+        }
+        QToolTip::showText(help->globalPos(), text.toHtmlEscaped().replace('\n', "<br>"), this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void nrShortcutView::activateEventMonitoring(bool active) {
+    if (active == monitoring_) {
+        return;
+    }
+    monitoring_ = active;
+    if (active) {
+        QCoreApplication::instance()->installEventFilter(this);
+    } else if (auto *application = QCoreApplication::instance()) {
+        application->removeEventFilter(this);
+    }
+}
+
+void nrShortcutView::activateResignObserver(bool active) {
+    if (observedWindow_) {
+        observedWindow_->removeEventFilter(this);
+        observedWindow_ = nullptr;
+    }
+    if (active) {
+        observedWindow_ = window();
+        observedWindow_->installEventFilter(this);
+    }
+}
+
+bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
+    switch (event->type()) {
+    case QEvent::WindowDeactivate:
+        if (watched == observedWindow_) {
+            setRecording(false);
+        }
+        return false;
+    case QEvent::ShortcutOverride:
+        if (monitoring_) {
+            // Taken before the window's own shortcuts see it, but for those that we let through.
+            const auto key = keyEventOf(static_cast<QKeyEvent &>(*event), context_.texts.layout());
+            if (nrShortcut::shortcutWithEvent(key).shouldBypass(context_.texts)) {
+                setRecording(false);
+                return false;
+            }
+            event->accept();
+            return true;
+        }
+        return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (monitoring_) {
+            const auto &keyEvent = static_cast<QKeyEvent &>(*event);
+            const auto key = keyEventOf(keyEvent, context_.texts.layout());
+            const bool counts = event->type() == QEvent::KeyPress || isModifierKey(key.keyCode);
+            return !counts || keyEvent.isAutoRepeat() || monitor(key);
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool nrShortcutView::monitor(const KeyEvent &event) {
+    const nrShortcut shortcut = nrShortcut::shortcutWithEvent(event);
+    if (shortcut.keyCode() == deleteKey || shortcut.keyCode() == forwardDeleteKey) {
+        setShortcutValue(std::nullopt);
+        setRecording(false);
+        return true;
+    }
+    if (shortcut.keyCode() == escapeKey) {
+        setRecording(false);
+        return true;
+    }
+    if (shortcut.shouldBypass(context_.texts)) {
+        setRecording(false);
+        return false;
+    }
+    if (shortcut.keyCodeString(context_.texts).empty()) {
+        setShortcutPlaceholder(QString::fromStdU16String(shortcut.modifierFlagsString()));
+        return true;
+    }
+    if (!shortcut.isValid()) {
+        context_.beep();
+        return true;
+    }
+    ShortcutError error;
+    const auto menu = context_.mainMenu ? context_.mainMenu() : std::vector<MenuItem>();
+    if (shortcut.isTakenError(&error, context_.texts, context_.systemHotKeys, menu)) {
+        refuseTaken(shortcut, error);
+        return true;
+    }
+    setShortcutValue(shortcut);
+    setRecording(false);
+    return true;
+}
+
+void nrShortcutView::refuseTaken(const nrShortcut &shortcut, const ShortcutError &error) {
+    activateEventMonitoring(false);
+    activateResignObserver(false);
+    const QPointer<nrShortcutView> alive(this);
+    context_.alert(
+        window(), QString::fromStdU16String(error.localizedDescription),
+        QString::fromStdU16String(context_.texts.formatted(
+            u"The key combination \"%@\" can't be used!", {shortcut.description(context_.texts)})));
+    if (!alive || !recording_) {
+        return;
+    }
+    setShortcutPlaceholder({});
+    activateEventMonitoring(true);
+    activateResignObserver(true);
+}
+
+void nrShortcutView::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
+        setRecording(false);
+    }
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange) {
+        resetToolTips();
+        updateGeometry();
+    }
+    update();
+    QWidget::changeEvent(event);
+}
+
+void nrShortcutView::hideEvent(QHideEvent *event) {
+    setRecording(false);
+    QWidget::hideEvent(event);
+}
+
+// Only while not recording: the monitor comes before.
+void nrShortcutView::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        setRecording(true);
+        break;
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        setShortcutValue(std::nullopt);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void nrShortcutView::mousePressEvent(QMouseEvent *event) {
+    if (!isEnabled() || event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    const bool onButton = buttonRect().contains(event->position().toPoint());
+    if (recording_) {
+        if (onButton) {
+            setRecording(false);
+        }
+    } else if (onButton) {
+        setShortcutValue(std::nullopt);
+    } else {
+        setRecording(true);
+    }
+    setHinting(buttonRect().contains(event->position().toPoint()));
+}
+
+void nrShortcutView::mouseMoveEvent(QMouseEvent *event) {
+    setHinting(isEnabled() && buttonRect().contains(event->position().toPoint()));
+}
+
+void nrShortcutView::leaveEvent(QEvent *) {
+    setHinting(false);
+}
+
+void nrShortcutView::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPalette &colors = palette();
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    const bool active = recording_ || hasFocus();
+    const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
+
+    if (appearance_ == Appearance::framed || active) {
+        QColor border = colors.color(group, QPalette::Text);
+        border.setAlphaF(0.45f);
+        painter.setPen(active ? QPen(colors.color(group, QPalette::Highlight), 2)
+                              : QPen(border, 1));
+        painter.setBrush(colors.color(group, QPalette::Base));
+        painter.drawRoundedRect(frame, radius, radius);
+    }
+
+    QColor text = colors.color(group, QPalette::Text);
+    const bool prompt = !shortcutValue_ || (recording_ && shortcutPlaceholder_.isEmpty());
+    if (!isEnabled() && text == colors.color(QPalette::Active, QPalette::Text)) {
+        text.setAlphaF(0.45f); // a theme without colors for disabled controls
+    } else if (prompt && isEnabled()) {
+        text.setAlphaF(0.75f);
+    }
+    painter.setPen(text);
+    const QRect area = shortcutRect().adjusted(margin, 0, -margin, 0);
+    // Modifiers stand before the key in every language; only prompts follow the reading direction.
+    painter.setLayoutDirection(prompt ? layoutDirection() : Qt::LeftToRight);
+    painter.drawText(area, Qt::AlignCenter,
+                     fontMetrics().elidedText(title(), Qt::ElideRight, area.width()));
+
+    if (const QRect button = buttonRect(); !button.isEmpty()) {
+        if (hinting_) {
+            QColor hover = colors.color(group, QPalette::Text);
+            hover.setAlphaF(0.12f);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(hover);
+            painter.drawRoundedRect(QRectF(button).adjusted(1, 1, -1, -1), radius, radius);
+        }
+        painter.setPen(colors.color(group, QPalette::Text));
+        painter.drawText(button, Qt::AlignCenter, buttonGlyph());
+    }
+
+    if (const QRect mark = warningRect(); !mark.isEmpty()) {
+        // Drawn, for not every font has the sign.
+        const qreal size = mark.height() * 0.55;
+        const QPointF middle = QRectF(mark).center();
+        const QPointF top(middle.x(), middle.y() - size / 2);
+        QPainterPath triangle(top);
+        triangle.lineTo(middle.x() + size * 0.58, middle.y() + size / 2);
+        triangle.lineTo(middle.x() - size * 0.58, middle.y() + size / 2);
+        triangle.closeSubpath();
+        const QColor color = warningColor(colors);
+        painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(triangle);
+        painter.drawLine(QPointF(middle.x(), middle.y() - size * 0.15),
+                         QPointF(middle.x(), middle.y() + size * 0.15));
+        painter.drawPoint(QPointF(middle.x(), middle.y() + size * 0.35));
+    }
+}
+
+} // namespace nerlo::shortcuts

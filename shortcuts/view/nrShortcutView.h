@@ -1,0 +1,121 @@
+// The control with which the user records, replaces or deletes a global shortcut.
+//
+// By mouse: a click starts recording, the button at the end deletes the shortcut or, while
+// recording, ends that. By keyboard: Space or Return starts, Delete deletes. A shortcut that the
+// desktop refuses has a warning mark, with the reason in its tooltip.
+//
+// Main thread only. Texts are those of the string table "Shortcut".
+#pragma once
+
+#include "shortcuts/UserDefaultsHotKeys.h"
+#include "shortcuts/nrShortcutDefaultsObserver.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+namespace nerlo::platform {
+class SystemHotKeys;
+}
+
+namespace nerlo::shortcuts {
+
+class ShortcutTexts;
+
+// What every control of a window shares; all of it outlives the controls.
+struct ShortcutViewContext {
+    const ShortcutTexts &texts;
+    platform::SystemHotKeys &systemHotKeys;
+    UserDefaultsHotKeys &hotKeys;
+    MainMenu mainMenu; // may be empty
+    // Shows a modal, critical alert; empty for the toolkit's.
+    std::function<void(QWidget *parent, const QString &message, const QString &informative)> alert;
+    std::function<void()> beep; // empty for the desktop's
+};
+
+class nrShortcutView : public QWidget, public ShortcutControl {
+    Q_OBJECT
+
+  public:
+    enum class Appearance { framed, flat };
+
+    explicit nrShortcutView(const ShortcutViewContext &context, QWidget *parent = nullptr);
+    ~nrShortcutView() override;
+
+    std::optional<nrShortcut> shortcutValue() const override { return shortcutValue_; }
+    void setShortcutValue(const std::optional<nrShortcut> &value) override;
+    void setShortcutValueObserver(std::function<void()> changed) override;
+    // Run after each change of the value.
+    std::function<void(nrShortcutView &)> shortcutValueChange;
+
+    // Binds the control to a settings key; the empty key ends that.
+    void setAssociatedUserDefaultsKey(const std::string &key);
+    std::string associatedUserDefaultsKey() const;
+
+    bool recording() const { return recording_; }
+    void setRecording(bool recording);
+    bool hinting() const { return hinting_; }
+    const QString &shortcutPlaceholder() const { return shortcutPlaceholder_; }
+    void setShortcutPlaceholder(const QString &placeholder);
+    Appearance appearance() const { return appearance_; }
+    void setAppearance(Appearance appearance);
+
+    // What the control shows, and what its button shows; empty for no button.
+    QString title() const;
+    QString buttonGlyph() const;
+    // Why the desktop does not give us the shortcut; empty when it does.
+    QString warning() const;
+    // What a screen reader says of the value.
+    QString spokenValue() const;
+
+    QRect shortcutRect() const;
+    QRect buttonRect() const;
+    QRect warningRect() const;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    void activateEventMonitoring(bool active);
+    void activateResignObserver(bool active);
+    void resetToolTips();
+    int buttonWidth() const;
+    void setHinting(bool hinting);
+    void announce();
+    // A key-down or modifier change while recording; false to let it through.
+    bool monitor(const KeyEvent &event);
+    void refuseTaken(const nrShortcut &shortcut, const ShortcutError &error);
+    QString fromTable(std::u16string_view key) const;
+
+    ShortcutViewContext context_;
+    std::optional<nrShortcut> shortcutValue_;
+    std::function<void()> observer_;
+    QString shortcutPlaceholder_;
+    QString shortcutToolTip_;
+    QString buttonToolTip_;
+    bool recording_ = false;
+    bool hinting_ = false;
+    bool monitoring_ = false;
+    QPointer<QWidget> observedWindow_;
+    Appearance appearance_ = Appearance::framed;
+    std::unique_ptr<GlobalHotKeys::Suspension> suspension_; // while recording
+    UserDefaultsHotKeys::Observation statusObservation_;
+    std::unique_ptr<nrShortcutDefaultsObserver> defaultsObserver_;
+};
+
+} // namespace nerlo::shortcuts

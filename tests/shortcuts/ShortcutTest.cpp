@@ -1,0 +1,296 @@
+#include "shortcuts/nrShortcut.h"
+
+#include "platform/PropertyList.h"
+#include "platform/SystemHotKeys.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
+#include "shortcuts/ShortcutTexts.h"
+#include "text/Utf.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace nerlo::shortcuts {
+namespace {
+
+using platform::PropertyArray;
+using platform::PropertyData;
+using platform::PropertyDictionary;
+using platform::PropertyUid;
+using platform::XkbKeyboardLayout;
+
+XkbKeyboardLayout layoutOf(const char *name) {
+    return XkbKeyboardLayout(platform::xkb::Keymap::fromNames(name));
+}
+
+struct FixedHotKeys final : platform::SystemHotKeys {
+    std::vector<platform::SystemHotKey> symbolicHotKeys() override { return keys; }
+    std::vector<platform::SystemHotKey> keys;
+};
+
+PropertyData bytesOf(const std::string &text) {
+    PropertyData data;
+    for (const char c : text) {
+        data.push_back(static_cast<std::byte>(c));
+    }
+    return data;
+}
+
+TEST(Shortcut, KeepsOnlyTheFourModifiers) {
+    constexpr std::uint64_t capsLock = 0x10000;
+    constexpr std::uint64_t functionKey = 0x800000;
+    nrShortcut shortcut(9, controlModifier | capsLock | functionKey | 0x8);
+    EXPECT_EQ(shortcut.modifierFlags(), controlModifier);
+    shortcut.setModifierFlags(~std::uint64_t{0});
+    EXPECT_EQ(shortcut.modifierFlags(), allModifiers);
+    EXPECT_EQ(nrShortcut::shortcutWithEvent({0x10009, shiftModifier | capsLock}),
+              nrShortcut(9, shiftModifier));
+}
+
+TEST(Shortcut, ArchiveGoesRoundForEveryKeyAndModifierSet) {
+    std::vector<std::uint64_t> keys{nrShortcut::absentKey, 0xffff};
+    for (std::uint64_t key = 0; key < 256; ++key) {
+        keys.push_back(key);
+    }
+    for (const auto key : keys) {
+        for (std::uint64_t set = 0; set < 16; ++set) {
+            const nrShortcut shortcut(key, set * shiftModifier);
+            EXPECT_EQ(nrShortcut::shortcutWithData(shortcut.data()), shortcut) << key << ' ' << set;
+        }
+    }
+    EXPECT_EQ(*nrShortcut(nrShortcut::absentKey, 0).encodeWithCoder().find("KeyCode"),
+              platform::PropertyValue(-1));
+    EXPECT_EQ(nrShortcut::initWithCoder({{"KeyCode", -7}, {"ModifierFlags", 0}})->keyCode(),
+              nrShortcut::absentKey);
+}
+
+// As another program writes it: in XML, the objects in another order, more keys in the object.
+TEST(Shortcut, ReadsAnArchiveWrittenElsewhere) {
+    const std::string archive = R"(<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict>
+<key>$archiver</key><string>NSKeyedArchiver</string>
+<key>$objects</key><array>
+  <string>$null</string>
+  <dict><key>$classes</key><array><string>nrShortcut</string><string>NSObject</string></array>
+        <key>$classname</key><string>nrShortcut</string></dict>
+  <dict><key>$class</key><dict><key>CF$UID</key><integer>1</integer></dict>
+        <key>KeyCode</key><integer>9</integer>
+        <key>ModifierFlags</key><integer>1310720</integer>
+        <key>Later</key><string>unknown</string></dict>
+</array>
+<key>$top</key><dict><key>root</key><dict><key>CF$UID</key><integer>2</integer></dict></dict>
+<key>$version</key><integer>100000</integer>
+</dict></plist>)";
+    EXPECT_EQ(nrShortcut::shortcutWithData(bytesOf(archive)),
+              nrShortcut(9, controlModifier | commandModifier));
+}
+
+TEST(Shortcut, BadArchivesAreNoShortcut) {
+    const PropertyData good = nrShortcut(9, controlModifier).data();
+    EXPECT_FALSE(nrShortcut::shortcutWithData({}));
+    for (std::size_t size = 0; size < good.size(); ++size) {
+        EXPECT_FALSE(nrShortcut::shortcutWithData(std::span(good).first(size))) << size;
+    }
+    const PropertyDictionary ours{{"$classname", u"nrShortcut"}};
+    const PropertyDictionary fields{
+        {"$class", PropertyUid{2}}, {"KeyCode", 9}, {"ModifierFlags", 0}};
+    const auto archive = [](PropertyDictionary object, PropertyDictionary type, PropertyUid root,
+                            const char16_t *archiver = u"NSKeyedArchiver") {
+        return bytesOf(platform::writeBinary(PropertyDictionary{
+            {"$archiver", archiver},
+            {"$top", PropertyDictionary{{"root", root}}},
+            {"$objects", PropertyArray{u"$null", std::move(object), std::move(type)}}}));
+    };
+    ASSERT_TRUE(nrShortcut::shortcutWithData(archive(fields, ours, {1})));
+    const struct {
+        const char *name;
+        PropertyData data;
+    } rows[] = {
+        {"root outside the objects", archive(fields, ours, {3})},
+        {"root is no object", archive(fields, ours, {0})},
+        {"another class", archive(fields, {{"$classname", u"NSColor"}}, {1})},
+        {"no class", archive({{"KeyCode", 9}, {"ModifierFlags", 0}}, ours, {1})},
+        {"no key code", archive({{"$class", PropertyUid{2}}, {"ModifierFlags", 0}}, ours, {1})},
+        {"key code is text",
+         archive({{"$class", PropertyUid{2}}, {"KeyCode", u"9"}, {"ModifierFlags", 0}}, ours, {1})},
+        {"another archiver", archive(fields, ours, {1}, u"NSArchiver")},
+        {"a list", bytesOf(platform::writeBinary(PropertyArray{1, 2}))},
+    };
+    for (const auto &row : rows) {
+        EXPECT_FALSE(nrShortcut::shortcutWithData(row.data)) << row.name;
+    }
+    // One byte changed gives some shortcut or none.
+    std::mt19937 random(1);
+    for (int round = 0; round < 20000; ++round) {
+        PropertyData bad = good;
+        bad[random() % bad.size()] = static_cast<std::byte>(random());
+        (void)nrShortcut::shortcutWithData(bad);
+        for (auto &byte : bad) {
+            byte = static_cast<std::byte>(random());
+        }
+        EXPECT_FALSE(nrShortcut::shortcutWithData(bad));
+    }
+}
+
+TEST(Shortcut, TextsFollowTheLayout) {
+    const struct {
+        const char *layout;
+        std::uint64_t key;
+        const char16_t *text;
+        const char16_t *equivalent;
+    } rows[] = {
+        {"us", 9, u"V", u"v"},
+        {"us", 16, u"Y", u"y"},
+        {"de", 16, u"Z", u"z"},
+        {"ru", 16, u"Н", u"н"},
+        {"fr", 12, u"A", u"a"},
+        {"fr", 18, u"&", u"&"},
+        {"de", 24, u"\u00b4", u"\u00b4"}, // dead key
+        {"de", 10, u"<", u"<"},
+        {"us", 36, u"↩", u"↩"},
+        {"us", 49, u"Space", u" "},
+        {"us", 122, u"F1", u"\uf704"},
+        {"us", 106, u"F16", u"\uf713"},
+        {"us", 80, u"F19", u"\uf716"},
+        {"us", 90, u"", u""},
+        {"us", 78, u"–", u"–"},
+        {"us", 92, u"9", u"9"},
+        {"us", 114, u"?", u"?"},
+        {"us", 126, u"↑", u"↑"},
+        {"us", 51, u"⌫", u"⌫"},
+        {"us", 57, u"", u""},
+        {"us", 700, u"", u""},
+        // Not the smaller sharp s, and so without a menu key equivalent.
+        {"de", 27, u"SS", u""},
+    };
+    for (const auto &row : rows) {
+        const auto layout = layoutOf(row.layout);
+        const ShortcutTexts texts(layout);
+        const nrShortcut shortcut(row.key, 0);
+        EXPECT_EQ(shortcut.keyCodeString(texts), row.text) << row.layout << ' ' << row.key;
+        EXPECT_EQ(shortcut.keyCodeStringForKeyEquivalent(texts), row.equivalent)
+            << row.layout << ' ' << row.key;
+    }
+    // Without a layout, and where a key writes a control character.
+    const XkbKeyboardLayout none;
+    EXPECT_EQ(nrShortcut(9, controlModifier).description(ShortcutTexts(none)), u"⌃");
+    struct Control final : platform::KeyboardLayout {
+        std::u16string textOfKey(std::uint64_t) const override { return u"a\u0003"; }
+        std::string symbolOfKey(std::uint64_t) const override { return {}; }
+        std::optional<std::uint16_t> keyOfSymbol(std::string_view) const override { return {}; }
+        void setChangedHandler(std::function<void()>) override {}
+        std::string description() const override { return {}; }
+    } control;
+    EXPECT_EQ(nrShortcut(9, 0).keyCodeString(ShortcutTexts(control)), u"");
+}
+
+TEST(Shortcut, NamesItsModifiers) {
+    const auto layout = layoutOf("us");
+    const ShortcutTexts texts(layout, [](std::u16string_view key) {
+        return std::u16string(key == u"Space" ? u"Leertaste" : key);
+    });
+    EXPECT_EQ(nrShortcut(9, allModifiers).description(texts), u"⌃⌥⇧⌘V");
+    EXPECT_EQ(nrShortcut(9, allModifiers).spelledOutName(texts), u"Ctrl+Super+Alt+Shift+V");
+    EXPECT_EQ(nrShortcut(9, controlModifier).spelledOutName(texts), u"Super+V");
+    EXPECT_EQ(nrShortcut(49, optionModifier).spelledOutName(texts), u"Alt+Leertaste");
+    EXPECT_EQ(nrShortcut(117, 0).spelledOutName(texts), u"Delete");
+    EXPECT_EQ(nrShortcut(nrShortcut::absentKey, shiftModifier).description(texts), u"⇧");
+    EXPECT_EQ(nrShortcut(9, allModifiers).carbonFlags(), 0x1b00u);
+    EXPECT_EQ(nrShortcut(nrShortcut::absentKey, shiftModifier).carbonFlags(), 0x200u);
+    EXPECT_EQ(nrShortcut(nrShortcut::absentKey, shiftModifier).carbonKeyCode(), 0u);
+}
+
+TEST(Shortcut, Validity) {
+    const struct {
+        std::uint64_t key, modifiers;
+        bool valid, validWithAnyOption;
+    } rows[] = {
+        {96, 0, true, true},                              // F5
+        {90, shiftModifier, true, true},                  // F20
+        {0, 0, false, false},                             // A
+        {0, shiftModifier, false, false},                 //
+        {9, controlModifier, true, true},                 //
+        {9, commandModifier | shiftModifier, true, true}, //
+        {0, optionModifier, false, true},                 //
+        {0, optionModifier | shiftModifier, false, true}, //
+        {49, optionModifier, true, true},                 // Space
+        {53, optionModifier | shiftModifier, true, true}, // Escape
+        {49, 0, false, false},                            //
+    };
+    for (const auto &row : rows) {
+        const nrShortcut shortcut(row.key, row.modifiers);
+        EXPECT_EQ(shortcut.isValid(), row.valid) << row.key << ' ' << row.modifiers;
+        nrShortcut::setAllowsAnyHotkeyWithOptionModifier(true);
+        EXPECT_EQ(shortcut.isValid(), row.validWithAnyOption) << row.key << ' ' << row.modifiers;
+        nrShortcut::setAllowsAnyHotkeyWithOptionModifier(false);
+    }
+}
+
+TEST(Shortcut, BypassesCloseAndQuitByTheLetterOnTheKey) {
+    const auto us = layoutOf("us");
+    const auto fr = layoutOf("fr");
+    const ShortcutTexts inUs(us);
+    EXPECT_TRUE(nrShortcut(13, commandModifier).shouldBypass(inUs));
+    EXPECT_TRUE(nrShortcut(12, commandModifier).shouldBypass(inUs));
+    EXPECT_FALSE(nrShortcut(13, commandModifier | shiftModifier).shouldBypass(inUs));
+    EXPECT_FALSE(nrShortcut(12, controlModifier).shouldBypass(inUs));
+    EXPECT_FALSE(nrShortcut(12, commandModifier).shouldBypass(ShortcutTexts(fr)));
+    EXPECT_TRUE(nrShortcut(0, commandModifier).shouldBypass(ShortcutTexts(fr)));
+}
+
+TEST(Shortcut, IsTakenByTheDesktopFirst) {
+    const auto layout = layoutOf("us");
+    const ShortcutTexts texts(layout);
+    FixedHotKeys desktop;
+    desktop.keys = {{9, 0x1000}};
+    const std::vector<MenuItem> menu{{u"Paste", u"v", controlModifier, {}}};
+    ShortcutError error;
+    EXPECT_TRUE(nrShortcut(9, controlModifier).isTakenError(&error, texts, desktop, menu));
+    EXPECT_EQ(text::utf16ToUtf8(error.localizedDescription),
+              "The key combination \"⌃V\" can't be used because it's already used by a system-wide "
+              "keyboard shortcut. If you really want to use this key combination, most shortcuts "
+              "can be changed in the Keyboard panel in System Preferences.");
+    EXPECT_EQ(error.domain, "NSCocoaErrorDomain");
+    EXPECT_EQ(error.code, 0);
+    EXPECT_TRUE(nrShortcut(9, controlModifier).isTakenError(nullptr, texts, desktop, {}));
+    EXPECT_FALSE(
+        nrShortcut(9, controlModifier | shiftModifier).isTakenError(&error, texts, desktop, menu));
+}
+
+TEST(Shortcut, IsTakenByMenuItems) {
+    const auto layout = layoutOf("us");
+    const ShortcutTexts texts(layout);
+    FixedHotKeys desktop;
+    const std::vector<MenuItem> menu{
+        {u"File", {}, 0, {{u"Save \"%@\"", u"s", commandModifier, {}}}},
+        {u"Save All", u"S", commandModifier, {}},
+        {u"With Caps Lock", u"x", commandModifier | 0x10000, {}},
+        {u"Upper Caps Lock", u"Z", commandModifier | 0x10000, {}},
+    };
+    const struct {
+        std::uint64_t key, modifiers;
+        const char *item; // null: free
+    } rows[] = {
+        {1, commandModifier, "Save \"%@\""},
+        {1, commandModifier | shiftModifier, "Save All"},
+        {1, controlModifier, nullptr},
+        {7, commandModifier, "With Caps Lock"},
+        // The mask of an upper-case equivalent is compared whole.
+        {6, commandModifier | shiftModifier, nullptr},
+        {9, commandModifier, nullptr},
+    };
+    for (const auto &row : rows) {
+        ShortcutError error;
+        const nrShortcut shortcut(row.key, row.modifiers);
+        EXPECT_EQ(shortcut.isTakenError(&error, texts, desktop, menu), row.item != nullptr);
+        const std::string description = text::utf16ToUtf8(shortcut.description(texts));
+        EXPECT_EQ(text::utf16ToUtf8(error.localizedDescription),
+                  row.item ? "The key combination \"" + description +
+                                 "\" can't be used because it's already used by the menu item \"" +
+                                 row.item + "\"."
+                           : "");
+    }
+}
+
+} // namespace
+} // namespace nerlo::shortcuts
