@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>التفضيلات</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>المسافات وعلامات الجدولة</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>الأسطر</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>الحروف وعلامات الاقتباس</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>التعداد والوسوم والنمط</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>عشرة استبدالات</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>البحث والاستبدال</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>الإحصاءات</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>ابحث في الخيارات</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>اكتب كلمة لإيجاد كل خيار يتعلق بها.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>لا يوجد خيار يتعلق بـ «%@».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>الصفحات</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>الخيارات</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>ملف الإعدادات</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>مجموعة الخيارات المستخدمة. يمكن تبديلها أيضًا من قائمة صينية النظام.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>أضف ملف إعدادات</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>يضيف ملف إعدادات كل خياراته معطّلة.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>أزل ملف الإعدادات</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>يزيل ملف الإعدادات المحدد بعد السؤال.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>أدخل اسم ملف الإعدادات الجديد وانقر «موافق»</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>أتريد إزالة ملف الإعدادات هذا؟</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>ملف الإعدادات: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>أغلق</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>استُثني Excel</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>مع الخيار «محو التنسيق تلقائيًا»</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>الاختصار: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>اختصار يعمل في كل التطبيقات.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>رفض النظام هذا الاختصار. قد يكون برنامج آخر يستخدمه.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>لا يوفّر سطح المكتب هذا اختصارات للبرامج. اربط الأمر «%@» في إعداداته.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>لا يعرض سطح المكتب هذا صينية نظام، لذا تُفتح هذه النافذة عند كل تشغيل.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>التشغيل عند الولوج</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>تشغيل Nerlo Pro عند الولوج</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>قبل: تشغّل Nerlo Pro يدويًا.
+بعد: تجده يعمل بعد الولوج.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>الإظهار في صينية النظام</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>قبل: لـ Nerlo Pro مدخل في شريط المهام.
+بعد: له أيقونة مع قائمة في صينية النظام.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>التشغيل في الخلفية</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>قبل: أيقونة في الصينية أو مدخل في شريط المهام.
+بعد: لا هذا ولا ذاك. تشغيل Nerlo Pro مجددًا يفتح هذه النافذة.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>البقاء في المقدمة</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>قبل: قد تغطي النوافذ الأخرى هذه النافذة.
+بعد: تبقى هذه النافذة فوقها.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>محو التنسيق تلقائيًا</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>قبل: أنت من يقرر متى تُنظَّف الحافظة.
+بعد: كل ما تنسخه يُنظَّف تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>ما عدا النسخ من Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>قبل: الخلايا المنسوخة تصبح نصًا عاديًا.
+بعد: خلايا الجداول تبقى كما هي.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>محو التنسيق من الحافظة</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>قبل: «مرحبًا·····بالعالم»، غامق
+بعد: «مرحبًا·بالعالم»، عادي</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>التنظيف</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>النافذة والتشغيل</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>فرز الأسطر</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>قبل: كمثرى↵تفاح
+بعد: تفاح↵كمثرى</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>الترتيب</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>قبل (A-Z): تفاح↵كمثرى
+بعد (Z-A): كمثرى↵تفاح</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>تنتهي العناصر بـ</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>قبل (فاصل أسطر): b,a
+بعد («,»): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>فاصل مخصّص</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>قبل: b/a
+بعد، مع /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>إزالة الأسطر المكررة</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>قبل: شاي↵شاي↵حليب
+بعد: شاي↵حليب</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>تنتهي العناصر بـ</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>قبل (فاصل أسطر): a,a
+بعد («,»): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>فاصل مخصّص</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>قبل: a/a
+بعد، مع /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>إظهار الإحصاءات بعد التنظيف</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>قبل: لا شيء يخبرك بما نُسخ.
+بعد: نافذة صغيرة تعدّ المحارف والمسافات والكلمات والفقرات.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>الإغلاق تلقائيًا</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>قبل: تبقى النافذة حتى تنقر عليها.
+بعد: تُغلق بعد بضع ثوانٍ.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>الثواني</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>مدة بقاء النافذة.
+قبل، مع 3: ثلاث ثوانٍ
+بعد، مع 10: عشر ثوانٍ</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>قبل (موضع المؤشر): عند المؤشر
+بعد (أعلى اليمين): في تلك الزاوية من الشاشة</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>المسافات المتعددة إلى مسافة واحدة</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>قبل: a····b
+بعد: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>علامات الجدولة المتعددة إلى واحدة</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>قبل: a⇥⇥⇥b
+بعد: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>تحويل علامات الجدولة وأربع مسافات</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>قبل: ⇥a
+بعد: ····a، أو العكس</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>الاتجاه</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>قبل (الجدولة إلى 4 مسافات): ⇥a
+بعد: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>تحويل ثلاث نقاط وعلامة الحذف</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>قبل: انتظر...
+بعد: انتظر…، أو العكس</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>الاتجاه</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>قبل (3 نقاط إلى علامة حذف): انتظر...
+بعد: انتظر…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>إزالة المسافة قبل النقطة</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>قبل: النهاية·.
+بعد: النهاية.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>إزالة المسافات حول علامات الجدولة</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>قبل: a·⇥·b
+بعد: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>إزالة المسافات حول فواصل الأسطر</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>قبل: واحد·↵·اثنان
+بعد: واحد↵اثنان</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>إزالة كل المسافات</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>قبل: a·b·c
+بعد: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>إزالة كل علامات الجدولة</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>قبل: a⇥b⇥c
+بعد: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>المسافات والجدولة وفواصل الأسطر إلى مسافة واحدة</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>قبل: a·⇥·b↵c
+بعد: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>إزالة الواصلات في نهايات الأسطر</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>قبل: hyphen-↵ated
+بعد: hyphenated</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>إزالة كل الواصلات والشرطات وعلامات الناقص</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>قبل: well-known
+بعد: wellknown</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>إضافة بادئة</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>قبل: نص
+بعد، مع «&gt; »: &gt; نص</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>البادئة</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>قبل: نص
+بعد، مع «&gt; »: &gt; نص</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>إضافة لاحقة</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>قبل: نص
+بعد، مع «!»: نص!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>اللاحقة</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>قبل: نص
+بعد، مع «!»: نص!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>وصل الأسطر المكسورة خطأً</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>قبل: هذا السطر↵انكسر في وسطه.
+بعد: هذا السطر·انكسر في وسطه.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>توصَل الأسطر بـ</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>قبل (لا شيء): a↵b يصبح ab
+بعد (مسافة): a↵b يصبح a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>تغيير فواصل الأسطر</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>قبل: واحد↵↵↵اثنان
+بعد (فاصل أسطر واحد): واحد↵اثنان</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>تصبح فواصل الأسطر</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>قبل (فاصل أسطر واحد): واحد↵اثنان
+بعد (مسافة): واحد·اثنان</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>النص المخصّص الأول</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>قبل: واحد↵اثنان
+بعد، مع «- »: واحد↵- اثنان</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>النص المخصّص الثاني</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>قبل: واحد
+بعد، مع [b] و [/b]: [b]واحد[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>تشذيب طرفي النص</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>قبل: ··نص··
+بعد: نص</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>تغيير حالة الأحرف</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>قبل: HELLO. YOU.
+بعد (حرف كبير في أول الجملة): Hello. You.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>حالة الأحرف</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>قبل (أحرف كبيرة): HELLO
+بعد (أحرف صغيرة): hello</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>تغيير علامات الاقتباس</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>قبل: ‘نص’
+بعد (مفردة إلى مزدوجة): “نص”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>الاتجاه</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>قبل (مفردة إلى مزدوجة): ‘نص’
+بعد: “نص”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>العلامات المفردة</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>قبل: &apos;نص&apos;
+بعد، مع ‚…‘: ‚نص‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>العلامات المزدوجة</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>قبل: &quot;نص&quot;
+بعد، مع „…“: „نص“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>العلامات بكل الأنماط</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>قبل: «نص» يبقى كما هو.
+بعد: «نص» يتغيّر أيضًا.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>إزالة علامات الاقتباس المفردة</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>قبل: ‘نص’
+بعد: نص</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>المفردة بكل الأنماط</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>قبل: ‹نص› يبقى كما هو.
+بعد: نص</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>إزالة علامات الاقتباس المزدوجة</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>قبل: “نص”
+بعد: نص</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>المزدوجة بكل الأنماط</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>قبل: «نص» يبقى كما هو.
+بعد: نص</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>إزالة علامات التعداد</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>قبل: •·حليب↵•·خبز
+بعد: حليب↵خبز</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>إزالة علامات الرد</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>قبل: &gt;·&gt;·مرحبًا
+بعد: مرحبًا</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>إزالة وسوم HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>قبل: &lt;b&gt;غامق&lt;/b&gt;
+بعد: غامق</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>البرمجيات النصية أيضًا</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>قبل: يبقى نص &lt;script&gt;.
+بعد: يزول مع وسمه.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>استخدام نمطك الخاص</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>قبل، مع [0-9]: a1b2
+بعد (حذف): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>النمط</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>تعبير نمطي.
+قبل، مع [0-9]: a1b2
+بعد (حذف): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>التطابقات</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>قبل (حذف [0-9]): a1b2 يصبح ab
+بعد (بحث [0-9]): a1b2 يصبح 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>المسافات والجدولة وفواصل الأسطر إلى مسافة واحدة</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>الاستبدال 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>الاستبدال 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>الاستبدال 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>الاستبدال 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>الاستبدال 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>الاستبدال 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>الاستبدال 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>الاستبدال 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>الاستبدال 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>الاستبدال 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>قبل: colour
+بعد، مع «colour» و «color»: color</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>ابحث عن</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>النص المطلوب إيجاده.
+قبل: colour
+بعد، مع «colour» و «color»: color</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>استبدل بـ</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>ما يحلّ محلّه؛ إن تُرك فارغًا حُذف النص.
+قبل: colour
+بعد، مع «colour» و «color»: color</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>المسافة البادئة</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>الوسم</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>مخصّص</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>تطبيق قائمة البحث والاستبدال</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>قبل: د. سمير
+بعد، مع د. → الدكتور: الدكتور سمير</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>قائمة واحدة لكل ملفات الإعدادات</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>قبل: لكل ملف إعدادات قائمته.
+بعد: كل ملفات الإعدادات تشترك في قائمة واحدة.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>القواعد، من الأولى إلى الأخيرة</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>تُطبَّق القواعد من الأعلى إلى الأسفل. اسحب قاعدة، أو اضغط Alt+أعلى وAlt+أسفل، لنقلها.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>ابحث عن</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>استبدل بـ</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>ابدأ بـ {search} للإبقاء على ما يجده النمط فقط، أو بـ {delete} لحذفه.
+قبل، مع [0-9] و {search}#: a1b2
+بعد: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>أضف قاعدة</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>يضيف قاعدة في نهاية القائمة.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>احذف القاعدة</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>يحذف القاعدة المحددة.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>انقل لأعلى</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>ينقل القاعدة المحددة لأعلى لتُطبَّق أبكر.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>انقل لأسفل</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>ينقل القاعدة المحددة لأسفل لتُطبَّق لاحقًا.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>قاعدة جديدة</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>حدد القاعدة التي تريد حذفها</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>حدد قاعدة</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>نص الاستبدال</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>معكوس</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>عشوائي</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>فاصل أسطر</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>أسفل اليسار</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>أسفل اليمين</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>أعلى اليسار</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>أعلى اليمين</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>الوسط</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>موضع المؤشر</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>الجدولة إلى 4 مسافات, 4 مسافات إلى جدولة</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 نقاط إلى علامة حذف, علامة حذف إلى 3 نقاط</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>لا شيء, مسافة</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>لا شيء, فاصل أسطر واحد, فاصلا أسطر, مسافة, فاصل ومسافة, فاصل وجدولة, فاصل ونص مخصّص, فقرات HTML, وسوم صور HTML, نص مخصّص حول الأسطر</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>حرف كبير في أول الجملة, حرف كبير في كل كلمة, أحرف صغيرة, أحرف كبيرة</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>مفردة إلى مزدوجة, مزدوجة إلى مفردة</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>حذف, بحث</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>المعاينة</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>تعرض ما تفعله الخيارات. لا يصل شيء إلى الحافظة حتى تطلب ذلك.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>قبل</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>اكتب أو ألصق هنا أي نص لتجربة الخيارات عليه.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>بعد</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>النص كما تنظّفه الخيارات. ما تغيّر معلَّم.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>اكتب نصًا، أو خذه من الحافظة</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>خذ من الحافظة</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>ينسخ نص الحافظة إلى المعاينة.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>نظّف الحافظة</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>ينظّف نص الحافظة بهذه الخيارات الآن.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>النص أطول من أن يُعاين؛ يظهر أوله فقط.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>لا يوجد نص في الحافظة.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>عزيزي  القارئ .
+
+&gt;  هذا السطر
+&gt;  انكسر في وسطه.
+
+•  &apos;حليب&apos;
+•  &apos;خبز&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>المحارف</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>المسافات</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>الكلمات</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>الفقرات</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>الإحصاءات</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>انقر للإغلاق</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>التلميحات</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>ابدأ</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>التلميح %1 من %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>عرض التلميحات عند كل تشغيل</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>قبل: تُفتح التلميحات من القائمة فقط.
+بعد: تُفتح كلما بدأ Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>الجديد في Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>اعرض التلميحات</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>انسخ، فإذا به نظيف</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>يقيم Nerlo Pro في صينية النظام، ويحوّل ما تنسخه إلى نص عادي نظيف: بلا مسافات زائدة ولا أسطر مكسورة ولا تنسيق.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>يدويًا أو تلقائيًا</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>اختر «محو التنسيق من الحافظة» من القائمة، أو اضغط اختصاره، أو دع «محو التنسيق تلقائيًا» ينظّف كل ما تنسخه.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>انظر قبل أن تنظّف</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>تعرض التفضيلات نصًا قبل وبعد. فعّل خيارًا وانظر ما يفعله؛ تبقى الحافظة كما هي.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>ملف إعدادات لكل عمل</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>احتفظ بمجموعة خيارات للبريد وأخرى للشفرة، وبدّل بينها من قائمة صينية النظام.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>قواعدك الخاصة</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>تطبّق قائمة البحث والاستبدال قواعدك بالترتيب. اسحب قاعدة لنقلها؛ والأنماط تعمل أيضًا.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>لا شيء يضيع</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>«استعادة الأصل» في القائمة يعيد ما كان في الحافظة من قبل مع تنسيقه.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>القائمة</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>القاعدة %1 من %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – ينظّف كل ما تنسخه</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – شيء ما لا يعمل هنا</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>ينظّف النص في الحافظة.
+الإصدار %1
+رخصة MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>لا يوجد أصل لاستعادته.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>تغيّرت الحافظة، لذا لم يُستعَد الأصل.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>محو التنسيق من الحافظة</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>محو التنسيق تلقائيًا</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>ما عدا النسخ من Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>استعادة الأصل</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>عمليات منفردة</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>ملفات الإعدادات</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>التفضيلات…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>التلميحات</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>الجديد</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>قيّم Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>الدعم</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>راسل المطوّر</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>عن البرنامج</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>أنهِ Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>أخفِ Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>امحُ</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>تحرير</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>أعد</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>انسخ</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>ألصق</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>احذف</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>حدد الكل</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>انقر لتسجيل اختصار</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>اضغط الاختصار</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>استخدم القديم</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ألغِ</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>احذف الاختصار</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>المسافة</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>لا يمكن استخدام تركيبة المفاتيح «%@»!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>لا يمكن استخدام تركيبة المفاتيح «%@» لأنها اختصار لوحة مفاتيح على مستوى النظام. إن أردت استخدامها حقًا فيمكن تغيير معظم الاختصارات من قسم لوحة المفاتيح في إعدادات النظام.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>لا يمكن استخدام تركيبة المفاتيح «%@» لأن عنصر القائمة «%@» يستخدمها.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Leerzeichen und Tabs</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Buchstaben und Zitate</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Aufzählung, Tags, Muster</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Zehn Ersetzungen</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Suchen und Ersetzen</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Optionen suchen</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Geben Sie ein Wort ein, um alle Optionen zu finden, die damit zu tun haben.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Keine Option hat mit „%@“ zu tun.</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Der Satz Optionen, der benutzt wird. Auch das Menü im Infobereich kann ihn wechseln.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Profil hinzufügen</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Fügt ein Profil hinzu, in dem alle Optionen ausgeschaltet sind.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Profil entfernen</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Entfernt nach einer Rückfrage das gewählte Profil.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Geben Sie den Namen des neuen Profils ein und klicken Sie auf OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Möchten Sie dieses Profil entfernen?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Profil: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel ausgenommen</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Mit der Option „Formatierung automatisch entfernen“</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Tastenkürzel: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Ein Tastenkürzel, das in jeder Anwendung wirkt.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Das System hat dieses Tastenkürzel abgelehnt. Vielleicht benutzt es ein anderes Programm.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Diese Arbeitsumgebung bietet Programmen keine Tastenkürzel an. Legen Sie in deren Einstellungen eines für den Befehl „%@“ fest.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Diese Arbeitsumgebung zeigt keinen Infobereich, darum öffnet sich dieses Fenster bei jedem Start.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Nerlo Pro bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Vorher: Sie starten Nerlo Pro von Hand.
+Nachher: Es ist nach der Anmeldung da.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Im Infobereich anzeigen</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Vorher: Nerlo Pro hat einen Eintrag in der Fensterleiste.
+Nachher: Es hat ein Symbol mit Menü im Infobereich.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Im Hintergrund ausführen</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Vorher: Symbol im Infobereich oder Eintrag in der Fensterleiste.
+Nachher: Keines von beiden. Ein erneuter Start von Nerlo Pro öffnet dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Im Vordergrund halten</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Vorher: Andere Fenster können dieses verdecken.
+Nachher: Dieses Fenster bleibt über ihnen.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Formatierung automatisch entfernen</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Vorher: Sie bestimmen, wann die Zwischenablage bereinigt wird.
+Nachher: Jede Kopie wird von selbst bereinigt.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Außer bei Kopien aus Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Vorher: Kopierte Zellen werden zu einfachem Text.
+Nachher: Zellen aus einer Tabelle bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Zwischenablage von Formatierung befreien</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Vorher: „Hallo·····Welt“, fett
+Nachher: „Hallo·Welt“, einfach</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Bereinigen</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Fenster und Start</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Zeilen sortieren</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Vorher: Birne↵Apfel
+Nachher: Apfel↵Birne</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Vorher (A-Z): Apfel↵Birne
+Nachher (Z-A): Birne↵Apfel</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Einträge enden mit</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Vorher (Zeilenumbruch): b,a
+Nachher („,“): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Eigenes Trennzeichen</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Vorher: b/a
+Nachher, mit /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Doppelte Zeilen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Vorher: Tee↵Tee↵Milch
+Nachher: Tee↵Milch</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Einträge enden mit</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Vorher (Zeilenumbruch): a,a
+Nachher („,“): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Eigenes Trennzeichen</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Vorher: a/a
+Nachher, mit /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Nach dem Bereinigen die Statistik zeigen</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Vorher: Nichts sagt Ihnen, was kopiert wurde.
+Nachher: Ein kleines Fenster zählt Zeichen, Leerzeichen, Wörter und Absätze.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Von selbst schließen</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Vorher: Das Fenster bleibt, bis Sie darauf klicken.
+Nachher: Es schließt sich nach einigen Sekunden.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Wie lange das Fenster stehen bleibt.
+Vorher, mit 3: drei Sekunden
+Nachher, mit 10: zehn Sekunden</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Vorher (Am Mauszeiger): beim Mauszeiger
+Nachher (Oben rechts): in dieser Ecke des Bildschirms</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Mehrere Leerzeichen zu einem</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Vorher: a····b
+Nachher: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Mehrere Tabs zu einem</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Vorher: a⇥⇥⇥b
+Nachher: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Tabs und vier Leerzeichen umwandeln</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Vorher: ⇥a
+Nachher: ····a, oder umgekehrt</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Vorher (Tab zu 4 Leerzeichen): ⇥a
+Nachher: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Drei Punkte und Auslassungszeichen umwandeln</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Vorher: Moment...
+Nachher: Moment…, oder umgekehrt</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Vorher (3 Punkte zu Auslassungszeichen): Moment...
+Nachher: Moment…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Leerzeichen vor einem Punkt entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Vorher: Ende·.
+Nachher: Ende.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Leerzeichen um Tabs entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Vorher: a·⇥·b
+Nachher: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Leerzeichen um Zeilenumbrüche entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Vorher: eins·↵·zwei
+Nachher: eins↵zwei</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Alle Leerzeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Vorher: a·b·c
+Nachher: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Alle Tabs entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Vorher: a⇥b⇥c
+Nachher: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Leerzeichen, Tabs und Umbrüche zu einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Vorher: a·⇥·b↵c
+Nachher: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Trennstriche am Zeilenende entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Vorher: Silben-↵trennung
+Nachher: Silbentrennung</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Alle Bindestriche, Gedankenstriche und Minuszeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Vorher: E-Mail
+Nachher: EMail</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Präfix hinzufügen</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Vorher: Text
+Nachher, mit „&gt; “: &gt; Text</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Präfix</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Vorher: Text
+Nachher, mit „&gt; “: &gt; Text</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Suffix hinzufügen</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Vorher: Text
+Nachher, mit „!“: Text!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Suffix</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Vorher: Text
+Nachher, mit „!“: Text!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Falsch umbrochene Zeilen zusammenfügen</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Vorher: Diese Zeile wurde↵mittendrin umbrochen.
+Nachher: Diese Zeile wurde·mittendrin umbrochen.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Zeilen werden verbunden mit</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Vorher (nichts): a↵b wird zu ab
+Nachher (Leerzeichen): a↵b wird zu a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Zeilenumbrüche ändern</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Vorher: eins↵↵↵zwei
+Nachher (ein Umbruch): eins↵zwei</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Aus Umbrüchen wird</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Vorher (ein Umbruch): eins↵zwei
+Nachher (Leerzeichen): eins·zwei</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Erster eigener Text</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Vorher: eins↵zwei
+Nachher, mit „- “: eins↵- zwei</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Zweiter eigener Text</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Vorher: eins
+Nachher, mit [b] und [/b]: [b]eins[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Beide Enden des Textes beschneiden</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Vorher: ··Text··
+Nachher: Text</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Groß- und Kleinschreibung ändern</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Vorher: HALLO. DU.
+Nachher (Satzanfänge groß): Hallo. Du.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Schreibung</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Vorher (GROSSBUCHSTABEN): HALLO
+Nachher (Kleinbuchstaben): hallo</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Anführungszeichen ändern</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Vorher: ‘Text’
+Nachher (einfache zu doppelten): “Text”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Vorher (einfache zu doppelten): ‘Text’
+Nachher: “Text”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Einfache Zeichen</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Vorher: &apos;Text&apos;
+Nachher, mit ‚…‘: ‚Text‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Doppelte Zeichen</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Vorher: &quot;Text&quot;
+Nachher, mit „…“: „Text“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Zeichen jeder Art</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Vorher: «Text» bleibt, wie es ist.
+Nachher: «Text» wird auch geändert.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Einfache Anführungszeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Vorher: ‘Text’
+Nachher: Text</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Einfache Zeichen jeder Art</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Vorher: ‹Text› bleibt, wie es ist.
+Nachher: Text</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Doppelte Anführungszeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Vorher: “Text”
+Nachher: Text</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Doppelte Zeichen jeder Art</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Vorher: «Text» bleibt, wie es ist.
+Nachher: Text</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Aufzählungszeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Vorher: •·Milch↵•·Brot
+Nachher: Milch↵Brot</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Antwortzeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Vorher: &gt;·&gt;·Hallo
+Nachher: Hallo</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>HTML-Tags entfernen</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Vorher: &lt;b&gt;fett&lt;/b&gt;
+Nachher: fett</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Auch Skripte</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Vorher: Der Text eines &lt;script&gt; bleibt.
+Nachher: Er verschwindet mit seinem Tag.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Eigenes Muster verwenden</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Vorher, mit [0-9]: a1b2
+Nachher (löschen): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Ein regulärer Ausdruck.
+Vorher, mit [0-9]: a1b2
+Nachher (löschen): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Treffer</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Vorher (löschen [0-9]): a1b2 wird zu ab
+Nachher (suchen [0-9]): a1b2 wird zu 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Leerzeichen, Tabs und Umbrüche zu einem Leerzeichen</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Ersetzung 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Ersetzung 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Ersetzung 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Ersetzung 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Ersetzung 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Ersetzung 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Ersetzung 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Ersetzung 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Ersetzung 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Ersetzung 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Vorher: Photo
+Nachher, mit „Photo“ und „Foto“: Foto</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Suchen nach</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Der Text, der gesucht wird.
+Vorher: Photo
+Nachher, mit „Photo“ und „Foto“: Foto</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Was an seine Stelle tritt; bleibt es leer, wird der Text gelöscht.
+Vorher: Photo
+Nachher, mit „Photo“ und „Foto“: Foto</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Einzug</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigener</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Liste zum Suchen und Ersetzen anwenden</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Vorher: Hr. Meier
+Nachher, mit Hr. → Herr: Herr Meier</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Eine Liste für alle Profile</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Vorher: Jedes Profil hat eine eigene Liste.
+Nachher: Alle Profile teilen sich eine Liste.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Regeln, von der ersten zur letzten</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Die Regeln werden von oben nach unten angewandt. Ziehen Sie eine Regel oder drücken Sie Alt+Auf und Alt+Ab, um sie zu verschieben.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Suchen nach</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Mit {search} am Anfang bleibt nur, was das Muster findet; mit {delete} wird es gelöscht.
+Vorher, mit [0-9] und {search}#: a1b2
+Nachher: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Regel hinzufügen</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Fügt am Ende der Liste eine Regel hinzu.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Regel löschen</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Löscht die gewählte Regel.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Schiebt die gewählte Regel nach oben, sodass sie früher angewandt wird.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Schiebt die gewählte Regel nach unten, sodass sie später angewandt wird.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Neue Regel</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Wählen Sie die Regel, die gelöscht werden soll</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Wählen Sie eine Regel</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Ersatztext</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Zufällig</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Am Mauszeiger</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tab zu 4 Leerzeichen, 4 Leerzeichen zu Tab</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 Punkte zu Auslassungszeichen, Auslassungszeichen zu 3 Punkten</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nichts, Leerzeichen</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nichts, ein Umbruch, zwei Umbrüche, Leerzeichen, Umbruch und Leerzeichen, Umbruch und Tab, Umbruch und eigener Text, HTML-Absätze, HTML-Bild-Tags, eigener Text um die Zeilen</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Satzanfänge groß, Wortanfänge groß, Kleinbuchstaben, GROSSBUCHSTABEN</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>einfache zu doppelten, doppelte zu einfachen</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>löschen, suchen</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Zeigt, was die Optionen bewirken. Nichts gelangt in die Zwischenablage, bevor Sie es verlangen.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Geben Sie hier einen beliebigen Text ein, um die Optionen daran auszuprobieren.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Der Text, wie ihn die Optionen bereinigen. Geändertes ist markiert.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Text eingeben oder aus der Zwischenablage holen</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Aus der Zwischenablage holen</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Übernimmt den Text der Zwischenablage in die Vorschau.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Zwischenablage bereinigen</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Bereinigt den Text der Zwischenablage sofort mit diesen Optionen.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Der Text ist zu lang für die Vorschau; nur sein Anfang wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>In der Zwischenablage ist kein Text.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Liebe  Leserin ,
+
+&gt;  diese Zeile wurde
+&gt;  mittendrin umbrochen.
+
+•  &apos;Milch&apos;
+•  &apos;Brot&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Absätze</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Zum Schließen klicken</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Tipps</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Loslegen</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Tipp %1 von %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Tipps bei jedem Start zeigen</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Vorher: Die Tipps öffnen sich nur aus dem Menü.
+Nachher: Sie öffnen sich bei jedem Start von Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Neues in Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Tipps anzeigen</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Kopieren, und es ist sauber</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro wohnt im Infobereich. Es macht aus dem, was Sie kopieren, sauberen, einfachen Text: keine überzähligen Leerzeichen, keine zerbrochenen Zeilen, keine Formatierung.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>Von Hand oder von selbst</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Wählen Sie „Zwischenablage von Formatierung befreien“ im Menü, drücken Sie das Tastenkürzel dafür, oder lassen Sie mit „Formatierung automatisch entfernen“ jede Kopie bereinigen.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Erst sehen, dann bereinigen</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Die Einstellungen zeigen einen Text vorher und nachher. Haken Sie eine Option an und sehen Sie, was sie tut; die Zwischenablage bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Ein Profil für jede Aufgabe</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Ein Satz Optionen für E-Mails, ein anderer für Quelltext: Im Menü des Infobereichs wechseln Sie dazwischen.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Eigene Regeln</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>Die Liste zum Suchen und Ersetzen wendet Ihre Regeln der Reihe nach an. Ziehen Sie eine Regel an ihren Platz; auch Muster sind möglich.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Nichts geht verloren</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>„Original zurückholen“ im Menü bringt zurück, was vorher in der Zwischenablage stand, mitsamt Formatierung.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Regel %1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – jede Kopie wird bereinigt</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – hier funktioniert etwas nicht</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Bereinigt den Text in der Zwischenablage.
+Version %1
+MIT-Lizenz</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Es gibt kein Original, das zurückgeholt werden könnte.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Die Zwischenablage hat sich geändert, darum wurde das Original nicht zurückgeholt.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Zwischenablage von Formatierung befreien</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Formatierung automatisch entfernen</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Außer bei Kopien aus Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Original zurückholen</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Einzelne Vorgänge</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Tipps</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Neuigkeiten</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Nerlo Pro bewerten</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Hilfe im Netz</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-Mail an den Entwickler</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Nerlo Pro beenden</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Nerlo Pro ausblenden</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Klicken, um ein Tastenkürzel aufzunehmen</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Tastenkürzel drücken</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Altes behalten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Tastenkürzel löschen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>Die Tastenkombination „%@“ kann nicht verwendet werden!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>Die Tastenkombination „%@“ kann nicht verwendet werden, weil das System sie schon für ein Tastenkürzel benutzt. Wenn Sie genau diese Kombination möchten: Die meisten Tastenkürzel lassen sich in den Systemeinstellungen unter „Tastatur“ ändern.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>Die Tastenkombination „%@“ kann nicht verwendet werden, weil der Menüeintrag „%@“ sie schon benutzt.</translation>
+    </message>
+</context>
+</TS>

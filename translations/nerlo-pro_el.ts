@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="el_GR" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Προτιμήσεις</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Γενικά</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Κενά και στηλοθέτες</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Γραμμές</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Γράμματα και εισαγωγικά</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Κουκκίδες, ετικέτες, μοτίβο</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Δέκα αντικαταστάσεις</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Εύρεση και αντικατάσταση</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Στατιστικά</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Αναζήτηση επιλογών</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Πληκτρολογήστε μια λέξη για να βρείτε κάθε σχετική επιλογή.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Καμία επιλογή δεν σχετίζεται με το «%@».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Σελίδες</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Επιλογές</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Προφίλ</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Το σύνολο επιλογών που χρησιμοποιείται. Αλλάζει και από το μενού στην περιοχή ειδοποιήσεων.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Προσθήκη προφίλ</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Προσθέτει ένα προφίλ με όλες τις επιλογές ανενεργές.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Αφαίρεση προφίλ</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Αφαιρεί το επιλεγμένο προφίλ, μετά από ερώτηση.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Δώστε το όνομα του νέου προφίλ και πατήστε Εντάξει</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Να αφαιρεθεί αυτό το προφίλ;</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Προφίλ: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ναι</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Όχι</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Εντάξει</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Ακύρωση</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Κλείσιμο</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Όνομα</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Το Excel εξαιρείται</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Με την επιλογή «Αυτόματη εκκαθάριση μορφοποίησης»</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Συντόμευση: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Μια συντόμευση που λειτουργεί σε κάθε εφαρμογή.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Το σύστημα απέρριψε αυτή τη συντόμευση. Ίσως τη χρησιμοποιεί άλλο πρόγραμμα.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Αυτό το περιβάλλον δεν προσφέρει συντομεύσεις στα προγράμματα. Αντιστοιχίστε την εντολή «%@» στις δικές του ρυθμίσεις.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Αυτό το περιβάλλον δεν έχει περιοχή ειδοποιήσεων, γι’ αυτό το παράθυρο ανοίγει σε κάθε εκκίνηση.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Εκκίνηση κατά τη σύνδεση</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Εκκίνηση του Nerlo Pro κατά τη σύνδεση</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Πριν: ξεκινάτε το Nerlo Pro μόνοι σας.
+Μετά: είναι εκεί μόλις συνδεθείτε.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Εμφάνιση στην περιοχή ειδοποιήσεων</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Πριν: το Nerlo Pro έχει καταχώριση στη γραμμή εργασιών.
+Μετά: έχει εικονίδιο με μενού στην περιοχή ειδοποιήσεων.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Εκτέλεση στο παρασκήνιο</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Πριν: εικονίδιο ειδοποίησης ή καταχώριση στη γραμμή εργασιών.
+Μετά: κανένα από τα δύο. Νέα εκκίνηση του Nerlo Pro ανοίγει αυτό το παράθυρο.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Πάντα σε πρώτο πλάνο</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Πριν: άλλα παράθυρα μπορούν να καλύψουν αυτό.
+Μετά: αυτό το παράθυρο μένει πάνω από τα άλλα.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Αυτόματη εκκαθάριση μορφοποίησης</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Πριν: εσείς επιλέγετε πότε καθαρίζεται το πρόχειρο.
+Μετά: κάθε αντίγραφο καθαρίζεται μόνο του.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Εκτός από αντίγραφα του Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Πριν: τα κελιά που αντιγράφετε γίνονται απλό κείμενο.
+Μετά: τα κελιά λογιστικού φύλλου μένουν όπως είναι.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Εκκαθάριση μορφοποίησης του προχείρου</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Πριν: «Γεια·····κόσμε», έντονα
+Μετά: «Γεια·κόσμε», απλό</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Καθαρισμός</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Παράθυρο και εκκίνηση</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Ταξινόμηση γραμμών</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Πριν: μήλο↵αχλάδι
+Μετά: αχλάδι↵μήλο</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Σειρά</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Πριν (A-Z): αχλάδι↵μήλο
+Μετά (Z-A): μήλο↵αχλάδι</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Τα στοιχεία τελειώνουν με</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Πριν (Αλλαγή γραμμής): b,a
+Μετά («,»): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Προσαρμοσμένο διαχωριστικό</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Πριν: b/a
+Μετά, με /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Αφαίρεση διπλών γραμμών</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Πριν: τσάι↵τσάι↵γάλα
+Μετά: τσάι↵γάλα</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Τα στοιχεία τελειώνουν με</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Πριν (Αλλαγή γραμμής): a,a
+Μετά («,»): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Προσαρμοσμένο διαχωριστικό</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Πριν: a/a
+Μετά, με /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Εμφάνιση στατιστικών μετά τον καθαρισμό</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Πριν: τίποτα δεν δείχνει τι αντιγράφηκε.
+Μετά: ένα μικρό παράθυρο μετρά χαρακτήρες, κενά, λέξεις και παραγράφους.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Αυτόματο κλείσιμο</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Πριν: το παράθυρο μένει μέχρι να το πατήσετε.
+Μετά: κλείνει μετά από μερικά δευτερόλεπτα.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Δευτερόλεπτα</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Πόση ώρα μένει το παράθυρο.
+Πριν, με 3: τρία δευτερόλεπτα
+Μετά, με 10: δέκα δευτερόλεπτα</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Θέση</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Πριν (Θέση του δείκτη): στον δείκτη
+Μετά (Πάνω δεξιά): σε εκείνη τη γωνία της οθόνης</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Πολλά κενά σε ένα</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Πριν: a····b
+Μετά: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Πολλοί στηλοθέτες σε έναν</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Πριν: a⇥⇥⇥b
+Μετά: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Μετατροπή στηλοθετών και τεσσάρων κενών</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Πριν: ⇥a
+Μετά: ····a, ή το αντίστροφο</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Κατεύθυνση</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Πριν (Στηλοθέτης σε 4 κενά): ⇥a
+Μετά: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Μετατροπή τριών τελειών και αποσιωπητικών</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Πριν: Περίμενε...
+Μετά: Περίμενε…, ή το αντίστροφο</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Κατεύθυνση</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Πριν (3 τελείες σε αποσιωπητικά): Περίμενε...
+Μετά: Περίμενε…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Αφαίρεση του κενού πριν από τελεία</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Πριν: Τέλος·.
+Μετά: Τέλος.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Αφαίρεση κενών γύρω από στηλοθέτες</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Πριν: a·⇥·b
+Μετά: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Αφαίρεση κενών γύρω από αλλαγές γραμμής</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Πριν: ένα·↵·δύο
+Μετά: ένα↵δύο</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Αφαίρεση όλων των κενών</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Πριν: a·b·c
+Μετά: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Αφαίρεση όλων των στηλοθετών</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Πριν: a⇥b⇥c
+Μετά: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Κενά, στηλοθέτες και αλλαγές γραμμής σε ένα κενό</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Πριν: a·⇥·b↵c
+Μετά: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Αφαίρεση ενωτικών στο τέλος γραμμής</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Πριν: συλλα-↵βισμός
+Μετά: συλλαβισμός</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Αφαίρεση όλων των ενωτικών, παυλών και σημείων μείον</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Πριν: ελληνο-γαλλικός
+Μετά: ελληνογαλλικός</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Προσθήκη προθέματος</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Πριν: κείμενο
+Μετά, με «&gt; »: &gt; κείμενο</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Πρόθεμα</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Πριν: κείμενο
+Μετά, με «&gt; »: &gt; κείμενο</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Προσθήκη επιθέματος</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Πριν: κείμενο
+Μετά, με «!»: κείμενο!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Επίθεμα</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Πριν: κείμενο
+Μετά, με «!»: κείμενο!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Ένωση λανθασμένα κομμένων γραμμών</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Πριν: Αυτή η γραμμή↵κόπηκε στη μέση.
+Μετά: Αυτή η γραμμή·κόπηκε στη μέση.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Οι γραμμές ενώνονται με</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Πριν (τίποτα): a↵b γίνεται ab
+Μετά (κενό): a↵b γίνεται a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Αλλαγή των αλλαγών γραμμής</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Πριν: ένα↵↵↵δύο
+Μετά (μία αλλαγή γραμμής): ένα↵δύο</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Οι αλλαγές γραμμής γίνονται</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Πριν (μία αλλαγή γραμμής): ένα↵δύο
+Μετά (κενό): ένα·δύο</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Πρώτο προσαρμοσμένο κείμενο</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Πριν: ένα↵δύο
+Μετά, με «- »: ένα↵- δύο</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Δεύτερο προσαρμοσμένο κείμενο</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Πριν: ένα
+Μετά, με [b] και [/b]: [b]ένα[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Περικοπή των δύο άκρων του κειμένου</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Πριν: ··κείμενο··
+Μετά: κείμενο</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Αλλαγή πεζών και κεφαλαίων</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Πριν: ΓΕΙΑ. ΕΣΥ.
+Μετά (κεφαλαίο στην αρχή πρότασης): Γεια. Εσύ.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Πεζά και κεφαλαία</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Πριν (κεφαλαία): ΓΕΙΑ
+Μετά (πεζά): γεια</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Αλλαγή εισαγωγικών</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Πριν: ‘κείμενο’
+Μετά (μονά σε διπλά): “κείμενο”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Κατεύθυνση</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Πριν (μονά σε διπλά): ‘κείμενο’
+Μετά: “κείμενο”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Μονά εισαγωγικά</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Πριν: &apos;κείμενο&apos;
+Μετά, με ‚…‘: ‚κείμενο‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Διπλά εισαγωγικά</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Πριν: &quot;κείμενο&quot;
+Μετά, με „…“: „κείμενο“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Εισαγωγικά κάθε μορφής</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Πριν: «κείμενο» μένει όπως είναι.
+Μετά: «κείμενο» αλλάζει κι αυτό.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Αφαίρεση μονών εισαγωγικών</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Πριν: ‘κείμενο’
+Μετά: κείμενο</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Μονά κάθε μορφής</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Πριν: ‹κείμενο› μένει όπως είναι.
+Μετά: κείμενο</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Αφαίρεση διπλών εισαγωγικών</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Πριν: “κείμενο”
+Μετά: κείμενο</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Διπλά κάθε μορφής</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Πριν: «κείμενο» μένει όπως είναι.
+Μετά: κείμενο</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Αφαίρεση κουκκίδων</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Πριν: •·γάλα↵•·ψωμί
+Μετά: γάλα↵ψωμί</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Αφαίρεση σημείων απάντησης</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Πριν: &gt;·&gt;·Γεια
+Μετά: Γεια</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Αφαίρεση ετικετών HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Πριν: &lt;b&gt;έντονα&lt;/b&gt;
+Μετά: έντονα</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Και τα σενάρια</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Πριν: το κείμενο ενός &lt;script&gt; μένει.
+Μετά: φεύγει μαζί με την ετικέτα του.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Χρήση δικού σας μοτίβου</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Πριν, με [0-9]: a1b2
+Μετά (διαγραφή): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Μοτίβο</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Μια κανονική έκφραση.
+Πριν, με [0-9]: a1b2
+Μετά (διαγραφή): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Αντιστοιχίες</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Πριν (διαγραφή [0-9]): a1b2 γίνεται ab
+Μετά (εύρεση [0-9]): a1b2 γίνεται 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Κενά, στηλοθέτες και αλλαγές γραμμής σε ένα κενό</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Αντικατάσταση 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Αντικατάσταση 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Αντικατάσταση 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Αντικατάσταση 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Αντικατάσταση 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Αντικατάσταση 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Αντικατάσταση 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Αντικατάσταση 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Αντικατάσταση 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Αντικατάσταση 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Πριν: αυγό
+Μετά, με «αυγό» και «αβγό»: αβγό</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Εύρεση</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Το κείμενο που αναζητείται.
+Πριν: αυγό
+Μετά, με «αυγό» και «αβγό»: αβγό</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Αντικατάσταση με</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Αυτό που μπαίνει στη θέση του· αν είναι κενό, το κείμενο διαγράφεται.
+Πριν: αυγό
+Μετά, με «αυγό» και «αβγό»: αβγό</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Εσοχή</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Ετικέτα</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Προσαρμοσμένο</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Εφαρμογή της λίστας εύρεσης και αντικατάστασης</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Πριν: κ. Παπάς
+Μετά, με κ. → κύριος: κύριος Παπάς</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Μία λίστα για όλα τα προφίλ</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Πριν: κάθε προφίλ έχει δική του λίστα.
+Μετά: όλα τα προφίλ μοιράζονται μία λίστα.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Κανόνες, από τον πρώτο στον τελευταίο</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Οι κανόνες εφαρμόζονται από πάνω προς τα κάτω. Σύρετε έναν κανόνα ή πατήστε Alt+Πάνω και Alt+Κάτω για να τον μετακινήσετε.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Εύρεση</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Αντικατάσταση με</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Αρχίστε με {search} για να μείνουν μόνο όσα βρίσκει το μοτίβο ή με {delete} για να διαγραφούν.
+Πριν, με [0-9] και {search}#: a1b2
+Μετά: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Προσθήκη κανόνα</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Προσθέτει έναν κανόνα στο τέλος της λίστας.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Διαγραφή του κανόνα</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Διαγράφει τον επιλεγμένο κανόνα.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Μετακίνηση πάνω</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Μετακινεί τον επιλεγμένο κανόνα προς τα πάνω, ώστε να εφαρμόζεται νωρίτερα.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Μετακίνηση κάτω</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Μετακινεί τον επιλεγμένο κανόνα προς τα κάτω, ώστε να εφαρμόζεται αργότερα.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Νέος κανόνας</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Επιλέξτε τον κανόνα που θα διαγραφεί</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Επιλέξτε έναν κανόνα</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Κείμενο αντικατάστασης</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Αντίστροφη</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Τυχαία</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Αλλαγή γραμμής</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Κάτω αριστερά</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Κάτω δεξιά</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Πάνω αριστερά</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Πάνω δεξιά</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Κέντρο</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Θέση του δείκτη</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Στηλοθέτης σε 4 κενά, 4 κενά σε στηλοθέτη</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 τελείες σε αποσιωπητικά, Αποσιωπητικά σε 3 τελείες</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>τίποτα, κενό</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>τίποτα, μία αλλαγή γραμμής, δύο αλλαγές γραμμής, κενό, αλλαγή γραμμής και κενό, αλλαγή γραμμής και στηλοθέτης, αλλαγή γραμμής και δικό σας κείμενο, παράγραφοι HTML, ετικέτες εικόνας HTML, δικό σας κείμενο γύρω από τις γραμμές</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>κεφαλαίο στην αρχή πρότασης, κεφαλαίο σε κάθε λέξη, πεζά, κεφαλαία</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>μονά σε διπλά, διπλά σε μονά</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>διαγραφή, εύρεση</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Προεπισκόπηση</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Δείχνει τι κάνουν οι επιλογές. Τίποτα δεν φτάνει στο πρόχειρο μέχρι να το ζητήσετε.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Πριν</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Γράψτε ή επικολλήστε εδώ ένα κείμενο για να δοκιμάσετε τις επιλογές.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Μετά</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Το κείμενο όπως το καθαρίζουν οι επιλογές. Ό,τι άλλαξε επισημαίνεται.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Γράψτε ένα κείμενο ή πάρτε το από το πρόχειρο</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Λήψη από το πρόχειρο</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Αντιγράφει το κείμενο του προχείρου στην προεπισκόπηση.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Καθαρισμός του προχείρου</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Καθαρίζει τώρα το κείμενο του προχείρου με αυτές τις επιλογές.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Το κείμενο είναι πολύ μεγάλο για προεπισκόπηση· εμφανίζεται μόνο η αρχή του.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>Δεν υπάρχει κείμενο στο πρόχειρο.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Αγαπητέ  αναγνώστη .
+
+&gt;  Αυτή η γραμμή
+&gt;  κόπηκε στη μέση.
+
+•  &apos;γάλα&apos;
+•  &apos;ψωμί&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Χαρακτήρες</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Κενά</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Λέξεις</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Παράγραφοι</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Στατιστικά</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Κάντε κλικ για κλείσιμο</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Συμβουλές</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Προηγούμενη</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Επόμενη</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Έναρξη</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Συμβουλή %1 από %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Εμφάνιση συμβουλών σε κάθε εκκίνηση</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Πριν: οι συμβουλές ανοίγουν μόνο από το μενού.
+Μετά: ανοίγουν κάθε φορά που ξεκινά το Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Τι νέο υπάρχει στο Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Εμφάνιση συμβουλών</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Αντιγραφή και είναι καθαρό</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Το Nerlo Pro βρίσκεται στην περιοχή ειδοποιήσεων. Μετατρέπει ό,τι αντιγράφετε σε καθαρό, απλό κείμενο: χωρίς περιττά κενά, κομμένες γραμμές και μορφοποίηση.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>Με το χέρι ή μόνο του</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Επιλέξτε «Εκκαθάριση μορφοποίησης του προχείρου» στο μενού, πατήστε τη συντόμευσή του ή αφήστε την «Αυτόματη εκκαθάριση μορφοποίησης» να καθαρίζει κάθε αντίγραφο.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Δείτε πριν καθαρίσετε</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Οι προτιμήσεις δείχνουν ένα κείμενο πριν και μετά. Τσεκάρετε μια επιλογή και δείτε τι κάνει· το πρόχειρο μένει όπως είναι.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Ένα προφίλ για κάθε δουλειά</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Κρατήστε ένα σύνολο επιλογών για την αλληλογραφία και ένα για τον κώδικα. Αλλάζετε μεταξύ τους από το μενού στην περιοχή ειδοποιήσεων.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Οι δικοί σας κανόνες</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>Η λίστα εύρεσης και αντικατάστασης εφαρμόζει τους κανόνες σας με τη σειρά. Σύρετε έναν κανόνα για να τον μετακινήσετε· λειτουργούν και μοτίβα.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Τίποτα δεν χάνεται</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>Η «Επαναφορά του πρωτοτύπου» στο μενού επαναφέρει ό,τι υπήρχε πριν στο πρόχειρο, με τη μορφοποίησή του.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Μενού</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Κανόνας %1 από %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – καθαρίζει κάθε αντίγραφο</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – κάτι δεν λειτουργεί εδώ</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Καθαρίζει το κείμενο του προχείρου.
+Έκδοση %1
+Άδεια MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Δεν υπάρχει πρωτότυπο για επαναφορά.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Το πρόχειρο άλλαξε, γι’ αυτό το πρωτότυπο δεν επαναφέρθηκε.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Εκκαθάριση μορφοποίησης του προχείρου</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Αυτόματη εκκαθάριση μορφοποίησης</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Εκτός από αντίγραφα του Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Επαναφορά του πρωτοτύπου</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Μεμονωμένες ενέργειες</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Προφίλ</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Προτιμήσεις…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Συμβουλές</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Τι νέο υπάρχει</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Αξιολόγηση του Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Υποστήριξη</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-mail στον προγραμματιστή</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Περί</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Έξοδος από το Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Απόκρυψη του Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Εκκαθάριση</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Επεξεργασία</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Αναίρεση</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Επανάληψη</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Αποκοπή</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Αντιγραφή</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Επικόλληση</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Διαγραφή</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Επιλογή όλων</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Βοήθεια</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Κάντε κλικ για εγγραφή συντόμευσης</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Πατήστε τη συντόμευση</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Χρήση της παλιάς</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Ακύρωση</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Διαγραφή συντόμευσης</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Εντάξει</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Κενό</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>Ο συνδυασμός πλήκτρων «%@» δεν μπορεί να χρησιμοποιηθεί!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>Ο συνδυασμός πλήκτρων «%@» δεν μπορεί να χρησιμοποιηθεί, γιατί είναι ήδη συντόμευση πληκτρολογίου του συστήματος. Αν θέλετε οπωσδήποτε αυτόν τον συνδυασμό, οι περισσότερες συντομεύσεις αλλάζουν στην ενότητα «Πληκτρολόγιο» των ρυθμίσεων συστήματος.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>Ο συνδυασμός πλήκτρων «%@» δεν μπορεί να χρησιμοποιηθεί, γιατί τον χρησιμοποιεί ήδη το στοιχείο μενού «%@».</translation>
+    </message>
+</context>
+</TS>

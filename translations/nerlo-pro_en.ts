@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Spaces and tabs</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Letters and quotes</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Bullets, tags, pattern</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Ten replacements</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Find and replace</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Search options</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Type a word to find every option that has to do with it.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>No option has to do with “%@”.</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>The set of options that is used. The tray menu switches it too.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Add profile</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Adds a profile in which every option is off.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Remove profile</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Removes the selected profile, after a question.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Insert new profile name and click OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Do you want remove this profile?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile's name.</extracomment>
+        <translation>Profile: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel disabled</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>With option &quot;Automatically clear formatting&quot;</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Shortcut: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>A shortcut that works in every application.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>The system refused this shortcut. Another program may use it.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>This desktop offers programs no shortcuts. Bind the command “%@” in its own settings.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>This desktop shows no tray, so this window opens at each start.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Start at login</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Start Nerlo Pro at login</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Before: you start Nerlo Pro by hand.
+After: it is there once you have logged in.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Show in the tray</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Before: Nerlo Pro has an entry in the taskbar.
+After: it has an icon with a menu in the tray.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Run in the background</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Before: icon in the tray or entry in the taskbar.
+After: neither. Starting Nerlo Pro again opens this window.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Stay on top</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Before: other windows can cover this one.
+After: this window stays above them.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Automatically clear formatting</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Before: you choose when the clipboard is cleaned.
+After: every copy is cleaned by itself.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Except copies from Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Before: cells that you copy become plain text.
+After: cells from a spreadsheet stay as they are.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Clear formating from clipboard</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Before: “Hello·····world”, bold
+After: “Hello·world”, plain</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Cleaning</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Window and start</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Sort lines</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Before: pear↵apple
+After: apple↵pear</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Order</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Before (A-Z): apple↵pear
+After (Z-A): pear↵apple</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Items end with</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Before (Return): b,a stays b,a
+After (“,”): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Custom separator</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Before: b/a with nothing here stays b/a
+After, with /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Remove duplicate lines</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Before: tea↵tea↵milk
+After: tea↵milk</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Items end with</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Before (Return): a,a stays a,a
+After (“,”): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Custom separator</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Before: a/a with nothing here stays a/a
+After, with /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Show the statistics after a clean</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Before: nothing tells you what was copied.
+After: a small window counts characters, spaces, words and paragraphs.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Close by itself</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Before: the window stays until you click it.
+After: it closes after some seconds.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Seconds</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>How long the window stays.
+Before, with 3: three seconds
+After, with 10: ten seconds</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Before (Cursor position): at the pointer
+After (Top right): in that corner of the screen</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Multiple spaces to one space</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Before: a····b
+After: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Multiple tabs to one tab</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Before: a⇥⇥⇥b
+After: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Convert tabs and four spaces</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Before: ⇥a
+After: ····a, or the other way round</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Before (tab to 4 spaces): ⇥a
+After: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Convert three dots and ellipsis</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Before: Wait...
+After: Wait…, or the other way round</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Before (3 dots to ellipsis): Wait...
+After: Wait…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Remove the space before a dot</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Before: The end·.
+After: The end.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Remove spaces around tabs</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Before: a·⇥·b
+After: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Remove spaces around line breaks</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Before: one·↵·two
+After: one↵two</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Remove all spaces</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Before: a·b·c
+After: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Remove all tabs</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Before: a⇥b⇥c
+After: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>All spaces, tabs and line breaks to one space</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Before: a·⇥·b↵c
+After: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Remove hyphens at line ends</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Before: hyphen-↵ated
+After: hyphenated</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Remove all hyphens, dashes and minus signs</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Before: well-known
+After: wellknown</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Add a prefix</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Before: text
+After, with “&gt; ”: &gt; text</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Prefix</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Before: text
+After, with “&gt; ”: &gt; text</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Add a suffix</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Before: text
+After, with “!”: text!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Suffix</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Before: text
+After, with “!”: text!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Rejoin wrongly broken lines</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Before: This line was↵broken in the middle.
+After: This line was·broken in the middle.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Broken lines are joined with</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Before (none): a↵b becomes ab
+After (space): a↵b becomes a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Change line breaks</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Before: one↵↵↵two
+After (single return): one↵two</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Line breaks become</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Before (single return): one↵two
+After (space): one·two</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>First custom text</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Before: one↵two
+After, with “- ”: one↵- two</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Second custom text</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Before: one
+After, with [b] and [/b]: [b]one[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Trim both ends of the text</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Before: ··text··
+After: text</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Change the letter case</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Before: HELLO. YOU.
+After (smart capitalized): Hello. You.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Letter case</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Before (uppercase): HELLO
+After (lowercase): hello</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Change quotation marks</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Before: ‘text’
+After (single to double): “text”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Before (single to double): ‘text’
+After: “text”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Single marks</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Before: &apos;text&apos;
+After, with ‚…‘: ‚text‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Double marks</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Before: &quot;text&quot;
+After, with „…“: „text“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Marks of every style</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Before: «text» stays as it is.
+After: «text» is changed too.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Remove single quotation marks</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Before: ‘text’
+After: text</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Single marks of every style</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Before: ‹text› stays as it is.
+After: text</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Remove double quotation marks</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Before: “text”
+After: text</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Double marks of every style</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Before: «text» stays as it is.
+After: text</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Remove bullets</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Before: •·milk↵•·bread
+After: milk↵bread</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Remove reply marks</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Before: &gt;·&gt;·Hello
+After: Hello</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Remove HTML tags</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Before: &lt;b&gt;bold&lt;/b&gt;
+After: bold</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Scripts too</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Before: the text of a &lt;script&gt; stays.
+After: it goes with its tag.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Use your own pattern</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Before: a1b2, with the pattern [0-9]
+After (delete): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Pattern</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>A regular expression.
+Before: a1b2, with [0-9]
+After (delete): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Matches</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Before (delete): a1b2, with [0-9], becomes ab
+After (search): it becomes 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>All spaces, tabs and line breaks to one space</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Replacement 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Replacement 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Replacement 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Replacement 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Replacement 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Replacement 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Replacement 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Replacement 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Replacement 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Replacement 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Before: colour
+After, with “colour” and “color”: color</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>The text to find.
+Before: colour
+After, with “colour” and “color”: color</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Replace with</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>What stands in its place; nothing deletes it.
+Before: colour
+After, with “colour” and “color”: color</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Indent</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Apply the find-and-replace list</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Before: Mr Smith, with a rule from “Mr” to “Mister”
+After: Mister Smith</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>One list for all profiles</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Before: each profile has a list of its own.
+After: all profiles share one list.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Rules, from first to last</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>The rules are applied from top to bottom. Drag a rule, or press Alt+Up and Alt+Down, to move it.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Replace with</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Begin with {search} to keep only what the pattern finds, or {delete} to delete it.
+Before: a1b2, with [0-9] and {search}#
+After: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Add a rule</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Adds a rule at the end of the list.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Delete the rule</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Deletes the selected rule.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Moves the selected rule up, so that it is applied earlier.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Move down</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Moves the selected rule down, so that it is applied later.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>New rule</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Select a rule to delete it</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Select a rule</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Replacement text</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Reverse</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Random</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Return</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Bottom left</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Bottom right</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Top left</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Top right</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Center</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Cursor position</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Change tab to 4 spaces, Change 4 spaces to tab</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Change 3 dots to ellipsis, Change ellipsis to 3 dots</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>none, space</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>none, single return, double returns, space, return and space, return and tab, return and custom text, HTML paragraphs, HTML image tags, custom text around lines</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>smart capitalized, capitalized, lowercase, uppercase</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>single to double, double to single</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>delete, search</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Shows what the options do. Nothing reaches the clipboard until you ask for it.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Type or paste any text here to try the options on it.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>After</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>The text as the options clean it. What was changed is marked.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Type a text, or take the one on the clipboard</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Take from the clipboard</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Copies the text on the clipboard into the preview.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Clean the clipboard</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Cleans the text on the clipboard with these options, now.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>The text is too long for the preview; only its beginning is shown.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>There is no text on the clipboard.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Dear  reader ,
+
+&gt;  This line was
+&gt;  broken in the middle.
+
+•  &apos;milk&apos;
+•  &apos;bread&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Characters</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Spaces</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Paragraphs</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Click to close</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Tips</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Previous</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Tip %1 of %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Show the tips at each start</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Before: the tips open from the menu only.
+After: they open each time Nerlo Pro starts.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>What&apos;s new in Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Show the tips</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Copy, and it is clean</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro lives in the tray. It turns what you copy into clean, plain text: no stray spaces, no broken lines, no formatting.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>By hand or by itself</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Choose “Clear formating from clipboard” in the menu, press its shortcut, or let “Automatically clear formatting” clean every copy.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>See before you clean</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>The preferences show a text before and after. Tick an option and watch what it does; the clipboard stays as it is.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>A profile for each job</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Keep one set of options for mail, another for code. Switch between them from the tray menu.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Your own rules</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>The find-and-replace list applies your rules in order. Drag a rule to move it; patterns work too.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Nothing is lost</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>“Restore the original” in the menu puts back what stood on the clipboard before, with its formatting.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Rule %1 of %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – cleaning every copy</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – something does not work here</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Cleans the text on the clipboard.
+Version %1
+MIT licence</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>There is no original to put back.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>The clipboard has changed, so the original was not put back.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Clear formating from clipboard</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Automatically clear formatting</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Except copies from Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Restore the original</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Single operations</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profiles</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Tips</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>What&apos;s new</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Rate Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-mail to the developer</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Quit Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Hide Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Click to record shortcut</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Type shortcut</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Use old shortcut</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Delete shortcut</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>The key combination &quot;%@&quot; can&apos;t be used!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</translation>
+    </message>
+</context>
+</TS>

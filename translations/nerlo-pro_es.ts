@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Espacios y tabuladores</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Letras y comillas</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Viñetas, etiquetas, patrón</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Diez sustituciones</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Buscar y reemplazar</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Buscar opciones</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Escriba una palabra para encontrar todas las opciones relacionadas con ella.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Ninguna opción tiene que ver con «%@».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>El conjunto de opciones que se usa. También se cambia en el menú de la bandeja.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Añadir perfil</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Añade un perfil con todas las opciones desactivadas.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Quitar perfil</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Quita el perfil seleccionado, después de preguntar.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Escriba el nombre del nuevo perfil y pulse Aceptar</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>¿Quiere quitar este perfil?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Perfil: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel excluido</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Con la opción «Quitar el formato automáticamente»</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Atajo: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Un atajo que funciona en todas las aplicaciones.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>El sistema rechazó este atajo. Puede que otro programa lo use.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Este escritorio no ofrece atajos a los programas. Asigne uno a la orden «%@» en sus propios ajustes.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Este escritorio no muestra una bandeja, así que esta ventana se abre en cada inicio.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Iniciar con la sesión</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Iniciar Nerlo Pro con la sesión</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Antes: usted inicia Nerlo Pro a mano.
+Después: está ahí en cuanto inicia la sesión.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Mostrar en la bandeja</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Antes: Nerlo Pro tiene una entrada en la barra de tareas.
+Después: tiene un icono con menú en la bandeja.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Ejecutar en segundo plano</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Antes: icono en la bandeja o entrada en la barra de tareas.
+Después: ninguno de los dos. Iniciar Nerlo Pro otra vez abre esta ventana.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Mantener por encima</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Antes: otras ventanas pueden tapar esta.
+Después: esta ventana queda por encima de ellas.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Quitar el formato automáticamente</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Antes: usted decide cuándo se limpia el portapapeles.
+Después: cada copia se limpia sola.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Excepto las copias de Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Antes: las celdas copiadas se convierten en texto sin formato.
+Después: las celdas de una hoja de cálculo quedan como están.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Quitar el formato del portapapeles</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Antes: «Hola·····mundo», negrita
+Después: «Hola·mundo», simple</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Limpieza</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Ventana e inicio</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Ordenar líneas</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Antes: pera↵manzana
+Después: manzana↵pera</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Antes (A-Z): manzana↵pera
+Después (Z-A): pera↵manzana</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Los elementos acaban en</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Antes (Salto de línea): b,a
+Después («,»): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Separador personalizado</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Antes: b/a
+Después, con /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Eliminar líneas duplicadas</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Antes: té↵té↵leche
+Después: té↵leche</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Los elementos acaban en</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Antes (Salto de línea): a,a
+Después («,»): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Separador personalizado</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Antes: a/a
+Después, con /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Mostrar las estadísticas después de limpiar</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Antes: nada le dice qué se copió.
+Después: una ventanita cuenta caracteres, espacios, palabras y párrafos.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Cerrar sola</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Antes: la ventana queda hasta que hace clic en ella.
+Después: se cierra al cabo de unos segundos.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Segundos</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Cuánto tiempo permanece la ventana.
+Antes, con 3: tres segundos
+Después, con 10: diez segundos</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Antes (Posición del puntero): junto al puntero
+Después (Arriba a la derecha): en esa esquina de la pantalla</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Varios espacios en uno</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Antes: a····b
+Después: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Varios tabuladores en uno</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Antes: a⇥⇥⇥b
+Después: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Convertir tabuladores y cuatro espacios</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Antes: ⇥a
+Después: ····a, o al revés</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Antes (Tabulador en 4 espacios): ⇥a
+Después: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Convertir tres puntos y puntos suspensivos</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Antes: Espera...
+Después: Espera…, o al revés</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Antes (3 puntos en puntos suspensivos): Espera...
+Después: Espera…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Eliminar el espacio antes de un punto</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Antes: Fin·.
+Después: Fin.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Eliminar espacios alrededor de tabuladores</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Antes: a·⇥·b
+Después: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Eliminar espacios alrededor de saltos de línea</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Antes: uno·↵·dos
+Después: uno↵dos</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Eliminar todos los espacios</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Antes: a·b·c
+Después: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Eliminar todos los tabuladores</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Antes: a⇥b⇥c
+Después: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Espacios, tabuladores y saltos de línea en un espacio</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Antes: a·⇥·b↵c
+Después: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Eliminar guiones a final de línea</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Antes: sepa-↵rado
+Después: separado</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Eliminar todos los guiones, rayas y signos menos</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Antes: franco-alemán
+Después: francoalemán</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Añadir un prefijo</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Antes: texto
+Después, con «&gt; »: &gt; texto</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Prefijo</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Antes: texto
+Después, con «&gt; »: &gt; texto</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Añadir un sufijo</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Antes: texto
+Después, con «!»: texto!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Sufijo</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Antes: texto
+Después, con «!»: texto!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Unir líneas mal cortadas</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Antes: Esta línea se↵cortó por la mitad.
+Después: Esta línea se·cortó por la mitad.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Las líneas se unen con</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Antes (nada): a↵b pasa a ser ab
+Después (espacio): a↵b pasa a ser a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Cambiar los saltos de línea</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Antes: uno↵↵↵dos
+Después (un salto de línea): uno↵dos</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Los saltos de línea pasan a</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Antes (un salto de línea): uno↵dos
+Después (espacio): uno·dos</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Primer texto personalizado</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Antes: uno↵dos
+Después, con «- »: uno↵- dos</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Segundo texto personalizado</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Antes: uno
+Después, con [b] y [/b]: [b]uno[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Recortar ambos extremos del texto</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Antes: ··texto··
+Después: texto</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Cambiar mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Antes: HOLA. TÚ.
+Después (mayúscula inicial de frase): Hola. Tú.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Antes (mayúsculas): HOLA
+Después (minúsculas): hola</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Cambiar las comillas</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Antes: ‘texto’
+Después (simples a dobles): “texto”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Antes (simples a dobles): ‘texto’
+Después: “texto”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Comillas simples</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Antes: &apos;texto&apos;
+Después, con ‚…‘: ‚texto‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Comillas dobles</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Antes: &quot;texto&quot;
+Después, con „…“: „texto“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Comillas de todos los estilos</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Antes: «texto» queda como está.
+Después: «texto» también se cambia.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Eliminar las comillas simples</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Antes: ‘texto’
+Después: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Simples de todos los estilos</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Antes: ‹texto› queda como está.
+Después: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Eliminar las comillas dobles</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Antes: “texto”
+Después: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Dobles de todos los estilos</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Antes: «texto» queda como está.
+Después: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Eliminar viñetas</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Antes: •·leche↵•·pan
+Después: leche↵pan</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Eliminar marcas de respuesta</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Antes: &gt;·&gt;·Hola
+Después: Hola</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Eliminar etiquetas HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Antes: &lt;b&gt;negrita&lt;/b&gt;
+Después: negrita</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>También los scripts</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Antes: el texto de un &lt;script&gt; queda.
+Después: desaparece con su etiqueta.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Usar su propio patrón</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Antes, con [0-9]: a1b2
+Después (eliminar): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Una expresión regular.
+Antes, con [0-9]: a1b2
+Después (eliminar): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Coincidencias</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Antes (eliminar [0-9]): a1b2 pasa a ser ab
+Después (buscar [0-9]): a1b2 pasa a ser 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Espacios, tabuladores y saltos de línea en un espacio</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Sustitución 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Sustitución 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Sustitución 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Sustitución 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Sustitución 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Sustitución 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Sustitución 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Sustitución 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Sustitución 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Sustitución 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Antes: obscuro
+Después, con «obscuro» y «oscuro»: oscuro</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>El texto que se busca.
+Antes: obscuro
+Después, con «obscuro» y «oscuro»: oscuro</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Reemplazar por</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Lo que ocupa su lugar; si está vacío, el texto se elimina.
+Antes: obscuro
+Después, con «obscuro» y «oscuro»: oscuro</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Sangría</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Aplicar la lista de buscar y reemplazar</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Antes: Sr. García
+Después, con Sr. → Señor: Señor García</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Una lista para todos los perfiles</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Antes: cada perfil tiene su propia lista.
+Después: todos los perfiles comparten una lista.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Reglas, de la primera a la última</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Las reglas se aplican de arriba abajo. Arrastre una regla, o pulse Alt+Arriba y Alt+Abajo, para moverla.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Reemplazar por</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Empiece con {search} para conservar solo lo que encuentra el patrón, o con {delete} para eliminarlo.
+Antes, con [0-9] y {search}#: a1b2
+Después: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Añadir una regla</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Añade una regla al final de la lista.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Eliminar la regla</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Elimina la regla seleccionada.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Sube la regla seleccionada para que se aplique antes.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Baja la regla seleccionada para que se aplique después.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Regla nueva</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Seleccione la regla que quiere eliminar</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Seleccione una regla</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Texto de reemplazo</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Inverso</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Aleatorio</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Salto de línea</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Posición del puntero</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tabulador en 4 espacios, 4 espacios en tabulador</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 puntos en puntos suspensivos, puntos suspensivos en 3 puntos</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nada, espacio</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nada, un salto de línea, dos saltos de línea, espacio, salto y espacio, salto y tabulador, salto y texto personalizado, párrafos HTML, etiquetas HTML de imagen, texto personalizado alrededor de las líneas</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>mayúscula inicial de frase, mayúscula en cada palabra, minúsculas, mayúsculas</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>simples a dobles, dobles a simples</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>eliminar, buscar</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Muestra lo que hacen las opciones. Nada llega al portapapeles hasta que usted lo pida.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Escriba o pegue aquí cualquier texto para probar las opciones.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Después</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>El texto tal como lo limpian las opciones. Lo que cambió está marcado.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Escriba un texto, o tome el del portapapeles</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Tomar del portapapeles</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Copia el texto del portapapeles en la vista previa.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Limpiar el portapapeles</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Limpia ahora el texto del portapapeles con estas opciones.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>El texto es demasiado largo para la vista previa; solo se muestra el comienzo.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>No hay texto en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Estimado  lector .
+
+&gt;  Esta línea se
+&gt;  cortó por la mitad.
+
+•  &apos;leche&apos;
+•  &apos;pan&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Espacios</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Párrafos</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Clic para cerrar</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Consejos</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Empezar</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Consejo %1 de %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Mostrar los consejos en cada inicio</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Antes: los consejos solo se abren desde el menú.
+Después: se abren cada vez que se inicia Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Novedades de Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Mostrar los consejos</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Copie, y ya está limpio</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro vive en la bandeja. Convierte lo que copia en texto limpio y sin formato: sin espacios de más ni líneas cortadas.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>A mano o solo</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Elija «Quitar el formato del portapapeles» en el menú, pulse su atajo, o deje que «Quitar el formato automáticamente» limpie cada copia.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Ver antes de limpiar</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Las preferencias muestran un texto antes y después. Marque una opción y vea lo que hace; el portapapeles queda como está.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Un perfil para cada tarea</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Tenga un conjunto de opciones para el correo y otro para el código. Cambie de uno a otro en el menú de la bandeja.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Sus propias reglas</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>La lista de buscar y reemplazar aplica sus reglas en orden. Arrastre una regla para moverla; también sirven los patrones.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Nada se pierde</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>«Restaurar el original», en el menú, devuelve al portapapeles lo que había antes, con su formato.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Regla %1 de %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – limpia cada copia</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – algo no funciona aquí</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Limpia el texto del portapapeles.
+Versión %1
+Licencia MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>No hay un original que restaurar.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>El portapapeles ha cambiado, así que no se restauró el original.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Quitar el formato del portapapeles</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Quitar el formato automáticamente</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Excepto las copias de Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Restaurar el original</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Operaciones sueltas</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfiles</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferencias…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Consejos</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Novedades</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Valorar Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Ayuda en línea</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>Correo al desarrollador</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Salir de Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Ocultar Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpiar</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Haga clic para grabar un atajo</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Pulse el atajo</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Usar el anterior</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Eliminar el atajo</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>¡No se puede usar la combinación de teclas «%@»!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>No se puede usar la combinación de teclas «%@» porque ya es un atajo de teclado de todo el sistema. Si de verdad quiere usarla, la mayoría de los atajos se pueden cambiar en el panel Teclado de los ajustes del sistema.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>No se puede usar la combinación de teclas «%@» porque ya la usa el elemento de menú «%@».</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Espaces et tabulations</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Casse et guillemets</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Puces, balises, motif</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Dix remplacements</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Rechercher et remplacer</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Statistiques</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Chercher une option</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Saisissez un mot pour trouver toutes les options qui s’y rapportent.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Aucune option ne se rapporte à « %@ ».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Le jeu d’options utilisé. Le menu de la zone de notification permet aussi d’en changer.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Ajouter un profil</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Ajoute un profil où toutes les options sont désactivées.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Supprimer le profil</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Supprime le profil choisi, après confirmation.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Saisissez le nom du nouveau profil et cliquez sur OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Voulez-vous supprimer ce profil ?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Profil : %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel exclu</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Avec l’option « Effacer la mise en forme automatiquement »</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Raccourci : %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Un raccourci qui fonctionne dans toutes les applications.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Le système a refusé ce raccourci. Un autre programme l’utilise peut-être.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Ce bureau n’offre pas de raccourcis aux programmes. Associez-en un à la commande « %@ » dans ses propres réglages.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Ce bureau n’a pas de zone de notification ; cette fenêtre s’ouvre donc à chaque démarrage.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Lancer à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Lancer Nerlo Pro à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Avant : vous lancez Nerlo Pro vous-même.
+Après : il est là dès que la session est ouverte.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Afficher dans la zone de notification</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Avant : Nerlo Pro a une entrée dans la barre des tâches.
+Après : il a une icône avec un menu dans la zone de notification.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Fonctionner en arrière-plan</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Avant : icône de notification ou entrée dans la barre des tâches.
+Après : ni l’une ni l’autre. Relancer Nerlo Pro ouvre cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Garder au premier plan</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Avant : d’autres fenêtres peuvent couvrir celle-ci.
+Après : cette fenêtre reste au-dessus des autres.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Effacer la mise en forme automatiquement</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Avant : vous choisissez quand nettoyer le presse-papiers.
+Après : chaque copie est nettoyée toute seule.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Sauf les copies depuis Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Avant : les cellules copiées deviennent du texte brut.
+Après : les cellules d’un tableur restent telles quelles.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Effacer la mise en forme du presse-papiers</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Avant : « Bonjour·····monde », gras
+Après : « Bonjour·monde », simple</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Nettoyage</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Fenêtre et démarrage</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Trier les lignes</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Avant : poire↵abricot
+Après : abricot↵poire</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Avant (A-Z) : abricot↵poire
+Après (Z-A) : poire↵abricot</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Fin des éléments</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Avant (Saut de ligne) : b,a
+Après (« , ») : a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Séparateur personnalisé</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Avant : b/a
+Après, avec / : a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Supprimer les lignes en double</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Avant : thé↵thé↵lait
+Après : thé↵lait</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Fin des éléments</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Avant (Saut de ligne) : a,a
+Après (« , ») : a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Séparateur personnalisé</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Avant : a/a
+Après, avec / : a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Afficher les statistiques après un nettoyage</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Avant : rien ne dit ce qui a été copié.
+Après : une petite fenêtre compte les caractères, les espaces, les mots et les paragraphes.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Fermer automatiquement</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Avant : la fenêtre reste jusqu’à ce que vous cliquiez dessus.
+Après : elle se ferme après quelques secondes.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Secondes</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Durée d’affichage de la fenêtre.
+Avant, avec 3 : trois secondes
+Après, avec 10 : dix secondes</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Avant (Position du pointeur) : près du pointeur
+Après (En haut à droite) : dans ce coin de l’écran</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Plusieurs espaces en une seule</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Avant : a····b
+Après : a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Plusieurs tabulations en une seule</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Avant : a⇥⇥⇥b
+Après : a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Convertir tabulations et quatre espaces</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Avant : ⇥a
+Après : ····a, ou l’inverse</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Avant (Tabulation en 4 espaces) : ⇥a
+Après : ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Convertir trois points et points de suspension</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Avant : Attendez...
+Après : Attendez…, ou l’inverse</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Avant (3 points en points de suspension) : Attendez...
+Après : Attendez…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Supprimer l’espace devant un point</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Avant : Fin·.
+Après : Fin.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Supprimer les espaces autour des tabulations</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Avant : a·⇥·b
+Après : a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Supprimer les espaces autour des sauts de ligne</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Avant : un·↵·deux
+Après : un↵deux</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Supprimer toutes les espaces</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Avant : a·b·c
+Après : abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Supprimer toutes les tabulations</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Avant : a⇥b⇥c
+Après : abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Espaces, tabulations et sauts de ligne en une espace</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Avant : a·⇥·b↵c
+Après : a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Supprimer les traits de coupure en fin de ligne</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Avant : césu-↵re
+Après : césure</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Supprimer tous les traits d’union, tirets et signes moins</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Avant : bien-être
+Après : bienêtre</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Ajouter un préfixe</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Avant : texte
+Après, avec « &gt;  » : &gt; texte</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Préfixe</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Avant : texte
+Après, avec « &gt;  » : &gt; texte</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Ajouter un suffixe</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Avant : texte
+Après, avec « ! » : texte!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Suffixe</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Avant : texte
+Après, avec « ! » : texte!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Recoller les lignes mal coupées</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Avant : Cette ligne a été↵coupée au milieu.
+Après : Cette ligne a été·coupée au milieu.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Les lignes sont jointes par</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Avant (rien) : a↵b devient ab
+Après (espace) : a↵b devient a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Changer les sauts de ligne</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Avant : un↵↵↵deux
+Après (un saut de ligne) : un↵deux</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Les sauts de ligne deviennent</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Avant (un saut de ligne) : un↵deux
+Après (espace) : un·deux</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Premier texte personnalisé</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Avant : un↵deux
+Après, avec « -  » : un↵- deux</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Second texte personnalisé</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Avant : un
+Après, avec [b] et [/b] : [b]un[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Rogner les deux bouts du texte</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Avant : ··texte··
+Après : texte</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Changer la casse</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Avant : BONJOUR. TOI.
+Après (majuscule en début de phrase) : Bonjour. Toi.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Casse</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Avant (majuscules) : BONJOUR
+Après (minuscules) : bonjour</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Changer les guillemets</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Avant : ‘texte’
+Après (simples en doubles) : “texte”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Avant (simples en doubles) : ‘texte’
+Après : “texte”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Guillemets simples</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Avant : &apos;texte&apos;
+Après, avec ‚…‘ : ‚texte‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Guillemets doubles</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Avant : &quot;texte&quot;
+Après, avec „…“ : „texte“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Guillemets de tous les styles</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Avant : «texte» reste tel quel.
+Après : «texte» est changé aussi.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Supprimer les guillemets simples</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Avant : ‘texte’
+Après : texte</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Simples de tous les styles</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Avant : ‹texte› reste tel quel.
+Après : texte</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Supprimer les guillemets doubles</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Avant : “texte”
+Après : texte</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Doubles de tous les styles</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Avant : «texte» reste tel quel.
+Après : texte</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Supprimer les puces</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Avant : •·lait↵•·pain
+Après : lait↵pain</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Supprimer les marques de réponse</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Avant : &gt;·&gt;·Bonjour
+Après : Bonjour</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Supprimer les balises HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Avant : &lt;b&gt;gras&lt;/b&gt;
+Après : gras</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Les scripts aussi</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Avant : le texte d’un &lt;script&gt; reste.
+Après : il disparaît avec sa balise.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Utiliser votre propre motif</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Avant, avec [0-9] : a1b2
+Après (supprimer) : ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Une expression rationnelle.
+Avant, avec [0-9] : a1b2
+Après (supprimer) : ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Correspondances</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Avant (supprimer [0-9]) : a1b2 devient ab
+Après (chercher [0-9]) : a1b2 devient 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Espaces, tabulations et sauts de ligne en une espace</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Remplacement 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Remplacement 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Remplacement 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Remplacement 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Remplacement 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Remplacement 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Remplacement 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Remplacement 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Remplacement 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Remplacement 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Avant : clef
+Après, avec « clef » et « clé » : clé</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Le texte à chercher.
+Avant : clef
+Après, avec « clef » et « clé » : clé</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Remplacer par</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Ce qui prend sa place ; vide, le texte est supprimé.
+Avant : clef
+Après, avec « clef » et « clé » : clé</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Retrait</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Balise</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Appliquer la liste de remplacements</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Avant : M. Martin
+Après, avec M. → Monsieur : Monsieur Martin</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Une liste pour tous les profils</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Avant : chaque profil a sa propre liste.
+Après : tous les profils partagent une liste.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Règles, de la première à la dernière</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Les règles s’appliquent de haut en bas. Faites glisser une règle, ou appuyez sur Alt+Haut et Alt+Bas, pour la déplacer.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Remplacer par</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Commencez par {search} pour ne garder que ce que trouve le motif, ou par {delete} pour le supprimer.
+Avant, avec [0-9] et {search}# : a1b2
+Après : 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Ajouter une règle</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Ajoute une règle à la fin de la liste.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Supprimer la règle</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Supprime la règle choisie.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Monte la règle choisie, pour qu’elle s’applique plus tôt.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Descend la règle choisie, pour qu’elle s’applique plus tard.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Nouvelle règle</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Choisissez la règle à supprimer</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Choisissez une règle</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Texte de remplacement</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Inversé</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Aléatoire</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Saut de ligne</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Au centre</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Position du pointeur</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tabulation en 4 espaces, 4 espaces en tabulation</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 points en points de suspension, points de suspension en 3 points</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>rien, espace</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>rien, un saut de ligne, deux sauts de ligne, espace, saut et espace, saut et tabulation, saut et texte personnalisé, paragraphes HTML, balises HTML d’image, texte personnalisé autour des lignes</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>majuscule en début de phrase, majuscule à chaque mot, minuscules, majuscules</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>simples en doubles, doubles en simples</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>supprimer, chercher</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Montre ce que font les options. Rien n’atteint le presse-papiers avant que vous ne le demandiez.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Saisissez ou collez ici un texte pour y essayer les options.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Après</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Le texte nettoyé par les options. Ce qui a changé est marqué.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Saisissez un texte, ou prenez celui du presse-papiers</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Prendre du presse-papiers</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Copie le texte du presse-papiers dans l’aperçu.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Nettoyer le presse-papiers</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Nettoie maintenant le texte du presse-papiers avec ces options.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Le texte est trop long pour l’aperçu ; seul son début est affiché.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>Il n’y a pas de texte dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Chers  lecteurs .
+
+&gt;  Cette ligne a été
+&gt;  coupée au milieu.
+
+•  &apos;lait&apos;
+•  &apos;pain&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Espaces</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Paragraphes</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Statistiques</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Cliquer pour fermer</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Astuces</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Commencer</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Astuce %1 sur %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Afficher les astuces à chaque démarrage</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Avant : les astuces s’ouvrent seulement depuis le menu.
+Après : elles s’ouvrent à chaque démarrage de Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Nouveautés de Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Afficher les astuces</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Copiez, c’est propre</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro vit dans la zone de notification. Il change ce que vous copiez en texte propre et brut : ni espaces en trop, ni lignes coupées, ni mise en forme.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>À la demande ou tout seul</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Choisissez « Effacer la mise en forme du presse-papiers » dans le menu, appuyez sur son raccourci, ou laissez « Effacer la mise en forme automatiquement » nettoyer chaque copie.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Voir avant de nettoyer</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Les préférences montrent un texte avant et après. Cochez une option et regardez ce qu’elle fait ; le presse-papiers reste tel quel.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Un profil pour chaque tâche</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Gardez un jeu d’options pour le courrier, un autre pour le code. Passez de l’un à l’autre depuis le menu de la zone de notification.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Vos propres règles</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>La liste de remplacements applique vos règles dans l’ordre. Faites glisser une règle pour la déplacer ; les motifs sont acceptés aussi.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Rien n’est perdu</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>« Restaurer l’original » dans le menu remet ce qui se trouvait dans le presse-papiers, avec sa mise en forme.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Règle %1 sur %2 : %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – nettoie chaque copie</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – quelque chose ne fonctionne pas ici</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Nettoie le texte du presse-papiers.
+Version %1
+Licence MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Il n’y a pas d’original à remettre.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Le presse-papiers a changé ; l’original n’a pas été remis.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Effacer la mise en forme du presse-papiers</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Effacer la mise en forme automatiquement</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Sauf les copies depuis Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Restaurer l’original</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Opérations seules</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Astuces</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Nouveautés</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Noter Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Assistance</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>Écrire au développeur</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Quitter Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Masquer Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Cliquez pour enregistrer un raccourci</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Tapez le raccourci</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Garder l’ancien</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Supprimer le raccourci</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>La combinaison de touches « %@ » ne peut pas être utilisée !</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>La combinaison de touches « %@ » ne peut pas être utilisée, car elle sert déjà de raccourci clavier à tout le système. Si vous tenez à cette combinaison, la plupart des raccourcis peuvent être changés dans la section Clavier des paramètres du système.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>La combinaison de touches « %@ » ne peut pas être utilisée, car elle sert déjà à l’élément de menu « %@ ».</translation>
+    </message>
+</context>
+</TS>

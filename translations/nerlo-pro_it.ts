@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Preferenze</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Spazi e tabulazioni</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Lettere e virgolette</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Elenchi, tag, modello</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Dieci sostituzioni</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Trova e sostituisci</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Statistiche</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Cerca opzioni</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Scriva una parola per trovare tutte le opzioni che la riguardano.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Nessuna opzione riguarda «%@».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Profilo</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>L’insieme di opzioni in uso. Si cambia anche dal menu del vassoio.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Aggiungi profilo</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Aggiunge un profilo con tutte le opzioni disattivate.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Rimuovi profilo</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Rimuove il profilo selezionato, dopo una conferma.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Inserisca il nome del nuovo profilo e faccia clic su OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Rimuovere questo profilo?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Profilo: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel escluso</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Con l’opzione «Rimuovi automaticamente la formattazione»</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Scorciatoia: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Una scorciatoia che funziona in ogni applicazione.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Il sistema ha rifiutato questa scorciatoia. Forse la usa un altro programma.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Questo desktop non offre scorciatoie alle applicazioni. Ne assegni una al comando «%@» nelle sue impostazioni.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Questo desktop non mostra un vassoio, perciò questa finestra si apre a ogni avvio.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Avvia all’accesso</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Avvia Nerlo Pro all’accesso</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Prima: Nerlo Pro si avvia a mano.
+Dopo: c’è già dopo l’accesso.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Mostra nel vassoio</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Prima: Nerlo Pro ha una voce nella barra delle applicazioni.
+Dopo: ha un’icona con un menu nel vassoio.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Esegui in background</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Prima: icona nel vassoio o voce nella barra delle applicazioni.
+Dopo: né l’una né l’altra. Riavviando Nerlo Pro si apre questa finestra.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Tieni in primo piano</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Prima: altre finestre possono coprire questa.
+Dopo: questa finestra resta sopra le altre.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Rimuovi automaticamente la formattazione</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Prima: si sceglie quando ripulire gli appunti.
+Dopo: ogni copia viene ripulita da sola.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Tranne le copie da Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Prima: le celle copiate diventano testo semplice.
+Dopo: le celle di un foglio di calcolo restano come sono.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Rimuovi la formattazione dagli appunti</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Prima: «Ciao·····mondo», grassetto
+Dopo: «Ciao·mondo», semplice</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Pulizia</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Finestra e avvio</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Ordina le righe</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Prima: pera↵mela
+Dopo: mela↵pera</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Prima (A-Z): mela↵pera
+Dopo (Z-A): pera↵mela</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Gli elementi finiscono con</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Prima (A capo): b,a
+Dopo («,»): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Separatore personalizzato</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Prima: b/a
+Dopo, con /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Rimuovi le righe duplicate</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Prima: tè↵tè↵latte
+Dopo: tè↵latte</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Gli elementi finiscono con</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Prima (A capo): a,a
+Dopo («,»): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Separatore personalizzato</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Prima: a/a
+Dopo, con /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Mostra le statistiche dopo la pulizia</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Prima: niente dice che cosa è stato copiato.
+Dopo: una finestrella conta caratteri, spazi, parole e paragrafi.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Chiudi da sola</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Prima: la finestra resta finché non si fa clic.
+Dopo: si chiude dopo qualche secondo.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Secondi</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Per quanto tempo resta la finestra.
+Prima, con 3: tre secondi
+Dopo, con 10: dieci secondi</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Prima (Posizione del puntatore): presso il puntatore
+Dopo (In alto a destra): in quell’angolo dello schermo</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Più spazi in uno</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Prima: a····b
+Dopo: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Più tabulazioni in una</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Prima: a⇥⇥⇥b
+Dopo: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Converti tabulazioni e quattro spazi</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Prima: ⇥a
+Dopo: ····a, o viceversa</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Direzione</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Prima (Tabulazione in 4 spazi): ⇥a
+Dopo: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Converti tre punti e puntini di sospensione</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Prima: Aspetta...
+Dopo: Aspetta…, o viceversa</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Direzione</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Prima (3 punti in puntini di sospensione): Aspetta...
+Dopo: Aspetta…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Rimuovi lo spazio prima di un punto</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Prima: Fine·.
+Dopo: Fine.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Rimuovi gli spazi attorno alle tabulazioni</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Prima: a·⇥·b
+Dopo: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Rimuovi gli spazi attorno agli a capo</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Prima: uno·↵·due
+Dopo: uno↵due</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Rimuovi tutti gli spazi</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Prima: a·b·c
+Dopo: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Rimuovi tutte le tabulazioni</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Prima: a⇥b⇥c
+Dopo: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Spazi, tabulazioni e a capo in uno spazio</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Prima: a·⇥·b↵c
+Dopo: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Rimuovi i trattini a fine riga</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Prima: silla-↵bato
+Dopo: sillabato</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Rimuovi tutti i trattini, le lineette e i segni meno</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Prima: italo-svizzero
+Dopo: italosvizzero</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Aggiungi un prefisso</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Prima: testo
+Dopo, con «&gt; »: &gt; testo</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Prefisso</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Prima: testo
+Dopo, con «&gt; »: &gt; testo</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Aggiungi un suffisso</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Prima: testo
+Dopo, con «!»: testo!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Suffisso</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Prima: testo
+Dopo, con «!»: testo!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Ricongiungi le righe spezzate male</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Prima: Questa riga è stata↵spezzata a metà.
+Dopo: Questa riga è stata·spezzata a metà.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Le righe si uniscono con</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Prima (niente): a↵b diventa ab
+Dopo (spazio): a↵b diventa a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Cambia gli a capo</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Prima: uno↵↵↵due
+Dopo (un a capo): uno↵due</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Gli a capo diventano</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Prima (un a capo): uno↵due
+Dopo (spazio): uno·due</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Primo testo personalizzato</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Prima: uno↵due
+Dopo, con «- »: uno↵- due</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Secondo testo personalizzato</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Prima: uno
+Dopo, con [b] e [/b]: [b]uno[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Rifila le estremità del testo</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Prima: ··testo··
+Dopo: testo</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Cambia maiuscole e minuscole</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Prima: CIAO. TU.
+Dopo (maiuscola a inizio frase): Ciao. Tu.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Maiuscole e minuscole</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Prima (maiuscole): CIAO
+Dopo (minuscole): ciao</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Cambia le virgolette</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Prima: ‘testo’
+Dopo (da singole a doppie): “testo”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Direzione</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Prima (da singole a doppie): ‘testo’
+Dopo: “testo”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Virgolette singole</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Prima: &apos;testo&apos;
+Dopo, con ‚…‘: ‚testo‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Virgolette doppie</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Prima: &quot;testo&quot;
+Dopo, con „…“: „testo“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Virgolette di ogni stile</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Prima: «testo» resta com’è.
+Dopo: anche «testo» viene cambiato.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Rimuovi le virgolette singole</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Prima: ‘testo’
+Dopo: testo</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Singole di ogni stile</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Prima: ‹testo› resta com’è.
+Dopo: testo</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Rimuovi le virgolette doppie</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Prima: “testo”
+Dopo: testo</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Doppie di ogni stile</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Prima: «testo» resta com’è.
+Dopo: testo</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Rimuovi i punti elenco</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Prima: •·latte↵•·pane
+Dopo: latte↵pane</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Rimuovi i segni di risposta</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Prima: &gt;·&gt;·Ciao
+Dopo: Ciao</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Rimuovi i tag HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Prima: &lt;b&gt;grassetto&lt;/b&gt;
+Dopo: grassetto</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Anche gli script</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Prima: il testo di uno &lt;script&gt; resta.
+Dopo: scompare con il suo tag.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Usa un modello personale</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Prima, con [0-9]: a1b2
+Dopo (elimina): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Un’espressione regolare.
+Prima, con [0-9]: a1b2
+Dopo (elimina): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Corrispondenze</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Prima (elimina [0-9]): a1b2 diventa ab
+Dopo (cerca [0-9]): a1b2 diventa 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Spazi, tabulazioni e a capo in uno spazio</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Sostituzione 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Sostituzione 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Sostituzione 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Sostituzione 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Sostituzione 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Sostituzione 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Sostituzione 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Sostituzione 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Sostituzione 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Sostituzione 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Prima: giovine
+Dopo, con «giovine» e «giovane»: giovane</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Il testo da cercare.
+Prima: giovine
+Dopo, con «giovine» e «giovane»: giovane</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Sostituisci con</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Ciò che ne prende il posto; se è vuoto, il testo viene eliminato.
+Prima: giovine
+Dopo, con «giovine» e «giovane»: giovane</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Rientro</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizzato</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Applica l’elenco trova e sostituisci</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Prima: Sig. Rossi
+Dopo, con Sig. → Signor: Signor Rossi</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Un elenco per tutti i profili</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Prima: ogni profilo ha il proprio elenco.
+Dopo: tutti i profili condividono un elenco.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Regole, dalla prima all’ultima</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Le regole si applicano dall’alto in basso. Trascini una regola, o prema Alt+Su e Alt+Giù, per spostarla.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Sostituisci con</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Inizi con {search} per tenere solo ciò che il modello trova, o con {delete} per eliminarlo.
+Prima, con [0-9] e {search}#: a1b2
+Dopo: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Aggiungi una regola</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Aggiunge una regola in fondo all’elenco.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Elimina la regola</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Elimina la regola selezionata.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Sposta su la regola selezionata, così si applica prima.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Sposta giù</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Sposta giù la regola selezionata, così si applica dopo.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Nuova regola</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Selezioni la regola da eliminare</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Selezioni una regola</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Testo sostitutivo</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Inverso</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Casuale</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>A capo</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>In basso a sinistra</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>In basso a destra</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>In alto a sinistra</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>In alto a destra</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Posizione del puntatore</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tabulazione in 4 spazi, 4 spazi in tabulazione</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 punti in puntini di sospensione, puntini di sospensione in 3 punti</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>niente, spazio</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>niente, un a capo, due a capo, spazio, a capo e spazio, a capo e tabulazione, a capo e testo personalizzato, paragrafi HTML, tag HTML immagine, testo personalizzato attorno alle righe</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>maiuscola a inizio frase, maiuscola a ogni parola, minuscole, maiuscole</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>da singole a doppie, da doppie a singole</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>elimina, cerca</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Mostra che cosa fanno le opzioni. Nulla arriva negli appunti finché non lo si chiede.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Prima</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Scriva o incolli qui un testo qualsiasi per provare le opzioni.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Dopo</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Il testo come lo ripuliscono le opzioni. Ciò che è cambiato è evidenziato.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Scriva un testo, o prenda quello negli appunti</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Prendi dagli appunti</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Copia nell’anteprima il testo negli appunti.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Ripulisci gli appunti</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Ripulisce subito il testo negli appunti con queste opzioni.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Il testo è troppo lungo per l’anteprima; se ne mostra solo l’inizio.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>Non c’è testo negli appunti.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Gentile  lettore .
+
+&gt;  Questa riga è stata
+&gt;  spezzata a metà.
+
+•  &apos;latte&apos;
+•  &apos;pane&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Caratteri</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Spazi</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Parole</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Paragrafi</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Statistiche</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Clic per chiudere</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Suggerimenti</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Inizia</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Suggerimento %1 di %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Mostra i suggerimenti a ogni avvio</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Prima: i suggerimenti si aprono solo dal menu.
+Dopo: si aprono a ogni avvio di Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Novità in Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Mostra i suggerimenti</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Copia, ed è pulito</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro vive nel vassoio. Trasforma ciò che si copia in testo semplice e pulito: niente spazi di troppo, righe spezzate o formattazione.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>A mano o da solo</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Scelga «Rimuovi la formattazione dagli appunti» nel menu, prema la sua scorciatoia, o lasci che «Rimuovi automaticamente la formattazione» ripulisca ogni copia.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Vedere prima di pulire</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Le preferenze mostrano un testo prima e dopo. Spunti un’opzione e guardi che cosa fa; gli appunti restano come sono.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Un profilo per ogni lavoro</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Tenga un insieme di opzioni per la posta e un altro per il codice. Si passa dall’uno all’altro nel menu del vassoio.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Le proprie regole</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>L’elenco trova e sostituisci applica le regole in ordine. Trascini una regola per spostarla; funzionano anche i modelli.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Niente va perso</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>«Ripristina l’originale» nel menu rimette negli appunti ciò che c’era prima, con la sua formattazione.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Regola %1 di %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – ripulisce ogni copia</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – qui qualcosa non funziona</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Ripulisce il testo negli appunti.
+Versione %1
+Licenza MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Non c’è un originale da ripristinare.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Gli appunti sono cambiati, perciò l’originale non è stato ripristinato.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Rimuovi la formattazione dagli appunti</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Rimuovi automaticamente la formattazione</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Tranne le copie da Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Ripristina l’originale</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Singole operazioni</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profili</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferenze…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Suggerimenti</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Novità</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Valuta Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Assistenza</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-mail allo sviluppatore</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Esci da Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Nascondi Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Svuota</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Taglia</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aiuto</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Clic per registrare una scorciatoia</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Digiti la scorciatoia</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Usa la vecchia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Elimina la scorciatoia</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>La combinazione di tasti «%@» non può essere usata!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>La combinazione di tasti «%@» non può essere usata perché è già una scorciatoia da tastiera di sistema. Se si vuole proprio usarla, la maggior parte delle scorciatoie si può cambiare nel pannello Tastiera delle impostazioni di sistema.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>La combinazione di tasti «%@» non può essere usata perché la usa già la voce di menu «%@».</translation>
+    </message>
+</context>
+</TS>

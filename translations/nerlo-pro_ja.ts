@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>空白とタブ</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>文字と引用符</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>箇条書き、タグ、パターン</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>10 個の置換</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>検索と置換</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>オプションを検索</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>単語を入力すると、関係するオプションがすべて見つかります。</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>「%@」に関係するオプションはありません。</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>使用中のオプションの組です。トレイのメニューでも切り替えられます。</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>プロファイルを追加</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>すべてのオプションがオフのプロファイルを追加します。</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>プロファイルを削除</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>選択中のプロファイルを、確認のうえ削除します。</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>新しいプロファイルの名前を入力して OK をクリックしてください</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>このプロファイルを削除しますか？</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>プロファイル：%@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel を除外しました</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>オプション「書式を自動的に消去」で除外されます</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>ショートカット：%@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>すべてのアプリケーションで働くショートカットです。</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>このショートカットはシステムに拒否されました。ほかのプログラムが使っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>このデスクトップはプログラムにショートカットを提供していません。デスクトップの設定でコマンド「%@」に割り当ててください。</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>このデスクトップにはトレイがないため、起動のたびにこのウィンドウが開きます。</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>ログイン時に起動</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>ログイン時に Nerlo Pro を起動</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>前：Nerlo Pro を手動で起動します。
+後：ログインするとすでに起動しています。</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>トレイに表示</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>前：Nerlo Pro はタスクバーに表示されます。
+後：トレイにメニュー付きのアイコンが表示されます。</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>バックグラウンドで実行</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>前：トレイのアイコンまたはタスクバーの項目があります。
+後：どちらもありません。Nerlo Pro をもう一度起動するとこのウィンドウが開きます。</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>常に手前に表示</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>前：ほかのウィンドウに隠れることがあります。
+後：このウィンドウは常に手前にあります。</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>書式を自動的に消去</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>前：クリップボードの整形は自分で実行します。
+後：コピーするたびに自動で整形されます。</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Excel からのコピーを除く</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>前：コピーしたセルはプレーンテキストになります。
+後：表計算のセルはそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>クリップボードの書式を消去</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>前：「こんにちは·····世界」、太字
+後：「こんにちは·世界」、プレーン</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>整形</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>ウィンドウと起動</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>行を並べ替え</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>前：なし↵いちご
+後：いちご↵なし</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>前（A-Z）：いちご↵なし
+後（Z-A）：なし↵いちご</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>項目の区切り</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>前（改行）：b,a
+後（「,」）：a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>独自の区切り</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>前：b/a
+後（/）：a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>重複する行を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>前：お茶↵お茶↵牛乳
+後：お茶↵牛乳</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>項目の区切り</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>前（改行）：a,a
+後（「,」）：a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>独自の区切り</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>前：a/a
+後（/）：a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>整形後に統計を表示</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>前：何がコピーされたかわかりません。
+後：小さなウィンドウが文字、空白、単語、段落を数えます。</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>自動的に閉じる</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>前：クリックするまでウィンドウが残ります。
+後：数秒後に閉じます。</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>秒数</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>ウィンドウを表示する時間です。
+前（3）：3 秒間
+後（10）：10 秒間</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>前（ポインターの位置）：ポインターの位置
+後（右上）：画面のその隅</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>連続する空白を 1 つに</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>前：a····b
+後：a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>連続するタブを 1 つに</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>前：a⇥⇥⇥b
+後：a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>タブと空白 4 つを変換</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>前：⇥a
+後：····a、または逆</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>前（タブを空白 4 つに）：⇥a
+後：····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>ピリオド 3 つと三点リーダーを変換</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>前：待って...
+後：待って…、または逆</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>前（ピリオド 3 つを三点リーダーに）：待って...
+後：待って…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>ピリオドの前の空白を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>前：おわり·.
+後：おわり.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>タブの前後の空白を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>前：a·⇥·b
+後：a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>改行の前後の空白を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>前：一·↵·二
+後：一↵二</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>空白をすべて削除</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>前：a·b·c
+後：abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>タブをすべて削除</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>前：a⇥b⇥c
+後：abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>空白・タブ・改行を空白 1 つに</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>前：a·⇥·b↵c
+後：a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>行末のハイフンを削除</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>前：hyphen-↵ated
+後：hyphenated</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>ハイフン・ダッシュ・マイナス記号をすべて削除</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>前：well-known
+後：wellknown</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>先頭に付け足す</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>前：テキスト
+後（「&gt; 」）：&gt; テキスト</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>先頭の文字列</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>前：テキスト
+後（「&gt; 」）：&gt; テキスト</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>末尾に付け足す</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>前：テキスト
+後（「!」）：テキスト!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>末尾の文字列</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>前：テキスト
+後（「!」）：テキスト!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>誤って改行された行をつなぐ</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>前：この行は途中で↵改行されています。
+後：この行は途中で·改行されています。</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>行のつなぎ方</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>前（なし）：a↵b → ab
+後（空白）：a↵b → a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>改行を変更</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>前：一↵↵↵二
+後（改行 1 つ）：一↵二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>改行の変換先</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>前（改行 1 つ）：一↵二
+後（空白）：一·二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>独自のテキスト 1</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>前：一↵二
+後（「- 」）：一↵- 二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>独自のテキスト 2</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>前：一
+後（[b]と[/b]）：[b]一[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>テキストの両端を切り詰める</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>前：··テキスト··
+後：テキスト</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>大文字・小文字を変更</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>前：HELLO. YOU.
+後（文頭のみ大文字）：Hello. You.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>大文字・小文字</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>前（すべて大文字）：HELLO
+後（すべて小文字）：hello</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>引用符を変更</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>前：‘テキスト’
+後（一重を二重に）：“テキスト”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>前（一重を二重に）：‘テキスト’
+後：“テキスト”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>一重引用符</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>前：&apos;テキスト&apos;
+後（‚…‘）：‚テキスト‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>二重引用符</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>前：&quot;テキスト&quot;
+後（„…“）：„テキスト“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>すべての種類の引用符</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>前：«テキスト» はそのまま。
+後：«テキスト» も変換されます。</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>一重引用符を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>前：‘テキスト’
+後：テキスト</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>すべての種類の一重引用符</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>前：‹テキスト› はそのまま。
+後：テキスト</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>二重引用符を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>前：“テキスト”
+後：テキスト</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>すべての種類の二重引用符</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>前：«テキスト» はそのまま。
+後：テキスト</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>箇条書きの記号を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>前：•·牛乳↵•·パン
+後：牛乳↵パン</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>返信の引用記号を削除</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>前：&gt;·&gt;·こんにちは
+後：こんにちは</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>HTML タグを削除</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>前：&lt;b&gt;太字&lt;/b&gt;
+後：太字</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>スクリプトも</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>前：&lt;script&gt; の中のテキストが残ります。
+後：タグと一緒に消えます。</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>独自のパターンを使う</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>前（[0-9]）：a1b2
+後（削除）：ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>正規表現です。
+前（[0-9]）：a1b2
+後（削除）：ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>一致した部分</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>前（削除 [0-9]）：a1b2 → ab
+後（検索 [0-9]）：a1b2 → 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>空白・タブ・改行を空白 1 つに</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>置換 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>置換 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>置換 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>置換 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>置換 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>置換 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>置換 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>置換 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>置換 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>置換 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>前：プリンター
+後（「プリンター」と「プリンタ」）：プリンタ</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>検索するテキストです。
+前：プリンター
+後（「プリンター」と「プリンタ」）：プリンタ</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>置換後</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>代わりに入れるテキストです。空なら削除されます。
+前：プリンター
+後（「プリンター」と「プリンタ」）：プリンタ</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>字下げ</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>独自</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>検索と置換のリストを適用</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>前：(株) ネルロ
+後（(株) → 株式会社）：株式会社 ネルロ</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>全プロファイルで 1 つのリスト</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>前：プロファイルごとにリストがあります。
+後：すべてのプロファイルが 1 つのリストを共有します。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>ルール（最初から最後まで）</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>ルールは上から下へ適用されます。移動するにはドラッグするか、Alt+↑ と Alt+↓ を押します。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>置換後</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>{search} で始めるとパターンに一致した部分だけを残し、{delete} で始めるとそれを削除します。
+前（[0-9]と{search}#）：a1b2
+後：1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>ルールを追加</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>リストの末尾にルールを追加します。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>ルールを削除</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>選択中のルールを削除します。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>選択中のルールを上へ移動し、先に適用されるようにします。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>選択中のルールを下へ移動し、後で適用されるようにします。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>新しいルール</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>削除するルールを選択してください</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>ルールを選択してください</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>置換テキスト</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>ランダム</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>改行</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>ポインターの位置</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>タブを空白 4 つに, 空白 4 つをタブに</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>ピリオド 3 つを三点リーダーに, 三点リーダーをピリオド 3 つに</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>なし, 空白</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>なし, 改行 1 つ, 改行 2 つ, 空白, 改行と空白, 改行とタブ, 改行と独自のテキスト, HTML の段落, HTML の画像タグ, 行を囲む独自のテキスト</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>文頭のみ大文字, 単語の先頭を大文字, すべて小文字, すべて大文字</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>一重を二重に, 二重を一重に</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>削除, 検索</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>オプションの効果を表示します。求めるまでクリップボードは変わりません。</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>前</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>ここにテキストを入力または貼り付けて、オプションを試せます。</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>後</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>オプションで整形したテキストです。変わった部分に印が付きます。</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>テキストを入力するか、クリップボードから取り込みます</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>クリップボードから取り込む</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>クリップボードのテキストをプレビューにコピーします。</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>クリップボードを整形</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>クリップボードのテキストを、このオプションで今すぐ整形します。</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>テキストが長すぎるため、先頭だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>クリップボードにテキストがありません。</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>読者  各位 .
+
+&gt;  この行は途中で
+&gt;  改行されています。
+
+•  &apos;milk&apos;
+•  &apos;bread&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>単語</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>段落</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>クリックで閉じる</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>はじめる</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>ヒント %1 / %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>起動のたびにヒントを表示</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>前：ヒントはメニューからだけ開きます。
+後：Nerlo Pro を起動するたびに開きます。</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Nerlo Pro の新機能</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>ヒントを表示</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>コピーすれば、もうきれい</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro はトレイに常駐し、コピーしたものをきれいなプレーンテキストにします。余分な空白も、途切れた行も、書式も残りません。</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>手動でも自動でも</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>メニューの「クリップボードの書式を消去」を選ぶか、ショートカットを押すか、「書式を自動的に消去」でコピーのたびに整形できます。</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>整形の前に確認</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>設定にはテキストの前後が表示されます。オプションにチェックを入れて効果を見られます。クリップボードはそのままです。</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>用途ごとのプロファイル</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>メール用とコード用など、オプションの組を分けておき、トレイのメニューで切り替えられます。</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>独自のルール</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>検索と置換のリストはルールを順に適用します。ドラッグで並べ替えられ、パターンも使えます。</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>何も失われません</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>メニューの「元の内容に戻す」で、以前クリップボードにあったものが書式ごと戻ります。</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>ルール %1 / %2：%3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – コピーのたびに整形中</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – 動作していない機能があります</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>クリップボードのテキストを整形します。
+バージョン %1
+MIT ライセンス</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>元に戻せる内容がありません。</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>クリップボードが変わったため、元の内容には戻しませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>クリップボードの書式を消去</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>書式を自動的に消去</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Excel からのコピーを除く</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>元の内容に戻す</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>個別の操作</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>新機能</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Nerlo Pro を評価</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>サポート</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>開発者にメール</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Nerlo Pro を終了</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Nerlo Pro を隠す</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>切り取り</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>クリックしてショートカットを記録</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>ショートカットを入力</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>元のショートカットを使う</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>ショートカットを削除</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>キーの組み合わせ「%@」は使えません！</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>キーの組み合わせ「%@」は、システム全体のキーボードショートカットとしてすでに使われているため使えません。どうしても使いたい場合、ほとんどのショートカットはシステム設定の「キーボード」で変更できます。</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>キーの組み合わせ「%@」は、メニュー項目「%@」ですでに使われているため使えません。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl_PL" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Preferencje</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Spacje i tabulatory</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Wiersze</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Litery i cudzysłowy</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Punktory, znaczniki, wzorzec</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Dziesięć zamian</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Znajdź i zamień</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Statystyka</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Szukaj opcji</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Wpisz słowo, aby znaleźć wszystkie związane z nim opcje.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Żadna opcja nie dotyczy „%@”.</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Strony</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Opcje</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Używany zestaw opcji. Można go też zmienić w menu zasobnika.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Dodaj profil</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Dodaje profil, w którym wszystkie opcje są wyłączone.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Usuń profil</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Usuwa wybrany profil po potwierdzeniu.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Wpisz nazwę nowego profilu i kliknij OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Czy usunąć ten profil?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Profil: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Tak</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel wykluczony</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Z opcją „Automatycznie usuwaj formatowanie”</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Skrót: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Skrót działający we wszystkich programach.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>System odrzucił ten skrót. Może go używać inny program.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>To środowisko nie udostępnia programom skrótów. Przypisz skrót do polecenia „%@” w jego ustawieniach.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>To środowisko nie ma zasobnika, więc to okno otwiera się przy każdym uruchomieniu.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Uruchamiaj przy logowaniu</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Uruchamiaj Nerlo Pro przy logowaniu</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Przed: uruchamiasz Nerlo Pro ręcznie.
+Po: program działa zaraz po zalogowaniu.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Pokazuj w zasobniku</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Przed: Nerlo Pro ma pozycję na pasku zadań.
+Po: ma ikonę z menu w zasobniku.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Działaj w tle</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Przed: ikona w zasobniku albo pozycja na pasku zadań.
+Po: ani jedno, ani drugie. Ponowne uruchomienie Nerlo Pro otwiera to okno.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Zawsze na wierzchu</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Przed: inne okna mogą zasłonić to okno.
+Po: to okno pozostaje nad nimi.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Automatycznie usuwaj formatowanie</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Przed: decydujesz, kiedy oczyścić schowek.
+Po: każda kopia jest czyszczona sama.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Z wyjątkiem kopii z Excela</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Przed: skopiowane komórki stają się zwykłym tekstem.
+Po: komórki arkusza pozostają bez zmian.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Usuń formatowanie ze schowka</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Przed: „Witaj·····świecie”, pogrubiony
+Po: „Witaj·świecie”, zwykły</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Czyszczenie</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Okno i uruchamianie</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Sortuj wiersze</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Przed: jabłko↵gruszka
+Po: gruszka↵jabłko</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Kolejność</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Przed (A-Z): gruszka↵jabłko
+Po (Z-A): jabłko↵gruszka</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Elementy kończą się na</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Przed (Koniec wiersza): b,a
+Po („,”): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Własny separator</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Przed: b/a
+Po, z /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Usuń powtórzone wiersze</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Przed: herbata↵herbata↵mleko
+Po: herbata↵mleko</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Elementy kończą się na</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Przed (Koniec wiersza): a,a
+Po („,”): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Własny separator</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Przed: a/a
+Po, z /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Pokazuj statystykę po czyszczeniu</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Przed: nic nie mówi, co skopiowano.
+Po: małe okno liczy znaki, spacje, słowa i akapity.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Zamykaj samoczynnie</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Przed: okno zostaje do kliknięcia.
+Po: zamyka się po kilku sekundach.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Sekundy</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Jak długo widać okno.
+Przed, z 3: trzy sekundy
+Po, z 10: dziesięć sekund</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Położenie</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Przed (Przy wskaźniku): przy wskaźniku
+Po (Prawy górny róg): w tym rogu ekranu</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Wiele spacji w jedną</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Przed: a····b
+Po: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Wiele tabulatorów w jeden</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Przed: a⇥⇥⇥b
+Po: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Zamień tabulatory i cztery spacje</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Przed: ⇥a
+Po: ····a, albo odwrotnie</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Kierunek</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Przed (Tabulator na 4 spacje): ⇥a
+Po: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Zamień trzy kropki i wielokropek</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Przed: Chwila...
+Po: Chwila…, albo odwrotnie</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Kierunek</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Przed (3 kropki na wielokropek): Chwila...
+Po: Chwila…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Usuń spację przed kropką</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Przed: Koniec·.
+Po: Koniec.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Usuń spacje wokół tabulatorów</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Przed: a·⇥·b
+Po: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Usuń spacje wokół końców wiersza</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Przed: jeden·↵·dwa
+Po: jeden↵dwa</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Usuń wszystkie spacje</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Przed: a·b·c
+Po: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Usuń wszystkie tabulatory</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Przed: a⇥b⇥c
+Po: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Spacje, tabulatory i końce wiersza w jedną spację</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Przed: a·⇥·b↵c
+Po: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Usuń łączniki na końcach wierszy</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Przed: prze-↵niesienie
+Po: przeniesienie</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Usuń wszystkie łączniki, myślniki i znaki minus</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Przed: biało-czerwony
+Po: białoczerwony</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Dodaj przedrostek</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Przed: tekst
+Po, z „&gt; ”: &gt; tekst</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Przedrostek</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Przed: tekst
+Po, z „&gt; ”: &gt; tekst</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Dodaj przyrostek</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Przed: tekst
+Po, z „!”: tekst!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Przyrostek</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Przed: tekst
+Po, z „!”: tekst!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Złącz błędnie złamane wiersze</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Przed: Ten wiersz został↵złamany w środku.
+Po: Ten wiersz został·złamany w środku.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Wiersze są łączone przez</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Przed (nic): a↵b zmienia się w ab
+Po (spacja): a↵b zmienia się w a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Zmień końce wiersza</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Przed: jeden↵↵↵dwa
+Po (jeden koniec wiersza): jeden↵dwa</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Końce wiersza zmieniają się w</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Przed (jeden koniec wiersza): jeden↵dwa
+Po (spacja): jeden·dwa</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Pierwszy własny tekst</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Przed: jeden↵dwa
+Po, z „- ”: jeden↵- dwa</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Drugi własny tekst</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Przed: jeden
+Po, z [b] i [/b]: [b]jeden[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Przytnij oba końce tekstu</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Przed: ··tekst··
+Po: tekst</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Zmień wielkość liter</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Przed: WITAJ. TY.
+Po (Jak w zdaniu): Witaj. Ty.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Wielkość liter</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Przed (WIELKIE LITERY): WITAJ
+Po (małe litery): witaj</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Zmień cudzysłowy</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Przed: ‘tekst’
+Po (pojedyncze na podwójne): “tekst”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Kierunek</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Przed (pojedyncze na podwójne): ‘tekst’
+Po: “tekst”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Pojedyncze</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Przed: &apos;tekst&apos;
+Po, z ‚…‘: ‚tekst‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Podwójne</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Przed: &quot;tekst&quot;
+Po, z „…“: „tekst“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Cudzysłowy każdego rodzaju</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Przed: «tekst» pozostaje bez zmian.
+Po: «tekst» też się zmienia.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Usuń pojedyncze cudzysłowy</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Przed: ‘tekst’
+Po: tekst</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Pojedyncze każdego rodzaju</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Przed: ‹tekst› pozostaje bez zmian.
+Po: tekst</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Usuń podwójne cudzysłowy</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Przed: “tekst”
+Po: tekst</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Podwójne każdego rodzaju</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Przed: «tekst» pozostaje bez zmian.
+Po: tekst</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Usuń punktory</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Przed: •·mleko↵•·chleb
+Po: mleko↵chleb</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Usuń znaki odpowiedzi</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Przed: &gt;·&gt;·Witaj
+Po: Witaj</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Usuń znaczniki HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Przed: &lt;b&gt;pogrubiony&lt;/b&gt;
+Po: pogrubiony</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Skrypty też</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Przed: tekst w &lt;script&gt; pozostaje.
+Po: znika razem ze znacznikiem.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Użyj własnego wzorca</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Przed, z [0-9]: a1b2
+Po (usuń): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Wzorzec</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Wyrażenie regularne.
+Przed, z [0-9]: a1b2
+Po (usuń): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Dopasowania</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Przed (usuń [0-9]): a1b2 zmienia się w ab
+Po (znajdź [0-9]): a1b2 zmienia się w 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Spacje, tabulatory i końce wiersza w jedną spację</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Zamiana 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Zamiana 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Zamiana 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Zamiana 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Zamiana 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Zamiana 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Zamiana 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Zamiana 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Zamiana 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Zamiana 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Przed: dyskietka
+Po, z „dyskietka” i „pendrive”: pendrive</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Szukany tekst.
+Przed: dyskietka
+Po, z „dyskietka” i „pendrive”: pendrive</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Zamień na</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>To, co go zastąpi; gdy puste, tekst zostaje usunięty.
+Przed: dyskietka
+Po, z „dyskietka” i „pendrive”: pendrive</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Wcięcie</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Znacznik</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Własny</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Zastosuj listę zamian</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Przed: P. Nowak
+Po, z P. → Pan: Pan Nowak</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Jedna lista dla wszystkich profili</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Przed: każdy profil ma własną listę.
+Po: wszystkie profile mają wspólną listę.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Reguły, od pierwszej do ostatniej</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Reguły są stosowane z góry na dół. Przeciągnij regułę albo naciśnij Alt+Góra i Alt+Dół, aby ją przesunąć.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Zamień na</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Zacznij od {search}, aby zostawić tylko to, co znajdzie wzorzec, albo od {delete}, aby to usunąć.
+Przed, z [0-9] i {search}#: a1b2
+Po: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Dodaj regułę</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Dodaje regułę na końcu listy.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Usuń regułę</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Usuwa wybraną regułę.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>W górę</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Przesuwa wybraną regułę w górę, aby była stosowana wcześniej.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>W dół</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Przesuwa wybraną regułę w dół, aby była stosowana później.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Nowa reguła</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Wybierz regułę do usunięcia</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Wybierz regułę</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Tekst zastępczy</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Odwrotnie</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Losowo</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Koniec wiersza</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Lewy dolny róg</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Prawy dolny róg</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Lewy górny róg</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Prawy górny róg</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Środek</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Przy wskaźniku</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tabulator na 4 spacje, 4 spacje na tabulator</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 kropki na wielokropek, Wielokropek na 3 kropki</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nic, spacja</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nic, jeden koniec wiersza, dwa końce wiersza, spacja, koniec wiersza i spacja, koniec wiersza i tabulator, koniec wiersza i własny tekst, akapity HTML, znaczniki obrazów HTML, własny tekst wokół wierszy</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Jak w zdaniu, Każde Słowo Wielką Literą, małe litery, WIELKIE LITERY</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>pojedyncze na podwójne, podwójne na pojedyncze</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>usuń, znajdź</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Pokazuje, co robią opcje. Nic nie trafia do schowka, dopóki o to nie poprosisz.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Przed</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Wpisz lub wklej tu dowolny tekst, aby wypróbować na nim opcje.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Po</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Tekst oczyszczony według opcji. Zmiany są zaznaczone.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Wpisz tekst albo weź go ze schowka</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Weź ze schowka</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Kopiuje tekst ze schowka do podglądu.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Oczyść schowek</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Od razu czyści tekst w schowku z tymi opcjami.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Tekst jest za długi na podgląd; widać tylko jego początek.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>W schowku nie ma tekstu.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Drogi  czytelniku .
+
+&gt;  Ten wiersz został
+&gt;  złamany w środku.
+
+•  &apos;mleko&apos;
+•  &apos;chleb&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Znaki</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Spacje</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Słowa</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Akapity</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Statystyka</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Kliknij, aby zamknąć</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Wskazówki</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Dalej</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Rozpocznij</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Wskazówka %1 z %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Pokazuj wskazówki przy każdym uruchomieniu</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Przed: wskazówki otwierają się tylko z menu.
+Po: otwierają się przy każdym uruchomieniu Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Co nowego w Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Pokaż wskazówki</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Kopiujesz i jest czysto</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro mieszka w zasobniku. Zmienia to, co kopiujesz, w czysty, zwykły tekst: bez zbędnych spacji, złamanych wierszy i formatowania.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>Ręcznie albo samo</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Wybierz w menu „Usuń formatowanie ze schowka”, naciśnij skrót albo włącz „Automatycznie usuwaj formatowanie”, aby czyścić każdą kopię.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Najpierw zobacz, potem czyść</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Preferencje pokazują tekst przed i po. Zaznacz opcję i zobacz, co robi; schowek pozostaje bez zmian.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Profil do każdego zadania</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Miej jeden zestaw opcji do poczty, a drugi do kodu. Przełączaj je w menu zasobnika.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Twoje reguły</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>Lista zamian stosuje reguły po kolei. Przeciągnij regułę, aby ją przesunąć; wzorce też działają.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Nic nie ginie</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>„Przywróć oryginał” w menu przywraca to, co było w schowku, razem z formatowaniem.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Reguła %1 z %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – każda kopia jest czyszczona</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – coś tu nie działa</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Czyści tekst w schowku.
+Wersja %1
+Licencja MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Nie ma oryginału do przywrócenia.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Schowek się zmienił, więc oryginału nie przywrócono.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Usuń formatowanie ze schowka</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Automatycznie usuwaj formatowanie</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Z wyjątkiem kopii z Excela</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Przywróć oryginał</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Pojedyncze operacje</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferencje…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Wskazówki</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Co nowego</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Oceń Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Wsparcie</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-mail do autora</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programie</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Zakończ Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Ukryj Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edycja</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Wytnij</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Wklej</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Pomoc</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Kliknij, aby nagrać skrót</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Naciśnij skrót</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Zostaw stary</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Usuń skrót</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spacja</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>Nie można użyć kombinacji klawiszy „%@”!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>Nie można użyć kombinacji klawiszy „%@”, bo jest już skrótem systemowym. Jeśli naprawdę jej potrzebujesz, większość skrótów można zmienić w panelu Klawiatura w ustawieniach systemu.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>Nie można użyć kombinacji klawiszy „%@”, bo używa jej już pozycja menu „%@”.</translation>
+    </message>
+</context>
+</TS>

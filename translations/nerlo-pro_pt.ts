@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Preferências</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Espaços e tabulações</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Linhas</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Letras e aspas</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Marcadores, tags, padrão</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Dez substituições</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Localizar e substituir</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Estatísticas</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Pesquisar opções</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Digite uma palavra para encontrar todas as opções que têm a ver com ela.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Nenhuma opção tem a ver com “%@”.</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>O conjunto de opções em uso. O menu da bandeja também pode trocá-lo.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Adicionar perfil</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Adiciona um perfil com todas as opções desligadas.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Remover perfil</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Remove o perfil selecionado, depois de uma pergunta.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Digite o nome do novo perfil e clique em OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Deseja remover este perfil?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Perfil: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel excluído</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Com a opção “Limpar a formatação automaticamente”</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Atalho: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Um atalho que funciona em todos os aplicativos.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>O sistema recusou este atalho. Talvez outro programa o use.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Este ambiente não oferece atalhos aos programas. Associe um ao comando “%@” nas configurações dele.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Este ambiente não mostra uma bandeja, por isso esta janela abre a cada início.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Iniciar com a sessão</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Iniciar o Nerlo Pro com a sessão</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Antes: você inicia o Nerlo Pro manualmente.
+Depois: ele já está lá depois de entrar na sessão.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Mostrar na bandeja</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Antes: o Nerlo Pro tem uma entrada na barra de tarefas.
+Depois: ele tem um ícone com menu na bandeja.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Executar em segundo plano</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Antes: ícone na bandeja ou entrada na barra de tarefas.
+Depois: nenhum dos dois. Iniciar o Nerlo Pro de novo abre esta janela.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Manter acima</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Antes: outras janelas podem cobrir esta.
+Depois: esta janela fica acima delas.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Limpar a formatação automaticamente</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Antes: você decide quando limpar a área de transferência.
+Depois: cada cópia é limpa sozinha.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Exceto cópias do Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Antes: as células copiadas viram texto simples.
+Depois: as células de uma planilha ficam como estão.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Limpar a formatação da área de transferência</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Antes: “Olá·····mundo”, negrito
+Depois: “Olá·mundo”, simples</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Limpeza</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Janela e início</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Ordenar linhas</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Antes: pera↵maçã
+Depois: maçã↵pera</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Ordem</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Antes (A-Z): maçã↵pera
+Depois (Z-A): pera↵maçã</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Os itens terminam com</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Antes (Quebra de linha): b,a
+Depois (“,”): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Separador personalizado</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Antes: b/a
+Depois, com /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Remover linhas duplicadas</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Antes: chá↵chá↵leite
+Depois: chá↵leite</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Os itens terminam com</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Antes (Quebra de linha): a,a
+Depois (“,”): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Separador personalizado</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Antes: a/a
+Depois, com /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Mostrar as estatísticas depois de limpar</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Antes: nada diz o que foi copiado.
+Depois: uma pequena janela conta caracteres, espaços, palavras e parágrafos.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Fechar sozinha</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Antes: a janela fica até você clicar nela.
+Depois: ela fecha depois de alguns segundos.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Segundos</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Por quanto tempo a janela fica aberta.
+Antes, com 3: três segundos
+Depois, com 10: dez segundos</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Antes (Posição do ponteiro): junto ao ponteiro
+Depois (Em cima à direita): nesse canto da tela</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Vários espaços em um</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Antes: a····b
+Depois: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Várias tabulações em uma</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Antes: a⇥⇥⇥b
+Depois: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Converter tabulações e quatro espaços</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Antes: ⇥a
+Depois: ····a, ou o contrário</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Direção</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Antes (Tabulação em 4 espaços): ⇥a
+Depois: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Converter três pontos e reticências</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Antes: Espere...
+Depois: Espere…, ou o contrário</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Direção</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Antes (3 pontos em reticências): Espere...
+Depois: Espere…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Remover o espaço antes de um ponto</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Antes: Fim·.
+Depois: Fim.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Remover espaços em volta de tabulações</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Antes: a·⇥·b
+Depois: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Remover espaços em volta de quebras de linha</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Antes: um·↵·dois
+Depois: um↵dois</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Remover todos os espaços</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Antes: a·b·c
+Depois: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Remover todas as tabulações</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Antes: a⇥b⇥c
+Depois: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Espaços, tabulações e quebras de linha em um espaço</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Antes: a·⇥·b↵c
+Depois: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Remover hifens no fim das linhas</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Antes: sepa-↵rado
+Depois: separado</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Remover todos os hifens, travessões e sinais de menos</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Antes: guarda-chuva
+Depois: guardachuva</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Adicionar um prefixo</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Antes: texto
+Depois, com “&gt; ”: &gt; texto</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Prefixo</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Antes: texto
+Depois, com “&gt; ”: &gt; texto</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Adicionar um sufixo</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Antes: texto
+Depois, com “!”: texto!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Sufixo</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Antes: texto
+Depois, com “!”: texto!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Juntar linhas mal quebradas</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Antes: Esta linha foi↵quebrada no meio.
+Depois: Esta linha foi·quebrada no meio.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>As linhas são unidas com</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Antes (nada): a↵b vira ab
+Depois (espaço): a↵b vira a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Alterar as quebras de linha</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Antes: um↵↵↵dois
+Depois (uma quebra de linha): um↵dois</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>As quebras de linha viram</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Antes (uma quebra de linha): um↵dois
+Depois (espaço): um·dois</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Primeiro texto personalizado</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Antes: um↵dois
+Depois, com “- ”: um↵- dois</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Segundo texto personalizado</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Antes: um
+Depois, com [b] e [/b]: [b]um[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Aparar as duas pontas do texto</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Antes: ··texto··
+Depois: texto</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Alterar maiúsculas e minúsculas</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Antes: OLÁ. VOCÊ.
+Depois (Inicial de frase em maiúscula): Olá. Você.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Maiúsculas e minúsculas</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Antes (MAIÚSCULAS): OLÁ
+Depois (minúsculas): olá</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Alterar as aspas</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Antes: ‘texto’
+Depois (simples em duplas): “texto”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Direção</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Antes (simples em duplas): ‘texto’
+Depois: “texto”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Aspas simples</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Antes: &apos;texto&apos;
+Depois, com ‚…‘: ‚texto‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Aspas duplas</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Antes: &quot;texto&quot;
+Depois, com „…“: „texto“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Aspas de todos os estilos</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Antes: «texto» fica como está.
+Depois: «texto» também é alterado.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Remover as aspas simples</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Antes: ‘texto’
+Depois: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Simples de todos os estilos</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Antes: ‹texto› fica como está.
+Depois: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Remover as aspas duplas</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Antes: “texto”
+Depois: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Duplas de todos os estilos</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Antes: «texto» fica como está.
+Depois: texto</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Remover marcadores</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Antes: •·leite↵•·pão
+Depois: leite↵pão</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Remover marcas de resposta</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Antes: &gt;·&gt;·Olá
+Depois: Olá</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Remover tags HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Antes: &lt;b&gt;negrito&lt;/b&gt;
+Depois: negrito</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Scripts também</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Antes: o texto de um &lt;script&gt; fica.
+Depois: ele some com a tag.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Usar seu próprio padrão</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Antes, com [0-9]: a1b2
+Depois (excluir): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Padrão</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Uma expressão regular.
+Antes, com [0-9]: a1b2
+Depois (excluir): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Ocorrências</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Antes (excluir [0-9]): a1b2 vira ab
+Depois (localizar [0-9]): a1b2 vira 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Espaços, tabulações e quebras de linha em um espaço</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Substituição 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Substituição 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Substituição 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Substituição 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Substituição 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Substituição 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Substituição 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Substituição 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Substituição 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Substituição 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Antes: idéia
+Depois, com “idéia” e “ideia”: ideia</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Localizar</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>O texto a localizar.
+Antes: idéia
+Depois, com “idéia” e “ideia”: ideia</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Substituir por</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>O que fica no lugar dele; vazio exclui o texto.
+Antes: idéia
+Depois, com “idéia” e “ideia”: ideia</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Recuo</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Aplicar a lista de localizar e substituir</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Antes: Sr. Silva
+Depois, com Sr. → Senhor: Senhor Silva</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Uma lista para todos os perfis</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Antes: cada perfil tem a própria lista.
+Depois: todos os perfis usam uma só lista.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Regras, da primeira à última</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>As regras são aplicadas de cima para baixo. Arraste uma regra, ou pressione Alt+Cima e Alt+Baixo, para movê-la.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Localizar</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Substituir por</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Comece com {search} para manter só o que o padrão encontra, ou com {delete} para excluí-lo.
+Antes, com [0-9] e {search}#: a1b2
+Depois: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Adicionar uma regra</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Adiciona uma regra no fim da lista.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Excluir a regra</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Exclui a regra selecionada.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Move a regra selecionada para cima, para que seja aplicada antes.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Move a regra selecionada para baixo, para que seja aplicada depois.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Nova regra</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Selecione a regra que deseja excluir</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Selecione uma regra</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Texto de substituição</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Inversa</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Aleatória</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Quebra de linha</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Embaixo à esquerda</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Embaixo à direita</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Em cima à esquerda</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Em cima à direita</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Posição do ponteiro</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tabulação em 4 espaços, 4 espaços em tabulação</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 pontos em reticências, Reticências em 3 pontos</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nada, espaço</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>nada, uma quebra de linha, duas quebras de linha, espaço, quebra e espaço, quebra e tabulação, quebra e texto personalizado, parágrafos HTML, tags HTML de imagem, texto personalizado em volta das linhas</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Inicial de frase em maiúscula, Iniciais De Palavras Em Maiúsculas, minúsculas, MAIÚSCULAS</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>simples em duplas, duplas em simples</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>excluir, localizar</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Prévia</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Mostra o que as opções fazem. Nada chega à área de transferência antes que você peça.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Digite ou cole aqui qualquer texto para testar as opções.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Depois</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>O texto como as opções o limpam. O que mudou está marcado.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Digite um texto, ou pegue o da área de transferência</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Pegar da área de transferência</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Copia o texto da área de transferência para a prévia.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Limpar a área de transferência</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Limpa agora o texto da área de transferência com estas opções.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>O texto é longo demais para a prévia; só o começo é mostrado.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>Não há texto na área de transferência.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Prezado  leitor .
+
+&gt;  Esta linha foi
+&gt;  quebrada no meio.
+
+•  &apos;leite&apos;
+•  &apos;pão&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Espaços</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Palavras</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Parágrafos</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Estatísticas</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Clique para fechar</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Dicas</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Próxima</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Começar</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Dica %1 de %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Mostrar as dicas a cada início</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Antes: as dicas só abrem pelo menu.
+Depois: elas abrem sempre que o Nerlo Pro inicia.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Novidades do Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Mostrar as dicas</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Copiou, está limpo</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>O Nerlo Pro mora na bandeja. Ele transforma o que você copia em texto simples e limpo: sem espaços sobrando, linhas quebradas ou formatação.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>À mão ou sozinho</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Escolha “Limpar a formatação da área de transferência” no menu, pressione o atalho, ou deixe “Limpar a formatação automaticamente” limpar cada cópia.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Ver antes de limpar</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>As preferências mostram um texto antes e depois. Marque uma opção e veja o que ela faz; a área de transferência fica como está.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Um perfil para cada trabalho</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Tenha um conjunto de opções para e-mail e outro para código. Troque entre eles no menu da bandeja.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Suas próprias regras</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>A lista de localizar e substituir aplica suas regras em ordem. Arraste uma regra para movê-la; padrões também funcionam.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Nada se perde</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>“Restaurar o original”, no menu, devolve à área de transferência o que estava lá antes, com a formatação.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Regra %1 de %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – limpando cada cópia</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – algo não funciona aqui</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Limpa o texto da área de transferência.
+Versão %1
+Licença MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Não há original para restaurar.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>A área de transferência mudou, por isso o original não foi restaurado.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Limpar a formatação da área de transferência</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Limpar a formatação automaticamente</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Exceto cópias do Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Restaurar o original</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Operações avulsas</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfis</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferências…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Dicas</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Novidades</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Avaliar o Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Suporte</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-mail ao desenvolvedor</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Sair do Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Ocultar o Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Colar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Clique para gravar um atalho</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Digite o atalho</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Usar o antigo</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Excluir o atalho</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espaço</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>A combinação de teclas “%@” não pode ser usada!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>A combinação de teclas “%@” não pode ser usada porque já é um atalho de teclado do sistema. Se quiser mesmo usá-la, a maioria dos atalhos pode ser alterada no painel Teclado das configurações do sistema.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>A combinação de teclas “%@” não pode ser usada porque o item de menu “%@” já a usa.</translation>
+    </message>
+</context>
+</TS>

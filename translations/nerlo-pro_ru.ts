@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Пробелы и табуляция</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Буквы и кавычки</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Маркеры, теги, шаблон</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Десять замен</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Поиск и замена</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Статистика</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Поиск параметров</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Введите слово, чтобы найти все связанные с ним параметры.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Нет параметров, связанных с «%@».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Страницы</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Параметры</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Профиль</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Используемый набор параметров. Переключить его можно и в меню в системном лотке.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Добавить профиль</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Добавляет профиль, в котором все параметры выключены.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Удалить профиль</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Удаляет выбранный профиль после подтверждения.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Введите имя нового профиля и нажмите OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Удалить этот профиль?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Профиль: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel исключён</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>При включённом параметре «Автоматически очищать форматирование»</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Комбинация клавиш: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Комбинация клавиш, которая действует во всех приложениях.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Система отклонила эту комбинацию клавиш. Возможно, её использует другая программа.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Эта рабочая среда не предоставляет программам комбинации клавиш. Назначьте комбинацию команде «%@» в её собственных настройках.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>В этой рабочей среде нет системного лотка, поэтому это окно открывается при каждом запуске.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Запускать при входе в систему</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Запускать Nerlo Pro при входе в систему</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>До: вы запускаете Nerlo Pro сами.
+После: программа уже работает после входа в систему.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Показывать в системном лотке</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>До: Nerlo Pro есть на панели задач.
+После: значок с меню в системном лотке.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Работать в фоне</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>До: значок в лотке или кнопка на панели задач.
+После: ни того, ни другого. Повторный запуск Nerlo Pro открывает это окно.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Поверх других окон</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>До: другие окна могут закрыть это.
+После: это окно остаётся поверх них.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Автоматически очищать форматирование</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>До: вы сами решаете, когда очищать буфер обмена.
+После: всё скопированное очищается само.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Кроме копий из Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>До: скопированные ячейки становятся простым текстом.
+После: ячейки электронной таблицы остаются как есть.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Очистить форматирование в буфере обмена</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>До: «Привет·····мир», жирный
+После: «Привет·мир», простой</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Очистка</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Окно и запуск</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Сортировать строки</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>До: яблоко↵груша
+После: груша↵яблоко</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Порядок</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>До (A-Z): груша↵яблоко
+После (Z-A): яблоко↵груша</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Элементы заканчиваются на</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>До (Перевод строки): b,a
+После («,»): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Свой разделитель</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>До: b/a
+После, с /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Удалить повторяющиеся строки</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>До: чай↵чай↵молоко
+После: чай↵молоко</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Элементы заканчиваются на</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>До (Перевод строки): a,a
+После («,»): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Свой разделитель</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>До: a/a
+После, с /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Показывать статистику после очистки</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>До: неизвестно, что было скопировано.
+После: небольшое окно считает символы, пробелы, слова и абзацы.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Закрывать автоматически</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>До: окно видно, пока вы его не щёлкнете.
+После: оно закрывается через несколько секунд.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Секунды</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Сколько времени видно окно.
+До, с 3: три секунды
+После, с 10: десять секунд</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Расположение</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>До (У указателя мыши): у указателя
+После (Вверху справа): в этом углу экрана</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Несколько пробелов в один</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>До: a····b
+После: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Несколько табуляций в одну</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>До: a⇥⇥⇥b
+После: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Преобразовать табуляции и четыре пробела</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>До: ⇥a
+После: ····a, или наоборот</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>До (Табуляцию в 4 пробела): ⇥a
+После: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Преобразовать три точки и многоточие</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>До: Постойте...
+После: Постойте…, или наоборот</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>До (3 точки в многоточие): Постойте...
+После: Постойте…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Удалить пробел перед точкой</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>До: Конец·.
+После: Конец.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Удалить пробелы вокруг табуляций</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>До: a·⇥·b
+После: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Удалить пробелы вокруг переводов строки</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>До: один·↵·два
+После: один↵два</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Удалить все пробелы</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>До: a·b·c
+После: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Удалить все табуляции</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>До: a⇥b⇥c
+После: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Пробелы, табуляции и переводы строки в один пробел</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>До: a·⇥·b↵c
+После: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Удалить переносы в конце строк</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>До: пере-↵нос
+После: перенос</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Удалить все дефисы, тире и знаки минус</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>До: кое-что
+После: коечто</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Добавить префикс</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>До: текст
+После, с «&gt; »: &gt; текст</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Префикс</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>До: текст
+После, с «&gt; »: &gt; текст</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Добавить суффикс</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>До: текст
+После, с «!»: текст!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Суффикс</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>До: текст
+После, с «!»: текст!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Соединить неверно разорванные строки</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>До: Эта строка была↵разорвана посередине.
+После: Эта строка была·разорвана посередине.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Строки соединяются через</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>До (ничего): a↵b превращается в ab
+После (пробел): a↵b превращается в a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Изменить переводы строки</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>До: один↵↵↵два
+После (один перевод строки): один↵два</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Переводы строки становятся</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>До (один перевод строки): один↵два
+После (пробел): один·два</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Первый свой текст</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>До: один↵два
+После, с «- »: один↵- два</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Второй свой текст</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>До: один
+После, с [b] и [/b]: [b]один[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Обрезать пробелы по краям текста</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>До: ··текст··
+После: текст</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Изменить регистр букв</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>До: ПРИВЕТ. ТЫ.
+После (как в предложениях): Привет. Ты.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Регистр</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>До (ПРОПИСНЫЕ): ПРИВЕТ
+После (строчные): привет</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Изменить кавычки</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>До: ‘текст’
+После (одинарные в двойные): “текст”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>До (одинарные в двойные): ‘текст’
+После: “текст”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Одинарные</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>До: &apos;текст&apos;
+После, с ‚…‘: ‚текст‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Двойные</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>До: &quot;текст&quot;
+После, с „…“: „текст“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Кавычки всех видов</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>До: «текст» остаётся как есть.
+После: «текст» тоже меняется.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Удалить одинарные кавычки</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>До: ‘текст’
+После: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Одинарные всех видов</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>До: ‹текст› остаётся как есть.
+После: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Удалить двойные кавычки</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>До: “текст”
+После: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Двойные всех видов</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>До: «текст» остаётся как есть.
+После: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Удалить маркеры списков</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>До: •·молоко↵•·хлеб
+После: молоко↵хлеб</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Удалить знаки цитирования</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>До: &gt;·&gt;·Привет
+После: Привет</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Удалить теги HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>До: &lt;b&gt;жирный&lt;/b&gt;
+После: жирный</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>И скрипты</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>До: текст внутри &lt;script&gt; остаётся.
+После: он исчезает вместе с тегом.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Применить свой шаблон</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>До, с [0-9]: a1b2
+После (удалить): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Регулярное выражение.
+До, с [0-9]: a1b2
+После (удалить): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Совпадения</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>До (удалить [0-9]): a1b2 превращается в ab
+После (найти [0-9]): a1b2 превращается в 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Пробелы, табуляции и переводы строки в один пробел</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Замена 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Замена 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Замена 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Замена 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Замена 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Замена 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Замена 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Замена 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Замена 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Замена 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>До: ёлка
+После, с «ёлка» и «елка»: елка</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Искомый текст.
+До: ёлка
+После, с «ёлка» и «елка»: елка</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Заменить на</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>То, что встанет на его место; если пусто, текст удаляется.
+До: ёлка
+После, с «ёлка» и «елка»: елка</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Отступ</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Тег</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Свой</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Применить список замен</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>До: г-н Иванов
+После, с г-н → господин: господин Иванов</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Один список для всех профилей</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>До: у каждого профиля свой список.
+После: у всех профилей один общий список.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Правила, от первого до последнего</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Правила применяются сверху вниз. Чтобы переместить правило, перетащите его или нажмите Alt+Вверх и Alt+Вниз.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Заменить на</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Начните с {search}, чтобы оставить только найденное по шаблону, или с {delete}, чтобы удалить его.
+До, с [0-9] и {search}#: a1b2
+После: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Добавить правило</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Добавляет правило в конец списка.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Удалить правило</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Удаляет выбранное правило.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Перемещает выбранное правило вверх, чтобы оно применялось раньше.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Перемещает выбранное правило вниз, чтобы оно применялось позже.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Новое правило</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Выберите правило, которое нужно удалить</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Выберите правило</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Текст замены</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Обратный</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Случайный</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Перевод строки</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Внизу слева</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Внизу справа</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Вверху слева</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Вверху справа</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>По центру</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>У указателя мыши</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Табуляцию в 4 пробела, 4 пробела в табуляцию</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 точки в многоточие, Многоточие в 3 точки</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>ничего, пробел</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>ничего, один перевод строки, два перевода строки, пробел, перевод строки и пробел, перевод строки и табуляция, перевод строки и свой текст, абзацы HTML, теги рисунков HTML, свой текст вокруг строк</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>как в предложениях, Каждое Слово С Прописной, строчные, ПРОПИСНЫЕ</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>одинарные в двойные, двойные в одинарные</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>удалить, найти</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Просмотр</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Показывает, что делают параметры. Ничего не попадёт в буфер обмена, пока вы этого не попросите.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>До</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Введите или вставьте сюда любой текст, чтобы испытать на нём параметры.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>После</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Текст после очистки. Изменения отмечены.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Введите текст или возьмите его из буфера обмена</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Взять из буфера обмена</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Копирует текст из буфера обмена в просмотр.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Очистить буфер обмена</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Сейчас же очищает текст в буфере обмена с этими параметрами.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Текст слишком длинный для просмотра; показано только его начало.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>В буфере обмена нет текста.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Дорогой  читатель .
+
+&gt;  Эта строка была
+&gt;  разорвана посередине.
+
+•  &apos;молоко&apos;
+•  &apos;хлеб&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Символы</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Пробелы</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Абзацы</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Статистика</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Щёлкните, чтобы закрыть</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Советы</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Начать</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Совет %1 из %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Показывать советы при каждом запуске</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>До: советы открываются только из меню.
+После: они открываются при каждом запуске Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Что нового в Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Показать советы</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Скопировали — и чисто</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro живёт в системном лотке. Он превращает скопированное в чистый простой текст: без лишних пробелов, разорванных строк и форматирования.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>Вручную или само</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Выберите в меню «Очистить форматирование в буфере обмена», нажмите комбинацию клавиш или включите «Автоматически очищать форматирование», чтобы очищалось всё скопированное.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Сначала увидеть, потом очистить</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Окно параметров показывает текст до и после. Отметьте параметр и посмотрите, что он делает; буфер обмена остаётся как есть.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Профиль для каждого дела</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Один набор параметров для почты, другой для кода. Переключайте их в меню в системном лотке.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Ваши правила</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>Список замен применяет ваши правила по порядку. Перетащите правило, чтобы переместить его; шаблоны тоже работают.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Ничего не теряется</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>«Вернуть оригинал» в меню возвращает в буфер обмена то, что там было, вместе с форматированием.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Правило %1 из %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro — очищается всё скопированное</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro — здесь что-то не работает</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Очищает текст в буфере обмена.
+Версия %1
+Лицензия MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Нет оригинала, который можно вернуть.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Буфер обмена изменился, поэтому оригинал не возвращён.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Очистить форматирование в буфере обмена</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Автоматически очищать форматирование</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Кроме копий из Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Вернуть оригинал</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Отдельные операции</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Профили</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Параметры…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Советы</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Что нового</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Оценить Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Поддержка</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>Написать разработчику</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Завершить Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Скрыть Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Правка</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Вырезать</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Щёлкните, чтобы записать комбинацию</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Нажмите комбинацию</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Оставить прежнюю</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Удалить комбинацию клавиш</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>Комбинацию клавиш «%@» использовать нельзя!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>Комбинацию клавиш «%@» использовать нельзя, потому что она уже занята системной комбинацией. Если вам нужна именно она, большинство комбинаций можно изменить в разделе «Клавиатура» системных параметров.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>Комбинацию клавиш «%@» использовать нельзя, потому что она уже занята пунктом меню «%@».</translation>
+    </message>
+</context>
+</TS>

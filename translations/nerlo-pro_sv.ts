@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv_SE" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Inställningar</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Allmänt</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Blanksteg och tabbar</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Rader</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Bokstäver och citat</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Punkter, taggar, mönster</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Tio ersättningar</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Sök och ersätt</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Sök alternativ</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Skriv ett ord för att hitta alla alternativ som har med det att göra.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Inget alternativ har med ”%@” att göra.</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Sidor</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Alternativ</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Den uppsättning alternativ som används. Den kan också bytas i menyn i systemfältet.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Lägg till profil</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Lägger till en profil där alla alternativ är avstängda.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Ta bort profil</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Tar bort den valda profilen, efter en fråga.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Ange namnet på den nya profilen och klicka på OK</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Vill du ta bort den här profilen?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Profil: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nej</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Namn</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel undantaget</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>Med alternativet ”Rensa formatering automatiskt”</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Genväg: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>En genväg som fungerar i alla program.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Systemet nekade genvägen. Ett annat program kanske använder den.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Den här skrivbordsmiljön erbjuder inte program några genvägar. Bind kommandot ”%@” i dess egna inställningar.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>Den här skrivbordsmiljön visar inget systemfält, så det här fönstret öppnas vid varje start.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Starta vid inloggning</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Starta Nerlo Pro vid inloggning</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>Före: du startar Nerlo Pro för hand.
+Efter: det finns där när du har loggat in.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Visa i systemfältet</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>Före: Nerlo Pro har en post i aktivitetsfältet.
+Efter: det har en ikon med meny i systemfältet.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Kör i bakgrunden</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>Före: ikon i systemfältet eller post i aktivitetsfältet.
+Efter: ingetdera. Startas Nerlo Pro igen öppnas det här fönstret.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Håll överst</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>Före: andra fönster kan täcka det här.
+Efter: det här fönstret ligger ovanför dem.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Rensa formatering automatiskt</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>Före: du väljer när urklipp ska rensas.
+Efter: varje kopia rensas av sig själv.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Utom kopior från Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>Före: celler som du kopierar blir oformaterad text.
+Efter: celler från ett kalkylblad förblir som de är.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Rensa formatering från urklipp</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>Före: ”Hej·····världen”, fet
+Efter: ”Hej·världen”, enkel</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Rensning</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Fönster och start</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Sortera rader</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>Före: äpple↵päron
+Efter: päron↵äpple</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Ordning</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>Före (A-Z): päron↵äpple
+Efter (Z-A): äpple↵päron</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Poster slutar med</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>Före (Radbrytning): b,a
+Efter (”,”): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Egen avgränsare</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>Före: b/a
+Efter, med /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Ta bort dubblettrader</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>Före: te↵te↵mjölk
+Efter: te↵mjölk</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Poster slutar med</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>Före (Radbrytning): a,a
+Efter (”,”): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Egen avgränsare</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>Före: a/a
+Efter, med /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Visa statistik efter en rensning</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>Före: inget talar om vad som kopierades.
+Efter: ett litet fönster räknar tecken, blanksteg, ord och stycken.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Stäng av sig själv</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>Före: fönstret ligger kvar tills du klickar på det.
+Efter: det stängs efter några sekunder.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Sekunder</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Hur länge fönstret visas.
+Före, med 3: tre sekunder
+Efter, med 10: tio sekunder</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Placering</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>Före (Vid muspekaren): vid muspekaren
+Efter (Uppe till höger): i det hörnet av skärmen</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Flera blanksteg till ett</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>Före: a····b
+Efter: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Flera tabbar till en</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>Före: a⇥⇥⇥b
+Efter: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Omvandla tabbar och fyra blanksteg</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>Före: ⇥a
+Efter: ····a, eller tvärtom</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Riktning</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>Före (Tabb till 4 blanksteg): ⇥a
+Efter: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Omvandla tre punkter och uteslutningstecken</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>Före: Vänta...
+Efter: Vänta…, eller tvärtom</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Riktning</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>Före (3 punkter till uteslutningstecken): Vänta...
+Efter: Vänta…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Ta bort blanksteg före en punkt</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>Före: Slut·.
+Efter: Slut.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Ta bort blanksteg runt tabbar</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>Före: a·⇥·b
+Efter: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Ta bort blanksteg runt radbrytningar</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>Före: ett·↵·två
+Efter: ett↵två</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Ta bort alla blanksteg</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>Före: a·b·c
+Efter: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Ta bort alla tabbar</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>Före: a⇥b⇥c
+Efter: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Blanksteg, tabbar och radbrytningar till ett blanksteg</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>Före: a·⇥·b↵c
+Efter: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Ta bort bindestreck vid radslut</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>Före: av-↵stavning
+Efter: avstavning</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Ta bort alla bindestreck, tankstreck och minustecken</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>Före: e-post
+Efter: epost</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Lägg till ett prefix</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>Före: text
+Efter, med ”&gt; ”: &gt; text</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Prefix</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>Före: text
+Efter, med ”&gt; ”: &gt; text</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Lägg till ett suffix</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>Före: text
+Efter, med ”!”: text!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Suffix</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>Före: text
+Efter, med ”!”: text!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>Foga ihop felbrutna rader</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>Före: Den här raden blev↵bruten på mitten.
+Efter: Den här raden blev·bruten på mitten.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Raderna fogas ihop med</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>Före (inget): a↵b blir ab
+Efter (blanksteg): a↵b blir a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Ändra radbrytningar</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>Före: ett↵↵↵två
+Efter (en radbrytning): ett↵två</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Radbrytningar blir</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>Före (en radbrytning): ett↵två
+Efter (blanksteg): ett·två</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Första egna texten</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>Före: ett↵två
+Efter, med ”- ”: ett↵- två</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Andra egna texten</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>Före: ett
+Efter, med [b] och [/b]: [b]ett[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Trimma textens båda ändar</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>Före: ··text··
+Efter: text</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Ändra skiftläge</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>Före: HEJ. DU.
+Efter (Som i meningar): Hej. Du.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Skiftläge</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>Före (VERSALER): HEJ
+Efter (gemener): hej</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Ändra citattecken</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>Före: ‘text’
+Efter (enkla till dubbla): “text”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Riktning</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>Före (enkla till dubbla): ‘text’
+Efter: “text”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Enkla tecken</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>Före: &apos;text&apos;
+Efter, med ‚…‘: ‚text‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Dubbla tecken</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>Före: &quot;text&quot;
+Efter, med „…“: „text“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Tecken av alla slag</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>Före: «text» förblir som det är.
+Efter: «text» ändras också.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Ta bort enkla citattecken</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>Före: ‘text’
+Efter: text</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Enkla av alla slag</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>Före: ‹text› förblir som det är.
+Efter: text</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Ta bort dubbla citattecken</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>Före: “text”
+Efter: text</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Dubbla av alla slag</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>Före: «text» förblir som det är.
+Efter: text</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Ta bort punkttecken</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>Före: •·mjölk↵•·bröd
+Efter: mjölk↵bröd</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Ta bort svarstecken</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>Före: &gt;·&gt;·Hej
+Efter: Hej</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Ta bort HTML-taggar</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>Före: &lt;b&gt;fet&lt;/b&gt;
+Efter: fet</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>Även skript</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>Före: texten i ett &lt;script&gt; blir kvar.
+Efter: den försvinner med sin tagg.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Använd ett eget mönster</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>Före, med [0-9]: a1b2
+Efter (ta bort): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Mönster</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Ett reguljärt uttryck.
+Före, med [0-9]: a1b2
+Efter (ta bort): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Träffar</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>Före (ta bort [0-9]): a1b2 blir ab
+Efter (sök [0-9]): a1b2 blir 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Blanksteg, tabbar och radbrytningar till ett blanksteg</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Ersättning 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Ersättning 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Ersättning 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Ersättning 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Ersättning 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Ersättning 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Ersättning 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Ersättning 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Ersättning 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Ersättning 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>Före: mejl
+Efter, med ”mejl” och ”e-post”: e-post</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Sök</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Texten som ska sökas.
+Före: mejl
+Efter, med ”mejl” och ”e-post”: e-post</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Ersätt med</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Det som kommer i dess ställe; tomt tar bort texten.
+Före: mejl
+Efter, med ”mejl” och ”e-post”: e-post</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Indrag</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Tagg</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Egen</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Använd listan för sök och ersätt</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>Före: Hr Svensson
+Efter, med Hr → Herr: Herr Svensson</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>En lista för alla profiler</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>Före: varje profil har en egen lista.
+Efter: alla profiler delar en lista.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Regler, från första till sista</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Reglerna används uppifrån och ned. Dra en regel, eller tryck Alt+Upp och Alt+Ned, för att flytta den.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Sök</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Ersätt med</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Börja med {search} för att bara behålla det som mönstret hittar, eller {delete} för att ta bort det.
+Före, med [0-9] och {search}#: a1b2
+Efter: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Lägg till en regel</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Lägger till en regel sist i listan.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Ta bort regeln</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Tar bort den valda regeln.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Flytta upp</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Flyttar den valda regeln uppåt, så att den används tidigare.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Flytta ned</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Flyttar den valda regeln nedåt, så att den används senare.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Ny regel</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Välj regeln som ska tas bort</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Välj en regel</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Ersättningstext</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Omvänd</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Slumpmässig</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Radbrytning</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Nere till vänster</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Nere till höger</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Uppe till vänster</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Uppe till höger</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitten</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Vid muspekaren</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Tabb till 4 blanksteg, 4 blanksteg till tabb</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 punkter till uteslutningstecken, Uteslutningstecken till 3 punkter</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>inget, blanksteg</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>inget, en radbrytning, två radbrytningar, blanksteg, radbrytning och blanksteg, radbrytning och tabb, radbrytning och egen text, HTML-stycken, HTML-bildtaggar, egen text runt raderna</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Som i meningar, Stor Bokstav I Varje Ord, gemener, VERSALER</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>enkla till dubbla, dubbla till enkla</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>ta bort, sök</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Förhandsvisning</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Visar vad alternativen gör. Inget hamnar i urklipp förrän du ber om det.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>Före</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Skriv eller klistra in en text här för att prova alternativen på den.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Efter</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Texten som alternativen rensar den. Det som ändrats är markerat.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Skriv en text, eller ta den i urklipp</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Ta från urklipp</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Kopierar texten i urklipp till förhandsvisningen.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Rensa urklipp</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Rensar texten i urklipp med de här alternativen, nu.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Texten är för lång för förhandsvisningen; bara början visas.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>Det finns ingen text i urklipp.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Bästa  läsare .
+
+&gt;  Den här raden blev
+&gt;  bruten på mitten.
+
+•  &apos;mjölk&apos;
+•  &apos;bröd&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Tecken</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Blanksteg</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Ord</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Stycken</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Klicka för att stänga</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Tips</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Föregående</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Nästa</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Börja</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Tips %1 av %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Visa tipsen vid varje start</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>Före: tipsen öppnas bara från menyn.
+Efter: de öppnas varje gång Nerlo Pro startar.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Nyheter i Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Visa tipsen</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Kopiera, och det är rent</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro bor i systemfältet. Det gör det du kopierar till ren, oformaterad text: inga överflödiga blanksteg, inga brutna rader, ingen formatering.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>För hand eller av sig självt</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Välj ”Rensa formatering från urklipp” i menyn, tryck på genvägen, eller låt ”Rensa formatering automatiskt” rensa varje kopia.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Se innan du rensar</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Inställningarna visar en text före och efter. Kryssa för ett alternativ och se vad det gör; urklipp förblir som det är.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>En profil för varje uppgift</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Ha en uppsättning alternativ för e-post och en annan för kod. Växla mellan dem i menyn i systemfältet.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Dina egna regler</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>Listan för sök och ersätt använder dina regler i ordning. Dra en regel för att flytta den; mönster fungerar också.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Inget går förlorat</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>”Återställ originalet” i menyn lägger tillbaka det som fanns i urklipp tidigare, med sin formatering.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Meny</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Regel %1 av %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – rensar varje kopia</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – något fungerar inte här</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Rensar texten i urklipp.
+Version %1
+MIT-licens</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Det finns inget original att återställa.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Urklipp har ändrats, så originalet återställdes inte.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Rensa formatering från urklipp</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Rensa formatering automatiskt</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Utom kopior från Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Återställ originalet</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Enskilda åtgärder</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profiler</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Inställningar…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Tips</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Nyheter</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Betygsätt Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>E-post till utvecklaren</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Om</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Avsluta Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Dölj Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Töm</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Redigera</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ångra</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Gör om</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Klipp ut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiera</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Klistra in</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Ta bort</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Markera allt</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hjälp</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Klicka för att spela in en genväg</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Tryck genvägen</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Använd den gamla</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Ta bort genvägen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Blanksteg</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>Tangentkombinationen ”%@” kan inte användas!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>Tangentkombinationen ”%@” kan inte användas eftersom den redan är en tangentbordsgenväg i hela systemet. Om du verkligen vill använda den kan de flesta genvägar ändras i panelen Tangentbord i systeminställningarna.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>Tangentkombinationen ”%@” kan inte användas eftersom den redan används av menyposten ”%@”.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="uk_UA" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>Параметри</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>Загальні</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>Пробіли й табуляція</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>Рядки</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>Літери й лапки</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>Маркери, теги, шаблон</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>Десять замін</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>Пошук і заміна</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>Статистика</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>Пошук параметрів</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>Введіть слово, щоб знайти всі пов’язані з ним параметри.</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>Немає параметрів, пов’язаних із «%@».</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>Сторінки</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>Параметри</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>Профіль</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>Набір параметрів, який використовується. Його можна перемкнути й у меню системного лотка.</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>Додати профіль</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>Додає профіль, у якому всі параметри вимкнено.</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>Вилучити профіль</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>Вилучає вибраний профіль після підтвердження.</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>Введіть назву нового профілю й натисніть «Гаразд»</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>Вилучити цей профіль?</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>Профіль: %@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Так</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Ні</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Гаразд</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>Назва</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>Excel виключено</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>З увімкненим параметром «Автоматично очищати форматування»</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>Комбінація клавіш: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>Комбінація клавіш, що діє в усіх програмах.</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>Система відхилила цю комбінацію клавіш. Можливо, її використовує інша програма.</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>Це середовище не надає програмам комбінацій клавіш. Призначте комбінацію команді «%@» у його власних параметрах.</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>У цьому середовищі немає системного лотка, тому це вікно відкривається під час кожного запуску.</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>Запускати під час входу до системи</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>Запускати Nerlo Pro під час входу до системи</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>До: ви запускаєте Nerlo Pro самі.
+Після: програма вже працює після входу до системи.</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>Показувати в системному лотку</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>До: Nerlo Pro є на панелі завдань.
+Після: значок із меню в системному лотку.</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>Працювати у тлі</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>До: значок у лотку або кнопка на панелі завдань.
+Після: ні того, ні іншого. Повторний запуск Nerlo Pro відкриває це вікно.</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>Поверх інших вікон</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>До: інші вікна можуть перекрити це.
+Після: це вікно лишається поверх них.</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>Автоматично очищати форматування</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>До: ви самі вирішуєте, коли очищати буфер обміну.
+Після: усе скопійоване очищається саме.</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>Крім копій з Excel</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>До: скопійовані комірки стають простим текстом.
+Після: комірки електронної таблиці лишаються як є.</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>Очистити форматування в буфері обміну</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>До: «Привіт·····світе», жирний
+Після: «Привіт·світе», простий</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>Очищення</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>Вікно й запуск</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>Упорядкувати рядки</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>До: яблуко↵груша
+Після: груша↵яблуко</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>Порядок</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>До (A-Z): груша↵яблуко
+Після (Z-A): яблуко↵груша</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>Елементи закінчуються на</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>До (Розрив рядка): b,a
+Після («,»): a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>Власний роздільник</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>До: b/a
+Після, з /: a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>Вилучити повторювані рядки</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>До: чай↵чай↵молоко
+Після: чай↵молоко</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>Елементи закінчуються на</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>До (Розрив рядка): a,a
+Після («,»): a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>Власний роздільник</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>До: a/a
+Після, з /: a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>Показувати статистику після очищення</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>До: невідомо, що було скопійовано.
+Після: невелике вікно рахує символи, пробіли, слова й абзаци.</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>Закривати автоматично</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>До: вікно видно, доки ви його не клацнете.
+Після: воно закривається за кілька секунд.</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>Секунди</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>Скільки часу видно вікно.
+До, з 3: три секунди
+Після, з 10: десять секунд</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>Розташування</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>До (Біля вказівника): біля вказівника
+Після (Вгорі праворуч): у цьому куті екрана</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>Кілька пробілів в один</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>До: a····b
+Після: a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>Кілька табуляцій в одну</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>До: a⇥⇥⇥b
+Після: a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>Перетворити табуляції й чотири пробіли</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>До: ⇥a
+Після: ····a, або навпаки</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>Напрямок</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>До (Табуляцію в 4 пробіли): ⇥a
+Після: ····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>Перетворити «...» і «…»</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>До: Зачекайте...
+Після: Зачекайте…, або навпаки</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>Напрямок</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>До («...» на «…»): Зачекайте...
+Після: Зачекайте…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>Вилучити пробіл перед крапкою</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>До: Кінець·.
+Після: Кінець.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>Вилучити пробіли навколо табуляцій</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>До: a·⇥·b
+Після: a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>Вилучити пробіли навколо розривів рядка</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>До: один·↵·два
+Після: один↵два</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>Вилучити всі пробіли</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>До: a·b·c
+Після: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>Вилучити всі табуляції</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>До: a⇥b⇥c
+Після: abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>Пробіли, табуляції й розриви рядка в один пробіл</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>До: a·⇥·b↵c
+Після: a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>Вилучити переноси в кінці рядків</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>До: пере-↵нос
+Після: перенос</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>Вилучити всі дефіси, тире й знаки мінус</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>До: будь-що
+Після: будьщо</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>Додати префікс</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>До: текст
+Після, з «&gt; »: &gt; текст</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>Префікс</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>До: текст
+Після, з «&gt; »: &gt; текст</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>Додати суфікс</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>До: текст
+Після, з «!»: текст!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>Суфікс</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>До: текст
+Після, з «!»: текст!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>З’єднати неправильно розірвані рядки</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>До: Цей рядок було↵розірвано посередині.
+Після: Цей рядок було·розірвано посередині.</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>Рядки з’єднуються через</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>До (нічого): a↵b стає ab
+Після (пробіл): a↵b стає a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>Змінити розриви рядка</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>До: один↵↵↵два
+Після (один розрив рядка): один↵два</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>Розриви рядка стають</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>До (один розрив рядка): один↵два
+Після (пробіл): один·два</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>Перший власний текст</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>До: один↵два
+Після, з «- »: один↵- два</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>Другий власний текст</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>До: один
+Після, з [b] і [/b]: [b]один[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>Обрізати пробіли з країв тексту</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>До: ··текст··
+Після: текст</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>Змінити регістр літер</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>До: ПРИВІТ. ТИ.
+Після (як у реченнях): Привіт. Ти.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>Регістр</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>До (ВЕЛИКІ ЛІТЕРИ): ПРИВІТ
+Після (малі літери): привіт</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>Змінити лапки</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>До: ‘текст’
+Після (одинарні в подвійні): “текст”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>Напрямок</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>До (одинарні в подвійні): ‘текст’
+Після: “текст”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>Одинарні</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>До: &apos;текст&apos;
+Після, з ‚…‘: ‚текст‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>Подвійні</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>До: &quot;текст&quot;
+Після, з „…“: „текст“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>Лапки всіх видів</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>До: «текст» лишається як є.
+Після: «текст» теж змінюється.</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>Вилучити одинарні лапки</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>До: ‘текст’
+Після: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>Одинарні всіх видів</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>До: ‹текст› лишається як є.
+Після: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>Вилучити подвійні лапки</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>До: “текст”
+Після: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>Подвійні всіх видів</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>До: «текст» лишається як є.
+Після: текст</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>Вилучити маркери списків</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>До: •·молоко↵•·хліб
+Після: молоко↵хліб</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>Вилучити знаки цитування</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>До: &gt;·&gt;·Привіт
+Після: Привіт</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>Вилучити теги HTML</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>До: &lt;b&gt;жирний&lt;/b&gt;
+Після: жирний</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>І скрипти</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>До: текст усередині &lt;script&gt; лишається.
+Після: він зникає разом із тегом.</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>Застосувати власний шаблон</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>До, з [0-9]: a1b2
+Після (вилучити): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>Формальний вираз.
+До, з [0-9]: a1b2
+Після (вилучити): ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>Збіги</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>До (вилучити [0-9]): a1b2 стає ab
+Після (знайти [0-9]): a1b2 стає 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>Пробіли, табуляції й розриви рядка в один пробіл</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>Заміна 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>Заміна 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>Заміна 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>Заміна 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>Заміна 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>Заміна 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>Заміна 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>Заміна 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>Заміна 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>Заміна 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>До: проэкт
+Після, з «проэкт» і «проєкт»: проєкт</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>Знайти</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>Текст, який слід знайти.
+До: проэкт
+Після, з «проэкт» і «проєкт»: проєкт</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>Замінити на</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>Те, що стане на його місце; якщо порожньо, текст вилучається.
+До: проэкт
+Після, з «проэкт» і «проєкт»: проєкт</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>Відступ</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>Тег</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Власний</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>Застосувати список замін</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>До: п. Шевченко
+Після, з п. → пан: пан Шевченко</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>Один список для всіх профілів</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>До: кожен профіль має власний список.
+Після: усі профілі мають спільний список.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>Правила, від першого до останнього</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>Правила застосовуються згори донизу. Щоб перемістити правило, перетягніть його або натисніть Alt+Вгору й Alt+Вниз.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>Знайти</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>Замінити на</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>Почніть з {search}, щоб лишити тільки знайдене за шаблоном, або з {delete}, щоб вилучити його.
+До, з [0-9] і {search}#: a1b2
+Після: 1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>Додати правило</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>Додає правило в кінець списку.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>Вилучити правило</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>Вилучає вибране правило.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>Вгору</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>Переміщує вибране правило вгору, щоб воно застосовувалося раніше.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>Переміщує вибране правило вниз, щоб воно застосовувалося пізніше.</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>Нове правило</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>Виберіть правило, яке слід вилучити</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>Виберіть правило</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>Текст заміни</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Зворотний</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>Випадковий</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Розрив рядка</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Внизу ліворуч</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Внизу праворуч</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Вгорі ліворуч</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Вгорі праворуч</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>По центру</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>Біля вказівника</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>Табуляцію в 4 пробіли, 4 пробіли в табуляцію</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>«...» на «…», «…» на «...»</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>нічого, пробіл</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>нічого, один розрив рядка, два розриви рядка, пробіл, розрив рядка й пробіл, розрив рядка й табуляція, розрив рядка й власний текст, абзаци HTML, теги зображень HTML, власний текст навколо рядків</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>як у реченнях, Кожне Слово З Великої, малі літери, ВЕЛИКІ ЛІТЕРИ</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>одинарні в подвійні, подвійні в одинарні</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>вилучити, знайти</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>Перегляд</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>Показує, що роблять параметри. Ніщо не потрапить до буфера обміну, доки ви цього не попросите.</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>До</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>Введіть або вставте сюди будь-який текст, щоб випробувати на ньому параметри.</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>Після</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>Текст після очищення. Зміни позначено.</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>Введіть текст або візьміть його з буфера обміну</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>Взяти з буфера обміну</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>Копіює текст із буфера обміну до перегляду.</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>Очистити буфер обміну</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>Негайно очищає текст у буфері обміну з цими параметрами.</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>Текст задовгий для перегляду; показано лише його початок.</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>У буфері обміну немає тексту.</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>Шановний  читачу .
+
+&gt;  Цей рядок було
+&gt;  розірвано посередині.
+
+•  &apos;молоко&apos;
+•  &apos;хліб&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>Символи</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>Пробіли</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>Абзаци</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>Статистика</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>Клацніть, щоб закрити</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>Поради</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>Далі</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>Почати</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>Порада %1 з %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>Показувати поради під час кожного запуску</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>До: поради відкриваються лише з меню.
+Після: вони відкриваються під час кожного запуску Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Що нового в Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>Показати поради</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>Скопіювали — і чисто</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro живе в системному лотку. Він перетворює скопійоване на чистий простий текст: без зайвих пробілів, розірваних рядків і форматування.</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>Вручну або саме</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>Виберіть у меню «Очистити форматування в буфері обміну», натисніть комбінацію клавіш або увімкніть «Автоматично очищати форматування», щоб очищалося все скопійоване.</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>Спершу побачити, тоді очистити</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>Вікно параметрів показує текст до й після. Позначте параметр і подивіться, що він робить; буфер обміну лишається як є.</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>Профіль для кожної справи</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>Один набір параметрів для пошти, інший для коду. Перемикайте їх у меню системного лотка.</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>Ваші правила</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>Список замін застосовує ваші правила по черзі. Перетягніть правило, щоб перемістити його; шаблони теж працюють.</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>Ніщо не губиться</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>«Повернути оригінал» у меню повертає до буфера обміну те, що там було, разом із форматуванням.</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>Меню</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>Правило %1 з %2: %3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro — очищається все скопійоване</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro — тут щось не працює</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>Очищає текст у буфері обміну.
+Версія %1
+Ліцензія MIT</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>Немає оригіналу, який можна повернути.</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>Буфер обміну змінився, тому оригінал не повернуто.</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>Очистити форматування в буфері обміну</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>Автоматично очищати форматування</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>Крім копій з Excel</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>Повернути оригінал</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>Окремі операції</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Профілі</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Параметри…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>Поради</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>Що нового</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>Оцінити Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Підтримка</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>Написати розробникові</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Про програму</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>Вийти з Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>Сховати Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистити</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Зміни</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторити</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Вирізати</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копіювати</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Вставити</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Вилучити</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Позначити все</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Довідка</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>Клацніть, щоб записати комбінацію</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>Натисніть комбінацію</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>Лишити попередню</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>Вилучити комбінацію клавіш</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Гаразд</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Пробіл</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>Комбінацію клавіш «%@» використати не можна!</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>Комбінацію клавіш «%@» використати не можна, бо вона вже зайнята системною комбінацією. Якщо вам потрібна саме вона, більшість комбінацій можна змінити в розділі «Клавіатура» системних параметрів.</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>Комбінацію клавіш «%@» використати не можна, бо вона вже зайнята пунктом меню «%@».</translation>
+    </message>
+</context>
+</TS>

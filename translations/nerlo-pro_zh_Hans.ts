@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>空格和制表符</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>字母和引号</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>项目符号、标签、模式</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>十项替换</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>查找和替换</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>搜索选项</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>输入一个词，查找所有相关选项。</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>没有与“%@”相关的选项。</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>当前使用的一组选项。也可在托盘菜单中切换。</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>添加配置</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>添加一个所有选项都关闭的配置。</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>移除配置</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>询问后移除所选配置。</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>输入新配置的名称并单击“确定”</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>要移除此配置吗？</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>配置：%@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>已排除 Excel</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>使用选项“自动清除格式”时</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>快捷键：%@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>在所有应用程序中都有效的快捷键。</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>系统拒绝了此快捷键。可能有其他程序正在使用。</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>此桌面不向程序提供快捷键。请在桌面自己的设置中绑定命令“%@”。</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>此桌面没有托盘，因此每次启动都会打开此窗口。</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>登录时启动</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>登录时启动 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>之前：需要手动启动 Nerlo Pro。
+之后：登录后它已在运行。</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>在托盘中显示</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>之前：Nerlo Pro 显示在任务栏中。
+之后：在托盘中显示带菜单的图标。</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>在后台运行</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>之前：托盘图标或任务栏条目。
+之后：两者都没有。再次启动 Nerlo Pro 会打开此窗口。</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>保持在最前</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>之前：其他窗口可能遮住此窗口。
+之后：此窗口始终在其他窗口之上。</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>自动清除格式</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>之前：由您决定何时清理剪贴板。
+之后：每次复制都会自动清理。</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>从 Excel 复制的除外</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>之前：复制的单元格变成纯文本。
+之后：电子表格的单元格保持不变。</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>清除剪贴板的格式</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>之前：“你好·····世界”，粗体
+之后：“你好·世界”，纯文本</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>清理</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>窗口和启动</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>排序行</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>之前：波↵阿
+之后：阿↵波</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>顺序</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>之前（A-Z）：阿↵波
+之后（Z-A）：波↵阿</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>项目以此结尾</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>之前（换行）：b,a
+之后（“,”）：a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>自定义分隔符</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>之前：b/a
+之后（/）：a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>移除重复行</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>之前：茶↵茶↵牛奶
+之后：茶↵牛奶</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>项目以此结尾</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>之前（换行）：a,a
+之后（“,”）：a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>自定义分隔符</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>之前：a/a
+之后（/）：a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>清理后显示统计</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>之前：不知道复制了什么。
+之后：一个小窗口统计字符、空格、单词和段落。</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>自动关闭</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>之前：窗口一直显示，直到您单击它。
+之后：几秒后自动关闭。</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>秒数</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>窗口显示的时间。
+之前（3）：三秒
+之后（10）：十秒</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>之前（指针位置）：在指针处
+之后（右上）：在屏幕的该角落</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>多个空格合为一个</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>之前：a····b
+之后：a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>多个制表符合为一个</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>之前：a⇥⇥⇥b
+之后：a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>转换制表符和四个空格</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>之前：⇥a
+之后：····a，或反过来</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>之前（制表符转为 4 个空格）：⇥a
+之后：····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>转换三个点和省略号</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>之前：等等...
+之后：等等…，或反过来</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>之前（3 个点转为省略号）：等等...
+之后：等等…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>移除句点前的空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>之前：结束·.
+之后：结束.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>移除制表符两侧的空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>之前：a·⇥·b
+之后：a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>移除换行两侧的空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>之前：一·↵·二
+之后：一↵二</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>移除所有空格</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>之前：a·b·c
+之后：abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>移除所有制表符</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>之前：a⇥b⇥c
+之后：abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>空格、制表符和换行合为一个空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>之前：a·⇥·b↵c
+之后：a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>移除行末连字符</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>之前：hyphen-↵ated
+之后：hyphenated</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>移除所有连字符、破折号和减号</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>之前：well-known
+之后：wellknown</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>添加前缀</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>之前：文本
+之后（“&gt; ”）：&gt; 文本</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>前缀</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>之前：文本
+之后（“&gt; ”）：&gt; 文本</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>添加后缀</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>之前：文本
+之后（“!”）：文本!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>后缀</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>之前：文本
+之后（“!”）：文本!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>重新连接错误断开的行</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>之前：这一行在↵中间断开了。
+之后：这一行在·中间断开了。</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>断行连接方式</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>之前（无）：a↵b → ab
+之后（空格）：a↵b → a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>更改换行</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>之前：一↵↵↵二
+之后（一个换行）：一↵二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>换行变为</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>之前（一个换行）：一↵二
+之后（空格）：一·二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>第一个自定义文本</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>之前：一↵二
+之后（“- ”）：一↵- 二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>第二个自定义文本</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>之前：一
+之后（[b]和[/b]）：[b]一[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>修剪文本两端</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>之前：··文本··
+之后：文本</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>更改字母大小写</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>之前：HELLO. YOU.
+之后（句首大写）：Hello. You.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>大小写</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>之前（大写）：HELLO
+之后（小写）：hello</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>更改引号</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>之前：‘文本’
+之后（单引号转双引号）：“文本”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>之前（单引号转双引号）：‘文本’
+之后：“文本”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>单引号</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>之前：&apos;文本&apos;
+之后（‚…‘）：‚文本‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>双引号</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>之前：&quot;文本&quot;
+之后（„…“）：„文本“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>所有样式的引号</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>之前：«文本» 保持不变。
+之后：«文本» 也会更改。</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>移除单引号</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>之前：‘文本’
+之后：文本</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>所有样式的单引号</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>之前：‹文本› 保持不变。
+之后：文本</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>移除双引号</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>之前：“文本”
+之后：文本</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>所有样式的双引号</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>之前：«文本» 保持不变。
+之后：文本</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>移除项目符号</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>之前：•·牛奶↵•·面包
+之后：牛奶↵面包</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>移除回复标记</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>之前：&gt;·&gt;·你好
+之后：你好</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>移除 HTML 标签</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>之前：&lt;b&gt;粗体&lt;/b&gt;
+之后：粗体</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>包括脚本</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>之前：&lt;script&gt; 中的文本会保留。
+之后：它随标签一起移除。</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>使用自己的模式</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>之前（[0-9]）：a1b2
+之后（删除）：ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>正则表达式。
+之前（[0-9]）：a1b2
+之后（删除）：ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>匹配项</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>之前（删除 [0-9]）：a1b2 → ab
+之后（查找 [0-9]）：a1b2 → 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>空格、制表符和换行合为一个空格</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>替换 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>替换 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>替换 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>替换 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>替换 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>替换 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>替换 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>替换 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>替换 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>替换 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>之前：登陆
+之后（“登陆”和“登录”）：登录</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>要查找的文本。
+之前：登陆
+之后（“登陆”和“登录”）：登录</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>替换为</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>用来替换的文本；留空则删除。
+之前：登陆
+之后（“登陆”和“登录”）：登录</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>缩进</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>应用查找和替换列表</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>之前：Mr Smith
+之后（Mr → Mister）：Mister Smith</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>所有配置共用一个列表</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>之前：每个配置都有自己的列表。
+之后：所有配置共用一个列表。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>规则（从第一条到最后一条）</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>规则从上到下应用。拖动规则，或按 Alt+↑ 和 Alt+↓ 来移动它。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>替换为</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>以 {search} 开头只保留模式找到的内容，以 {delete} 开头则删除它们。
+之前（[0-9]和{search}#）：a1b2
+之后：1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>添加规则</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>在列表末尾添加一条规则。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>删除规则</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>删除所选规则。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>上移所选规则，使其更早应用。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>下移所选规则，使其更晚应用。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>新规则</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>请选择要删除的规则</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>请选择规则</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>替换文本</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>倒序</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>随机</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>换行</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>指针位置</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>制表符转为 4 个空格, 4 个空格转为制表符</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 个点转为省略号, 省略号转为 3 个点</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>无, 空格</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>无, 一个换行, 两个换行, 空格, 换行和空格, 换行和制表符, 换行和自定义文本, HTML 段落, HTML 图像标签, 行两侧的自定义文本</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>句首大写, 单词首字母大写, 小写, 大写</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>单引号转双引号, 双引号转单引号</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>删除, 查找</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>显示选项的效果。在您要求之前，剪贴板不会改变。</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>在此输入或粘贴任意文本来试用选项。</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>按选项清理后的文本。更改之处有标记。</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>输入文本，或从剪贴板取得</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>从剪贴板取得</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>将剪贴板中的文本复制到预览。</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>清理剪贴板</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>立即用这些选项清理剪贴板中的文本。</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>文本太长，预览只显示开头。</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>剪贴板中没有文本。</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>亲爱的  读者 .
+
+&gt;  这一行在
+&gt;  中间断开了。
+
+•  &apos;milk&apos;
+•  &apos;bread&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>字符</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>单词</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>段落</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>统计</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>单击关闭</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>上一条</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>下一条</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>提示 %1 / %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>每次启动时显示提示</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>之前：提示只能从菜单打开。
+之后：每次启动 Nerlo Pro 时都会打开。</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Nerlo Pro 的新功能</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>显示提示</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>复制即干净</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro 位于托盘中。它把您复制的内容变成干净的纯文本：没有多余的空格，没有断行，没有格式。</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>手动或自动</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>在菜单中选择“清除剪贴板的格式”，按其快捷键，或让“自动清除格式”清理每次复制。</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>先看再清理</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>首选项显示文本的前后对比。勾选一个选项看看效果；剪贴板保持不变。</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>每项工作一个配置</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>为邮件保存一组选项，为代码保存另一组。在托盘菜单中切换。</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>您自己的规则</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>查找和替换列表按顺序应用您的规则。拖动即可移动规则；也可使用模式。</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>什么都不会丢失</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>菜单中的“恢复原内容”会恢复剪贴板之前的内容及其格式。</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>规则 %1 / %2：%3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – 正在清理每次复制</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – 有功能无法使用</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>清理剪贴板中的文本。
+版本 %1
+MIT 许可证</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>没有可恢复的原内容。</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>剪贴板已改变，因此未恢复原内容。</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>清除剪贴板的格式</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>自动清除格式</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>从 Excel 复制的除外</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>恢复原内容</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>单项操作</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>首选项…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>新功能</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>评价 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>支持</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>给开发者发邮件</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>退出 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>隐藏 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>单击以录制快捷键</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>请按快捷键</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>使用原快捷键</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>删除快捷键</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>无法使用按键组合“%@”！</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>无法使用按键组合“%@”，因为它已是系统级键盘快捷键。如果您确实要使用它，大多数快捷键可在系统设置的“键盘”面板中更改。</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>无法使用按键组合“%@”，因为菜单项“%@”已在使用。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1324 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW" sourcelanguage="en_US">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>sPreferencesWindowName</source>
+        <translation>偏好設定</translation>
+    </message>
+    <message>
+        <source>sPageGeneral</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>sPageSpaces</source>
+        <translation>空格和定位字元</translation>
+    </message>
+    <message>
+        <source>sPageLines</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>sPageLetters</source>
+        <translation>字母和引號</translation>
+    </message>
+    <message>
+        <source>sPageMarks</source>
+        <translation>項目符號、標籤、樣式</translation>
+    </message>
+    <message>
+        <source>sPageReplace</source>
+        <translation>十項取代</translation>
+    </message>
+    <message>
+        <source>sPageFindReplace</source>
+        <translation>尋找和取代</translation>
+    </message>
+    <message>
+        <source>sPageStatistics</source>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>sSearch</source>
+        <extracomment>Placeholder of the search field.</extracomment>
+        <translation>搜尋選項</translation>
+    </message>
+    <message>
+        <source>sSearchTip</source>
+        <translation>輸入一個詞，尋找所有相關選項。</translation>
+    </message>
+    <message>
+        <source>sSearchNothing</source>
+        <translation>沒有與「%@」相關的選項。</translation>
+    </message>
+    <message>
+        <source>sPages</source>
+        <extracomment>Name of the list of pages, for screen readers.</extracomment>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>sOptions</source>
+        <extracomment>Name of the area with the options, for screen readers.</extracomment>
+        <translation>選項</translation>
+    </message>
+    <message>
+        <source>sProfile</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>sProfileTip</source>
+        <translation>目前使用的一組選項。也可在系統匣選單中切換。</translation>
+    </message>
+    <message>
+        <source>sProfileAdd</source>
+        <translation>新增設定檔</translation>
+    </message>
+    <message>
+        <source>sProfileAddTip</source>
+        <translation>新增一個所有選項都關閉的設定檔。</translation>
+    </message>
+    <message>
+        <source>sProfileRemove</source>
+        <translation>移除設定檔</translation>
+    </message>
+    <message>
+        <source>sProfileRemoveTip</source>
+        <translation>詢問後移除所選的設定檔。</translation>
+    </message>
+    <message>
+        <source>Insert new profile name and click OK</source>
+        <translation>輸入新設定檔的名稱並按一下「確定」</translation>
+    </message>
+    <message>
+        <source>Do you want remove this profile?</source>
+        <translation>要移除此設定檔嗎？</translation>
+    </message>
+    <message>
+        <source>Profile: %@</source>
+        <extracomment>%@ is the profile&apos;s name.</extracomment>
+        <translation>設定檔：%@</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>sClose</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>sProfileName</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Excel disabled</source>
+        <translation>已排除 Excel</translation>
+    </message>
+    <message>
+        <source>With option &quot;Automatically clear formatting&quot;</source>
+        <translation>使用選項「自動清除格式」時</translation>
+    </message>
+    <message>
+        <source>sShortcutOf</source>
+        <extracomment>Name of a shortcut field, for screen readers; %@ is the command.</extracomment>
+        <translation>快捷鍵：%@</translation>
+    </message>
+    <message>
+        <source>sShortcutTip</source>
+        <translation>在所有應用程式中都有效的快捷鍵。</translation>
+    </message>
+    <message>
+        <source>sShortcutRefused</source>
+        <translation>系統拒絕了此快捷鍵。可能有其他程式正在使用。</translation>
+    </message>
+    <message>
+        <source>sShortcutsUnavailable</source>
+        <extracomment>%@ is a command line.</extracomment>
+        <translation>此桌面不提供快捷鍵給程式。請在桌面自己的設定中綁定指令「%@」。</translation>
+    </message>
+    <message>
+        <source>sNoTray</source>
+        <translation>此桌面沒有系統匣，因此每次啟動都會開啟此視窗。</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartup</source>
+        <translation>登入時啟動</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupNerlo</source>
+        <translation>登入時啟動 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sLaunchOnStartupTip</source>
+        <translation>之前：需要手動啟動 Nerlo Pro。
+之後：登入後它已在執行。</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBar</source>
+        <translation>在系統匣中顯示</translation>
+    </message>
+    <message>
+        <source>sShowInMenuBarTip</source>
+        <translation>之前：Nerlo Pro 顯示在工作列中。
+之後：在系統匣中顯示附選單的圖示。</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackground</source>
+        <translation>在背景執行</translation>
+    </message>
+    <message>
+        <source>sRunInTheBackgroundTip</source>
+        <translation>之前：系統匣圖示或工作列項目。
+之後：兩者都沒有。再次啟動 Nerlo Pro 會開啟此視窗。</translation>
+    </message>
+    <message>
+        <source>sStayOnTop</source>
+        <translation>保持在最上層</translation>
+    </message>
+    <message>
+        <source>sStayOnTopTip</source>
+        <translation>之前：其他視窗可能遮住此視窗。
+之後：此視窗一直在其他視窗之上。</translation>
+    </message>
+    <message>
+        <source>sAutomatic</source>
+        <translation>自動清除格式</translation>
+    </message>
+    <message>
+        <source>sAutomaticTip</source>
+        <translation>之前：由您決定何時清理剪貼簿。
+之後：每次複製都會自動清理。</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheet</source>
+        <translation>從 Excel 複製的除外</translation>
+    </message>
+    <message>
+        <source>sExceptSpreadsheetTip</source>
+        <translation>之前：複製的儲存格變成純文字。
+之後：試算表的儲存格保持不變。</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboard</source>
+        <translation>清除剪貼簿的格式</translation>
+    </message>
+    <message>
+        <source>sClearFormatingFromClipboardTip</source>
+        <translation>之前：「你好·····世界」，粗體
+之後：「你好·世界」，純文字</translation>
+    </message>
+    <message>
+        <source>sGroupCleaning</source>
+        <translation>清理</translation>
+    </message>
+    <message>
+        <source>sGroupWindow</source>
+        <translation>視窗和啟動</translation>
+    </message>
+    <message>
+        <source>sSort</source>
+        <translation>排序各行</translation>
+    </message>
+    <message>
+        <source>sSortTip</source>
+        <translation>之前：二↵一
+之後：一↵二</translation>
+    </message>
+    <message>
+        <source>sSortOption</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>sSortOptionTip</source>
+        <translation>之前（A-Z）：一↵二
+之後（Z-A）：二↵一</translation>
+    </message>
+    <message>
+        <source>sSortSeparator</source>
+        <translation>項目以此結尾</translation>
+    </message>
+    <message>
+        <source>sSortSeparatorTip</source>
+        <translation>之前（換行）：b,a
+之後（「,」）：a,b</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparator</source>
+        <translation>自訂分隔符號</translation>
+    </message>
+    <message>
+        <source>sSortCustomSeparatorTip</source>
+        <translation>之前：b/a
+之後（/）：a/b</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLines</source>
+        <translation>移除重複的行</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesTip</source>
+        <translation>之前：茶↵茶↵牛奶
+之後：茶↵牛奶</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparator</source>
+        <translation>項目以此結尾</translation>
+    </message>
+    <message>
+        <source>sRemoveDuplicateLinesSeparatorTip</source>
+        <translation>之前（換行）：a,a
+之後（「,」）：a</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparator</source>
+        <translation>自訂分隔符號</translation>
+    </message>
+    <message>
+        <source>sDuplicatesCustomSeparatorTip</source>
+        <translation>之前：a/a
+之後（/）：a</translation>
+    </message>
+    <message>
+        <source>sStatistics</source>
+        <translation>清理後顯示統計</translation>
+    </message>
+    <message>
+        <source>sStatisticsTip</source>
+        <translation>之前：不知道複製了什麼。
+之後：一個小視窗統計字元、空格、單字和段落。</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcher</source>
+        <translation>自動關閉</translation>
+    </message>
+    <message>
+        <source>sStatisticsDelaySwitcherTip</source>
+        <translation>之前：視窗一直顯示，直到您點選它。
+之後：幾秒後自動關閉。</translation>
+    </message>
+    <message>
+        <source>sStatisticsValue</source>
+        <translation>秒數</translation>
+    </message>
+    <message>
+        <source>sStatisticsValueTip</source>
+        <translation>視窗顯示的時間。
+之前（3）：三秒
+之後（10）：十秒</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPosition</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>sStatisticsDefaultPositionTip</source>
+        <translation>之前（指標位置）：在指標處
+之後（右上）：在螢幕的該角落</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpace</source>
+        <translation>多個空格合為一個</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleSpacesToSingleSpaceTip</source>
+        <translation>之前：a····b
+之後：a·b</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTab</source>
+        <translation>多個定位字元合為一個</translation>
+    </message>
+    <message>
+        <source>sChangeMultipleTabsToSingleTabTip</source>
+        <translation>之前：a⇥⇥⇥b
+之後：a⇥b</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4Spaces</source>
+        <translation>轉換定位字元和四個空格</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesTip</source>
+        <translation>之前：⇥a
+之後：····a，或反過來</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeTabsAnd4SpacesOptionTip</source>
+        <translation>之前（定位字元轉為 4 個空格）：⇥a
+之後：····a</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDots</source>
+        <translation>轉換三個點和刪節號</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsTip</source>
+        <translation>之前：等等...
+之後：等等…，或反過來</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeEllipsisAndDotsOptionTip</source>
+        <translation>之前（3 個點轉為刪節號）：等等...
+之後：等等…</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDot</source>
+        <translation>移除句點前的空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeDotTip</source>
+        <translation>之前：結束·.
+之後：結束.</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTab</source>
+        <translation>移除定位字元兩側的空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterTabTip</source>
+        <translation>之前：a·⇥·b
+之後：a⇥b</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturn</source>
+        <translation>移除換行兩側的空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpaceBeforeAfterReturnTip</source>
+        <translation>之前：一·↵·二
+之後：一↵二</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpaces</source>
+        <translation>移除所有空格</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTip</source>
+        <translation>之前：a·b·c
+之後：abc</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabs</source>
+        <translation>移除所有定位字元</translation>
+    </message>
+    <message>
+        <source>sRemoveAllTabsTip</source>
+        <translation>之前：a⇥b⇥c
+之後：abc</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLines</source>
+        <translation>空格、定位字元和換行合為一個空格</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesTabsAndNewLinesTip</source>
+        <translation>之前：a·⇥·b↵c
+之後：a·b·c</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphens</source>
+        <translation>移除行尾的連字號</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensTip</source>
+        <translation>之前：hyphen-↵ated
+之後：hyphenated</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAll</source>
+        <translation>移除所有連字號、破折號和減號</translation>
+    </message>
+    <message>
+        <source>sRemoveHyphensAllTip</source>
+        <translation>之前：well-known
+之後：wellknown</translation>
+    </message>
+    <message>
+        <source>sAddPrefix</source>
+        <translation>加上前綴</translation>
+    </message>
+    <message>
+        <source>sAddPrefixTip</source>
+        <translation>之前：文字
+之後（「&gt; 」）：&gt; 文字</translation>
+    </message>
+    <message>
+        <source>sPrefixTextField</source>
+        <translation>前綴</translation>
+    </message>
+    <message>
+        <source>sPrefixTextFieldTip</source>
+        <translation>之前：文字
+之後（「&gt; 」）：&gt; 文字</translation>
+    </message>
+    <message>
+        <source>sAddSuffix</source>
+        <translation>加上後綴</translation>
+    </message>
+    <message>
+        <source>sAddSuffixTip</source>
+        <translation>之前：文字
+之後（「!」）：文字!</translation>
+    </message>
+    <message>
+        <source>sSuffixTextField</source>
+        <translation>後綴</translation>
+    </message>
+    <message>
+        <source>sSuffixTextFieldTip</source>
+        <translation>之前：文字
+之後（「!」）：文字!</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsTo</source>
+        <translation>重新連接錯誤斷開的行</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsToTip</source>
+        <translation>之前：這一行在↵中間斷開了。
+之後：這一行在·中間斷開了。</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOption</source>
+        <translation>斷行的連接方式</translation>
+    </message>
+    <message>
+        <source>sChangeWrongInsertedReturnsOptionTip</source>
+        <translation>之前（無）：a↵b → ab
+之後（空格）：a↵b → a·b</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsTo</source>
+        <translation>變更換行</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsToTip</source>
+        <translation>之前：一↵↵↵二
+之後（一個換行）：一↵二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOption</source>
+        <translation>換行變為</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsOptionTip</source>
+        <translation>之前（一個換行）：一↵二
+之後（空格）：一·二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1</source>
+        <translation>第一個自訂文字</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom1Tip</source>
+        <translation>之前：一↵二
+之後（「- 」）：一↵- 二</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2</source>
+        <translation>第二個自訂文字</translation>
+    </message>
+    <message>
+        <source>sChangeReturnsCustom2Tip</source>
+        <translation>之前：一
+之後（[b]和[/b]）：[b]一[/b]</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterText</source>
+        <translation>修剪文字兩端</translation>
+    </message>
+    <message>
+        <source>sRemoveSpacesBeforeAndAfterTextTip</source>
+        <translation>之前：··文字··
+之後：文字</translation>
+    </message>
+    <message>
+        <source>sChangeCaseTo</source>
+        <translation>變更字母大小寫</translation>
+    </message>
+    <message>
+        <source>sChangeCaseToTip</source>
+        <translation>之前：HELLO. YOU.
+之後（句首大寫）：Hello. You.</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOption</source>
+        <translation>大小寫</translation>
+    </message>
+    <message>
+        <source>sChangeCaseOptionTip</source>
+        <translation>之前（大寫）：HELLO
+之後（小寫）：hello</translation>
+    </message>
+    <message>
+        <source>sChangeQuotes</source>
+        <translation>變更引號</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesTip</source>
+        <translation>之前：‘文字’
+之後（單引號轉雙引號）：“文字”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOption</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesOptionTip</source>
+        <translation>之前（單引號轉雙引號）：‘文字’
+之後：“文字”</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOption</source>
+        <translation>單引號</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesSingleOptionTip</source>
+        <translation>之前：&apos;文字&apos;
+之後（‚…‘）：‚文字‘</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOption</source>
+        <translation>雙引號</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesDoubleOptionTip</source>
+        <translation>之前：&quot;文字&quot;
+之後（„…“）：„文字“</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAll</source>
+        <translation>所有樣式的引號</translation>
+    </message>
+    <message>
+        <source>sChangeQuotesAllTip</source>
+        <translation>之前：«文字» 保持不變。
+之後：«文字» 也會變更。</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotes</source>
+        <translation>移除單引號</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesTip</source>
+        <translation>之前：‘文字’
+之後：文字</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAll</source>
+        <translation>所有樣式的單引號</translation>
+    </message>
+    <message>
+        <source>sRemoveSingleQuotesAllTip</source>
+        <translation>之前：‹文字› 保持不變。
+之後：文字</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotes</source>
+        <translation>移除雙引號</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesTip</source>
+        <translation>之前：“文字”
+之後：文字</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAll</source>
+        <translation>所有樣式的雙引號</translation>
+    </message>
+    <message>
+        <source>sRemoveDoubleQuotesAllTip</source>
+        <translation>之前：«文字» 保持不變。
+之後：文字</translation>
+    </message>
+    <message>
+        <source>sRemoveBullets</source>
+        <translation>移除項目符號</translation>
+    </message>
+    <message>
+        <source>sRemoveBulletsTip</source>
+        <translation>之前：•·牛奶↵•·麵包
+之後：牛奶↵麵包</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotes</source>
+        <translation>移除回覆標記</translation>
+    </message>
+    <message>
+        <source>sRemoveReplyQuotesTip</source>
+        <translation>之前：&gt;·&gt;·你好
+之後：你好</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTags</source>
+        <translation>移除 HTML 標籤</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsTip</source>
+        <translation>之前：&lt;b&gt;粗體&lt;/b&gt;
+之後：粗體</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJS</source>
+        <translation>包括指令碼</translation>
+    </message>
+    <message>
+        <source>sRemoveHTMLTagsJSTip</source>
+        <translation>之前：&lt;script&gt; 中的文字會保留。
+之後：它隨標籤一起移除。</translation>
+    </message>
+    <message>
+        <source>sInsertYourPattern</source>
+        <translation>使用自己的樣式</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTip</source>
+        <translation>之前（[0-9]）：a1b2
+之後（刪除）：ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextField</source>
+        <translation>樣式</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternTextFieldTip</source>
+        <translation>正規表示式。
+之前（[0-9]）：a1b2
+之後（刪除）：ab</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOption</source>
+        <translation>符合項目</translation>
+    </message>
+    <message>
+        <source>sInsertYourPatternOptionTip</source>
+        <translation>之前（刪除 [0-9]）：a1b2 → ab
+之後（尋找 [0-9]）：a1b2 → 12</translation>
+    </message>
+    <message>
+        <source>sRemoveAllSpacesTabsAndNewLines</source>
+        <translation>空格、定位字元和換行合為一個空格</translation>
+    </message>
+    <message>
+        <source>sChangeProperty1</source>
+        <translation>取代 1</translation>
+    </message>
+    <message>
+        <source>sChangeProperty2</source>
+        <translation>取代 2</translation>
+    </message>
+    <message>
+        <source>sChangeProperty3</source>
+        <translation>取代 3</translation>
+    </message>
+    <message>
+        <source>sChangeProperty4</source>
+        <translation>取代 4</translation>
+    </message>
+    <message>
+        <source>sChangeProperty5</source>
+        <translation>取代 5</translation>
+    </message>
+    <message>
+        <source>sChangeProperty6</source>
+        <translation>取代 6</translation>
+    </message>
+    <message>
+        <source>sChangeProperty7</source>
+        <translation>取代 7</translation>
+    </message>
+    <message>
+        <source>sChangeProperty8</source>
+        <translation>取代 8</translation>
+    </message>
+    <message>
+        <source>sChangeProperty9</source>
+        <translation>取代 9</translation>
+    </message>
+    <message>
+        <source>sChangeProperty10</source>
+        <translation>取代 10</translation>
+    </message>
+    <message>
+        <source>sChangePropertyTip</source>
+        <translation>之前：登陸
+之後（「登陸」和「登入」）：登入</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextField</source>
+        <translation>尋找</translation>
+    </message>
+    <message>
+        <source>sChangePropertyChangeTextFieldTip</source>
+        <translation>要尋找的文字。
+之前：登陸
+之後（「登陸」和「登入」）：登入</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextField</source>
+        <translation>取代為</translation>
+    </message>
+    <message>
+        <source>sChangePropertyToTextFieldTip</source>
+        <translation>用來取代的文字；留空則刪除。
+之前：登陸
+之後（「登陸」和「登入」）：登入</translation>
+    </message>
+    <message>
+        <source>sIndent</source>
+        <translation>縮排</translation>
+    </message>
+    <message>
+        <source>sTag</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自訂</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBool</source>
+        <translation>套用尋找和取代清單</translation>
+    </message>
+    <message>
+        <source>sFindReplaceBoolTip</source>
+        <translation>之前：Mr Smith
+之後（Mr → Mister）：Mister Smith</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfile</source>
+        <translation>所有設定檔共用一個清單</translation>
+    </message>
+    <message>
+        <source>sOnlyOneProfileTip</source>
+        <translation>之前：每個設定檔都有自己的清單。
+之後：所有設定檔共用一個清單。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceList</source>
+        <translation>規則（從第一條到最後一條）</translation>
+    </message>
+    <message>
+        <source>sFindReplaceListTip</source>
+        <translation>規則從上到下套用。拖曳規則，或按 Alt+↑ 和 Alt+↓ 來移動它。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceColumn</source>
+        <translation>尋找</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWith</source>
+        <translation>取代為</translation>
+    </message>
+    <message>
+        <source>sFindReplaceWithTip</source>
+        <translation>以 {search} 開頭只保留樣式找到的內容，以 {delete} 開頭則刪除它們。
+之前（[0-9]和{search}#）：a1b2
+之後：1#2#</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAdd</source>
+        <translation>新增規則</translation>
+    </message>
+    <message>
+        <source>sFindReplaceAddTip</source>
+        <translation>在清單末尾新增一條規則。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemove</source>
+        <translation>刪除規則</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRemoveTip</source>
+        <translation>刪除所選的規則。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUp</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>sFindReplaceUpTip</source>
+        <translation>上移所選的規則，使其較早套用。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDown</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDownTip</source>
+        <translation>下移所選的規則，使其較晚套用。</translation>
+    </message>
+    <message>
+        <source>sFindReplaceNewItem</source>
+        <translation>新規則</translation>
+    </message>
+    <message>
+        <source>sFindReplaceDelete</source>
+        <translation>請選擇要刪除的規則</translation>
+    </message>
+    <message>
+        <source>sFindReplaceSelect</source>
+        <translation>請選擇規則</translation>
+    </message>
+    <message>
+        <source>sFindReplacePlaceholderString</source>
+        <translation>取代文字</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>反向</translation>
+    </message>
+    <message>
+        <source>Random</source>
+        <translation>隨機</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>換行</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>置中</translation>
+    </message>
+    <message>
+        <source>Cursor position</source>
+        <translation>指標位置</translation>
+    </message>
+    <message>
+        <source>Change tab to 4 spaces, Change 4 spaces to tab</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>定位字元轉為 4 個空格, 4 個空格轉為定位字元</translation>
+    </message>
+    <message>
+        <source>Change 3 dots to ellipsis, Change ellipsis to 3 dots</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>3 個點轉為刪節號, 刪節號轉為 3 個點</translation>
+    </message>
+    <message>
+        <source>none, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>無, 空格</translation>
+    </message>
+    <message>
+        <source>none, single return, double returns, space</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>無, 一個換行, 兩個換行, 空格, 換行和空格, 換行和定位字元, 換行和自訂文字, HTML 段落, HTML 影像標籤, 行兩側的自訂文字</translation>
+    </message>
+    <message>
+        <source>smart capitalized, capitalized, lowercase, uppercase</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>句首大寫, 單字首字母大寫, 小寫, 大寫</translation>
+    </message>
+    <message>
+        <source>single to double, double to single</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>單引號轉雙引號, 雙引號轉單引號</translation>
+    </message>
+    <message>
+        <source>delete, search</source>
+        <extracomment>Keep the number of items, and the “, ” between them.</extracomment>
+        <translation>刪除, 尋找</translation>
+    </message>
+    <message>
+        <source>sPreview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>sPreviewTip</source>
+        <translation>顯示選項的效果。在您要求之前，剪貼簿不會改變。</translation>
+    </message>
+    <message>
+        <source>sPreviewBefore</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>sPreviewBeforeTip</source>
+        <translation>在此輸入或貼上任意文字來試用選項。</translation>
+    </message>
+    <message>
+        <source>sPreviewAfter</source>
+        <translation>之後</translation>
+    </message>
+    <message>
+        <source>sPreviewAfterTip</source>
+        <translation>依選項清理後的文字。變更之處有標記。</translation>
+    </message>
+    <message>
+        <source>sPreviewPlaceholder</source>
+        <translation>輸入文字，或從剪貼簿取得</translation>
+    </message>
+    <message>
+        <source>sPreviewTake</source>
+        <translation>從剪貼簿取得</translation>
+    </message>
+    <message>
+        <source>sPreviewTakeTip</source>
+        <translation>將剪貼簿中的文字複製到預覽。</translation>
+    </message>
+    <message>
+        <source>sPreviewApply</source>
+        <translation>清理剪貼簿</translation>
+    </message>
+    <message>
+        <source>sPreviewApplyTip</source>
+        <translation>立即用這些選項清理剪貼簿中的文字。</translation>
+    </message>
+    <message>
+        <source>sPreviewTooLong</source>
+        <translation>文字太長，預覽只顯示開頭。</translation>
+    </message>
+    <message>
+        <source>sPreviewNothing</source>
+        <translation>剪貼簿中沒有文字。</translation>
+    </message>
+    <message>
+        <source>sPreviewSample</source>
+        <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
+        <translation>親愛的  讀者 .
+
+&gt;  這一行在
+&gt;  中間斷開了。
+
+•  &apos;milk&apos;
+•  &apos;bread&apos;...
+</translation>
+    </message>
+    <message>
+        <source>sChars</source>
+        <translation>字元</translation>
+    </message>
+    <message>
+        <source>sSpaces</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>sWords</source>
+        <translation>單字</translation>
+    </message>
+    <message>
+        <source>sParagraphs</source>
+        <translation>段落</translation>
+    </message>
+    <message>
+        <source>sCountWindow</source>
+        <extracomment>Name of the small window with the counts.</extracomment>
+        <translation>統計</translation>
+    </message>
+    <message>
+        <source>sCountWindowTip</source>
+        <translation>點選以關閉</translation>
+    </message>
+    <message>
+        <source>sTipsWindow</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>sTipsPrevious</source>
+        <translation>上一則</translation>
+    </message>
+    <message>
+        <source>sTipsNext</source>
+        <translation>下一則</translation>
+    </message>
+    <message>
+        <source>sTipsDone</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>sTipsPage</source>
+        <extracomment>%1 and %2 are numbers.</extracomment>
+        <translation>提示 %1 / %2</translation>
+    </message>
+    <message>
+        <source>sTipsAtStart</source>
+        <translation>每次啟動時顯示提示</translation>
+    </message>
+    <message>
+        <source>sTipsAtStartTip</source>
+        <translation>之前：提示只能從選單開啟。
+之後：每次啟動 Nerlo Pro 時都會開啟。</translation>
+    </message>
+    <message>
+        <source>sWhatsNewWindow</source>
+        <translation>Nerlo Pro 的新功能</translation>
+    </message>
+    <message>
+        <source>sWhatsNewTips</source>
+        <translation>顯示提示</translation>
+    </message>
+    <message>
+        <source>sTip1Title</source>
+        <translation>複製即乾淨</translation>
+    </message>
+    <message>
+        <source>sTip1Text</source>
+        <translation>Nerlo Pro 位於系統匣中。它把您複製的內容變成乾淨的純文字：沒有多餘的空格，沒有斷行，沒有格式。</translation>
+    </message>
+    <message>
+        <source>sTip2Title</source>
+        <translation>手動或自動</translation>
+    </message>
+    <message>
+        <source>sTip2Text</source>
+        <translation>在選單中選擇「清除剪貼簿的格式」，按其快捷鍵，或讓「自動清除格式」清理每次複製。</translation>
+    </message>
+    <message>
+        <source>sTip3Title</source>
+        <translation>先看再清理</translation>
+    </message>
+    <message>
+        <source>sTip3Text</source>
+        <translation>偏好設定顯示文字的前後對照。勾選一個選項看看效果；剪貼簿保持不變。</translation>
+    </message>
+    <message>
+        <source>sTip4Title</source>
+        <translation>每項工作一個設定檔</translation>
+    </message>
+    <message>
+        <source>sTip4Text</source>
+        <translation>為郵件保存一組選項，為程式碼保存另一組。在系統匣選單中切換。</translation>
+    </message>
+    <message>
+        <source>sTip5Title</source>
+        <translation>您自己的規則</translation>
+    </message>
+    <message>
+        <source>sTip5Text</source>
+        <translation>尋找和取代清單依序套用您的規則。拖曳即可移動規則；也可使用樣式。</translation>
+    </message>
+    <message>
+        <source>sTip6Title</source>
+        <translation>什麼都不會遺失</translation>
+    </message>
+    <message>
+        <source>sTip6Text</source>
+        <translation>選單中的「還原原內容」會還原剪貼簿之前的內容及其格式。</translation>
+    </message>
+    <message>
+        <source>sTrayMenu</source>
+        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
+        <translation>選單</translation>
+    </message>
+    <message>
+        <source>sFindReplaceRule</source>
+        <extracomment>For screen readers; %3 is the text to find.</extracomment>
+        <translation>規則 %1 / %2：%3</translation>
+    </message>
+    <message>
+        <source>sTrayIdle</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>sTrayAutomatic</source>
+        <translation>Nerlo Pro – 正在清理每次複製</translation>
+    </message>
+    <message>
+        <source>sTrayProblem</source>
+        <translation>Nerlo Pro – 有功能無法使用</translation>
+    </message>
+    <message>
+        <source>sAboutText</source>
+        <extracomment>%1 is the version.</extracomment>
+        <translation>清理剪貼簿中的文字。
+版本 %1
+MIT 授權</translation>
+    </message>
+    <message>
+        <source>sRestoreNothing</source>
+        <translation>沒有可還原的原內容。</translation>
+    </message>
+    <message>
+        <source>sRestoreRefused</source>
+        <translation>剪貼簿已改變，因此未還原原內容。</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>Nerlo Pro</source>
+        <translation>Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear formating from clipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
+        <translation>清除剪貼簿的格式</translation>
+    </message>
+    <message>
+        <source>Automatically clear formatting</source>
+        <translation>自動清除格式</translation>
+    </message>
+    <message>
+        <source>Except copies from Excel</source>
+        <translation>從 Excel 複製的除外</translation>
+    </message>
+    <message>
+        <source>Restore the original</source>
+        <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
+        <translation>還原原內容</translation>
+    </message>
+    <message>
+        <source>Single operations</source>
+        <translation>單項操作</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>偏好設定…</translation>
+    </message>
+    <message>
+        <source>Tips</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>What&apos;s new</source>
+        <translation>新功能</translation>
+    </message>
+    <message>
+        <source>Rate Nerlo Pro</source>
+        <translation>為 Nerlo Pro 評分</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>支援</translation>
+    </message>
+    <message>
+        <source>E-mail to the developer</source>
+        <translation>寄信給開發者</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>關於</translation>
+    </message>
+    <message>
+        <source>Quit Nerlo Pro</source>
+        <translation>結束 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Hide Nerlo Pro</source>
+        <translation>隱藏 Nerlo Pro</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編輯</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪下</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼上</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>說明</translation>
+    </message>
+</context>
+<context>
+    <name>Shortcut</name>
+    <message>
+        <source>Click to record shortcut</source>
+        <translation>按一下以錄製快捷鍵</translation>
+    </message>
+    <message>
+        <source>Type shortcut</source>
+        <translation>請按快捷鍵</translation>
+    </message>
+    <message>
+        <source>Use old shortcut</source>
+        <translation>使用原快捷鍵</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Delete shortcut</source>
+        <translation>刪除快捷鍵</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
+        <translation>無法使用按鍵組合「%@」！</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
+        <translation>無法使用按鍵組合「%@」，因為它已是系統層級的鍵盤快捷鍵。如果您確實要使用它，大多數快捷鍵可在系統設定的「鍵盤」面板中變更。</translation>
+    </message>
+    <message>
+        <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
+        <translation>無法使用按鍵組合「%@」，因為選單項目「%@」已在使用。</translation>
+    </message>
+</context>
+</TS>
