@@ -1,0 +1,243 @@
+#include "shell/FindReplaceTable.h"
+
+#include "shell/OptionRows.h"
+#include "shell/Strings.h"
+
+#include <QDropEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScopedValueRollback>
+
+namespace nerlo::shell {
+
+namespace {
+
+void describe(QWidget &widget, const char *name, const char *nameKey, const char *tipKey) {
+    widget.setObjectName(name);
+    widget.setAccessibleName(localized(nameKey));
+    widget.setAccessibleDescription(localized(tipKey));
+    widget.setToolTip(plainTooltip(localized(tipKey)));
+}
+
+} // namespace
+
+RuleList::RuleList(QWidget *parent)
+    : QListWidget(parent) {
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+}
+
+void RuleList::dropEvent(QDropEvent *event) {
+    if (event->source() != this || !currentItem()) {
+        event->ignore();
+        return;
+    }
+    const QModelIndex target = indexAt(event->position().toPoint());
+    int place = target.isValid() ? target.row() : count();
+    if (target.isValid() && (dropIndicatorPosition() == QAbstractItemView::BelowItem)) {
+        ++place;
+    }
+    const int row = currentRow();
+    // The view would take the row away itself after a move.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setState(QAbstractItemView::NoState);
+    viewport()->update();
+    emit dropped(row, place);
+}
+
+void RuleList::keyPressEvent(QKeyEvent *event) {
+    const bool alt = event->modifiers() == Qt::AltModifier;
+    if (alt && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        emit moveAsked(event->key() == Qt::Key_Up ? -1 : 1);
+    } else if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+        emit removeAsked();
+    } else {
+        QListWidget::keyPressEvent(event);
+    }
+}
+
+FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
+    : preferences_(preferences)
+    , onlyOneProfile(new QCheckBox(localized("sOnlyOneProfile")))
+    , findTableView(new RuleList)
+    , replaceTextField(new QLineEdit)
+    , add_(new QPushButton(localized("sFindReplaceAdd")))
+    , remove_(new QPushButton(localized("sFindReplaceRemove")))
+    , up_(new QPushButton(localized("sFindReplaceUp")))
+    , down_(new QPushButton(localized("sFindReplaceDown"))) {
+    describe(*onlyOneProfile, "sOnlyOneProfile", "sOnlyOneProfile", "sOnlyOneProfileTip");
+    describe(*findTableView, "findTableView", "sFindReplaceList", "sFindReplaceListTip");
+    describe(*replaceTextField, "replaceTextField", "sFindReplaceWith", "sFindReplaceWithTip");
+    describe(*add_, "addRule", "sFindReplaceAdd", "sFindReplaceAddTip");
+    describe(*remove_, "removeRule", "sFindReplaceRemove", "sFindReplaceRemoveTip");
+    describe(*up_, "ruleUp", "sFindReplaceUp", "sFindReplaceUpTip");
+    describe(*down_, "ruleDown", "sFindReplaceDown", "sFindReplaceDownTip");
+
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 4, 0, 0);
+    layout->addWidget(onlyOneProfile, 0, 0, 1, 2);
+    auto *title = new QLabel(localized("sFindReplaceList"));
+    title->setBuddy(findTableView);
+    layout->addWidget(title, 1, 0, 1, 2);
+    layout->addWidget(findTableView, 2, 0, 1, 2);
+    layout->setRowStretch(2, 1);
+    auto *with = new QLabel(localized("sFindReplaceWith"));
+    with->setBuddy(replaceTextField);
+    layout->addWidget(with, 3, 0);
+    layout->addWidget(replaceTextField, 3, 1);
+    layout->setColumnStretch(1, 1);
+    auto *buttons = new QGridLayout;
+    buttons->addWidget(add_, 0, 0);
+    buttons->addWidget(remove_, 0, 1);
+    buttons->addWidget(up_, 1, 0);
+    buttons->addWidget(down_, 1, 1);
+    layout->addLayout(buttons, 4, 0, 1, 2);
+
+    connect(onlyOneProfile, &QCheckBox::toggled, this, [this](bool on) {
+        if (!loading_) {
+            preferences_.onlyOneProfileChanged(on);
+            load();
+            emit edited();
+        }
+    });
+    connect(findTableView, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (!loading_) {
+            preferences_.selectedRow(row);
+            showField();
+        }
+    });
+    connect(findTableView, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) {
+        if (loading_) {
+            return;
+        }
+        const int row = findTableView->row(item);
+        const auto &rule = preferences_.findReplaceList().items().at(static_cast<std::size_t>(row));
+        const bool on = item->checkState() == Qt::Checked;
+        if (on != settings::FindReplaceList::isOn(rule)) {
+            preferences_.saveCurrentFindReplaceCheckbox(row, on);
+        }
+        const std::u16string find = item->text().toStdU16String();
+        if (find != settings::FindReplaceList::textOf(rule, "find")) {
+            preferences_.selectedRow(row);
+            preferences_.saveCurrentFindReplace(find);
+            showField();
+        }
+        preferences_.setAllBoolsInChangePasteboard();
+        emit edited();
+    });
+    connect(replaceTextField, &QLineEdit::textEdited, this, [this](const QString &text) {
+        preferences_.controlTextDidChangeReplace(text.toStdU16String());
+        replaceTextField->setPlaceholderText(
+            QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
+        emit edited();
+    });
+    connect(findTableView, &RuleList::dropped, this, [this](int row, int place) {
+        preferences_.acceptDrop({row}, place);
+        afterEdit();
+    });
+    connect(findTableView, &RuleList::moveAsked, this, &FindReplaceTable::moveSelected);
+    connect(up_, &QPushButton::clicked, this, [this] { moveSelected(-1); });
+    connect(down_, &QPushButton::clicked, this, [this] { moveSelected(1); });
+    const auto remove = [this] {
+        preferences_.deleteFindReplace();
+        afterEdit();
+    };
+    connect(findTableView, &RuleList::removeAsked, this, remove);
+    connect(remove_, &QPushButton::clicked, this, remove);
+    connect(add_, &QPushButton::clicked, this, [this] {
+        preferences_.addNewFindReplace();
+        afterEdit();
+        findTableView->setFocus();
+        if (auto *item = findTableView->currentItem()) {
+            findTableView->editItem(item);
+        }
+    });
+}
+
+QString FindReplaceTable::searchTexts() const {
+    QString texts;
+    for (const auto *key :
+         {"sOnlyOneProfile", "sOnlyOneProfileTip", "sFindReplaceList", "sFindReplaceListTip",
+          "sFindReplaceWith", "sFindReplaceWithTip", "sFindReplaceAdd", "sFindReplaceRemove"}) {
+        texts += localized(key) + ' ';
+    }
+    return texts;
+}
+
+void FindReplaceTable::load() {
+    const QScopedValueRollback loading(loading_, true);
+    onlyOneProfile->setChecked(preferences_.onlyOneProfile());
+    reload();
+}
+
+void FindReplaceTable::reload() {
+    const QScopedValueRollback loading(loading_, true);
+    findTableView->clear();
+    for (const platform::PropertyValue &rule : preferences_.findReplaceList().items()) {
+        addItem(rule);
+    }
+    findTableView->setCurrentRow(preferences_.findReplaceList().lastClickedRow());
+    showField();
+}
+
+void FindReplaceTable::addItem(const platform::PropertyValue &rule) {
+    auto *item = new QListWidgetItem(
+        QString::fromStdU16String(settings::FindReplaceList::textOf(rule, "find")));
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable |
+                   Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
+    item->setCheckState(settings::FindReplaceList::isOn(rule) ? Qt::Checked : Qt::Unchecked);
+    findTableView->addItem(item);
+}
+
+void FindReplaceTable::showField() {
+    const auto &list = preferences_.findReplaceList();
+    const auto &field = list.field();
+    const QString text = QString::fromStdU16String(field.text);
+    if (replaceTextField->text() != text) {
+        replaceTextField->setText(text);
+    }
+    replaceTextField->setPlaceholderText(QString::fromStdU16String(field.placeholder));
+    replaceTextField->setEnabled(field.enabled);
+    const int row = list.lastClickedRow();
+    const int count = static_cast<int>(list.items().size());
+    up_->setEnabled(row > 0);
+    down_->setEnabled(row >= 0 && row + 1 < count);
+}
+
+void FindReplaceTable::updateUI(int mode) {
+    if (mode == 3) {
+        showField();
+    } else {
+        reload();
+    }
+    if (mode == 0 && findTableView->count() > 0) {
+        findTableView->scrollToItem(findTableView->item(0));
+    } else if (mode == 2) {
+        findTableView->scrollToBottom();
+    }
+}
+
+void FindReplaceTable::moveSelected(int by) {
+    const auto &list = preferences_.findReplaceList();
+    const int row = list.lastClickedRow();
+    const int place = row + by;
+    if (row < 0 || place < 0 || place >= static_cast<int>(list.items().size())) {
+        return;
+    }
+    preferences_.acceptDrop({row}, place);
+    preferences_.selectedRow(place);
+    afterEdit();
+}
+
+void FindReplaceTable::afterEdit() {
+    reload();
+    // The list alone would wait for the next save of something else.
+    preferences_.setAllBoolsInChangePasteboard();
+    emit edited();
+}
+
+} // namespace nerlo::shell

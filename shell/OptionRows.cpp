@@ -1,0 +1,311 @@
+#include "shell/OptionRows.h"
+
+#include "settings/SettingsKeys.h"
+#include "shell/FindReplaceTable.h"
+#include "shell/Strings.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScopedValueRollback>
+#include <QSpinBox>
+#include <QTextDocument>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace nerlo::shell {
+
+namespace {
+
+constexpr int recorderWidth = 190;
+constexpr int indent = 26;
+constexpr int longestDelay = 999; // seconds that the popup may be asked to stay
+
+constexpr auto delayKey = "udStatisticsValue";
+constexpr auto delaySwitchKey = "udStatisticsDelaySwitcher";
+constexpr auto returnsKey = "udChangeReturnsOption";
+constexpr auto firstCustomKey = "udChangeReturnsCustom1";
+constexpr auto secondCustomKey = "udChangeReturnsCustom2";
+
+struct SeparatorField {
+    const char *separator;
+    const char *field;
+};
+constexpr SeparatorField separatorFields[] = {
+    {"udSortSeparator", "udSortCustomSeparator"},
+    {"udRemoveDuplicateLinesSeparator", "udDuplicatesCustomSeparator"},
+};
+
+void describe(QWidget &widget, const std::string &key, const QString &name) {
+    const QString tip = localized(tooltipKey(key));
+    widget.setObjectName(QString::fromStdString(key));
+    widget.setAccessibleName(name);
+    widget.setAccessibleDescription(tip);
+    widget.setToolTip(plainTooltip(tip));
+}
+
+} // namespace
+
+QString plainTooltip(const QString &text) {
+    return Qt::convertFromPlainText(text, Qt::WhiteSpacePre);
+}
+
+QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey,
+                      const QString &command) {
+    QWidget *recorder = make && !hotKey.empty() ? make(hotKey) : nullptr;
+    if (recorder) {
+        recorder->setObjectName("shortcut." + QString::fromStdString(hotKey));
+        recorder->setAccessibleName(filled(localized("sShortcutOf"), {command}));
+        recorder->setFixedWidth(recorderWidth);
+        if (recorder->toolTip().isEmpty()) {
+            recorder->setToolTip(localized("sShortcutTip"));
+        }
+    }
+    return recorder;
+}
+
+OptionPage::OptionPage(const PreferencesPage &page, settings::nrPreferences &preferences,
+                       const RecorderMaker &makeRecorder)
+    : preferences_(preferences)
+    , page_(page)
+    , layout_(new QVBoxLayout(this)) {
+    layout_->setContentsMargins(12, 8, 12, 12);
+    layout_->setSpacing(8);
+    for (const OptionRow &row : page.rows) {
+        addRow(row, makeRecorder);
+    }
+    if (!rules_) {
+        layout_->addStretch();
+    }
+    load();
+}
+
+void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder) {
+    auto *widget = new QWidget;
+    auto *grid = new QGridLayout(widget);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(4);
+    grid->setColumnMinimumWidth(0, indent - grid->horizontalSpacing());
+    grid->setColumnStretch(2, 1);
+
+    QCheckBox *box = makeCheckBox(row.key);
+    QString texts =
+        localized(page_.title) + ' ' + box->text() + ' ' + localized(tooltipKey(row.key));
+    grid->addWidget(box, 0, 0, 1, 3);
+    if (QWidget *recorder = shell::makeRecorder(makeRecorder, row.hotKey, box->text())) {
+        grid->addWidget(recorder, 0, 3, Qt::AlignTop);
+    }
+    auto *problem = new QLabel;
+    problem->setObjectName("problem." + QString::fromStdString(row.hotKey));
+    problem->setWordWrap(true);
+    problem->hide();
+    grid->addWidget(problem, 1, 0, 1, 4);
+    int line = 2;
+    for (const std::string &key : row.dependents) {
+        QWidget *control = makeControl(key, texts);
+        const QString name = localized(labelKey(key));
+        texts += ' ' + name + ' ' + localized(tooltipKey(key));
+        if (qobject_cast<QCheckBox *>(control)) {
+            grid->addWidget(control, line++, 1, 1, 3);
+            continue;
+        }
+        auto *label = new QLabel(name);
+        label->setBuddy(control);
+        labels_.emplace(key, label);
+        grid->addWidget(label, line, 1);
+        grid->addWidget(control, line++, 2, 1, 2);
+    }
+    layout_->addWidget(widget, row.ruleList ? 1 : 0);
+    if (row.ruleList) {
+        addRules(texts);
+        grid->addWidget(rules_, line, 0, 1, 4);
+        grid->setRowStretch(line, 1);
+    }
+    rows_.push_back({widget, texts.toLower(), row.hotKey, problem});
+}
+
+QWidget *OptionPage::makeControl(const std::string &key, QString &texts) {
+    const settings::SettingsKey *row = settings::findKey(key, settings::SettingScope::Profile);
+    switch (row ? row->kind : settings::SettingKind::Text) {
+    case settings::SettingKind::Switch:
+        return makeCheckBox(key);
+    case settings::SettingKind::Index:
+        return makeChoice(key, texts);
+    default:
+        return makeText(key);
+    }
+}
+
+QCheckBox *OptionPage::makeCheckBox(const std::string &key) {
+    auto *box = new QCheckBox(localized(labelKey(key)));
+    describe(*box, key, box->text());
+    connect(box, &QCheckBox::toggled, this, [this, key](bool on) {
+        if (!loading_) {
+            preferences_.checkBoxChanged(key, on);
+            updateDependents();
+            emit edited();
+        }
+    });
+    controls_.emplace(key, box);
+    return box;
+}
+
+QComboBox *OptionPage::makeChoice(const std::string &key, QString &texts) {
+    auto *choice = new QComboBox;
+    describe(*choice, key, localized(labelKey(key)));
+    const auto &lists = preferences_.optionLists();
+    const auto list = std::ranges::find(lists, key, &settings::OptionList::key);
+    if (list != lists.end()) {
+        for (const std::u16string &item : list->items) {
+            choice->addItem(QString::fromStdU16String(item));
+            texts += ' ' + choice->itemText(choice->count() - 1);
+        }
+    }
+    connect(choice, &QComboBox::currentIndexChanged, this, [this, key](int index) {
+        if (!loading_) {
+            preferences_.comboBoxSelectionDidChange(key, index);
+            updateDependents();
+            emit edited();
+        }
+    });
+    controls_.emplace(key, choice);
+    return choice;
+}
+
+QWidget *OptionPage::makeText(const std::string &key) {
+    if (key == delayKey) {
+        auto *number = new QSpinBox;
+        number->setRange(1, longestDelay);
+        number->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        describe(*number, key, localized(labelKey(key)));
+        connect(number, &QSpinBox::valueChanged, this, [this](int seconds) {
+            if (!loading_) {
+                preferences_.sUpdateStatisticksValue(QString::number(seconds).toStdU16String());
+                emit edited();
+            }
+        });
+        controls_.emplace(key, number);
+        return number;
+    }
+    auto *field = new QLineEdit;
+    describe(*field, key, localized(labelKey(key)));
+    connect(field, &QLineEdit::textEdited, this, [this, key](const QString &text) {
+        preferences_.controlTextDidChange(key, text.toStdU16String());
+        emit edited();
+    });
+    controls_.emplace(key, field);
+    return field;
+}
+
+void OptionPage::addRules(QString &texts) {
+    rules_ = new FindReplaceTable(preferences_);
+    texts += ' ' + rules_->searchTexts();
+    connect(rules_, &FindReplaceTable::edited, this, &OptionPage::edited);
+}
+
+QWidget *OptionPage::control(std::string_view key) const {
+    const auto found = controls_.find(key);
+    return found == controls_.end() ? nullptr : found->second;
+}
+
+void OptionPage::load() {
+    const QScopedValueRollback loading(loading_, true);
+    const platform::PropertyDictionary &states = preferences_.controls();
+    for (const auto &[key, widget] : controls_) {
+        const platform::PropertyValue *value = states.find(key);
+        if (auto *box = qobject_cast<QCheckBox *>(widget)) {
+            box->setChecked(value && value->boolValue());
+        } else if (auto *choice = qobject_cast<QComboBox *>(widget)) {
+            const std::int64_t index = value ? value->integerValue() : 0;
+            choice->setCurrentIndex(index >= 0 && index < choice->count() ? static_cast<int>(index)
+                                                                          : -1);
+        } else if (auto *number = qobject_cast<QSpinBox *>(widget)) {
+            const std::int64_t seconds = value ? value->integerValue() : 0;
+            number->setValue(static_cast<int>(std::clamp<std::int64_t>(seconds, 1, longestDelay)));
+        } else if (auto *field = qobject_cast<QLineEdit *>(widget)) {
+            const QString text =
+                value ? QString::fromStdU16String(value->stringValue()) : QString();
+            // The place of the cursor is not lost to an equal text.
+            if (field->text() != text) {
+                field->setText(text);
+            }
+        }
+    }
+    if (rules_) {
+        rules_->load();
+    }
+    updateDependents();
+}
+
+void OptionPage::updateRules(int mode) {
+    if (rules_) {
+        rules_->updateUI(mode);
+    }
+}
+
+void OptionPage::setEnabledWithLabel(std::string_view key, bool enabled) {
+    if (QWidget *widget = control(key)) {
+        widget->setEnabled(enabled);
+    }
+    if (const auto label = labels_.find(key); label != labels_.end()) {
+        label->second->setEnabled(enabled);
+    }
+}
+
+void OptionPage::updateDependents() {
+    const auto isOn = [&](std::string_view key) {
+        const auto *box = qobject_cast<QCheckBox *>(control(key));
+        return box && box->isChecked();
+    };
+    for (const OptionRow &row : page_.rows) {
+        for (const std::string &key : row.dependents) {
+            setEnabledWithLabel(key, isOn(row.key));
+        }
+    }
+    if (control(delayKey)) {
+        setEnabledWithLabel(delayKey, isOn("udStatistics") && isOn(delaySwitchKey));
+    }
+    for (const auto &[separator, field] : separatorFields) {
+        if (QWidget *widget = control(field)) {
+            setEnabledWithLabel(field, widget->isEnabled() &&
+                                           preferences_.customSeparatorEnabled(separator));
+        }
+    }
+    auto *first = qobject_cast<QLineEdit *>(control(firstCustomKey));
+    auto *second = qobject_cast<QLineEdit *>(control(secondCustomKey));
+    if (first && second && control(returnsKey)) {
+        const auto fields = preferences_.returnsFields();
+        const bool on = first->isEnabled();
+        setEnabledWithLabel(firstCustomKey, on && fields.firstEnabled);
+        const QString label = QString::fromStdU16String(fields.label);
+        if (QLabel &shown = *labels_.at(firstCustomKey); shown.text().remove('&') != label) {
+            shown.setText(label);
+        }
+        first->setPlaceholderText(QString::fromStdU16String(fields.firstPlaceholder));
+        second->setPlaceholderText(QString::fromStdU16String(fields.secondPlaceholder));
+        second->setVisible(fields.secondShown);
+        labels_.at(secondCustomKey)->setVisible(fields.secondShown);
+        setEnabledWithLabel(secondCustomKey, on && fields.secondShown);
+    }
+}
+
+bool OptionPage::filter(const QStringList &words) {
+    bool any = false;
+    for (const Row &row : rows_) {
+        const bool matches = std::ranges::all_of(
+            words, [&](const QString &word) { return row.texts.contains(word); });
+        row.widget->setVisible(matches);
+        any = any || matches;
+    }
+    return any;
+}
+
+void OptionPage::setHotKeyProblem(std::string_view hotKey, const QString &problem) {
+    for (const Row &row : rows_) {
+        if (!row.hotKey.empty() && row.hotKey == hotKey) {
+            row.problem->setText(problem);
+            row.problem->setVisible(!problem.isEmpty());
+        }
+    }
+}
+
+} // namespace nerlo::shell

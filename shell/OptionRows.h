@@ -1,0 +1,84 @@
+// One page of options: for each a check box, what depends on it, and its shortcut.
+//
+// The controls show the state in nrPreferences and report edits to it. Main thread only.
+#pragma once
+
+#include "settings/nrPreferences.h"
+#include "shell/PreferencesLayout.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QGridLayout;
+class QVBoxLayout;
+
+namespace nerlo::shell {
+
+// Makes the control that records the shortcut of a settings key; null where there is none.
+using RecorderMaker = std::function<QWidget *(const std::string &hotKey)>;
+
+// A plain text as a tooltip, whatever is in it; line breaks and runs of spaces are kept.
+QString plainTooltip(const QString &text);
+
+// A recorder with its name, for the row of a command.
+QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey, const QString &command);
+
+class FindReplaceTable;
+
+class OptionPage final : public QWidget {
+    Q_OBJECT
+
+  public:
+    OptionPage(const PreferencesPage &page, settings::nrPreferences &preferences,
+               const RecorderMaker &makeRecorder);
+
+    // Shows the state of the preferences.
+    void load();
+    // Of the find-and-replace table; see nrPreferences. Nothing on pages without it.
+    void updateRules(int mode);
+    // Shows only the options whose texts have all the words (in lower case); whether there are any.
+    bool filter(const QStringList &words);
+    // Why the system does not give the program this shortcut; empty when it does.
+    void setHotKeyProblem(std::string_view hotKey, const QString &problem);
+
+  signals:
+    void edited();
+
+  private:
+    struct Row {
+        QWidget *widget;
+        QString texts; // what a search looks at, in lower case
+        std::string hotKey;
+        QLabel *problem;
+    };
+
+    void addRow(const OptionRow &row, const RecorderMaker &makeRecorder);
+    QWidget *makeControl(const std::string &key, QString &texts);
+    QCheckBox *makeCheckBox(const std::string &key);
+    QComboBox *makeChoice(const std::string &key, QString &texts);
+    QWidget *makeText(const std::string &key);
+    void addRules(QString &texts);
+    void updateDependents();
+    QWidget *control(std::string_view key) const;
+    void setEnabledWithLabel(std::string_view key, bool enabled);
+
+    settings::nrPreferences &preferences_;
+    const PreferencesPage &page_;
+    QVBoxLayout *layout_;
+    std::vector<Row> rows_;
+    std::map<std::string, QWidget *, std::less<>> controls_;
+    std::map<std::string, QLabel *, std::less<>> labels_;
+    FindReplaceTable *rules_ = nullptr;
+    bool loading_ = false; // changes come from load(), not from the user
+};
+
+} // namespace nerlo::shell

@@ -1,0 +1,35 @@
+// Which option stands on which page of the preferences, beside which others.
+//
+// What a key's control is follows from its kind in the table of settings keys; here is only the
+// place. Any thread.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace nerlo::shell {
+
+struct OptionRow {
+    std::string key;    // of the check box
+    std::string hotKey; // settings key of its shortcut; empty for none
+    // Switches, texts and choices that only count while the check box is on.
+    std::vector<std::string> dependents;
+    bool ruleList = false; // the find-and-replace list stands below
+};
+
+struct PreferencesPage {
+    std::string title; // key of the standard string table, and the page's lasting name
+    std::vector<OptionRow> rows;
+};
+
+// The pages of the options, in order. The first page of the window, on the program itself, is not
+// among them.
+const std::vector<PreferencesPage> &preferencesPages();
+
+// The keys of an option's texts in the standard string table. Options that come in tens share their
+// tooltips, and the names of their text fields.
+std::string labelKey(std::string_view settingsKey);
+std::string tooltipKey(std::string_view settingsKey);
+
+} // namespace nerlo::shell

@@ -1,0 +1,415 @@
+#include "shell/PreferencesWindow.h"
+
+#include "shell/Alerts.h"
+#include "shell/Mnemonics.h"
+#include "shell/Strings.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+namespace nerlo::shell {
+
+namespace {
+
+constexpr QSize firstSize{1080, 660};
+constexpr int shortest = 360;
+constexpr auto cleanHotKey = "sClearFormatingFromClipboard";
+
+QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
+    auto *box = new QCheckBox(localized(titleKey));
+    box->setObjectName(name);
+    box->setAccessibleName(box->text());
+    box->setAccessibleDescription(localized(tipKey));
+    box->setToolTip(plainTooltip(localized(tipKey)));
+    return box;
+}
+
+QStringList wordsOf(const QString &text) {
+    return text.toLower().split(' ', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
+                                     platform::SettingsStore &store,
+                                     const RecorderMaker &makeRecorder, GeneralActions actions,
+                                     PreviewParts previewParts)
+    : preferences_(preferences)
+    , store_(store)
+    , actions_(std::move(actions))
+    , pageList_(new QListWidget)
+    , pages_(new QStackedWidget)
+    , nothingFound_(new QLabel)
+    , notice_(new QLabel) {
+    setObjectName("preferencesWindow");
+    setWindowTitle(localized("sPreferencesWindowName"));
+
+    // Edits that wait for their delay count too: what the preview shows is what is cleaned.
+    previewParts.cleanClipboard = [this, clean = std::move(previewParts.cleanClipboard)] {
+        preferences_.savePending();
+        clean();
+    };
+    preview_ = new PreviewPane(std::move(previewParts));
+
+    pageList_->setObjectName("pageList");
+    pageList_->setAccessibleName(localized("sPages"));
+    pageList_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    pages_->setObjectName("pages");
+    pages_->setAccessibleName(localized("sOptions"));
+    nothingFound_->setObjectName("nothingFound");
+    nothingFound_->setAlignment(Qt::AlignCenter);
+    nothingFound_->setWordWrap(true);
+    nothingFound_->setTextFormat(Qt::PlainText);
+    nothingFound_->hide();
+    notice_->setObjectName("notice");
+    notice_->setWordWrap(true);
+    notice_->setMargin(6);
+    notice_->hide();
+
+    auto *middle = new QWidget;
+    auto *middleLayout = new QVBoxLayout(middle);
+    middleLayout->setContentsMargins(0, 0, 0, 0);
+    middleLayout->addWidget(nothingFound_, 1);
+    middleLayout->addWidget(pages_, 1);
+    auto *splitter = new QSplitter;
+    splitter->setObjectName("splitter");
+    splitter->addWidget(middle);
+    splitter->addWidget(preview_);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    splitter->setChildrenCollapsible(false);
+
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(makeTop());
+    auto *below = new QHBoxLayout;
+    below->addWidget(pageList_);
+    below->addWidget(splitter, 1);
+    layout->addLayout(below, 1);
+    layout->addWidget(notice_);
+    setCentralWidget(content);
+
+    addPage(localized("sPageGeneral"), makeGeneralPage(makeRecorder));
+    for (const PreferencesPage &page : preferencesPages()) {
+        auto *widget = new OptionPage(page, preferences_, makeRecorder);
+        optionPages_.push_back(widget);
+        addPage(localized(page.title), widget);
+        connect(widget, &OptionPage::edited, this, &PreferencesWindow::updatePreview);
+    }
+    // The options are never cut off at the side; a short window scrolls them.
+    int widest = 0;
+    for (int i = 0; i < pages_->count(); ++i) {
+        const auto *page = static_cast<QScrollArea *>(pages_->widget(i))->widget();
+        widest = std::max(widest, page->minimumSizeHint().width());
+    }
+    middle->setMinimumWidth(widest + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4);
+    preview_->setMinimumWidth(240);
+    splitter->setSizes({widest, firstSize.width()});
+    pageList_->setSpacing(2);
+    pageList_->setFixedWidth(pageList_->sizeHintForColumn(0) + 2 * pageList_->frameWidth() + 24);
+
+    connect(pageList_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0) {
+            pages_->setCurrentIndex(row);
+        }
+    });
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_, [this] {
+        search_->setFocus(Qt::ShortcutFocusReason);
+        search_->selectAll();
+    });
+    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
+
+    const auto height = store_.integerForKey(heightKey);
+    resize(firstSize.width(), height >= shortest
+                                  ? static_cast<int>(std::min<std::int64_t>(height, 10'000))
+                                  : firstSize.height());
+    const auto page = store_.integerForKey(pageKey);
+    pageList_->setCurrentRow(page >= 0 && page < pages_->count() ? static_cast<int>(page) : 0);
+    profilesChanged();
+    controlsLoaded();
+}
+
+PreferencesWindow::~PreferencesWindow() = default;
+
+void PreferencesWindow::assignLetters() {
+    // Letters of what is always there are not used again on any page.
+    std::set<QChar> used;
+    for (const QAction *menu : menuBar()->actions()) {
+        const auto at = menu->text().indexOf('&');
+        if (at >= 0 && at + 1 < menu->text().size()) {
+            used.insert(menu->text()[at + 1].toLower());
+        }
+    }
+    assignMnemonics(*centralWidget()->findChild<QWidget *>("top"), used);
+    assignMnemonics(*preview_, used);
+    for (int i = 0; i < pages_->count(); ++i) {
+        auto ofPage = used;
+        assignMnemonics(*pages_->widget(i), ofPage);
+    }
+}
+
+QWidget *PreferencesWindow::makeTop() {
+    auto *top = new QWidget;
+    top->setObjectName("top");
+    auto *layout = new QHBoxLayout(top);
+    layout->setContentsMargins(0, 0, 0, 0);
+    search_ = new QLineEdit;
+    search_->setObjectName("search");
+    search_->setPlaceholderText(localized("sSearch"));
+    search_->setAccessibleName(localized("sSearch"));
+    search_->setToolTip(plainTooltip(localized("sSearchTip")));
+    search_->setClearButtonEnabled(true);
+    connect(search_, &QLineEdit::textChanged, this, &PreferencesWindow::search);
+    layout->addWidget(search_, 1);
+    layout->addSpacing(24);
+
+    auto *label = new QLabel(localized("sProfile"));
+    profilesPopupButton = new QComboBox;
+    profilesPopupButton->setObjectName("profilesPopupButton");
+    profilesPopupButton->setAccessibleName(label->text());
+    profilesPopupButton->setToolTip(plainTooltip(localized("sProfileTip")));
+    profilesPopupButton->setMinimumContentsLength(14);
+    label->setBuddy(profilesPopupButton);
+    connect(profilesPopupButton, &QComboBox::activated, this, [this](int index) {
+        preferences_.savePending();
+        preferences_.profilesSelect(index);
+    });
+    const auto makeButton = [](const char *name, const char *titleKey, const char *tipKey) {
+        auto *button = new QPushButton(localized(titleKey));
+        button->setObjectName(name);
+        button->setAccessibleName(button->text());
+        button->setToolTip(plainTooltip(localized(tipKey)));
+        return button;
+    };
+    addProfile_ = makeButton("addProfile", "sProfileAdd", "sProfileAddTip");
+    removeProfile_ = makeButton("removeProfile", "sProfileRemove", "sProfileRemoveTip");
+    connect(addProfile_, &QPushButton::clicked, this, &PreferencesWindow::addProfile);
+    connect(removeProfile_, &QPushButton::clicked, this, [this] { preferences_.profilesRemove(); });
+    layout->addWidget(label);
+    layout->addWidget(profilesPopupButton);
+    layout->addWidget(addProfile_);
+    layout->addWidget(removeProfile_);
+    return top;
+}
+
+QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(12, 8, 12, 12);
+
+    const auto addGroup = [&](const char *titleKey) {
+        auto *group = new QGroupBox(localized(titleKey));
+        layout->addWidget(group);
+        return new QVBoxLayout(group);
+    };
+    const auto connectBox = [this](QCheckBox *box, std::function<void(bool)> GeneralActions::*act) {
+        connect(box, &QCheckBox::toggled, this, [this, act](bool on) {
+            if (!loading_ && actions_.*act) {
+                (actions_.*act)(on);
+            }
+        });
+    };
+
+    QVBoxLayout *cleaning = addGroup("sGroupCleaning");
+    auto *clean = new QHBoxLayout;
+    const QString command = localized(cleanHotKey);
+    auto *label = new QLabel(command);
+    label->setToolTip(plainTooltip(localized("sClearFormatingFromClipboardTip")));
+    clean->addWidget(label, 1);
+    if (QWidget *recorder = shell::makeRecorder(makeRecorder, cleanHotKey, command)) {
+        label->setBuddy(recorder);
+        clean->addWidget(recorder);
+    }
+    cleaning->addLayout(clean);
+    generalProblem_ = new QLabel;
+    generalProblem_->setWordWrap(true);
+    generalProblem_->hide();
+    cleaning->addWidget(generalProblem_);
+    automatic_ = makeBox("automatic", "sAutomatic", "sAutomaticTip");
+    excelException_ = makeBox("excelException", "sExceptSpreadsheet", "sExceptSpreadsheetTip");
+    cleaning->addWidget(automatic_);
+    cleaning->addWidget(excelException_);
+
+    QVBoxLayout *window = addGroup("sGroupWindow");
+    showInMenuBar_ = makeBox("showInMenuBar", "sShowInMenuBar", "sShowInMenuBarTip");
+    runInTheBackground_ =
+        makeBox("runInTheBackground", "sRunInTheBackground", "sRunInTheBackgroundTip");
+    launchOnStartup_ = makeBox("launchOnStartup", "sLaunchOnStartup", "sLaunchOnStartupTip");
+    stayOnTop_ = makeBox("stayOnTop", "sStayOnTop", "sStayOnTopTip");
+    for (QCheckBox *box : {showInMenuBar_, runInTheBackground_, launchOnStartup_, stayOnTop_}) {
+        window->addWidget(box);
+    }
+    layout->addStretch();
+
+    connectBox(automatic_, &GeneralActions::automatic);
+    connectBox(excelException_, &GeneralActions::excelException);
+    connectBox(showInMenuBar_, &GeneralActions::showInMenuBar);
+    connectBox(runInTheBackground_, &GeneralActions::runInTheBackground);
+    connectBox(launchOnStartup_, &GeneralActions::launchOnStartup);
+    connectBox(stayOnTop_, &GeneralActions::stayOnTop);
+
+    generalTexts_ = localized("sPageGeneral") + ' ' + command;
+    for (const QCheckBox *box : page->findChildren<QCheckBox *>()) {
+        generalTexts_ += ' ' + box->text() + ' ' + box->accessibleDescription();
+    }
+    generalTexts_ = generalTexts_.toLower();
+    return page;
+}
+
+void PreferencesWindow::addPage(const QString &title, QWidget *page) {
+    auto *scroll = new QScrollArea;
+    scroll->setWidget(page);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setAccessibleName(title);
+    // Not a stop of the Tab key: its controls are.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    page->setAccessibleName(title);
+    pages_->addWidget(scroll);
+    pageList_->addItem(title);
+}
+
+void PreferencesWindow::search(const QString &text) {
+    const QStringList words = wordsOf(text);
+    if (!words.isEmpty() && pageBeforeSearch_ < 0) {
+        pageBeforeSearch_ = pageList_->currentRow();
+    }
+    int firstHit = -1;
+    for (int i = 0; i < pageList_->count(); ++i) {
+        const bool hit =
+            i == 0 ? std::ranges::all_of(
+                         words, [&](const QString &word) { return generalTexts_.contains(word); })
+                   : optionPages_[static_cast<std::size_t>(i - 1)]->filter(words);
+        pageList_->item(i)->setHidden(!hit);
+        if (hit && firstHit < 0) {
+            firstHit = i;
+        }
+    }
+    nothingFound_->setText(filled(localized("sSearchNothing"), {text}));
+    nothingFound_->setVisible(firstHit < 0);
+    pages_->setVisible(firstHit >= 0);
+    if (words.isEmpty()) {
+        pageList_->setCurrentRow(std::max(0, std::exchange(pageBeforeSearch_, -1)));
+    } else if (firstHit >= 0 && pageList_->currentItem()->isHidden()) {
+        pageList_->setCurrentRow(firstHit);
+    }
+}
+
+void PreferencesWindow::setGeneralState(const GeneralState &state) {
+    const QScopedValueRollback loading(loading_, true);
+    automatic_->setChecked(state.automatic);
+    excelException_->setChecked(state.excelException);
+    showInMenuBar_->setChecked(state.showInMenuBar);
+    showInMenuBar_->setEnabled(!state.runInTheBackground);
+    runInTheBackground_->setChecked(state.runInTheBackground);
+    launchOnStartup_->setChecked(state.launchOnStartup);
+    stayOnTop_->setChecked(state.stayOnTop);
+}
+
+void PreferencesWindow::setHotKeyProblem(std::string_view hotKey, const QString &problem) {
+    if (hotKey == cleanHotKey) {
+        generalProblem_->setText(problem);
+        generalProblem_->setVisible(!problem.isEmpty());
+    }
+    for (OptionPage *page : optionPages_) {
+        page->setHotKeyProblem(hotKey, problem);
+    }
+}
+
+void PreferencesWindow::setNotice(const QString &notice) {
+    notice_->setText(notice);
+    notice_->setVisible(!notice.isEmpty());
+}
+
+void PreferencesWindow::profilesChanged() {
+    const QSignalBlocker blocker(profilesPopupButton);
+    profilesPopupButton->clear();
+    for (const settings::ProfileItem &item : preferences_.profilesItems()) {
+        profilesPopupButton->addItem(
+            QString::fromStdU16String(settings::profileNameOf(item.record)));
+    }
+    profilesPopupButton->setCurrentIndex(preferences_.popupSelection().value_or(-1));
+    removeProfile_->setEnabled(profilesPopupButton->currentIndex() >= 0);
+}
+
+void PreferencesWindow::controlsLoaded() {
+    for (OptionPage *page : optionPages_) {
+        page->load();
+    }
+    updatePreview();
+}
+
+void PreferencesWindow::updateUI(int mode) {
+    for (OptionPage *page : optionPages_) {
+        page->updateRules(mode);
+    }
+    updatePreview();
+}
+
+void PreferencesWindow::updatePreview() {
+    settings::ProfileRecord options = preferences_.profileSelected();
+    for (const auto &[key, value] : preferences_.controls()) {
+        options.set(key, value);
+    }
+    const bool shared = preferences_.onlyOneProfile();
+    options.set("sOnlyOneProfile", shared ? 1 : 0);
+    options.set(shared ? "sFindAndReplaceItems" : "sFindAndReplaceItemsProfile",
+                preferences_.findReplaceList().items());
+    preview_->setOptions(std::move(options));
+}
+
+void PreferencesWindow::addProfile() {
+    preferences_.savePending();
+    preferences_.profilesAdd();
+    const auto name = askForText(localized("Insert new profile name and click OK"),
+                                 localized("sProfileName"), this);
+    if (name) {
+        preferences_.profilesAddingCloseWindow(name->toStdU16String());
+    } else {
+        preferences_.profilesAddingCancelWindow();
+    }
+}
+
+bool PreferencesWindow::confirmRemoval(const std::u16string &name) {
+    return runAlert({Alert::Style::warning,
+                     localized("Do you want remove this profile?"),
+                     filled(localized("Profile: %@"), {QString::fromStdU16String(name)}),
+                     {localized("Yes"), localized("No")}},
+                    this) == 0;
+}
+
+void PreferencesWindow::remember() {
+    store_.set(heightKey, height());
+    const int page = pageBeforeSearch_ >= 0 ? pageBeforeSearch_ : pageList_->currentRow();
+    store_.set(pageKey, page);
+    store_.synchronize();
+}
+
+void PreferencesWindow::closeEvent(QCloseEvent *event) {
+    remember();
+    if (closeHandler_ && closeHandler_()) {
+        event->ignore();
+    } else {
+        QMainWindow::closeEvent(event);
+    }
+}
+
+void PreferencesWindow::hideEvent(QHideEvent *event) {
+    QMainWindow::hideEvent(event);
+    if (!event->spontaneous()) {
+        remember();
+    }
+}
+
+} // namespace nerlo::shell

@@ -1,0 +1,237 @@
+#include "shell/PreviewPane.h"
+
+#include "engine/CleaningOptions.h"
+#include "engine/Operations.h"
+#include "shell/OptionRows.h"
+#include "shell/Strings.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QTextBlock>
+#include <chrono>
+#include <exception>
+#include <utility>
+
+namespace nerlo::shell {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Keystrokes that follow each other closely make one clean.
+constexpr auto settlesAfter = 120ms;
+// UTF-16 code units. A longer text would make the window slow, and nobody reads it here.
+constexpr qsizetype longest = 50'000;
+
+// As the editor holds a text: one unit for each line break.
+QString asShown(QString text) {
+    return text.replace("\r\n", "\n")
+        .replace('\r', '\n')
+        .replace(QChar(QChar::ParagraphSeparator), '\n');
+}
+
+// The editor's own toPlainText() makes spaces of no-break spaces.
+QString textOf(const QPlainTextEdit &edit) {
+    return edit.document()
+        ->toRawText()
+        .replace(QChar(QChar::ParagraphSeparator), '\n')
+        .replace(QChar(QChar::LineSeparator), '\n');
+}
+
+QPlainTextEdit *makeEditor(const char *name, const char *titleKey, const char *tipKey) {
+    auto *edit = new QPlainTextEdit;
+    edit->setObjectName(name);
+    edit->setAccessibleName(localized(titleKey));
+    edit->setAccessibleDescription(localized(tipKey));
+    edit->setToolTip(plainTooltip(localized(tipKey)));
+    edit->setTabChangesFocus(true);
+    QTextOption option = edit->document()->defaultTextOption();
+    option.setFlags(option.flags() | QTextOption::ShowTabsAndSpaces |
+                    QTextOption::ShowLineAndParagraphSeparators);
+    edit->document()->setDefaultTextOption(option);
+    edit->setMinimumHeight(90);
+    return edit;
+}
+
+void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const QColor &colour,
+               bool crossedOut) {
+    QList<QTextEdit::ExtraSelection> selections;
+    for (const TextSpan &span : spans) {
+        QTextEdit::ExtraSelection selection;
+        selection.cursor = QTextCursor(edit.document());
+        selection.cursor.setPosition(static_cast<int>(span.start));
+        selection.cursor.setPosition(static_cast<int>(span.start + span.length),
+                                     QTextCursor::KeepAnchor);
+        selection.format.setBackground(colour);
+        // Not by colour alone.
+        selection.format.setFontUnderline(!crossedOut);
+        selection.format.setFontStrikeOut(crossedOut);
+        selections.push_back(selection);
+    }
+    edit.setExtraSelections(selections);
+}
+
+} // namespace
+
+PreviewPane::PreviewPane(PreviewParts parts)
+    : parts_(std::move(parts))
+    , before_(makeEditor("previewBefore", "sPreviewBefore", "sPreviewBeforeTip"))
+    , after_(makeEditor("previewAfter", "sPreviewAfter", "sPreviewAfterTip"))
+    , note_(new QLabel)
+    , take_(new QPushButton(localized("sPreviewTake")))
+    , apply_(new QPushButton(localized("sPreviewApply"))) {
+    setObjectName("preview");
+    setAccessibleName(localized("sPreview"));
+    before_->setPlaceholderText(localized("sPreviewPlaceholder"));
+    before_->setPlainText(localized("sPreviewSample"));
+    after_->setReadOnly(true);
+    // Also without a mouse, to be read and copied.
+    after_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    note_->setObjectName("previewNote");
+    note_->setWordWrap(true);
+    note_->hide();
+    const auto describe = [](QPushButton &button, const char *name, const char *tipKey) {
+        button.setObjectName(name);
+        button.setAccessibleName(button.text());
+        button.setToolTip(plainTooltip(localized(tipKey)));
+        button.setAccessibleDescription(localized(tipKey));
+    };
+    describe(*take_, "previewTake", "sPreviewTakeTip");
+    describe(*apply_, "previewApply", "sPreviewApplyTip");
+
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto addTitle = [&](const char *key, QWidget *buddy, int row) {
+        auto *title = new QLabel(localized(key));
+        title->setBuddy(buddy);
+        layout->addWidget(title, row, 0);
+    };
+    addTitle("sPreviewBefore", before_, 0);
+    layout->addWidget(before_, 1, 0);
+    layout->addWidget(take_, 2, 0);
+    addTitle("sPreviewAfter", after_, 3);
+    layout->addWidget(after_, 4, 0);
+    layout->addWidget(note_, 5, 0);
+    layout->addWidget(apply_, 6, 0);
+    layout->setRowStretch(1, 1);
+    layout->setRowStretch(4, 1);
+
+    connect(before_, &QPlainTextEdit::textChanged, this, &PreviewPane::schedule);
+    connect(take_, &QPushButton::clicked, this, [this] {
+        parts_.readClipboard(
+            [this, alive = std::weak_ptr(alive_)](const std::optional<std::u16string> &text) {
+                if (alive.expired()) {
+                    return;
+                }
+                if (text) {
+                    setBefore(QString::fromStdU16String(text->substr(0, longest + 1)));
+                } else {
+                    note_->setText(localized("sPreviewNothing"));
+                    note_->show();
+                }
+            });
+    });
+    connect(apply_, &QPushButton::clicked, this, [this] { parts_.cleanClipboard(); });
+}
+
+PreviewPane::~PreviewPane() {
+    parts_.mainQueue.cancel(pending_);
+}
+
+void PreviewPane::setOptions(platform::PropertyDictionary options) {
+    if (options == options_) {
+        return;
+    }
+    options_ = std::move(options);
+    schedule();
+}
+
+void PreviewPane::setBefore(const QString &text) {
+    before_->setPlainText(text);
+}
+
+QString PreviewPane::after() const {
+    return textOf(*after_);
+}
+
+void PreviewPane::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    schedule();
+}
+
+void PreviewPane::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        markDifferences();
+    }
+}
+
+void PreviewPane::schedule() {
+    // What nobody sees is not cleaned.
+    if (!isVisible()) {
+        return;
+    }
+    parts_.mainQueue.cancel(pending_);
+    pending_ = parts_.mainQueue.postAfter(settlesAfter, [this] {
+        pending_ = 0;
+        run();
+    });
+}
+
+void PreviewPane::run() {
+    if (running_) {
+        changedMeanwhile_ = true;
+        return;
+    }
+    running_ = true;
+    changedMeanwhile_ = false;
+    QString text = textOf(*before_);
+    note_->setText(localized("sPreviewTooLong"));
+    note_->setVisible(text.size() > longest);
+    text.truncate(longest);
+    parts_.workerQueue.post([this, alive = std::weak_ptr(alive_), &queue = parts_.mainQueue, text,
+                             profile = options_, locale = parts_.locale] {
+        std::optional<Result> result;
+        try {
+            engine::CleaningOptions options;
+            options.setAllBools(profile);
+            const QString cleaned = asShown(QString::fromStdU16String(
+                engine::runPipeline(text.toStdU16String(), {options, locale})));
+            result =
+                Result{text, cleaned, differences(text.toStdU16String(), cleaned.toStdU16String())};
+        } catch (const std::exception &) {
+            // Out of memory, in practice. The preview stays as it was.
+        }
+        queue.post([this, alive, result = std::move(result)] {
+            if (alive.expired()) {
+                return;
+            }
+            running_ = false;
+            if (result) {
+                show(*result);
+            }
+            if (changedMeanwhile_) {
+                run();
+            }
+        });
+    });
+}
+
+void PreviewPane::show(const Result &result) {
+    if (after() != result.after) {
+        after_->setPlainText(result.after);
+    }
+    marked_ = result.differences.added;
+    // Typed on meanwhile: the marks would stand in the wrong places.
+    const bool still = textOf(*before_).left(longest) == result.before;
+    removed_ = still ? result.differences.removed : std::vector<TextSpan>();
+    markDifferences();
+}
+
+void PreviewPane::markDifferences() {
+    const bool dark = palette().color(QPalette::Base).lightness() < 128;
+    markSpans(*before_, removed_, dark ? QColor(0x6b, 0x2b, 0x2b) : QColor(0xff, 0xd7, 0xd5), true);
+    markSpans(*after_, marked_, dark ? QColor(0x1f, 0x55, 0x2c) : QColor(0xc8, 0xf0, 0xce), false);
+}
+
+} // namespace nerlo::shell

@@ -1,0 +1,220 @@
+#include "shell/StatusMenu.h"
+
+#include "engine/Operations.h"
+#include "shell/Strings.h"
+#include "shortcuts/nrShortcut.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <utility>
+
+namespace nerlo::shell {
+
+namespace {
+
+QString title(const char *key) {
+    return localized(Table::menu, key);
+}
+
+// A title is shown as it is, whatever letters it has.
+QString escaped(QString text) {
+    return text.replace('&', "&&");
+}
+
+struct EditCommand {
+    const char *title;
+    const char *slot; // of the toolkit's text fields; null for the Delete key
+    QKeySequence::StandardKey keys;
+};
+constexpr EditCommand editCommands[] = {
+    {"Undo", "undo", QKeySequence::Undo},
+    {"Redo", "redo", QKeySequence::Redo},
+    {"Cut", "cut", QKeySequence::Cut},
+    {"Copy", "copy", QKeySequence::Copy},
+    {"Paste", "paste", QKeySequence::Paste},
+    {"Delete", nullptr, QKeySequence::UnknownKey},
+    {"Select All", "selectAll", QKeySequence::SelectAll},
+};
+
+void sendDelete(QWidget *widget) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_Delete, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
+}
+
+shortcuts::MenuItem itemOf(const QAction &action) {
+    shortcuts::MenuItem item;
+    item.title = action.text().remove('&').toStdU16String();
+    const QKeySequence keys = action.shortcut();
+    if (!keys.isEmpty()) {
+        const QKeyCombination first = keys[0];
+        const int key = first.key();
+        if (key < 0x10000) {
+            item.keyEquivalent = std::u16string(1, QChar(key).toLower().unicode());
+        }
+        const std::pair<Qt::KeyboardModifier, std::uint64_t> modifiers[] = {
+            {Qt::ControlModifier, shortcuts::commandModifier},
+            {Qt::MetaModifier, shortcuts::controlModifier},
+            {Qt::AltModifier, shortcuts::optionModifier},
+            {Qt::ShiftModifier, shortcuts::shiftModifier},
+        };
+        for (const auto &[toolkits, ours] : modifiers) {
+            if (first.keyboardModifiers() & toolkits) {
+                item.modifierMask |= ours;
+            }
+        }
+    }
+    return item;
+}
+
+} // namespace
+
+StatusMenu::StatusMenu(MenuCommands commands)
+    : commands_(std::move(commands))
+    , statusMenu(std::make_unique<QMenu>())
+    , operations_(std::make_unique<QMenu>(title("Single operations")))
+    , profiles_(std::make_unique<QMenu>(title("Profiles")))
+    , clean_(add("clean", "Clear formating from clipboard", commands_.clean))
+    , automatic_(add("automatic", "Automatically clear formatting", commands_.automatic))
+    , excelException_(add("excelException", "Except copies from Excel", commands_.excelException))
+    , restore_(add("restore", "Restore the original", commands_.restore))
+    , preferences_(add("preferences", "Preferences…", commands_.preferences))
+    , tips_(add("tips", "Tips", commands_.tips))
+    , whatsNew_(add("whatsNew", "What's new", commands_.whatsNew))
+    , rate_(add("rate", "Rate Nerlo Pro", commands_.rate))
+    , support_(add("support", "Support", commands_.support))
+    , email_(add("email", "E-mail to the developer", commands_.email))
+    , about_(add("about", "About", commands_.about))
+    , hide_(add("hide", "Hide Nerlo Pro", commands_.hide))
+    , quit_(add("quit", "Quit Nerlo Pro", commands_.quit)) {
+    automatic_->setCheckable(true);
+    excelException_->setCheckable(true);
+    preferences_->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    quit_->setShortcut(Qt::CTRL | Qt::Key_Q);
+    quit_->setMenuRole(QAction::NoRole);
+    // The hot key itself works everywhere; in the menu it is only shown.
+    clean_->setShortcutContext(Qt::WidgetShortcut);
+
+    statusMenu->setObjectName("statusMenu");
+    operations_->setObjectName("operationsMenu");
+    profiles_->setObjectName("profilesMenu");
+    for (const engine::Operation &operation : engine::operations()) {
+        auto *action = operations_->addAction(escaped(localized(operation.hotKey)));
+        action->setObjectName("operation" + QString::number(operation.index));
+        connect(action, &QAction::triggered, this, [this, index = operation.index] {
+            if (commands_.operation) {
+                commands_.operation(index);
+            }
+        });
+    }
+    makeEditActions();
+
+    statusMenu->addActions({clean_, automatic_, excelException_, restore_});
+    statusMenu->addSeparator();
+    statusMenu->addMenu(operations_.get());
+    statusMenu->addMenu(profiles_.get());
+    statusMenu->addSeparator();
+    statusMenu->addActions({preferences_, tips_, whatsNew_});
+    statusMenu->addSeparator();
+    statusMenu->addActions({rate_, support_, email_, about_});
+    statusMenu->addSeparator();
+    statusMenu->addAction(quit_);
+}
+
+StatusMenu::~StatusMenu() = default;
+
+QAction *StatusMenu::add(const char *name, const char *titleKey,
+                         const std::function<void()> &command) {
+    auto *action = new QAction(title(titleKey), this);
+    action->setObjectName(name);
+    connect(action, &QAction::triggered, this, [&command] {
+        if (command) {
+            command();
+        }
+    });
+    return action;
+}
+
+void StatusMenu::makeEditActions() {
+    for (const EditCommand &command : editCommands) {
+        auto *action = new QAction(title(command.title), this);
+        if (command.keys != QKeySequence::UnknownKey) {
+            action->setShortcut(command.keys);
+        }
+        connect(action, &QAction::triggered, this, [slot = command.slot] {
+            QWidget *widget = QApplication::focusWidget();
+            if (!widget) {
+                return;
+            }
+            if (!slot) {
+                sendDelete(widget);
+            } else if (widget->metaObject()->indexOfSlot((QByteArray(slot) + "()").constData()) >=
+                       0) {
+                QMetaObject::invokeMethod(widget, slot);
+            }
+        });
+        edit_.push_back(action);
+    }
+}
+
+void StatusMenu::fillMenuBar(QMenuBar &bar) {
+    const auto addMenu = [&](const char *titleKey, const QList<QAction *> &actions) {
+        auto *menu = bar.addMenu('&' + title(titleKey));
+        menu->addActions(actions);
+        return menu;
+    };
+    addMenu("Nerlo Pro", {about_, preferences_, rate_, hide_, quit_});
+    QMenu *clear = addMenu("Clear", {clean_, automatic_, excelException_, restore_});
+    clear->addSeparator();
+    clear->addMenu(operations_.get());
+    clear->addMenu(profiles_.get());
+    addMenu("Edit", QList<QAction *>(edit_.begin(), edit_.end()));
+    addMenu("Help", {tips_, whatsNew_, support_, email_});
+}
+
+void StatusMenu::setAutomatic(bool on) {
+    automatic_->setChecked(on);
+}
+
+void StatusMenu::setExcelException(bool on) {
+    excelException_->setChecked(on);
+}
+
+void StatusMenu::setProfiles(const QStringList &names, int selected) {
+    profiles_->clear();
+    for (int place = 0; place < names.size(); ++place) {
+        auto *action = profiles_->addAction(escaped(names[place]));
+        action->setCheckable(true);
+        action->setChecked(place == selected);
+        connect(action, &QAction::triggered, this, [this, place] {
+            if (commands_.selectProfile) {
+                commands_.selectProfile(place);
+            }
+        });
+    }
+}
+
+void StatusMenu::setCleanShortcut(const QKeySequence &keys) {
+    clean_->setShortcut(keys);
+    clean_->setShortcutVisibleInContextMenu(true);
+}
+
+std::vector<shortcuts::MenuItem> StatusMenu::mainMenu() const {
+    std::vector<shortcuts::MenuItem> items;
+    for (const QAction *action : {preferences_, quit_}) {
+        items.push_back(itemOf(*action));
+    }
+    shortcuts::MenuItem edit;
+    edit.title = title("Edit").toStdU16String();
+    for (const QAction *action : edit_) {
+        edit.submenu.push_back(itemOf(*action));
+    }
+    items.push_back(std::move(edit));
+    return items;
+}
+
+} // namespace nerlo::shell

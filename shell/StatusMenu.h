@@ -1,0 +1,82 @@
+// The menu of the status item and the menu bar of the preferences window, made of the same items.
+//
+// Main thread only.
+#pragma once
+
+#include "shortcuts/MenuItem.h"
+
+#include <QKeySequence>
+#include <QMenu>
+#include <QStringList>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QMenuBar;
+
+namespace nerlo::shell {
+
+struct MenuCommands {
+    std::function<void()> clean;
+    std::function<void()> automatic;
+    std::function<void()> excelException;
+    std::function<void()> restore;
+    std::function<void(std::int32_t index)> operation;
+    std::function<void(int place)> selectProfile;
+    std::function<void()> preferences;
+    std::function<void()> tips;
+    std::function<void()> whatsNew;
+    std::function<void()> rate;
+    std::function<void()> support;
+    std::function<void()> email;
+    std::function<void()> about;
+    std::function<void()> hide;
+    std::function<void()> quit;
+};
+
+class StatusMenu final : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit StatusMenu(MenuCommands commands);
+    ~StatusMenu() override;
+
+    QMenu &menu() { return *statusMenu; }
+    void fillMenuBar(QMenuBar &bar);
+
+    void setAutomatic(bool on);
+    void setExcelException(bool on);
+    // `selected` is -1 for none.
+    void setProfiles(const QStringList &names, int selected);
+    // Shown beside "Clear formating from clipboard".
+    void setCleanShortcut(const QKeySequence &keys);
+
+    // The items of the menu bar with their key equivalents, with which a shortcut may collide.
+    std::vector<shortcuts::MenuItem> mainMenu() const;
+
+  private:
+    QAction *add(const char *name, const char *title, const std::function<void()> &command);
+    void makeEditActions();
+
+    MenuCommands commands_;
+    std::unique_ptr<QMenu> statusMenu;
+    std::unique_ptr<QMenu> operations_;
+    std::unique_ptr<QMenu> profiles_;
+    QAction *clean_;
+    QAction *automatic_;
+    QAction *excelException_;
+    QAction *restore_;
+    QAction *preferences_;
+    QAction *tips_;
+    QAction *whatsNew_;
+    QAction *rate_;
+    QAction *support_;
+    QAction *email_;
+    QAction *about_;
+    QAction *hide_;
+    QAction *quit_;
+    std::vector<QAction *> edit_;
+};
+
+} // namespace nerlo::shell

@@ -1,0 +1,78 @@
+#include "shell/Strings.h"
+
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+namespace nerlo::shell {
+
+namespace {
+
+const char *contextOf(Table table) {
+    switch (table) {
+    case Table::menu:
+        return "Menu";
+    case Table::shortcut:
+        return "Shortcut";
+    case Table::standard:
+        break;
+    }
+    return "Localizable";
+}
+
+// The language that was found, empty for none.
+QString install(QCoreApplication &application, const QLocale &locale, const QString &name,
+                const QString &folder) {
+    auto *translator = new QTranslator(&application);
+    if (!translator->load(locale, name, QStringLiteral("_"), folder)) {
+        delete translator;
+        return {};
+    }
+    QCoreApplication::installTranslator(translator);
+    return translator->language();
+}
+
+} // namespace
+
+QString localized(Table table, std::string_view key) {
+    return QCoreApplication::translate(contextOf(table), std::string(key).c_str());
+}
+
+QString localized(std::string_view key) {
+    return localized(Table::standard, key);
+}
+
+QString filled(QString text, std::initializer_list<QString> values) {
+    const auto placeholder = QStringLiteral("%@");
+    qsizetype at = 0;
+    for (const QString &value : values) {
+        at = text.indexOf(placeholder, at);
+        if (at < 0) {
+            break;
+        }
+        text.replace(at, placeholder.size(), value);
+        at += value.size();
+    }
+    return text;
+}
+
+std::u16string localizedUtf16(Table table, std::u16string_view key) {
+    const auto utf8 = QStringView(key).toUtf8();
+    return localized(table, {utf8.data(), static_cast<std::size_t>(utf8.size())}).toStdU16String();
+}
+
+void installTranslations(QCoreApplication &application, const QLocale &locale) {
+    const auto folder = QStringLiteral(":/i18n");
+    // The translator that comes last is asked first.
+    install(application, QLocale(QLocale::English, QLocale::UnitedStates),
+            QStringLiteral("nerlo-pro"), folder);
+    install(application, locale, QStringLiteral("qtbase"),
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    const QString language = install(application, locale, QStringLiteral("nerlo-pro"), folder);
+    // The toolkit takes the direction from its own translations, which need not be installed.
+    if (!language.isEmpty()) {
+        QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    }
+}
+
+} // namespace nerlo::shell

@@ -1,0 +1,191 @@
+#include "shell/TipsWindow.h"
+
+#include "shell/Mnemonics.h"
+#include "shell/OptionRows.h"
+#include "shell/Strings.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace nerlo::shell {
+
+namespace {
+
+constexpr int tips = 6;
+constexpr QSize pictureSize{480, 270};
+constexpr int dotSize = 9;
+constexpr int dotDistance = 18;
+
+QString textOf(int page, const char *part) {
+    return localized("sTip" + std::to_string(page + 1) + part);
+}
+
+} // namespace
+
+PageDots::PageDots(int count)
+    : count_(count) {}
+
+void PageDots::setCurrent(int page) {
+    current_ = page;
+    update();
+}
+
+QSize PageDots::sizeHint() const {
+    return {count_ * dotDistance, dotDistance};
+}
+
+void PageDots::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int page = 0; page < count_; ++page) {
+        const int place = isRightToLeft() ? count_ - 1 - page : page;
+        QRectF dot(0, 0, dotSize, dotSize);
+        dot.moveCenter(QPointF((place + 0.5) * width() / count_, height() / 2.0));
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.setBrush(palette().color(page == current_ ? QPalette::Highlight : QPalette::Base));
+        painter.drawEllipse(dot);
+    }
+}
+
+void PageDots::mousePressEvent(QMouseEvent *event) {
+    const int place = std::clamp(
+        static_cast<int>(event->position().x()) * count_ / std::max(1, width()), 0, count_ - 1);
+    emit clicked(isRightToLeft() ? count_ - 1 - place : place);
+}
+
+TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
+    : closed_(std::move(closed))
+    , picture_(new QLabel)
+    , title_(new QLabel)
+    , text_(new QLabel)
+    , dots_(new PageDots(tips))
+    , previous_(new QPushButton(localized("sTipsPrevious")))
+    , next_(new QPushButton)
+    , atEachStart_(new QCheckBox(localized("sTipsAtStart"))) {
+    setObjectName("tipsWindow");
+    setWindowTitle(localized("sTipsWindow"));
+    picture_->setFixedSize(pictureSize);
+    picture_->setAlignment(Qt::AlignCenter);
+    QFont font = title_->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    title_->setFont(font);
+    title_->setObjectName("tipTitle");
+    title_->setAlignment(Qt::AlignCenter);
+    title_->setWordWrap(true);
+    text_->setObjectName("tipText");
+    text_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    text_->setWordWrap(true);
+    previous_->setObjectName("tipsPrevious");
+    next_->setObjectName("tipsNext");
+    dots_->setObjectName("tipsDots");
+    dots_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    atEachStart_->setObjectName("tipsAtStart");
+    atEachStart_->setAccessibleName(atEachStart_->text());
+    atEachStart_->setToolTip(plainTooltip(localized("sTipsAtStartTip")));
+    atEachStart_->setChecked(atEachStart);
+
+    // As much room as the longest tip needs, so that nothing moves when the page is turned.
+    int textHeight = 0;
+    text_->setFixedWidth(pictureSize.width());
+    for (int page = 0; page < tips; ++page) {
+        text_->setText(textOf(page, "Text"));
+        textHeight = std::max(textHeight, text_->heightForWidth(pictureSize.width()));
+    }
+    text_->setMinimumHeight(textHeight);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->setSpacing(12);
+    layout->addWidget(picture_, 0, Qt::AlignHCenter);
+    layout->addWidget(title_);
+    layout->addWidget(text_);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(previous_);
+    buttons->addStretch();
+    buttons->addWidget(dots_);
+    buttons->addStretch();
+    buttons->addWidget(next_);
+    layout->addLayout(buttons);
+    layout->addWidget(atEachStart_);
+
+    connect(previous_, &QPushButton::clicked, this, [this] { setPage(page_ - 1); });
+    connect(next_, &QPushButton::clicked, this, [this] {
+        if (page_ + 1 < tips) {
+            setPage(page_ + 1);
+        } else {
+            close();
+        }
+    });
+    connect(dots_, &PageDots::clicked, this, &TipsWindow::setPage);
+    std::set<QChar> used;
+    previous_->setText(withMnemonic(previous_->text(), used));
+    atEachStart_->setText(withMnemonic(atEachStart_->text(), used));
+    next_->setDefault(true);
+    showPage();
+}
+
+int TipsWindow::count() {
+    return tips;
+}
+
+void TipsWindow::setPage(int page) {
+    page_ = std::clamp(page, 0, tips - 1);
+    showPage();
+}
+
+void TipsWindow::showPage() {
+    const QIcon picture(":/tips/tip" + QString::number(page_ + 1) + ".svg");
+    picture_->setPixmap(picture.pixmap(pictureSize, devicePixelRatioF()));
+    title_->setText(textOf(page_, "Title"));
+    text_->setText(textOf(page_, "Text"));
+    picture_->setAccessibleName(title_->text());
+    dots_->setCurrent(page_);
+    dots_->setAccessibleName(
+        localized("sTipsPage").arg(locale().toString(page_ + 1), locale().toString(tips)));
+    previous_->setEnabled(page_ > 0);
+    const QString next = localized(page_ + 1 < tips ? "sTipsNext" : "sTipsDone");
+    next_->setText(next);
+    next_->setAccessibleName(next);
+    setAccessibleDescription(title_->text() + ". " + text_->text());
+}
+
+void TipsWindow::keyPressEvent(QKeyEvent *event) {
+    const int forward = isRightToLeft() ? -1 : 1;
+    switch (event->key()) {
+    case Qt::Key_Right:
+    case Qt::Key_PageDown:
+        setPage(page_ + (event->key() == Qt::Key_Right ? forward : 1));
+        break;
+    case Qt::Key_Left:
+    case Qt::Key_PageUp:
+        setPage(page_ - (event->key() == Qt::Key_Left ? forward : 1));
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+    }
+}
+
+void TipsWindow::hideEvent(QHideEvent *event) {
+    QDialog::hideEvent(event);
+    if (!event->spontaneous() && closed_) {
+        closed_(atEachStart_->isChecked());
+    }
+}
+
+void TipsWindow::changeEvent(QEvent *event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        showPage();
+    }
+}
+
+} // namespace nerlo::shell

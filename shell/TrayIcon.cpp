@@ -1,0 +1,146 @@
+#include "shell/TrayIcon.h"
+
+#include "shell/Strings.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QSystemTrayIcon>
+
+namespace nerlo::shell {
+
+namespace {
+
+const auto watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
+const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
+
+QString stateName(TrayState state) {
+    switch (state) {
+    case TrayState::automatic:
+        return QStringLiteral("automatic");
+    case TrayState::problem:
+        return QStringLiteral("problem");
+    case TrayState::idle:
+        break;
+    }
+    return QStringLiteral("idle");
+}
+
+} // namespace
+
+TrayIcon::TrayIcon(QMenu &menu)
+    : menu_(menu)
+    , watcher_(new QDBusServiceWatcher(watcherName, QDBusConnection::sessionBus(),
+                                       QDBusServiceWatcher::WatchForRegistration |
+                                           QDBusServiceWatcher::WatchForUnregistration,
+                                       this)) {
+    connect(watcher_, &QDBusServiceWatcher::serviceRegistered, this, &TrayIcon::lookForHost);
+    // The toolkit puts the icon back when the host returns.
+    connect(watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        hostGone_ = true;
+        hostSeen_ = false;
+    });
+    QDBusConnection::sessionBus().connect(watcherName, watcherPath, watcherName,
+                                          QStringLiteral("StatusNotifierHostRegistered"), this,
+                                          SLOT(lookForHost()));
+    lookForHost();
+}
+
+TrayIcon::~TrayIcon() = default;
+
+void TrayIcon::lookForHost() {
+    if (hostSeen_) {
+        return;
+    }
+    auto call = QDBusMessage::createMethodCall(watcherName, watcherPath,
+                                               QStringLiteral("org.freedesktop.DBus.Properties"),
+                                               QStringLiteral("Get"));
+    call.setAutoStartService(false);
+    call.setArguments({watcherName, QStringLiteral("IsStatusNotifierHostRegistered")});
+    auto *waiting =
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    connect(waiting, &QDBusPendingCallWatcher::finished, this, [this, waiting] {
+        waiting->deleteLater();
+        const QDBusPendingReply<QVariant> reply = *waiting;
+        if (!reply.isError() && reply.value().toBool()) {
+            trayAppeared();
+        }
+    });
+}
+
+void TrayIcon::trayAppeared() {
+    hostSeen_ = true;
+    hostGone_ = false;
+    if (wanted_ && !statusItem) {
+        make();
+    }
+}
+
+void TrayIcon::make() {
+    statusItem = std::make_unique<QSystemTrayIcon>(iconOf(state_));
+    statusItem->setObjectName("statusItem");
+    statusItem->setContextMenu(&menu_);
+    statusItem->setToolTip(tooltipOf(state_));
+    connect(statusItem.get(), &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                if (reason == QSystemTrayIcon::Trigger) {
+                    emit activated();
+                }
+            });
+    statusItem->show();
+    emit appeared();
+}
+
+void TrayIcon::show() {
+    wanted_ = true;
+    if (hostSeen_ && !statusItem) {
+        make();
+    }
+}
+
+void TrayIcon::drop() {
+    wanted_ = false;
+    statusItem.reset();
+}
+
+bool TrayIcon::shown() const {
+    return statusItem && !hostGone_;
+}
+
+void TrayIcon::setState(TrayState state) {
+    state_ = state;
+    if (statusItem) {
+        statusItem->setIcon(iconOf(state));
+        statusItem->setToolTip(tooltipOf(state));
+    }
+}
+
+QIcon TrayIcon::iconOf(TrayState state) {
+    // An icon of the theme is coloured by the panel. Without it, panels mostly are as dark as the
+    // windows.
+    const bool dark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+    QString name = QStringLiteral(":/icons/logo-menubar");
+    if (state != TrayState::idle) {
+        name += '-' + stateName(state);
+    }
+    const QIcon drawn(name + (dark ? "-white.svg" : ".svg"));
+    return QIcon::fromTheme("org.nerlo.NerloPro-" + stateName(state) + "-symbolic", drawn);
+}
+
+QString TrayIcon::tooltipOf(TrayState state) {
+    switch (state) {
+    case TrayState::automatic:
+        return localized("sTrayAutomatic");
+    case TrayState::problem:
+        return localized("sTrayProblem");
+    case TrayState::idle:
+        break;
+    }
+    return localized(Table::menu, "Nerlo Pro");
+}
+
+} // namespace nerlo::shell

@@ -1,0 +1,64 @@
+// The status item in the desktop's tray, once there is one: a StatusNotifierItem host or an XEmbed
+// tray, whichever comes first and whenever it comes.
+//
+// The toolkit looks for a host once, when its first icon is made; so none is made before. Main
+// thread only.
+#pragma once
+
+#include <QIcon>
+#include <QMenu>
+#include <QObject>
+#include <memory>
+
+class QDBusMessage;
+class QDBusServiceWatcher;
+class QSystemTrayIcon;
+
+namespace nerlo::shell {
+
+enum class TrayState { idle, automatic, problem };
+
+class TrayIcon final : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit TrayIcon(QMenu &menu);
+    ~TrayIcon() override;
+
+    // From now on the icon is shown as soon as a host is there.
+    void show();
+    void drop();
+    // Whether it stands in a tray now.
+    bool shown() const;
+    void setState(TrayState state);
+    TrayState state() const { return state_; }
+
+    static QIcon iconOf(TrayState state);
+    static QString tooltipOf(TrayState state);
+
+  public slots:
+    // An XEmbed tray is there.
+    void trayAppeared();
+
+  signals:
+    // A click that the desktop does not turn into the menu.
+    void activated();
+    // The icon came to stand in a tray.
+    void appeared();
+
+  private slots:
+    void lookForHost();
+
+  private:
+    void make();
+
+    QMenu &menu_;
+    QDBusServiceWatcher *watcher_;
+    bool wanted_ = false;
+    bool hostSeen_ = false;
+    bool hostGone_ = false; // it was there
+    TrayState state_ = TrayState::idle;
+    std::unique_ptr<QSystemTrayIcon> statusItem;
+};
+
+} // namespace nerlo::shell

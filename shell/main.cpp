@@ -1,0 +1,306 @@
+// nerlo-pro: makes everything that the program consists of, in order, and runs it.
+
+#include "engine/nrChangePasterboard.h"
+#include "platform/UserLocale.h"
+#include "platform/backends/Backends.h"
+#include "platform/linux/AutostartEntry.h"
+#include "platform/linux/DesktopHotKeys.h"
+#include "platform/linux/FileSettingsStore.h"
+#include "platform/linux/FolderWatch.h"
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtWorkerQueue.h"
+#include "settings/SettingsKeys.h"
+#include "settings/SettingsPaths.h"
+#include "settings/nrPreferences.h"
+#include "shell/BusService.h"
+#include "shell/CommandLine.h"
+#include "shell/Commands.h"
+#include "shell/DesktopShell.h"
+#include "shell/Doctor.h"
+#include "shell/HotKeyCommands.h"
+#include "shell/QuitSignals.h"
+#include "shell/Strings.h"
+#include "shell/nrAppDelegate.h"
+#include "shell/nrCountWindowController.h"
+#include "shell/nrPasteboardWatcher.h"
+#include "shortcuts/ShortcutTexts.h"
+#include "shortcuts/UserDefaultsHotKeys.h"
+#include "shortcuts/view/nrShortcutView.h"
+
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <string>
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QSysInfo>
+
+namespace {
+
+using namespace nerlo;
+
+constexpr int succeeded = 0;
+constexpr int failed = 1;
+constexpr int unusableArguments = 2;
+
+constexpr auto applicationId = "org.nerlo.NerloPro";
+
+int complain(const std::string &what) {
+    std::cerr << "nerlo-pro: " << what << std::endl;
+    return failed;
+}
+
+// A second start: the program that runs does what was asked.
+int handOver(const shell::CommandLine &commandLine) {
+    auto requests = commandLine.requests;
+    if (requests.empty()) {
+        requests.push_back({"Activate", {}});
+    }
+    for (const auto &request : requests) {
+        const auto answer = shell::askRunningProgram(request);
+        const auto text = answer.text.value_or(QString()).toStdString();
+        if (!answer.succeeded) {
+            return complain(text);
+        }
+        if (request.method == "Restore" &&
+            text != shell::nameOf(engine::nrChangePasterboard::Restored::done)) {
+            return complain("not restored: " + text);
+        }
+        if (request.method == "Doctor") {
+            std::cout << text;
+        } else if (request.method == "Automatic") {
+            std::cout << text << '\n';
+        }
+    }
+    return succeeded;
+}
+
+// The first start: what was asked is done once the event loop runs.
+void perform(const shell::CommandLine &commandLine, const shell::Commands &commands) {
+    for (const auto &request : commandLine.requests) {
+        if (request.method == "Clean") {
+            commands.clean();
+        } else if (request.method == "Operation") {
+            commands.operation(request.arguments.first().toInt());
+        } else if (request.method == "Automatic") {
+            const auto mode = request.arguments.first().toString().toStdString();
+            commands.automatic(shell::parseAutomaticMode(mode).value());
+        } else if (request.method == "Preferences") {
+            commands.preferences();
+        } else if (request.method == "Profile") {
+            const auto wanted = request.arguments.first().toString().toStdString();
+            if (!commands.profile(wanted)) {
+                complain("there is no profile '" + wanted + "'");
+            }
+        }
+    }
+}
+
+// What can be done without windows: the words of --help, and what a running program is asked.
+// Nothing when the program is to start.
+std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &commandLine) {
+    const QCoreApplication application(argc, argv);
+    commandLine = shell::parseCommandLine(QCoreApplication::arguments());
+    switch (commandLine.action) {
+    case shell::CommandLine::Action::help:
+    case shell::CommandLine::Action::version:
+        std::cout << commandLine.text.toStdString();
+        return succeeded;
+    case shell::CommandLine::Action::fail:
+        complain(commandLine.text.toStdString());
+        return unusableArguments;
+    case shell::CommandLine::Action::run:
+        break;
+    }
+    if (shell::programRuns()) {
+        return handOver(commandLine);
+    }
+    if (commandLine.asksFor("Quit")) {
+        return succeeded; // none runs
+    }
+    if (commandLine.asksFor("Restore")) {
+        return complain("not restored: the program was not running");
+    }
+    platform::QtMainQueue mainQueue;
+    const auto clipboard = platform::openPasteboard(mainQueue);
+    if (commandLine.asksFor("Doctor")) {
+        const auto activeApplication = platform::openActiveApplication(mainQueue);
+        const auto keyboardLayout = platform::openKeyboardLayout(mainQueue);
+        const auto hotKeys =
+            platform::openHotKeys(mainQueue, *keyboardLayout.backend, applicationId);
+        std::cout << shell::doctorReport(clipboard, activeApplication, hotKeys,
+                                         QDBusConnection::sessionBus().isConnected(), std::nullopt);
+        return clipboard.backend ? succeeded : failed;
+    }
+    // The toolkit would abort.
+    if (!clipboard.backend) {
+        for (const auto &why : clipboard.declined) {
+            complain(why);
+        }
+        return complain("there is no display whose clipboard could be cleaned");
+    }
+    return std::nullopt;
+}
+
+// Windows that a Wayland compositor places where it likes cannot be the statistics popup; those of
+// an X11 program can. Whoever sets the variable decides.
+void chooseWindowSystem() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+}
+
+shell::ProductLinks productLinks() {
+    return {NERLO_SUPPORT_PAGE, NERLO_DEVELOPER_EMAIL, NERLO_VERSION,
+            QSysInfo::prettyProductName().toStdString()};
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QCoreApplication::setApplicationName("nerlo-pro");
+    QCoreApplication::setApplicationVersion(NERLO_VERSION);
+    shell::CommandLine commandLine;
+    if (const auto status = withoutWindows(argc, argv, commandLine)) {
+        return *status;
+    }
+
+    chooseWindowSystem();
+    QApplication application(argc, argv);
+    QApplication::setDesktopFileName(applicationId);
+    QApplication::setQuitOnLastWindowClosed(false);
+    shell::installTranslations(application, QLocale::system());
+
+    shell::Commands commands;
+    shell::BusService bus(commands);
+    const auto name = bus.takeName();
+    if (name == shell::BusService::Name::taken) {
+        return handOver(commandLine);
+    }
+    if (name == shell::BusService::Name::noBus) {
+        complain("there is no session bus, so no other start of the program will find this one");
+    }
+
+    platform::QtMainQueue mainQueue;
+    platform::QtWorkerQueue workerQueue;
+    const auto clipboard = platform::openPasteboard(mainQueue);
+    if (!clipboard.backend) {
+        return complain("the display is gone");
+    }
+    const auto activeApplication = platform::openActiveApplication(mainQueue);
+    const auto keyboardLayout = platform::openKeyboardLayout(mainQueue);
+    const auto hotKeyService =
+        platform::openHotKeys(mainQueue, *keyboardLayout.backend, applicationId);
+
+    const auto paths = settings::SettingsPaths::standard();
+    platform::FileSettingsStore store(paths.store, &mainQueue);
+
+    engine::nrChangePasterboard engine(*clipboard.backend, mainQueue, workerQueue,
+                                       platform::userLocale());
+    engine.setCountWindowMaker(
+        [&] { return std::make_unique<shell::nrCountWindowController>(store, mainQueue); });
+    engine.setCleanedHandler([&] { bus.cleaned(); });
+    shell::nrPasteboardWatcher watcher(*clipboard.backend, mainQueue, *activeApplication.backend,
+                                       engine);
+
+    const shortcuts::ShortcutTexts shortcutTexts(
+        *keyboardLayout.backend,
+        [](std::u16string_view key) { return shell::localizedUtf16(shell::Table::shortcut, key); });
+    shortcuts::GlobalHotKeys globalHotKeys(*hotKeyService.backend, shortcutTexts);
+    shortcuts::UserDefaultsHotKeys hotKeys(store, globalHotKeys);
+    const auto systemHotKeys =
+        platform::createDesktopHotKeys(*keyboardLayout.backend, platform::DesktopSources::system());
+
+    settings::nrPreferences preferences(
+        store, mainQueue, paths,
+        [](std::u16string_view key) { return shell::localizedUtf16(shell::Table::standard, key); },
+        settings::firstLanguage(store));
+    preferences.hooks().setAllBools = [&](const auto &profile) { engine.setAllBools(profile); };
+    preferences.hooks().setDefaultShortcut = [&] { shell::setDefaultShortcut(hotKeys); };
+
+    shell::DesktopShell windows({store, mainQueue, workerQueue, preferences, engine, hotKeys,
+                                 shortcutTexts, platform::userLocale(), NERLO_VERSION, QString()});
+    const shortcuts::ShortcutViewContext recording{
+        shortcutTexts, *systemHotKeys, hotKeys, [&] { return windows.menu().mainMenu(); }, {}, {}};
+    windows.setRecorderMaker([&](const std::string &key) {
+        auto *recorder = new shortcuts::nrShortcutView(recording);
+        recorder->setAssociatedUserDefaultsKey(key);
+        return recorder;
+    });
+    const auto configFolder = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
+    platform::AutostartEntry loginItem(configFolder.toStdString() + "/autostart",
+                                       QCoreApplication::applicationFilePath().toStdString());
+
+    shell::nrAppDelegate delegate(
+        {store, mainQueue, preferences, engine, watcher, loginItem, windows, productLinks()});
+    windows.setDelegate(&delegate);
+    preferences.initProfilesItems();
+    const platform::FolderWatch storeWatch(std::filesystem::path(paths.store).parent_path(),
+                                           mainQueue, [&] { store.fileChanged(); });
+    const platform::FolderWatch profilesWatch(std::filesystem::path(paths.profiles).parent_path(),
+                                              mainQueue,
+                                              [&] { preferences.profilesFileChanged(); });
+
+    commands.clean = [&] { delegate.clearFormattingFromClipboard(); };
+    commands.operation = [&](std::int32_t index) { engine.changePasteboardWithKeys(index); };
+    commands.restore = [&](auto handler) { engine.restore(std::move(handler)); };
+    commands.automatic = [&](shell::AutomaticMode mode) {
+        const bool on = mode == shell::AutomaticMode::on ||
+                        (mode == shell::AutomaticMode::toggle && !delegate.automatic());
+        if (on != delegate.automatic()) {
+            delegate.automaticallyClearFormatting();
+        }
+        return on;
+    };
+    commands.activate = [&] { delegate.applicationShouldHandleReopen(windows.hasVisibleWindow()); };
+    commands.preferences = [&] { delegate.showPreferences(); };
+    commands.profile = [&](const std::string &wanted) {
+        const auto &items = preferences.profilesItems();
+        const auto *item = settings::findProfile(items, wanted);
+        if (item) {
+            preferences.savePending();
+            preferences.profilesSelect(static_cast<int>(item - items.data()));
+        }
+        return item != nullptr;
+    };
+    commands.automaticNow = [&] { return delegate.automatic(); };
+    commands.profileNow = [&] {
+        return QString::fromStdU16String(preferences.profileName()).toStdString();
+    };
+    commands.backend = [&] { return clipboard.backend->description(); };
+    commands.doctor = [&] {
+        return shell::doctorReport(clipboard, activeApplication, hotKeyService,
+                                   name == shell::BusService::Name::ours, delegate.automatic());
+    };
+    commands.quit = [&] { mainQueue.post(&QCoreApplication::quit); };
+    delegate.setQuitHandler(commands.quit);
+
+    const shell::QuitSignals quitSignals(commands.quit);
+    clipboard.backend->setLostHandler([] {
+        complain("the display is gone");
+        QCoreApplication::exit(failed);
+    });
+    const auto refusals =
+        shell::reportRefusedHotKeys(hotKeys, [](const std::string &line) { complain(line); });
+    shell::registerHotKeyCommands(hotKeys, commands, [](std::string_view key) {
+        return shell::localized(key).toStdString();
+    });
+
+    delegate.applicationWillFinishLaunching();
+    delegate.applicationDidFinishLaunching();
+    windows.start();
+    // Another process may have written the setting.
+    constexpr auto automaticKey = "automaticallyClearFormatting";
+    const auto automaticMode = store.observe(automaticKey, [&] {
+        if (store.boolForKey(automaticKey) != delegate.automatic()) {
+            delegate.automaticallyClearFormatting();
+        }
+    });
+    perform(commandLine, commands);
+    const int status = QCoreApplication::exec();
+    preferences.savePending();
+    return status;
+}

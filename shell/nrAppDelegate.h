@@ -1,0 +1,116 @@
+// The application's delegate: what happens at the start, in which order, and what each command of
+// the menus does.
+//
+// It knows no toolkit: windows and the status item are reached through ShellWindows. Main thread
+// only.
+#pragma once
+
+#include "engine/nrChangePasterboard.h"
+#include "platform/LoginItem.h"
+#include "platform/MainQueue.h"
+#include "platform/SettingsStore.h"
+#include "settings/nrPreferences.h"
+#include "shell/ShellWindows.h"
+#include "shell/nrPasteboardWatcher.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace nerlo::shell {
+
+// UTF-8.
+struct ProductLinks {
+    std::string supportPage;
+    std::string email; // a mailto link with a subject that names the product
+    std::string version;
+    std::string systemName; // "Debian GNU/Linux 12 (bookworm)"
+};
+
+// Settings of the desktop program that no other part of it reads.
+inline constexpr const char *runInTheBackgroundKey = "runInTheBackground";
+inline constexpr const char *disableAutomaticKey = "disableAutomaticallyClearFormatting";
+
+class nrAppDelegate {
+  public:
+    struct Parts {
+        platform::SettingsStore &userDef;
+        platform::MainQueue &mainQueue;
+        settings::nrPreferences &preferences;
+        engine::nrChangePasterboard &engine;
+        nrPasteboardWatcher &watcher;
+        platform::LoginItem &loginItem;
+        ShellWindows &windows;
+        ProductLinks links;
+    };
+
+    // Runs the first start's set-up, or the conversion of an older version's settings.
+    explicit nrAppDelegate(Parts parts);
+    ~nrAppDelegate();
+    nrAppDelegate(const nrAppDelegate &) = delete;
+    nrAppDelegate &operator=(const nrAppDelegate &) = delete;
+
+    void applicationWillFinishLaunching();
+    void applicationDidFinishLaunching();
+    // The program was started again. Always yes.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
+    // Called once it is known whether the desktop has a tray.
+    void traySettled();
+
+    // The check marks.
+    bool automatic() const { return automatic_; }
+    bool excelException() const { return excelException_; }
+    bool showInMenuBarChecked() const;
+    bool runInTheBackgroundChecked() const;
+
+    // The commands of the menus, and the check boxes of the preferences.
+    void clearFormattingFromClipboard();
+    void automaticallyClearFormatting();
+    void disableAutomaticallyClearFormatting();
+    void showPreferences();
+    void openAboutApp();
+    void quitApp();
+    void supportWebsite();
+    void openEmailToDev();
+    void openRateApp() {} // there is no shop to rate it in
+    void aOpenTips();
+    void openReleaseNotesNerloPro();
+    void aStayOnTop(bool on);
+    void launchOnStartup(bool on);
+    // The user ticked or cleared one of the two visibility boxes.
+    void setShowInMenuBar(bool on);
+    void setRunInTheBackground(bool on);
+
+    void newPreferencesWindow();
+    // Empty when done, else what went wrong.
+    std::string setStartAtLogin(bool on);
+    // Ends the program; set by main().
+    void setQuitHandler(std::function<void()> quit) { quit_ = std::move(quit); }
+
+    // The complete link of openEmailToDev().
+    static std::string emailLink(const ProductLinks &links);
+
+  private:
+    void showInMenuBar();
+    void openPreferencesInFirstRun();
+    void openTipsInFirstRun();
+    void watchPasteboard();
+    void stopWatchPasteboard();
+    void setStatusBar();
+
+    platform::SettingsStore &userDef;
+    platform::MainQueue &mainQueue_;
+    engine::nrChangePasterboard &engine_;
+    nrPasteboardWatcher &watcher_;
+    platform::LoginItem &loginItem_;
+    ShellWindows &windows_;
+    const ProductLinks links_;
+    std::function<void()> quit_;
+
+    bool appOpened = false; // false until the first showInMenuBar() has ended
+    bool automatic_ = false;
+    bool excelException_ = false;
+    platform::MainQueue::TaskId bringBack_ = 0;
+};
+
+} // namespace nerlo::shell

@@ -1,0 +1,215 @@
+#include "shell/nrCountWindowController.h"
+
+#include "shell/Strings.h"
+
+#include <QCursor>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+namespace nerlo::shell {
+
+namespace {
+
+constexpr double cornerRadius = 10.0;
+constexpr double backgroundOpacity = 0.75;
+constexpr std::int64_t defaultDelay = 5; // seconds
+
+// The screen with the pointer, or the first one; its rectangles with the origin at the bottom left.
+struct Screen {
+    MainScreen screen;
+    double bottom = 0; // the toolkit's y of the origin, whose axis points down
+
+    ScreenPoint fromToolkit(QPoint point) const {
+        return {static_cast<double>(point.x()), bottom - point.y()};
+    }
+};
+
+Screen mainScreen(QPoint pointer) {
+    const QScreen *screen = QGuiApplication::screenAt(pointer);
+    if (!screen) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    if (!screen) {
+        return {};
+    }
+    const QRectF frame = screen->geometry();
+    const QRectF visible = screen->availableGeometry();
+    const double bottom = frame.bottom();
+    const auto flipped = [&](const QRectF &rect) {
+        return ScreenRect{rect.x(), bottom - rect.bottom(), rect.width(), rect.height()};
+    };
+    return {{flipped(frame), flipped(visible), visible.top() - frame.top()}, bottom};
+}
+
+} // namespace
+
+QPainterPath nrRoundedView::shape(QSize size) {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(QPointF(0, 0), size), cornerRadius, cornerRadius);
+    return path;
+}
+
+void nrRoundedView::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(rect(), Qt::transparent);
+    painter.fillPath(shape(size()), QColor::fromRgbF(0, 0, 0, backgroundOpacity));
+}
+
+nrTransparentWindow::nrTransparentWindow(const platform::SettingsStore &def_,
+                                         platform::MainQueue &mainQueue, PopupLayer *layer)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                           Qt::NoDropShadowWindowHint | Qt::WindowDoesNotAcceptFocus)
+    , def(def_)
+    , mainQueue_(mainQueue)
+    , layer_(layer) {
+    setObjectName("countWindow");
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+nrTransparentWindow::~nrTransparentWindow() {
+    closeCountWindow();
+}
+
+void nrTransparentWindow::windowPosition() {
+    const QPoint pointer = QCursor::pos();
+    const Screen screen = mainScreen(pointer);
+    const ScreenPoint origin =
+        popupOrigin(def.integerForKey("udStatisticsDefaultPosition"), screen.screen, width(),
+                    height(), screen.fromToolkit(pointer));
+    move(static_cast<int>(std::lround(origin.x)),
+         static_cast<int>(std::lround(screen.bottom - origin.y - height())));
+}
+
+std::int64_t nrTransparentWindow::delayForCountWindow() const {
+    const auto seconds = def.integerForKey("udStatisticsValue");
+    return seconds == 0 ? defaultDelay : seconds;
+}
+
+void nrTransparentWindow::open() {
+    open_ = true;
+    adjustSize();
+    if (layer_) {
+        layer_->show(grab().toImage(), def.integerForKey("udStatisticsDefaultPosition"),
+                     [this] { closeCountWindow(); });
+    } else {
+        windowPosition();
+        show();
+    }
+    if (def.integerForKey("udStatisticsDelaySwitcher") != 0) {
+        // A day is longer than anybody looks; more seconds than that would overflow the clock.
+        constexpr std::int64_t longest = 24 * 60 * 60;
+        const std::chrono::seconds delay(
+            std::clamp<std::int64_t>(delayForCountWindow(), 0, longest));
+        close_ = mainQueue_.postAfter(delay, [this] {
+            close_ = 0;
+            closeCountWindow();
+        });
+    }
+}
+
+void nrTransparentWindow::closeCountWindow() {
+    if (!std::exchange(open_, false)) {
+        return;
+    }
+    mainQueue_.cancel(std::exchange(close_, 0));
+    if (layer_) {
+        layer_->hide();
+    } else {
+        hide();
+    }
+}
+
+void nrTransparentWindow::mousePressEvent(QMouseEvent *event) {
+    event->accept();
+    closeCountWindow();
+}
+
+void nrTransparentWindow::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    // Where nothing blends windows, what is transparent would be black.
+    QRegion shape(nrRoundedView::shape(size()).toFillPolygon().toPolygon());
+    setMask(shape);
+}
+
+nrCountWindowController::nrCountWindowController(const platform::SettingsStore &settings,
+                                                 platform::MainQueue &mainQueue, PopupLayer *layer)
+    : window_(std::make_unique<nrTransparentWindow>(settings, mainQueue, layer)) {
+    auto *around = new QGridLayout(window_.get());
+    around->setContentsMargins(0, 0, 0, 0);
+    auto *view = new nrRoundedView;
+    around->addWidget(view);
+    auto *layout = new QGridLayout(view);
+    layout->setContentsMargins(18, 12, 18, 12);
+    layout->setHorizontalSpacing(14);
+    layout->setVerticalSpacing(3);
+
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, Qt::white);
+    int row = 0;
+    const auto addRow = [&](QLabel *&label, QLabel *&value, const char *name) {
+        label = new QLabel;
+        value = new QLabel;
+        label->setPalette(palette);
+        value->setPalette(palette);
+        label->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+        value->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+        value->setObjectName(name);
+        value->setTextFormat(Qt::PlainText);
+        QFont bold = value->font();
+        bold.setBold(true);
+        value->setFont(bold);
+        layout->addWidget(label, row, 0);
+        layout->addWidget(value, row, 1);
+        ++row;
+    };
+    addRow(charsTextField, countCharsTextField, "countChars");
+    addRow(spacesTextField, countSpacesTextField, "countSpaces");
+    addRow(wordsTextField, countWordsTextField, "countWords");
+    addRow(paragraphsTextField, countParagraphsTextField, "countParagraphs");
+    localizations();
+}
+
+nrCountWindowController::~nrCountWindowController() = default;
+
+void nrCountWindowController::countToTextFields(std::u16string characters, std::u16string spaces,
+                                                std::u16string words, std::u16string paragraphs) {
+    const auto set = [](QLabel *label, QLabel *value, const std::u16string &text) {
+        value->setText(QString::fromStdU16String(text));
+        value->setAccessibleName(label->text() + ' ' + value->text());
+    };
+    set(charsTextField, countCharsTextField, characters);
+    set(spacesTextField, countSpacesTextField, spaces);
+    set(wordsTextField, countWordsTextField, words);
+    set(paragraphsTextField, countParagraphsTextField, paragraphs);
+}
+
+void nrCountWindowController::showWindow() {
+    window_->open();
+}
+
+void nrCountWindowController::localizations() {
+    const auto set = [](QLabel *label, std::string_view key) {
+        label->setText(filled(QStringLiteral("%@:"), {localized(key)}));
+    };
+    set(charsTextField, "sChars");
+    set(spacesTextField, "sSpaces");
+    set(wordsTextField, "sWords");
+    set(paragraphsTextField, "sParagraphs");
+    window_->setWindowTitle(localized("sCountWindow"));
+    window_->setAccessibleName(localized("sCountWindow"));
+    window_->setToolTip(localized("sCountWindowTip"));
+}
+
+} // namespace nerlo::shell

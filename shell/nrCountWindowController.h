@@ -1,0 +1,103 @@
+// The statistics popup: four counts in a small dark window that does not take the focus.
+//
+// Main thread only.
+#pragma once
+
+#include "engine/nrChangePasterboard.h"
+#include "platform/MainQueue.h"
+#include "platform/SettingsStore.h"
+#include "shell/PopupPlacement.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace nerlo::shell {
+
+// Shows a picture above all windows, where the window system offers a better way than a window of
+// the toolkit's (Wayland, where a program does not place its own windows).
+class PopupLayer {
+  public:
+    virtual ~PopupLayer() = default;
+    // Replaces what is shown. `position` is a place in the list of popup positions; `margins` are
+    // the toolkit's pixels that the pointer placement found; `clicked` runs on the main thread.
+    virtual void show(const QImage &picture, std::int64_t position,
+                      std::function<void()> clicked) = 0;
+    virtual void hide() = 0;
+};
+
+// The background: a rounded rectangle, black at 75 % opacity.
+class nrRoundedView final : public QWidget {
+  public:
+    using QWidget::QWidget;
+    // The shape that a window of this size has.
+    static QPainterPath shape(QSize size);
+
+  protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+// The borderless window: its placement, level and end.
+class nrTransparentWindow final : public QWidget {
+    Q_OBJECT
+
+  public:
+    nrTransparentWindow(const platform::SettingsStore &def, platform::MainQueue &mainQueue,
+                        PopupLayer *layer);
+    ~nrTransparentWindow() override;
+
+    // Puts the window, in its present size, where the settings say.
+    void windowPosition();
+    // In seconds.
+    std::int64_t delayForCountWindow() const;
+    // Shows it, and schedules its end if the settings say so.
+    void open();
+    // Nothing happens if it is closed.
+    void closeCountWindow();
+
+    bool isOpen() const { return open_; }
+
+  protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+  private:
+    const platform::SettingsStore &def;
+    platform::MainQueue &mainQueue_;
+    PopupLayer *layer_;
+    platform::MainQueue::TaskId close_ = 0;
+    bool open_ = false;
+};
+
+class nrCountWindowController final : public engine::CountWindow {
+  public:
+    // `layer` may be null. All must outlive this.
+    nrCountWindowController(const platform::SettingsStore &settings, platform::MainQueue &mainQueue,
+                            PopupLayer *layer = nullptr);
+    ~nrCountWindowController() override;
+
+    // The texts are shown as they are.
+    void countToTextFields(std::u16string characters, std::u16string spaces, std::u16string words,
+                           std::u16string paragraphs) override;
+    void showWindow() override;
+
+    nrTransparentWindow &window() { return *window_; }
+
+  private:
+    void localizations();
+
+    std::unique_ptr<nrTransparentWindow> window_;
+    QLabel *charsTextField;
+    QLabel *spacesTextField;
+    QLabel *wordsTextField;
+    QLabel *paragraphsTextField;
+    QLabel *countCharsTextField;
+    QLabel *countSpacesTextField;
+    QLabel *countWordsTextField;
+    QLabel *countParagraphsTextField;
+};
+
+} // namespace nerlo::shell

@@ -1,0 +1,263 @@
+#include "shell/nrAppDelegate.h"
+
+#include "engine/Operations.h"
+#include "settings/SettingsKeys.h"
+#include "shell/PreferencesLayout.h"
+#include "tests/shell/ShellFixture.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace nerlo::shell {
+namespace {
+
+using namespace std::chrono_literals;
+using Calls = std::vector<std::string>;
+
+// Keeps a line for each call but stateChanged.
+class RecordedWindows final : public ShellWindows {
+  public:
+    Calls calls;
+    bool reachable = true;
+    bool visible = false;
+
+    void showStatusItem() override { calls.push_back("item"); }
+    void dropStatusItem() override { calls.push_back("no item"); }
+    bool statusItemReachable() const override { return reachable; }
+    void setTaskbarEntry(bool shown) override { calls.push_back(shown ? "entry" : "no entry"); }
+    void showPreferencesWindow() override { calls.push_back("preferences"); }
+    bool hasVisibleWindow() const override { return visible; }
+    void setFloating(bool on) override { calls.push_back(on ? "floats" : "does not float"); }
+    void showTips() override { calls.push_back("tips"); }
+    void showWhatsNew() override { calls.push_back("what's new"); }
+    void showAbout() override { calls.push_back("about"); }
+    void showAlert(const char *message, const char *informative) override {
+        calls.push_back(std::string(message) + " / " + informative);
+    }
+    bool openUrl(const std::string &url) override {
+        calls.push_back(url);
+        return true;
+    }
+    void stateChanged() override {}
+    Calls take() { return std::exchange(calls, {}); }
+};
+
+class MemoryLoginItem final : public platform::LoginItem {
+  public:
+    std::string setEnabled(bool on) override {
+        on_ = on;
+        return {};
+    }
+    bool enabled() const override { return on_; }
+
+  private:
+    bool on_ = false;
+};
+
+class AppDelegate : public ShellFixture {
+  protected:
+    RecordedWindows windows;
+    MemoryLoginItem loginItem;
+    std::unique_ptr<nrAppDelegate> delegate;
+
+    void start() {
+        delegate = std::make_unique<nrAppDelegate>(nrAppDelegate::Parts{
+            store,
+            queue,
+            preferences,
+            engine,
+            watcher,
+            loginItem,
+            windows,
+            {"https://page", "mailto:a@b?subject=Nerlo Pro", "1.2", "Debian 12"}});
+        delegate->applicationWillFinishLaunching();
+        delegate->applicationDidFinishLaunching();
+    }
+    // A start that is not the first, with nothing to tell.
+    void startAgain() {
+        store.set("firstRunPreferences", true);
+        store.set("firstRunPreferencesProfiles", true);
+        store.set("firstRunTips", false);
+        store.set("updateReleaseNotes3_1", true);
+        start();
+    }
+};
+
+TEST_F(AppDelegate, TheFirstStartShowsItselfInOrder) {
+    start();
+    EXPECT_EQ(windows.take(),
+              (Calls{"item", "no entry", "preferences", "does not float", "item", "tips"}));
+    EXPECT_TRUE(store.boolForKey("firstRunPreferences"));
+    EXPECT_TRUE(store.boolForKey("updateReleaseNotes3_1"));
+    EXPECT_TRUE(store.boolForKey("showInMenubar"));
+    EXPECT_FALSE(watcher.running());
+    ASSERT_TRUE(std::filesystem::exists(folder / "Data/profiles.nrp"));
+}
+
+TEST_F(AppDelegate, LaterStartsFollowTheSettings) {
+    const struct {
+        const char *shows;
+        std::vector<std::pair<const char *, bool>> settings;
+        Calls calls;
+    } rows[] = {
+        {"an item", {{"showInMenubar", true}}, {"item", "no entry", "item"}},
+        {"no item: an entry in the taskbar", {{"showInMenubar", false}}, {"no item", "entry"}},
+        {"the background: neither, and the other setting stays",
+         {{"showInMenubar", true}, {"runInTheBackground", true}},
+         {"no item", "no entry", "item"}},
+    };
+    for (const auto &row : rows) {
+        for (const auto &[key, on] : row.settings) {
+            store.set(key, on);
+        }
+        startAgain();
+        EXPECT_EQ(windows.take(), row.calls) << row.shows;
+        EXPECT_EQ(store.boolForKey("showInMenubar"), row.settings.front().second) << row.shows;
+    }
+}
+
+TEST_F(AppDelegate, ReleaseNotesOnceAfterAnUpdateAndTipsWhenAsked) {
+    store.set("firstRunPreferences", true);
+    store.set("firstRunPreferencesProfiles", true);
+    store.set("firstRunTips", false);
+    start();
+    EXPECT_EQ(windows.take().back(), "what's new");
+    store.set("firstRunTips", true);
+    start();
+    EXPECT_EQ(windows.take().back(), "tips");
+}
+
+TEST_F(AppDelegate, TheVisibilityBoxes) {
+    store.set("showInMenubar", true);
+    startAgain();
+    windows.take();
+    delegate->setRunInTheBackground(true);
+    EXPECT_EQ(windows.take(), (Calls{"no item", "no entry"}));
+    EXPECT_FALSE(store.boolForKey("showInMenubar"));
+    delegate->setRunInTheBackground(false);
+    EXPECT_EQ(windows.take(), (Calls{"no item", "entry"}));
+    delegate->setShowInMenuBar(true);
+    EXPECT_EQ(windows.take(), (Calls{"item", "no entry"}));
+    queue.advance(99ms);
+    EXPECT_EQ(windows.take(), Calls{});
+    queue.advance(1ms);
+    EXPECT_EQ(windows.take(), (Calls{"preferences", "does not float"}));
+}
+
+TEST_F(AppDelegate, TheAutomaticModeIsKeptAndStartsAFreshWatch) {
+    startAgain();
+    for (const bool on : {true, false, true}) {
+        delegate->automaticallyClearFormatting();
+        EXPECT_EQ(watcher.running(), on);
+        EXPECT_EQ(delegate->automatic(), on);
+        EXPECT_EQ(store.boolForKey("automaticallyClearFormatting"), on);
+    }
+    watcher.stop();
+    startAgain();
+    EXPECT_TRUE(watcher.running());
+    EXPECT_TRUE(delegate->automatic());
+}
+
+TEST_F(AppDelegate, TheSpreadsheetExceptionSaysSoWhenItIsSwitchedOn) {
+    startAgain();
+    windows.take();
+    delegate->disableAutomaticallyClearFormatting();
+    EXPECT_EQ(windows.take(),
+              Calls{"Excel disabled / With option \"Automatically clear formatting\""});
+    EXPECT_TRUE(delegate->excelException());
+    const int subscriptions = activeApplication.subscriptions;
+    delegate->disableAutomaticallyClearFormatting();
+    EXPECT_EQ(windows.take(), Calls{});
+    EXPECT_GT(activeApplication.subscriptions, subscriptions);
+    delegate->disableAutomaticallyClearFormatting();
+    windows.take();
+    startAgain();
+    EXPECT_TRUE(delegate->excelException());
+}
+
+TEST_F(AppDelegate, IsNeverUnreachable) {
+    const struct {
+        const char *shows;
+        bool item;
+        bool window;
+        bool opensWhenSettled;
+        bool opensWhenStartedAgain;
+    } rows[] = {
+        {"item, no window", true, false, false, true},
+        {"item and window", true, true, false, false},
+        {"neither", false, false, true, true},
+        {"a window without an item comes to the front", false, true, false, true},
+    };
+    startAgain();
+    for (const auto &row : rows) {
+        windows.reachable = row.item;
+        windows.visible = row.window;
+        windows.take();
+        delegate->traySettled();
+        EXPECT_EQ(!windows.take().empty(), row.opensWhenSettled) << row.shows;
+        EXPECT_TRUE(delegate->applicationShouldHandleReopen(row.window));
+        EXPECT_EQ(!windows.take().empty(), row.opensWhenStartedAgain) << row.shows;
+    }
+}
+
+TEST_F(AppDelegate, SmallCommands) {
+    startAgain();
+    windows.take();
+    delegate->supportWebsite();
+    delegate->openEmailToDev();
+    delegate->openAboutApp();
+    delegate->openRateApp();
+    delegate->aStayOnTop(true);
+    delegate->showPreferences();
+    EXPECT_EQ(windows.take(),
+              (Calls{"https://page", "mailto:a@b?subject=Nerlo%20Pro%20v1.2%20-%20Debian%2012",
+                     "about", "floats", "preferences", "floats"}));
+    EXPECT_EQ(nrAppDelegate::emailLink({"", "m", "1", "Version 14 (Version B)"}),
+              "m%20v1%20-%2014%20(B)");
+    delegate->launchOnStartup(true);
+    EXPECT_TRUE(loginItem.enabled());
+    EXPECT_TRUE(store.boolForKey("lunchOnStartup"));
+    delegate->launchOnStartup(false);
+    EXPECT_FALSE(loginItem.enabled());
+    int quits = 0;
+    delegate->setQuitHandler([&] { ++quits; });
+    delegate->quitApp();
+    EXPECT_EQ(quits, 1);
+    pasteboard.copyText("two  spaces");
+    preferences.initProfilesItems();
+    engine.setAllBools(settings::firstStartProfile("en"));
+    delegate->clearFormattingFromClipboard();
+    queue.runPosted();
+    worker.runAll();
+    queue.runPosted();
+    EXPECT_EQ(pasteboard.bytes("UTF8_STRING"), "two spaces");
+}
+
+TEST(PreferencesLayout, EveryOptionHasOnePlaceAndEveryOperationOneShortcut) {
+    std::map<std::string, int> options;
+    std::map<std::string, int> hotKeys;
+    for (const PreferencesPage &page : preferencesPages()) {
+        for (const OptionRow &row : page.rows) {
+            ++options[row.key];
+            ++hotKeys[row.hotKey];
+            for (const std::string &key : row.dependents) {
+                ++options[key];
+            }
+        }
+    }
+    for (const settings::SettingsKey &key : settings::profileKeys()) {
+        // The profile's name stands in the selector; the box of the one list beside its list.
+        const bool elsewhere = key.kind == settings::SettingKind::List ||
+                               key.key == "profileName" || key.key == "sOnlyOneProfile";
+        EXPECT_EQ(options[key.key], elsewhere ? 0 : 1) << key.key;
+    }
+    for (const engine::Operation &operation : engine::operations()) {
+        EXPECT_EQ(hotKeys[std::string(operation.hotKey)], 1) << operation.hotKey;
+    }
+}
+
+} // namespace
+} // namespace nerlo::shell

@@ -1,0 +1,429 @@
+#include "shell/PreferencesWindow.h"
+
+#include "engine/Operations.h"
+#include "shell/Alerts.h"
+#include "shell/FindReplaceTable.h"
+#include "shell/Mnemonics.h"
+#include "shell/StatusMenu.h"
+#include "shell/Strings.h"
+#include "shell/TextDiff.h"
+#include "shell/TipsWindow.h"
+#include "tests/shell/ShellFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QAction>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QTest>
+#include <set>
+
+namespace nerlo::shell {
+namespace {
+
+using namespace std::chrono_literals;
+
+class Preferences : public ShellFixture {
+  protected:
+    std::unique_ptr<PreferencesWindow> window;
+    std::optional<std::u16string> clipboard;
+    int cleans = 0;
+
+    void SetUp() override {
+        preferences.firstRunCombobox();
+        preferences.initProfilesItems();
+        open();
+    }
+    void TearDown() override { setAlertAnswers({}); }
+
+    void open() {
+        window = std::make_unique<PreferencesWindow>(
+            preferences, store, [](const std::string &) { return new QLineEdit; }, GeneralActions{},
+            PreviewParts{queue, worker, "en_US", [this](auto handler) { handler(clipboard); },
+                         [this] { ++cleans; }});
+        auto &hooks = preferences.hooks();
+        hooks.profilesChanged = [this] { window->profilesChanged(); };
+        hooks.controlsLoaded = [this] { window->controlsLoaded(); };
+        hooks.updateUI = [this](int mode) { window->updateUI(mode); };
+        hooks.confirmRemoval = [this](const auto &name) { return window->confirmRemoval(name); };
+        window->show();
+    }
+    template <class Widget>
+    Widget &control(const char *name) {
+        auto *widget = window->findChild<Widget *>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+    std::int64_t stored(const char *key) {
+        const auto *value = preferences.profileSelected().find(key);
+        return value ? value->integerValue() : 0;
+    }
+    void showPage(int page) { control<QListWidget>("pageList").setCurrentRow(page); }
+    // Runs the preview to its end.
+    QString previewed(const QString &text) {
+        window->preview().setBefore(text);
+        queue.advance(1s);
+        worker.runAll();
+        queue.runPosted();
+        return window->preview().after();
+    }
+};
+
+TEST_F(Preferences, AnEditReachesTheProfileAfterItsDelay) {
+    auto &box = control<QCheckBox>("udSort");
+    EXPECT_FALSE(box.isChecked());
+    box.click();
+    queue.advance(999ms);
+    EXPECT_EQ(stored("udSort"), 0);
+    queue.advance(1ms);
+    EXPECT_EQ(stored("udSort"), 1);
+    control<QComboBox>("udSortOption").setCurrentIndex(3);
+    EXPECT_EQ(stored("udSortOption"), 3);
+    auto &seconds = control<QSpinBox>("udStatisticsValue");
+    EXPECT_EQ(seconds.value(), 3);
+    seconds.setValue(8);
+    EXPECT_EQ(store.integerForKey("udStatisticsValue"), 8);
+}
+
+TEST_F(Preferences, WhatDependsOnABoxIsDimmed) {
+    const auto enabled = [&](const char *name) { return control<QWidget>(name).isEnabled(); };
+    EXPECT_FALSE(enabled("udSortSeparator"));
+    control<QCheckBox>("udSort").click();
+    EXPECT_TRUE(enabled("udSortSeparator"));
+    EXPECT_FALSE(enabled("udSortCustomSeparator"));
+    control<QComboBox>("udSortSeparator").setCurrentIndex(8);
+    EXPECT_TRUE(enabled("udSortCustomSeparator"));
+
+    // The fields beside the list of returns: none, one, two.
+    auto &returns = control<QComboBox>("udChangeReturnsOption");
+    ASSERT_EQ(returns.count(), 10);
+    auto &second = control<QLineEdit>("udChangeReturnsCustom2");
+    EXPECT_FALSE(enabled("udChangeReturnsCustom1"));
+    returns.setCurrentIndex(6);
+    EXPECT_TRUE(enabled("udChangeReturnsCustom1"));
+    EXPECT_TRUE(second.isHidden());
+    returns.setCurrentIndex(9);
+    EXPECT_EQ(control<QLineEdit>("udChangeReturnsCustom1").placeholderText(), "[img]");
+    EXPECT_EQ(second.placeholderText(), "[/img]");
+    EXPECT_FALSE(second.isHidden());
+
+    EXPECT_TRUE(enabled("udStatisticsValue"));
+    control<QCheckBox>("udStatisticsDelaySwitcher").click();
+    EXPECT_FALSE(enabled("udStatisticsValue"));
+}
+
+TEST_F(Preferences, ProfilesAreAddedSwitchedAndRemoved) {
+    auto &popup = control<QComboBox>("profilesPopupButton");
+    setAlertAnswers({{}, [] { return QString("Mail & more"); }});
+    control<QPushButton>("addProfile").click();
+    ASSERT_EQ(popup.count(), 2);
+    EXPECT_EQ(popup.currentText(), "Mail & more");
+    EXPECT_FALSE(control<QCheckBox>("udRemoveBullets").isChecked());
+    preferences.profilesSelect(0);
+    EXPECT_EQ(popup.currentIndex(), 0);
+    EXPECT_TRUE(control<QCheckBox>("udRemoveBullets").isChecked());
+    preferences.profilesSelect(1);
+    Alert asked;
+    int answer = 1;
+    setAlertAnswers({[&](const Alert &alert) {
+                         asked = alert;
+                         return answer;
+                     },
+                     {}});
+    control<QPushButton>("removeProfile").click();
+    EXPECT_EQ(popup.count(), 2);
+    EXPECT_EQ(asked.informative, "Profile: Mail & more");
+    EXPECT_EQ(asked.buttons, (QStringList{"Yes", "No"}));
+    answer = 0;
+    control<QPushButton>("removeProfile").click();
+    EXPECT_EQ(popup.count(), 1);
+}
+
+TEST_F(Preferences, TheSearchFindsAnOptionByAnyOfItsWords) {
+    const struct {
+        const char *text;
+        const char *found; // null for nothing
+    } rows[] = {
+        {"bullets", "udRemoveBullets"},  {"BREAD milk", "udRemoveBullets"},
+        {"reverse", "udSort"},           {"seconds close", "udStatistics"},
+        {"uppercase", "udChangeCaseTo"}, {"rejoin", "udChangeWrongInsertedReturnsTo"},
+        {"xylophone", nullptr},          {"bullets xylophone", nullptr},
+    };
+    showPage(0);
+    for (const auto &row : rows) {
+        control<QLineEdit>("search").setText(row.text);
+        EXPECT_EQ(control<QLabel>("nothingFound").isHidden(), row.found != nullptr) << row.text;
+        if (row.found) {
+            EXPECT_TRUE(control<QCheckBox>(row.found).isVisible()) << row.text;
+        }
+    }
+    control<QLineEdit>("search").clear();
+    EXPECT_EQ(control<QListWidget>("pageList").currentRow(), 0);
+    EXPECT_TRUE(control<QCheckBox>("automatic").isVisible());
+}
+
+TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
+    showPage(6);
+    auto &list = control<RuleList>("findTableView");
+    const auto finds = [&] {
+        QString all;
+        for (int row = 0; row < list.count(); ++row) {
+            all += list.item(row)->text();
+        }
+        return all;
+    };
+    while (list.count() > 0) {
+        list.setCurrentRow(0);
+        QTest::keyClick(&list, Qt::Key_Delete);
+    }
+    auto &field = control<QLineEdit>("replaceTextField");
+    EXPECT_FALSE(field.isEnabled());
+    for (const char *find : {"a", "b", "c"}) {
+        control<QPushButton>("addRule").click();
+        list.item(list.count() - 1)->setText(find);
+    }
+    EXPECT_TRUE(field.isEnabled());
+    QTest::keyClicks(&field, "new");
+    EXPECT_EQ(
+        settings::FindReplaceList::textOf(preferences.findReplaceList().items()[2], "replace"),
+        u"new");
+    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(finds(), "acb");
+    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
+    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier); // at the top already
+    EXPECT_EQ(finds(), "cab");
+    QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(finds(), "acb");
+    EXPECT_EQ(field.text(), "new");
+    list.item(0)->setCheckState(Qt::Unchecked);
+    EXPECT_FALSE(settings::FindReplaceList::isOn(preferences.findReplaceList().items()[0]));
+    emit list.dropped(0, 3);
+    EXPECT_EQ(finds(), "cba");
+    // The new order is saved without any other edit.
+    queue.advance(1s);
+    EXPECT_NE(preferences.profileSelected().find("sFindAndReplaceItemsProfile"), nullptr);
+    list.setCurrentRow(1);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(finds(), "ca");
+}
+
+TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
+    EXPECT_EQ(previewed(u"a\u00a0b  c"_qs), u"a\u00a0b c"_qs);
+    control<QCheckBox>("udAddSuffix").click();
+    control<QLineEdit>("udSuffixTextField").setFocus();
+    QTest::keyClicks(&control<QLineEdit>("udSuffixTextField"), "!");
+    EXPECT_EQ(previewed("x"), "x!");
+    EXPECT_EQ(window->preview().marked(), (std::vector<TextSpan>{{1, 1}}));
+    EXPECT_EQ(pasteboard.log, std::vector<std::string>{});
+    EXPECT_EQ(cleans, 0);
+    clipboard = u"from  there";
+    control<QPushButton>("previewTake").click();
+    EXPECT_EQ(control<QPlainTextEdit>("previewBefore").toPlainText(), "from  there");
+    // The edits that wait for their delay count for the clean that is asked for.
+    control<QPushButton>("previewApply").click();
+    EXPECT_EQ(cleans, 1);
+    EXPECT_EQ(stored("udAddSuffix"), 1);
+}
+
+TEST_F(Preferences, HeightAndPageAreRemembered) {
+    window->resize(window->width(), 777);
+    showPage(4);
+    window->close();
+    open();
+    EXPECT_EQ(window->height(), 777);
+    EXPECT_EQ(control<QListWidget>("pageList").currentRow(), 4);
+    store.set(PreferencesWindow::heightKey, -5);
+    store.set(PreferencesWindow::pageKey, 99);
+    open();
+    EXPECT_GT(window->height(), 300);
+    EXPECT_EQ(control<QListWidget>("pageList").currentRow(), 0);
+}
+
+// Each object of the accessibility tree that a person can act on has a name.
+void expectNames(QAccessibleInterface *object, int &checked) {
+    ASSERT_NE(object, nullptr);
+    const auto state = object->state();
+    const auto role = object->role();
+    const bool control = role == QAccessible::CheckBox || role == QAccessible::ComboBox ||
+                         role == QAccessible::Button || role == QAccessible::EditableText ||
+                         role == QAccessible::SpinBox || role == QAccessible::List;
+    // The parts of a compound control belong to its name.
+    const auto *parent = object->parent();
+    const bool part = parent && (parent->role() == QAccessible::ComboBox ||
+                                 parent->role() == QAccessible::SpinBox ||
+                                 parent->role() == QAccessible::EditableText);
+    if (control && !part && !state.invisible) {
+        ++checked;
+        EXPECT_FALSE(object->text(QAccessible::Name).isEmpty())
+            << (object->object() ? object->object()->objectName().toStdString() : "?");
+    }
+    for (int i = 0; i < object->childCount(); ++i) {
+        expectNames(object->child(i), checked);
+    }
+}
+
+TEST_F(Preferences, EveryControlHasANameAToolTipAndNoTwoALetter) {
+    StatusMenu menu({});
+    menu.fillMenuBar(*window->menuBar());
+    window->assignLetters();
+    for (int page = 0; page < control<QListWidget>("pageList").count(); ++page) {
+        showPage(page);
+        int checked = 0;
+        expectNames(QAccessible::queryAccessibleInterface(window.get()), checked);
+        EXPECT_GT(checked, 10);
+        std::set<QChar> letters;
+        for (const QAction *action : window->menuBar()->actions()) {
+            letters.insert(action->text()[action->text().indexOf('&') + 1].toLower());
+        }
+        for (auto *widget : window->findChildren<QWidget *>()) {
+            const auto *button = qobject_cast<QAbstractButton *>(widget);
+            if (!button || !button->isVisible() || button->text().isEmpty()) {
+                continue;
+            }
+            EXPECT_FALSE(button->toolTip().isEmpty()) << button->text().toStdString();
+            const auto at = button->text().indexOf('&');
+            ASSERT_GE(at, 0) << button->text().toStdString();
+            EXPECT_TRUE(letters.insert(button->text()[at + 1].toLower()).second)
+                << button->text().toStdString();
+        }
+    }
+}
+
+TEST(Strings, EveryOptionAndOperationHasItsTexts) {
+    const auto expectText = [](const std::string &key) {
+        EXPECT_NE(localized(key).toStdString(), key);
+    };
+    for (const PreferencesPage &page : preferencesPages()) {
+        expectText(page.title);
+        for (const OptionRow &row : page.rows) {
+            expectText(labelKey(row.key));
+            expectText(tooltipKey(row.key));
+            for (const std::string &key : row.dependents) {
+                expectText(labelKey(key));
+                expectText(tooltipKey(key));
+            }
+        }
+    }
+    for (const engine::Operation &operation : engine::operations()) {
+        expectText(std::string(operation.hotKey));
+    }
+    EXPECT_EQ(filled("%@ is %@", {"%@", "b"}), "%@ is b");
+}
+
+TEST(Mnemonics, LettersAreSharedOut) {
+    std::set<QChar> used{'s'};
+    const struct {
+        const char16_t *text;
+        const char16_t *expected;
+    } rows[] = {
+        {u"Sort lines", u"Sort &lines"},
+        {u"Lines", u"L&ines"},
+        {u"R&D", u"&R&&D"},
+        {u"行", u"行 (&A)"},
+        {u"…", u"… (&B)"},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(withMnemonic(QString::fromUtf16(row.text), used),
+                  QString::fromUtf16(row.expected));
+    }
+}
+
+TEST(TextDiff, MarksWhatDiffers) {
+    using Spans = std::vector<TextSpan>;
+    const struct {
+        const char *shows;
+        std::u16string before, after;
+        Spans removed, added;
+    } rows[] = {
+        {"the same", u"a b", u"a b", {}, {}},
+        {"both empty", u"", u"", {}, {}},
+        {"a space of two goes", u"a  b", u"a b", {{2, 1}}, {}},
+        {"a word for another", u"the cat sat", u"the dog sat", {{4, 3}}, {{4, 3}}},
+        {"neighbours are one span", u"x", u"x!?", {}, {{1, 2}}},
+        {"all new", u"", u"new", {}, {{0, 3}}},
+        {"a character of two units stays whole", u"\U0001f600", u"\U0001f601", {{0, 2}}, {{0, 2}}},
+    };
+    for (const auto &row : rows) {
+        const auto found = differences(row.before, row.after);
+        EXPECT_EQ(found.removed, row.removed) << row.shows;
+        EXPECT_EQ(found.added, row.added) << row.shows;
+    }
+    // Too long to be compared closely, it is still marked, and in no time.
+    const std::u16string dots(50'000, u'.'), commas(50'000, u',');
+    EXPECT_EQ(differences(dots, commas).added, (Spans{{0, 50'000}}));
+}
+
+TEST(StatusMenu, ItemsProfilesAndKeys) {
+    std::vector<std::string> calls;
+    MenuCommands commands;
+    commands.clean = [&] { calls.push_back("clean"); };
+    commands.operation = [&](int index) { calls.push_back("operation " + std::to_string(index)); };
+    commands.selectProfile = [&](int place) {
+        calls.push_back("profile " + std::to_string(place));
+    };
+    StatusMenu menu(commands);
+    QStringList titles;
+    for (const QAction *action : menu.menu().actions()) {
+        if (!action->isSeparator()) {
+            titles.push_back(action->text());
+        }
+    }
+    EXPECT_EQ(titles.join('|').toStdString(),
+              "Clear formating from clipboard|Automatically clear formatting|Except copies from "
+              "Excel|Restore the original|Single operations|Profiles|Preferences…|Tips|What's "
+              "new|Rate Nerlo Pro|Support|E-mail to the developer|About|Quit Nerlo Pro");
+    menu.setProfiles({"A", "A", "R&D"}, 1);
+    auto *profiles = menu.menu().actions()[6]->menu();
+    ASSERT_TRUE(profiles);
+    ASSERT_EQ(profiles->actions().size(), 3);
+    EXPECT_TRUE(profiles->actions()[1]->isChecked());
+    EXPECT_EQ(profiles->actions()[2]->text(), "R&&D");
+    profiles->actions()[2]->trigger();
+    auto *operations = menu.menu().actions()[5]->menu();
+    ASSERT_EQ(operations->actions().size(), static_cast<qsizetype>(engine::operations().size()));
+    operations->actions()[37]->trigger();
+    menu.menu().actions()[0]->trigger();
+    EXPECT_EQ(calls, (std::vector<std::string>{"profile 2", "operation 37", "clean"}));
+    menu.setCleanShortcut(QKeySequence("Meta+V"));
+    EXPECT_EQ(menu.menu().actions()[0]->shortcut(), QKeySequence("Meta+V"));
+    const auto items = menu.mainMenu();
+    EXPECT_EQ(items[1].keyEquivalent, u"q");
+    EXPECT_EQ(items[1].modifierMask, 0x100000u);
+}
+
+TEST(Tips, PagesTurnAndEnd) {
+    std::optional<bool> atEachStart;
+    TipsWindow tips(true, [&](bool on) { atEachStart = on; });
+    tips.show();
+    auto &next = *tips.findChild<QPushButton *>("tipsNext");
+    auto &title = *tips.findChild<QLabel *>("tipTitle");
+    std::set<QString> titles;
+    for (int page = 0; page < TipsWindow::count(); ++page) {
+        EXPECT_EQ(tips.page(), page);
+        titles.insert(title.text());
+        next.click();
+    }
+    EXPECT_EQ(titles.size(), static_cast<std::size_t>(TipsWindow::count()));
+    EXPECT_FALSE(tips.isVisible());
+    EXPECT_EQ(atEachStart, true);
+    tips.setPage(0);
+    tips.show();
+    QTest::keyClick(&tips, Qt::Key_Right);
+    EXPECT_EQ(tips.page(), 1);
+    QTest::keyClick(&tips, Qt::Key_Left);
+    QTest::keyClick(&tips, Qt::Key_Left);
+    EXPECT_EQ(tips.page(), 0);
+}
+
+TEST(Strings, DecideTheDirectionOfTheLayout) {
+    installTranslations(*QCoreApplication::instance(), QLocale("ar_EG"));
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    installTranslations(*QCoreApplication::instance(),
+                        QLocale(QLocale::English, QLocale::UnitedStates));
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+} // namespace
+} // namespace nerlo::shell
