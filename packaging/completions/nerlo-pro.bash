@@ -1,0 +1,28 @@
+# bash completion for nerlo-pro; operations and profiles come from nerlo, where it is installed
+
+_nerlo_pro_operations() {
+    nerlo operations 2>/dev/null | awk '{ print $2 }'
+}
+
+_nerlo_pro_profiles() {
+    nerlo profiles 2>/dev/null | sed 's/^[* ] *[0-9]* *//'
+}
+
+_nerlo_pro_words() { # WORDS: one a line; spaces stay in a word
+    local IFS=$'\n'
+    COMPREPLY=($(compgen -W "$1" -- "$2"))
+    [ ${#COMPREPLY[@]} -eq 0 ] || COMPREPLY=($(printf '%q\n' "${COMPREPLY[@]}"))
+}
+
+_nerlo_pro() {
+    local cur prev words cword
+    _init_completion -n = || return
+    case $prev in
+    --operation) _nerlo_pro_words "$(_nerlo_pro_operations)" "$cur" ;;
+    --profile) _nerlo_pro_words "$(_nerlo_pro_profiles)" "$cur" ;;
+    --automatic) COMPREPLY=($(compgen -W "on off toggle" -- "$cur")) ;;
+    *) COMPREPLY=($(compgen -W "--clean --operation --restore --preferences --automatic --profile --doctor --quit --help --version" -- "$cur")) ;;
+    esac
+}
+
+complete -F _nerlo_pro nerlo-pro

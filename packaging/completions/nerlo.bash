@@ -1,0 +1,83 @@
+# bash completion for nerlo
+
+_nerlo_operations() {
+    nerlo operations 2>/dev/null | awk '{ print $2 }'
+}
+
+_nerlo_profiles() {
+    nerlo profiles 2>/dev/null | sed 's/^[* ] *[0-9]* *//'
+}
+
+_nerlo_words() { # WORDS: one a line; spaces stay in a word
+    local IFS=$'\n'
+    COMPREPLY=($(compgen -W "$1" -- "$2"))
+    [ ${#COMPREPLY[@]} -eq 0 ] || COMPREPLY=($(printf '%q\n' "${COMPREPLY[@]}"))
+}
+
+_nerlo() {
+    local cur prev words cword
+    _init_completion -n = || return
+    local command=
+    [ "$cword" -gt 1 ] && command=${words[1]}
+    case $prev in
+    --operation)
+        _nerlo_words "$(_nerlo_operations)" "$cur"
+        return
+        ;;
+    --profile | export)
+        _nerlo_words "$(_nerlo_profiles)" "$cur"
+        return
+        ;;
+    --set)
+        COMPREPLY=($(compgen -S = -W "$(nerlo keys 2>/dev/null | awk '/^  [a-zA-Z]/ { print $1 }')" -- "$cur"))
+        compopt -o nospace
+        return
+        ;;
+    --options)
+        _filedir
+        return
+        ;;
+    --locale)
+        COMPREPLY=($(compgen -W "$(locale -a 2>/dev/null | sed 's/\..*//' | sort -u)" -- "$cur"))
+        return
+        ;;
+    --jobs)
+        COMPREPLY=($(compgen -W "$(seq "$(nproc)")" -- "$cur"))
+        return
+        ;;
+    esac
+    case $command in
+    '')
+        COMPREPLY=($(compgen -W "clean count batch operations keys profiles --version --help" -- "$cur"))
+        ;;
+    clean)
+        if [[ $cur == -* ]]; then
+            COMPREPLY=($(compgen -W "--operation --profile --options --set --locale --in-place --help" -- "$cur"))
+        else
+            _filedir
+        fi
+        ;;
+    count)
+        if [[ $cur == -* ]]; then
+            COMPREPLY=($(compgen -W "--json --locale --help" -- "$cur"))
+        else
+            _filedir
+        fi
+        ;;
+    batch)
+        COMPREPLY=($(compgen -W "--jobs --locale --help" -- "$cur"))
+        ;;
+    operations | keys)
+        COMPREPLY=($(compgen -W "--json --help" -- "$cur"))
+        ;;
+    profiles)
+        if [ "$cword" -eq 2 ]; then
+            COMPREPLY=($(compgen -W "show export import --json --help" -- "$cur"))
+        else
+            _filedir
+        fi
+        ;;
+    esac
+}
+
+complete -F _nerlo nerlo

@@ -1,0 +1,34 @@
+# fish completion for nerlo
+
+function __nerlo_operations
+    nerlo operations 2>/dev/null | string replace -r '^ *\d+ +(\S+) +' '$1\t'
+end
+function __nerlo_profiles
+    nerlo profiles 2>/dev/null | string replace -r '^[* ] *\d+ +' ''
+end
+function __nerlo_keys
+    nerlo keys 2>/dev/null | string match -r '^  [A-Za-z]\w*' | string trim | string replace -r '$' '='
+end
+
+set -l commands clean count batch operations keys profiles
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -f
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
+complete -c nerlo -l help -s h -d 'Tell more'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a clean -d 'Clean texts with the options that are on'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a count -d 'Count characters, spaces, words and paragraphs'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a batch -d 'Answer requests, one JSON object a line'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a operations -d 'List the operations'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a keys -d 'List the settings keys'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a profiles -d 'List, show, import and export profiles'
+
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l operation -x -a '(__nerlo_operations)' -d 'Run only this operation'
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l profile -x -a '(__nerlo_profiles)' -d 'Take the options from a profile'
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l options -r -d 'Take the options from a property list'
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l set -x -a '(__nerlo_keys)' -d 'Change one key'
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l in-place -d 'Rewrite each file'
+complete -c nerlo -n '__fish_seen_subcommand_from clean count batch' -l locale -x -d 'Rules for letter case, words and sorting'
+complete -c nerlo -n '__fish_seen_subcommand_from batch' -l jobs -x -d 'Requests at a time'
+complete -c nerlo -n '__fish_seen_subcommand_from batch operations keys' -f
+complete -c nerlo -n '__fish_seen_subcommand_from count operations keys profiles' -l json -d 'Write JSON'
+complete -c nerlo -n '__fish_seen_subcommand_from profiles; and not __fish_seen_subcommand_from show export import' -f -a 'show export import'
+complete -c nerlo -n '__fish_seen_subcommand_from show export' -a '(__nerlo_profiles)'
