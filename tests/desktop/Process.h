@@ -1,0 +1,53 @@
+// Programs that a test starts, watches and ends.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace nerlo::test {
+
+using Arguments = std::vector<std::string>;
+
+// Waits until `done`; false after `limit`.
+bool until(const std::function<bool()> &done,
+           std::chrono::milliseconds limit = std::chrono::seconds(20));
+
+// A running program; its output goes to a file, so that children which it leaves behind do not
+// matter. Killed with the object if it still runs.
+class Process {
+  public:
+    // `input` is its standard input, whole. The test fails if the program cannot be started.
+    explicit Process(const Arguments &command, std::string_view input = {});
+    ~Process();
+    Process(const Process &) = delete;
+    Process &operator=(const Process &) = delete;
+
+    pid_t pid() const { return pid_; }
+    // What it has written to its standard output so far.
+    std::string output() const;
+    // False if it ends without having written the line, or after twenty seconds.
+    bool waitForLine(std::string_view line);
+    // The exit status, 128 + N for signal N; nothing if it still runs after `limit`.
+    std::optional<int> wait(std::chrono::milliseconds limit = std::chrono::seconds(20));
+    void signal(int number) const;
+
+  private:
+    pid_t pid_ = -1;
+    std::optional<int> status_;
+    std::string outputPath_;
+};
+
+// The whole standard output of a program; nothing if it fails or takes longer than twenty seconds.
+std::optional<std::string> outputOf(const Arguments &command, std::string_view input = {});
+
+// How often the threads of this program that have this name have gone to sleep so far, which is how
+// often they were woken.
+long wakeUps(std::string_view threadName);
+
+} // namespace nerlo::test

@@ -1,0 +1,348 @@
+// The control that records shortcuts, in a window on a real X server; xdotool is the user.
+//
+// NERLO_PICTURES=FOLDER saves pictures of its states there; NERLO_DARK=1 takes dark colors.
+#include "Process.h"
+#include "platform/memory/MemorySettingsStore.h"
+#include "platform/qt/QtMainQueue.h"
+#include "platform/x11/X11HotKeys.h"
+#include "platform/x11/X11KeyboardLayout.h"
+#include "shortcuts/ShortcutTexts.h"
+#include "shortcuts/view/nrShortcutView.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QVBoxLayout>
+
+namespace nerlo::shortcuts {
+namespace {
+
+using test::outputOf;
+
+constexpr std::uint64_t v = 9;
+
+struct FixedHotKeys final : platform::SystemHotKeys {
+    std::vector<platform::SystemHotKey> symbolicHotKeys() override { return {{118, 0x800}}; }
+};
+
+void paintDark() {
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(40, 40, 42));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Base, QColor(28, 28, 30));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Button, QColor(60, 60, 62));
+    dark.setColor(QPalette::ButtonText, Qt::white);
+    dark.setColor(QPalette::Highlight, QColor(90, 160, 255));
+    QApplication::setPalette(dark);
+}
+
+class ShortcutView : public testing::Test {
+  protected:
+    void SetUp() override {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        if (qEnvironmentVariableIsSet("NERLO_DARK")) {
+            paintDark();
+        }
+        layout = platform::createX11KeyboardLayout(queue).backend;
+        service = platform::createX11HotKeys(queue).backend;
+        ASSERT_TRUE(layout && service);
+        texts = std::make_unique<ShortcutTexts>(*layout);
+        hotKeys = std::make_unique<GlobalHotKeys>(*service, *texts);
+        bound = std::make_unique<UserDefaultsHotKeys>(store, *hotKeys);
+        const ShortcutViewContext context{
+            *texts, desktop,
+            *bound, [] {
+                return std::vector<MenuItem>{{u"Paste", u"v", commandModifier, {}}}; },
+            {},     [this] { ++beeps; }};
+        auto *column = new QVBoxLayout(&window);
+        for (const char *key : {"sSort", "sStatistics"}) {
+            bound->registerGlobalShortcutWithUserDefaultsKey(key, [this, key] { ++runs[key]; });
+            auto *view = new nrShortcutView(context, &window);
+            view->setAssociatedUserDefaultsKey(key);
+            view->setAccessibleName(QString::fromLatin1(key));
+            column->addWidget(view);
+            views.push_back(view);
+        }
+        auto *quit = new QAction(&window);
+        quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+        QObject::connect(quit, &QAction::triggered, [this] { ++quits; });
+        window.addAction(quit);
+        window.setWindowTitle(QStringLiteral("Recorders"));
+        window.show();
+        activate();
+    }
+
+    void activate() {
+        window.activateWindow();
+        ASSERT_TRUE(wait([&] { return window.isActiveWindow(); }));
+    }
+    bool wait(const std::function<bool()> &done) {
+        return test::until([&] {
+            QApplication::processEvents();
+            return done();
+        });
+    }
+    static void xdotool(const test::Arguments &arguments) {
+        test::Arguments command{"xdotool"};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        ASSERT_TRUE(outputOf(command));
+    }
+    static void press(const std::string &keys) { xdotool({"key", keys}); }
+    void click(const nrShortcutView &view, QPoint at) {
+        const QPoint global = view.mapToGlobal(at) * view.devicePixelRatio();
+        xdotool(
+            {"mousemove", std::to_string(global.x()), std::to_string(global.y()), "click", "1"});
+    }
+    void record(nrShortcutView &view) {
+        click(view, view.shortcutRect().center());
+        ASSERT_TRUE(wait([&] { return view.recording(); }));
+    }
+    void leaveWithMouse() { xdotool({"mousemove", "1200", "700"}); }
+    void picture(const char *name) {
+        QApplication::processEvents();
+        if (const auto folder = qEnvironmentVariable("NERLO_PICTURES"); !folder.isEmpty()) {
+            window.grab().save(folder + '/' + QLatin1String(name) + ".png");
+        }
+    }
+    std::optional<nrShortcut> stored(const char *key) { return storedShortcut(store, key); }
+
+    platform::QtMainQueue queue;
+    platform::MemorySettingsStore store;
+    FixedHotKeys desktop;
+    std::unique_ptr<platform::KeyboardLayout> layout;
+    std::unique_ptr<platform::HotKeyService> service;
+    std::unique_ptr<ShortcutTexts> texts;
+    std::unique_ptr<GlobalHotKeys> hotKeys;
+    std::unique_ptr<UserDefaultsHotKeys> bound;
+    QWidget window;
+    std::vector<nrShortcutView *> views;
+    std::map<std::string, int> runs;
+    int beeps = 0;
+    int quits = 0;
+};
+
+TEST_F(ShortcutView, RecordsReplacesAndDeletes) {
+    auto &view = *views[0];
+    EXPECT_EQ(view.title(), "Click to record shortcut");
+    EXPECT_EQ(view.buttonGlyph(), "");
+    picture("1-empty");
+    record(view);
+    leaveWithMouse();
+    EXPECT_EQ(view.title(), "Type shortcut");
+    picture("2-recording");
+    press("super+v");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(view.title(), "⌃V");
+    EXPECT_EQ(view.spokenValue(), "Super+V");
+    EXPECT_EQ(stored("sSort"), nrShortcut(v, controlModifier));
+    picture("3-value");
+    // It works at once.
+    ASSERT_TRUE(wait([&] {
+        press("super+v");
+        return runs["sSort"] > 0;
+    }));
+
+    // Its own combination reaches the control while that records.
+    record(view);
+    const int before = runs["sSort"];
+    press("super+v");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(runs["sSort"], before);
+
+    record(view);
+    press("ctrl+shift+F5");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(view.title(), "⇧⌘F5");
+
+    record(view);
+    press("BackSpace");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(view.shortcutValue(), std::nullopt);
+    EXPECT_EQ(store.find("sSort"), nullptr);
+
+    bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    EXPECT_EQ(view.title(), "⌃V");
+    click(view, view.buttonRect().center());
+    ASSERT_TRUE(wait([&] { return !view.shortcutValue(); }));
+    EXPECT_EQ(store.find("sSort"), nullptr);
+}
+
+TEST_F(ShortcutView, LeavesTheOldValueOnEscapeAndCancel) {
+    auto &view = *views[0];
+    bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    record(view);
+    press("Escape");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(view.title(), "⌃V");
+    record(view);
+    click(view, {view.buttonRect().left() - 30, view.height() / 2}); // does nothing
+    xdotool({"mousemove",
+             std::to_string(view.mapToGlobal(view.buttonRect().center()).x() *
+                            static_cast<int>(view.devicePixelRatio())),
+             std::to_string(view.mapToGlobal(view.buttonRect().center()).y() *
+                            static_cast<int>(view.devicePixelRatio()))});
+    ASSERT_TRUE(wait([&] { return view.hinting(); }));
+    EXPECT_TRUE(view.recording());
+    EXPECT_EQ(view.title(), "Use old shortcut");
+    EXPECT_EQ(view.buttonGlyph(), "\u238b");
+    picture("4-hinting");
+    xdotool({"click", "1"});
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(stored("sSort"), nrShortcut(v, controlModifier));
+}
+
+TEST_F(ShortcutView, ShowsHeldModifiersAndBeepsAtWhatIsNoShortcut) {
+    auto &view = *views[0];
+    record(view);
+    leaveWithMouse();
+    xdotool({"keydown", "shift"});
+    ASSERT_TRUE(wait([&] { return view.title() == "⇧"; }));
+    picture("5-shift");
+    press("a");
+    ASSERT_TRUE(wait([&] { return beeps == 1; }));
+    xdotool({"keyup", "shift"});
+    ASSERT_TRUE(wait([&] { return view.title() == "Type shortcut"; }));
+    EXPECT_TRUE(view.recording());
+    EXPECT_EQ(view.shortcutValue(), std::nullopt);
+}
+
+TEST_F(ShortcutView, RefusesWhatIsTaken) {
+    auto &view = *views[0];
+    bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    const struct {
+        const char *keys;
+        const char *message;
+        const char *informative;
+    } rows[] = {
+        {"ctrl+v",
+         "The key combination \"⌘V\" can't be used because it's already used by the menu item "
+         "\"Paste\".",
+         "The key combination \"⌘V\" can't be used!"},
+        {"alt+F4",
+         "The key combination \"⌥F4\" can't be used because it's already used by a system-wide "
+         "keyboard shortcut. If you really want to use this key combination, most shortcuts can "
+         "be changed in the Keyboard panel in System Preferences.",
+         "The key combination \"⌥F4\" can't be used!"},
+    };
+    for (const auto &row : rows) {
+        activate();
+        if (!view.recording()) {
+            record(view);
+        }
+        QString message;
+        QString informative;
+        QTimer poll;
+        // The alert runs a loop of its own.
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                message = box->text();
+                informative = box->informativeText();
+                if (const auto folder = qEnvironmentVariable("NERLO_PICTURES"); !folder.isEmpty()) {
+                    box->grab().save(folder + "/6-alert.png");
+                }
+                poll.stop();
+                box->accept();
+            }
+        });
+        poll.start(10);
+        press(row.keys);
+        ASSERT_TRUE(wait([&] { return !message.isEmpty(); }));
+        EXPECT_EQ(message.toStdString(), row.message);
+        EXPECT_EQ(informative.toStdString(), row.informative);
+        EXPECT_TRUE(view.recording());
+    }
+    activate();
+    press("Escape");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    EXPECT_EQ(stored("sSort"), nrShortcut(v, controlModifier));
+}
+
+TEST_F(ShortcutView, LetsQuitThrough) {
+    record(*views[0]);
+    press("ctrl+q");
+    ASSERT_TRUE(wait([&] { return quits == 1; }));
+    EXPECT_FALSE(views[0]->recording());
+}
+
+TEST_F(ShortcutView, OnlyOneRecordsAndOnlyInTheWindowInFront) {
+    record(*views[0]);
+    record(*views[1]);
+    EXPECT_FALSE(views[0]->recording());
+    QLineEdit other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(wait([&] { return other.isActiveWindow(); }));
+    EXPECT_TRUE(wait([&] { return !views[1]->recording(); }));
+    activate();
+    record(*views[1]);
+    views[1]->setEnabled(false);
+    EXPECT_FALSE(views[1]->recording());
+    views[1]->setRecording(true);
+    EXPECT_FALSE(views[1]->recording());
+    picture("7-disabled");
+}
+
+TEST_F(ShortcutView, WarnsOfAShortcutThatTheDesktopRefuses) {
+    const auto other = platform::createX11HotKeys(queue).backend;
+    ASSERT_NE(other->registerHotKey({v, platform::hotKeyControl, {1, 1}, {}, {}}).handle, 0u);
+    auto &view = *views[0];
+    record(view);
+    press("super+v"); // the other program has it
+    bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    view.setRecording(false);
+    ASSERT_TRUE(wait([&] { return !view.warning().isEmpty(); }));
+    EXPECT_EQ(view.warning(), "another program has taken this key combination");
+    EXPECT_FALSE(view.warningRect().isEmpty());
+    leaveWithMouse();
+    picture("8-refused");
+    bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sSort");
+    EXPECT_EQ(view.warning(), "");
+    // The second of two that want the same keys.
+    bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sStatistics");
+    EXPECT_EQ(views[1]->warning(), "another shortcut of this program has the same keys");
+}
+
+TEST_F(ShortcutView, WorksByKeyboardAndForScreenReaders) {
+    auto &view = *views[0];
+    view.setFocus();
+    press("space");
+    ASSERT_TRUE(wait([&] { return view.recording(); }));
+    press("super+c");
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    auto *accessible = QAccessible::queryAccessibleInterface(&view);
+    ASSERT_TRUE(accessible);
+    EXPECT_EQ(accessible->text(QAccessible::Name), "sSort, Super+C");
+    EXPECT_EQ(accessible->text(QAccessible::Value), "Super+C");
+    auto *actions = accessible->actionInterface();
+    ASSERT_TRUE(actions);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(view.recording());
+    EXPECT_EQ(accessible->text(QAccessible::Value), "Type shortcut");
+    actions->doAction(QStringLiteral("Delete"));
+    EXPECT_FALSE(view.shortcutValue());
+    EXPECT_FALSE(view.recording());
+
+    bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sSort");
+    picture("9-focus");
+    press("Delete");
+    ASSERT_TRUE(wait([&] { return !view.shortcutValue(); }));
+    press("Tab");
+    EXPECT_TRUE(wait([&] { return views[1]->hasFocus(); }));
+}
+
+} // namespace
+} // namespace nerlo::shortcuts
+
+int main(int argc, char **argv) {
+    QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

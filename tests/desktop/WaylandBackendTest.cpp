@@ -1,0 +1,285 @@
+// The Wayland backends in a real compositor, with real programs that copy and paste.
+#include "platform/memory/MemoryMainQueue.h"
+#include "platform/wayland/WaylandActiveApplication.h"
+#include "platform/wayland/WaylandPasteboard.h"
+#include "tests/desktop/Process.h"
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <thread>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+namespace nerlo::platform {
+namespace {
+
+using namespace std::chrono_literals;
+using test::outputOf;
+using test::Process;
+
+const std::string ownerProgram =
+    std::filesystem::read_symlink("/proc/self/exe").parent_path() / "wayland-owner";
+
+// A clipboard manager of the simplest kind: it takes a copy of each content as soon as it comes.
+class Manager {
+  public:
+    std::string kept() const {
+        std::ifstream file(path_, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+  private:
+    const std::string path_ = std::string(std::getenv("NERLO_SESSION_DIR")) + "/kept";
+    const Process watch_{{"wl-paste", "--watch", "sh", "-c",
+                          "cat >" + path_ + ".new; mv " + path_ + ".new " + path_}};
+};
+
+class WaylandBackend : public testing::Test {
+  protected:
+    WaylandBackend()
+        : created(createWaylandPasteboard(queue)) {}
+
+    Pasteboard &pasteboard() { return *created.backend; }
+    bool until(const std::function<bool()> &done) {
+        return test::until([&] {
+            queue.runPosted();
+            return done();
+        });
+    }
+    bool untilCount(ChangeCount count) {
+        return until([&] { return pasteboard().changeCount() == count; });
+    }
+    void copy(const std::string &text) { ASSERT_TRUE(outputOf({"wl-copy"}, text)); }
+
+    PasteboardRead read(std::vector<std::string> formats, std::size_t limit = 200 << 20) {
+        std::optional<PasteboardRead> result;
+        pasteboard().read(pasteboard().changeCount(), std::move(formats), limit,
+                          [&](PasteboardRead got) { result = std::move(got); });
+        until([&] { return result.has_value(); });
+        return result.value_or(PasteboardRead());
+    }
+    std::string text() {
+        const auto result = read({"text/plain;charset=utf-8"});
+        return result.content.empty() ? "(nothing)" : *result.content[0].bytes;
+    }
+    PasteboardWrite write(const std::string &bytes, std::optional<ChangeCount> over = {}) {
+        std::optional<PasteboardWrite> result;
+        const auto shared = std::make_shared<const std::string>(bytes);
+        pasteboard().write({{"text/plain;charset=utf-8", {}, shared}, {"text/plain", {}, shared}},
+                           over, [&](PasteboardWrite got) { result = got; });
+        until([&] { return result.has_value(); });
+        return result.value_or(PasteboardWrite());
+    }
+
+    MemoryMainQueue queue;
+    Created<Pasteboard> created;
+};
+
+TEST_F(WaylandBackend, ExchangesTextWithRealProgramsAndCountsExactly) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    auto count = pasteboard().changeCount();
+    for (int i = 0; i < 20; ++i) {
+        copy("copy " + std::to_string(i));
+        ASSERT_TRUE(untilCount(++count)) << i;
+        ASSERT_EQ(text(), "copy " + std::to_string(i));
+        const auto written = write("write " + std::to_string(i));
+        ASSERT_EQ(written.status, PasteboardStatus::done);
+        ASSERT_EQ(written.changeCount, ++count);
+        ASSERT_EQ(outputOf({"wl-paste", "-n"}), "write " + std::to_string(i));
+    }
+    EXPECT_EQ(outputOf({"wl-paste", "-l"}), "text/plain;charset=utf-8\ntext/plain\n");
+    outputOf({"wl-copy", "--clear"});
+    EXPECT_TRUE(untilCount(++count));
+    outputOf({"wl-copy", "--primary"}, "the primary selection is not ours");
+    copy("last");
+    EXPECT_TRUE(untilCount(++count));
+}
+
+TEST_F(WaylandBackend, FiftyMegabytesBothWays) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    std::string large(50'000'000, 'x');
+    for (std::size_t i = 0; i < large.size(); i += 1'000) {
+        large[i] = static_cast<char>('a' + i / 1'000 % 26);
+    }
+    const auto start = pasteboard().changeCount();
+    copy(large);
+    ASSERT_TRUE(untilCount(start + 1));
+    const auto before = std::chrono::steady_clock::now();
+    ASSERT_TRUE(text() == large);
+    const auto between = std::chrono::steady_clock::now();
+    ASSERT_EQ(write(large).status, PasteboardStatus::done);
+    ASSERT_TRUE(outputOf({"wl-paste", "-n"}) == large);
+    const auto after = std::chrono::steady_clock::now();
+    RecordProperty("readMilliseconds", std::to_string((between - before) / 1ms));
+    RecordProperty("writeMilliseconds", std::to_string((after - between) / 1ms));
+}
+
+TEST_F(WaylandBackend, OwnersThatHangDieOrDeliverNothingDoNotKeepTheNextCopyAway) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    struct Row {
+        test::Arguments options;
+        PasteboardStatus expected;
+    };
+    const Row rows[] = {
+        {{"--refuse"}, PasteboardStatus::done},
+        {{"--stall-after", "70000"}, PasteboardStatus::timedOut},
+        {{"--hang"}, PasteboardStatus::timedOut},
+        {{"--endless"}, PasteboardStatus::done}, // without what is too large
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.options[0]);
+        auto count = pasteboard().changeCount();
+        test::Arguments command{ownerProgram};
+        command.insert(command.end(), row.options.begin(), row.options.end());
+        command.push_back("text/plain;charset=utf-8=*1000000");
+        Process owner(command);
+        ASSERT_TRUE(owner.waitForLine("owned"));
+        ASSERT_TRUE(untilCount(++count));
+        const auto result = read({"text/plain;charset=utf-8"}, 20'000'000);
+        EXPECT_EQ(result.status, row.expected);
+        EXPECT_TRUE(result.content.empty());
+        copy("next");
+        ASSERT_TRUE(until([&] { return text() == "next"; }));
+    }
+}
+
+// The end of the pipe looks like the end of the text; that the content went with its owner may show
+// only a moment later, but no write in its place gets through.
+TEST_F(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    const auto start = pasteboard().changeCount();
+    Process owner({ownerProgram, "--die-after", "70000", "text/plain;charset=utf-8=*1000000"});
+    ASSERT_TRUE(owner.waitForLine("owned"));
+    ASSERT_TRUE(untilCount(start + 1));
+    EXPECT_LE(text().size(), 70'000u);
+    ASSERT_TRUE(untilCount(start + 2));
+    EXPECT_EQ(write("half, but cleaned", start + 1).status, PasteboardStatus::changed);
+}
+
+// The compositor throws clients out that cannot take the list as fast as it comes, this one perhaps
+// too.
+TEST_F(WaylandBackend, SurvivesAListOfFormatsOutOfAllProportion) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    for (const char *number : {"1000", "10000", "30000"}) {
+        SCOPED_TRACE(number);
+        Process owner({ownerProgram, "--more-formats", number, "text/plain", "x"});
+        test::until([&] { return !owner.output().empty() || owner.wait(0ms); });
+        owner.signal(SIGKILL);
+        owner.wait();
+        EXPECT_TRUE(test::until([&] { return outputOf({"wl-copy"}, "next").has_value(); }));
+        EXPECT_TRUE(until([&] { return text() == "next"; }));
+    }
+}
+
+TEST_F(WaylandBackend, AManagerHasTheTextWhenTheProgramEndsRightAfterItsWrite) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    const Manager manager;
+    copy("before");
+    ASSERT_TRUE(until([&] { return manager.kept() == "before"; }));
+    const std::string written(3'000'000, 'w');
+    write(written);
+    created.backend.reset();
+    EXPECT_TRUE(test::until([&] { return manager.kept() == written; }, 5s));
+}
+
+TEST_F(WaylandBackend, IsNotWokenWhileTheClipboardRests) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    const auto start = pasteboard().changeCount();
+    copy("x");
+    ASSERT_TRUE(untilCount(start + 1));
+    ASSERT_EQ(text(), "x");
+    // Until the thread rests: the last transfer may just be over.
+    long woken = 0;
+    test::until([&] { return std::exchange(woken, test::wakeUps("wayland")) == woken; });
+    ASSERT_GT(woken, 0) << "the thread is not found";
+    std::this_thread::sleep_for(3s); // the length of the measurement
+    // Nor by the primary selection, which changes whenever somebody marks text.
+    ASSERT_TRUE(outputOf({"wl-copy", "--primary"}, "marked"));
+    ASSERT_EQ(outputOf({"wl-paste", "--primary", "-n"}), "marked");
+    EXPECT_EQ(test::wakeUps("wayland"), woken);
+}
+
+TEST_F(WaylandBackend, SaysWhenTheCompositorIsGone) {
+    ASSERT_TRUE(created.backend) << created.declined;
+    bool lost = false;
+    pasteboard().setLostHandler([&] { lost = true; });
+    outputOf({"swaymsg", "exit"});
+    ASSERT_TRUE(until([&] { return lost; }));
+    EXPECT_EQ(write("x").status, PasteboardStatus::unavailable);
+    EXPECT_EQ(read({"text/plain"}).status, PasteboardStatus::unavailable);
+    const auto woken = test::wakeUps("wayland");
+    std::this_thread::sleep_for(1s);
+    EXPECT_LE(test::wakeUps("wayland") - woken, 1) << "it spins";
+}
+
+// The program itself: a manager has what was cleaned last, also when the program ends at once.
+TEST(WaylandProgram, LeavesTheCleanedTextToAClipboardManager) {
+    const Manager manager;
+    std::string large;
+    std::string cleanLarge = "word";
+    for (int i = 0; i < 500'000; ++i) {
+        large += "word  ";
+        cleanLarge += i ? " word" : "";
+    }
+    for (const std::string end : {"--quit", "SIGTERM"}) {
+        for (const auto &[copied, cleaned] :
+             {std::pair<std::string, std::string>{"a  " + end, "a " + end}, {large, cleanLarge}}) {
+            SCOPED_TRACE(end + ", " + std::to_string(copied.size()) + " bytes");
+            Process program({NERLO_PRO});
+            // Another start before it is on the bus would be the program itself.
+            ASSERT_TRUE(outputOf({"gdbus", "wait", "--session", "org.nerlo.NerloPro"}));
+            ASSERT_TRUE(outputOf({"wl-copy"}, copied));
+            ASSERT_TRUE(outputOf({NERLO_PRO, "--clean"}));
+            ASSERT_TRUE(test::until([&] { return outputOf({"wl-paste", "-n"}) == cleaned; }));
+            if (end == "--quit") {
+                EXPECT_TRUE(outputOf({NERLO_PRO, "--quit"}));
+            } else {
+                program.signal(SIGTERM);
+            }
+            EXPECT_EQ(program.wait(), 0);
+            EXPECT_TRUE(test::until([&] { return manager.kept() == cleaned; }));
+        }
+    }
+}
+
+TEST(WaylandApplications, NamesTheOneThatComesToTheFront) {
+    MemoryMainQueue queue;
+    const auto created = createWaylandActiveApplication(queue);
+    ASSERT_TRUE(created.backend) << created.declined;
+    std::vector<std::string> seen;
+    const auto until = [&](const std::vector<std::string> &expected) {
+        return test::until([&] {
+            queue.runPosted();
+            return seen == expected;
+        });
+    };
+    const auto window = [](const std::string &appId) {
+        return test::Arguments{"foot", "--app-id=" + appId, "cat"};
+    };
+    Process first(window("First.Editor"));
+    ASSERT_TRUE(test::until([] {
+        return outputOf({"swaymsg", "-t", "get_tree"})->find("First.Editor") != std::string::npos;
+    }));
+    created.backend->setActivatedHandler([&](std::string id) { seen.push_back(std::move(id)); });
+    std::optional<Process> second;
+    second.emplace(window("EXCEL.EXE"));
+    ASSERT_TRUE(until({"com.microsoft.Excel"})) << "and nothing for the one that was in front";
+    second.reset();
+    ASSERT_TRUE(until({"com.microsoft.Excel", "First.Editor"}));
+
+    created.backend->setActivatedHandler(nullptr);
+    second.emplace(window("libreoffice-calc"));
+    ASSERT_TRUE(test::until([] {
+        return outputOf({"swaymsg", "-t", "get_tree"})->find("libreoffice-calc") !=
+               std::string::npos;
+    }));
+    queue.runPosted();
+    EXPECT_EQ(seen.size(), 2u) << "nobody listens";
+}
+
+} // namespace
+} // namespace nerlo::platform

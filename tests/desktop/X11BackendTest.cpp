@@ -1,0 +1,203 @@
+// The X11 backends against an X server, and two of our own peers against each other.
+#include "platform/x11/X11ActiveApplication.h"
+#include "platform/x11/X11Pasteboard.h"
+
+#include "platform/PasteboardFormats.h"
+#include "platform/memory/MemoryMainQueue.h"
+#include "platform/x11/Connection.h"
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace nerlo::platform {
+namespace {
+
+using namespace std::chrono_literals;
+using Strings = std::vector<std::string>;
+
+PasteboardContent content(const Strings &formats, const std::string &bytes) {
+    const auto shared = std::make_shared<const std::string>(bytes);
+    PasteboardContent made;
+    for (const auto &format : formats) {
+        made.push_back({format, {}, shared});
+    }
+    return made;
+}
+
+class X11Backend : public testing::Test {
+  protected:
+    // Serves the main queue until `done`; false after ten seconds.
+    bool until(const std::function<bool()> &done) {
+        const auto end = std::chrono::steady_clock::now() + 10s;
+        while (!done()) {
+            if (std::chrono::steady_clock::now() > end) {
+                return false;
+            }
+            std::this_thread::sleep_for(200us);
+            queue.runPosted();
+        }
+        return true;
+    }
+    // Calls `function` with a handler, and waits for what the handler gets.
+    template <class Result>
+    Result wait(const std::function<void(std::function<void(Result)>)> &function) {
+        std::optional<Result> result;
+        function([&](Result got) { result = std::move(got); });
+        EXPECT_TRUE(until([&] { return result.has_value(); }));
+        return result.value_or(Result());
+    }
+    PasteboardFormats formats(Pasteboard &of) {
+        return wait<PasteboardFormats>([&](auto handler) { of.readFormats(handler); });
+    }
+    PasteboardRead read(Pasteboard &by, Strings wanted, std::size_t limit = 1 << 30) {
+        const auto count = formats(by).changeCount;
+        return wait<PasteboardRead>([&](auto handler) { by.read(count, wanted, limit, handler); });
+    }
+    std::string text(Pasteboard &by) {
+        const auto got = read(by, {"UTF8_STRING"}).content;
+        return got.empty() ? std::string() : *got[0].bytes;
+    }
+    PasteboardWrite write(Pasteboard &by, PasteboardContent written,
+                          std::optional<ChangeCount> onlyOver = {}) {
+        return wait<PasteboardWrite>([&](auto handler) { by.write(written, onlyOver, handler); });
+    }
+
+    MemoryMainQueue queue;
+    std::unique_ptr<Pasteboard> ours = createX11Pasteboard(queue).backend;
+    std::unique_ptr<Pasteboard> theirs = createX11Pasteboard(queue).backend;
+};
+
+TEST_F(X11Backend, CountsEachReplacementOnceAndOwnWritesAtOnce) {
+    int announced = 0;
+    ours->setChangeHandler([&] { ++announced; });
+    const auto before = ours->changeCount();
+    for (int i = 1; i <= 100; ++i) {
+        const auto written = write(*ours, plainTextContent("a"));
+        ASSERT_EQ(written.status, PasteboardStatus::done);
+        ASSERT_EQ(written.changeCount, before + i);
+        ASSERT_EQ(ours->changeCount(), before + i);
+    }
+    for (int i = 0; i < 100; ++i) {
+        write(*theirs, plainTextContent("b"));
+    }
+    EXPECT_EQ(formats(*ours).changeCount, before + 200);
+    EXPECT_TRUE(until([&] { return announced > 0; }));
+    // The owner's end is a change as well, and leaves an empty clipboard.
+    theirs.reset();
+    EXPECT_TRUE(until([&] { return ours->changeCount() > before + 200; }));
+    EXPECT_EQ(formats(*ours).formats, Strings());
+    EXPECT_EQ(formats(*ours).status, PasteboardStatus::done);
+}
+
+TEST_F(X11Backend, ANewerCopyAlwaysWins) {
+    for (int round = 0; round < 200; ++round) {
+        write(*theirs, plainTextContent("old"));
+        const auto old = formats(*ours).changeCount;
+        const auto newer = std::to_string(round);
+        std::optional<PasteboardWrite> mine;
+        std::optional<PasteboardWrite> other;
+        const auto write_ours = [&] {
+            ours->write(plainTextContent("stale"), old, [&](auto result) { mine = result; });
+        };
+        if (round % 2 == 0) {
+            write_ours();
+        }
+        theirs->write(plainTextContent(newer), {}, [&](auto result) { other = result; });
+        if (round % 2 == 1) {
+            write_ours();
+        }
+        ASSERT_TRUE(until([&] { return mine && other; }));
+        ASSERT_EQ(other->status, PasteboardStatus::done);
+        ASSERT_EQ(text(*ours), newer);
+        ASSERT_EQ(text(*theirs), newer);
+    }
+}
+
+TEST_F(X11Backend, CarriesLargeContentWithinTheLimit) {
+    std::string large(3'000'000, '\0');
+    for (std::size_t i = 0; i < large.size(); ++i) {
+        large[i] = static_cast<char>(i * i >> 5);
+    }
+    write(*ours, content({"image/png", "UTF8_STRING"}, large));
+    for (auto *reader : {ours.get(), theirs.get()}) {
+        EXPECT_EQ(formats(*reader).formats, Strings({"image/png", "UTF8_STRING"}));
+        const auto all = read(*reader, {"UTF8_STRING", "text/html", "image/png"});
+        ASSERT_EQ(all.content.size(), 2u);
+        EXPECT_EQ(*all.content[0].bytes, large);
+        EXPECT_EQ(*all.content[1].bytes, large);
+        const auto one = read(*reader, {"UTF8_STRING", "image/png"}, large.size() + 1);
+        EXPECT_EQ(one.status, PasteboardStatus::done);
+        EXPECT_EQ(one.content.size(), 1u);
+    }
+}
+
+TEST_F(X11Backend, KeepsTheTypeThatAnOwnerDelivers) {
+    write(*theirs, {{"TEXT", "UTF8_STRING", std::make_shared<const std::string>("x")}});
+    const auto got = read(*ours, {"TEXT"});
+    ASSERT_EQ(got.content.size(), 1u);
+    EXPECT_EQ(got.content[0].type, "UTF8_STRING");
+}
+
+TEST_F(X11Backend, TellsWhenTheDisplayIsGone) {
+    bool lost = false;
+    ours->setLostHandler([&] { lost = true; });
+    write(*ours, plainTextContent("a"));
+    const auto connection = x11::Connection::open();
+    auto *xcb = connection->get();
+    const x11::Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
+        xcb, xcb_get_selection_owner(xcb, connection->atom("CLIPBOARD")), nullptr));
+    ASSERT_TRUE(owner);
+    xcb_kill_client(xcb, owner->owner);
+    xcb_flush(xcb);
+    EXPECT_TRUE(until([&] { return lost; }));
+    EXPECT_EQ(formats(*ours).status, PasteboardStatus::unavailable);
+    EXPECT_EQ(write(*ours, plainTextContent("a")).status, PasteboardStatus::unavailable);
+}
+
+// A window of a program with this instance and class.
+xcb_window_t mapWindow(x11::Connection &connection, const std::string &names) {
+    auto *xcb = connection.get();
+    const auto window = xcb_generate_id(xcb);
+    xcb_create_window(xcb, XCB_COPY_FROM_PARENT, window, connection.screen().root, 0, 0, 100, 100,
+                      0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(names.size()), names.data());
+    xcb_map_window(xcb, window);
+    xcb_flush(xcb);
+    return window;
+}
+
+TEST_F(X11Backend, NamesTheApplicationThatComesToTheFront) {
+    using namespace std::string_literals;
+    const auto application = createX11ActiveApplication(queue).backend;
+    const auto connection = x11::Connection::open();
+    Strings activated;
+    application->setActivatedHandler([&](const std::string &name) { activated.push_back(name); });
+    const auto seen = [&](const std::string &name) {
+        return until([&] { return !activated.empty() && activated.back() == name; });
+    };
+    mapWindow(*connection, "excel.exe\0Wine\0"s);
+    EXPECT_TRUE(seen("com.microsoft.Excel"));
+    mapWindow(*connection, "libreoffice\0libreoffice-calc\0"s);
+    EXPECT_TRUE(seen("org.libreoffice.Calc"));
+    mapWindow(*connection, "editor\0Editor\0"s);
+    EXPECT_TRUE(seen("Editor"));
+    const auto nameless = mapWindow(*connection, "no zero at the end");
+    EXPECT_TRUE(seen(""));
+    application->setActivatedHandler(nullptr);
+    activated.clear();
+    xcb_destroy_window(connection->get(), nameless);
+    xcb_flush(connection->get());
+    EXPECT_EQ(formats(*ours).status, PasteboardStatus::done); // the server has done so by now
+    queue.runPosted();
+    EXPECT_TRUE(activated.empty());
+}
+
+} // namespace
+} // namespace nerlo::platform

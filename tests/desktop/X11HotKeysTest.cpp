@@ -1,0 +1,236 @@
+// Hot keys and the keyboard layout on a real X server: xdotool is the user, xev the program in
+// front.
+#include "platform/x11/X11HotKeys.h"
+#include "Process.h"
+#include "platform/memory/MemoryMainQueue.h"
+#include "platform/x11/X11KeyboardLayout.h"
+#include "platform/x11/XkbEvents.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <thread>
+
+// A field in this header is called "explicit".
+#define explicit explicit_
+#include <xcb/xkb.h>
+#undef explicit
+
+namespace nerlo::platform {
+namespace {
+
+using test::outputOf;
+using test::Process;
+
+constexpr std::uint32_t v = 9;
+constexpr std::uint32_t f5 = 96;
+
+class X11HotKeys : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(service) << "no X server";
+        service->installHandler([this](HotKeyId id) { ++runs[id.id]; });
+    }
+
+    std::unique_ptr<HotKeyService> create() { return createX11HotKeys(queue).backend; }
+
+    HotKeyService::Registration take(HotKeyService &from, std::uint32_t key,
+                                     std::uint32_t modifiers) {
+        return from.registerHotKey({key, modifiers, {1, ++lastId}, {}, {}});
+    }
+
+    static void xdotool(const test::Arguments &arguments) {
+        test::Arguments command{"xdotool"};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        ASSERT_TRUE(outputOf(command)) << arguments.front();
+    }
+
+    bool waitFor(const std::function<bool()> &done) {
+        return test::until([&] {
+            queue.runPosted();
+            return done();
+        });
+    }
+    // Waits until a press of another hot key has come through: what was pressed before has then
+    // been dealt with.
+    void settle() {
+        const auto marker = take(*service, f5, hotKeyShift | hotKeyOption);
+        ASSERT_NE(marker.handle, 0u) << marker.refusal;
+        const auto id = lastId;
+        xdotool({"key", "shift+alt+F5"});
+        EXPECT_TRUE(waitFor([&] { return runs[id] == 1; }));
+        service->unregisterHotKey(marker.handle);
+    }
+    void press(const std::string &keys) {
+        xdotool({"key", keys});
+        settle();
+    }
+
+    MemoryMainQueue queue;
+    std::unique_ptr<HotKeyService> service = create();
+    std::map<std::uint32_t, int> runs;
+    std::uint32_t lastId = 0;
+};
+
+TEST_F(X11HotKeys, RunOncePerPressWhateverTheLayoutAndTheLocks) {
+    ASSERT_NE(take(*service, v, hotKeyControl).handle, 0u);
+    ASSERT_NE(take(*service, v, hotKeyCommand | hotKeyShift).handle, 0u);
+    ASSERT_NE(take(*service, f5, 0).handle, 0u);
+    int expected = 0;
+    for (const char *layout : {"us", "de", "ru"}) {
+        ASSERT_TRUE(outputOf({"setxkbmap", layout}));
+        for (const char *lock : {"", "Num_Lock", "Caps_Lock", "Num_Lock", "Caps_Lock"}) {
+            if (*lock != 0) {
+                xdotool({"key", lock});
+            }
+            // By place, 55 is the key that writes V on a us keyboard.
+            xdotool({"key", "--clearmodifiers", "super+55"});
+            xdotool({"key", "ctrl+shift+55"});
+            press("F5");
+            ++expected;
+            EXPECT_EQ(runs[1], expected) << layout << ' ' << lock;
+            EXPECT_EQ(runs[2], expected) << layout << ' ' << lock;
+            EXPECT_EQ(runs[3], expected) << layout << ' ' << lock;
+        }
+    }
+    press("ctrl+55");
+    press("super+shift+55");
+    press("55");
+    EXPECT_EQ(runs[1] + runs[2] + runs[3], 3 * expected);
+}
+
+TEST_F(X11HotKeys, AHeldKeyRunsOnce) {
+    ASSERT_TRUE(outputOf({"xset", "r", "rate", "100", "50"}));
+    ASSERT_NE(take(*service, v, hotKeyControl).handle, 0u);
+    for (int held = 1; held <= 3; ++held) {
+        xdotool({"keydown", "super", "keydown", "v"});
+        // Long enough for some forty repetitions.
+        std::this_thread::sleep_for(std::chrono::milliseconds(900));
+        xdotool({"keyup", "v", "keyup", "super"});
+        settle();
+        EXPECT_EQ(runs[1], held);
+    }
+}
+
+TEST_F(X11HotKeys, AreTakenFromTheProgramInFrontAndGivenBackAtOnce) {
+    Process front({"xev", "-event", "keyboard"});
+    const auto count = [&](const std::string &what) {
+        const std::string output = front.output();
+        int found = 0;
+        for (auto at = output.find(what); at != std::string::npos; at = output.find(what, at + 1)) {
+            ++found;
+        }
+        return found;
+    };
+    xdotool({"search", "--sync", "--onlyvisible", "--name", "Event Tester", "windowactivate",
+             "--sync"});
+    ASSERT_TRUE(test::until([&] {
+        xdotool({"key", "a"});
+        return count("keysym 0x61, a") > 0;
+    }));
+    const auto mine = take(*service, v, hotKeyCommand);
+    ASSERT_NE(mine.handle, 0u);
+    press("ctrl+v");
+    EXPECT_EQ(runs[1], 1);
+    EXPECT_EQ(count("keysym 0x76, v"), 0);
+
+    service->setSuspended(true);
+    ASSERT_TRUE(test::until([&] {
+        xdotool({"key", "ctrl+v"});
+        return count("keysym 0x76, v") > 0;
+    }));
+    service->setSuspended(false);
+    press("ctrl+v");
+    EXPECT_EQ(runs[1], 2);
+
+    const int before = count("keysym 0x76, v");
+    service->unregisterHotKey(mine.handle);
+    const auto other = create();
+    EXPECT_TRUE(test::until([&] { return take(*other, v, hotKeyCommand).handle != 0; }));
+    press("ctrl+v");
+    EXPECT_EQ(runs[1], 2);
+    EXPECT_EQ(count("keysym 0x76, v"), before);
+}
+
+TEST_F(X11HotKeys, WhatAnotherProgramHoldsIsRefused) {
+    auto other = create();
+    ASSERT_TRUE(other);
+    const auto theirs = take(*other, v, hotKeyControl);
+    ASSERT_NE(theirs.handle, 0u);
+    const auto refused = take(*service, v, hotKeyControl);
+    EXPECT_EQ(refused.handle, 0u);
+    EXPECT_EQ(refused.refusal, "another program has taken this key combination");
+    // Nor is a part of it kept.
+    other->unregisterHotKey(theirs.handle);
+    EXPECT_TRUE(test::until([&] { return take(*service, v, hotKeyControl).handle != 0; }));
+    EXPECT_EQ(take(*other, v, hotKeyControl).handle, 0u);
+    // With the program its grabs end.
+    service.reset();
+    EXPECT_TRUE(test::until([&] { return take(*other, v, hotKeyControl).handle != 0; }));
+    EXPECT_EQ(take(*other, 52, hotKeyControl).refusal, "the keyboard has no such key");
+}
+
+TEST_F(X11HotKeys, AConflictOnTheWayBackIsTold) {
+    const auto mine = take(*service, v, hotKeyControl);
+    std::vector<HotKeyStatus> told;
+    service->setStatusHandler(
+        [&](HotKeyId, const HotKeyStatus &status) { told.push_back(status); });
+    service->setSuspended(true);
+    const auto other = create();
+    HotKeyService::Registration theirs;
+    ASSERT_TRUE(test::until([&] {
+        theirs = take(*other, v, hotKeyControl);
+        return theirs.handle != 0;
+    }));
+    service->setSuspended(false);
+    ASSERT_TRUE(waitFor([&] { return told.size() == 1; }));
+    EXPECT_EQ(told[0].state, HotKeyState::refused);
+    EXPECT_EQ(service->status(mine.handle), told[0]);
+}
+
+TEST_F(X11HotKeys, FollowModifiersThatMove) {
+    ASSERT_NE(take(*service, v, hotKeyControl).handle, 0u);
+    press("super+v");
+    EXPECT_EQ(runs[1], 1);
+    // Super moves to the third modifier and Num Lock to the fifth.
+    ASSERT_TRUE(
+        outputOf({"xmodmap", "-e", "clear mod4", "-e", "clear mod3", "-e", "clear mod2", "-e",
+                  "clear mod5", "-e", "add mod3 = Super_L", "-e", "add mod5 = Num_Lock"}));
+    ASSERT_TRUE(test::until([&] {
+        const int before = runs[1];
+        press("super+v");
+        return runs[1] == before + 1;
+    }));
+    const int before = runs[1];
+    xdotool({"key", "Num_Lock"});
+    press("super+v");
+    EXPECT_EQ(runs[1], before + 1);
+}
+
+TEST_F(X11HotKeys, TheLayoutIsFollowedAsItChanges) {
+    const auto layout = createX11KeyboardLayout(queue).backend;
+    ASSERT_TRUE(layout);
+    int changes = 0;
+    layout->setChangedHandler([&] { ++changes; });
+    const struct {
+        const char *name;
+        const char16_t *text;
+    } rows[] = {{"de", u"z"}, {"ru", u"н"}, {"fr", u"y"}, {"de", u"z"}, {"us", u"y"}};
+    for (const auto &row : rows) {
+        ASSERT_TRUE(outputOf({"setxkbmap", row.name}));
+        EXPECT_TRUE(waitFor([&] { return layout->textOfKey(16) == row.text; })) << row.name;
+    }
+    EXPECT_GE(changes, 5);
+    // The second of two layouts, once it is switched to.
+    ASSERT_TRUE(outputOf({"setxkbmap", "us,ru"}));
+    EXPECT_TRUE(waitFor([&] { return layout->textOfKey(16) == u"y"; }));
+    const auto connection = x11::Connection::open();
+    ASSERT_TRUE(x11::XkbEvents::select(*connection));
+    xcb_xkb_latch_lock_state(connection->get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, 1, 0, 0, 0);
+    xcb_flush(connection->get());
+    EXPECT_TRUE(waitFor([&] { return layout->textOfKey(16) == u"н"; }));
+}
+
+} // namespace
+} // namespace nerlo::platform

@@ -1,0 +1,292 @@
+// x11-owner [OPTION...] FORMAT=VALUE...: a program that owns the clipboard and offers several
+// formats; VALUE is a text, @FILE, or *N for N letters, and has no "=" in it. For the tests it can
+// also misbehave:
+//
+//   --hang             never answer
+//   --refuse           deliver no format
+//   --stall-after N    deliver N bytes, in pieces, and then nothing more
+//   --die-after N      deliver N bytes, in pieces, and die
+//   --endless          deliver pieces for ever
+//   --more-formats N   offer so many formats more, which are never delivered
+//
+// Prints "owned" when it owns the clipboard, "send FORMAT" for each request, and "replaced" when it
+// lost the clipboard, which ends it.
+//
+// x11-owner --manager: is a clipboard manager instead. It prints "managing", saves the content when
+// it is asked to, prints "saved" and owns it from then on.
+//
+// x11-owner --watch: owns nothing, and prints "changed" for each time that somebody takes the
+// clipboard, after "watching".
+#include "platform/x11/Connection.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <unistd.h>
+#include <xcb/xfixes.h>
+
+namespace {
+
+using namespace nerlo::platform::x11;
+
+constexpr std::size_t pieceSize = 64 * 1024;
+constexpr std::size_t noLimit = std::numeric_limits<std::size_t>::max();
+
+enum class End { none, stall, die };
+
+class Owner {
+  public:
+    std::map<std::string, std::string> data;
+    int moreFormats = 0;
+    bool hang = false;
+    bool refuse = false;
+    bool endless = false;
+    bool manager = false;
+    bool watch = false;
+    std::size_t deliver = noLimit; // bytes, and then
+    End end = End::none;
+
+    int run() {
+        if (!x_) {
+            std::cerr << "x11-owner: no display\n";
+            return 1;
+        }
+        window_ = x_->makeWindow(XCB_EVENT_MASK_PROPERTY_CHANGE);
+        if (watch) {
+            return printChanges();
+        }
+        own(manager ? "CLIPBOARD_MANAGER" : "CLIPBOARD");
+        std::cout << (manager ? "managing" : "owned") << std::endl;
+        while (const auto event = next()) {
+            if (type(event) == XCB_SELECTION_CLEAR) {
+                const auto lost = as<xcb_selection_clear_event_t>(event).selection;
+                if (lost == x_->atom("CLIPBOARD")) {
+                    std::cout << "replaced" << std::endl;
+                    return 0;
+                }
+            } else if (type(event) == XCB_SELECTION_REQUEST) {
+                answer(as<xcb_selection_request_event_t>(event));
+            } else if (type(event) == XCB_PROPERTY_NOTIFY) {
+                sendNext(as<xcb_property_notify_event_t>(event));
+            }
+        }
+        return 1;
+    }
+
+  private:
+    struct Sending {
+        xcb_atom_t type;
+        std::string bytes;
+        std::size_t sent = 0;
+    };
+
+    template <class T>
+    static const T &as(const Event &event) {
+        return reinterpret_cast<const T &>(*event);
+    }
+    static int type(const Event &event) { return event->response_type & 0x7f; }
+    Event next() {
+        xcb_flush(x_->get());
+        return Event(xcb_wait_for_event(x_->get()));
+    }
+    // The next event of this type, and none of those before it.
+    Event await(int awaited) {
+        auto event = next();
+        while (event && type(event) != awaited) {
+            event = next();
+        }
+        return event;
+    }
+
+    int printChanges() {
+        const auto *fixes = xcb_get_extension_data(x_->get(), &xcb_xfixes_id);
+        std::free(xcb_xfixes_query_version_reply(
+            x_->get(), xcb_xfixes_query_version(x_->get(), 5, 0), nullptr));
+        xcb_xfixes_select_selection_input(x_->get(), window_, x_->atom("CLIPBOARD"),
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER);
+        x_->atom("SYNCHRONIZE");
+        std::cout << "watching" << std::endl;
+        while (await(fixes->first_event + XCB_XFIXES_SELECTION_NOTIFY)) {
+            std::cout << "changed" << std::endl;
+        }
+        return 1;
+    }
+
+    void own(const char *selection) {
+        set(window_, x_->atom("TIME"), XCB_ATOM_INTEGER, 8, "");
+        const auto event = await(XCB_PROPERTY_NOTIFY);
+        xcb_set_selection_owner(x_->get(), window_, x_->atom(selection),
+                                as<xcb_property_notify_event_t>(event).time);
+        xcb_flush(x_->get());
+    }
+
+    void set(xcb_window_t window, xcb_atom_t property, xcb_atom_t propertyType, std::uint8_t unit,
+             std::string_view bytes) {
+        xcb_change_property(x_->get(), XCB_PROP_MODE_REPLACE, window, property, propertyType, unit,
+                            static_cast<std::uint32_t>(bytes.size() * 8 / unit), bytes.data());
+    }
+
+    void answer(const xcb_selection_request_event_t &request) {
+        const auto format = x_->names(std::array{request.target}, 255).front();
+        std::cout << "send " << format << std::endl;
+        if (hang) {
+            return;
+        }
+        xcb_selection_notify_event_t notify{XCB_SELECTION_NOTIFY,
+                                            0,
+                                            0,
+                                            request.time,
+                                            request.requestor,
+                                            request.selection,
+                                            request.target,
+                                            request.property};
+        const auto found = data.find(format);
+        if (format == "SAVE_TARGETS" && manager) {
+            save();
+        } else if (format == "TARGETS") {
+            std::string atoms;
+            const auto add = [&](const std::string &name) {
+                const auto atom = x_->atom(name);
+                atoms.append(reinterpret_cast<const char *>(&atom), sizeof atom);
+            };
+            add("TARGETS");
+            for (const auto &[name, bytes] : data) {
+                add(name);
+            }
+            for (int i = 0; i < moreFormats; ++i) {
+                add("x/" + std::to_string(i));
+            }
+            set(request.requestor, request.property, XCB_ATOM_ATOM, 32, atoms);
+        } else if (found == data.end() || refuse) {
+            notify.property = XCB_NONE;
+        } else if (found->second.size() <= pieceSize && deliver == noLimit && !endless) {
+            set(request.requestor, request.property, request.target, 8, found->second);
+        } else {
+            const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+            xcb_change_window_attributes(x_->get(), request.requestor, XCB_CW_EVENT_MASK, &mask);
+            sendings_[{request.requestor, request.property}] = {request.target, found->second};
+            set(request.requestor, request.property, x_->atom("INCR"), 32, std::string(4, '\0'));
+        }
+        std::array<char, 32> wire{};
+        std::copy_n(reinterpret_cast<const char *>(&notify), sizeof notify, wire.begin());
+        xcb_send_event(x_->get(), 0, request.requestor, 0, wire.data());
+        if (format == "SAVE_TARGETS" && manager) {
+            own("CLIPBOARD");
+            std::cout << "saved" << std::endl;
+        }
+    }
+
+    void sendNext(const xcb_property_notify_event_t &event) {
+        const auto found = sendings_.find({event.window, event.atom});
+        if (event.state != XCB_PROPERTY_DELETE || found == sendings_.end()) {
+            return;
+        }
+        auto &sending = found->second;
+        if (sending.sent >= deliver) {
+            if (end == End::die) {
+                _exit(1);
+            }
+            return;
+        }
+        const auto piece =
+            endless ? std::string(pieceSize, 'x')
+                    : sending.bytes.substr(std::min(sending.sent, sending.bytes.size()), pieceSize);
+        set(event.window, event.atom, sending.type, 8, piece);
+        sending.sent += piece.size();
+        if (piece.empty()) {
+            sendings_.erase(found);
+        }
+    }
+
+    // As a clipboard manager: takes every format over, waiting for each.
+    void save() {
+        const auto targets = fetch("TARGETS");
+        std::vector<xcb_atom_t> atoms(targets.size() / sizeof(xcb_atom_t));
+        std::copy_n(targets.data(), atoms.size() * sizeof(xcb_atom_t),
+                    reinterpret_cast<char *>(atoms.data()));
+        for (const auto &name : x_->names(atoms, 255)) {
+            if (name != "TARGETS" && name != "MULTIPLE" && name != "TIMESTAMP" &&
+                name != "SAVE_TARGETS") {
+                data[name] = fetch(name);
+            }
+        }
+    }
+
+    std::string fetch(const std::string &format) {
+        const auto property = x_->atom("SAVED");
+        xcb_convert_selection(x_->get(), window_, x_->atom("CLIPBOARD"), x_->atom(format), property,
+                              XCB_CURRENT_TIME);
+        await(XCB_SELECTION_NOTIFY);
+        auto read = x_->property(window_, property, noLimit, true);
+        if (!read || read->type != x_->atom("INCR")) {
+            return read ? read->bytes : std::string();
+        }
+        std::string bytes;
+        for (;;) {
+            auto event = await(XCB_PROPERTY_NOTIFY);
+            const auto &change = as<xcb_property_notify_event_t>(event);
+            if (change.atom != property || change.state != XCB_PROPERTY_NEW_VALUE) {
+                continue;
+            }
+            read = x_->property(window_, property, noLimit, true);
+            if (!read || read->bytes.empty()) {
+                return bytes;
+            }
+            bytes += read->bytes;
+        }
+    }
+
+    std::unique_ptr<Connection> x_ = Connection::open();
+    xcb_window_t window_ = XCB_NONE;
+    std::map<std::pair<xcb_window_t, xcb_atom_t>, Sending> sendings_;
+};
+
+std::string bytesOf(const std::string &value) {
+    if (value.starts_with('@')) {
+        std::ifstream file(value.substr(1), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    return value.starts_with('*') ? std::string(std::stoul(value.substr(1)), 'x') : value;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    Owner owner;
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string &option = arguments[i];
+        const auto number = [&] { return std::stoul(arguments.at(++i)); };
+        if (option == "--hang") {
+            owner.hang = true;
+        } else if (option == "--refuse") {
+            owner.refuse = true;
+        } else if (option == "--endless") {
+            owner.endless = true;
+        } else if (option == "--watch") {
+            owner.watch = true;
+        } else if (option == "--manager") {
+            owner.manager = true;
+        } else if (option == "--stall-after") {
+            owner.deliver = number();
+            owner.end = End::stall;
+        } else if (option == "--die-after") {
+            owner.deliver = number();
+            owner.end = End::die;
+        } else if (option == "--more-formats") {
+            owner.moreFormats = static_cast<int>(number());
+        } else {
+            const auto equals = option.rfind('=');
+            owner.data[option.substr(0, equals)] = bytesOf(option.substr(equals + 1));
+        }
+    }
+    return owner.run();
+}
