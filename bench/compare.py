@@ -1,0 +1,320 @@
+#!/usr/bin/env python3
+"""Runs `nerlo` and other tools in turn on the same texts and prints how they compare.
+
+Only ratios are printed: a time says more about the machine than about the program. Every ratio is
+the median of the ratios of pairs of runs, one after the other. Started by scripts/bench.sh.
+"""
+import argparse
+import collections
+import contextlib
+import json
+import os
+import platform
+import plistlib
+import random
+import statistics
+import subprocess
+import sys
+import threading
+import time
+import zlib
+
+import make_corpus
+from operations import KEEPS, ROWS
+
+LONGEST = 300  # seconds, after which a run is stopped
+MEGABYTE = 1e6
+Run = collections.namedtuple("Run", "wall cpu peak")
+
+
+class Bench:
+    def __init__(self, arguments):
+        self.arguments = arguments
+        self.rows = [row for row in ROWS if not arguments.rows or row.name in arguments.rows]
+        self.cache = arguments.cache
+        self.full = self.corpus(arguments.mb)
+        self.sixteenth = self.corpus(arguments.mb / 16)
+        home = self.folder("home")  # no profile of the user's has a say
+        self.environment = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8"}
+        self.tools = dict(self.environment, LC_ALL="C")
+        self.utf8_tools = dict(self.tools, LC_ALL="en_US.UTF-8", LOCPATH=self.locales())
+
+    def folder(self, *names):
+        path = os.path.join(self.cache, *names)
+        os.makedirs(path, exist_ok=True)
+        return path
+
+    def corpus(self, megabytes, *flags):
+        with open(make_corpus.__file__, "rb") as file:  # another maker, other texts
+            maker_sum = zlib.crc32(file.read())
+        folder = self.folder("%s%g-%08x" % ("hostile-" if flags else "text-", megabytes, maker_sum))
+        # In a process of its own: the memory of this one is the floor of the peaks that it can see.
+        maker = [sys.executable, make_corpus.__file__, *flags, folder, str(megabytes)]
+        subprocess.run(maker, check=True)
+        return folder
+
+    def locales(self):
+        """A locale with real sorting rules, whatever the machine has."""
+        folder = self.folder("locale")
+        if not os.path.exists(os.path.join(folder, "en_US.UTF-8", "LC_COLLATE")):
+            subprocess.run(["localedef", "-i", "en_US", "-f", "UTF-8",
+                            os.path.join(folder, "en_US.UTF-8")], check=True)
+        return folder
+
+    def ours(self, row):
+        path = os.path.join(self.folder("options"), row.name + ".plist")
+        with open(path, "wb") as file:
+            plistlib.dump(row.options, file)
+        command = row.command.format(nerlo=self.arguments.nerlo, options=path)
+        return ["sh", "-c", command] if "|" in command else command.split()
+
+    def run(self, argv, source, environment=None, output=os.devnull):
+        actions = [(os.POSIX_SPAWN_OPEN, 0, source, os.O_RDONLY, 0),
+                   (os.POSIX_SPAWN_OPEN, 1, output, os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o644)]
+        begin = time.perf_counter()
+        pid = os.posix_spawnp(argv[0], argv, environment or self.environment, file_actions=actions)
+        guard = threading.Timer(LONGEST, os.kill, (pid, 9))
+        guard.start()
+        _, status, usage = os.wait4(pid, 0)
+        wall = time.perf_counter() - begin
+        guard.cancel()
+        if status:
+            sys.exit("bench: failed with status %d on %s: %s" % (status, source, " ".join(argv)))
+        return Run(wall, max(usage.ru_utime + usage.ru_stime, 1e-5), usage.ru_maxrss * 1024)
+
+    def pairs(self, first, second, count=None):
+        """Median ratios of first() to second(), both of which give a Run, and all the runs."""
+        runs = [(first(), second()) for _ in range(count or self.arguments.pairs)]
+        return Run(*(statistics.median(a[k] / b[k] for a, b in runs) for k in range(3))), runs
+
+    def text(self, row, folder=None):
+        return os.path.join(folder or self.full, row.corpus + ".txt")
+
+    def same_bytes(self, row, tool, environment):
+        results = [os.path.join(self.cache, name) for name in ("ours.out", "theirs.out")]
+        self.run(self.ours(row), self.text(row), output=results[0])
+        self.run(tool.argv, self.text(row), environment, output=results[1])
+        with open(results[0], "rb") as a, open(results[1], "rb") as b:
+            same = True
+            while same:
+                block = a.read(1 << 20)
+                same = block == b.read(1 << 20)
+                if not block:
+                    break
+        for result in results:
+            os.remove(result)
+        return same
+
+    # --- the tables
+
+    def speed(self):
+        print("Whole process, %g MB of text, ours divided by the tool's; (=): the same bytes. A peak "
+              "of less than some 16 MB cannot be seen.\n" % self.arguments.mb)
+        table = Table("operation", "tool", "wall", "CPU", "peak", "goal", "stretch", "verdict")
+        for row in self.rows:
+            for tool in row.rivals:
+                environment = self.utf8_tools if tool.utf8 else self.tools
+                same = " (=)" if self.same_bytes(row, tool, environment) else ""
+                ours, source = self.ours(row), self.text(row)
+                ratio, _ = self.pairs(lambda: self.run(ours, source),
+                                      lambda: self.run(tool.argv, source, environment))
+                judged = getattr(ratio, self.arguments.judge or tool.by)
+                table.add(row.title, tool.name + same, *ratio,
+                          ("CPU " if tool.by == "cpu" else "") + number(tool.goal), tool.stretch,
+                          verdict(judged, tool.goal, tool.stretch))
+
+    def clip(self):
+        print("A clip of 1 KB in one process, ours divided by one ICU pass of `[ ]+`, compiled each "
+              "time.\n")
+        names = ("first-start-pipeline-and-counts/prose/1K", "one-pattern-pass/prose/1K")
+        done = subprocess.run(
+            [self.arguments.nerlo_bench, "--benchmark_filter=^(%s)/" % "|".join(names),
+             "--benchmark_format=json", "--benchmark_repetitions=11", "--benchmark_min_time=0.003",
+             "--benchmark_enable_random_interleaving=true"],
+            check=True, capture_output=True, env=self.environment)
+        times = {name: [] for name in names}
+        for result in json.loads(done.stdout)["benchmarks"]:
+            if result["run_type"] == "iteration":
+                # Processor time: it holds the making of the copies too, which is next to nothing.
+                times[result["name"].rpartition("/")[0]].append(result["cpu_time"])
+        ratio = statistics.median(times[names[0]]) / statistics.median(times[names[1]])
+        table = Table("clip", "CPU", "goal", "stretch", "verdict")
+        table.add("first-start pipeline with counts", ratio, .5, .15, verdict(ratio, .5, .15))
+
+    def growth(self):
+        print("Growth with the text: %g MB divided by %g MB; and the peak memory at %g MB in "
+              "multiples of the text's size in UTF-16.\n"
+              % (self.arguments.mb, self.arguments.mb / 16, self.arguments.mb))
+        table = Table("operation", "wall", "CPU", "goal", "verdict", "memory", "goal", "verdict")
+        for row in self.rows:
+            ours, text = self.ours(row), self.text(row)
+            self.run(ours, text)  # so that no run is the first one
+            ratio, runs = self.pairs(lambda: self.run(ours, text),
+                                     lambda: self.run(ours, self.text(row, self.sixteenth)))
+            size = utf16_size(text)
+            allowance = 8 * MEGABYTE / size if row.memory == KEEPS else 0
+            peak = max(large.peak for large, _ in runs) / size
+            table.add(row.title, ratio.wall, ratio.cpu, "20", verdict(ratio.cpu, 20), peak,
+                      number(row.memory) + (" + 8 MB" if allowance else ""),
+                      verdict(peak, row.memory + allowance))
+
+    def hostile(self):
+        print("Hostile texts, every operation: CPU time at 4 MB divided by 1 MB, and divided by that "
+              "of the same operation on prose of 4 MB; the worst of each.\n")
+        small, large = (self.corpus(size, "--hostile") for size in (1, 4))
+        ordinary = self.corpus(4)
+        prose = os.path.join(ordinary, "prose.txt")
+        usual = {row.name: self.run(self.ours(row), prose).cpu for row in self.rows}
+        table = Table("text", "4 MB / 1 MB", "operation", "goal", "verdict", "hostile / prose", "operation")
+        for name in make_corpus.HOSTILE:
+            paths = [os.path.join(folder, name + ".txt") for folder in (large, small)]
+            growths, slowness = [], []
+            for row in self.rows:
+                ours = self.ours(row)
+                pair = [lambda path=path: self.run(ours, path) for path in paths]
+                ratio, runs = self.pairs(*pair, 1)
+                if ratio.cpu > 5:  # again, as short runs waver
+                    ratio, runs = self.pairs(*pair, 5)
+                growths.append((ratio.cpu, row.name))
+                large_run = statistics.median(run.cpu for run, _ in runs)
+                slowness.append((large_run / usual[row.name], row.name))
+            growth, slow = max(growths), max(slowness)
+            table.add(name, *growth, "5", verdict(growth[0], 5), *slow)
+
+    def start(self):
+        print("Start to exit on a clip of 1 KB, an options file read, ours divided by `true`.\n")
+        clip = os.path.join(self.full, "clip.txt")
+        by_name = {row.name: row for row in ROWS}
+        table = Table("command", "wall", "CPU", "goal", "stretch", "verdict")
+        for title, name, goal, stretch in (("clean, a plain operation", "tabs", 2.8, 1.5),
+                                           ("clean, a pattern", "pattern", 4.5, None)):
+            argv = self.ours(by_name[name])
+            ratio, _ = self.pairs(lambda: self.run(argv, clip), lambda: self.run(["true"], clip),
+                                  50 if self.arguments.quick else 400)
+            judged = getattr(ratio, self.arguments.judge or "wall")
+            table.add(title, ratio.wall, ratio.cpu, goal, stretch, verdict(judged, goal, stretch))
+
+    def batch(self):
+        print("20,000 mixed requests, `nerlo batch --jobs 2` divided by `--jobs 1`.\n")
+        source = os.path.join(self.cache, "requests.jsonl")
+        write_requests(source, 20000)
+        command = [self.arguments.nerlo, "batch", "--locale", "en_US", "--jobs"]
+        ratio, _ = self.pairs(lambda: self.run(command + ["2"], source),
+                              lambda: self.run(command + ["1"], source))
+        outputs = [os.path.join(self.cache, "answers-" + jobs) for jobs in "12"]
+        for jobs, output in zip("12", outputs):
+            self.run(command + [jobs], source, output=output)
+        same = subprocess.run(["cmp", "-s", *outputs]).returncode == 0
+        table = Table("requests", "wall", "CPU", "goal", "verdict")
+        table.add("20,000" + (" (=)" if same else " (ANSWERS DIFFER)"), ratio.wall, ratio.cpu, .6,
+                  verdict(ratio.wall, .6))
+
+
+class Table:
+    """A Markdown table whose rows show as soon as they are known."""
+
+    def __init__(self, *titles):
+        self.widths = [34 if place == 0 else max(7, len(title)) for place, title in enumerate(titles)]
+        self.add(*titles)
+        self.add(*("-" * width for width in self.widths))
+
+    def add(self, *cells):
+        texts = (cell if isinstance(cell, str) else number(cell) for cell in cells)
+        padded = (text.ljust(width) for text, width in zip(texts, self.widths))
+        print("| " + " | ".join(padded) + " |", flush=True)
+
+
+def number(value):
+    if value is None:
+        return ""
+    return "%.0f" % value if value >= 100 else "%.1f" % value if value >= 10 else "%.2f" % value
+
+
+def verdict(value, goal, stretch=None):
+    if stretch and value <= stretch:
+        return "stretch"
+    return "reached" if value <= goal else "missed by %.0f %%" % max(1, 100 * (value / goal - 1))
+
+
+def utf16_size(path):
+    continuation = bytes(range(0x80, 0xC0))
+    bmp = bytes(range(0xF0))
+    units = 0
+    with open(path, "rb") as file:
+        while block := file.read(1 << 16):
+            units += len(block.translate(None, continuation))  # one for each character
+            units += len(block.translate(None, bmp))  # and one more outside the BMP
+    return 2 * units
+
+
+def write_requests(path, count):
+    """Most as from an editor, a line or a paragraph; some a page."""
+    writer = make_corpus.Writer("requests")
+    choose = random.Random("operations").choice
+    with open(path, "w", encoding="utf-8") as file:
+        for number_ in range(count):
+            text = "".join(writer.prose() for _ in range(choose((1, 1, 1, 2, 8))))
+            request = {"id": number_, "text": text}
+            operation = choose((None, None, 3, 6, 7, 11, 16, 18, 21, 25, 33, 34))
+            if operation is not None:
+                request["operation"] = operation
+            file.write(json.dumps(request, ensure_ascii=False) + "\n")
+
+
+def machine():
+    def first_line(*argv):
+        with contextlib.suppress(OSError):
+            return subprocess.run(argv, capture_output=True, text=True).stdout.split("\n")[0]
+        return argv[0] + ": not there"
+
+    model = platform.machine()
+    with open("/proc/cpuinfo") as file:
+        for line in file:
+            if line.startswith("model name"):
+                model = line.split(":")[1].strip()
+                break
+    system = platform.freedesktop_os_release().get("PRETTY_NAME", platform.system())
+    memory = os.sysconf("SC_PHYS_PAGES") * os.sysconf("SC_PAGE_SIZE")
+    versions = (first_line("c++", "--version"),
+                "ICU " + first_line("pkg-config", "--modversion", "icu-uc"),
+                first_line("perl", "-e", "print 'Perl ', $^V"),
+                "Python " + platform.python_version(),
+                *(first_line(tool, "--version") for tool in ("sed", "tr", "gawk", "sd")))
+    return "%s, %d cores, %.0f GB; %s, Linux %s; %s" % (
+        model, os.cpu_count(), memory / 1e9, system, platform.release(), "; ".join(versions))
+
+
+def main():
+    tables = ("speed", "clip", "growth", "hostile", "start", "batch")
+    names = [row.name for row in ROWS]
+    parser = argparse.ArgumentParser(
+        prog="bench.sh", description="How nerlo compares with other tools, as ratios.")
+    option = parser.add_argument
+    option("rows", nargs="*", metavar="ROW", help="only these operations, of: " + " ".join(names))
+    option("--table", action="append", choices=tables, help="only this table; can be repeated")
+    option("--pairs", type=int, metavar="N", help="pairs of runs for each ratio (5)")
+    option("--mb", type=float, metavar="N", help="size of the texts in megabytes (64)")
+    option("--quick", action="store_true",
+           help="16 MB, 1 pair, no hostile texts: a first impression")
+    option("--judge", choices=("wall", "cpu"),
+           help="what all verdicts go by: cpu on a busy machine")
+    for name in ("nerlo", "nerlo-bench", "cache"):
+        option("--" + name, required=True, help=argparse.SUPPRESS)
+    arguments = parser.parse_args()
+    unknown = set(arguments.rows) - set(names)
+    if unknown:
+        parser.error("no such row: " + " ".join(sorted(unknown)))
+    arguments.pairs = arguments.pairs or (1 if arguments.quick else 5)
+    arguments.mb = arguments.mb or (16 if arguments.quick else 64)
+    chosen = arguments.table or [table for table in tables if not (
+        arguments.quick and table == "hostile" or
+        arguments.rows and table not in ("speed", "growth"))]
+    bench = Bench(arguments)
+    print("Measured on: %s. Medians of %d pairs of runs.\n" % (machine(), arguments.pairs))
+    for table in chosen:
+        getattr(bench, table)()
+        print()
+
+
+if __name__ == "__main__":
+    main()
