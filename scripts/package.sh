@@ -1,0 +1,31 @@
+#!/bin/bash
+# package.sh [FOLDER]: builds the Debian packages of nerlo and nerlo-pro and puts them into FOLDER
+# (build/packages if none is given).
+#
+# Installs what is missing. Where the checkers are installed (group "package" of packages.sh), it
+# also fails on what they call an error.
+set -eu
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=$root/build/package
+target=${1:-$root/build/packages}
+
+"$root/scripts/packages.sh" build desktop-build package </dev/null
+cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=None \
+    -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS) -DNDEBUG" \
+    -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" \
+    -DCMAKE_INSTALL_PREFIX=/usr -DNERLO_TESTS=OFF -DNERLO_BENCH=OFF
+cmake --build "$build"
+
+desktop-file-validate "$root/packaging/org.nerlo.NerloPro.desktop"
+appstreamcli validate --no-net "$build/packaging/org.nerlo.NerloPro.metainfo.xml"
+for manual in "$root"/packaging/man/*; do
+    warnings=$(LC_ALL=C.UTF-8 man --warnings -E UTF-8 -l -Tutf8 -Z "$manual" 2>&1 >/dev/null)
+    [ -z "$warnings" ] || { echo "$manual: $warnings" >&2; exit 1; }
+done
+
+rm -f "$build"/*.deb
+(umask 022 && cd "$build" && cpack)
+lintian --fail-on error --suppress-tags initial-upload-closes-no-bugs "$build"/*.deb
+mkdir -p "$target"
+cp "$build"/*.deb "$target"
+ls "$target"/*.deb
