@@ -1,7 +1,11 @@
 #include "shell/BusService.h"
 
 #include "nerlopro_adaptor.h"
+#include "platform/Pasteboard.h"
 
+#include <algorithm>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 #include <QDBusConnection>
@@ -15,6 +19,46 @@ namespace {
 const auto serviceName = QStringLiteral("org.nerlo.NerloPro");
 const auto objectPath = QStringLiteral("/org/nerlo/NerloPro");
 const auto interfaceName = serviceName;
+
+using namespace std::chrono_literals;
+
+// A program that ends may be busy with its clipboard for so long.
+constexpr auto endsWithin = platform::pasteboardHandOverLimit + 5s;
+
+const auto questionName = QStringLiteral("question");
+
+// The shared connection is for the application that may come after the question.
+class OwnConnection {
+  public:
+    OwnConnection()
+        : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, questionName)) {}
+    ~OwnConnection() { QDBusConnection::disconnectFromBus(questionName); }
+    OwnConnection(const OwnConnection &) = delete;
+    OwnConnection &operator=(const OwnConnection &) = delete;
+
+    bool programRuns() const {
+        return bus.isConnected() && bus.interface()->isServiceRegistered(serviceName);
+    }
+    bool programEnds() const {
+        const auto end = std::chrono::steady_clock::now() + endsWithin;
+        while (programRuns()) {
+            if (std::chrono::steady_clock::now() > end) {
+                return false;
+            }
+            std::this_thread::sleep_for(20ms);
+        }
+        return true;
+    }
+
+    QDBusConnection bus;
+};
+
+// What a program that ends leaves a question with.
+bool fromOneThatEnds(const QDBusMessage &reply) {
+    constexpr QDBusError::ErrorType ends[] = {QDBusError::UnknownObject, QDBusError::ServiceUnknown,
+                                              QDBusError::NoReply};
+    return std::ranges::find(ends, QDBusError(reply).type()) != std::end(ends);
+}
 
 } // namespace
 
@@ -31,6 +75,10 @@ BusService::Name BusService::takeName() {
     // The object first: whoever finds the name finds it too.
     bus.registerObject(objectPath, this);
     return bus.registerService(serviceName) ? Name::ours : Name::taken;
+}
+
+void BusService::end() {
+    QDBusConnection::sessionBus().unregisterObject(objectPath);
 }
 
 void BusService::Clean() {
@@ -83,31 +131,26 @@ void BusService::Quit() {
 }
 
 bool programRuns() {
-    // A connection of its own: the shared one is for the application that comes after this.
-    const auto connection = QStringLiteral("look");
-    bool runs = false;
-    {
-        const auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connection);
-        runs = bus.isConnected() && bus.interface()->isServiceRegistered(serviceName);
-    }
-    QDBusConnection::disconnectFromBus(connection);
-    return runs;
+    return OwnConnection().programRuns();
 }
 
 Answer askRunningProgram(const Request &request) {
+    const OwnConnection connection;
     auto call =
         QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, request.method);
     call.setArguments(request.arguments);
-    const auto reply = QDBusConnection::sessionBus().call(call);
+    const auto reply = connection.bus.call(call);
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        return {false, reply.errorMessage()};
+        const bool ended = fromOneThatEnds(reply) && connection.programEnds();
+        return {ended ? Answer::Outcome::ended : Answer::Outcome::failed, reply.errorMessage()};
     }
     if (reply.arguments().isEmpty()) {
-        return {true, std::nullopt};
+        return {Answer::Outcome::done, std::nullopt};
     }
     const auto value = reply.arguments().first();
     const bool flag = value.typeId() == QMetaType::Bool;
-    return {true, flag ? QString(value.toBool() ? "on" : "off") : value.toString()};
+    return {Answer::Outcome::done,
+            flag ? QString(value.toBool() ? "on" : "off") : value.toString()};
 }
 
 } // namespace nerlo::shell

@@ -31,6 +31,9 @@ class BusService final : public QObject, protected QDBusContext {
         noBus, // there is no session bus
     };
     Name takeName();
+    // From here on calls are refused. The name stays for as long as the program holds anything that
+    // the next one needs.
+    void end();
 
     // Tells the bus that a cleaned text has reached the clipboard.
     void cleaned() { emit Cleaned(); }
@@ -60,14 +63,19 @@ class BusService final : public QObject, protected QDBusContext {
 
 // The answer to a request, as a text; nothing where the request has no answer.
 struct Answer {
-    bool succeeded = false;
-    std::optional<QString> text; // without success: why, in English
+    enum class Outcome {
+        done,
+        failed, // the text says why, in English
+        ended,  // the program was about to end, and now has
+    };
+    Outcome outcome = Outcome::failed;
+    std::optional<QString> text;
 };
 
 // Whether a program owns the name.
 bool programRuns();
 
-// Has the program that owns the name do it, and waits for the answer.
+// Has the program that owns the name do it, and waits for the answer, or for its end.
 Answer askRunningProgram(const Request &request);
 
 } // namespace nerlo::shell

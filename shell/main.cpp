@@ -53,16 +53,21 @@ int complain(const std::string &what) {
     return failed;
 }
 
-// A second start: the program that runs does what was asked.
-int handOver(const shell::CommandLine &commandLine) {
-    auto requests = commandLine.requests;
+// A second start: the program that runs does what was asked. Nothing if it was about to end
+// instead, which leaves the requests that it has not done.
+std::optional<int> handOver(shell::CommandLine &commandLine) {
+    auto &requests = commandLine.requests;
     if (requests.empty()) {
         requests.push_back({"Activate", {}});
     }
-    for (const auto &request : requests) {
+    for (; !requests.empty(); requests.erase(requests.begin())) {
+        const auto &request = requests.front();
         const auto answer = shell::askRunningProgram(request);
         const auto text = answer.text.value_or(QString()).toStdString();
-        if (!answer.succeeded) {
+        if (answer.outcome == shell::Answer::Outcome::ended) {
+            return std::nullopt;
+        }
+        if (answer.outcome == shell::Answer::Outcome::failed) {
             return complain(text);
         }
         if (request.method == "Restore" &&
@@ -116,7 +121,9 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
         break;
     }
     if (shell::programRuns()) {
-        return handOver(commandLine);
+        if (const auto status = handOver(commandLine)) {
+            return status;
+        }
     }
     if (commandLine.asksFor("Quit")) {
         return succeeded; // none runs
@@ -176,9 +183,11 @@ int main(int argc, char **argv) {
 
     shell::Commands commands;
     shell::BusService bus(commands);
-    const auto name = bus.takeName();
-    if (name == shell::BusService::Name::taken) {
-        return handOver(commandLine);
+    auto name = bus.takeName();
+    for (; name == shell::BusService::Name::taken; name = bus.takeName()) {
+        if (const auto status = handOver(commandLine)) {
+            return *status;
+        }
     }
     if (name == shell::BusService::Name::noBus) {
         complain("there is no session bus, so no other start of the program will find this one");
@@ -301,6 +310,7 @@ int main(int argc, char **argv) {
     });
     perform(commandLine, commands);
     const int status = QCoreApplication::exec();
+    bus.end();
     preferences.savePending();
     return status;
 }
