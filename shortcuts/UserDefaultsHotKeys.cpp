@@ -10,6 +10,15 @@ std::optional<nrShortcut> storedShortcut(const platform::SettingsStore &store,
     return data ? nrShortcut::shortcutWithData(*data) : std::nullopt;
 }
 
+void storeShortcut(platform::SettingsStore &store, std::string_view key,
+                   const std::optional<nrShortcut> &shortcut) {
+    if (shortcut) {
+        store.set(key, shortcut->data());
+    } else {
+        store.remove(key);
+    }
+}
+
 nrShortcutUserDefaultsHotKey::nrShortcutUserDefaultsHotKey(
     platform::SettingsStore &store, GlobalHotKeys &hotKeys, std::string userDefaultsKey_,
     HotKeyHandler handler_, std::string title, std::function<void()> changed)
@@ -74,15 +83,6 @@ void UserDefaultsHotKeys::registerGlobalShortcutWithUserDefaultsKey(std::string_
 void UserDefaultsHotKeys::unregisterGlobalShortcutWithUserDefaultsKey(std::string_view key) {
     if (registered_.erase(std::string(key)) != 0) {
         tell();
-    }
-}
-
-void UserDefaultsHotKeys::setGlobalShortcut(const std::optional<nrShortcut> &shortcut,
-                                            std::string_view key) {
-    if (shortcut) {
-        store_.set(key, shortcut->data());
-    } else {
-        store_.remove(key);
     }
 }
 

@@ -18,6 +18,9 @@ namespace nerlo::shortcuts {
 // The shortcut that is stored under `key`; none where there is none or no archive of one.
 std::optional<nrShortcut> storedShortcut(const platform::SettingsStore &store,
                                          std::string_view key);
+// Stores the shortcut, or removes the key when there is none.
+void storeShortcut(platform::SettingsStore &store, std::string_view key,
+                   const std::optional<nrShortcut> &shortcut);
 
 // The hot key of one settings key: there whenever a shortcut is stored under it.
 class nrShortcutUserDefaultsHotKey {
@@ -66,8 +69,9 @@ class UserDefaultsHotKeys {
     void registerGlobalShortcutWithUserDefaultsKey(std::string_view key, HotKeyHandler handler,
                                                    std::string title = {});
     void unregisterGlobalShortcutWithUserDefaultsKey(std::string_view key);
-    // Stores the shortcut, or removes the key when there is none.
-    void setGlobalShortcut(const std::optional<nrShortcut> &shortcut, std::string_view key);
+    void setGlobalShortcut(const std::optional<nrShortcut> &shortcut, std::string_view key) {
+        storeShortcut(store_, key, shortcut);
+    }
     const Registered &registeredUserDefaultsHotKeys() const { return registered_; }
 
     platform::HotKeyStatus status(std::string_view key) const;
@@ -75,6 +79,7 @@ class UserDefaultsHotKeys {
     [[nodiscard]] Observation observeStatus(std::function<void()> changed);
 
     platform::SettingsStore &store() { return store_; }
+    const platform::SettingsStore &store() const { return store_; }
     GlobalHotKeys &hotKeys() { return hotKeys_; }
 
   private:

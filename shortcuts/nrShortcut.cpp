@@ -2,9 +2,11 @@
 
 #include "platform/PropertyList.h"
 #include "platform/SystemHotKeys.h"
+#include "platform/VirtualKeys.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "text/CaseMapping.h"
 #include "text/Characters.h"
+#include "text/Utf.h"
 
 #include <algorithm>
 #include <array>
@@ -268,6 +270,36 @@ std::u16string nrShortcut::spelledOutName(const ShortcutTexts &texts) const {
         return name + texts.localized(row->name);
     }
     return name + keyCodeString(texts);
+}
+
+std::optional<nrShortcut> nrShortcut::shortcutWithSpelledOutName(std::u16string_view name,
+                                                                 const ShortcutTexts &texts) {
+    const auto lower = [](std::u16string_view text) {
+        return text::toLowercase(std::u16string(text), {});
+    };
+    std::uint64_t flags = 0;
+    // A plus sign at the end belongs to the key.
+    for (auto plus = name.find(u'+'); plus < name.size() - 1 && plus != 0; plus = name.find(u'+')) {
+        const auto wanted = lower(name.substr(0, plus));
+        const auto *row = std::ranges::find_if(modifiers, [&](const Modifier &modifier) {
+            return lower(texts.localized(modifier.name)) == wanted;
+        });
+        if (row == modifiers.end()) {
+            return std::nullopt;
+        }
+        flags |= row->flag;
+        name.remove_prefix(plus + 1);
+    }
+    if (name.empty()) {
+        return std::nullopt;
+    }
+    for (const auto &key : platform::virtualKeys()) {
+        if (lower(nrShortcut(key.code, 0).spelledOutName(texts)) == lower(name)) {
+            return nrShortcut(key.code, flags);
+        }
+    }
+    const auto key = texts.layout().keyOfSymbol(text::utf16ToUtf8(name));
+    return key ? std::optional(nrShortcut(*key, flags)) : std::nullopt;
 }
 
 std::u16string nrShortcut::keyCodeStringForKeyEquivalent(const ShortcutTexts &texts) const {

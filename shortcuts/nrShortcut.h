@@ -75,6 +75,10 @@ class nrShortcut {
     std::u16string description(const ShortcutTexts &texts) const;
     // With the names that stand on this desktop's keys, for tooltips and screen readers: "Super+V".
     std::u16string spelledOutName(const ShortcutTexts &texts) const;
+    // From such a name, in whatever letter case; the key may also have its name on a us keyboard or
+    // xkb's ("minus"). None for anything else.
+    static std::optional<nrShortcut> shortcutWithSpelledOutName(std::u16string_view name,
+                                                                const ShortcutTexts &texts);
     // The key as a menu key equivalent.
     std::u16string keyCodeStringForKeyEquivalent(const ShortcutTexts &texts) const;
 

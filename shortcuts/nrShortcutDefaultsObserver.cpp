@@ -55,11 +55,7 @@ void nrShortcutDefaultsObserver::valueChanged() {
         return;
     }
     const EchoGuard guard(internalPreferenceChange_);
-    if (const auto value = shortcutView_.shortcutValue()) {
-        store_.set(userDefaultsKey_, value->data());
-    } else {
-        store_.remove(userDefaultsKey_);
-    }
+    storeShortcut(store_, userDefaultsKey_, shortcutView_.shortcutValue());
     store_.synchronize();
 }
 

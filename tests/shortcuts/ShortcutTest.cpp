@@ -2,6 +2,7 @@
 
 #include "platform/PropertyList.h"
 #include "platform/SystemHotKeys.h"
+#include "platform/VirtualKeys.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "text/Utf.h"
@@ -198,6 +199,45 @@ TEST(Shortcut, NamesItsModifiers) {
     EXPECT_EQ(nrShortcut(9, allModifiers).carbonFlags(), 0x1b00u);
     EXPECT_EQ(nrShortcut(nrShortcut::absentKey, shiftModifier).carbonFlags(), 0x200u);
     EXPECT_EQ(nrShortcut(nrShortcut::absentKey, shiftModifier).carbonKeyCode(), 0u);
+}
+
+TEST(Shortcut, IsReadFromItsSpelledOutName) {
+    const auto de = layoutOf("de");
+    const auto ru = layoutOf("ru");
+    for (const auto *layout : {&de, &ru}) {
+        const ShortcutTexts texts(*layout);
+        for (const auto &key : platform::virtualKeys()) {
+            const auto name = nrShortcut(key.code, allModifiers).spelledOutName(texts);
+            if (!nrShortcut(key.code, 0).keyCodeString(texts).empty()) {
+                // Two keys may write the same.
+                const auto read = nrShortcut::shortcutWithSpelledOutName(name, texts);
+                ASSERT_TRUE(read) << text::utf16ToUtf8(name);
+                EXPECT_EQ(read->spelledOutName(texts), name);
+            }
+        }
+    }
+    const struct {
+        const char16_t *name;
+        std::optional<nrShortcut> shortcut;
+    } rows[] = {
+        {u"super+PAGE up", nrShortcut(116, controlModifier)},
+        {u"Ctrl+Z", nrShortcut(16, commandModifier)}, // where the German Z is
+        {u"Ctrl++", nrShortcut(30, commandModifier)},
+        {u"Alt+Keypad +", nrShortcut(69, optionModifier)},
+        {u"Alt+udiaeresis", nrShortcut(33, optionModifier)},
+        {u"F5", nrShortcut(96, 0)},
+        {u"", std::nullopt},
+        {u"+", nrShortcut(30, 0)},
+        {u"Super+", std::nullopt},
+        {u"Hyper+V", std::nullopt},
+        {u"Super+VV", std::nullopt},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(nrShortcut::shortcutWithSpelledOutName(row.name, ShortcutTexts(de)), row.shortcut)
+            << text::utf16ToUtf8(row.name);
+    }
+    EXPECT_EQ(nrShortcut::shortcutWithSpelledOutName(u"Super+V", ShortcutTexts(ru)),
+              nrShortcut(9, controlModifier));
 }
 
 TEST(Shortcut, Validity) {
