@@ -26,6 +26,11 @@ CommandLine parseCommandLine(const QStringList &arguments) {
     const QCommandLineOption preferences("preferences", "Open the preferences.");
     const QCommandLineOption profile("profile", "Use this profile from now on.", "NAME");
     const QCommandLineOption doctor("doctor", "Say what works on this desktop, and what does not.");
+    const QCommandLineOption shortcut(
+        "shortcut",
+        "Store a global shortcut for an operation, or for \"clean\"; without keys, delete it. "
+        "Alone, it starts nothing. Example: sort-lines=Super+Shift+S",
+        "INDEX|NAME=KEYS");
     const QCommandLineOption quit("quit", "End the running program.");
 
     QCommandLineParser parser;
@@ -33,27 +38,30 @@ CommandLine parseCommandLine(const QStringList &arguments) {
         "Cleans the text on the clipboard. Starts the program, or tells the one that runs.");
     const auto help = parser.addHelpOption();
     const auto version = parser.addVersionOption();
-    parser.addOptions({clean, operation, restore, preferences, automatic, profile, doctor, quit});
+    parser.addOptions(
+        {clean, operation, restore, preferences, automatic, profile, shortcut, doctor, quit});
 
     const auto failed = [](const QString &why) {
-        return CommandLine{CommandLine::Action::fail, why, {}};
+        return CommandLine{CommandLine::Action::fail, why};
     };
     if (!parser.parse(arguments)) {
         return failed(parser.errorText());
     }
     if (parser.isSet(help)) {
-        return {CommandLine::Action::help, parser.helpText(), {}};
+        return {CommandLine::Action::help, parser.helpText()};
     }
     if (parser.isSet(version)) {
         return {CommandLine::Action::version,
-                "nerlo-pro " + QCoreApplication::applicationVersion() + "\n",
-                {}};
+                "nerlo-pro " + QCoreApplication::applicationVersion() + "\n"};
     }
     if (!parser.positionalArguments().isEmpty()) {
         return failed("Unexpected argument '" + parser.positionalArguments().first() + "'.");
     }
 
     CommandLine result;
+    for (const auto &value : parser.values(shortcut)) {
+        result.shortcuts.push_back(value.toStdString());
+    }
     if (parser.isSet(automatic)) {
         const auto mode = parser.value(automatic);
         if (!parseAutomaticMode(mode.toStdString())) {

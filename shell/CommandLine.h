@@ -25,7 +25,8 @@ struct CommandLine {
     };
     Action action = Action::run;
     QString text;
-    std::vector<Request> requests; // in a fixed order, whatever that of the arguments
+    std::vector<std::string> shortcuts{}; // "clean=Super+V", to be stored before anything else
+    std::vector<Request> requests{};      // in a fixed order, whatever that of the arguments
 
     // Whether one of the requests is for this method.
     bool asksFor(const QString &method) const;

@@ -4,7 +4,8 @@ namespace nerlo::shell {
 
 std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard,
                          const platform::Chosen<platform::ActiveApplication> &activeApplication,
-                         const platform::Chosen<platform::HotKeyService> &hotKeys, bool sessionBus,
+                         const platform::Chosen<platform::HotKeyService> &hotKeys,
+                         const std::vector<std::string> &hotKeyFindings, bool sessionBus,
                          std::optional<bool> automatic) {
     std::string report;
     const auto line = [&](const std::string &topic, const std::string &finding) {
@@ -27,6 +28,9 @@ std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard
     declined(activeApplication.declined);
     line("Hot keys", hotKeys.backend->description());
     declined(hotKeys.declined);
+    for (const auto &finding : hotKeyFindings) {
+        report += "  " + finding + "\n";
+    }
     line("Session bus",
          sessionBus ? "yes" : "none, so the running program cannot be told anything");
     line("Automatic cleaning", !automatic   ? "the program is not running"

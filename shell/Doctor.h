@@ -5,13 +5,15 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace nerlo::shell {
 
 // English lines, UTF-8. `automatic` is nothing when the program does not run.
 std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard,
                          const platform::Chosen<platform::ActiveApplication> &activeApplication,
-                         const platform::Chosen<platform::HotKeyService> &hotKeys, bool sessionBus,
+                         const platform::Chosen<platform::HotKeyService> &hotKeys,
+                         const std::vector<std::string> &hotKeyFindings, bool sessionBus,
                          std::optional<bool> automatic);
 
 } // namespace nerlo::shell

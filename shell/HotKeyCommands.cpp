@@ -2,8 +2,11 @@
 
 #include "engine/Operations.h"
 #include "shell/Commands.h"
+#include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
+#include "text/Utf.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -12,6 +15,29 @@ namespace nerlo::shell {
 namespace {
 
 constexpr std::uint64_t keyV = 9;
+
+// What the operations' table calls by names, for the one hot key that is not in it.
+constexpr std::string_view cleanName = "clean";
+
+std::string_view nameOfCommand(std::string_view key) {
+    const auto rows = engine::operations();
+    const auto row = std::ranges::find(rows, key, &engine::Operation::hotKey);
+    return row == rows.end() ? cleanName : row->name;
+}
+
+std::string finding(const platform::HotKeyStatus &status) {
+    switch (status.state) {
+    case platform::HotKeyState::active:
+        return status.text.empty() ? "works" : "works, with the desktop's keys: " + status.text;
+    case platform::HotKeyState::pending:
+        return "waits for the desktop";
+    case platform::HotKeyState::refused:
+        return "refused, " + status.text;
+    case platform::HotKeyState::none:
+        break;
+    }
+    return "not registered";
+}
 
 } // namespace
 
@@ -27,7 +53,10 @@ void registerHotKeyCommands(shortcuts::UserDefaultsHotKeys &hotKeys, const Comma
 }
 
 void setDefaultShortcut(shortcuts::UserDefaultsHotKeys &hotKeys) {
-    hotKeys.setGlobalShortcut(shortcuts::nrShortcut(keyV, shortcuts::controlModifier), cleanHotKey);
+    if (!hotKeys.store().find(cleanHotKey)) {
+        hotKeys.setGlobalShortcut(shortcuts::nrShortcut(keyV, shortcuts::controlModifier),
+                                  cleanHotKey);
+    }
 }
 
 std::shared_ptr<void> reportRefusedHotKeys(shortcuts::UserDefaultsHotKeys &hotKeys,
@@ -45,6 +74,53 @@ std::shared_ptr<void> reportRefusedHotKeys(shortcuts::UserDefaultsHotKeys &hotKe
     };
     report();
     return hotKeys.observeStatus(std::move(report));
+}
+
+std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &hotKeys,
+                                        const platform::KeyboardLayout &layout) {
+    const shortcuts::ShortcutTexts english(layout);
+    std::vector<std::string> lines;
+    for (const auto &[key, hotKey] : hotKeys.registeredUserDefaultsHotKeys()) {
+        if (const auto shortcut = shortcuts::storedShortcut(hotKeys.store(), key)) {
+            lines.push_back(std::string(nameOfCommand(key)) + "=" +
+                            text::utf16ToUtf8(shortcut->spelledOutName(english)) + ": " +
+                            finding(hotKey->status()));
+        }
+    }
+    return lines;
+}
+
+ShortcutChange parseShortcutChange(std::string_view text, const platform::KeyboardLayout &layout) {
+    const auto failed = [](std::string error) {
+        return ShortcutChange{{}, std::nullopt, std::move(error)};
+    };
+    const auto equals = text.find('=');
+    if (equals == text.npos) {
+        return failed("--shortcut takes NAME=KEYS, not '" + std::string(text) + "'.");
+    }
+    const auto name = text.substr(0, equals);
+    const auto *operation = engine::findOperation(name);
+    if (!operation && name != cleanName) {
+        return failed("There is no operation '" + std::string(name) + "'.");
+    }
+    ShortcutChange change{std::string(operation ? operation->hotKey : cleanHotKey), {}, {}};
+    const auto keys = text.substr(equals + 1);
+    if (keys.empty()) {
+        return change;
+    }
+    const shortcuts::ShortcutTexts english(layout);
+    change.shortcut =
+        shortcuts::nrShortcut::shortcutWithSpelledOutName(text::utf8ToUtf16(keys).text, english);
+    if (!change.shortcut) {
+        return failed("There are no keys '" + std::string(keys) +
+                      "'; they are written like \"Ctrl+Super+Alt+Shift+V\".");
+    }
+    // What cannot be recorded either.
+    if (!change.shortcut->isValid() || change.shortcut->shouldBypass(english) ||
+        change.shortcut->keyCodeString(english).empty()) {
+        return failed("'" + std::string(keys) + "' cannot be a global shortcut.");
+    }
+    return change;
 }
 
 } // namespace nerlo::shell

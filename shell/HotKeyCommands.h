@@ -1,10 +1,14 @@
 // The commands that global hot keys run: one for each operation, and one for the whole pipeline.
 #pragma once
 
+#include "platform/KeyboardLayout.h"
+#include "shortcuts/nrShortcut.h"
+
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nerlo::shortcuts {
 class UserDefaultsHotKeys;
@@ -22,12 +26,26 @@ inline constexpr std::string_view cleanHotKey = "sClearFormatingFromClipboard";
 void registerHotKeyCommands(shortcuts::UserDefaultsHotKeys &hotKeys, const Commands &commands,
                             const std::function<std::string(std::string_view key)> &titleOf);
 
-// What a first start stores: Super+V cleans the clipboard.
+// What a first start stores: Super+V cleans the clipboard, unless it has a shortcut already.
 void setDefaultShortcut(shortcuts::UserDefaultsHotKeys &hotKeys);
 
 // Tells `say` of each hot key that the desktop refuses, once for each reason. Returns what must
 // live as long as it is to go on.
 std::shared_ptr<void> reportRefusedHotKeys(shortcuts::UserDefaultsHotKeys &hotKeys,
                                            std::function<void(const std::string &line)> say);
+
+// "clean=Super+V: works": each shortcut that is set, with the name of what it runs and what became
+// of it. English, UTF-8.
+std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &hotKeys,
+                                        const platform::KeyboardLayout &layout);
+
+// What "clean=Super+V" asks for. The name is "clean" or an operation's, or its index; without keys
+// the shortcut goes.
+struct ShortcutChange {
+    std::string key; // settings key
+    std::optional<shortcuts::nrShortcut> shortcut;
+    std::string error; // for the user; then there is nothing else
+};
+ShortcutChange parseShortcutChange(std::string_view text, const platform::KeyboardLayout &layout);
 
 } // namespace nerlo::shell

@@ -104,6 +104,25 @@ void perform(const shell::CommandLine &commandLine, const shell::Commands &comma
     }
 }
 
+// In the settings, which a running program follows.
+int storeShortcuts(const std::vector<std::string> &wanted) {
+    platform::QtMainQueue mainQueue;
+    const auto layout = platform::openKeyboardLayout(mainQueue);
+    std::vector<shell::ShortcutChange> changes;
+    for (const auto &text : wanted) {
+        changes.push_back(shell::parseShortcutChange(text, *layout.backend));
+        if (!changes.back().error.empty()) {
+            complain(changes.back().error);
+            return unusableArguments;
+        }
+    }
+    platform::FileSettingsStore store(settings::SettingsPaths::standard().store);
+    for (const auto &change : changes) {
+        shortcuts::storeShortcut(store, change.key, change.shortcut);
+    }
+    return store.synchronize() ? succeeded : complain(store.error());
+}
+
 // What can be done without windows: the words of --help, and what a running program is asked.
 // Nothing when the program is to start.
 std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &commandLine) {
@@ -119,6 +138,12 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
         return unusableArguments;
     case shell::CommandLine::Action::run:
         break;
+    }
+    if (!commandLine.shortcuts.empty()) {
+        const int status = storeShortcuts(commandLine.shortcuts);
+        if (status != succeeded || commandLine.requests.empty()) {
+            return status;
+        }
     }
     if (shell::programRuns()) {
         if (const auto status = handOver(commandLine)) {
@@ -138,7 +163,7 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
         const auto keyboardLayout = platform::openKeyboardLayout(mainQueue);
         const auto hotKeys =
             platform::openHotKeys(mainQueue, *keyboardLayout.backend, applicationId);
-        std::cout << shell::doctorReport(clipboard, activeApplication, hotKeys,
+        std::cout << shell::doctorReport(clipboard, activeApplication, hotKeys, {},
                                          QDBusConnection::sessionBus().isConnected(), std::nullopt);
         return clipboard.backend ? succeeded : failed;
     }
@@ -282,6 +307,7 @@ int main(int argc, char **argv) {
     commands.backend = [&] { return clipboard.backend->description(); };
     commands.doctor = [&] {
         return shell::doctorReport(clipboard, activeApplication, hotKeyService,
+                                   shell::hotKeyFindings(hotKeys, *keyboardLayout.backend),
                                    name == shell::BusService::Name::ours, delegate.automatic());
     };
     commands.quit = [&] { mainQueue.post(&QCoreApplication::quit); };

@@ -14,6 +14,7 @@ complete -c nerlo-pro -l restore -d 'Put back what stood there before the last c
 complete -c nerlo-pro -l preferences -d 'Open the preferences'
 complete -c nerlo-pro -l automatic -x -a 'on off toggle' -d 'Clean each new copy by itself'
 complete -c nerlo-pro -l profile -x -a '(__nerlo_pro_profiles)' -d 'Use this profile from now on'
+complete -c nerlo-pro -l shortcut -x -a 'clean= (__nerlo_pro_operations | string replace \t =\t)' -d 'Store a global shortcut'
 complete -c nerlo-pro -l doctor -d 'Say what works on this desktop'
 complete -c nerlo-pro -l quit -d 'End the running program'
 complete -c nerlo-pro -s h -l help -d 'Tell more'
