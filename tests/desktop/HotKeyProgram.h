@@ -1,17 +1,13 @@
-// The desktop program with its hot keys, for tests in a session: started, told its settings by
-// another process, watched.
+// The desktop program with its hot keys, for tests in a session: started, told its shortcuts by its
+// own command line in another process, watched.
 #pragma once
 
 #include "Process.h"
-#include "platform/linux/FileSettingsStore.h"
-#include "settings/SettingsPaths.h"
-#include "shortcuts/nrShortcut.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace nerlo::test {
@@ -30,21 +26,17 @@ class HotKeyProgram : public testing::Test {
     bool says(const std::string &line) {
         return until([&] { return output().find(line) != std::string::npos; });
     }
-
-    // As any other program would write the settings.
-    static void store(const char *key, std::optional<shortcuts::nrShortcut> shortcut) {
-        platform::FileSettingsStore store(settings::SettingsPaths::standard().store);
-        if (shortcut) {
-            store.set(key, shortcut->data());
-        } else {
-            store.remove(key);
-        }
-        ASSERT_TRUE(store.synchronize());
+    // What became of a shortcut, once the program runs: "clean=Super+V: works".
+    static bool finds(const std::string &finding) {
+        return until([&] {
+            const auto report = outputOf({program(), "--doctor"}).value_or("");
+            return report.find("\n  " + finding + "\n") != std::string::npos;
+        });
     }
-    static std::optional<shortcuts::nrShortcut> stored(const char *key) {
-        const platform::FileSettingsStore store(settings::SettingsPaths::standard().store);
-        const auto *data = store.dataForKey(key);
-        return data ? shortcuts::nrShortcut::shortcutWithData(*data) : std::nullopt;
+
+    // "remove-all-spaces=Super+R"
+    static void store(const std::string &shortcut) {
+        ASSERT_TRUE(outputOf({program(), "--shortcut", shortcut})) << shortcut;
     }
 
     std::unique_ptr<Process> process_;

@@ -8,9 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
-#include <thread>
 
 // A field in this header is called "explicit".
 #define explicit explicit_
@@ -72,46 +70,6 @@ class X11HotKeys : public testing::Test {
     std::map<std::uint32_t, int> runs;
     std::uint32_t lastId = 0;
 };
-
-TEST_F(X11HotKeys, RunOncePerPressWhateverTheLayoutAndTheLocks) {
-    ASSERT_NE(take(*service, v, hotKeyControl).handle, 0u);
-    ASSERT_NE(take(*service, v, hotKeyCommand | hotKeyShift).handle, 0u);
-    ASSERT_NE(take(*service, f5, 0).handle, 0u);
-    int expected = 0;
-    for (const char *layout : {"us", "de", "ru"}) {
-        ASSERT_TRUE(outputOf({"setxkbmap", layout}));
-        for (const char *lock : {"", "Num_Lock", "Caps_Lock", "Num_Lock", "Caps_Lock"}) {
-            if (*lock != 0) {
-                xdotool({"key", lock});
-            }
-            // By place, 55 is the key that writes V on a us keyboard.
-            xdotool({"key", "--clearmodifiers", "super+55"});
-            xdotool({"key", "ctrl+shift+55"});
-            press("F5");
-            ++expected;
-            EXPECT_EQ(runs[1], expected) << layout << ' ' << lock;
-            EXPECT_EQ(runs[2], expected) << layout << ' ' << lock;
-            EXPECT_EQ(runs[3], expected) << layout << ' ' << lock;
-        }
-    }
-    press("ctrl+55");
-    press("super+shift+55");
-    press("55");
-    EXPECT_EQ(runs[1] + runs[2] + runs[3], 3 * expected);
-}
-
-TEST_F(X11HotKeys, AHeldKeyRunsOnce) {
-    ASSERT_TRUE(outputOf({"xset", "r", "rate", "100", "50"}));
-    ASSERT_NE(take(*service, v, hotKeyControl).handle, 0u);
-    for (int held = 1; held <= 3; ++held) {
-        xdotool({"keydown", "super", "keydown", "v"});
-        // Long enough for some forty repetitions.
-        std::this_thread::sleep_for(std::chrono::milliseconds(900));
-        xdotool({"keyup", "v", "keyup", "super"});
-        settle();
-        EXPECT_EQ(runs[1], held);
-    }
-}
 
 TEST_F(X11HotKeys, AreTakenFromTheProgramInFrontAndGivenBackAtOnce) {
     Process front({"xev", "-event", "keyboard"});
