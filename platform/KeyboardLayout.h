@@ -24,7 +24,8 @@ class KeyboardLayout {
     virtual std::string symbolOfKey(std::uint64_t virtualKey) const = 0;
 
     // The key that has the named symbol with no modifier held: in the current layout, else in the
-    // us one. Letter case is ignored. Names are xkb's ("v", "Return", "minus").
+    // us one. Letter case is ignored. Names are xkb's ("v", "Return", "minus"); the keypad's digits
+    // ("KP_1") count too.
     virtual std::optional<std::uint16_t> keyOfSymbol(std::string_view name) const = 0;
 
     // Runs `changed` on the main queue after each change of the layout. Null ends that.

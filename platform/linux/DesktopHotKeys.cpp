@@ -165,18 +165,21 @@ void collectGnome(const DesktopSources &sources, Collector &collector) {
 }
 
 // Lines such as "/xfwm4/custom/<Alt>Tab    cycle_windows_key". What stands under "default" is the
-// template that "custom" was made from, and counts only where nothing is custom yet.
+// template that "custom" is made from, and counts where nothing is custom yet: of the commands and
+// of the window manager each on its own.
 void collectXfce(const DesktopSources &sources, Collector &collector) {
     const std::string list =
         sources.output({"xfconf-query", "-c", "xfce4-keyboard-shortcuts", "-l", "-v"});
-    const std::string_view folder = list.find("/custom/") != list.npos ? "/custom/" : "/default/";
-    forEachLine(list, [&](std::string_view line) {
-        const auto at = line.find(folder);
-        if (at != line.npos) {
-            line.remove_prefix(at + folder.size());
-            collector.addAccelerator(line.substr(0, line.find_first_of(" \t")));
-        }
-    });
+    for (const std::string owner : {"/commands/", "/xfwm4/"}) {
+        const bool custom = list.find(owner + "custom/") != list.npos;
+        const std::string folder = owner + (custom ? "custom/" : "default/");
+        forEachLine(list, [&](std::string_view line) {
+            if (line.starts_with(folder)) {
+                line.remove_prefix(folder.size());
+                collector.addAccelerator(line.substr(0, line.find_first_of(" \t")));
+            }
+        });
+    }
 }
 
 // Lines such as "Window Close=Alt+F4\tMeta+Q,Alt+F4,Close Window": the present keys, those of the

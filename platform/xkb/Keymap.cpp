@@ -21,14 +21,14 @@ struct DeadKey {
 // The accent on its own that a dead key shows. Source: the names of the keysyms and the spacing
 // forms of the combining characters in the Unicode Character Database.
 constexpr std::array deadKeys{
-    DeadKey{XKB_KEY_dead_grave, u'`'},         DeadKey{XKB_KEY_dead_acute, u'\u00b4'},
-    DeadKey{XKB_KEY_dead_circumflex, u'^'},    DeadKey{XKB_KEY_dead_tilde, u'~'},
-    DeadKey{XKB_KEY_dead_macron, u'\u00af'},   DeadKey{XKB_KEY_dead_breve, u'\u02d8'},
-    DeadKey{XKB_KEY_dead_abovedot, u'\u02d9'}, DeadKey{XKB_KEY_dead_diaeresis, u'\u00a8'},
+    DeadKey{XKB_KEY_dead_grave, u'`'},          DeadKey{XKB_KEY_dead_acute, u'\u00b4'},
+    DeadKey{XKB_KEY_dead_circumflex, u'^'},     DeadKey{XKB_KEY_dead_tilde, u'~'},
+    DeadKey{XKB_KEY_dead_macron, u'\u00af'},    DeadKey{XKB_KEY_dead_breve, u'\u02d8'},
+    DeadKey{XKB_KEY_dead_abovedot, u'\u02d9'},  DeadKey{XKB_KEY_dead_diaeresis, u'\u00a8'},
     DeadKey{XKB_KEY_dead_abovering, u'\u02da'}, DeadKey{XKB_KEY_dead_doubleacute, u'\u02dd'},
-    DeadKey{XKB_KEY_dead_caron, u'\u02c7'},    DeadKey{XKB_KEY_dead_cedilla, u'\u00b8'},
-    DeadKey{XKB_KEY_dead_ogonek, u'\u02db'},   DeadKey{XKB_KEY_dead_iota, u'\u037a'},
-    DeadKey{XKB_KEY_dead_stroke, u'/'},        DeadKey{XKB_KEY_dead_currency, u'\u00a4'},
+    DeadKey{XKB_KEY_dead_caron, u'\u02c7'},     DeadKey{XKB_KEY_dead_cedilla, u'\u00b8'},
+    DeadKey{XKB_KEY_dead_ogonek, u'\u02db'},    DeadKey{XKB_KEY_dead_iota, u'\u037a'},
+    DeadKey{XKB_KEY_dead_stroke, u'/'},         DeadKey{XKB_KEY_dead_currency, u'\u00a4'},
     DeadKey{XKB_KEY_dead_greek, u'\u00b5'},
 };
 
@@ -77,7 +77,8 @@ Keymap::~Keymap() {
     xkb_keymap_unref(keymap_);
 }
 
-std::uint32_t Keymap::symbol(std::uint64_t virtualKey, std::uint32_t group) const {
+std::uint32_t Keymap::symbol(std::uint64_t virtualKey, std::uint32_t group,
+                             std::uint32_t level) const {
     const auto evdev = evdevOfVirtualKey(virtualKey);
     if (!evdev) {
         return XKB_KEY_NoSymbol;
@@ -88,16 +89,15 @@ std::uint32_t Keymap::symbol(std::uint64_t virtualKey, std::uint32_t group) cons
         return XKB_KEY_NoSymbol;
     }
     const xkb_keysym_t *symbols = nullptr;
-    const int count = xkb_keymap_key_get_syms_by_level(keymap_, key, group < groups ? group : 0, 0,
-                                                       &symbols);
+    const int count =
+        xkb_keymap_key_get_syms_by_level(keymap_, key, group < groups ? group : 0, level, &symbols);
     return count == 1 ? symbols[0] : xkb_keysym_t{XKB_KEY_NoSymbol};
 }
 
 std::u16string Keymap::textOfKey(std::uint64_t virtualKey, std::uint32_t group) const {
     const auto found = symbol(virtualKey, group);
     const auto *dead = std::ranges::find(deadKeys, found, &DeadKey::symbol);
-    const char32_t character =
-        dead != deadKeys.end() ? dead->accent : xkb_keysym_to_utf32(found);
+    const char32_t character = dead != deadKeys.end() ? dead->accent : xkb_keysym_to_utf32(found);
     if (character == 0 || character > 0x10ffff) {
         return {};
     }
@@ -123,9 +123,13 @@ std::optional<std::uint16_t> Keymap::keyOfSymbol(std::string_view name, std::uin
         return std::nullopt;
     }
     wanted = xkb_keysym_to_lower(wanted);
+    // The digits of the keypad lie above its arrows.
+    const std::uint32_t levels = wanted >= XKB_KEY_KP_0 && wanted <= XKB_KEY_KP_9 ? 2 : 1;
     for (const auto &key : virtualKeys()) {
-        if (xkb_keysym_to_lower(symbol(key.code, group)) == wanted) {
-            return key.code;
+        for (std::uint32_t level = 0; level < levels; ++level) {
+            if (xkb_keysym_to_lower(symbol(key.code, group, level)) == wanted) {
+                return key.code;
+            }
         }
     }
     return std::nullopt;

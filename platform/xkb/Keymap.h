@@ -35,8 +35,9 @@ class Keymap {
     explicit Keymap(xkb_keymap *keymap)
         : keymap_(keymap) {}
 
-    // The one keysym at the bottom level, or 0.
-    std::uint32_t symbol(std::uint64_t virtualKey, std::uint32_t group) const;
+    // The one keysym at this level, or 0.
+    std::uint32_t symbol(std::uint64_t virtualKey, std::uint32_t group,
+                         std::uint32_t level = 0) const;
 
     xkb_keymap *keymap_;
 };

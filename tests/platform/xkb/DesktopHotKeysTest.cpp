@@ -51,9 +51,12 @@ TEST(DesktopHotKeys, OfEachDesktop) {
     EXPECT_EQ(read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v",
                              "/commands/custom/<Alt>F2   xfce4-appfinder --collapsed\n"
                              "/commands/custom/override  true\n"
-                             "/xfwm4/default/<Alt>F6     stick_window_key\n"
-                             "/xfwm4/custom/<Primary>F1  workspace_1_key\n"}}),
-              (HotKeyList{{118 + 2, 0x800}, {122, 0x100}}));
+                             "/commands/default/<Alt>F3  xfce4-appfinder\n"
+                             // Made custom by each owner at another time.
+                             "/xfwm4/default/<Primary>F1       workspace_1_key\n"
+                             "/xfwm4/default/<Primary>F1/more  true\n"
+                             "/xfwm4/default/<Alt>KP_1         move_window_workspace_1_key\n"}}),
+              (HotKeyList{{120, 0x800}, {122, 0x100}, {83, 0x800}}));
     EXPECT_EQ(read("KDE", {{"kglobalshortcutsrc", "[kwin]\n"
                                                   "_k_friendly_name=KWin\n"
                                                   "Close=Alt+F4\\tMeta+Q,Alt+F4,Close Window\n"
@@ -66,8 +69,9 @@ TEST(DesktopHotKeys, OfEachDesktop) {
 }
 
 TEST(DesktopHotKeys, BrokenFilesGiveWhatTheyCan) {
-    for (const std::string text : {"", "=", "a=", "a=Ctrl+", "a=Foo+B", "'", "'<", "'<Super'",
-                                   "'<>a'", "/custom/", "/custom/<", "a=Meta+\xff\xfe,"}) {
+    for (const std::string text :
+         {"", "=", "a=", "a=Ctrl+", "a=Foo+B", "'", "'<", "'<Super'", "'<>a'", "/xfwm4/custom/",
+          "/xfwm4/custom/<", "a=Meta+\xff\xfe,"}) {
         for (const char *desktop : {"KDE", "GNOME", "XFCE"}) {
             std::map<std::string, std::string> texts{
                 {"kglobalshortcutsrc", text},
@@ -84,7 +88,7 @@ TEST(DesktopHotKeys, BrokenFilesGiveWhatTheyCan) {
             text += letters[random() % letters.size()];
         }
         read("KDE", {{"kglobalshortcutsrc", text}});
-        read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v", "/custom/" + text}});
+        read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v", "/xfwm4/custom/" + text}});
         read("GNOME", {{"gsettings list-recursively org.gnome.shell.keybindings", "'" + text}});
     }
 }

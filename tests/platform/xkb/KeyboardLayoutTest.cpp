@@ -161,6 +161,9 @@ TEST(KeyboardLayout, FollowsItsKeymap) {
 
     const XkbKeyboardLayout german(xkb::Keymap::fromNames("de"));
     EXPECT_EQ(german.keyOfSymbol("z"), 16);
+    EXPECT_EQ(german.keyOfSymbol("KP_9"), 92);
+    EXPECT_EQ(german.keyOfSymbol("KP_Prior"), 92);
+    EXPECT_EQ(german.keyOfSymbol("exclam"), std::nullopt); // with Shift alone
     EXPECT_EQ(german.keyOfSymbol("no such key"), std::nullopt);
     EXPECT_EQ(german.keyOfSymbol(""), std::nullopt);
 }
