@@ -2,6 +2,7 @@
 //
 // NERLO_PICTURES=FOLDER saves pictures of its states there; NERLO_DARK=1 takes dark colors.
 #include "Process.h"
+#include "platform/memory/MemoryHotKeys.h"
 #include "platform/memory/MemorySettingsStore.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/x11/X11HotKeys.h"
@@ -13,12 +14,11 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QFile>
+#include <QHelpEvent>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QMessageBox>
-#include <QPushButton>
-#include <QStyleFactory>
+#include <QTimer>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace nerlo::shortcuts {
@@ -308,6 +308,30 @@ TEST_F(ShortcutView, WarnsOfAShortcutThatTheDesktopRefuses) {
     // The second of two that want the same keys.
     bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sStatistics");
     EXPECT_EQ(views[1]->warning(), "another shortcut of this program has the same keys");
+}
+
+TEST_F(ShortcutView, ItsToolTipTellsTheKeysThatTheDesktopChose) {
+    platform::MemoryHotKeys portal;
+    GlobalHotKeys registered(portal, *texts);
+    UserDefaultsHotKeys keys(store, registered);
+    bound->unregisterGlobalShortcutWithUserDefaultsKey("sSort");
+    keys.registerGlobalShortcutWithUserDefaultsKey("sSort", {});
+    keys.setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    nrShortcutView view({*texts, desktop, keys, {}, {}, {}});
+    view.setAssociatedUserDefaultsKey("sSort");
+    const auto toolTipAt = [&](QPoint at) {
+        QHelpEvent help(QEvent::ToolTip, at, view.mapToGlobal(at));
+        QApplication::sendEvent(&view, &help);
+        return QToolTip::text();
+    };
+    view.resize(view.sizeHint());
+    const QPoint shortcut = view.shortcutRect().center();
+    EXPECT_EQ(toolTipAt(shortcut), "Super+V<br>Click to record shortcut");
+    EXPECT_EQ(toolTipAt(view.buttonRect().center()), "Delete shortcut");
+    portal.answer(1, {platform::HotKeyState::active, "Press <Meta>+C"});
+    EXPECT_EQ(toolTipAt(shortcut), "Press &lt;Meta&gt;+C<br>Super+V<br>Click to record shortcut");
+    portal.answer(1, {platform::HotKeyState::refused, "it was declined in the desktop's dialog"});
+    EXPECT_EQ(toolTipAt(view.warningRect().center()), "it was declined in the desktop's dialog");
 }
 
 TEST_F(ShortcutView, WorksByKeyboardAndForScreenReaders) {

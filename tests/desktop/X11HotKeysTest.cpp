@@ -3,11 +3,14 @@
 #include "platform/x11/X11HotKeys.h"
 #include "Process.h"
 #include "platform/memory/MemoryMainQueue.h"
+#include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/XkbEvents.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <fstream>
 #include <map>
 
 // A field in this header is called "explicit".
@@ -188,6 +191,46 @@ TEST_F(X11HotKeys, TheLayoutIsFollowedAsItChanges) {
     xcb_xkb_latch_lock_state(connection->get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, 1, 0, 0, 0);
     xcb_flush(connection->get());
     EXPECT_TRUE(waitFor([&] { return layout->textOfKey(16) == u"н"; }));
+}
+
+// A sway that is itself a window of the X server has a keyboard.
+TEST(WaylandKeyboard, TheKeymapOfTheCompositorIsFollowed) {
+    const std::string folder = std::getenv("NERLO_SESSION_DIR");
+    const std::string socket = folder + "/sway";
+    std::ofstream(folder + "/sway.config") << "xwayland disable\ninput * xkb_layout de\n"
+                                              "exec echo $WAYLAND_DISPLAY >" +
+                                                  folder + "/new && mv " + folder + "/new " +
+                                                  folder + "/wayland\n";
+    test::Arguments command{
+        "env",  "WLR_BACKENDS=x11", "WLR_RENDERER=pixman",  "SWAYSOCK=" + socket,
+        "sway", "--config",         folder + "/sway.config"};
+    if (geteuid() == 0) {
+        command.insert(command.begin(),
+                       {"unshare", "--user", "--map-user=1000", "--map-group=1000"});
+    }
+    const Process compositor(command);
+    std::string display;
+    ASSERT_TRUE(test::until([&] { return !!(std::ifstream(folder + "/wayland") >> display); }));
+
+    MemoryMainQueue queue;
+    const auto created = createWaylandKeyboardLayout(queue, display);
+    ASSERT_TRUE(created.backend) << created.declined;
+    const auto &layout = *created.backend;
+    EXPECT_EQ(layout.textOfKey(16), u"z");
+    EXPECT_EQ(layout.textOfKey(33), u"ü");
+    EXPECT_EQ(layout.textOfKey(24), u"´");
+    EXPECT_EQ(layout.keyOfSymbol("y"), 6);
+    const struct {
+        const char *name;
+        const char16_t *text;
+    } rows[] = {{"ru", u"н"}, {"fr", u"y"}, {"de", u"z"}};
+    for (const auto &row : rows) {
+        ASSERT_TRUE(outputOf({"swaymsg", "-s", socket, "input * xkb_layout", row.name}));
+        EXPECT_TRUE(test::until([&] {
+            queue.runPosted();
+            return layout.textOfKey(16) == row.text;
+        })) << row.name;
+    }
 }
 
 } // namespace
