@@ -19,7 +19,7 @@ desktop_build="qt6-base-dev qt6-wayland qt6-tools-dev qt6-tools-dev-tools qt6-l1
     libxkbcommon-dev libxkbcommon-x11-dev libwayland-dev libwayland-bin"
 test="libgtest-dev libbenchmark-dev"
 bench="libbenchmark-dev coreutils sed perl gawk sd python3 locales"
-desktop_test="dbus-daemon dbus-bin libglib2.0-bin procps fonts-dejavu-core
+desktop_test="dbus-daemon dbus-bin at-spi2-core libglib2.0-bin procps fonts-dejavu-core
     xvfb openbox xclip xdotool x11-utils x11-xserver-utils x11-xkb-utils
     sway mutter xwayland wl-clipboard foot python3 python3-dbus python3-gi
     xdg-desktop-portal"

@@ -16,6 +16,8 @@ import unittest
 
 import dbus
 
+from desktop_session import wait_until
+
 PROGRAM = os.environ["NERLO_PRO"]
 OWNER = os.environ["NERLO_OWNER"]
 SESSION = os.environ["NERLO_SESSION"]
@@ -24,17 +26,6 @@ BUS_NAME = "org.nerlo.NerloPro"
 TICK = 0.5
 PLAIN = {"text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"}
 PROTOCOL = {"TARGETS", "MULTIPLE", "TIMESTAMP", "SAVE_TARGETS"}
-
-
-def wait_until(condition, what, seconds=20):
-    end = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > end:
-            raise AssertionError("waited in vain: " + what)
-        time.sleep(0.02)
 
 
 def copy(data):

@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """The desktop program as a person meets it: the first start, its menu, its windows, the next start.
 
-Runs inside x11-session; NERLO_PRO names the program under test. Keys and clicks are real ones
-(xdotool); windows are looked at through the accessibility bus, the menu through the bus of the tray.
+Runs inside x11-session and wayland-session; NERLO_PRO names the program under test. Keys and clicks
+are real ones; the windows are looked at through the accessibility bus, the menu through the bus of the
+tray.
 """
 import os
 import plistlib
@@ -13,84 +14,20 @@ import unittest
 import dbus
 import dbus.mainloop.glib
 import dbus.service
-from gi.repository import GLib
+
+from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, TEXT, Eyes, ask, desktop,
+                             output_of, wait_until)
 
 PROGRAM = os.environ["NERLO_PRO"]
+SESSION = os.environ["NERLO_SESSION_DIR"]
 BUS_NAME = "org.nerlo.NerloPro"
 CONFIG = os.path.join(os.environ["XDG_CONFIG_HOME"], "nerlo-pro/defaults.plist")
 PROFILES = os.path.join(os.environ["XDG_DATA_HOME"], "nerlo-pro/Data/profiles.nrp")
-# The letter of "Remove bullets" on its page.
-BULLETS_LETTER = "alt+m"
+PORTAL = os.path.join(os.path.dirname(os.path.abspath(__file__)), "portal-backend")
+CONTROLS = (BUTTON, CHECK_BOX, LIST_ITEM, TEXT)
 WATCHER = "org.kde.StatusNotifierWatcher"
 
 dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
-
-
-def wait_until(condition, what, seconds=20):
-    end = time.monotonic() + seconds
-    while True:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > end:
-            raise AssertionError("waited in vain: " + what)
-        time.sleep(0.02)
-
-
-def xdotool(*arguments):
-    done = subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True,
-                          timeout=30)
-    return done.stdout.split()
-
-
-def windows(title):
-    return xdotool("search", "--onlyvisible", "--name", f"^{title}$")
-
-
-def window(title):
-    return wait_until(lambda: windows(title), f"a window {title}")[0]
-
-
-def geometry(wid):
-    lines = xdotool("getwindowgeometry", "--shell", wid)
-    return {key: int(value) for key, value in (line.split("=") for line in lines)}
-
-
-def focus(wid):
-    xdotool("windowactivate", wid)
-    wait_until(lambda: xdotool("getactivewindow") == [wid], "the window is in front")
-
-
-def keys(*names):
-    for name in names:
-        xdotool("key", name)
-
-
-def press_until(key, condition, what):
-    """Again if need be: while the focus moves, a key goes nowhere."""
-    for _ in range(10):
-        keys(key)
-        try:
-            return wait_until(condition, what, 2)
-        except AssertionError:
-            pass
-    raise AssertionError("pressed in vain: " + what)
-
-
-def copy(text):
-    subprocess.run(["xclip", "-sel", "c"], input=text.encode(), check=True,
-                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-
-
-def paste():
-    try:
-        done = subprocess.run(["xclip", "-o", "-sel", "c", "-t", "UTF8_STRING"],
-                              capture_output=True, timeout=5)
-    except subprocess.TimeoutExpired:
-        return None
-    return done.stdout.decode() if done.returncode == 0 else None
 
 
 def stored(path):
@@ -99,18 +36,6 @@ def stored(path):
             return plistlib.load(file)
     except (OSError, plistlib.InvalidFileException, ValueError):
         return None
-
-
-def ask(bus, service, path, interface, method, *arguments):
-    """Calls, while this program's own objects go on answering."""
-    answer = []
-    bus.get_object(service, path, introspect=False).get_dbus_method(method, interface)(
-        *arguments, reply_handler=lambda *got: answer.append(got),
-        error_handler=lambda error: answer.append(error))
-    wait_until(lambda: answer, f"{method} is answered")
-    if isinstance(answer[0], dbus.DBusException):
-        raise answer[0]
-    return answer[0]
 
 
 class TrayHost(dbus.service.Object):
@@ -192,7 +117,8 @@ class TrayHost(dbus.service.Object):
 class Program:
     def __init__(self):
         self.bus = dbus.SessionBus(private=True)
-        self.process = subprocess.Popen([PROGRAM])
+        self.process = subprocess.Popen([PROGRAM],
+                                        env=os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
         wait_until(lambda: self.bus.name_has_owner(BUS_NAME), "the program is on the bus")
 
     def property(self, name):
@@ -205,12 +131,130 @@ class Program:
         return self.process.wait(timeout=20)
 
 
+class Portal:
+    """The desktop's side of shortcuts where programs cannot take keys themselves."""
+
+    def __init__(self):
+        folder = os.path.join(SESSION, "portals")
+        os.mkdir(folder)
+        with open(os.path.join(folder, "nerlotest.portal"), "w", encoding="ascii") as file:
+            file.write("[portal]\nDBusName=org.freedesktop.impl.portal.desktop.nerlotest\n"
+                       "Interfaces=org.freedesktop.impl.portal.GlobalShortcuts;\nUseIn=sway;\n")
+        self.backend = subprocess.Popen([PORTAL, "serve"], stdout=subprocess.PIPE)
+        self.backend.stdout.readline()
+        with open(os.path.join(SESSION, "log/portal"), "wb") as log:
+            self.portal = subprocess.Popen(["/usr/libexec/xdg-desktop-portal"], stderr=log,
+                                           env=os.environ | {"XDG_DESKTOP_PORTAL_DIR": folder})
+        bus = dbus.SessionBus()
+        wait_until(lambda: bus.name_has_owner("org.freedesktop.portal.Desktop"), "the portal")
+
+    def close(self):
+        for process in (self.portal, self.backend):
+            process.terminate()
+            process.wait(timeout=20)
+        self.backend.stdout.close()
+
+
 class ShellTest(unittest.TestCase):
-    def test_a_first_day(self):
-        # No tray yet: the first windows are the tips and the preferences.
+    def setUp(self):
+        self.desktop = desktop()
+        self.addCleanup(self.desktop.close)
+        self.wayland = os.environ["NERLO_SESSION"] == "wayland"
+        if self.wayland:
+            self.addCleanup(Portal().close)
+        self.eyes = Eyes("nerlo-pro")
+
+    def start(self):
         program = Program()
         self.addCleanup(program.close)
-        tips, preferences = window("Tips"), window("Preferences")
+        return program
+
+    def click(self, role, name):
+        self.desktop.move(*self.eyes.middle(self.eyes.find(role, name)))
+        self.desktop.button(True)
+        self.desktop.button(False)
+
+    def do_until(self, act, condition, what):
+        """Again if need be: while the focus moves, a key goes nowhere."""
+        for _ in range(10):
+            act()
+            try:
+                return wait_until(condition, what, 3)
+            except AssertionError:
+                pass
+        raise AssertionError("done in vain: " + what)
+
+    def press_until(self, chords, condition, what):
+        return self.do_until(lambda: self.desktop.keys(*chords), condition, what)
+
+    def write(self, name, text):
+        """Into the text field, whatever stood in it."""
+        self.click(TEXT, name)
+        field = self.eyes.find(TEXT, name)
+        self.press_until(["ctrl+a", *text], lambda: self.eyes.text(field) == text,
+                         f"the field {name} has its text")
+
+    def profile(self):
+        records = stored(PROFILES) or []
+        return next((record for record in records if record["profileName"] == "mail"), {})
+
+    def rules(self):
+        return [(rule["find"], rule["replace"])
+                for rule in self.profile().get("sFindAndReplaceItemsProfile", [])]
+
+    def add_rule(self, find, replace):
+        self.click(BUTTON, "Add a rule")
+        self.eyes.find(LIST_ITEM, "New rule")
+        self.press_until(["ctrl+a", *find, "Return"], lambda: self.eyes.shows(LIST_ITEM, find),
+                         "the rule has its text")
+        self.write("Replace with", replace)
+        wait_until(lambda: self.rules()[-1:] == [(find, replace)], "the rule is saved")
+
+    def drag(self, source, target):
+        """One row of a list over the upper edge of another."""
+        x, y = self.eyes.middle(self.eyes.find(LIST_ITEM, source))
+        end_x, end_y, _, _ = self.eyes.extents(self.eyes.find(LIST_ITEM, target))
+        end_x += 20
+        self.desktop.move(x, y)
+        self.desktop.button(True)
+        for step in range(1, 11):
+            self.desktop.move(x + (end_x - x) * step // 10, y + (end_y - y) * step // 10)
+            time.sleep(0.02)  # a hand is no faster, and moves that come together count as one
+        self.desktop.button(False)
+
+    def clean_copy(self, text, clean):
+        self.desktop.copy(text)
+        wait_until(lambda: self.desktop.paste() == clean, f"{text} becomes {clean}")
+
+    def press_shortcut(self):
+        if self.wayland:
+            wait_until(lambda: "sRemoveAllSpaces CTRL+SHIFT+k" in output_of(PORTAL, "list"),
+                       "the desktop knows the shortcut")
+            output_of(PORTAL, "press", "sRemoveAllSpaces")
+        else:
+            self.desktop.keys("ctrl+shift+k")
+
+    def acts_as_set_up(self):
+        """The bullet goes, the rules work in their order, and so does the shortcut."""
+        self.clean_copy("\u2022 milk", "milk")
+        self.clean_copy("a green b", "a blue b")
+        self.press_shortcut()
+        wait_until(lambda: self.desktop.paste() == "ablueb", "the shortcut removes the spaces")
+
+    def choose(self, tray, place):
+        """From the menu of the item, by its place."""
+        tray.call("/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", dbus.Int32(0),
+                  dbus.Int32(0))
+        self.desktop.keys(*["Down"] * place, "Return")
+
+    def test_a_first_day(self):
+        # No tray yet: the first windows are the tips and the preferences.
+        program = self.start()
+        for title in ("Tips", "Preferences"):
+            wait_until(lambda: self.desktop.windows(title), "the window " + title)
+        controls = [node for node in self.eyes.shown() if self.eyes.role(node) in CONTROLS]
+        self.assertGreater(len(controls), 15)
+        self.assertNotIn("", [self.eyes.attribute(node, "Name") for node in controls])
 
         # A tray that comes late gets the item.
         tray = TrayHost()
@@ -220,65 +264,95 @@ class ShellTest(unittest.TestCase):
         self.assertEqual(menu["Automatically clear formatting"][1], 0)
         self.assertEqual(menu["default"][1], 1)
         for label in ("Clear formating from clipboard", "Restore the original", "Sort lines",
-                      "Preferences…", "Quit Nerlo Pro"):
+                      "Preferences\u2026", "Quit Nerlo Pro"):
             self.assertIn(label, menu)
-        focus(tips)
-        keys("Escape")
-        wait_until(lambda: not windows("Tips"), "the tips are closed")
+        self.desktop.activate("Tips")
+        self.press_until(["Escape"], lambda: not self.desktop.windows("Tips"),
+                         "the tips are closed")
 
-        # Automatic from the menu; a copy comes out clean, and the popup stands at the pointer.
-        tray.click("Automatically clear formatting")
+        # The icon is clicked: the menu opens, and the arrow keys and Return choose from it.
+        self.assertFalse(program.property("AutomaticMode"))
+        self.choose(tray, 2)
         wait_until(lambda: program.property("AutomaticMode"), "the automatic mode is on")
         self.assertEqual(tray.menu()["Automatically clear formatting"][1], 1)
-        xdotool("mousemove", 300, 200)
-        active = xdotool("getactivewindow")
-        copy("two   words")
-        popup = window("Statistics")
-        wait_until(lambda: paste() == "two words", "the clipboard is clean")
-        place = geometry(popup)
-        self.assertEqual((place["X"], place["Y"]), (300, 200))
-        self.assertEqual(xdotool("getactivewindow"), active, "the popup leaves the focus alone")
-        xdotool("mousemove", 310, 210, "click", 1)
-        wait_until(lambda: not windows("Statistics"), "a click closes the popup")
+
+        # A copy comes out clean, and the popup stands at the pointer and has the counts.
+        self.desktop.move(300, 200)
+        active = self.desktop.active()
+        self.eyes.names_heard()
+        self.clean_copy("two   words", "two words")
+        names = []
+        wait_until(lambda: names.extend(self.eyes.names_heard()) or "Paragraphs: 1" in names,
+                   "the popup has its counts")
+        for count in ("Characters: 9", "Spaces: 1", "Words: 2"):
+            self.assertIn(count, names)
+        if self.desktop.shows_place:
+            wait_until(lambda: self.desktop.windows("Statistics"), "the popup is there")
+            self.assertEqual(self.desktop.place("Statistics"), (300, 200))
+            self.assertEqual(self.desktop.active(), active, "the popup leaves the focus alone")
+            self.desktop.move(310, 210)
+            self.desktop.button(True)
+            self.desktop.button(False)
+            wait_until(lambda: not self.desktop.windows("Statistics"), "a click closes the popup")
 
         # A profile is added by keyboard alone.
-        focus(preferences)
-        press_until("alt+a", lambda: xdotool("getactivewindow") not in ([preferences], []),
-                    "the prompt is open")
-        xdotool("type", "Mail")
-        keys("Return")
-        wait_until(lambda: program.property("SelectedProfile") == "Mail", "the profile is selected")
-        wait_until(lambda: not windows("Nerlo Pro"), "the prompt is closed")
-        focus(preferences)
+        self.desktop.activate("Preferences")
+        self.press_until(["alt+a"], lambda: self.desktop.windows("Nerlo Pro"), "the prompt is open")
+        self.press_until([*"mail", "Return"], lambda: not self.desktop.windows("Nerlo Pro"),
+                         "the prompt is closed")
+        wait_until(lambda: program.property("SelectedProfile") == "mail", "the profile is selected")
+        self.desktop.activate("Preferences")
 
-        # An option is found by the search and ticked with its letter.
-        def ticked():
-            return [key for record in stored(PROFILES) or [] if record["profileName"] == "Mail"
-                    for key, value in record.items() if key == "udRemoveBullets" and value == 1]
+        # An option is found by the search and ticked with the pointer.
+        self.press_until(["ctrl+f", *"bullets"],
+                         lambda: self.eyes.shows(CHECK_BOX, "Remove bullets"),
+                         "the search finds the option")
+        self.click(CHECK_BOX, "Remove bullets")
+        self.assertTrue(self.eyes.state(self.eyes.find(CHECK_BOX, "Remove bullets"), CHECKED))
+        wait_until(lambda: self.profile().get("udRemoveBullets") == 1, "the option is saved")
+        self.press_until(["ctrl+f", "Delete"], lambda: self.eyes.shows(LIST_ITEM, "General"),
+                         "the search has ended")
+        self.clean_copy("\u2022 milk", "milk")
 
-        keys("ctrl+f")
-        xdotool("type", "bullets milk")
-        keys(BULLETS_LETTER)
-        wait_until(ticked, "the option of the new profile is saved")
+        # Two rules, of which the second is dragged before the first.
+        self.click(LIST_ITEM, "Find and replace")
+        self.click(CHECK_BOX, "Apply the find-and-replace list")
+        self.add_rule("red", "blue")
+        self.add_rule("green", "red")
+        self.clean_copy("a green b", "a red b")
+        self.do_until(lambda: self.drag("green", "red"),
+                      lambda: self.rules() == [("green", "red"), ("red", "blue")],
+                      "the rules have changed places")
+        self.clean_copy("a green c", "a blue c")
+
+        # A shortcut is recorded and pressed.
+        self.click(LIST_ITEM, "Spaces and tabs")
+        recorder = "Shortcut: Remove all spaces, "
+        self.click(BUTTON, recorder + "Click to record shortcut")
+        self.eyes.find(BUTTON, recorder + "Type shortcut")
+        self.desktop.keys("ctrl+shift+k")
+        wait_until(lambda: "sRemoveAllSpaces" in (stored(CONFIG) or {}), "the shortcut is saved")
+        self.acts_as_set_up()
 
         # Quit from the menu, and start again: everything is as it was.
         tray.click("Quit Nerlo Pro")
         self.assertEqual(program.process.wait(timeout=20), 0)
         wait_until(lambda: not program.bus.name_has_owner(BUS_NAME), "the program has ended")
         del tray.items[:]
-        program = Program()
-        self.addCleanup(program.close)
+        program = self.start()
         wait_until(lambda: tray.items, "the item is back")
         self.assertTrue(program.property("AutomaticMode"))
-        self.assertEqual(program.property("SelectedProfile"), "Mail")
+        self.assertEqual(program.property("SelectedProfile"), "mail")
         menu = tray.menu()
-        self.assertEqual((menu["default"][1], menu["Mail"][1]), (0, 1))
-        self.assertEqual(windows("Tips") + windows("Preferences"), [])
+        self.assertEqual((menu["default"][1], menu["mail"][1]), (0, 1))
+        self.assertEqual(self.desktop.windows("Tips") + self.desktop.windows("Preferences"), [])
         self.assertTrue(stored(CONFIG)["showInMenubar"])
+        self.acts_as_set_up()
 
-        # A second start brings the window.
-        self.assertEqual(subprocess.run([PROGRAM], timeout=60).returncode, 0)
-        focus(window("Preferences"))
+        # A second start brings the window, with the page and the rules.
+        self.assertEqual(subprocess.run([PROGRAM], timeout=60, check=False).returncode, 0)
+        self.desktop.activate("Preferences")
+        self.eyes.find(BUTTON, "Shortcut: Remove all spaces, Ctrl+Shift+K")
 
 
 if __name__ == "__main__":

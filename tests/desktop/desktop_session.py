@@ -1,0 +1,323 @@
+"""A person's hands and eyes in a private session: pointer, keys, windows, the clipboard of another
+program and, through the accessibility bus, what stands in the windows.
+
+desktop() gives those of the session that runs; X11 and Wayland differ only there.
+"""
+import json
+import os
+import socket
+import struct
+import subprocess
+import time
+
+import dbus
+from gi.repository import GLib
+
+# Those of the sessions.
+SCREEN = (1280, 800)
+
+
+def wait_until(condition, what, seconds=30):
+    """Until it gives something true; meanwhile this program's own objects on the bus answer."""
+    end = time.monotonic() + seconds
+    while True:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > end:
+            raise AssertionError("waited in vain: " + what)
+        time.sleep(0.02)
+
+
+def ask(bus, service, path, interface, method, *arguments):
+    """Calls, while this program's own objects go on answering."""
+    answer = []
+    bus.get_object(service, path, introspect=False).get_dbus_method(method, interface)(
+        *arguments, reply_handler=lambda *got: answer.append(got),
+        error_handler=lambda error: answer.append(error))
+    while not answer:  # an unanswered call ends with an error
+        GLib.MainContext.default().iteration(True)
+    if isinstance(answer[0], dbus.DBusException):
+        raise answer[0]
+    return answer[0]
+
+
+def output_of(*command, text=None, seconds=30):
+    """What the command printed; nothing where it fails."""
+    try:
+        done = subprocess.run([str(part) for part in command], input=text, capture_output=True,
+                              text=True, timeout=seconds)
+    except subprocess.TimeoutExpired:
+        return ""
+    return done.stdout if done.returncode == 0 else ""
+
+
+class X11Desktop:
+    shows_place = True
+
+    def close(self):
+        pass
+
+    @staticmethod
+    def windows(title):
+        return output_of("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+
+    @staticmethod
+    def active():
+        return output_of("xdotool", "getactivewindow").strip()
+
+    def activate(self, title):
+        wid = wait_until(lambda: self.windows(title), f"a window {title}")[0]
+        output_of("xdotool", "windowactivate", wid)
+        wait_until(lambda: self.active() == wid, f"{title} is in front")
+
+    def place(self, title):
+        lines = output_of("xdotool", "getwindowgeometry", "--shell", self.windows(title)[0])
+        numbers = dict(line.split("=") for line in lines.split())
+        return int(numbers["X"]), int(numbers["Y"])
+
+    @staticmethod
+    def move(x, y):
+        output_of("xdotool", "mousemove", x, y)
+
+    @staticmethod
+    def button(down):
+        output_of("xdotool", "mousedown" if down else "mouseup", 1)
+
+    @staticmethod
+    def keys(*chords):
+        output_of("xdotool", "key", "--delay", 30, *chords)
+
+    @staticmethod
+    def copy(text):
+        # It stays to serve the text, and must not hold the pipes of its starter.
+        subprocess.run(["xclip", "-sel", "c"], input=text.encode(), check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    @staticmethod
+    def paste():
+        return output_of("xclip", "-o", "-sel", "c", "-t", "UTF8_STRING", seconds=5)
+
+
+class WaylandDesktop:
+    """sway, with a keyboard and a pointer of our own: its protocol needs no more than this."""
+
+    shows_place = False
+    KEYMAP = ('xkb_keymap { xkb_keycodes { include "evdev+aliases(qwerty)" }; '
+              'xkb_types { include "complete" }; xkb_compat { include "complete" }; '
+              'xkb_symbols { include "pc+us+inet(evdev)" }; };\0').encode()
+    CODES = {"Escape": 1, "Return": 28, "ctrl": 29, "shift": 42, "alt": 56, "space": 57,
+             "Down": 108, "Delete": 111, "super": 125}
+    CODES |= {letter: first + place
+              for first, row in ((16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm"))
+              for place, letter in enumerate(row)}
+    MASKS = {"shift": 1, "ctrl": 4, "alt": 8, "super": 64}
+    LEFT_BUTTON = 0x110
+    DISPLAY, REGISTRY = 1, 2
+
+    def __init__(self):
+        self.socket = socket.socket(socket.AF_UNIX)
+        self.socket.settimeout(30)
+        self.socket.connect(os.path.join(os.environ["XDG_RUNTIME_DIR"],
+                                         os.environ["WAYLAND_DISPLAY"]))
+        self.received = b""
+        self.globals = {}
+        self.last_id = self.REGISTRY
+        self.send(self.DISPLAY, 1, struct.pack("I", self.REGISTRY))
+        self.round_trip()
+        seat = self.bind("wl_seat")
+        keyboards = self.bind("zwp_virtual_keyboard_manager_v1")
+        pointers = self.bind("zwlr_virtual_pointer_manager_v1")
+        self.keyboard, self.pointer = self.new_id(), self.new_id()
+        self.send(keyboards, 0, struct.pack("II", seat, self.keyboard))
+        self.send(pointers, 0, struct.pack("II", seat, self.pointer))
+        keymap = os.memfd_create("keymap")
+        os.write(keymap, self.KEYMAP)
+        self.send(self.keyboard, 0, struct.pack("II", 1, len(self.KEYMAP)), keymap)
+        self.round_trip()
+
+    def close(self):
+        self.socket.close()
+
+    def new_id(self):
+        self.last_id += 1
+        return self.last_id
+
+    def send(self, target, opcode, body=b"", descriptor=None):
+        message = struct.pack("II", target, (len(body) + 8) << 16 | opcode) + body
+        if descriptor is None:
+            self.socket.sendall(message)
+        else:
+            socket.send_fds(self.socket, [message], [descriptor])
+
+    def bind(self, interface):
+        text = interface.encode() + b"\0"
+        text += b"\0" * (-len(text) % 4)
+        new = self.new_id()
+        self.send(self.REGISTRY, 0, struct.pack("II", self.globals[interface], len(interface) + 1)
+                  + text + struct.pack("II", 1, new))
+        return new
+
+    def round_trip(self):
+        """Until the compositor has done all so far. Of its events only the globals matter."""
+        callback = self.new_id()
+        self.send(self.DISPLAY, 0, struct.pack("I", callback))
+        while True:
+            while len(self.received) >= 8:
+                source, word = struct.unpack_from("II", self.received)
+                opcode, size = word & 0xffff, word >> 16
+                if len(self.received) < size:
+                    break
+                body, self.received = self.received[8:size], self.received[size:]
+                if source == callback:
+                    return
+                if source == self.DISPLAY and opcode == 0:
+                    raise AssertionError("the compositor refuses: " + repr(body))
+                if source == self.REGISTRY and opcode == 0:
+                    name, length = struct.unpack_from("II", body)
+                    self.globals[body[8:7 + length].decode()] = name
+            got = self.socket.recv(65536)
+            if not got:
+                raise AssertionError("the compositor is gone")
+            self.received += got
+
+    @staticmethod
+    def now():
+        return int(time.monotonic() * 1000) & 0xffffffff
+
+    @staticmethod
+    def nodes():
+        def walk(node):
+            yield node
+            for child in node.get("nodes", []) + node.get("floating_nodes", []):
+                yield from walk(child)
+        return walk(json.loads(output_of("swaymsg", "-t", "get_tree") or "{}"))
+
+    def windows(self, title):
+        return [node["id"] for node in self.nodes()
+                if node.get("name") == title and node.get("pid") and node.get("visible")]
+
+    def active(self):
+        return next((node["id"] for node in self.nodes()
+                     if node.get("focused") and node.get("pid")), None)
+
+    def activate(self, title):
+        wid = wait_until(lambda: self.windows(title), f"a window {title}")[0]
+        output_of("swaymsg", f"[con_id={wid}] focus")
+        wait_until(lambda: self.active() == wid, f"{title} is in front")
+
+    def move(self, x, y):
+        self.send(self.pointer, 1, struct.pack("IIIII", self.now(), x, y, *SCREEN))
+        self.send(self.pointer, 4)
+        self.round_trip()
+
+    def button(self, down):
+        self.send(self.pointer, 2, struct.pack("III", self.now(), self.LEFT_BUTTON, int(down)))
+        self.send(self.pointer, 4)
+        self.round_trip()
+
+    def keys(self, *chords):
+        for chord in chords:
+            names = chord.split("+")
+            for down, order in ((1, names), (0, names[::-1])):
+                for at, name in enumerate(order):
+                    self.send(self.keyboard, 1,
+                              struct.pack("III", self.now(), self.CODES[name], down))
+                    held = order[:at + 1] if down else order[at + 1:]
+                    mask = sum(self.MASKS.get(other, 0) for other in held)
+                    self.send(self.keyboard, 2, struct.pack("IIII", mask, 0, 0, 0))
+                    self.round_trip()
+
+    @staticmethod
+    def copy(text):
+        subprocess.run(["wl-copy"], input=text.encode(), check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    @staticmethod
+    def paste():
+        return output_of("wl-paste", "--no-newline", seconds=5)
+
+
+def desktop():
+    return WaylandDesktop() if os.environ["NERLO_SESSION"] == "wayland" else X11Desktop()
+
+
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+REGISTRY = "org.a11y.atspi.Registry"
+CHECK_BOX, LIST_ITEM, BUTTON, TEXT = 7, 32, 43, 61
+CHECKED, SHOWING = 4, 25
+
+
+class Eyes:
+    """The accessibility tree of one program, as a screen reader sees it."""
+
+    def __init__(self, program):
+        session = dbus.SessionBus()
+        address = ask(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress")[0]
+        self.bus = dbus.bus.BusConnection(str(address))
+        self.program = program
+        self.heard = []
+        self.bus.add_signal_receiver(self.named, "PropertyChange", "org.a11y.atspi.Event.Object",
+                                     sender_keyword="sender", path_keyword="path")
+        ask(self.bus, REGISTRY, "/org/a11y/atspi/registry", REGISTRY, "RegisterEvent",
+            "object:property-change:accessible-name")
+
+    def named(self, kind, *_, sender=None, path=None):
+        if kind == "accessible-name":
+            self.heard.append((sender, path))
+
+    def names_heard(self):
+        """The names of what has got a new name since the last call."""
+        heard, self.heard = self.heard, []
+        return [self.attribute(node, "Name") for node in dict.fromkeys(heard)]
+
+    def call(self, node, interface, method, *arguments):
+        try:
+            return ask(self.bus, *node, interface, method, *arguments)[0]
+        except dbus.DBusException:
+            return None  # it has gone meanwhile
+
+    def attribute(self, node, name):
+        return str(self.call(node, dbus.PROPERTIES_IFACE, "Get", ACCESSIBLE, name) or "")
+
+    def children(self, node):
+        return [(str(name), str(path))
+                for name, path in self.call(node, ACCESSIBLE, "GetChildren") or []]
+
+    def state(self, node, bit):
+        bits = self.call(node, ACCESSIBLE, "GetState") or [0]
+        return bool(int(bits[0]) >> bit & 1)
+
+    def role(self, node):
+        return int(self.call(node, ACCESSIBLE, "GetRole") or 0)
+
+    def shown(self):
+        """All that the program shows."""
+        def walk(node):
+            for child in self.children(node):
+                if self.state(child, SHOWING):
+                    yield child
+                    yield from walk(child)
+        for application in self.children((REGISTRY, "/org/a11y/atspi/accessible/root")):
+            if self.attribute(application, "Name") == self.program:
+                yield from walk(application)
+
+    def find(self, role, name):
+        return wait_until(lambda: self.shows(role, name), f"the control {name}")
+
+    def shows(self, role, name):
+        return next((node for node in self.shown()
+                     if self.role(node) == role and self.attribute(node, "Name") == name), None)
+
+    def text(self, node):
+        return str(self.call(node, "org.a11y.atspi.Text", "GetText", 0, -1))
+
+    def extents(self, node):
+        return [int(number) for number in
+                self.call(node, "org.a11y.atspi.Component", "GetExtents", dbus.UInt32(0))]
+
+    def middle(self, node):
+        x, y, width, height = self.extents(node)
+        return x + width // 2, y + height // 2
