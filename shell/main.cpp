@@ -12,6 +12,7 @@
 #include "settings/SettingsKeys.h"
 #include "settings/SettingsPaths.h"
 #include "settings/nrPreferences.h"
+#include "shell/Alerts.h"
 #include "shell/BusService.h"
 #include "shell/CommandLine.h"
 #include "shell/Commands.h"
@@ -258,7 +259,14 @@ int main(int argc, char **argv) {
     shell::DesktopShell windows({store, mainQueue, workerQueue, preferences, engine, hotKeys,
                                  shortcutTexts, platform::userLocale(), NERLO_VERSION, QString()});
     const shortcuts::ShortcutViewContext recording{
-        shortcutTexts, *systemHotKeys, hotKeys, [&] { return windows.menu().mainMenu(); }, {}, {}};
+        shortcutTexts,
+        *systemHotKeys,
+        hotKeys,
+        [&] { return windows.menu().mainMenu(); },
+        [](QWidget *parent, const QString &message, const QString &informative) {
+            shell::runAlert({shell::Alert::Style::critical, message, informative, {}}, parent);
+        },
+        {}};
     windows.setRecorderMaker([&](const std::string &key) {
         auto *recorder = new shortcuts::nrShortcutView(recording);
         recorder->setAssociatedUserDefaultsKey(key);

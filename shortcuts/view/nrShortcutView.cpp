@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -35,12 +34,23 @@ constexpr auto clickToRecord = u"Click to record shortcut";
 // At most one control records.
 QPointer<nrShortcutView> recordingView;
 
-void showAlert(QWidget *parent, const QString &message, const QString &informative) {
-    QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(), message,
-                    QMessageBox::NoButton, parent);
-    box.setObjectName(QStringLiteral("shortcutTaken"));
-    box.setInformativeText(informative);
-    box.exec();
+// As a shape, for fonts give these glyphs very different sizes.
+void drawGlyph(QPainter &painter, const QRectF &area, const QString &glyph, const QColor &color) {
+    QPainterPath shape;
+    shape.addText({}, painter.font(), glyph);
+    if (shape.isEmpty()) { // a font of pixels
+        painter.setPen(color);
+        painter.drawText(area, Qt::AlignCenter, glyph);
+        return;
+    }
+    const QRectF bounds = shape.boundingRect();
+    const qreal scale =
+        std::min(area.height() * 0.5 / bounds.height(), area.width() * 0.5 / bounds.width());
+    QTransform place;
+    place.translate(area.center().x(), area.center().y());
+    place.scale(scale, scale);
+    place.translate(-bounds.center().x(), -bounds.center().y());
+    painter.fillPath(place.map(shape), color);
 }
 
 // Amber that can be read on the background.
@@ -59,9 +69,6 @@ nrShortcutView::nrShortcutView(const ShortcutViewContext &context, QWidget *pare
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    if (!context_.alert) {
-        context_.alert = showAlert;
-    }
     if (!context_.beep) {
         context_.beep = &QApplication::beep;
     }
@@ -466,8 +473,7 @@ void nrShortcutView::paintEvent(QPaintEvent *) {
             painter.setBrush(hover);
             painter.drawRoundedRect(QRectF(button).adjusted(1, 1, -1, -1), radius, radius);
         }
-        painter.setPen(colors.color(group, QPalette::Text));
-        painter.drawText(button, Qt::AlignCenter, buttonGlyph());
+        drawGlyph(painter, button, buttonGlyph(), colors.color(group, QPalette::Text));
     }
 
     if (const QRect mark = warningRect(); !mark.isEmpty()) {

@@ -33,7 +33,7 @@ struct ShortcutViewContext {
     platform::SystemHotKeys &systemHotKeys;
     UserDefaultsHotKeys &hotKeys;
     MainMenu mainMenu; // may be empty
-    // Shows a modal, critical alert; empty for the toolkit's.
+    // Shows a modal, critical alert.
     std::function<void(QWidget *parent, const QString &message, const QString &informative)> alert;
     std::function<void()> beep; // empty for the desktop's
 };

@@ -58,10 +58,18 @@ class ShortcutView : public testing::Test {
         hotKeys = std::make_unique<GlobalHotKeys>(*service, *texts);
         bound = std::make_unique<UserDefaultsHotKeys>(store, *hotKeys);
         const ShortcutViewContext context{
-            *texts, desktop,
-            *bound, [] {
-                return std::vector<MenuItem>{{u"Paste", u"v", commandModifier, {}}}; },
-            {},     [this] { ++beeps; }};
+            *texts,
+            desktop,
+            *bound,
+            [] {
+                return std::vector<MenuItem>{{u"Paste", u"v", commandModifier, {}}};
+            },
+            [](QWidget *parent, const QString &message, const QString &informative) {
+                QMessageBox box(QMessageBox::Critical, {}, message, QMessageBox::Ok, parent);
+                box.setInformativeText(informative);
+                box.exec();
+            },
+            [this] { ++beeps; }};
         auto *column = new QVBoxLayout(&window);
         for (const char *key : {"sSort", "sStatistics"}) {
             bound->registerGlobalShortcutWithUserDefaultsKey(key, [this, key] { ++runs[key]; });
