@@ -1320,5 +1320,21 @@
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>لا يمكن استخدام تركيبة المفاتيح «%@» لأن عنصر القائمة «%@» يستخدمها.</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>استخدم برنامج آخر مجموعة المفاتيح هذه.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>لاختصار آخر في هذا البرنامج المفاتيح نفسها.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>رُفض في مربع حوار سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>لا توجد في سطح المكتب هذا بوابة GlobalShortcuts. عيّن مفتاحًا لـ «nerlo-pro --operation N» أو «nerlo-pro --clean» في إعدادات لوحة المفاتيح الخاصة به.</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@ MIT-Lizenz</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Die Tastenkombination „%@“ kann nicht verwendet werden, weil der Menüeintrag „%@“ sie schon benutzt.</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Ein anderes Programm hat diese Tastenkombination belegt.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Ein anderes Tastenkürzel dieses Programms hat dieselben Tasten.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Es wurde im Dialog der Arbeitsumgebung abgelehnt.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Diese Arbeitsumgebung hat kein Portal „GlobalShortcuts“. Legen Sie „nerlo-pro --operation N“ oder „nerlo-pro --clean“ in deren eigenen Tastatureinstellungen auf eine Taste.</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Ο συνδυασμός πλήκτρων «%@» δεν μπορεί να χρησιμοποιηθεί, γιατί τον χρησιμοποιεί ήδη το στοιχείο μενού «%@».</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Άλλο πρόγραμμα έχει δεσμεύσει αυτόν τον συνδυασμό πλήκτρων.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Άλλη συντόμευση αυτού του προγράμματος έχει τα ίδια πλήκτρα.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Απορρίφθηκε στο παράθυρο διαλόγου της επιφάνειας εργασίας.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Αυτή η επιφάνεια εργασίας δεν έχει την πύλη GlobalShortcuts. Ορίστε πλήκτρο για «nerlo-pro --operation N» ή «nerlo-pro --clean» στις δικές της ρυθμίσεις πληκτρολογίου.</translation>
+    </message>
 </context>
 </TS>

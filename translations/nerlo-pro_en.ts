@@ -1320,5 +1320,21 @@ MIT licence</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Another program has taken this key combination.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Another shortcut of this program has the same keys.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>It was declined in the desktop&apos;s dialog.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>This desktop has no GlobalShortcuts portal. Bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in its own keyboard settings.</translation>
+    </message>
 </context>
 </TS>

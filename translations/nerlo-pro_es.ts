@@ -1320,5 +1320,21 @@ Licencia MIT</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>No se puede usar la combinación de teclas «%@» porque ya la usa el elemento de menú «%@».</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Otro programa ha ocupado esta combinación de teclas.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Otro atajo de este programa tiene las mismas teclas.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Se rechazó en el diálogo del escritorio.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Este escritorio no tiene el portal GlobalShortcuts. Asigne «nerlo-pro --operation N» o «nerlo-pro --clean» a una tecla en sus propios ajustes del teclado.</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@ Licence MIT</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>La combinaison de touches « %@ » ne peut pas être utilisée, car elle sert déjà à l’élément de menu « %@ ».</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Un autre programme a pris cette combinaison de touches.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Un autre raccourci de ce programme a les mêmes touches.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Il a été refusé dans la boîte de dialogue du bureau.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Ce bureau n’a pas de portail GlobalShortcuts. Associez « nerlo-pro --operation N » ou « nerlo-pro --clean » à une touche dans ses propres réglages du clavier.</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@ Licenza MIT</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>La combinazione di tasti «%@» non può essere usata perché la usa già la voce di menu «%@».</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Un altro programma ha preso questa combinazione di tasti.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Un’altra scorciatoia di questo programma ha gli stessi tasti.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>È stata rifiutata nella finestra di dialogo del desktop.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Questo desktop non ha il portale GlobalShortcuts. Si può assegnare «nerlo-pro --operation N» o «nerlo-pro --clean» a un tasto nelle sue impostazioni della tastiera.</translation>
+    </message>
 </context>
 </TS>

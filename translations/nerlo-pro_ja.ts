@@ -1320,5 +1320,21 @@ MIT ライセンス</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>キーの組み合わせ「%@」は、メニュー項目「%@」ですでに使われているため使えません。</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>このキーの組み合わせは別のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>このプログラムの別のショートカットが同じキーを使っています。</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>デスクトップのダイアログで拒否されました。</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>このデスクトップには GlobalShortcuts ポータルがありません。デスクトップ自身のキーボード設定で「nerlo-pro --operation N」または「nerlo-pro --clean」をキーに割り当ててください。</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@ Licencja MIT</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Nie można użyć kombinacji klawiszy „%@”, bo używa jej już pozycja menu „%@”.</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Inny program zajął tę kombinację klawiszy.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Inny skrót tego programu ma te same klawisze.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Został odrzucony w oknie dialogowym pulpitu.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Ten pulpit nie ma portalu GlobalShortcuts. Przypisz klawisz do „nerlo-pro --operation N” lub „nerlo-pro --clean” w jego własnych ustawieniach klawiatury.</translation>
+    </message>
 </context>
 </TS>

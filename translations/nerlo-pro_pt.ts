@@ -1320,5 +1320,21 @@ Licença MIT</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>A combinação de teclas “%@” não pode ser usada porque o item de menu “%@” já a usa.</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Outro programa já pegou esta combinação de teclas.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Outro atalho deste programa tem as mesmas teclas.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Foi recusado no diálogo do ambiente de trabalho.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Este ambiente de trabalho não tem o portal GlobalShortcuts. Associe “nerlo-pro --operation N” ou “nerlo-pro --clean” a uma tecla nas próprias configurações de teclado dele.</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Комбинацию клавиш «%@» использовать нельзя, потому что она уже занята пунктом меню «%@».</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Эту комбинацию клавиш заняла другая программа.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>У другой комбинации этой программы те же клавиши.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Отклонено в диалоге рабочей среды.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>В этой рабочей среде нет портала GlobalShortcuts. Назначьте клавишу для «nerlo-pro --operation N» или «nerlo-pro --clean» в её собственных настройках клавиатуры.</translation>
+    </message>
 </context>
 </TS>

@@ -1320,5 +1320,21 @@ MIT-licens</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Tangentkombinationen ”%@” kan inte användas eftersom den redan används av menyposten ”%@”.</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Ett annat program har tagit den här tangentkombinationen.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>En annan genväg i det här programmet har samma tangenter.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Den avböjdes i skrivbordets dialogruta.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>Det här skrivbordet har ingen GlobalShortcuts-portal. Koppla ”nerlo-pro --operation N” eller ”nerlo-pro --clean” till en tangent i dess egna tangentbordsinställningar.</translation>
+    </message>
 </context>
 </TS>

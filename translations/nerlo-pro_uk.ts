@@ -1320,5 +1320,21 @@
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Комбінацію клавіш «%@» використати не можна, бо вона вже зайнята пунктом меню «%@».</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>Цю комбінацію клавіш зайняла інша програма.</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>Інша комбінація цієї програми має ті самі клавіші.</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>Відхилено в діалозі робочого середовища.</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>У цьому робочому середовищі немає порталу GlobalShortcuts. Призначте клавішу для «nerlo-pro --operation N» або «nerlo-pro --clean» у його власних налаштуваннях клавіатури.</translation>
+    </message>
 </context>
 </TS>

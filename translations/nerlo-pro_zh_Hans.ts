@@ -1320,5 +1320,21 @@ MIT 许可证</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>无法使用按键组合“%@”，因为菜单项“%@”已在使用。</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>此组合键已被另一个程序占用。</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>本程序的另一个快捷键使用了相同的按键。</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>已在桌面的对话框中被拒绝。</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>此桌面没有 GlobalShortcuts 门户。请在桌面自己的键盘设置中为“nerlo-pro --operation N”或“nerlo-pro --clean”指定按键。</translation>
+    </message>
 </context>
 </TS>

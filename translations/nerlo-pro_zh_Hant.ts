@@ -1320,5 +1320,21 @@ MIT 授權</translation>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>無法使用按鍵組合「%@」，因為選單項目「%@」已在使用。</translation>
     </message>
+    <message>
+        <source>another program has taken this key combination</source>
+        <translation>此組合鍵已被另一個程式佔用。</translation>
+    </message>
+    <message>
+        <source>another shortcut of this program has the same keys</source>
+        <translation>本程式的另一個快速鍵使用了相同的按鍵。</translation>
+    </message>
+    <message>
+        <source>it was declined in the desktop&apos;s dialog</source>
+        <translation>已在桌面的對話框中被拒絕。</translation>
+    </message>
+    <message>
+        <source>this desktop has no GlobalShortcuts portal; bind &quot;nerlo-pro --operation N&quot; or &quot;nerlo-pro --clean&quot; in the desktop&apos;s own keyboard settings</source>
+        <translation>此桌面沒有 GlobalShortcuts 入口。請在桌面自己的鍵盤設定中為「nerlo-pro --operation N」或「nerlo-pro --clean」指定按鍵。</translation>
+    </message>
 </context>
 </TS>
