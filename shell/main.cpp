@@ -246,6 +246,7 @@ int main(int argc, char **argv) {
         [](std::u16string_view key) { return shell::localizedUtf16(shell::Table::shortcut, key); });
     shortcuts::GlobalHotKeys globalHotKeys(*hotKeyService.backend, shortcutTexts);
     shortcuts::UserDefaultsHotKeys hotKeys(store, globalHotKeys);
+    keyboardLayout.backend->setChangedHandler([&] { hotKeys.keyboardLayoutChanged(); });
     const auto systemHotKeys =
         platform::createDesktopHotKeys(*keyboardLayout.backend, platform::DesktopSources::system());
 

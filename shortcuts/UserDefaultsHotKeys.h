@@ -75,8 +75,9 @@ class UserDefaultsHotKeys {
     const Registered &registeredUserDefaultsHotKeys() const { return registered_; }
 
     platform::HotKeyStatus status(std::string_view key) const;
-    // Calls `changed` after each change of the status of any key.
+    // Calls `changed` after each change of the status of any key, or of what keys are called.
     [[nodiscard]] Observation observeStatus(std::function<void()> changed);
+    void keyboardLayoutChanged() { tell(); }
 
     platform::SettingsStore &store() { return store_; }
     const platform::SettingsStore &store() const { return store_; }

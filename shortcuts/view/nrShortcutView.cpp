@@ -72,7 +72,10 @@ nrShortcutView::nrShortcutView(const ShortcutViewContext &context, QWidget *pare
     if (!context_.beep) {
         context_.beep = &QApplication::beep;
     }
-    statusObservation_ = context_.hotKeys.observeStatus([this] { announce(); });
+    statusObservation_ = context_.hotKeys.observeStatus([this] {
+        resetToolTips();
+        announce();
+    });
     resetToolTips();
 }
 
