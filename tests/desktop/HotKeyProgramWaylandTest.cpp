@@ -68,6 +68,9 @@ TEST_F(HotKeyProgramWayland, ThePortalBindsWhatIsStoredAndItsPressesClean) {
     EXPECT_NE(list.find(clean), std::string::npos) << list;
     EXPECT_NE(list.find("sRemoveAllSpaces LOGO+SHIFT+r "), std::string::npos) << list;
     EXPECT_EQ(std::count(list.begin(), list.end(), '\n'), 2) << list;
+    // In the portal's own words.
+    EXPECT_TRUE(finds("remove-all-spaces=Super+Shift+R: works, with the desktop's keys: "
+                      "Press LOGO+SHIFT+r"));
     EXPECT_TRUE(cleans([] { EXPECT_EQ(backend("press", removeSpaces), ""); }));
 
     store("remove-all-spaces=Ctrl+R");
