@@ -16,12 +16,13 @@ set -eu
 build="g++ cmake ninja-build pkg-config libicu-dev libplist-dev libcli11-dev nlohmann-json3-dev"
 desktop_build="qt6-base-dev qt6-wayland qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libqt6svg6-dev libxcb1-dev libxcb-xfixes0-dev libxcb-keysyms1-dev libxcb-xkb-dev
-    libxkbcommon-dev libxkbcommon-x11-dev libwayland-dev libwayland-bin"
+    libxkbcommon-dev libxkbcommon-x11-dev libwayland-dev libwayland-bin
+    wayland-protocols"
 test="libgtest-dev libbenchmark-dev"
 bench="libbenchmark-dev coreutils sed perl gawk sd python3 locales"
 desktop_test="dbus-daemon dbus-bin at-spi2-core libglib2.0-bin procps fonts-dejavu-core
     xvfb openbox xclip xdotool x11-utils x11-xserver-utils x11-xkb-utils
-    sway mutter xwayland wl-clipboard foot python3 python3-dbus python3-gi
+    sway mutter xwayland wl-clipboard grim foot python3 python3-dbus python3-gi
     xdg-desktop-portal"
 package="dpkg-dev lintian appstream desktop-file-utils man-db groff"
 style="git clang-format-14 clang-tidy-14"

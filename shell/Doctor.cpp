@@ -5,7 +5,8 @@ namespace nerlo::shell {
 std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard,
                          const platform::Chosen<platform::ActiveApplication> &activeApplication,
                          const platform::Chosen<platform::HotKeyService> &hotKeys,
-                         const std::vector<std::string> &hotKeyFindings, bool sessionBus,
+                         const std::vector<std::string> &hotKeyFindings,
+                         const platform::Chosen<platform::PopupLayer> &popupLayer, bool sessionBus,
                          std::optional<bool> automatic) {
     std::string report;
     const auto line = [&](const std::string &topic, const std::string &finding) {
@@ -31,6 +32,9 @@ std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard
     for (const auto &finding : hotKeyFindings) {
         report += "  " + finding + "\n";
     }
+    line("Statistics popup",
+         popupLayer.backend ? popupLayer.backend->description() : "a window like any other");
+    declined(popupLayer.declined);
     line("Session bus",
          sessionBus ? "yes" : "none, so the running program cannot be told anything");
     line("Automatic cleaning", !automatic   ? "the program is not running"

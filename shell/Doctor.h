@@ -13,7 +13,8 @@ namespace nerlo::shell {
 std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard,
                          const platform::Chosen<platform::ActiveApplication> &activeApplication,
                          const platform::Chosen<platform::HotKeyService> &hotKeys,
-                         const std::vector<std::string> &hotKeyFindings, bool sessionBus,
+                         const std::vector<std::string> &hotKeyFindings,
+                         const platform::Chosen<platform::PopupLayer> &popupLayer, bool sessionBus,
                          std::optional<bool> automatic);
 
 } // namespace nerlo::shell

@@ -39,7 +39,7 @@ ScreenPoint popupOrigin(std::int64_t position, const MainScreen &screen, double 
         return {((sum == 0 ? visible.x : sum) - width) * 0.5,
                 (visible.y + visible.height + height) * 0.5};
     }
-    case 5:
+    case atPointerPosition:
         return atPointer(screen, width, height, pointer);
     default:
         return {left, bottom};

@@ -29,6 +29,9 @@ struct MainScreen {
     double barThickness = 0; // of the panel at the top
 };
 
+// The place in the list of popup positions that stands for the pointer.
+constexpr std::int64_t atPointerPosition = 5;
+
 // The popup's bottom left corner. `position` is the place in the list of popup positions; any other
 // number is the first one.
 ScreenPoint popupOrigin(std::int64_t position, const MainScreen &screen, double width,

@@ -165,6 +165,7 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
         const auto hotKeys =
             platform::openHotKeys(mainQueue, *keyboardLayout.backend, applicationId);
         std::cout << shell::doctorReport(clipboard, activeApplication, hotKeys, {},
+                                         platform::openPopupLayer(mainQueue),
                                          QDBusConnection::sessionBus().isConnected(), std::nullopt);
         return clipboard.backend ? succeeded : failed;
     }
@@ -230,13 +231,17 @@ int main(int argc, char **argv) {
     const auto hotKeyService =
         platform::openHotKeys(mainQueue, *keyboardLayout.backend, applicationId);
 
+    const auto popupLayer = platform::openPopupLayer(mainQueue);
+
     const auto paths = settings::SettingsPaths::standard();
     platform::FileSettingsStore store(paths.store, &mainQueue);
 
     engine::nrChangePasterboard engine(*clipboard.backend, mainQueue, workerQueue,
                                        platform::userLocale());
-    engine.setCountWindowMaker(
-        [&] { return std::make_unique<shell::nrCountWindowController>(store, mainQueue); });
+    engine.setCountWindowMaker([&] {
+        return std::make_unique<shell::nrCountWindowController>(store, mainQueue,
+                                                                popupLayer.backend.get());
+    });
     engine.setCleanedHandler([&] { bus.cleaned(); });
     shell::nrPasteboardWatcher watcher(*clipboard.backend, mainQueue, *activeApplication.backend,
                                        engine);
@@ -317,7 +322,8 @@ int main(int argc, char **argv) {
     commands.doctor = [&] {
         return shell::doctorReport(clipboard, activeApplication, hotKeyService,
                                    shell::hotKeyFindings(hotKeys, *keyboardLayout.backend),
-                                   name == shell::BusService::Name::ours, delegate.automatic());
+                                   popupLayer, name == shell::BusService::Name::ours,
+                                   delegate.automatic());
     };
     commands.quit = [&] { mainQueue.post(&QCoreApplication::quit); };
     delegate.setQuitHandler(commands.quit);

@@ -20,6 +20,7 @@ namespace {
 constexpr double cornerRadius = 10.0;
 constexpr double backgroundOpacity = 0.75;
 constexpr std::int64_t defaultDelay = 5; // seconds
+constexpr auto positionKey = "udStatisticsDefaultPosition";
 
 // The screen with the pointer, or the first one; its rectangles with the origin at the bottom left.
 struct Screen {
@@ -65,7 +66,8 @@ void nrRoundedView::paintEvent(QPaintEvent *) {
 }
 
 nrTransparentWindow::nrTransparentWindow(const platform::SettingsStore &def_,
-                                         platform::MainQueue &mainQueue, PopupLayer *layer)
+                                         platform::MainQueue &mainQueue,
+                                         platform::PopupLayer *layer)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                            Qt::NoDropShadowWindowHint | Qt::WindowDoesNotAcceptFocus)
     , def(def_)
@@ -85,9 +87,8 @@ nrTransparentWindow::~nrTransparentWindow() {
 void nrTransparentWindow::windowPosition() {
     const QPoint pointer = QCursor::pos();
     const Screen screen = mainScreen(pointer);
-    const ScreenPoint origin =
-        popupOrigin(def.integerForKey("udStatisticsDefaultPosition"), screen.screen, width(),
-                    height(), screen.fromToolkit(pointer));
+    const ScreenPoint origin = popupOrigin(def.integerForKey(positionKey), screen.screen, width(),
+                                           height(), screen.fromToolkit(pointer));
     move(static_cast<int>(std::lround(origin.x)),
          static_cast<int>(std::lround(screen.bottom - origin.y - height())));
 }
@@ -100,10 +101,8 @@ std::int64_t nrTransparentWindow::delayForCountWindow() const {
 void nrTransparentWindow::open() {
     open_ = true;
     adjustSize();
-    if (layer_) {
-        layer_->show(grab().toImage(), def.integerForKey("udStatisticsDefaultPosition"),
-                     [this] { closeCountWindow(); });
-    } else {
+    shown_ = showInLayer();
+    if (!shown_) {
         windowPosition();
         show();
     }
@@ -119,16 +118,59 @@ void nrTransparentWindow::open() {
     }
 }
 
+std::unique_ptr<platform::ShownPopup> nrTransparentWindow::showInLayer() {
+    if (!layer_) {
+        return nullptr;
+    }
+    const auto position = def.integerForKey(positionKey);
+    platform::Popup popup;
+    popup.width = width();
+    popup.height = height();
+    popup.atPointer = position == atPointerPosition;
+    popup.place = [position, width = width(),
+                   height = height()](const platform::PopupScreen &screen,
+                                      std::optional<platform::PopupPoint> pointer) {
+        const auto flipped = [&screen](int y) { return static_cast<double>(screen.height - y); };
+        const auto &free = screen.free;
+        const MainScreen main{{0, 0, double(screen.width), double(screen.height)},
+                              {double(free.x), flipped(free.y + screen.freeHeight),
+                               double(screen.freeWidth), double(screen.freeHeight)},
+                              double(free.y)};
+        const ScreenPoint at =
+            pointer ? ScreenPoint{double(pointer->x), flipped(pointer->y)} : ScreenPoint{};
+        // Where the pointer cannot be found, the popup stands in the first corner.
+        const auto origin = popupOrigin(position == atPointerPosition && !pointer ? 0 : position,
+                                        main, width, height, at);
+        return platform::PopupPoint{
+            static_cast<int>(std::lround(origin.x)),
+            static_cast<int>(std::lround(screen.height - origin.y - height))};
+    };
+    popup.draw = [this](int scale) { return picture(scale); };
+    popup.closed = [this] { closeCountWindow(); };
+    return layer_->show(std::move(popup));
+}
+
+platform::PopupPicture nrTransparentWindow::picture(int scale) {
+    QImage image(size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    // The layer blends the edges, which the mask would cut off.
+    render(&image, {}, {}, DrawChildren | IgnoreMask);
+    platform::PopupPicture picture{image.width(), image.height(), scale, {}};
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        picture.pixels.insert(picture.pixels.end(), row, row + image.width());
+    }
+    return picture;
+}
+
 void nrTransparentWindow::closeCountWindow() {
     if (!std::exchange(open_, false)) {
         return;
     }
     mainQueue_.cancel(std::exchange(close_, 0));
-    if (layer_) {
-        layer_->hide();
-    } else {
-        hide();
-    }
+    shown_.reset();
+    hide();
 }
 
 void nrTransparentWindow::mousePressEvent(QMouseEvent *event) {
@@ -144,7 +186,8 @@ void nrTransparentWindow::resizeEvent(QResizeEvent *event) {
 }
 
 nrCountWindowController::nrCountWindowController(const platform::SettingsStore &settings,
-                                                 platform::MainQueue &mainQueue, PopupLayer *layer)
+                                                 platform::MainQueue &mainQueue,
+                                                 platform::PopupLayer *layer)
     : window_(std::make_unique<nrTransparentWindow>(settings, mainQueue, layer)) {
     auto *around = new QGridLayout(window_.get());
     around->setContentsMargins(0, 0, 0, 0);

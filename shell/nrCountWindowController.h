@@ -5,29 +5,17 @@
 
 #include "engine/nrChangePasterboard.h"
 #include "platform/MainQueue.h"
+#include "platform/PopupLayer.h"
 #include "platform/SettingsStore.h"
 #include "shell/PopupPlacement.h"
 
 #include <QLabel>
 #include <QPointer>
 #include <QWidget>
-#include <functional>
 #include <memory>
 #include <string>
 
 namespace nerlo::shell {
-
-// Shows a picture above all windows, where the window system offers a better way than a window of
-// the toolkit's (Wayland, where a program does not place its own windows).
-class PopupLayer {
-  public:
-    virtual ~PopupLayer() = default;
-    // Replaces what is shown. `position` is a place in the list of popup positions; `margins` are
-    // the toolkit's pixels that the pointer placement found; `clicked` runs on the main thread.
-    virtual void show(const QImage &picture, std::int64_t position,
-                      std::function<void()> clicked) = 0;
-    virtual void hide() = 0;
-};
 
 // The background: a rounded rectangle, black at 75 % opacity.
 class nrRoundedView final : public QWidget {
@@ -46,7 +34,7 @@ class nrTransparentWindow final : public QWidget {
 
   public:
     nrTransparentWindow(const platform::SettingsStore &def, platform::MainQueue &mainQueue,
-                        PopupLayer *layer);
+                        platform::PopupLayer *layer);
     ~nrTransparentWindow() override;
 
     // Puts the window, in its present size, where the settings say.
@@ -65,18 +53,23 @@ class nrTransparentWindow final : public QWidget {
     void resizeEvent(QResizeEvent *event) override;
 
   private:
+    std::unique_ptr<platform::ShownPopup> showInLayer();
+    platform::PopupPicture picture(int scale);
+
     const platform::SettingsStore &def;
     platform::MainQueue &mainQueue_;
-    PopupLayer *layer_;
+    platform::PopupLayer *layer_;
+    std::unique_ptr<platform::ShownPopup> shown_;
     platform::MainQueue::TaskId close_ = 0;
     bool open_ = false;
 };
 
 class nrCountWindowController final : public engine::CountWindow {
   public:
-    // `layer` may be null. All must outlive this.
+    // With a layer, the popup is shown there, and the window itself stays hidden. All must outlive
+    // this.
     nrCountWindowController(const platform::SettingsStore &settings, platform::MainQueue &mainQueue,
-                            PopupLayer *layer = nullptr);
+                            platform::PopupLayer *layer = nullptr);
     ~nrCountWindowController() override;
 
     // The texts are shown as they are.

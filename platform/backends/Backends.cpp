@@ -6,6 +6,7 @@
 #include "platform/wayland/WaylandActiveApplication.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandPasteboard.h"
+#include "platform/wayland/WaylandPopupLayer.h"
 #include "platform/x11/X11ActiveApplication.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyboardLayout.h"
@@ -100,6 +101,11 @@ Chosen<HotKeyService> openHotKeys(MainQueue &mainQueue, const KeyboardLayout &la
         [](MainQueue &) {
             return Created<HotKeyService>{std::make_unique<NoHotKeys>(), {}};
         });
+}
+
+Chosen<PopupLayer> openPopupLayer(MainQueue &mainQueue) {
+    return firstOf<PopupLayer>(mainQueue,
+                               [](MainQueue &queue) { return createWaylandPopupLayer(queue); });
 }
 
 } // namespace nerlo::platform

@@ -7,6 +7,7 @@
 #include "platform/KeyboardLayout.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
+#include "platform/PopupLayer.h"
 
 #include <memory>
 #include <string>
@@ -35,5 +36,9 @@ Chosen<KeyboardLayout> openKeyboardLayout(MainQueue &mainQueue);
 // references must outlive the result. `applicationId` is that of the desktop file.
 Chosen<HotKeyService> openHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout,
                                   const std::string &applicationId);
+
+// Null where the toolkit's own windows are the best there is. The main queue must outlive the
+// result.
+Chosen<PopupLayer> openPopupLayer(MainQueue &mainQueue);
 
 } // namespace nerlo::platform

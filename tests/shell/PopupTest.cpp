@@ -114,5 +114,60 @@ TEST_F(Popup, AClickClosesItAndTheDelayIsForgotten) {
     EXPECT_TRUE(controller.window().isVisible());
 }
 
+class FakeLayer final : public platform::PopupLayer {
+  public:
+    std::unique_ptr<platform::ShownPopup> show(platform::Popup popup) override {
+        struct Shown final : platform::ShownPopup {
+            explicit Shown(int &count)
+                : count_(count) {
+                ++count_;
+            }
+            ~Shown() override { --count_; }
+            int &count_;
+        };
+        last = std::move(popup);
+        return std::make_unique<Shown>(shown);
+    }
+    std::string description() const override { return {}; }
+
+    platform::Popup last;
+    int shown = 0;
+};
+
+TEST_F(Popup, ALayerGetsPlacesAndPicturesInItsOwnCoordinates) {
+    FakeLayer layer;
+    // As above: a panel of 30 at the top, one of 50 at the left.
+    constexpr platform::PopupScreen screen{1000, 800, {50, 30}, 950, 770};
+    const auto point = [](platform::PopupPoint at) { return std::pair(at.x, at.y); };
+    for (const int position : {0, 3, 4, 5}) {
+        store.set("udStatisticsDefaultPosition", position);
+        nrCountWindowController popup(store, queue, &layer);
+        popup.showWindow();
+        EXPECT_FALSE(popup.window().isVisible());
+        const auto &asked = layer.last;
+        EXPECT_EQ(asked.atPointer, position == 5);
+        const std::pair bottomLeft(50, 800 - asked.height);
+        const std::pair expected =
+            position == 3   ? std::pair(1000 - asked.width, 30)
+            : position == 4 ? std::pair((1001 - asked.width) / 2, (831 - 3 * asked.height) / 2)
+                            : bottomLeft;
+        EXPECT_EQ(point(asked.place(screen, {})), expected) << position;
+        if (position == 5) {
+            EXPECT_EQ(point(asked.place(screen, {{300, 400}})), std::pair(300, 400));
+            EXPECT_EQ(point(asked.place(screen, {{300, 2}})), std::pair(300, 30));
+        }
+        const auto picture = asked.draw(2);
+        ASSERT_EQ(std::pair(picture.width, picture.height),
+                  std::pair(2 * asked.width, 2 * asked.height));
+        ASSERT_EQ(picture.pixels.size(), std::size_t(4 * asked.width * asked.height));
+        EXPECT_EQ(picture.pixels[0], 0u) << "round";
+        EXPECT_EQ(picture.pixels[std::size_t(picture.width) * picture.height / 2], 0xbf000000u);
+        EXPECT_EQ(layer.shown, 1);
+        asked.closed();
+        EXPECT_EQ(layer.shown, 0);
+        EXPECT_FALSE(popup.window().isOpen());
+    }
+}
+
 } // namespace
 } // namespace nerlo::shell

@@ -1,0 +1,110 @@
+#include "platform/wayland/WaylandPopupLayer.h"
+
+#include "platform/Pasteboard.h"
+#include "platform/wayland/EventLoop.h"
+#include "platform/wayland/LayerPopup.h"
+
+#include <chrono>
+#include <utility>
+
+namespace nerlo::platform {
+
+namespace {
+
+using namespace std::chrono_literals;
+using wayland::Clock;
+using wayland::EventLoop;
+using wayland::LayerPopup;
+
+// Who waits longer for the popup has looked away.
+constexpr auto pointerWithin = 200ms;
+
+// A connection and a thread that live only while the popup is shown: nothing of it can wake an idle
+// program, or be left over when a compositor misbehaves.
+class WaylandShownPopup final : public ShownPopup {
+  public:
+    WaylandShownPopup(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop, Popup popup)
+        : mainQueue_(mainQueue)
+        , popup_(std::make_shared<Popup>(std::move(popup)))
+        , loop_(std::move(loop))
+        , surface_(std::make_unique<LayerPopup>(*loop_, *popup_, hooks())) {
+        loop_->start({[this] { surface_->close(); }, {}, {}});
+        loop_->post([this] { surface_->open(); });
+        pointerUnknown_ = mainQueue_.postAfter(pointerWithin, [this] {
+            pointerUnknown_ = 0;
+            loop_->post([this] { surface_->pointerUnknown(); });
+        });
+    }
+    ~WaylandShownPopup() override {
+        mainQueue_.cancel(pointerUnknown_);
+        loop_->stop(Clock::now(), Clock::now());
+        surface_.reset();
+    }
+
+  private:
+    LayerPopup::Hooks hooks() {
+        const std::weak_ptr weak(popup_);
+        return {[this, weak](int scale) {
+                    mainQueue_.post([this, weak, scale] {
+                        if (const auto popup = weak.lock()) {
+                            loop_->post([this, picture = popup->draw(scale)] {
+                                surface_->setPicture(picture);
+                            });
+                        }
+                    });
+                },
+                [this, weak] {
+                    mainQueue_.post([weak] {
+                        if (const auto popup = weak.lock()) {
+                            popup->closed();
+                        }
+                    });
+                }};
+    }
+
+    MainQueue &mainQueue_;
+    std::shared_ptr<Popup> popup_; // tasks on the main queue hold it weakly
+    std::unique_ptr<EventLoop> loop_;
+    std::unique_ptr<LayerPopup> surface_;
+    MainQueue::TaskId pointerUnknown_ = 0;
+};
+
+class WaylandPopupLayer final : public PopupLayer {
+  public:
+    WaylandPopupLayer(MainQueue &mainQueue, std::string display)
+        : mainQueue_(mainQueue)
+        , display_(std::move(display)) {}
+
+    std::unique_ptr<ShownPopup> show(Popup popup) override {
+        auto loop = EventLoop::connect(display_);
+        return loop ? std::make_unique<WaylandShownPopup>(mainQueue_, std::move(loop),
+                                                          std::move(popup))
+                    : nullptr;
+    }
+    std::string description() const override { return "Wayland, layer shell"; }
+
+  private:
+    MainQueue &mainQueue_;
+    const std::string display_;
+};
+
+} // namespace
+
+Created<PopupLayer> createWaylandPopupLayer(MainQueue &mainQueue, const std::string &display) {
+    const std::string name = display.empty() ? EventLoop::defaultDisplay() : display;
+    const auto loop = EventLoop::connect(name);
+    if (!loop) {
+        return {nullptr, "there is no Wayland compositor"};
+    }
+    const Popup none;
+    const LayerPopup surface(*loop, none, {});
+    if (!loop->roundTrip(pasteboardStallLimit)) {
+        return {nullptr, "the Wayland compositor does not answer"};
+    }
+    if (!surface.available()) {
+        return {nullptr, "the Wayland compositor has no layer shell"};
+    }
+    return {std::make_unique<WaylandPopupLayer>(mainQueue, name), {}};
+}
+
+} // namespace nerlo::platform
