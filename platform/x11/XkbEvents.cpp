@@ -1,9 +1,6 @@
 #include "platform/x11/XkbEvents.h"
 
-// A field in this header is called "explicit".
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
+#include "platform/x11/XkbProtocol.h"
 
 #include <xkbcommon/xkbcommon-x11.h>
 

@@ -5,14 +5,10 @@
 #include "platform/x11/Connection.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/XkbEvents.h"
+#include "platform/x11/XkbProtocol.h"
 
 #include <algorithm>
 #include <thread>
-
-// A field in this header is called "explicit".
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace nerlo::test {
 namespace {

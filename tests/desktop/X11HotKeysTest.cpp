@@ -6,17 +6,13 @@
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/XkbEvents.h"
+#include "platform/x11/XkbProtocol.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
 #include <map>
-
-// A field in this header is called "explicit".
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 namespace nerlo::platform {
 namespace {
