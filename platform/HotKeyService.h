@@ -74,6 +74,9 @@ class HotKeyService {
     // nothing. Registrations stay, and can be made and ended.
     virtual void setSuspended(bool suspended) = 0;
 
+    // False where this desktop gives no program a hot key.
+    virtual bool available() const { return true; }
+
     // For the user's eyes: one English line, also on what is missing and the way around it.
     virtual std::string description() const = 0;
 };

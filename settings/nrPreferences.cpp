@@ -82,7 +82,8 @@ void nrPreferences::createDir() {
 }
 
 bool nrPreferences::report(const std::string &error) {
-    if (!error.empty() && hooks_.saveFailed) {
+    const bool failedBefore = std::exchange(saveFailed_, !error.empty());
+    if ((saveFailed_ || failedBefore) && hooks_.saveFailed) {
         hooks_.saveFailed(error);
     }
     return error.empty();

@@ -30,7 +30,8 @@ struct PreferencesHooks {
     std::function<void()> profilesChanged;  // names, their order, or which one is selected
     std::function<void()> controlsLoaded;   // all controls have new states
     std::function<void(int mode)> updateUI; // of the rules' table, see nrPreferences::updateUI
-    std::function<void(const std::string &error)> saveFailed; // goes with the next save
+    // Goes with the next save that succeeds, which is told by an empty error.
+    std::function<void(const std::string &error)> saveFailed;
 };
 
 class nrPreferences {
@@ -159,6 +160,7 @@ class nrPreferences {
     platform::PropertyDictionary controls_;
     FindReplaceList findReplace_;
     platform::MainQueue::TaskId pending_ = 0;
+    bool saveFailed_ = false;
 
     bool profilesAdding_ = false;
     // Against re-entrance through hooks; set for a scope each.

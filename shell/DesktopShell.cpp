@@ -1,7 +1,6 @@
 #include "shell/DesktopShell.h"
 
 #include "engine/Operations.h"
-#include "platform/x11/X11Desktop.h"
 #include "shell/Alerts.h"
 #include "shell/KeySequences.h"
 #include "shell/PreferencesWindow.h"
@@ -31,9 +30,8 @@ constexpr auto trayExpectedWithin = 2000ms;
 
 constexpr std::string_view cleanHotKeyName = "sClearFormatingFromClipboard";
 
-bool onX11() {
-    return QGuiApplication::platformName() == QLatin1String("xcb");
-}
+// What a user is told to bind by hand.
+const auto cleanCommand = QStringLiteral("nerlo-pro --clean");
 
 } // namespace
 
@@ -41,12 +39,10 @@ DesktopShell::DesktopShell(Parts parts)
     : parts_(std::move(parts))
     , menu_(std::make_unique<StatusMenu>(menuCommands()))
     , tray_(std::make_unique<TrayIcon>(menu_->menu())) {
-    if (onX11()) {
-        taskbar_ = platform::createX11TaskbarHint();
-    }
+    QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(),
+                     [this] { setProblem(Problem::tray, {}); });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
-        // Elsewhere the toolkit cannot tell where the pointer is.
-        if (onX11()) {
+        if (parts_.pointerPositionKnown) {
             menu_->menu().popup(QCursor::pos());
         } else if (delegate_) {
             delegate_->showPreferences();
@@ -123,11 +119,7 @@ void DesktopShell::connectPreferences() {
     hooks.confirmRemoval = [this](const std::u16string &name) {
         return window && window->confirmRemoval(name);
     };
-    hooks.saveFailed = [this](const std::string &error) {
-        if (window) {
-            window->setNotice(QString::fromStdString(error));
-        }
-    };
+    hooks.saveFailed = [this](const std::string &error) { setProblem(Problem::profiles, error); };
     updateProfiles();
 }
 
@@ -143,32 +135,42 @@ void DesktopShell::updateProfiles() {
 }
 
 void DesktopShell::updateHotKeys() {
-    if (!window) {
-        return;
-    }
-    const auto update = [this](std::string_view key) {
+    QStringList refused;
+    const auto update = [&](std::string_view key) {
         const auto status = parts_.hotKeys.status(key);
         QString problem;
         if (status.state == platform::HotKeyState::refused) {
-            problem = localized("sShortcutRefused") + '\n' + QString::fromStdString(status.text);
+            const QString reason = localized(Table::shortcut, status.text);
+            problem = localized("sShortcutRefused") + '\n' + reason;
+            refused.push_back(localized(key) + ": " + reason);
         }
-        window->setHotKeyProblem(key, problem);
+        if (window) {
+            window->setHotKeyProblem(key, problem);
+        }
     };
     update(cleanHotKeyName);
     for (const engine::Operation &operation : engine::operations()) {
         update(operation.hotKey);
     }
+    if (!refused.empty() && !parts_.hotKeysAvailable) {
+        refused = {filled(localized("sShortcutsUnavailable"), {cleanCommand})};
+    }
+    setProblem(Problem::shortcuts, refused.join('\n').toStdString());
 }
 
 void DesktopShell::start() {
-    if (onX11()) {
-        xembed_ = platform::createX11TrayWatch(parts_.mainQueue, [this] { tray_->trayAppeared(); });
+    if (parts_.watchTray) {
+        xembed_ = parts_.watchTray([this] { tray_->trayAppeared(); });
     }
     settle_ = parts_.mainQueue.postAfter(trayExpectedWithin, [this] {
         settle_ = 0;
-        if (delegate_) {
-            delegate_->traySettled();
+        if (!delegate_) {
+            return;
         }
+        if (tray_->wanted() && !tray_->shown()) {
+            setProblem(Problem::tray, localized("sNoTray").toStdString());
+        }
+        delegate_->traySettled();
     });
 }
 
@@ -190,9 +192,9 @@ void DesktopShell::setTaskbarEntry(bool shown) {
 }
 
 void DesktopShell::applyTaskbarEntry() {
-    if (taskbar_ && window && window->isVisible()) {
+    if (parts_.taskbar && window && window->isVisible()) {
         // Without an icon to click, the taskbar is the way back to a minimized window.
-        taskbar_->setShownInTaskbar(window->winId(), taskbarEntry_ || !tray_->shown());
+        parts_.taskbar->setShownInTaskbar(window->winId(), taskbarEntry_ || !tray_->shown());
     }
 }
 
@@ -219,7 +221,7 @@ void DesktopShell::makePreferencesWindow() {
         }
         return false;
     });
-    window->setNotice(parts_.problem);
+    updateNotice();
     updateHotKeys();
 }
 
@@ -316,9 +318,9 @@ void DesktopShell::stateChanged() {
     }
     menu_->setAutomatic(delegate_->automatic());
     menu_->setExcelException(delegate_->excelException());
-    tray_->setState(!parts_.problem.isEmpty() ? TrayState::problem
-                    : delegate_->automatic()  ? TrayState::automatic
-                                              : TrayState::idle);
+    tray_->setState(!problems_.empty()       ? TrayState::problem
+                    : delegate_->automatic() ? TrayState::automatic
+                                             : TrayState::idle);
     if (window) {
         GeneralState state;
         state.automatic = delegate_->automatic();
@@ -330,6 +332,31 @@ void DesktopShell::stateChanged() {
         window->setGeneralState(state);
         applyTaskbarEntry();
     }
+}
+
+void DesktopShell::setProblem(Problem problem, const std::string &text) {
+    const auto known = problems_.find(problem);
+    if (text == (known == problems_.end() ? std::string() : known->second)) {
+        return;
+    }
+    if (text.empty()) {
+        problems_.erase(known);
+    } else {
+        problems_[problem] = text;
+    }
+    updateNotice();
+    stateChanged();
+}
+
+void DesktopShell::updateNotice() {
+    if (!window) {
+        return;
+    }
+    QStringList lines;
+    for (const auto &[problem, text] : problems_) {
+        lines.push_back(QString::fromStdString(text));
+    }
+    window->setNotice(lines.join('\n'));
 }
 
 void DesktopShell::restore() {

@@ -17,6 +17,7 @@
 #include "shortcuts/UserDefaultsHotKeys.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -38,8 +39,12 @@ class DesktopShell final : public ShellWindows {
         const shortcuts::ShortcutTexts &shortcutTexts;
         std::string locale; // an ICU locale id
         std::string version;
-        // What does not work on this desktop; empty when all does.
-        QString problem;
+        // What the desktop offers; all but the first may be missing.
+        bool pointerPositionKnown = false;
+        bool hotKeysAvailable = true;
+        std::unique_ptr<platform::TaskbarHint> taskbar;
+        std::function<std::unique_ptr<platform::TrayWatch>(std::function<void()> appeared)>
+            watchTray;
     };
     // All must outlive this. Takes the hooks of the preferences that the windows need.
     explicit DesktopShell(Parts parts);
@@ -64,6 +69,7 @@ class DesktopShell final : public ShellWindows {
     void showAbout() override;
     void showAlert(const char *messageKey, const char *informativeKey) override;
     bool openUrl(const std::string &url) override;
+    void setProblem(Problem problem, const std::string &text) override;
     void stateChanged() override;
 
   private:
@@ -72,6 +78,7 @@ class DesktopShell final : public ShellWindows {
     void connectPreferences();
     void updateProfiles();
     void updateHotKeys();
+    void updateNotice();
     void restore();
     void applyTaskbarEntry();
 
@@ -81,7 +88,7 @@ class DesktopShell final : public ShellWindows {
     std::unique_ptr<StatusMenu> menu_;
     std::unique_ptr<TrayIcon> tray_;
     std::unique_ptr<platform::TrayWatch> xembed_;
-    std::unique_ptr<platform::TaskbarHint> taskbar_;
+    std::map<Problem, std::string> problems_; // none is empty
     std::unique_ptr<PreferencesWindow> window;
     std::unique_ptr<TipsWindow> tipsController;
     std::unique_ptr<WhatsNewWindow> whatsNewController;

@@ -34,6 +34,11 @@ class ShellWindows {
     // UTF-8. False when the desktop has nothing for it.
     virtual bool openUrl(const std::string &url) = 0;
 
+    // What is not as the user wants it, told for as long as it lasts.
+    enum class Problem { tray, shortcuts, settings, profiles, loginItem };
+    // Each of them replaces the one of its kind; an empty text ends it. One line or more, UTF-8.
+    virtual void setProblem(Problem problem, const std::string &text) = 0;
+
     // A state that menus and check boxes show has changed.
     virtual void stateChanged() = 0;
 };

@@ -28,6 +28,7 @@ class TrayIcon final : public QObject {
     // From now on the icon is shown as soon as a host is there.
     void show();
     void drop();
+    bool wanted() const { return wanted_; }
     // Whether it stands in a tray now.
     bool shown() const;
     void setState(TrayState state);

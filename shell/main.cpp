@@ -8,6 +8,7 @@
 #include "platform/linux/FileSettingsStore.h"
 #include "platform/linux/FolderWatch.h"
 #include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtWindowSystem.h"
 #include "platform/qt/QtWorkerQueue.h"
 #include "settings/SettingsKeys.h"
 #include "settings/SettingsPaths.h"
@@ -179,14 +180,6 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
     return std::nullopt;
 }
 
-// Windows that a Wayland compositor places where it likes cannot be the statistics popup; those of
-// an X11 program can. Whoever sets the variable decides.
-void chooseWindowSystem() {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-    }
-}
-
 shell::ProductLinks productLinks() {
     return {NERLO_SUPPORT_PAGE, NERLO_DEVELOPER_EMAIL, NERLO_VERSION,
             QSysInfo::prettyProductName().toStdString()};
@@ -202,7 +195,7 @@ int main(int argc, char **argv) {
         return *status;
     }
 
-    chooseWindowSystem();
+    platform::chooseQtWindowSystem();
     QApplication application(argc, argv);
     QApplication::setDesktopFileName(applicationId);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -262,8 +255,14 @@ int main(int argc, char **argv) {
     preferences.hooks().setAllBools = [&](const auto &profile) { engine.setAllBools(profile); };
     preferences.hooks().setDefaultShortcut = [&] { shell::setDefaultShortcut(hotKeys); };
 
-    shell::DesktopShell windows({store, mainQueue, workerQueue, preferences, engine, hotKeys,
-                                 shortcutTexts, platform::userLocale(), NERLO_VERSION, QString()});
+    shell::DesktopShell windows(
+        {store, mainQueue, workerQueue, preferences, engine, hotKeys, shortcutTexts,
+         platform::userLocale(), NERLO_VERSION, platform::pointerPositionKnown(),
+         hotKeyService.backend->available(), platform::openTaskbarHint(),
+         [&](auto appeared) { return platform::openTrayWatch(mainQueue, std::move(appeared)); }});
+    store.setErrorHandler([&](const std::string &error) {
+        windows.setProblem(shell::ShellWindows::Problem::settings, error);
+    });
     const shortcuts::ShortcutViewContext recording{
         shortcutTexts,
         *systemHotKeys,
@@ -353,5 +352,6 @@ int main(int argc, char **argv) {
     const int status = QCoreApplication::exec();
     bus.end();
     preferences.savePending();
+    store.setErrorHandler(nullptr); // the windows go before it
     return status;
 }

@@ -236,9 +236,10 @@ void nrAppDelegate::aStayOnTop(bool on) {
 }
 
 void nrAppDelegate::launchOnStartup(bool on) {
-    userDef.set(launchOnStartupKey, on);
+    const std::string error = setStartAtLogin(on);
+    userDef.set(launchOnStartupKey, error.empty() ? on : loginItem_.enabled());
     userDef.synchronize();
-    setStartAtLogin(on);
+    windows_.setProblem(ShellWindows::Problem::loginItem, error);
     windows_.stateChanged();
 }
 

@@ -1132,16 +1132,6 @@
         <translation>«استعادة الأصل» في القائمة يعيد ما كان في الحافظة من قبل مع تنسيقه.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>القائمة</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>القاعدة %1 من %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

@@ -1132,16 +1132,6 @@ Nachher: Sie öffnen sich bei jedem Start von Nerlo Pro.</translation>
         <translation>„Original zurückholen“ im Menü bringt zurück, was vorher in der Zwischenablage stand, mitsamt Formatierung.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menü</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Regel %1 von %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

@@ -1132,16 +1132,6 @@
         <translation>Η «Επαναφορά του πρωτοτύπου» στο μενού επαναφέρει ό,τι υπήρχε πριν στο πρόχειρο, με τη μορφοποίησή του.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Μενού</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Κανόνας %1 από %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

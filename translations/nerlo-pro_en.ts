@@ -1132,16 +1132,6 @@ After: they open each time Nerlo Pro starts.</translation>
         <translation>“Restore the original” in the menu puts back what stood on the clipboard before, with its formatting.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Rule %1 of %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

@@ -1132,16 +1132,6 @@ Después: se abren cada vez que se inicia Nerlo Pro.</translation>
         <translation>«Restaurar el original», en el menú, devuelve al portapapeles lo que había antes, con su formato.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menú</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Regla %1 de %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

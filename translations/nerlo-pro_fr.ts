@@ -1132,16 +1132,6 @@ Après : elles s’ouvrent à chaque démarrage de Nerlo Pro.</translation>
         <translation>« Restaurer l’original » dans le menu remet ce qui se trouvait dans le presse-papiers, avec sa mise en forme.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Règle %1 sur %2 : %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

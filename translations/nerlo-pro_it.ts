@@ -1132,16 +1132,6 @@ Dopo: si aprono a ogni avvio di Nerlo Pro.</translation>
         <translation>«Ripristina l’originale» nel menu rimette negli appunti ciò che c’era prima, con la sua formattazione.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Regola %1 di %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

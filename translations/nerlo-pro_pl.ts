@@ -1132,16 +1132,6 @@ Po: otwierają się przy każdym uruchomieniu Nerlo Pro.</translation>
         <translation>„Przywróć oryginał” w menu przywraca to, co było w schowku, razem z formatowaniem.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Reguła %1 z %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

@@ -1132,16 +1132,6 @@ Depois: elas abrem sempre que o Nerlo Pro inicia.</translation>
         <translation>“Restaurar o original”, no menu, devolve à área de transferência o que estava lá antes, com a formatação.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Regra %1 de %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

@@ -1132,16 +1132,6 @@ Efter: de öppnas varje gång Nerlo Pro startar.</translation>
         <translation>”Återställ originalet” i menyn lägger tillbaka det som fanns i urklipp tidigare, med sin formatering.</translation>
     </message>
     <message>
-        <source>sTrayMenu</source>
-        <extracomment>Name of the menu bar’s menu, for screen readers.</extracomment>
-        <translation>Meny</translation>
-    </message>
-    <message>
-        <source>sFindReplaceRule</source>
-        <extracomment>For screen readers; %3 is the text to find.</extracomment>
-        <translation>Regel %1 av %2: %3</translation>
-    </message>
-    <message>
         <source>sTrayIdle</source>
         <translation>Nerlo Pro</translation>
     </message>

@@ -2,12 +2,14 @@
 
 #include "platform/Created.h"
 #include "platform/qt/PortalHotKeys.h"
+#include "platform/qt/QtWindowSystem.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/WaylandActiveApplication.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandPasteboard.h"
 #include "platform/wayland/WaylandPopupLayer.h"
 #include "platform/x11/X11ActiveApplication.h"
+#include "platform/x11/X11Desktop.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/X11Pasteboard.h"
@@ -36,6 +38,7 @@ class NoHotKeys final : public HotKeyService {
     HotKeyStatus status(Handle) const override { return {}; }
     void setStatusHandler(StatusChanged) override {}
     void setSuspended(bool) override {}
+    bool available() const override { return false; }
     std::string description() const override {
         return std::string("this desktop takes no hot keys; ") + hotKeysByHand;
     }
@@ -106,6 +109,18 @@ Chosen<HotKeyService> openHotKeys(MainQueue &mainQueue, const KeyboardLayout &la
 Chosen<PopupLayer> openPopupLayer(MainQueue &mainQueue) {
     return firstOf<PopupLayer>(mainQueue,
                                [](MainQueue &queue) { return createWaylandPopupLayer(queue); });
+}
+
+std::unique_ptr<TaskbarHint> openTaskbarHint() {
+    return qtIsOnX11() ? createX11TaskbarHint() : nullptr;
+}
+
+std::unique_ptr<TrayWatch> openTrayWatch(MainQueue &mainQueue, std::function<void()> appeared) {
+    return qtIsOnX11() ? createX11TrayWatch(mainQueue, std::move(appeared)) : nullptr;
+}
+
+bool pointerPositionKnown() {
+    return qtIsOnX11();
 }
 
 } // namespace nerlo::platform

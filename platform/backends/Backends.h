@@ -8,7 +8,10 @@
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 #include "platform/PopupLayer.h"
+#include "platform/TaskbarHint.h"
+#include "platform/TrayWatch.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -40,5 +43,17 @@ Chosen<HotKeyService> openHotKeys(MainQueue &mainQueue, const KeyboardLayout &la
 // Null where the toolkit's own windows are the best there is. The main queue must outlive the
 // result.
 Chosen<PopupLayer> openPopupLayer(MainQueue &mainQueue);
+
+// The rest is for the main thread, once the toolkit's application object is there.
+
+// Null where programs cannot keep a window out of the taskbar.
+std::unique_ptr<TaskbarHint> openTaskbarHint();
+
+// `appeared` runs on the main queue, at most once: soon if there is a tray already, else when one
+// comes. Null where there are no trays of this kind.
+std::unique_ptr<TrayWatch> openTrayWatch(MainQueue &mainQueue, std::function<void()> appeared);
+
+// Whether the toolkit can tell where the pointer is, and put a menu there.
+bool pointerPositionKnown();
 
 } // namespace nerlo::platform

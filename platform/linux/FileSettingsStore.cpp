@@ -48,12 +48,13 @@ PropertyDictionary FileSettingsStore::withOwnChanges(PropertyDictionary theirs) 
 
 bool FileSettingsStore::synchronize() {
     PropertyDictionary merged;
+    std::string before;
     {
         const FolderLock lock(folderOf(path_), calls_);
         bool unusable = false;
         const auto theirs = read(unusable);
         merged = theirs ? withOwnChanges(*theirs) : values();
-        error_.clear();
+        before = std::exchange(error_, {});
         const bool differs = theirs ? !(merged == *theirs) : !dirty_.empty();
         if (differs) {
             error_ = lock.error();
@@ -69,6 +70,9 @@ bool FileSettingsStore::synchronize() {
         }
     }
     replaceAll(std::move(merged));
+    if (error_ != before && errorChanged_) {
+        errorChanged_(error_);
+    }
     return error_.empty();
 }
 

@@ -4,10 +4,12 @@
 #include "platform/FileCalls.h"
 #include "platform/SettingsStore.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace nerlo::platform {
 
@@ -32,6 +34,10 @@ class FileSettingsStore final : public SettingsStore {
     const std::string &path() const { return path_; }
     // Why the last write failed; empty when it did not.
     const std::string &error() const { return error_; }
+    // Runs after each write by which that has changed.
+    void setErrorHandler(std::function<void(const std::string &error)> changed) {
+        errorChanged_ = std::move(changed);
+    }
 
   private:
     void changed(std::string_view key) override;
@@ -45,6 +51,7 @@ class FileSettingsStore final : public SettingsStore {
     std::set<std::string> dirty_; // set or removed here since the last write
     std::shared_ptr<bool> posted_ = std::make_shared<bool>(false);
     std::string error_;
+    std::function<void(const std::string &error)> errorChanged_;
 };
 
 } // namespace nerlo::platform

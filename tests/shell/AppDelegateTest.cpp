@@ -41,6 +41,11 @@ class RecordedWindows final : public ShellWindows {
         calls.push_back(url);
         return true;
     }
+    void setProblem(Problem, const std::string &text) override {
+        if (!text.empty()) {
+            calls.push_back("problem " + text);
+        }
+    }
     void stateChanged() override {}
     Calls take() { return std::exchange(calls, {}); }
 };
@@ -48,10 +53,14 @@ class RecordedWindows final : public ShellWindows {
 class MemoryLoginItem final : public platform::LoginItem {
   public:
     std::string setEnabled(bool on) override {
-        on_ = on;
-        return {};
+        if (error.empty()) {
+            on_ = on;
+        }
+        return error;
     }
     bool enabled() const override { return on_; }
+
+    std::string error;
 
   private:
     bool on_ = false;
@@ -222,6 +231,10 @@ TEST_F(AppDelegate, SmallCommands) {
     EXPECT_TRUE(store.boolForKey("lunchOnStartup"));
     delegate->launchOnStartup(false);
     EXPECT_FALSE(loginItem.enabled());
+    loginItem.error = "read-only";
+    delegate->launchOnStartup(true);
+    EXPECT_EQ(windows.take(), Calls{"problem read-only"});
+    EXPECT_FALSE(store.boolForKey("lunchOnStartup")) << "the box shows what is";
     int quits = 0;
     delegate->setQuitHandler([&] { ++quits; });
     delegate->quitApp();
