@@ -2,7 +2,10 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <functional>
+#include <map>
 #include <string_view>
+#include <vector>
 
 namespace nerlo::shell {
 
@@ -17,43 +20,124 @@ bool isTypable(QChar letter) {
              script == QChar::Script_Greek || script == QChar::Script_Arabic));
 }
 
+// The line under a letter would part it from the neighbours that it is joined to.
+bool isJoined(const QString &text, qsizetype at) {
+    const auto joins = [&](qsizetype place) {
+        return place >= 0 && place < text.size() &&
+               text[place].joiningType() == QChar::Joining_Dual;
+    };
+    return text[at].script() == QChar::Script_Arabic && (joins(at) || joins(at - 1));
+}
+
 QString escaped(QString text) {
     return text.replace('&', "&&");
 }
 
-} // namespace
-
-QString withMnemonic(const QString &text, std::set<QChar> &used) {
-    // First letters of words are found best.
-    for (const bool onlyWordStarts : {true, false}) {
+// The places of the letters that could be underlined, best first.
+std::vector<qsizetype> placesIn(const QString &text) {
+    std::vector<qsizetype> places;
+    for (const bool wordStarts : {true, false}) {
         for (qsizetype at = 0; at < text.size(); ++at) {
-            const QChar letter = text[at].toLower();
             const bool startsWord = at == 0 || text[at - 1].isSpace();
-            if (isTypable(letter) && (startsWord || !onlyWordStarts) &&
-                used.insert(letter).second) {
-                return escaped(text.left(at)) + '&' + escaped(text.mid(at));
+            if (startsWord == wordStarts && isTypable(text[at]) && !isJoined(text, at)) {
+                places.push_back(at);
             }
         }
     }
-    for (const char16_t letter : std::u16string_view(u"abcdefghijklmnopqrstuvwxyz123456789")) {
-        if (used.insert(letter).second) {
-            return escaped(text) + " (&" + QChar(letter).toUpper() + ')';
+    return places;
+}
+
+// Shares letters out so that as many texts as possible get one of their own: who finds all of its
+// letters taken asks their holders to take another.
+class Sharing {
+  public:
+    Sharing(const QStringList &texts, const std::set<QChar> &used)
+        : texts_(texts)
+        , used_(used)
+        , places_(static_cast<std::size_t>(texts.size()), -1) {
+        for (qsizetype text = 0; text < texts.size(); ++text) {
+            std::set<QChar> asked;
+            find(text, asked);
         }
     }
-    return escaped(text);
+
+    // -1 for none.
+    qsizetype placeOf(qsizetype text) const { return places_[static_cast<std::size_t>(text)]; }
+
+  private:
+    bool find(qsizetype text, std::set<QChar> &asked) {
+        const auto places = placesIn(texts_[text]);
+        for (const bool free : {true, false}) {
+            for (const qsizetype place : places) {
+                const QChar letter = texts_[text][place].toLower();
+                const auto holder = holders_.find(letter);
+                if (used_.contains(letter) || (holder == holders_.end()) != free ||
+                    !asked.insert(letter).second) {
+                    continue;
+                }
+                if (free || find(holder->second, asked)) {
+                    holders_[letter] = text;
+                    places_[static_cast<std::size_t>(text)] = place;
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    const QStringList &texts_;
+    const std::set<QChar> &used_;
+    std::map<QChar, qsizetype> holders_;
+    std::vector<qsizetype> places_;
+};
+
+} // namespace
+
+QStringList withMnemonics(const QStringList &texts, std::set<QChar> &used) {
+    const Sharing sharing(texts, used);
+    QStringList result;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const qsizetype at = sharing.placeOf(i);
+        if (at >= 0) {
+            used.insert(texts[i][at].toLower());
+            result.push_back(escaped(texts[i].left(at)) + '&' + escaped(texts[i].mid(at)));
+        } else {
+            result.push_back(escaped(texts[i]));
+        }
+    }
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        if (sharing.placeOf(i) >= 0) {
+            continue;
+        }
+        for (const char16_t letter : std::u16string_view(u"abcdefghijklmnopqrstuvwxyz123456789")) {
+            if (used.insert(letter).second) {
+                result[i] += " (&" + QString(QChar(letter).toUpper()) + ')';
+                break;
+            }
+        }
+    }
+    return result;
 }
 
 void assignMnemonics(QWidget &parent, std::set<QChar> &used) {
     // What is pressed comes before what is only reached, should the letters not be enough.
+    std::vector<std::function<void(const QString &)>> setters;
+    QStringList texts;
     for (auto *button : parent.findChildren<QAbstractButton *>()) {
         if (!button->text().isEmpty()) {
-            button->setText(withMnemonic(button->text(), used));
+            texts.push_back(button->text());
+            setters.emplace_back([button](const QString &text) { button->setText(text); });
         }
     }
     for (auto *label : parent.findChildren<QLabel *>()) {
         if (label->buddy()) {
-            label->setText(withMnemonic(label->text(), used));
+            texts.push_back(label->text());
+            setters.emplace_back([label](const QString &text) { label->setText(text); });
         }
+    }
+    const QStringList marked = withMnemonics(texts, used);
+    for (qsizetype i = 0; i < marked.size(); ++i) {
+        setters[static_cast<std::size_t>(i)](marked[i]);
     }
 }
 

@@ -2,15 +2,16 @@
 // language, so that no two visible ones share a letter.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <set>
 
 namespace nerlo::shell {
 
-// `text` with "&" before the first letter that is not in `used`, which it joins; a text without one
-// to spare gets a Latin letter or a digit in brackets, or stays as it is when all are used.
-QString withMnemonic(const QString &text, std::set<QChar> &used);
+// The texts with "&" before letters that are not in `used`, which they join: the first of a word
+// where possible. A text without one to spare gets a Latin letter or a digit in brackets, or stays
+// as it is when all are used.
+QStringList withMnemonics(const QStringList &texts, std::set<QChar> &used);
 
 // The check boxes and buttons below `parent`, then its labels with a buddy, in the order in which
 // they were made.

@@ -16,7 +16,7 @@ namespace nerlo::shell {
 
 namespace {
 
-constexpr int recorderWidth = 190;
+constexpr int recorderWidth = 170;
 constexpr int indent = 26;
 constexpr int longestDelay = 999; // seconds that the popup may be asked to stay
 
@@ -55,7 +55,7 @@ QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey,
     if (recorder) {
         recorder->setObjectName("shortcut." + QString::fromStdString(hotKey));
         recorder->setAccessibleName(filled(localized("sShortcutOf"), {command}));
-        recorder->setFixedWidth(recorderWidth);
+        recorder->setFixedWidth(std::max(recorderWidth, recorder->sizeHint().width()));
         if (recorder->toolTip().isEmpty()) {
             recorder->setToolTip(localized("sShortcutTip"));
         }
@@ -100,6 +100,12 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
     problem->hide();
     grid->addWidget(problem, 1, 0, 1, 4);
     int line = 2;
+    QHBoxLayout *pair = nullptr;
+    if (row.sideBySide) {
+        pair = new QHBoxLayout;
+        pair->setSpacing(grid->horizontalSpacing());
+        grid->addLayout(pair, line++, 1, 1, 3);
+    }
     for (const std::string &key : row.dependents) {
         QWidget *control = makeControl(key, texts);
         const QString name = localized(labelKey(key));
@@ -111,8 +117,15 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
         auto *label = new QLabel(name);
         label->setBuddy(control);
         labels_.emplace(key, label);
-        grid->addWidget(label, line, 1);
-        grid->addWidget(control, line++, 2, 1, 2);
+        if (pair) {
+            columns_[pair->count() > 0 ? 1 : 0].push_back(label);
+            pair->addWidget(label);
+            pair->addWidget(control, 1);
+        } else {
+            columns_[0].push_back(label);
+            grid->addWidget(label, line, 1);
+            grid->addWidget(control, line++, 2, 1, 2);
+        }
     }
     layout_->addWidget(widget, row.ruleList ? 1 : 0);
     if (row.ruleList) {
@@ -285,6 +298,18 @@ void OptionPage::updateDependents() {
         second->setVisible(fields.secondShown);
         labels_.at(secondCustomKey)->setVisible(fields.secondShown);
         setEnabledWithLabel(secondCustomKey, on && fields.secondShown);
+    }
+}
+
+void OptionPage::alignFields() {
+    for (const auto &column : columns_) {
+        int widest = 0;
+        for (const QLabel *label : column) {
+            widest = std::max(widest, label->sizeHint().width());
+        }
+        for (QLabel *label : column) {
+            label->setMinimumWidth(widest);
+        }
     }
 }
 

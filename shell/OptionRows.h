@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QWidget>
+#include <array>
 #include <functional>
 #include <map>
 #include <set>
@@ -45,6 +46,8 @@ class OptionPage final : public QWidget {
     void load();
     // Of the find-and-replace table; see nrPreferences. Nothing on pages without it.
     void updateRules(int mode);
+    // The fields stand below each other, whatever their labels say.
+    void alignFields();
     // Shows only the options whose texts have all the words (in lower case); whether there are any.
     bool filter(const QStringList &words);
     // Why the system does not give the program this shortcut; empty when it does.
@@ -77,6 +80,7 @@ class OptionPage final : public QWidget {
     std::vector<Row> rows_;
     std::map<std::string, QWidget *, std::less<>> controls_;
     std::map<std::string, QLabel *, std::less<>> labels_;
+    std::array<std::vector<QLabel *>, 2> columns_;
     FindReplaceTable *rules_ = nullptr;
     bool loading_ = false; // changes come from load(), not from the user
 };

@@ -14,7 +14,9 @@ std::vector<OptionRow> replacements() {
         const std::string name = "ChangeProperty" + std::to_string(slot);
         rows.push_back({"ud" + name,
                         "s" + name,
-                        {"ud" + name + "ChangeTextField", "ud" + name + "ToTextField"}});
+                        {"ud" + name + "ChangeTextField", "ud" + name + "ToTextField"},
+                        false,
+                        true});
     }
     return rows;
 }

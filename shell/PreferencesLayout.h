@@ -15,7 +15,8 @@ struct OptionRow {
     std::string hotKey; // settings key of its shortcut; empty for none
     // Switches, texts and choices that only count while the check box is on.
     std::vector<std::string> dependents;
-    bool ruleList = false; // the find-and-replace list stands below
+    bool ruleList = false;   // the find-and-replace list stands below
+    bool sideBySide = false; // the dependents stand on one line
 };
 
 struct PreferencesPage {

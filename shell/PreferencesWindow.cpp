@@ -106,15 +106,9 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
         addPage(localized(page.title), widget);
         connect(widget, &OptionPage::edited, this, &PreferencesWindow::updatePreview);
     }
-    // The options are never cut off at the side; a short window scrolls them.
-    int widest = 0;
-    for (int i = 0; i < pages_->count(); ++i) {
-        const auto *page = static_cast<QScrollArea *>(pages_->widget(i))->widget();
-        widest = std::max(widest, page->minimumSizeHint().width());
-    }
-    middle->setMinimumWidth(widest + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4);
     preview_->setMinimumWidth(240);
-    splitter->setSizes({widest, firstSize.width()});
+    fitPages();
+    splitter->setSizes({middle->minimumWidth(), firstSize.width()});
     pageList_->setSpacing(2);
     pageList_->setFixedWidth(pageList_->sizeHintForColumn(0) + 2 * pageList_->frameWidth() + 24);
 
@@ -156,6 +150,21 @@ void PreferencesWindow::assignLetters() {
         auto ofPage = used;
         assignMnemonics(*pages_->widget(i), ofPage);
     }
+    fitPages();
+}
+
+// The options are never cut off at the side; a short window scrolls them.
+void PreferencesWindow::fitPages() {
+    for (OptionPage *page : optionPages_) {
+        page->alignFields();
+    }
+    int widest = 0;
+    for (int i = 0; i < pages_->count(); ++i) {
+        const auto *page = static_cast<QScrollArea *>(pages_->widget(i))->widget();
+        widest = std::max(widest, page->minimumSizeHint().width());
+    }
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    pages_->parentWidget()->setMinimumWidth(widest + bar + 4);
 }
 
 QWidget *PreferencesWindow::makeTop() {

@@ -79,6 +79,7 @@ class PreferencesWindow final : public QMainWindow {
   private:
     QWidget *makeGeneralPage(const RecorderMaker &makeRecorder);
     QWidget *makeTop();
+    void fitPages();
     void addPage(const QString &title, QWidget *page);
     void search(const QString &text);
     void updatePreview();

@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QStyle>
 #include <QTextBlock>
 #include <chrono>
 #include <exception>
@@ -46,6 +47,7 @@ QPlainTextEdit *makeEditor(const char *name, const char *titleKey, const char *t
     edit->setToolTip(plainTooltip(localized(tipKey)));
     edit->setTabChangesFocus(true);
     QTextOption option = edit->document()->defaultTextOption();
+    option.setAlignment(QStyle::visualAlignment(edit->layoutDirection(), Qt::AlignLeft));
     option.setFlags(option.flags() | QTextOption::ShowTabsAndSpaces |
                     QTextOption::ShowLineAndParagraphSeparators);
     edit->document()->setDefaultTextOption(option);
@@ -53,8 +55,7 @@ QPlainTextEdit *makeEditor(const char *name, const char *titleKey, const char *t
     return edit;
 }
 
-void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const QColor &colour,
-               bool crossedOut) {
+void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const QColor &colour) {
     QList<QTextEdit::ExtraSelection> selections;
     for (const TextSpan &span : spans) {
         QTextEdit::ExtraSelection selection;
@@ -63,9 +64,8 @@ void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const Q
         selection.cursor.setPosition(static_cast<int>(span.start + span.length),
                                      QTextCursor::KeepAnchor);
         selection.format.setBackground(colour);
-        // Not by colour alone.
-        selection.format.setFontUnderline(!crossedOut);
-        selection.format.setFontStrikeOut(crossedOut);
+        // Not by colour alone; and a line through a dot or a mark would hide it.
+        selection.format.setFontUnderline(true);
         selections.push_back(selection);
     }
     edit.setExtraSelections(selections);
@@ -230,8 +230,8 @@ void PreviewPane::show(const Result &result) {
 
 void PreviewPane::markDifferences() {
     const bool dark = palette().color(QPalette::Base).lightness() < 128;
-    markSpans(*before_, removed_, dark ? QColor(0x6b, 0x2b, 0x2b) : QColor(0xff, 0xd7, 0xd5), true);
-    markSpans(*after_, marked_, dark ? QColor(0x1f, 0x55, 0x2c) : QColor(0xc8, 0xf0, 0xce), false);
+    markSpans(*before_, removed_, dark ? QColor(0x6b, 0x2b, 0x2b) : QColor(0xff, 0xd7, 0xd5));
+    markSpans(*after_, marked_, dark ? QColor(0x1f, 0x55, 0x2c) : QColor(0xc8, 0xf0, 0xce));
 }
 
 } // namespace nerlo::shell

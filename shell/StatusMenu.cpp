@@ -1,6 +1,7 @@
 #include "shell/StatusMenu.h"
 
 #include "engine/Operations.h"
+#include "shell/PreferencesLayout.h"
 #include "shell/Strings.h"
 #include "shortcuts/nrShortcut.h"
 
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <algorithm>
 #include <utility>
 
 namespace nerlo::shell {
@@ -102,15 +104,7 @@ StatusMenu::StatusMenu(MenuCommands commands)
     statusMenu->setObjectName("statusMenu");
     operations_->setObjectName("operationsMenu");
     profiles_->setObjectName("profilesMenu");
-    for (const engine::Operation &operation : engine::operations()) {
-        auto *action = operations_->addAction(escaped(localized(operation.hotKey)));
-        action->setObjectName("operation" + QString::number(operation.index));
-        connect(action, &QAction::triggered, this, [this, index = operation.index] {
-            if (commands_.operation) {
-                commands_.operation(index);
-            }
-        });
-    }
+    makeOperations();
     makeEditActions();
 
     statusMenu->addActions({clean_, automatic_, excelException_, restore_});
@@ -137,6 +131,29 @@ QAction *StatusMenu::add(const char *name, const char *titleKey,
         }
     });
     return action;
+}
+
+// Where their options stand in the preferences; all in one list would be too many to read.
+void StatusMenu::makeOperations() {
+    for (const PreferencesPage &page : preferencesPages()) {
+        const bool single = page.rows.size() == 1;
+        QMenu *menu =
+            single ? operations_.get() : operations_->addMenu(escaped(localized(page.title)));
+        for (const OptionRow &row : page.rows) {
+            const auto operation =
+                std::ranges::find(engine::operations(), row.hotKey, &engine::Operation::hotKey);
+            if (operation == engine::operations().end()) {
+                continue;
+            }
+            auto *action = menu->addAction(escaped(localized(operation->hotKey)));
+            action->setObjectName("operation" + QString::number(operation->index));
+            connect(action, &QAction::triggered, this, [this, index = operation->index] {
+                if (commands_.operation) {
+                    commands_.operation(index);
+                }
+            });
+        }
+    }
 }
 
 void StatusMenu::makeEditActions() {

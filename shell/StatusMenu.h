@@ -57,6 +57,7 @@ class StatusMenu final : public QObject {
 
   private:
     QAction *add(const char *name, const char *title, const std::function<void()> &command);
+    void makeOperations();
     void makeEditActions();
 
     MenuCommands commands_;

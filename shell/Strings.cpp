@@ -32,6 +32,17 @@ QString install(QCoreApplication &application, const QLocale &locale, const QStr
     return translator->language();
 }
 
+// The toolkit writes the name that the key had on another system's keyboards.
+class KeyNames final : public QTranslator {
+  public:
+    using QTranslator::QTranslator;
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *, int) const override {
+        const bool meta = QByteArrayView(context) == "QShortcut" && QByteArrayView(text) == "Meta";
+        return meta ? QStringLiteral("Super") : QString();
+    }
+};
+
 } // namespace
 
 QString localized(Table table, std::string_view key) {
@@ -68,6 +79,7 @@ void installTranslations(QCoreApplication &application, const QLocale &locale) {
             QStringLiteral("nerlo-pro"), folder);
     install(application, locale, QStringLiteral("qtbase"),
             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    QCoreApplication::installTranslator(new KeyNames(&application));
     const QString language = install(application, locale, QStringLiteral("nerlo-pro"), folder);
     // The toolkit takes the direction from its own translations, which need not be installed.
     if (!language.isEmpty()) {

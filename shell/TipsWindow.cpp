@@ -127,8 +127,9 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     });
     connect(dots_, &PageDots::clicked, this, &TipsWindow::setPage);
     std::set<QChar> used;
-    previous_->setText(withMnemonic(previous_->text(), used));
-    atEachStart_->setText(withMnemonic(atEachStart_->text(), used));
+    const auto texts = withMnemonics({previous_->text(), atEachStart_->text()}, used);
+    previous_->setText(texts[0]);
+    atEachStart_->setText(texts[1]);
     next_->setDefault(true);
     showPage();
 }

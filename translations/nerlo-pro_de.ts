@@ -1272,7 +1272,7 @@ MIT-Lizenz</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Klicken, um ein Tastenkürzel aufzunehmen</translation>
+        <translation>Tastenkürzel aufnehmen</translation>
     </message>
     <message>
         <source>Type shortcut</source>

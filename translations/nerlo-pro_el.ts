@@ -1272,7 +1272,7 @@
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Κάντε κλικ για εγγραφή συντόμευσης</translation>
+        <translation>Εγγραφή συντόμευσης</translation>
     </message>
     <message>
         <source>Type shortcut</source>

@@ -1272,7 +1272,7 @@ Licencia MIT</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Haga clic para grabar un atajo</translation>
+        <translation>Grabar un atajo</translation>
     </message>
     <message>
         <source>Type shortcut</source>

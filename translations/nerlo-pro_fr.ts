@@ -1272,7 +1272,7 @@ Licence MIT</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Cliquez pour enregistrer un raccourci</translation>
+        <translation>Enregistrer un raccourci</translation>
     </message>
     <message>
         <source>Type shortcut</source>

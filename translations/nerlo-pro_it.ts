@@ -1272,7 +1272,7 @@ Licenza MIT</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Clic per registrare una scorciatoia</translation>
+        <translation>Registra una scorciatoia</translation>
     </message>
     <message>
         <source>Type shortcut</source>

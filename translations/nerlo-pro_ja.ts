@@ -1272,7 +1272,7 @@ MIT ライセンス</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>クリックしてショートカットを記録</translation>
+        <translation>ショートカットを記録</translation>
     </message>
     <message>
         <source>Type shortcut</source>

@@ -1272,7 +1272,7 @@ Licencja MIT</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Kliknij, aby nagrać skrót</translation>
+        <translation>Nagraj skrót</translation>
     </message>
     <message>
         <source>Type shortcut</source>

@@ -1272,7 +1272,7 @@ Licença MIT</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Clique para gravar um atalho</translation>
+        <translation>Gravar um atalho</translation>
     </message>
     <message>
         <source>Type shortcut</source>

@@ -1272,7 +1272,7 @@
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Щёлкните, чтобы записать комбинацию</translation>
+        <translation>Записать комбинацию</translation>
     </message>
     <message>
         <source>Type shortcut</source>

@@ -1272,7 +1272,7 @@ MIT-licens</translation>
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Klicka för att spela in en genväg</translation>
+        <translation>Spela in en genväg</translation>
     </message>
     <message>
         <source>Type shortcut</source>

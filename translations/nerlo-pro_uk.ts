@@ -1272,7 +1272,7 @@
     <name>Shortcut</name>
     <message>
         <source>Click to record shortcut</source>
-        <translation>Клацніть, щоб записати комбінацію</translation>
+        <translation>Записати комбінацію</translation>
     </message>
     <message>
         <source>Type shortcut</source>

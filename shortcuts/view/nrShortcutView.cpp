@@ -219,11 +219,12 @@ QRect nrShortcutView::shortcutRect() const {
 
 QSize nrShortcutView::sizeHint() const {
     const int line = fontMetrics().height() + 2 * margin;
-    int widest = 0;
-    for (const auto *text : {clickToRecord, u"Type shortcut", u"Use old shortcut", u"Cancel"}) {
-        widest = std::max(widest, fontMetrics().horizontalAdvance(fromTable(text)));
+    // The first has no button beside it.
+    int widest = fontMetrics().horizontalAdvance(fromTable(clickToRecord));
+    for (const auto *text : {u"Type shortcut", u"Use old shortcut", u"Cancel"}) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(fromTable(text)) + line + 6);
     }
-    return {widest + 2 * margin + 2 * line + 6, line};
+    return {widest + 4 * margin, line};
 }
 
 void nrShortcutView::announce() {
