@@ -1,6 +1,7 @@
 #include "shell/StatusMenu.h"
 
 #include "engine/Operations.h"
+#include "shell/Mnemonics.h"
 #include "shell/PreferencesLayout.h"
 #include "shell/Strings.h"
 #include "shortcuts/nrShortcut.h"
@@ -179,18 +180,17 @@ void StatusMenu::makeEditActions() {
 }
 
 void StatusMenu::fillMenuBar(QMenuBar &bar) {
-    const auto addMenu = [&](const char *titleKey, const QList<QAction *> &actions) {
-        auto *menu = bar.addMenu('&' + title(titleKey));
-        menu->addActions(actions);
-        return menu;
-    };
-    addMenu("Nerlo Pro", {about_, preferences_, rate_, hide_, quit_});
-    QMenu *clear = addMenu("Clear", {clean_, automatic_, excelException_, restore_});
+    std::set<QChar> used;
+    const QStringList titles =
+        withMnemonics({title("Nerlo Pro"), title("Clear"), title("Edit"), title("Help")}, used);
+    bar.addMenu(titles[0])->addActions({about_, preferences_, rate_, hide_, quit_});
+    QMenu *clear = bar.addMenu(titles[1]);
+    clear->addActions({clean_, automatic_, excelException_, restore_});
     clear->addSeparator();
     clear->addMenu(operations_.get());
     clear->addMenu(profiles_.get());
-    addMenu("Edit", QList<QAction *>(edit_.begin(), edit_.end()));
-    addMenu("Help", {tips_, whatsNew_, support_, email_});
+    bar.addMenu(titles[2])->addActions(QList<QAction *>(edit_.begin(), edit_.end()));
+    bar.addMenu(titles[3])->addActions({tips_, whatsNew_, support_, email_});
 }
 
 void StatusMenu::setAutomatic(bool on) {
