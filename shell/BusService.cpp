@@ -81,6 +81,25 @@ void BusService::end() {
     QDBusConnection::sessionBus().unregisterObject(objectPath);
 }
 
+void BusService::stateChanged() {
+    const QVariantMap now{{QStringLiteral("AutomaticMode"), automaticMode()},
+                          {QStringLiteral("SelectedProfile"), selectedProfile()}};
+    const QVariantMap before = std::exchange(told_, now);
+    QVariantMap changed;
+    for (auto property = now.begin(); property != now.end(); ++property) {
+        if (before.value(property.key(), *property) != *property) {
+            changed.insert(property.key(), *property);
+        }
+    }
+    if (!changed.empty()) {
+        auto signal = QDBusMessage::createSignal(objectPath,
+                                                 QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                 QStringLiteral("PropertiesChanged"));
+        signal.setArguments({interfaceName, changed, QStringList()});
+        QDBusConnection::sessionBus().send(signal);
+    }
+}
+
 void BusService::Clean() {
     commands_.clean();
 }

@@ -11,6 +11,7 @@
 #include <QDBusContext>
 #include <QObject>
 #include <QString>
+#include <QVariant>
 
 namespace nerlo::shell {
 
@@ -37,6 +38,9 @@ class BusService final : public QObject, protected QDBusContext {
 
     // Tells the bus that a cleaned text has reached the clipboard.
     void cleaned() { emit Cleaned(); }
+    // Tells the bus the properties that differ from those of the last call; the first one tells
+    // none.
+    void stateChanged();
 
     bool automaticMode() const { return commands_.automaticNow(); }
     QString selectedProfile() const { return QString::fromStdString(commands_.profileNow()); }
@@ -59,6 +63,7 @@ class BusService final : public QObject, protected QDBusContext {
 
   private:
     const Commands &commands_;
+    QVariantMap told_;
 };
 
 // The answer to a request, as a text; nothing where the request has no answer.

@@ -132,6 +132,9 @@ void DesktopShell::updateProfiles() {
     if (window) {
         window->profilesChanged();
     }
+    if (changed_) {
+        changed_();
+    }
 }
 
 void DesktopShell::updateHotKeys() {
@@ -331,6 +334,9 @@ void DesktopShell::stateChanged() {
         state.stayOnTop = parts_.store.boolForKey("stayOnTop");
         window->setGeneralState(state);
         applyTaskbarEntry();
+    }
+    if (changed_) {
+        changed_();
     }
 }
 

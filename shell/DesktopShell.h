@@ -20,6 +20,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace nerlo::shell {
 
@@ -52,6 +53,8 @@ class DesktopShell final : public ShellWindows {
 
     void setDelegate(nrAppDelegate *delegate) { delegate_ = delegate; }
     void setRecorderMaker(RecorderMaker maker) { makeRecorder_ = std::move(maker); }
+    // Runs after each change of the automatic mode or of the profiles.
+    void setChangedHandler(std::function<void()> changed) { changed_ = std::move(changed); }
     // The menu bar's items, with which a shortcut may collide.
     StatusMenu &menu() { return *menu_; }
     // Once the event loop runs: looks for trays, and tells the delegate whether there is one.
@@ -85,6 +88,7 @@ class DesktopShell final : public ShellWindows {
     Parts parts_;
     nrAppDelegate *delegate_ = nullptr;
     RecorderMaker makeRecorder_;
+    std::function<void()> changed_;
     std::unique_ptr<StatusMenu> menu_;
     std::unique_ptr<TrayIcon> tray_;
     std::unique_ptr<platform::TrayWatch> xembed_;

@@ -326,6 +326,8 @@ int main(int argc, char **argv) {
     };
     commands.quit = [&] { mainQueue.post(&QCoreApplication::quit); };
     delegate.setQuitHandler(commands.quit);
+    bus.stateChanged();
+    windows.setChangedHandler([&] { bus.stateChanged(); });
 
     const shell::QuitSignals quitSignals(commands.quit);
     clipboard.backend->setLostHandler([] {

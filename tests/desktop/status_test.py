@@ -1,0 +1,74 @@
+#!/usr/bin/python3
+"""What the desktop program tells others of its state: on the bus, by its status item, in its window.
+
+Runs inside x11-session; NERLO_PRO names the program under test.
+"""
+import os
+import plistlib
+import unittest
+
+import dbus
+
+from desktop_session import CHECK_BOX, CHECKED, Eyes, desktop, wait_until
+from shell_test import BUS_NAME, PROFILES, Program, TrayHost, stored
+
+AUTOSTART = os.environ["XDG_CONFIG_HOME"] + "/autostart"
+LABEL = 29
+WRONG = "Nerlo Pro \u2013 something does not work here"
+
+
+class StatusTest(unittest.TestCase):
+    def test_changes_and_problems_are_told(self):
+        with open(AUTOSTART, "w"):
+            pass  # so that nothing can be put below it
+        tray, hands, eyes, told = TrayHost(), desktop(), Eyes("nerlo-pro"), []
+        tray.bus.add_signal_receiver(
+            lambda interface, changed, gone: told.append((str(interface), dict(changed))),
+            "PropertiesChanged", dbus.PROPERTIES_IFACE, path="/org/nerlo/NerloPro")
+        program = Program()
+        self.addCleanup(program.close)
+        wait_until(lambda: tray.items, "the item stands in the tray")
+        service = dbus.Interface(program.bus.get_object(BUS_NAME, "/org/nerlo/NerloPro",
+                                                        introspect=False), BUS_NAME)
+
+        def tooltip():
+            return str(tray.call("/StatusNotifierItem", dbus.PROPERTIES_IFACE, "Get",
+                                 "org.kde.StatusNotifierItem", "ToolTip")[0][2])
+        self.assertEqual(tooltip(), "Nerlo Pro")
+        service.Automatic("on")
+        wait_until(lambda: tooltip() not in ("Nerlo Pro", WRONG), "the item shows the mode")
+        automatic = tooltip()
+        records = wait_until(lambda: stored(PROFILES), "the profiles are saved")
+        with open(PROFILES + ".new", "wb") as file:
+            plistlib.dump(records + [records[0] | {"profileName": "other"}], file)
+        os.rename(PROFILES + ".new", PROFILES)
+        wait_until(lambda: "other" in tray.menu(), "the program knows the new profile")
+        service.Automatic("on")
+        service.Profile("other")
+        wait_until(lambda: len(told) == 2, "both changes are told")
+        self.assertEqual(told, [(BUS_NAME, {"AutomaticMode": True}),
+                                (BUS_NAME, {"SelectedProfile": "other"})])
+
+        def click():
+            hands.activate("Preferences")
+            hands.move(*eyes.middle(eyes.find(CHECK_BOX, "Start at login")))
+            hands.button(True)
+            hands.button(False)
+
+        def notice():
+            return any(AUTOSTART in eyes.attribute(node, "Name") for node in eyes.shown()
+                       if eyes.role(node) == LABEL)
+        click()
+        wait_until(notice, "the window says what is wrong")
+        self.assertEqual(tooltip(), WRONG)
+        box = eyes.find(CHECK_BOX, "Start at login")
+        self.assertFalse(eyes.state(box, CHECKED))
+        os.remove(AUTOSTART)
+        click()
+        wait_until(lambda: eyes.state(box, CHECKED) and not notice(), "now it is right")
+        self.assertTrue(os.listdir(AUTOSTART))
+        self.assertEqual(tooltip(), automatic)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
