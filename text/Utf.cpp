@@ -37,6 +37,21 @@ std::size_t asciiPrefix(const char *bytes) {
     return chunk;
 }
 
+// The same of the sixteen units at `units`.
+std::size_t asciiPrefix(const char16_t *units) {
+    std::uint64_t quarters[4];
+    std::memcpy(quarters, units, sizeof quarters);
+    constexpr std::uint64_t high = 0xFF80FF80FF80FF80u;
+    std::size_t prefix = 0;
+    for (const std::uint64_t quarter : quarters) {
+        if ((quarter & high) != 0) {
+            return prefix + static_cast<std::size_t>(std::countr_zero(quarter & high)) / 16;
+        }
+        prefix += 4;
+    }
+    return prefix;
+}
+
 // The length of the well-formed sequence at `at`, which `left` bytes follow; 0 when it is none, or
 // is not complete.
 std::size_t decodeOne(const char *at, std::size_t left, char32_t &character) {
@@ -194,19 +209,18 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
     while (at < end && full - to >= 4) {
         if (*at < 0x80 && static_cast<std::size_t>(end - at) >= chunk &&
             static_cast<std::size_t>(full - to) >= chunk) {
-            char16_t all = 0;
             for (std::size_t i = 0; i < chunk; ++i) {
                 to[i] = static_cast<char>(at[i]);
-                all = static_cast<char16_t>(all | at[i]);
             }
-            if (all < 0x80) {
-                at += chunk;
-                to += chunk;
+            const std::size_t ascii = asciiPrefix(at);
+            at += ascii;
+            to += ascii;
+            if (ascii == chunk || full - to < 4) {
                 continue;
             }
         }
-        // One by one up to the end of the chunk.
-        for (std::size_t i = 0; i < chunk && at < end && full - to >= 4; ++i) {
+        // Others come in runs, words of them with single spaces between.
+        do {
             char32_t character = *at++;
             if (character < 0x800) {
                 // One byte or two, without a branch that nobody can foresee.
@@ -231,20 +245,24 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
             *to++ = static_cast<char>(0xE0 | character >> 12);
             *to++ = static_cast<char>(0x80 | (character >> 6 & 0x3F));
             *to++ = static_cast<char>(0x80 | (character & 0x3F));
-        }
+        } while (full - to >= 4 && end - at >= 2 && (at[0] | at[1]) >= 0x80);
     }
     text.remove_prefix(static_cast<std::size_t>(at - text.data()));
     return static_cast<std::size_t>(to - room.data());
 }
 
-std::string utf16ToUtf8(std::u16string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size() + text.size() / 16);
+void appendUtf8(std::string &to, std::u16string_view text) {
     std::array<char, blockSize> block;
     while (!text.empty()) {
         const std::size_t size = encodeUtf8(text, block);
-        bytes.append(block.data(), size);
+        to.append(block.data(), size);
     }
+}
+
+std::string utf16ToUtf8(std::u16string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size() + text.size() / 16);
+    appendUtf8(bytes, text);
     return bytes;
 }
 

@@ -21,6 +21,7 @@ Utf16Result utf8ToUtf16(std::string_view bytes);
 
 // An unpaired surrogate becomes U+FFFD.
 std::string utf16ToUtf8(std::u16string_view text);
+void appendUtf8(std::string &to, std::u16string_view text);
 
 // UTF-8 that arrives in pieces, cut anywhere. One thread at a time.
 class Utf8Decoder {
