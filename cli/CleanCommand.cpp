@@ -10,6 +10,8 @@
 #include <CLI/Formatter.hpp>
 
 #include <memory>
+#include <new>
+#include <utility>
 
 namespace nerlo::cli {
 
@@ -47,6 +49,47 @@ void checkInPlace(const CleanArguments &arguments) {
     }
 }
 
+// Reads, cleans and encodes while a block is in the cache, and keeps the result: nothing may be
+// written before the last byte is known to be good.
+std::string cleanInPieces(const std::string &file, Progress &progress,
+                          const engine::Operation &operation,
+                          const engine::CleaningContext &context, std::size_t *bytes) {
+    try {
+        TextReader reader(file, progress);
+        std::string clean;
+        reserve(clean, reader.sizeHint());
+        std::u16string piece;
+        std::size_t searched = 0;
+        while (reader.readBlock(piece)) {
+            const std::size_t cut = engine::lastCut(piece, searched);
+            searched = piece.size();
+            if (cut != 0) {
+                std::u16string rest = piece.substr(cut);
+                piece.resize(cut);
+                piece = operation.run(std::move(piece), context);
+                text::appendUtf8(clean, piece);
+                piece.assign(rest);
+                searched = 0;
+            }
+        }
+        text::appendUtf8(clean, operation.run(std::move(piece), context));
+        *bytes = reader.bytes();
+        return clean;
+    } catch (const std::bad_alloc &) {
+        throw Failure(ExitStatus::ioFailed, systemMessage(nameOf(file), ENOMEM));
+    }
+}
+
+CleanText cleanText(const std::string &file, Progress &progress, const engine::Operation *operation,
+                    const engine::CleaningContext &context, std::size_t *bytes) {
+    if (operation && operation->inPieces && operation->inPieces(context.options)) {
+        return cleanInPieces(file, progress, *operation, context, bytes);
+    }
+    std::u16string text = readText(file, progress, bytes);
+    return operation ? operation->run(std::move(text), context)
+                     : engine::runPipeline(std::move(text), context);
+}
+
 ExitStatus runClean(const CleanArguments &arguments) {
     checkInPlace(arguments);
     const engine::Operation *operation =
@@ -58,14 +101,12 @@ ExitStatus runClean(const CleanArguments &arguments) {
     const std::vector<std::string> files =
         arguments.files.empty() ? std::vector<std::string>{"-"} : arguments.files;
     ExitStatus status = ExitStatus::done;
-    std::vector<std::u16string> cleaned; // for standard output, written only if all inputs are good
+    std::vector<CleanText> cleaned; // for standard output, written only if all inputs are good
     Progress progress;
     for (const std::string &file : files) {
         try {
             std::size_t bytes = 0;
-            std::u16string text = readText(file, progress, &bytes);
-            text = operation ? engine::runOperation(operation->index, std::move(text), context)
-                             : engine::runPipeline(std::move(text), context);
+            CleanText text = cleanText(file, progress, operation, context, &bytes);
             progress.addDone(bytes);
             if (arguments.inPlace) {
                 replaceFile(file, text);

@@ -1,7 +1,6 @@
 #include "cli/Input.h"
 
 #include "cli/Failure.h"
-#include "text/Utf.h"
 
 #include <cerrno>
 #include <cstdint>
@@ -31,19 +30,18 @@ std::size_t sizeHint(int descriptor) {
     return unknownSize;
 }
 
-// Room for the text of so many bytes, which has at most as many units, and a few that a step may
-// need on the way. Large pages make first use of a large text several times cheaper.
-void reserve(std::u16string &text, std::size_t bytes) {
-    constexpr std::size_t slack = 64;
+template <class String>
+void reserveIn(String &text, std::size_t size) {
+    constexpr std::size_t slack = 64; // a few more, which a step may need on the way
     constexpr std::size_t large = 4 << 20;
-    text.reserve(bytes + slack);
-    const std::size_t size = text.capacity() * sizeof(char16_t);
-    if (size >= large) {
+    text.reserve(size + slack);
+    const std::size_t bytes = text.capacity() * sizeof(typename String::value_type);
+    if (bytes >= large) {
         const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
         const auto address = reinterpret_cast<std::uintptr_t>(text.data());
         const std::uintptr_t begin = (address + page - 1) / page * page;
         // Only advice: where it is not taken, nothing is lost.
-        madvise(reinterpret_cast<void *>(begin), address + size - begin, MADV_HUGEPAGE);
+        madvise(reinterpret_cast<void *>(begin), address + bytes - begin, MADV_HUGEPAGE);
     }
 }
 
@@ -113,32 +111,51 @@ Bytes readBytes(int descriptor, const std::string &name, Progress &progress) {
     }
 }
 
+TextReader::TextReader(const std::string &file, Progress &progress)
+    : name_(nameOf(file))
+    , progress_(progress)
+    , input_(file)
+    , block_(std::make_unique_for_overwrite<char[]>(blockSize)) {}
+
+std::size_t TextReader::sizeHint() const {
+    return cli::sizeHint(input_.descriptor());
+}
+
+bool TextReader::readBlock(std::u16string &text) {
+    const std::size_t count = readSome(input_.descriptor(), block_.get(), blockSize, name_);
+    if (count == 0) {
+        decoder_.finish();
+    } else {
+        decoder_.decode({block_.get(), count}, text);
+        bytes_ += count;
+        progress_.addRead(count);
+    }
+    if (decoder_.invalidAt()) {
+        throw Failure(ExitStatus::ioFailed,
+                      name_ + ": invalid UTF-8 at byte " + std::to_string(*decoder_.invalidAt()));
+    }
+    return count != 0;
+}
+
+void reserve(std::u16string &text, std::size_t units) {
+    reserveIn(text, units);
+}
+
+void reserve(std::string &text, std::size_t bytes) {
+    reserveIn(text, bytes);
+}
+
 std::u16string readText(const std::string &file, Progress &progress, std::size_t *bytes) {
-    const std::string name = nameOf(file);
     try {
-        const InputFile input(file);
+        TextReader reader(file, progress);
         std::u16string text;
-        reserve(text, sizeHint(input.descriptor()));
-        text::Utf8Decoder decoder;
-        const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
-        *bytes = 0;
-        while (const std::size_t count =
-                   readSome(input.descriptor(), block.get(), blockSize, name)) {
-            decoder.decode({block.get(), count}, text);
-            *bytes += count;
-            progress.addRead(count);
-            if (decoder.invalidAt()) {
-                break;
-            }
+        reserve(text, reader.sizeHint());
+        while (reader.readBlock(text)) {
         }
-        decoder.finish();
-        if (decoder.invalidAt()) {
-            throw Failure(ExitStatus::ioFailed,
-                          name + ": invalid UTF-8 at byte " + std::to_string(*decoder.invalidAt()));
-        }
+        *bytes = reader.bytes();
         return text;
     } catch (const std::bad_alloc &) {
-        throw Failure(ExitStatus::ioFailed, systemMessage(name, ENOMEM));
+        throw Failure(ExitStatus::ioFailed, systemMessage(nameOf(file), ENOMEM));
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/Progress.h"
+#include "text/Utf.h"
 
 #include <cstddef>
 #include <cstdlib>
@@ -54,6 +55,34 @@ std::size_t readSome(int descriptor, char *data, std::size_t size, const std::st
 
 // Everything up to the end of the input. Throws as readSome().
 Bytes readBytes(int descriptor, const std::string &name, Progress &progress);
+
+// A text that arrives in blocks. Every function throws Failure when the file cannot be read or is
+// not well-formed UTF-8.
+class TextReader {
+  public:
+    // "-" is standard input.
+    TextReader(const std::string &file, Progress &progress);
+
+    // What the whole has, as far as that is known, in bytes and so at most in units.
+    std::size_t sizeHint() const;
+    // Appends the next block to `text`; false at the end of the text.
+    bool readBlock(std::u16string &text);
+    // Bytes read so far.
+    std::size_t bytes() const { return bytes_; }
+
+  private:
+    std::string name_;
+    Progress &progress_;
+    InputFile input_;
+    text::Utf8Decoder decoder_;
+    std::unique_ptr<char[]> block_;
+    std::size_t bytes_ = 0;
+};
+
+// Room for so many bytes or units, in large pages if it is much: that makes the first use several
+// times cheaper.
+void reserve(std::u16string &text, std::size_t units);
+void reserve(std::string &text, std::size_t bytes);
 
 // The text of a file or, for "-", of standard input. Throws Failure when it cannot be read or is
 // not well-formed UTF-8. The size in bytes goes to `*bytes`.

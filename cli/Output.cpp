@@ -24,7 +24,7 @@ constexpr std::size_t blockSize = 128 * 1024; // bytes encoded and written at a 
 // Returns 0 or an errno value.
 int writeAll(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
-        const ssize_t count = write(descriptor, bytes.data(), bytes.size());
+        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
         if (count >= 0) {
             bytes.remove_prefix(static_cast<std::size_t>(count));
         } else if (errno != EINTR) {
@@ -43,6 +43,12 @@ int writeText(int descriptor, std::u16string_view text) {
         }
     }
     return 0;
+}
+
+int write(int descriptor, const CleanText &text) {
+    const auto *bytes = std::get_if<std::string>(&text);
+    return bytes ? writeAll(descriptor, *bytes)
+                 : writeText(descriptor, std::get<std::u16string>(text));
 }
 
 void checkOutput(int error) {
@@ -130,9 +136,9 @@ void writeOutput(std::string_view bytes) {
     checkOutput(writeAll(STDOUT_FILENO, bytes));
 }
 
-void writeOutput(std::span<const std::u16string> texts) {
-    for (const std::u16string &text : texts) {
-        checkOutput(writeText(STDOUT_FILENO, text));
+void writeOutput(std::span<const CleanText> texts) {
+    for (const CleanText &text : texts) {
+        checkOutput(write(STDOUT_FILENO, text));
     }
 }
 
@@ -143,7 +149,7 @@ void closeOutput() {
     }
 }
 
-void replaceFile(const std::string &file, std::u16string_view text) {
+void replaceFile(const std::string &file, const CleanText &text) {
     const auto check = [&](int error) {
         if (error != 0) {
             throw Failure(ExitStatus::ioFailed, systemMessage(file, error));
@@ -164,7 +170,7 @@ void replaceFile(const std::string &file, std::u16string_view text) {
 
     const SignalsHeld held;
     TemporaryFile temporary(target);
-    check(writeText(temporary.descriptor(), text));
+    check(write(temporary.descriptor(), text));
     check(copyOwnerAndMode(status, temporary.descriptor()));
     // On the disk before it takes the name: a power cut must not leave an empty file.
     check(fsync(temporary.descriptor()) == 0 ? 0 : errno);

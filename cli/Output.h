@@ -4,8 +4,12 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace nerlo::cli {
+
+// A text, or the same as UTF-8.
+using CleanText = std::variant<std::u16string, std::string>;
 
 // The reader of standard output has gone away: nobody waits for the rest, so the program ends
 // without a word.
@@ -14,7 +18,7 @@ struct ClosedPipe {};
 // All of it to standard output. Throws ClosedPipe or Failure.
 void writeOutput(std::string_view bytes);
 // The texts one after another, in blocks, so that no second copy of a text is needed.
-void writeOutput(std::span<const std::u16string> texts);
+void writeOutput(std::span<const CleanText> texts);
 // Gives standard output back; some file systems tell only now that a write failed. Throws Failure.
 void closeOutput();
 
@@ -22,6 +26,6 @@ void closeOutput();
 // takes its name, so that the file holds the old text or the new one at any moment. Mode and, where
 // allowed, owner are kept; a symbolic link is followed and stays. Throws Failure, and then the file
 // is as it was.
-void replaceFile(const std::string &file, std::u16string_view text);
+void replaceFile(const std::string &file, const CleanText &text);
 
 } // namespace nerlo::cli

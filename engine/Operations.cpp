@@ -8,6 +8,7 @@
 #include "engine/Sorting.h"
 #include "engine/Whitespace.h"
 
+#include <algorithm>
 #include <charconv>
 #include <utility>
 
@@ -138,26 +139,39 @@ std::u16string findReplaceList(std::u16string text, const Context &context) {
     return replaceStringInFindReplace(std::move(text), context.options);
 }
 
+bool always(const Options &) {
+    return true;
+}
+
+bool unlessEachLineIsWrapped(const Options &options) {
+    return options.udChangeReturnsOption < 6 || options.udChangeReturnsOption > 9;
+}
+
+bool withoutWordsAndSentences(const Options &options) {
+    return options.udChangeCaseOption == 2 || options.udChangeCaseOption == 3;
+}
+
 // The replacement slots 1 to 3 and 4 to 10 stand apart for historical reasons.
 constexpr Operation table[] = {
     {0, "collapse-tabs", "sChangeMultipleTabsToSingleTab", "runs of tabs to one tab",
-     plain<removeMultipleTabs>},
+     plain<removeMultipleTabs>, always},
     {1, "remove-all-spaces", "sRemoveAllSpaces", "remove all white space and line breaks",
-     plain<removeAllSpaces>},
-    {2, "remove-tabs", "sRemoveAllTabs", "remove all tabs", plain<removeMultipleTabsToNone>},
+     plain<removeAllSpaces>, always},
+    {2, "remove-tabs", "sRemoveAllTabs", "remove all tabs", plain<removeMultipleTabsToNone>,
+     always},
     {3, "collapse-white-space", "sRemoveAllSpacesTabsAndNewLines",
      "every run of white space, line breaks included, to one space",
-     plain<removeMultipleSpacesTabsNewLines>},
+     plain<removeMultipleSpacesTabsNewLines>, always},
     {4, "change-returns", "sChangeReturnsTo", "replace runs of line breaks, or wrap every line",
-     changeReturns},
+     changeReturns, unlessEachLineIsWrapped},
     {5, "trim", "sRemoveSpacesBeforeAndAfterText", "trim white space at both ends of the text",
-     plain<removeSpacesStartAndEnd>},
-    {6, "change-case", "sChangeCaseTo", "change letter case", changeCase},
+     plain<removeSpacesStartAndEnd>, always},
+    {6, "change-case", "sChangeCaseTo", "change letter case", changeCase, withoutWordsAndSentences},
     {7, "change-quotes", "sChangeQuotes", "single quotes to double quotes, or back", changeQuotes},
     {8, "remove-single-quotes", "sRemoveSingleQuotes", "remove single quotes", removeSingles},
     {9, "remove-double-quotes", "sRemoveDoubleQuotes", "remove double quotes", removeDoubles},
     {10, "remove-reply-marks", "sRemoveReplyQuotes", "remove the > marks of mail replies",
-     plain<removeReplyQuotes>},
+     plain<removeReplyQuotes>, always},
     {11, "remove-tags", "sRemoveHTMLTags", "remove HTML tags", removeTags},
     {12, "your-pattern", "sInsertYourPattern", "delete or keep the matches of your pattern",
      applyPattern},
@@ -165,17 +179,18 @@ constexpr Operation table[] = {
     {14, "replace-2", "sChangeProperty2", "find and replace, pair 2", replaceSlot<2>},
     {15, "replace-3", "sChangeProperty3", "find and replace, pair 3", replaceSlot<3>},
     {16, "collapse-spaces", "sChangeMultipleSpacesToSingleSpace", "runs of spaces to one space",
-     plain<removeMultipleSpaces>},
-    {17, "change-tabs", "sChangeTabsAnd4Spaces", "tabs to four spaces, or back", changeTabs},
+     plain<removeMultipleSpaces>, always},
+    {17, "change-tabs", "sChangeTabsAnd4Spaces", "tabs to four spaces, or back", changeTabs,
+     always},
     {18, "remove-bullets", "sRemoveBullets", "remove list bullets", plain<removeBullets>},
     {19, "remove-space-before-dot", "sRemoveSpaceBeforeDot", "remove a space before a dot",
-     plain<removeSpaceBeforeDot>},
+     plain<removeSpaceBeforeDot>, always},
     {20, "remove-space-around-tab", "sRemoveSpaceBeforeAfterTab", "remove spaces next to tabs",
-     plain<removeSpaceBeforeAfterTab>},
+     plain<removeSpaceBeforeAfterTab>, always},
     {21, "remove-space-around-return", "sRemoveSpaceBeforeAfterReturn",
-     "remove spaces next to line breaks", plain<removeSpaceBeforeAfterReturn>},
+     "remove spaces next to line breaks", plain<removeSpaceBeforeAfterReturn>, always},
     {22, "change-ellipsis", "sChangeEllipsisAndDots", "three dots to an ellipsis, or back",
-     changeEllipsis},
+     changeEllipsis, always},
     {23, "sort-lines", "sSort", "sort lines or separated items", sort},
     {24, "remove-duplicate-lines", "sRemoveDuplicateLines", "remove repeated lines or items",
      removeRepeatedLines},
@@ -297,6 +312,19 @@ std::u16string runOperation(std::int32_t index, std::u16string text,
                             const CleaningContext &context) {
     const Operation *const operation = findOperation(index);
     return operation ? operation->run(std::move(text), context) : text;
+}
+
+std::size_t lastCut(std::u16string_view text, std::size_t from) {
+    const auto isLetter = [&](std::size_t at) {
+        return static_cast<char16_t>((text[at] | 0x20) - u'a') < 26;
+    };
+    for (std::size_t at = text.size(); at > std::max<std::size_t>(from, 1) + 1;) {
+        --at;
+        if (isLetter(at) && isLetter(at - 1)) {
+            return at;
+        }
+    }
+    return 0;
 }
 
 std::u16string runPipeline(std::u16string text, const CleaningContext &context) {

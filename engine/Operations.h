@@ -6,6 +6,7 @@
 
 #include "engine/CleaningOptions.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -29,6 +30,9 @@ struct Operation {
     std::string_view hotKey;  // settings key of the global shortcut, also the key of its title
     std::string_view summary; // one English line for listings
     std::u16string (*run)(std::u16string text, const CleaningContext &context);
+    // Whether a text may be cut wherever lastCut() says, each piece run alone and the results
+    // joined; null for never.
+    bool (*inPieces)(const CleaningOptions &options) = nullptr;
 };
 
 // Rows 0 to 37, each at its index. The row of the statistics operation returns its text unchanged.
@@ -44,6 +48,10 @@ const Operation *findOperation(std::string_view nameOrIndex);
 // One operation, whether or not its switch is on; an index outside the table changes nothing.
 std::u16string runOperation(std::int32_t index, std::u16string text,
                             const CleaningContext &context);
+
+// The last place, beyond `from`, at which a text may be cut for operations that run in pieces:
+// between two ASCII letters. 0 where there is none.
+std::size_t lastCut(std::u16string_view text, std::size_t from = 0);
 
 // Every operation whose switch is on, in the fixed order.
 std::u16string runPipeline(std::u16string text, const CleaningContext &context);

@@ -141,6 +141,31 @@ TEST(RandomTexts, GiveTheSameThroughTagRemoval) {
     compareOperations({10, 11}, reference::tagTokens(), 6);
 }
 
+TEST(RandomTexts, GiveTheSameInPieces) {
+    repeat(9, [](Random &random) {
+        const CleaningOptions options = random.options();
+        const CleaningContext context{options, random.locale()};
+        const std::u16string text =
+            random.text(random.oneIn(3) ? reference::quoteTokens() : reference::plainTokens());
+        for (const engine::Operation &operation : engine::operations()) {
+            if (!operation.inPieces || !operation.inPieces(options)) {
+                continue;
+            }
+            std::u16string joined;
+            std::u16string_view rest = text;
+            while (!rest.empty()) {
+                const std::size_t cut =
+                    engine::lastCut(rest.substr(0, random.below(rest.size()) + 1));
+                const std::size_t length = cut == 0 ? rest.size() : cut;
+                joined += operation.run(std::u16string(rest.substr(0, length)), context);
+                rest.remove_prefix(length);
+            }
+            ASSERT_EQ(escaped(joined), escaped(operation.run(text, context)))
+                << "operation " << operation.index << " on \"" << escaped(text) << "\"";
+        }
+    });
+}
+
 TEST(RandomTexts, HaveTheSameCounts) {
     repeat(7, [](Random &random) {
         const std::u16string text = random.text(reference::plainTokens());
