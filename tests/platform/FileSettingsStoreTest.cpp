@@ -186,14 +186,18 @@ TEST(FileSettingsStore, FailedWriteIsReportedAndGoesWithTheNext) {
         const std::string before = bytesOf(path);
         FaultyFileCalls faulty(Fault::Error, at);
         FileSettingsStore store(path, nullptr, faulty);
+        std::vector<std::string> told;
+        store.setErrorHandler([&](const std::string &error) { told.push_back(error); });
         store.set("a", at);
         if (!store.synchronize()) {
             ++failures;
             EXPECT_FALSE(store.error().empty());
+            EXPECT_EQ(told, std::vector{store.error()});
             if (folder.count("defaults.plist.unreadable-") == 0) {
                 EXPECT_EQ(bytesOf(path), before) << at;
             }
             EXPECT_TRUE(store.synchronize()) << at;
+            EXPECT_EQ(told.back(), "") << "over";
         }
         EXPECT_EQ(FileSettingsStore(path).integerForKey("a"), at);
         EXPECT_EQ(folder.count(".defaults.plist."), 0);

@@ -115,7 +115,8 @@ struct Requests {
     }
 };
 
-FakeCompositor::FakeCompositor(const wl_interface *manager, int seats)
+FakeCompositor::FakeCompositor(const wl_interface *manager, int seats,
+                               const std::function<void(wl_display *)> &more)
     : managerInterface_(manager) {
     std::array<char, 64> name{};
     std::strcpy(name.data(), "/tmp/nerlo-compositor.XXXXXX");
@@ -137,6 +138,9 @@ FakeCompositor::FakeCompositor(const wl_interface *manager, int seats)
     }
     if (manager) {
         wl_global_create(server_, manager, 1, this, Requests::bindManager);
+    }
+    if (more) {
+        more(server_);
     }
     wake_ = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     thread_ = std::thread([this] { serve(); });

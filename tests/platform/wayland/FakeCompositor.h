@@ -24,8 +24,9 @@ class FakeCompositor {
     // later.
     using Owner = std::function<void(const std::string &format, int fd)>;
 
-    // The managers' protocol, null for none.
-    explicit FakeCompositor(const wl_interface *manager, int seats = 1);
+    // The managers' protocol, null for none. `more` may add to what it offers.
+    explicit FakeCompositor(const wl_interface *manager, int seats = 1,
+                            const std::function<void(wl_display *)> &more = {});
     ~FakeCompositor();
 
     // The path of the socket.
