@@ -8,7 +8,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 namespace nerlo::shell {
 
@@ -21,10 +23,49 @@ void describe(QWidget &widget, const char *name, const char *nameKey, const char
     widget.setToolTip(plainTooltip(localized(tipKey)));
 }
 
+constexpr int replacementRole = Qt::UserRole;
+
+// What is sought in the first half of the row, and behind an arrow what takes its place.
+class RuleDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &given,
+               const QModelIndex &index) const override {
+        QStyleOptionViewItem option = given;
+        initStyleOption(&option, index);
+        QRect half = option.rect;
+        half.setLeft(half.center().x());
+        const QString replacement = index.data(replacementRole).toString();
+        if (!replacement.isEmpty()) {
+            constexpr int boxAndMargins = 32;
+            option.text = option.fontMetrics.elidedText(option.text, Qt::ElideRight,
+                                                        half.width() - boxAndMargins);
+        }
+        const QStyle &style = *option.widget->style();
+        style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+        if (replacement.isEmpty()) {
+            return;
+        }
+        const bool mirrored = option.direction == Qt::RightToLeft;
+        const QString text = (mirrored ? QStringLiteral("\u2190 ") : QStringLiteral("\u2192 ")) +
+                             QString(replacement).replace('\n', ' ');
+        const QRect place = QStyle::visualRect(option.direction, option.rect, half);
+        const bool selected = option.state & QStyle::State_Selected;
+        style.drawItemText(painter, place,
+                           int(QStyle::visualAlignment(option.direction, Qt::AlignLeft)) |
+                               Qt::AlignVCenter,
+                           option.palette, option.state & QStyle::State_Enabled,
+                           option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()),
+                           selected ? QPalette::HighlightedText : QPalette::Text);
+    }
+};
+
 } // namespace
 
 RuleList::RuleList(QWidget *parent)
     : QListWidget(parent) {
+    setItemDelegate(new RuleDelegate(this));
     setDragDropMode(QAbstractItemView::InternalMove);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
@@ -131,6 +172,10 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
     });
     connect(replaceTextField, &QLineEdit::textEdited, this, [this](const QString &text) {
         preferences_.controlTextDidChangeReplace(text.toStdU16String());
+        if (auto *item = findTableView->currentItem()) {
+            const QScopedValueRollback loading(loading_, true);
+            item->setData(replacementRole, text);
+        }
         replaceTextField->setPlaceholderText(
             QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
         emit edited();
@@ -187,6 +232,8 @@ void FindReplaceTable::reload() {
 void FindReplaceTable::addItem(const platform::PropertyValue &rule) {
     auto *item = new QListWidgetItem(
         QString::fromStdU16String(settings::FindReplaceList::textOf(rule, "find")));
+    item->setData(replacementRole,
+                  QString::fromStdU16String(settings::FindReplaceList::textOf(rule, "replace")));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable |
                    Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
     item->setCheckState(settings::FindReplaceList::isOn(rule) ? Qt::Checked : Qt::Unchecked);

@@ -49,8 +49,11 @@ void PageDots::paintEvent(QPaintEvent *) {
         const int place = isRightToLeft() ? count_ - 1 - page : page;
         QRectF dot(0, 0, dotSize, dotSize);
         dot.moveCenter(QPointF((place + 0.5) * width() / count_, height() / 2.0));
-        painter.setPen(palette().color(QPalette::Mid));
-        painter.setBrush(palette().color(page == current_ ? QPalette::Highlight : QPalette::Base));
+        // Of the text's colour, to be seen on light and dark alike.
+        QColor other = palette().color(QPalette::WindowText);
+        other.setAlphaF(0.3F);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(page == current_ ? palette().color(QPalette::Highlight) : other);
         painter.drawEllipse(dot);
     }
 }

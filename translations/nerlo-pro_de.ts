@@ -1011,9 +1011,9 @@ Nachher: 1#2#</translation>
     <message>
         <source>sPreviewSample</source>
         <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
-        <translation>Liebe  Leserin ,
+        <translation>Liebe  Leserin .
 
-&gt;  diese Zeile wurde
+&gt;  Diese Zeile wurde
 &gt;  mittendrin umbrochen.
 
 •  &apos;Milch&apos;

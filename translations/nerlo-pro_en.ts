@@ -1011,7 +1011,7 @@ After: 1#2#</translation>
     <message>
         <source>sPreviewSample</source>
         <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
-        <translation>Dear  reader ,
+        <translation>Dear  reader .
 
 &gt;  This line was
 &gt;  broken in the middle.
