@@ -1,6 +1,7 @@
 #include "text/Distinct.h"
 
-#include <bit>
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <random>
@@ -54,11 +55,15 @@ std::vector<std::u16string_view> distinct(const std::vector<std::u16string_view>
         std::uint64_t hash = 0;
         std::uint64_t result = 0; // its place in the result, counted from 1; 0 is free
     };
+    // A look into the table, at the text found there and at its units misses the cache each time,
+    // so that many are under way together.
+    constexpr std::size_t together = 16;
     static const Hash hash;
     std::vector<std::u16string_view> result;
-    std::vector<Slot> slots(64);
-    for (const std::u16string_view text : texts) {
-        if (result.size() * 2 >= slots.size()) {
+    std::vector<Slot> slots(256);
+    for (std::size_t begin = 0; begin < texts.size(); begin += together) {
+        const std::size_t count = std::min(together, texts.size() - begin);
+        if ((result.size() + count) * 2 > slots.size()) {
             std::vector<Slot> larger(slots.size() * 4);
             for (const Slot &slot : slots) {
                 if (slot.result != 0) {
@@ -71,15 +76,35 @@ std::vector<std::u16string_view> distinct(const std::vector<std::u16string_view>
             }
             slots.swap(larger);
         }
-        const std::uint64_t code = hash(text);
-        std::size_t at = code & (slots.size() - 1);
-        while (slots[at].result != 0 &&
-               (slots[at].hash != code || result[slots[at].result - 1] != text)) {
-            at = (at + 1) & (slots.size() - 1);
+        std::array<std::uint64_t, together> codes;
+        const auto home = [&](std::size_t i) -> Slot & {
+            return slots[codes[i] & (slots.size() - 1)];
+        };
+        for (std::size_t i = 0; i < count; ++i) {
+            codes[i] = hash(texts[begin + i]);
+            __builtin_prefetch(&home(i));
         }
-        if (slots[at].result == 0) {
-            result.push_back(text);
-            slots[at] = {code, result.size()};
+        for (std::size_t i = 0; i < count; ++i) {
+            if (home(i).hash == codes[i] && home(i).result != 0) {
+                __builtin_prefetch(result.data() + home(i).result - 1);
+            }
+        }
+        for (std::size_t i = 0; i < count; ++i) {
+            if (home(i).hash == codes[i] && home(i).result != 0) {
+                __builtin_prefetch(result[home(i).result - 1].data());
+            }
+        }
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::u16string_view text = texts[begin + i];
+            std::size_t at = codes[i] & (slots.size() - 1);
+            while (slots[at].result != 0 &&
+                   (slots[at].hash != codes[i] || result[slots[at].result - 1] != text)) {
+                at = (at + 1) & (slots.size() - 1);
+            }
+            if (slots[at].result == 0) {
+                result.push_back(text);
+                slots[at] = {codes[i], result.size()};
+            }
         }
     }
     return result;

@@ -77,7 +77,7 @@ std::size_t findUnit(std::u16string_view text, std::size_t from, char16_t unit) 
     return text.size();
 }
 
-std::size_t countUnits(std::u16string_view text, const UnitSet &set) {
+NERLO_CLONES std::size_t countUnits(std::u16string_view text, const UnitSet &set) {
     std::size_t count = 0;
     std::size_t at = 0;
     for (; at + scanBlock <= text.size(); at += scanBlock) {

@@ -27,12 +27,12 @@ bool isDictionaryScript(UChar32 character) {
 }
 
 WordClass classify(char16_t unit) {
-    // What ICU's rules do with "@", the ideographic closing mark and the colons is not in their
+    // What ICU's rules do with the ideographic closing mark and the colons is not in their
     // properties.
-    if (unit == u'@' || unit == u'\u3006' || isDictionaryScript(unit)) {
+    if (unit == u'\u3006' || isDictionaryScript(unit)) {
         return WordClass::Ask;
     }
-    if (unit == u':' || unit == u'\uFE55' || unit == u'\uFF1A') {
+    if (unit == u'\uFE55' || unit == u'\uFF1A') {
         return WordClass::Break;
     }
     switch (u_getIntPropertyValue(unit, UCHAR_WORD_BREAK)) {
@@ -61,7 +61,7 @@ WordClass classify(char16_t unit) {
 
 } // namespace
 
-WordClass wordClass(char16_t unit) {
+WordClass wordClassBeyondAscii(char16_t unit) {
     static UnitPages<WordClass, classify> classes;
     return classes[unit];
 }

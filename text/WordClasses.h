@@ -1,6 +1,7 @@
 // How a code unit takes part in words, as far as that can be told from the unit alone.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -16,8 +17,28 @@ enum class WordClass : std::uint8_t {
     Ask,       // marks, scripts without spaces and all that needs the whole of the rules
 };
 
+// By the root's word rules, of the units that are not ASCII.
+WordClass wordClassBeyondAscii(char16_t unit);
+
+inline constexpr auto asciiWordClasses = [] {
+    std::array<WordClass, 0x80> classes{};
+    const auto set = [&](std::string_view units, WordClass as) {
+        for (const char unit : units) {
+            classes[static_cast<unsigned char>(unit)] = as;
+        }
+    };
+    set("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ", WordClass::Letter);
+    set("0123456789", WordClass::Digit);
+    set(",;", WordClass::MidDigit);
+    set(".'", WordClass::MidBoth);
+    set("_@", WordClass::Ask);
+    return classes;
+}();
+
 // By the root's word rules.
-WordClass wordClass(char16_t unit);
+inline WordClass wordClass(char16_t unit) {
+    return unit < 0x80 ? asciiWordClasses[unit] : wordClassBeyondAscii(unit);
+}
 
 // What each of 64 units is, one bit a unit; what is in none of the masks breaks words.
 struct AsciiWordBits {
