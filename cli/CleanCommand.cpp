@@ -10,7 +10,6 @@
 #include <CLI/Formatter.hpp>
 
 #include <memory>
-#include <new>
 #include <utility>
 
 namespace nerlo::cli {
@@ -51,43 +50,30 @@ void checkInPlace(const CleanArguments &arguments) {
 
 // Reads, cleans and encodes while a block is in the cache, and keeps the result: nothing may be
 // written before the last byte is known to be good.
-std::string cleanInPieces(const std::string &file, Progress &progress,
-                          const engine::Operation &operation,
-                          const engine::CleaningContext &context, std::size_t *bytes) {
-    try {
-        TextReader reader(file, progress);
-        std::string clean;
-        reserve(clean, reader.sizeHint());
-        std::u16string piece;
-        std::size_t searched = 0;
-        while (reader.readBlock(piece)) {
-            const std::size_t cut = engine::lastCut(piece, searched);
-            searched = piece.size();
-            if (cut != 0) {
-                std::u16string rest = piece.substr(cut);
-                piece.resize(cut);
-                piece = operation.run(std::move(piece), context);
-                text::appendUtf8(clean, piece);
-                piece.assign(rest);
-                searched = 0;
-            }
-        }
-        text::appendUtf8(clean, operation.run(std::move(piece), context));
-        *bytes = reader.bytes();
-        return clean;
-    } catch (const std::bad_alloc &) {
-        throw Failure(ExitStatus::ioFailed, systemMessage(nameOf(file), ENOMEM));
-    }
+std::string cleanPieces(TextReader &reader, const engine::Operation &operation,
+                        const engine::CleaningContext &context) {
+    std::string clean;
+    reserve(clean, reader.sizeHint());
+    reader.readPieces(engine::lastCut, [&](std::u16string &piece) {
+        piece = operation.run(std::move(piece), context);
+        text::appendUtf8(clean, piece);
+    });
+    return clean;
 }
 
-CleanText cleanText(const std::string &file, Progress &progress, const engine::Operation *operation,
-                    const engine::CleaningContext &context, std::size_t *bytes) {
+CleanText cleanFile(const std::string &file, Progress &progress, const engine::Operation *operation,
+                    const engine::CleaningContext &context) {
+    TextReader reader(file, progress);
+    CleanText clean;
     if (operation && operation->inPieces && operation->inPieces(context.options)) {
-        return cleanInPieces(file, progress, *operation, context, bytes);
+        clean = cleanPieces(reader, *operation, context);
+    } else {
+        std::u16string text = reader.readAll();
+        clean = operation ? operation->run(std::move(text), context)
+                          : engine::runPipeline(std::move(text), context);
     }
-    std::u16string text = readText(file, progress, bytes);
-    return operation ? operation->run(std::move(text), context)
-                     : engine::runPipeline(std::move(text), context);
+    progress.addDone(reader.bytes());
+    return clean;
 }
 
 ExitStatus runClean(const CleanArguments &arguments) {
@@ -105,9 +91,7 @@ ExitStatus runClean(const CleanArguments &arguments) {
     Progress progress;
     for (const std::string &file : files) {
         try {
-            std::size_t bytes = 0;
-            CleanText text = cleanText(file, progress, operation, context, &bytes);
-            progress.addDone(bytes);
+            CleanText text = cleanFile(file, progress, operation, context);
             if (arguments.inPlace) {
                 replaceFile(file, text);
             } else {

@@ -74,6 +74,16 @@ std::string jsonLine(const TextStatistics &counts, const std::string &file) {
     return object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
 }
 
+TextStatistics countFile(const std::string &file, const std::string &locale, Progress &progress) {
+    TextReader reader(file, progress);
+    TextStatistics counts;
+    reader.readPieces(engine::lastCountingCut, [&](const std::u16string &piece) {
+        counts += engine::countAll(piece, locale);
+    });
+    progress.addDone(reader.bytes());
+    return counts;
+}
+
 ExitStatus runCount(const CountArguments &arguments) {
     const bool named = !arguments.files.empty();
     const std::vector<std::string> files = named ? arguments.files : std::vector<std::string>{"-"};
@@ -83,15 +93,10 @@ ExitStatus runCount(const CountArguments &arguments) {
     Progress progress;
     for (const std::string &file : files) {
         try {
-            std::size_t bytes = 0;
-            const std::u16string text = readText(file, progress, &bytes);
-            const TextStatistics counts = engine::countAll(text, arguments.locale);
-            progress.addDone(bytes);
+            const TextStatistics counts = countFile(file, arguments.locale, progress);
             const std::string shown = named ? file : "";
             output += arguments.json ? jsonLine(counts, shown) : row(counts, shown);
-            for (const Column &column : columns) {
-                total.*column.count += counts.*column.count;
-            }
+            total += counts;
         } catch (const Failure &failure) {
             progress.stop();
             report(failure.what());

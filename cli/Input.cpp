@@ -34,7 +34,11 @@ template <class String>
 void reserveIn(String &text, std::size_t size) {
     constexpr std::size_t slack = 64; // a few more, which a step may need on the way
     constexpr std::size_t large = 4 << 20;
-    text.reserve(size + slack);
+    try {
+        text.reserve(size + slack);
+    } catch (const std::exception &) {
+        return; // a file may say that it has any size
+    }
     const std::size_t bytes = text.capacity() * sizeof(typename String::value_type);
     if (bytes >= large) {
         const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
@@ -126,7 +130,11 @@ bool TextReader::readBlock(std::u16string &text) {
     if (count == 0) {
         decoder_.finish();
     } else {
-        decoder_.decode({block_.get(), count}, text);
+        try {
+            decoder_.decode({block_.get(), count}, text);
+        } catch (const std::bad_alloc &) {
+            throw Failure(ExitStatus::ioFailed, systemMessage(name_, ENOMEM));
+        }
         bytes_ += count;
         progress_.addRead(count);
     }
@@ -137,26 +145,33 @@ bool TextReader::readBlock(std::u16string &text) {
     return count != 0;
 }
 
-void reserve(std::u16string &text, std::size_t units) {
-    reserveIn(text, units);
+void TextReader::readPieces(
+    const std::function<std::size_t(std::u16string_view, std::size_t)> &lastCut,
+    const std::function<void(std::u16string &piece)> &take) {
+    std::u16string piece;
+    std::size_t searched = 0;
+    while (readBlock(piece)) {
+        if (const std::size_t cut = lastCut(piece, searched)) {
+            const std::u16string rest = piece.substr(cut);
+            piece.resize(cut);
+            take(piece);
+            piece.assign(rest);
+        }
+        searched = piece.size();
+    }
+    take(piece);
+}
+
+std::u16string TextReader::readAll() {
+    std::u16string text;
+    reserveIn(text, sizeHint());
+    while (readBlock(text)) {
+    }
+    return text;
 }
 
 void reserve(std::string &text, std::size_t bytes) {
     reserveIn(text, bytes);
-}
-
-std::u16string readText(const std::string &file, Progress &progress, std::size_t *bytes) {
-    try {
-        TextReader reader(file, progress);
-        std::u16string text;
-        reserve(text, reader.sizeHint());
-        while (reader.readBlock(text)) {
-        }
-        *bytes = reader.bytes();
-        return text;
-    } catch (const std::bad_alloc &) {
-        throw Failure(ExitStatus::ioFailed, systemMessage(nameOf(file), ENOMEM));
-    }
 }
 
 } // namespace nerlo::cli

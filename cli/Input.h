@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -65,12 +66,20 @@ class TextReader {
 
     // What the whole has, as far as that is known, in bytes and so at most in units.
     std::size_t sizeHint() const;
-    // Appends the next block to `text`; false at the end of the text.
-    bool readBlock(std::u16string &text);
+    // The whole text.
+    std::u16string readAll();
+    // The text in pieces, of which only one is in memory at a time. `lastCut` finds the last place,
+    // at or beyond its second argument, at which a piece may end, and returns 0 where there is
+    // none; `take` may leave anything in the piece.
+    void readPieces(const std::function<std::size_t(std::u16string_view, std::size_t)> &lastCut,
+                    const std::function<void(std::u16string &piece)> &take);
     // Bytes read so far.
     std::size_t bytes() const { return bytes_; }
 
   private:
+    // Appends the next block to `text`; false at the end of the text.
+    bool readBlock(std::u16string &text);
+
     std::string name_;
     Progress &progress_;
     InputFile input_;
@@ -79,13 +88,8 @@ class TextReader {
     std::size_t bytes_ = 0;
 };
 
-// Room for so many bytes or units, in large pages if it is much: that makes the first use several
+// Room for so many bytes, in large pages if it is much: that makes the first use several
 // times cheaper.
-void reserve(std::u16string &text, std::size_t units);
 void reserve(std::string &text, std::size_t bytes);
-
-// The text of a file or, for "-", of standard input. Throws Failure when it cannot be read or is
-// not well-formed UTF-8. The size in bytes goes to `*bytes`.
-std::u16string readText(const std::string &file, Progress &progress, std::size_t *bytes);
 
 } // namespace nerlo::cli

@@ -318,8 +318,7 @@ std::size_t lastCut(std::u16string_view text, std::size_t from) {
     const auto isLetter = [&](std::size_t at) {
         return static_cast<char16_t>((text[at] | 0x20) - u'a') < 26;
     };
-    for (std::size_t at = text.size(); at > std::max<std::size_t>(from, 1) + 1;) {
-        --at;
+    for (std::size_t at = text.size(); at-- > std::max<std::size_t>(from, 1);) {
         if (isLetter(at) && isLetter(at - 1)) {
             return at;
         }

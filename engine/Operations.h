@@ -51,7 +51,7 @@ std::u16string runOperation(std::int32_t index, std::u16string text,
 
 // The last place, beyond `from`, at which a text may be cut for operations that run in pieces:
 // between two ASCII letters. 0 where there is none.
-std::size_t lastCut(std::u16string_view text, std::size_t from = 0);
+std::size_t lastCut(std::u16string_view text, std::size_t from);
 
 // Every operation whose switch is on, in the fixed order.
 std::u16string runPipeline(std::u16string text, const CleaningContext &context);

@@ -13,6 +13,14 @@ constexpr text::UnitSet lineBreaks(u"\r\n");
 
 } // namespace
 
+TextStatistics &TextStatistics::operator+=(const TextStatistics &other) {
+    characters += other.characters;
+    spaces += other.spaces;
+    words += other.words;
+    paragraphs += other.paragraphs;
+    return *this;
+}
+
 std::uint64_t countCharacters(std::u16string_view text) {
     return text.size();
 }
@@ -41,6 +49,11 @@ std::uint64_t countParagraphs(std::u16string_view text) {
 TextStatistics countAll(std::u16string_view text, const std::string &locale) {
     return {countCharacters(text), countSpaces(text), countWords(text, locale),
             countParagraphs(text)};
+}
+
+std::size_t lastCountingCut(std::u16string_view text, std::size_t from) {
+    const std::size_t at = text.substr(from).rfind(u'\n');
+    return at == std::u16string_view::npos ? 0 : from + at + 1;
 }
 
 std::u16string integerToString(std::uint64_t count, const std::string &locale) {

@@ -1,6 +1,7 @@
 // The four counts of a text.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -12,6 +13,8 @@ struct TextStatistics {
     std::uint64_t spaces = 0;     // U+0020 and U+00A0
     std::uint64_t words = 0;
     std::uint64_t paragraphs = 0;
+
+    TextStatistics &operator+=(const TextStatistics &other);
     bool operator==(const TextStatistics &) const = default;
 };
 
@@ -23,6 +26,10 @@ std::uint64_t countWords(std::u16string_view text, const std::string &locale);
 std::uint64_t countParagraphs(std::u16string_view text);
 
 TextStatistics countAll(std::u16string_view text, const std::string &locale);
+
+// The last place, at or beyond `from`, at which a text may be cut so that the counts of the pieces
+// add up to those of the whole: after a LF. 0 where there is none.
+std::size_t lastCountingCut(std::u16string_view text, std::size_t from);
 
 // Decimal digits, grouped by `locale`'s conventions.
 std::u16string integerToString(std::uint64_t count, const std::string &locale);

@@ -155,7 +155,7 @@ TEST(RandomTexts, GiveTheSameInPieces) {
             std::u16string_view rest = text;
             while (!rest.empty()) {
                 const std::size_t cut =
-                    engine::lastCut(rest.substr(0, random.below(rest.size()) + 1));
+                    engine::lastCut(rest.substr(0, random.below(rest.size()) + 1), 0);
                 const std::size_t length = cut == 0 ? rest.size() : cut;
                 joined += operation.run(std::u16string(rest.substr(0, length)), context);
                 rest.remove_prefix(length);
@@ -177,6 +177,12 @@ TEST(RandomTexts, HaveTheSameCounts) {
         ASSERT_TRUE(actual == same)
             << escaped(text) << ": words " << actual.words << " for " << same.words
             << ", paragraphs " << actual.paragraphs << " for " << same.paragraphs;
+        const std::u16string_view whole = text;
+        const std::size_t cut =
+            engine::lastCountingCut(whole.substr(0, random.below(whole.size() + 1)), 0);
+        engine::TextStatistics sum = engine::countAll(whole.substr(0, cut), locale);
+        sum += engine::countAll(whole.substr(cut), locale);
+        ASSERT_TRUE(sum == same) << escaped(text) << " cut at " << cut;
     });
 }
 
