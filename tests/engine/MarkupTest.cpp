@@ -1,4 +1,5 @@
 #include "engine/Markup.h"
+#include "engine/FindReplace.h"
 #include "tests/engine/Rows.h"
 
 namespace nerlo::engine {
@@ -41,6 +42,16 @@ TEST(Markup, RemovesTagsByTheirPattern) {
                 {"a Kelvin sign folds to k", u"<\u212A>x", u"x"},
                 {"the split marker puts the turns out", u"a%%%%%%SPLIT-ME%%%%%%b<i>c", u"ab"}},
                [](const std::u16string &text) { return removeHTMLTags(text, true); });
+}
+
+TEST(Markup, SplitsAtTags) {
+    using Pieces = std::vector<std::u16string>;
+    const auto pieces = [](std::u16string_view text) {
+        return splitByMatchesInString(text, findTags(text));
+    };
+    EXPECT_EQ(pieces(u"a<b>c"), (Pieces{u"a", u"<b>", u"c"}));
+    EXPECT_EQ(pieces(u"<b>"), (Pieces{u"", u"<b>", u""}));
+    EXPECT_EQ(pieces(u"a"), Pieces{u"a"});
 }
 
 // Each of these took a backtracking matcher minutes, or its stack.
