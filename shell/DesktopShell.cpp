@@ -143,9 +143,9 @@ void DesktopShell::updateHotKeys() {
         const auto status = parts_.hotKeys.status(key);
         QString problem;
         if (status.state == platform::HotKeyState::refused) {
-            const QString reason = localized(Table::shortcut, status.text);
-            problem = localized("sShortcutRefused") + '\n' + reason;
-            refused.push_back(localized(key) + ": " + reason);
+            problem = status.text.empty() ? localized("sShortcutRefused")
+                                          : localized(Table::shortcut, status.text);
+            refused.push_back(localized(key) + ": " + problem);
         }
         if (window) {
             window->setHotKeyProblem(key, problem);
