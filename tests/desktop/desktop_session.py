@@ -55,8 +55,6 @@ def output_of(*command, text=None, seconds=30):
 
 
 class X11Desktop:
-    shows_place = True
-
     def close(self):
         pass
 
@@ -104,11 +102,10 @@ class X11Desktop:
 class WaylandDesktop:
     """sway, with a keyboard and a pointer of our own: its protocol needs no more than this."""
 
-    shows_place = False
     KEYMAP = ('xkb_keymap { xkb_keycodes { include "evdev+aliases(qwerty)" }; '
               'xkb_types { include "complete" }; xkb_compat { include "complete" }; '
               'xkb_symbols { include "pc+us+inet(evdev)" }; };\0').encode()
-    CODES = {"Escape": 1, "Return": 28, "ctrl": 29, "shift": 42, "alt": 56, "space": 57,
+    CODES = {"Escape": 1, "9": 10, "0": 11, "Return": 28, "ctrl": 29, "shift": 42, "alt": 56, "space": 57,
              "Down": 108, "Delete": 111, "super": 125}
     CODES |= {letter: first + place
               for first, row in ((16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm"))
@@ -246,7 +243,7 @@ def desktop():
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 REGISTRY = "org.a11y.atspi.Registry"
-CHECK_BOX, LIST_ITEM, BUTTON, TEXT = 7, 32, 43, 61
+CHECK_BOX, LIST_ITEM, BUTTON, SPIN_BUTTON, TEXT = 7, 32, 43, 52, 61
 CHECKED, SHOWING = 4, 25
 
 
