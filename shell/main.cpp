@@ -305,10 +305,10 @@ int main(int argc, char **argv) {
     commands.activate = [&] { delegate.applicationShouldHandleReopen(windows.hasVisibleWindow()); };
     commands.preferences = [&] { delegate.showPreferences(); };
     commands.profile = [&](const std::string &wanted) {
+        preferences.savePending(); // which may take over profiles of other processes
         const auto &items = preferences.profilesItems();
         const auto *item = settings::findProfile(items, wanted);
         if (item) {
-            preferences.savePending();
             preferences.profilesSelect(static_cast<int>(item - items.data()));
         }
         return item != nullptr;
