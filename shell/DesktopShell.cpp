@@ -48,11 +48,7 @@ DesktopShell::DesktopShell(Parts parts)
             delegate_->showPreferences();
         }
     });
-    cleanShortcut_ = parts_.store.observe(cleanHotKeyName, [this] {
-        const auto shortcut = shortcuts::storedShortcut(parts_.store, cleanHotKeyName);
-        menu_->setCleanShortcut(shortcut ? keySequence(*shortcut, parts_.shortcutTexts)
-                                         : QKeySequence());
-    });
+    cleanShortcut_ = parts_.store.observe(cleanHotKeyName, [this] { updateCleanShortcut(); });
     hotKeyStatus_ = parts_.hotKeys.observeStatus([this] { updateHotKeys(); });
     connectPreferences();
 }
@@ -137,7 +133,14 @@ void DesktopShell::updateProfiles() {
     }
 }
 
+void DesktopShell::updateCleanShortcut() {
+    const auto shortcut = shortcuts::storedShortcut(parts_.store, cleanHotKeyName);
+    menu_->setCleanShortcut(shortcut ? keySequence(*shortcut, parts_.shortcutTexts)
+                                     : QKeySequence());
+}
+
 void DesktopShell::updateHotKeys() {
+    updateCleanShortcut(); // a new keyboard layout names its key anew
     QStringList refused;
     const auto update = [&](std::string_view key) {
         const auto status = parts_.hotKeys.status(key);

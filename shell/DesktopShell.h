@@ -80,6 +80,7 @@ class DesktopShell final : public ShellWindows {
     void makePreferencesWindow();
     void connectPreferences();
     void updateProfiles();
+    void updateCleanShortcut();
     void updateHotKeys();
     void updateNotice();
     void restore();

@@ -82,6 +82,7 @@ PreviewPane::PreviewPane(PreviewParts parts)
     , apply_(new QPushButton(localized("sPreviewApply"))) {
     setObjectName("preview");
     setAccessibleName(localized("sPreview"));
+    setAccessibleDescription(localized("sPreviewTip"));
     before_->setPlaceholderText(localized("sPreviewPlaceholder"));
     before_->setPlainText(localized("sPreviewSample"));
     after_->setReadOnly(true);

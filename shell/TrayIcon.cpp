@@ -30,6 +30,13 @@ QString stateName(TrayState state) {
     return QStringLiteral("idle");
 }
 
+// Whether the panel gives a symbolic icon its own colour. Others show it as it is, which on a dark
+// bar is nothing at all.
+bool panelColoursIcons() {
+    const auto desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':');
+    return desktops.contains("KDE") || desktops.contains("GNOME");
+}
+
 } // namespace
 
 TrayIcon::TrayIcon(QMenu &menu)
@@ -120,15 +127,17 @@ void TrayIcon::setState(TrayState state) {
 }
 
 QIcon TrayIcon::iconOf(TrayState state) {
-    // An icon of the theme is coloured by the panel. Without it, panels mostly are as dark as the
-    // windows.
+    if (const auto name = "org.nerlo.NerloPro-" + stateName(state) + "-symbolic";
+        panelColoursIcons() && QIcon::hasThemeIcon(name)) {
+        return QIcon::fromTheme(name);
+    }
+    // Panels mostly are as dark as the windows.
     const bool dark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
     QString name = QStringLiteral(":/icons/logo-menubar");
     if (state != TrayState::idle) {
         name += '-' + stateName(state);
     }
-    const QIcon drawn(name + (dark ? "-white.svg" : ".svg"));
-    return QIcon::fromTheme("org.nerlo.NerloPro-" + stateName(state) + "-symbolic", drawn);
+    return QIcon(name + (dark ? "-white.svg" : ".svg"));
 }
 
 QString TrayIcon::tooltipOf(TrayState state) {

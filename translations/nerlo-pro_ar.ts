@@ -824,10 +824,6 @@
         <translation>تُطبَّق القواعد من الأعلى إلى الأسفل. اسحب قاعدة، أو اضغط Alt+أعلى وAlt+أسفل، لنقلها.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>ابحث عن</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>استبدل بـ</translation>
     </message>

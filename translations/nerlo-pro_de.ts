@@ -824,10 +824,6 @@ Nachher: Alle Profile teilen sich eine Liste.</translation>
         <translation>Die Regeln werden von oben nach unten angewandt. Ziehen Sie eine Regel oder drücken Sie Alt+Auf und Alt+Ab, um sie zu verschieben.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Suchen nach</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Ersetzen durch</translation>
     </message>

@@ -824,10 +824,6 @@
         <translation>Οι κανόνες εφαρμόζονται από πάνω προς τα κάτω. Σύρετε έναν κανόνα ή πατήστε Alt+Πάνω και Alt+Κάτω για να τον μετακινήσετε.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Εύρεση</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Αντικατάσταση με</translation>
     </message>

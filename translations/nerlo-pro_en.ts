@@ -824,10 +824,6 @@ After: all profiles share one list.</translation>
         <translation>The rules are applied from top to bottom. Drag a rule, or press Alt+Up and Alt+Down, to move it.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Find</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Replace with</translation>
     </message>

@@ -824,10 +824,6 @@ Después: todos los perfiles comparten una lista.</translation>
         <translation>Las reglas se aplican de arriba abajo. Arrastre una regla, o pulse Alt+Arriba y Alt+Abajo, para moverla.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Buscar</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Reemplazar por</translation>
     </message>

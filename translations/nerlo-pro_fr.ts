@@ -824,10 +824,6 @@ Après : tous les profils partagent une liste.</translation>
         <translation>Les règles s’appliquent de haut en bas. Faites glisser une règle, ou appuyez sur Alt+Haut et Alt+Bas, pour la déplacer.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Rechercher</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Remplacer par</translation>
     </message>

@@ -824,10 +824,6 @@ Dopo: tutti i profili condividono un elenco.</translation>
         <translation>Le regole si applicano dall’alto in basso. Trascini una regola, o prema Alt+Su e Alt+Giù, per spostarla.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Trova</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Sostituisci con</translation>
     </message>

@@ -824,10 +824,6 @@
         <translation>ルールは上から下へ適用されます。移動するにはドラッグするか、Alt+↑ と Alt+↓ を押します。</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>検索</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>置換後</translation>
     </message>

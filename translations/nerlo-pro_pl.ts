@@ -824,10 +824,6 @@ Po: wszystkie profile mają wspólną listę.</translation>
         <translation>Reguły są stosowane z góry na dół. Przeciągnij regułę albo naciśnij Alt+Góra i Alt+Dół, aby ją przesunąć.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Znajdź</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Zamień na</translation>
     </message>

@@ -824,10 +824,6 @@ Depois: todos os perfis usam uma só lista.</translation>
         <translation>As regras são aplicadas de cima para baixo. Arraste uma regra, ou pressione Alt+Cima e Alt+Baixo, para movê-la.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Localizar</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Substituir por</translation>
     </message>

@@ -824,10 +824,6 @@
         <translation>Правила применяются сверху вниз. Чтобы переместить правило, перетащите его или нажмите Alt+Вверх и Alt+Вниз.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Найти</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Заменить на</translation>
     </message>

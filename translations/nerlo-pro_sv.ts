@@ -824,10 +824,6 @@ Efter: alla profiler delar en lista.</translation>
         <translation>Reglerna används uppifrån och ned. Dra en regel, eller tryck Alt+Upp och Alt+Ned, för att flytta den.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Sök</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Ersätt med</translation>
     </message>

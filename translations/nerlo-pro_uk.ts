@@ -824,10 +824,6 @@
         <translation>Правила застосовуються згори донизу. Щоб перемістити правило, перетягніть його або натисніть Alt+Вгору й Alt+Вниз.</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>Знайти</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>Замінити на</translation>
     </message>

@@ -824,10 +824,6 @@
         <translation>规则从上到下应用。拖动规则，或按 Alt+↑ 和 Alt+↓ 来移动它。</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>查找</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>替换为</translation>
     </message>

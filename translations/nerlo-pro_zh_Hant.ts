@@ -824,10 +824,6 @@
         <translation>規則從上到下套用。拖曳規則，或按 Alt+↑ 和 Alt+↓ 來移動它。</translation>
     </message>
     <message>
-        <source>sFindReplaceColumn</source>
-        <translation>尋找</translation>
-    </message>
-    <message>
         <source>sFindReplaceWith</source>
         <translation>取代為</translation>
     </message>
