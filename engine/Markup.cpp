@@ -17,6 +17,7 @@ namespace {
 using text::Range;
 
 constexpr text::UnitSet replyMarks(u">");
+constexpr text::UnitSet angles(u"<>");
 
 bool startsWithAt(std::u16string_view text, std::size_t at, std::u16string_view what) {
     return text.substr(at).starts_with(what);
@@ -211,13 +212,19 @@ std::u16string removeSpans(std::u16string text) {
         }
         to += end - from;
     };
-    for (;;) {
-        const std::size_t open = text::findUnit(text, from, u'<');
-        keepUpTo(open);
-        from = text::findUnit(text, open, u'>') + 1;
-        if (from > text.size()) {
-            break;
+    bool inside = false;
+    text::UnitCursor cursor(text, angles);
+    for (std::size_t at = cursor.next(); at < text.size(); at = cursor.next()) {
+        if (!inside && text[at] == u'<') {
+            keepUpTo(at);
+            inside = true;
+        } else if (inside && text[at] == u'>') {
+            from = at + 1;
+            inside = false;
         }
+    }
+    if (!inside) {
+        keepUpTo(text.size());
     }
     text.resize(to);
     return text;
