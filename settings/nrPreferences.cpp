@@ -212,6 +212,18 @@ void nrPreferences::profilesSelect(std::optional<int> tag) {
     }
 }
 
+void nrPreferences::profilesSwitch(int place) {
+    if (place < 0 || static_cast<std::size_t>(place) >= profilesItems_.size()) {
+        return;
+    }
+    const auto id = profilesItems_[static_cast<std::size_t>(place)].id;
+    savePending(); // which may take over profiles of other processes
+    const auto now = std::ranges::find(profilesItems_, id, &ProfileItem::id);
+    if (now != profilesItems_.end()) {
+        profilesSelect(static_cast<int>(now - profilesItems_.begin()));
+    }
+}
+
 void nrPreferences::loadControls() {
     for (const SettingsKey &row : profileKeys()) {
         const PropertyValue *value = profileSelected_.find(row.key);
@@ -355,11 +367,14 @@ void nrPreferences::profilesRemove() {
     if (tag < 0 || static_cast<std::size_t>(tag) >= profilesItems_.size()) {
         return;
     }
-    const std::u16string name = profileNameOf(profilesItems_[static_cast<std::size_t>(tag)].record);
-    if (hooks_.confirmRemoval && !hooks_.confirmRemoval(name)) {
+    const auto [id, record] = profilesItems_[static_cast<std::size_t>(tag)];
+    if (hooks_.confirmRemoval && !hooks_.confirmRemoval(profileNameOf(record))) {
         return;
     }
-    profilesItems_.erase(profilesItems_.begin() + tag);
+    // While the question stood, the list may have taken over what other processes wrote.
+    if (std::erase_if(profilesItems_, [id = id](const auto &item) { return item.id == id; }) == 0) {
+        return;
+    }
     saveProfilesWithArray();
     refreshProfilesMenu();
     profilesSelect();

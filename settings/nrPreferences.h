@@ -67,6 +67,9 @@ class nrPreferences {
     // The pop-up's selected item; none when `selectedItem` has no item.
     std::optional<int> popupSelection() const { return popupSelection_; }
     void profilesSelect(std::optional<int> tag = {});
+    // The user chose another profile: saves what waits, and selects the one at `place` in the list
+    // as it is now.
+    void profilesSwitch(int place);
     void profilesAdd();
     void profilesAddingCloseWindow(const std::u16string &name);
     void profilesAddingCancelWindow();

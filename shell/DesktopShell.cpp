@@ -79,10 +79,7 @@ MenuCommands DesktopShell::menuCommands() {
     commands.operation = [this](std::int32_t index) {
         parts_.engine.changePasteboardWithKeys(index);
     };
-    commands.selectProfile = [this](int place) {
-        parts_.preferences.savePending();
-        parts_.preferences.profilesSelect(place);
-    };
+    commands.selectProfile = [this](int place) { parts_.preferences.profilesSwitch(place); };
     commands.preferences = tell(&nrAppDelegate::showPreferences);
     commands.tips = tell(&nrAppDelegate::aOpenTips);
     commands.whatsNew = tell(&nrAppDelegate::openReleaseNotesNerloPro);

@@ -189,10 +189,8 @@ QWidget *PreferencesWindow::makeTop() {
     profilesPopupButton->setToolTip(plainTooltip(localized("sProfileTip")));
     profilesPopupButton->setMinimumContentsLength(14);
     label->setBuddy(profilesPopupButton);
-    connect(profilesPopupButton, &QComboBox::activated, this, [this](int index) {
-        preferences_.savePending();
-        preferences_.profilesSelect(index);
-    });
+    connect(profilesPopupButton, &QComboBox::activated, this,
+            [this](int index) { preferences_.profilesSwitch(index); });
     const auto makeButton = [](const char *name, const char *titleKey, const char *tipKey) {
         auto *button = new QPushButton(localized(titleKey));
         button->setObjectName(name);

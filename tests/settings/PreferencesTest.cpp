@@ -347,6 +347,37 @@ TEST(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
     EXPECT_EQ(program.preferences.profileName(), u"imported");
 }
 
+TEST(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanwhile) {
+    const TemporaryFolder folder;
+    putBytes(pathsIn(folder).profiles, writeXml(named({u"A", u"B", u"C", u"D"})));
+    Program program(folder);
+    nrPreferences &preferences = program.preferences;
+    preferences.initProfilesItems();
+    program.queue.advance(5s);
+    const auto removeFirst = [&] {
+        ProfilesFile other(program.paths.profiles);
+        ProfileItems items = other.load();
+        items.erase(items.begin());
+        EXPECT_EQ(other.save(items), "");
+    };
+    preferences.profilesSwitch(1);
+    preferences.checkBoxChanged("udSort", true);
+    removeFirst();
+    preferences.profilesSwitch(2);
+    EXPECT_EQ(preferences.profileName(), u"C");
+    program.queue.advance(5s);
+
+    preferences.hooks().confirmRemoval = [&](const std::u16string &) {
+        removeFirst();
+        preferences.profilesFileChanged();
+        return true;
+    };
+    preferences.profilesRemove();
+    EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"D"}));
+    preferences.profilesRemove(); // the other process was faster
+    EXPECT_EQ(profilesIn(program.paths), PropertyArray());
+}
+
 TEST(Profiles, AFailedWriteIsReportedAndGoesWithTheNextSave) {
     const TemporaryFolder folder;
     Program program(folder);
