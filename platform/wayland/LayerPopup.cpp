@@ -62,7 +62,8 @@ void drop(Object *object) {
 
 struct LayerPopup::Buffer {
     Buffer(wl_shm *shm, int width, int height, const std::uint32_t *pixels) {
-        const std::size_t size = sizeof *pixels * static_cast<std::size_t>(width) * height;
+        const std::size_t size =
+            sizeof *pixels * static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
         const FileDescriptor file(memfd_create(scope, MFD_CLOEXEC | MFD_ALLOW_SEALING));
         if (!file || pwrite(file.get(), pixels, size, 0) != static_cast<ssize_t>(size)) {
             return;
@@ -350,7 +351,8 @@ void LayerPopup::open() {
     loop_.afterRoundTrip(pasteboardStallLimit, ifAnswered([this, ifAnswered] {
                              loop_.afterRoundTrip(pasteboardStallLimit, ifAnswered([this] {
                                                       if (popup_.atPointer && pointer_ &&
-                                                          viewporter_ && !outputs_.empty()) {
+                                                          viewporter_ && !outputs_.empty() &&
+                                                          !tooLate_) {
                                                           lookForPointer();
                                                       } else {
                                                           measureScreen(nullptr);
@@ -373,12 +375,14 @@ void LayerPopup::pointerEntered(wl_surface *surface, int x, int y) {
     if (surface && probe != probes_.end()) {
         pointerAt_ = PopupPoint{x, y};
         wl_output *output = (*probe)->output;
+        under_ = nullptr; // it goes with the others
         probes_.clear();
         measureScreen(output);
     }
 }
 
 void LayerPopup::pointerUnknown() {
+    tooLate_ = true;
     if (!probes_.empty()) {
         probes_.clear();
         measureScreen(nullptr);
@@ -454,13 +458,15 @@ void LayerPopup::place() {
 
 void LayerPopup::entered(wl_output *output) {
     const auto known = outputs_.find(output);
-    if (known != outputs_.end() && std::exchange(scale_, known->second.scale) != scale_) {
+    if (known != outputs_.end() && known->second.scale != scale_) {
+        scale_ = known->second.scale;
         hooks_.draw(scale_);
     }
 }
 
 void LayerPopup::setPicture(const PopupPicture &picture) {
-    const auto count = static_cast<std::size_t>(picture.width) * picture.height;
+    const auto count =
+        static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
     if (!shown_ || picture.scale != scale_ || count == 0 || picture.pixels.size() != count) {
         return;
     }

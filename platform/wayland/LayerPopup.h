@@ -50,7 +50,7 @@ class LayerPopup {
     // After one round trip: whether the compositor has what it takes.
     bool available() const { return compositor_ && shm_ && shell_; }
     void open();
-    // The time to look for the pointer is over.
+    // The time to look for the pointer is over, also if the search has not begun.
     void pointerUnknown();
     void setPicture(const PopupPicture &picture);
     void close();
@@ -102,6 +102,7 @@ class LayerPopup {
     int scale_ = 0;               // of the picture that is wanted or there
     wl_surface *under_ = nullptr; // the pointer
     std::optional<PopupPoint> pointerAt_;
+    bool tooLate_ = false; // to look for it
     PopupScreen screen_;
     bool closed_ = false;
     Registry registry_;
