@@ -20,8 +20,9 @@ class X11Pasteboard final : public Pasteboard {
             if (observed_ && !announced_.exchange(true)) {
                 mainQueue_.post(whileAlive([this] {
                     announced_ = false;
-                    if (changed_) {
-                        changed_();
+                    // A copy: the handler may replace itself.
+                    if (const auto changed = changed_) {
+                        changed();
                     }
                 }));
             }
