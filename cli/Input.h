@@ -1,4 +1,4 @@
-// Reading whole inputs. Bytes are UTF-8; texts are UTF-16.
+// Reading inputs, whole or in pieces. Bytes are UTF-8; texts are UTF-16.
 #pragma once
 
 #include "cli/Progress.h"

@@ -49,8 +49,8 @@ const Operation *findOperation(std::string_view nameOrIndex);
 std::u16string runOperation(std::int32_t index, std::u16string text,
                             const CleaningContext &context);
 
-// The last place, beyond `from`, at which a text may be cut for operations that run in pieces:
-// between two ASCII letters. 0 where there is none.
+// The last place, at or beyond `from`, at which a text may be cut for operations that run in
+// pieces: between two ASCII letters. 0 where there is none.
 std::size_t lastCut(std::u16string_view text, std::size_t from);
 
 // Every operation whose switch is on, in the fixed order.
