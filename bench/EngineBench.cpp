@@ -54,7 +54,7 @@ void measure(benchmark::State &state, const std::u16string &text, Run run) {
         benchmark::DoNotOptimize(copies.data());
         state.SetIterationTime(time.count() / static_cast<double>(batch));
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size() * 2));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size() * 2));
 }
 
 CleaningOptions optionsFrom(const PropertyDictionary &dictionary) {

@@ -86,8 +86,8 @@ PropertyDictionary::PropertyDictionary(Entries entries) {
 }
 
 const PropertyValue *PropertyDictionary::find(std::string_view key) const {
-    const auto found =
-        std::ranges::find(entries_, key, [](const auto &entry) { return std::string_view(entry.first); });
+    const auto found = std::ranges::find(
+        entries_, key, [](const auto &entry) { return std::string_view(entry.first); });
     return found == entries_.end() ? nullptr : &found->second;
 }
 
