@@ -8,10 +8,13 @@ _nerlo_profiles() {
     nerlo profiles 2>/dev/null | sed 's/^[* ] *[0-9]* *//'
 }
 
-_nerlo_words() { # WORDS: one a line; spaces stay in a word
-    local IFS=$'\n'
-    COMPREPLY=($(compgen -W "$1" -- "$2"))
-    [ ${#COMPREPLY[@]} -eq 0 ] || COMPREPLY=($(printf '%q\n' "${COMPREPLY[@]}"))
+_nerlo_words() { # WORDS: one a line, taken as they are: profiles may be named anything
+    local word quoted
+    COMPREPLY=()
+    while IFS= read -r word; do
+        printf -v quoted %q "$word"
+        [[ -z $word || ($word != "$2"* && $quoted != "$2"*) ]] || COMPREPLY+=("$quoted")
+    done <<<"$1"
 }
 
 _nerlo() {
@@ -24,7 +27,7 @@ _nerlo() {
         _nerlo_words "$(_nerlo_operations)" "$cur"
         return
         ;;
-    --profile | export)
+    --profile | show | export)
         _nerlo_words "$(_nerlo_profiles)" "$cur"
         return
         ;;
