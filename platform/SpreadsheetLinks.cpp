@@ -9,9 +9,12 @@ namespace nerlo::platform {
 
 namespace {
 
-constexpr std::array<SpreadsheetLink, 2> links{{
+// A window of Calc opens under a name of the whole suite, and some compositors never tell the later
+// one: there a format that only cells have stands for the link, which a text has too.
+constexpr std::array<SpreadsheetLink, 3> links{{
     {"com.microsoft.Excel", "com.microsoft.Link"},
     {"org.libreoffice.Calc", "org.libreoffice.Link"},
+    {"org.libreoffice", "org.libreoffice.Cells"},
 }};
 
 struct Name {
@@ -20,18 +23,21 @@ struct Name {
 };
 
 // Wine gives a window the name of its program file, as class, instance or both.
-constexpr std::array<Name, 3> windows{{
+constexpr std::array<Name, 5> windows{{
     {"excel.exe", links[0].identifier},
     {"libreoffice-calc", links[1].identifier},
     {"soffice-calc", links[1].identifier},
+    {"libreoffice-startcenter", links[2].identifier},
+    {"soffice", links[2].identifier},
 }};
 
 // Wine passes formats registered by Windows programs on by name.
-constexpr std::array<Name, 4> formatNames{{
+constexpr std::array<Name, 5> formatNames{{
     {"Link", links[0].type},
     {"Link Source", links[0].type},
     {"ObjectLink", links[0].type},
     {R"(application/x-openoffice-link;windows_formatname="Link")", links[1].type},
+    {R"(application/x-openoffice-sylk;windows_formatname="Sylk")", links[2].type},
 }};
 
 } // namespace

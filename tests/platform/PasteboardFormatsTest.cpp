@@ -94,6 +94,10 @@ TEST(SpreadsheetLinks, MapWindowsAndFormats) {
         R"(application/x-openoffice-link;windows_formatname="Link")"};
     EXPECT_TRUE(offersLink(calc, "org.libreoffice.Link"));
     EXPECT_FALSE(offersLink(calc, "com.microsoft.Link"));
+    EXPECT_EQ(spreadsheetOfWindow("libreoffice-startcenter"), "org.libreoffice");
+    EXPECT_FALSE(offersLink(calc, "org.libreoffice.Cells")); // a text may be linked too
+    EXPECT_TRUE(offersLink({R"(application/x-openoffice-sylk;windows_formatname="Sylk")"},
+                           "org.libreoffice.Cells"));
 }
 
 } // namespace
