@@ -9,7 +9,6 @@ namespace {
 
 using platform::PropertyArray;
 using platform::PropertyDictionary;
-using platform::PropertyValue;
 
 class Profiles : public testing::Test {
   protected:

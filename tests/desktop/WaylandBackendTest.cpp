@@ -99,54 +99,6 @@ TEST_F(WaylandBackend, ExchangesTextWithRealProgramsAndCountsExactly) {
     EXPECT_TRUE(untilCount(++count));
 }
 
-TEST_F(WaylandBackend, FiftyMegabytesBothWays) {
-    ASSERT_TRUE(created.backend) << created.declined;
-    std::string large(50'000'000, 'x');
-    for (std::size_t i = 0; i < large.size(); i += 1'000) {
-        large[i] = static_cast<char>('a' + i / 1'000 % 26);
-    }
-    const auto start = pasteboard().changeCount();
-    copy(large);
-    ASSERT_TRUE(untilCount(start + 1));
-    const auto before = std::chrono::steady_clock::now();
-    ASSERT_TRUE(text() == large);
-    const auto between = std::chrono::steady_clock::now();
-    ASSERT_EQ(write(large).status, PasteboardStatus::done);
-    ASSERT_TRUE(outputOf({"wl-paste", "-n"}) == large);
-    const auto after = std::chrono::steady_clock::now();
-    RecordProperty("readMilliseconds", std::to_string((between - before) / 1ms));
-    RecordProperty("writeMilliseconds", std::to_string((after - between) / 1ms));
-}
-
-TEST_F(WaylandBackend, OwnersThatHangDieOrDeliverNothingDoNotKeepTheNextCopyAway) {
-    ASSERT_TRUE(created.backend) << created.declined;
-    struct Row {
-        test::Arguments options;
-        PasteboardStatus expected;
-    };
-    const Row rows[] = {
-        {{"--refuse"}, PasteboardStatus::done},
-        {{"--stall-after", "70000"}, PasteboardStatus::timedOut},
-        {{"--hang"}, PasteboardStatus::timedOut},
-        {{"--endless"}, PasteboardStatus::done}, // without what is too large
-    };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.options[0]);
-        auto count = pasteboard().changeCount();
-        test::Arguments command{ownerProgram};
-        command.insert(command.end(), row.options.begin(), row.options.end());
-        command.push_back("text/plain;charset=utf-8=*1000000");
-        Process owner(command);
-        ASSERT_TRUE(owner.waitForLine("owned"));
-        ASSERT_TRUE(untilCount(++count));
-        const auto result = read({"text/plain;charset=utf-8"}, 20'000'000);
-        EXPECT_EQ(result.status, row.expected);
-        EXPECT_TRUE(result.content.empty());
-        copy("next");
-        ASSERT_TRUE(until([&] { return text() == "next"; }));
-    }
-}
-
 // The end of the pipe looks like the end of the text; that the content went with its owner may show
 // only a moment later, but no write in its place gets through.
 TEST_F(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
@@ -214,36 +166,6 @@ TEST_F(WaylandBackend, SaysWhenTheCompositorIsGone) {
     const auto woken = test::wakeUps("wayland");
     std::this_thread::sleep_for(1s);
     EXPECT_LE(test::wakeUps("wayland") - woken, 1) << "it spins";
-}
-
-// The program itself: a manager has what was cleaned last, also when the program ends at once.
-TEST(WaylandProgram, LeavesTheCleanedTextToAClipboardManager) {
-    const Manager manager;
-    std::string large;
-    std::string cleanLarge = "word";
-    for (int i = 0; i < 500'000; ++i) {
-        large += "word  ";
-        cleanLarge += i ? " word" : "";
-    }
-    for (const std::string end : {"--quit", "SIGTERM"}) {
-        for (const auto &[copied, cleaned] :
-             {std::pair<std::string, std::string>{"a  " + end, "a " + end}, {large, cleanLarge}}) {
-            SCOPED_TRACE(end + ", " + std::to_string(copied.size()) + " bytes");
-            Process program({NERLO_PRO});
-            // Another start before it is on the bus would be the program itself.
-            ASSERT_TRUE(outputOf({"gdbus", "wait", "--session", "org.nerlo.NerloPro"}));
-            ASSERT_TRUE(outputOf({"wl-copy"}, copied));
-            ASSERT_TRUE(outputOf({NERLO_PRO, "--clean"}));
-            ASSERT_TRUE(test::until([&] { return outputOf({"wl-paste", "-n"}) == cleaned; }));
-            if (end == "--quit") {
-                EXPECT_TRUE(outputOf({NERLO_PRO, "--quit"}));
-            } else {
-                program.signal(SIGTERM);
-            }
-            EXPECT_EQ(program.wait(), 0);
-            EXPECT_TRUE(test::until([&] { return manager.kept() == cleaned; }));
-        }
-    }
 }
 
 TEST(WaylandApplications, NamesTheOneThatComesToTheFront) {

@@ -5,12 +5,11 @@
 #include "platform/PasteboardFormats.h"
 #include "platform/memory/MemoryMainQueue.h"
 #include "platform/x11/Connection.h"
+#include "tests/desktop/Process.h"
 
-#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -18,7 +17,6 @@
 namespace nerlo::platform {
 namespace {
 
-using namespace std::chrono_literals;
 using Strings = std::vector<std::string>;
 
 PasteboardContent content(const Strings &formats, const std::string &bytes) {
@@ -32,17 +30,11 @@ PasteboardContent content(const Strings &formats, const std::string &bytes) {
 
 class X11Backend : public testing::Test {
   protected:
-    // Serves the main queue until `done`; false after ten seconds.
     bool until(const std::function<bool()> &done) {
-        const auto end = std::chrono::steady_clock::now() + 10s;
-        while (!done()) {
-            if (std::chrono::steady_clock::now() > end) {
-                return false;
-            }
-            std::this_thread::sleep_for(200us);
+        return test::until([&] {
             queue.runPosted();
-        }
-        return true;
+            return done();
+        });
     }
     // Calls `function` with a handler, and waits for what the handler gets.
     template <class Result>
