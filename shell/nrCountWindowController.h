@@ -10,7 +10,6 @@
 #include "shell/PopupPlacement.h"
 
 #include <QLabel>
-#include <QPointer>
 #include <QWidget>
 #include <memory>
 #include <string>

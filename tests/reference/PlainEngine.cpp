@@ -407,7 +407,7 @@ String sorted(String text, std::int64_t option, std::int64_t separatorIndex, con
     if (separatorIndex < 0 || separatorIndex > 8) {
         return text;
     }
-    const String separator = separators[static_cast<std::size_t>(separatorIndex)];
+    const String &separator = separators[static_cast<std::size_t>(separatorIndex)];
     if (separator.empty()) {
         return text;
     }

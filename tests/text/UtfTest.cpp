@@ -63,9 +63,9 @@ void expectSame(const std::string &bytes, std::size_t cut) {
 TEST(Utf, DecodesEveryShortSequence) {
     for (std::uint32_t lead = 0x7F; lead <= 0xFF; ++lead) {
         for (const std::uint32_t second :
-             {0x00, 0x7F, 0x80, 0x8F, 0x90, 0x9F, 0xA0, 0xBF, 0xC0, 0xFF}) {
-            for (const std::uint32_t third : {0x00, 0x7F, 0x80, 0xBF, 0xC0}) {
-                for (const std::uint32_t fourth : {0x00, 0x80, 0xBF, 0xC2}) {
+             {0x00u, 0x7Fu, 0x80u, 0x8Fu, 0x90u, 0x9Fu, 0xA0u, 0xBFu, 0xC0u, 0xFFu}) {
+            for (const std::uint32_t third : {0x00u, 0x7Fu, 0x80u, 0xBFu, 0xC0u}) {
+                for (const std::uint32_t fourth : {0x00u, 0x80u, 0xBFu, 0xC2u}) {
                     std::string bytes("ab");
                     for (const std::uint32_t byte : {lead, second, third, fourth}) {
                         bytes.push_back(static_cast<char>(byte));
