@@ -79,8 +79,6 @@ constexpr std::string_view notMigrated[] = {"udRemoveHyphens",   "udRemoveHyphen
                                             "udAddPrefix",       "udAddSuffix",
                                             "udPrefixTextField", "udSuffixTextField"};
 
-constexpr std::string_view cleanClipboardHotKey = "sClearFormatingFromClipboard";
-
 // What a first start writes, in its own order, which is not the profile's.
 struct FirstStart {
     std::string_view key;
@@ -181,8 +179,8 @@ Table makeTable() {
              std::string(row.meaning),
              row.firstStart ? std::optional<PropertyValue>(*row.firstStart) : std::nullopt});
     }
-    table.keys.push_back({std::string(cleanClipboardHotKey), SettingKind::HotKey,
-                          SettingScope::Store, "hot keys", "clean the clipboard", std::nullopt});
+    table.keys.push_back({std::string(cleanHotKey), SettingKind::HotKey, SettingScope::Store,
+                          "hot keys", "clean the clipboard", std::nullopt});
     for (const engine::Operation &operation : engine::operations()) {
         table.keys.push_back({std::string(operation.hotKey), SettingKind::HotKey,
                               SettingScope::Store, "hot keys", std::string(operation.summary),

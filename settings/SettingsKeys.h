@@ -42,6 +42,9 @@ struct SettingsKey {
     bool migrated = false;
 };
 
+// The one hot key that no operation has: it cleans the clipboard with all that is on.
+inline constexpr std::string_view cleanHotKey = "sClearFormatingFromClipboard";
+
 // Profile keys in the order in which a profile is written, then the keys of the store. Made once;
 // any thread.
 std::span<const SettingsKey> settingsKeys();

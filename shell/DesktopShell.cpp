@@ -1,6 +1,7 @@
 #include "shell/DesktopShell.h"
 
 #include "engine/Operations.h"
+#include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/KeySequences.h"
 #include "shell/PreferencesWindow.h"
@@ -28,8 +29,6 @@ namespace {
 // A tray that is not there by then may still come; but the user is not left without a window.
 constexpr auto trayExpectedWithin = 2000ms;
 
-constexpr std::string_view cleanHotKeyName = "sClearFormatingFromClipboard";
-
 // What a user is told to bind by hand.
 const auto cleanCommand = QStringLiteral("nerlo-pro --clean");
 
@@ -48,7 +47,7 @@ DesktopShell::DesktopShell(Parts parts)
             delegate_->showPreferences();
         }
     });
-    cleanShortcut_ = parts_.store.observe(cleanHotKeyName, [this] { updateCleanShortcut(); });
+    cleanShortcut_ = parts_.store.observe(settings::cleanHotKey, [this] { updateCleanShortcut(); });
     hotKeyStatus_ = parts_.hotKeys.observeStatus([this] { updateHotKeys(); });
     connectPreferences();
 }
@@ -131,7 +130,7 @@ void DesktopShell::updateProfiles() {
 }
 
 void DesktopShell::updateCleanShortcut() {
-    const auto shortcut = shortcuts::storedShortcut(parts_.store, cleanHotKeyName);
+    const auto shortcut = shortcuts::storedShortcut(parts_.store, settings::cleanHotKey);
     menu_->setCleanShortcut(shortcut ? keySequence(*shortcut, parts_.shortcutTexts)
                                      : QKeySequence());
 }
@@ -151,7 +150,7 @@ void DesktopShell::updateHotKeys() {
             window->setHotKeyProblem(key, problem);
         }
     };
-    update(cleanHotKeyName);
+    update(settings::cleanHotKey);
     for (const engine::Operation &operation : engine::operations()) {
         update(operation.hotKey);
     }

@@ -1,6 +1,7 @@
 #include "shell/HotKeyCommands.h"
 
 #include "engine/Operations.h"
+#include "settings/SettingsKeys.h"
 #include "shell/Commands.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
@@ -13,6 +14,8 @@
 namespace nerlo::shell {
 
 namespace {
+
+using settings::cleanHotKey;
 
 constexpr std::uint64_t keyV = 9;
 

@@ -18,9 +18,6 @@ namespace nerlo::shell {
 
 struct Commands;
 
-// The settings key of the hot key that cleans the clipboard.
-inline constexpr std::string_view cleanHotKey = "sClearFormatingFromClipboard";
-
 // `commands` must outlive the hot keys. `titleOf` gives the words that a desktop shows for the
 // command of a settings key, in UTF-8.
 void registerHotKeyCommands(shortcuts::UserDefaultsHotKeys &hotKeys, const Commands &commands,

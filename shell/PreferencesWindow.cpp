@@ -1,5 +1,6 @@
 #include "shell/PreferencesWindow.h"
 
+#include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Mnemonics.h"
 #include "shell/Strings.h"
@@ -21,9 +22,10 @@ namespace nerlo::shell {
 
 namespace {
 
+using settings::cleanHotKey;
+
 constexpr QSize firstSize{1080, 660};
 constexpr int shortest = 360;
-constexpr auto cleanHotKey = "sClearFormatingFromClipboard";
 
 QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
     auto *box = new QCheckBox(localized(titleKey));
@@ -233,7 +235,7 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     auto *label = new QLabel(command);
     label->setToolTip(plainTooltip(localized("sClearFormatingFromClipboardTip")));
     clean->addWidget(label, 1);
-    if (QWidget *recorder = shell::makeRecorder(makeRecorder, cleanHotKey, command)) {
+    if (QWidget *recorder = shell::makeRecorder(makeRecorder, std::string(cleanHotKey), command)) {
         label->setBuddy(recorder);
         clean->addWidget(recorder);
     }

@@ -11,7 +11,7 @@ class ShellWindows {
   public:
     virtual ~ShellWindows() = default;
 
-    // The status item; showing it again replaces it.
+    // The status item; showing it again changes nothing.
     virtual void showStatusItem() = 0;
     virtual void dropStatusItem() = 0;
     // Whether it can be seen and clicked: a desktop without a tray shows none.
