@@ -87,8 +87,4 @@ NERLO_CLONES std::size_t countUnits(std::u16string_view text, const UnitSet &set
                        std::popcount(scanTail(text.data() + at, text.size() - at, set)));
 }
 
-bool containsAny(std::u16string_view text, const UnitSet &set) {
-    return findUnit(text, 0, set) < text.size();
-}
-
 } // namespace nerlo::text

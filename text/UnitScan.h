@@ -79,8 +79,6 @@ std::size_t findUnit(std::u16string_view text, std::size_t from, char16_t unit);
 
 std::size_t countUnits(std::u16string_view text, const UnitSet &set);
 
-bool containsAny(std::u16string_view text, const UnitSet &set);
-
 // Walks the positions of a set in a text in order, keeping the mask of the block at hand.
 class UnitCursor {
   public:
