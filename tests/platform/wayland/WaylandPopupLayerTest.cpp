@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <viewporter-server.h>
 #include <wayland-server.h>
 #include <wlr-layer-shell-unstable-v1-server.h>
 
@@ -90,7 +91,60 @@ struct LayerShell {
                                  &requests, self, nullptr);
                          });
     }
+
+    // Also a screen, and a pointer that is nowhere.
+    static void offerPointer(wl_display *server) {
+        wl_global_create(server, &wl_output_interface, 1, nullptr,
+                         [](wl_client *client, void *, std::uint32_t, std::uint32_t id) {
+                             wl_resource_create(client, &wl_output_interface, 1, id);
+                         });
+        wl_global_create(server, &wl_seat_interface, 1, nullptr,
+                         [](wl_client *client, void *, std::uint32_t, std::uint32_t id) {
+                             static const struct wl_seat_interface requests {
+                                 .get_pointer =
+                                     [](wl_client *of, wl_resource *, std::uint32_t pointer) {
+                                         wl_resource_create(of, &wl_pointer_interface, 1, pointer);
+                                     },
+                                 .get_keyboard = nullptr, .get_touch = nullptr, .release = nullptr
+                             };
+                             wl_resource *seat =
+                                 wl_resource_create(client, &wl_seat_interface, 1, id);
+                             wl_resource_set_implementation(seat, &requests, nullptr, nullptr);
+                             wl_seat_send_capabilities(seat, WL_SEAT_CAPABILITY_POINTER);
+                         });
+        wl_global_create(
+            server, &wp_viewporter_interface, 1, nullptr,
+            [](wl_client *client, void *, std::uint32_t, std::uint32_t id) {
+                static const struct wp_viewport_interface viewport {
+                    .destroy = destroy, .set_source = nullptr,
+                    .set_destination = [](wl_client *, wl_resource *, std::int32_t, std::int32_t) {}
+                };
+                static const struct wp_viewporter_interface requests {
+                    .destroy = nullptr, .get_viewport = [](wl_client *of, wl_resource *,
+                                                           std::uint32_t made, wl_resource *) {
+                        wl_resource_set_implementation(
+                            wl_resource_create(of, &wp_viewport_interface, 1, made), &viewport,
+                            nullptr, nullptr);
+                    }
+                };
+                wl_resource_set_implementation(
+                    wl_resource_create(client, &wp_viewporter_interface, 1, id), &requests, nullptr,
+                    nullptr);
+            });
+    }
 };
+
+bool until(MemoryMainQueue &queue, const std::function<bool()> &done) {
+    const auto end = std::chrono::steady_clock::now() + 10s;
+    while (!done()) {
+        if (std::chrono::steady_clock::now() > end) {
+            return false;
+        }
+        queue.runPosted();
+        std::this_thread::sleep_for(200us);
+    }
+    return true;
+}
 
 TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
     using Role = wl_resource *;
@@ -147,12 +201,37 @@ TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
         };
         popup.closed = [&] { ++gone; };
         const auto shown = created.backend->show(std::move(popup));
-        const auto end = std::chrono::steady_clock::now() + 10s;
-        while (shell.shown != row.shown || gone != row.gone) {
-            ASSERT_LT(std::chrono::steady_clock::now(), end);
-            queue.runPosted();
-            std::this_thread::sleep_for(200us);
+        ASSERT_TRUE(until(queue, [&] { return shell.shown == row.shown && gone == row.gone; }));
+    }
+}
+
+TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
+    for (const bool searched : {true, false}) {
+        LayerShell shell;
+        shell.answer = [](wl_resource *role) {
+            zwlr_layer_surface_v1_send_configure(role, 1, 1280, 800);
+        };
+        const test::FakeCompositor compositor(nullptr, 0, [&](wl_display *server) {
+            shell.offer(server);
+            LayerShell::offerPointer(server);
+        });
+        MemoryMainQueue queue;
+        const auto created = createWaylandPopupLayer(queue, compositor.display());
+        std::atomic<bool> placed = false;
+        Popup popup;
+        popup.atPointer = true;
+        popup.place = [&](const PopupScreen &, std::optional<PopupPoint> pointer) {
+            EXPECT_FALSE(pointer);
+            placed = true;
+            return PopupPoint();
+        };
+        popup.draw = [](int) { return PopupPicture(); };
+        const auto shown = created.backend->show(std::move(popup));
+        if (searched) { // by what covers the screen
+            ASSERT_TRUE(until(queue, [&] { return shell.shown.load(); }));
         }
+        queue.advance(1s);
+        EXPECT_TRUE(until(queue, [&] { return placed.load(); })) << searched;
     }
 }
 
