@@ -86,9 +86,6 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     auto *splitter = new QSplitter;
     splitter->setObjectName("splitter");
     splitter->addWidget(middle);
-    splitter->addWidget(preview_);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
     splitter->setChildrenCollapsible(false);
 
     auto *content = new QWidget;
@@ -108,6 +105,9 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
         addPage(localized(page.title), widget);
         connect(widget, &OptionPage::edited, this, &PreferencesWindow::updatePreview);
     }
+    splitter->addWidget(preview_); // now, because the Tab key goes on to what came last
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
     preview_->setMinimumWidth(240);
     fitPages();
     splitter->setSizes({middle->minimumWidth(), firstSize.width()});
@@ -123,6 +123,8 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
     });
+    connect(new QShortcut(Qt::Key_Escape, search_, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, search_, &QLineEdit::clear);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
 
     const auto height = store_.integerForKey(heightKey);

@@ -164,6 +164,17 @@ TEST_F(Preferences, TheSearchFindsAnOptionByAnyOfItsWords) {
     EXPECT_TRUE(control<QCheckBox>("automatic").isVisible());
 }
 
+TEST_F(Preferences, TheTabKeyGoesFromThePagesToTheOptionsToThePreview) {
+    showPage(1);
+    QStringList stops;
+    auto *next = &control<QWidget>("pageList");
+    for (; next->objectName() != "previewBefore"; next = next->nextInFocusChain()) {
+        ASSERT_NE(next, window.get()) << "the preview comes before the options";
+        stops += next->objectName();
+    }
+    EXPECT_TRUE(stops.contains("udRemoveAllTabs"));
+}
+
 TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     showPage(6);
     auto &list = control<RuleList>("findTableView");
