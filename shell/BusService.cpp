@@ -1,5 +1,6 @@
 #include "shell/BusService.h"
 
+#include "engine/Operations.h"
 #include "nerlopro_adaptor.h"
 #include "platform/Pasteboard.h"
 
@@ -105,6 +106,10 @@ void BusService::Clean() {
 }
 
 void BusService::Operation(int index) {
+    if (!engine::findOperation(index)) {
+        sendErrorReply(QDBusError::InvalidArgs, "there is no operation " + QString::number(index));
+        return;
+    }
     commands_.operation(index);
 }
 
@@ -160,7 +165,10 @@ Answer askRunningProgram(const Request &request) {
     call.setArguments(request.arguments);
     const auto reply = connection.bus.call(call);
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        const bool ended = fromOneThatEnds(reply) && connection.programEnds();
+        // The thread of the connection is still busy with an error when it has handed it out, and
+        // would complain if the process ended meanwhile. What it is asked now comes after that.
+        const bool runs = connection.programRuns();
+        const bool ended = fromOneThatEnds(reply) && (!runs || connection.programEnds());
         return {ended ? Answer::Outcome::ended : Answer::Outcome::failed, reply.errorMessage()};
     }
     if (reply.arguments().isEmpty()) {
