@@ -8,211 +8,41 @@ namespace nerlo::reference {
 
 namespace {
 
-using namespace std::string_view_literals;
+// A bar stands between tokens.
+std::vector<std::u16string_view> split(std::u16string_view row) {
+    std::vector<std::u16string_view> tokens;
+    for (;;) {
+        const auto end = row.find(u'|');
+        tokens.push_back(row.substr(0, end));
+        if (end == row.npos) {
+            return tokens;
+        }
+        row.remove_prefix(end + 1);
+    }
+}
 
-constexpr std::u16string_view plain[] = {
-    u" ",
-    u" ",
-    u"  ",
-    u"\u00A0",
-    u"\u00A0\u00A0",
-    u"\t",
-    u"\r\n",
-    u"\r",
-    u"\n",
-    u"\n\n",
-    u"a",
-    u"b",
-    u"o",
-    u"o\t",
-    u"A",
-    u"Z",
-    u".",
-    u"...",
-    u"\u2026",
-    u". ",
-    u"?",
-    u"-",
-    u"- ",
-    u"\u2010",
-    u"\u2013",
-    u"\u2212",
-    u"\u2010 \r\n",
-    u"\u2022",
-    u"\u2022 ",
-    u"\u27A2",
-    u"\u25E6",
-    u"\u00B7",
-    u"\u3002",
-    u"\u30FB",
-    u"\u2024",
-    u">",
-    u"<",
-    u"_",
-    u",",
-    u":",
-    u";",
-    u"'",
-    u"\u2019",
-    u"@",
-    u"&",
-    u"\u00E9",
-    u"\u00DF",
-    u"\u0130",
-    u"\u0131",
-    u"\u03A3",
-    u"\u03C2",
-    u"\u01C6",
-    u"\u01C5",
-    u"\uFB01",
-    u"\u1E9E",
-    u"\u0587",
-    u"\u65E5",
-    u"\u306E",
-    u"\u30AB",
-    u"\u0E01\u0E32",
-    u"\U0001F389",
-    u"\U00010400",
-    u"\U00010428",
-    u"\u0301",
-    u"\u200D",
-    u"\u00AD",
-    u"\u200B",
-    u"1",
-    u"9.5",
-    u"\u2028",
-    u"\u0085",
-    u"\u000B",
-    u"\u3000",
-    u"word",
-    u"It's",
-    u"USA",
-    u"\u0416\u0438",
-    u"\u05D0",
-    u"i\u0307",
-    u"J",
-    u"ij",
-    u"\u0390",
-    u"(",
-    u")",
-    u"\"",
-    u"\u3006",
-    u"\uFF21",
-    u"    ",
-};
+constexpr std::u16string_view plain =
+    u" | |  |\u00A0|\u00A0\u00A0|\t|\r\n|\r|\n|\n\n|a|b|o|o\t|A|Z|.|...|\u2026|. |?|-|- |"
+    u"\u2010|\u2013|\u2212|\u2010 \r\n|\u2022|\u2022 |\u27A2|\u25E6|\u00B7|\u3002|\u30FB|"
+    u"\u2024|>|<|_|,|:|;|'|\u2019|@|&|\u00E9|\u00DF|\u0130|\u0131|\u03A3|\u03C2|\u01C6|"
+    u"\u01C5|\uFB01|\u1E9E|\u0587|\u65E5|\u306E|\u30AB|\u0E01\u0E32|\U0001F389|\U00010400|"
+    u"\U00010428|\u0301|\u200D|\u00AD|\u200B|1|9.5|\u2028|\u0085|\u000B|\u3000|word|It's|"
+    u"USA|\u0416\u0438|\u05D0|i\u0307|J|ij|\u0390|(|)|\"|\u3006|\uFF21|    ";
 
 // Unpaired surrogates cannot be written in a literal.
 constexpr char16_t unpaired[] = {0xD83C, 0xDF89};
 
-constexpr std::u16string_view quotes[] = {
-    u"'",
-    u"\"",
-    u"\u00AB",
-    u"\u00BB",
-    u"\u00AB ",
-    u" \u00BB",
-    u"\u2018",
-    u"\u2019",
-    u"\u201A",
-    u"\u201C",
-    u"\u201D",
-    u"\u201E",
-    u"\u2039",
-    u"\u203A",
-    u"\u2039 ",
-    u" \u203A",
-    u"\u300C",
-    u"\u300D",
-    u"\u300E",
-    u"\u300F",
-    u"'",
-    u"\"",
-    u"\u2019",
-    u"\u201D",
-    u"&nbsp;",
-    u"&NBSP;",
-    u"&nb\u017Fp;",
-    u"--",
-    u"-",
-    u"&mdash;",
-    u"&nDa\u017Fh;",
-    u"&#8211;",
-    u"&#8212;",
-    u"&#x2013;",
-    u"&#X2014;",
-    u"&#x2012;",
-    u" ",
-    u"\t",
-    u"\r\n",
-    u"\n",
-    u"[",
-    u"{",
-    u"(",
-    u"a",
-    u"b",
-    u"1",
-    u"_",
-    u"\u00E9",
-    u".",
-    u",",
-    u"!",
-    u"\u0301",
-    u"\u200D",
-    u"\u00AD",
-    u"\U0001F389",
-    u"\U00010400",
-    u"\u65E5",
-    u"\u00A0",
-    u"\u3000",
-    u"\u2028",
-    u";",
-    u"\u203F",
-};
+constexpr std::u16string_view quotes =
+    u"'|\"|\u00AB|\u00BB|\u00AB | \u00BB|\u2018|\u2019|\u201A|\u201C|\u201D|\u201E|\u2039|"
+    u"\u203A|\u2039 | \u203A|\u300C|\u300D|\u300E|\u300F|'|\"|\u2019|\u201D|&nbsp;|&NBSP;|"
+    u"&nb\u017Fp;|--|-|&mdash;|&nDa\u017Fh;|&#8211;|&#8212;|&#x2013;|&#X2014;|&#x2012;| |"
+    u"\t|\r\n|\n|[|{|(|a|b|1|_|\u00E9|.|,|!|\u0301|\u200D|\u00AD|\U0001F389|\U00010400|"
+    u"\u65E5|\u00A0|\u3000|\u2028|;|\u203F";
 
-constexpr std::u16string_view tags[] = {
-    u"<",
-    u">",
-    u"<!--",
-    u"-->",
-    u"<?",
-    u"?>",
-    u"<a ",
-    u"</p>",
-    u"<b>",
-    u"<script",
-    u"</script>",
-    u"<SCRIPT>",
-    u"</scr",
-    u"\"",
-    u"'",
-    u"=",
-    u" ",
-    u"x",
-    u"p",
-    u":",
-    u"-",
-    u"\n",
-    u"\r",
-    u"\u2028",
-    u"\u212A",
-    u"\u017F",
-    u"\u0301",
-    u"\u200D",
-    u"_",
-    u"\u00E9",
-    u"!",
-    u"$",
-    u"/",
-    u"?",
-    u"1",
-    u"%",
-    u"%%%%%%SPLIT-ME%%%%%%",
-    u"%%%%%SPLIT-ME",
-    u"\U0001F389",
-    u"\u000B",
-    u"<-",
-    u"<:",
-};
+constexpr std::u16string_view tags =
+    u"<|>|<!--|-->|<?|?>|<a |</p>|<b>|<script|</script>|<SCRIPT>|</scr|\"|'|=| |x|p|:|-|"
+    u"\n|\r|\u2028|\u212A|\u017F|\u0301|\u200D|_|\u00E9|!|$|/|?|1|%|%%%%%%SPLIT-ME%%%%%%|"
+    u"%%%%%SPLIT-ME|\U0001F389|\u000B|<-|<:";
 
 constexpr const char *locales[] = {"en_US", "de_DE", "tr_TR", "el_GR", "lt_LT",
                                    "nl_NL", "ja_JP", "th_TH", "",      "fr_FR"};
@@ -220,15 +50,18 @@ constexpr const char *locales[] = {"en_US", "de_DE", "tr_TR", "el_GR", "lt_LT",
 } // namespace
 
 Tokens plainTokens() {
-    return plain;
+    static const auto tokens = split(plain);
+    return tokens;
 }
 
 Tokens quoteTokens() {
-    return quotes;
+    static const auto tokens = split(quotes);
+    return tokens;
 }
 
 Tokens tagTokens() {
-    return tags;
+    static const auto tokens = split(tags);
+    return tokens;
 }
 
 std::u16string Random::text(Tokens tokens) {
