@@ -161,7 +161,7 @@ void addBatch(CLI::App &app, ExitStatus &status) {
         "\n"
         "  {\"id\": 1, \"text\": \"a  b\"}            ->  {\"id\":1,\"text\":\"a b\"}\n"
         "  {\"text\": \"a b\", \"operation\": 25}     ->  {\"id\":null,\"statistics\":{...}}\n"
-        "  {\"id\": 2}                          ->  {\"id\":2,\"error\":\"no \\\"text\\\"\"}\n"
+        "  {\"id\": 2}                            ->  {\"id\":2,\"error\":\"no \\\"text\\\"\"}\n"
         "\n"
         "A request may hold \"id\" (any value, given back as it came), \"text\", \"operation\" "
         "(index\n"

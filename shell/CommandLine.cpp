@@ -32,14 +32,15 @@ CommandLine parseCommandLine(const QStringList &arguments) {
         "Alone, it starts nothing. Example: sort-lines=Super+Shift+S",
         "INDEX|NAME=KEYS");
     const QCommandLineOption quit("quit", "End the running program.");
+    // The library's own help would have a second option, which lists the library's.
+    const QCommandLineOption help({"h", "help"}, "Print this help and end.");
+    const QCommandLineOption version({"v", "version"}, "Print the version and end.");
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
         "Cleans the text on the clipboard. Starts the program, or tells the one that runs.");
-    const auto help = parser.addHelpOption();
-    const auto version = parser.addVersionOption();
-    parser.addOptions(
-        {clean, operation, restore, preferences, automatic, profile, shortcut, doctor, quit});
+    parser.addOptions({clean, operation, restore, automatic, profile, preferences, shortcut, doctor,
+                       quit, help, version});
 
     const auto failed = [](const QString &why) {
         return CommandLine{CommandLine::Action::fail, why};

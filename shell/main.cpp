@@ -291,8 +291,15 @@ int main(int argc, char **argv) {
                                               mainQueue,
                                               [&] { preferences.profilesFileChanged(); });
 
-    commands.clean = [&] { delegate.clearFormattingFromClipboard(); };
-    commands.operation = [&](std::int32_t index) { engine.changePasteboardWithKeys(index); };
+    // What was typed a moment before counts too.
+    commands.clean = [&] {
+        preferences.savePending();
+        delegate.clearFormattingFromClipboard();
+    };
+    commands.operation = [&](std::int32_t index) {
+        preferences.savePending();
+        engine.changePasteboardWithKeys(index);
+    };
     commands.restore = [&](auto handler) { engine.restore(std::move(handler)); };
     commands.automatic = [&](shell::AutomaticMode mode) {
         const bool on = mode == shell::AutomaticMode::on ||
