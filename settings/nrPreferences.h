@@ -60,6 +60,8 @@ class nrPreferences {
     // Profiles.
     void initProfilesItems(); // once, when everything is to be loaded
     const ProfileItems &profilesItems() const { return profilesItems_; }
+    // Why the profiles' file could not be read at the start; empty if it could, or was not there.
+    const std::string &profilesLoadError() const { return file_.loadError(); }
     const ProfileRecord &profileSelected() const { return profileSelected_; }
     const std::u16string &profileName() const { return profileName_; }
     // The selected profile's place; the same as the tag of its menu item.

@@ -75,6 +75,7 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     nothingFound_->hide();
     notice_->setObjectName("notice");
     notice_->setWordWrap(true);
+    notice_->setTextFormat(Qt::PlainText);
     notice_->setMargin(6);
     notice_->hide();
 

@@ -35,7 +35,7 @@ class ShellWindows {
     virtual bool openUrl(const std::string &url) = 0;
 
     // What is not as the user wants it, told for as long as it lasts.
-    enum class Problem { tray, shortcuts, settings, profiles, loginItem };
+    enum class Problem { tray, shortcuts, settings, damage, profiles, loginItem };
     // Each of them replaces the one of its kind; an empty text ends it. One line or more, UTF-8.
     virtual void setProblem(Problem problem, const std::string &text) = 0;
 

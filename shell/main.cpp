@@ -285,6 +285,13 @@ int main(int argc, char **argv) {
         {store, mainQueue, preferences, engine, watcher, loginItem, windows, productLinks()});
     windows.setDelegate(&delegate);
     preferences.initProfilesItems();
+    if (const auto &damage = preferences.profilesLoadError(); !damage.empty()) {
+        // Who misses the profiles looks there.
+        windows.setProblem(shell::ShellWindows::Problem::damage,
+                           damage + "\nNew profiles have begun. The file is kept beside its place, "
+                                    "with \".unreadable-\" and the time in its name.");
+        complain(damage);
+    }
     const platform::FolderWatch storeWatch(std::filesystem::path(paths.store).parent_path(),
                                            mainQueue, [&] { store.fileChanged(); });
     const platform::FolderWatch profilesWatch(std::filesystem::path(paths.profiles).parent_path(),
