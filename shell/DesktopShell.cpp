@@ -71,11 +71,16 @@ MenuCommands DesktopShell::menuCommands() {
         };
     };
     MenuCommands commands;
-    commands.clean = tell(&nrAppDelegate::clearFormattingFromClipboard);
+    // What was typed a moment before counts too.
+    commands.clean = [this, clean = tell(&nrAppDelegate::clearFormattingFromClipboard)] {
+        parts_.preferences.savePending();
+        clean();
+    };
     commands.automatic = tell(&nrAppDelegate::automaticallyClearFormatting);
     commands.excelException = tell(&nrAppDelegate::disableAutomaticallyClearFormatting);
     commands.restore = [this] { restore(); };
     commands.operation = [this](std::int32_t index) {
+        parts_.preferences.savePending();
         parts_.engine.changePasteboardWithKeys(index);
     };
     commands.selectProfile = [this](int place) { parts_.preferences.profilesSwitch(place); };
