@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
@@ -26,6 +27,7 @@ using settings::cleanHotKey;
 
 constexpr QSize firstSize{1080, 660};
 constexpr int shortest = 360;
+constexpr QSize frameRoom{8, 40}; // of a screen, what the frame of the window takes
 
 QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
     auto *box = new QCheckBox(localized(titleKey));
@@ -129,9 +131,11 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
 
     const auto height = store_.integerForKey(heightKey);
-    resize(firstSize.width(), height >= shortest
-                                  ? static_cast<int>(std::min<std::int64_t>(height, 10'000))
-                                  : firstSize.height());
+    const QSize size(firstSize.width(),
+                     height >= shortest ? static_cast<int>(std::min<std::int64_t>(height, 10'000))
+                                        : firstSize.height());
+    // What does not fit could not be reached.
+    resize(size.boundedTo(screen()->availableSize() - frameRoom));
     const auto page = store_.integerForKey(pageKey);
     pageList_->setCurrentRow(page >= 0 && page < pages_->count() ? static_cast<int>(page) : 0);
     profilesChanged();

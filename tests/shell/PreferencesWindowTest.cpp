@@ -239,12 +239,15 @@ TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
 }
 
 TEST_F(Preferences, HeightAndPageAreRemembered) {
-    window->resize(window->width(), 777);
+    window->resize(window->width(), 577);
     showPage(4);
     window->close();
     open();
-    EXPECT_EQ(window->height(), 777);
+    EXPECT_EQ(window->height(), 577);
     EXPECT_EQ(control<QListWidget>("pageList").currentRow(), 4);
+    store.set(PreferencesWindow::heightKey, 5000); // of a screen that is gone
+    open();
+    EXPECT_LE(window->height(), window->screen()->availableSize().height());
     store.set(PreferencesWindow::heightKey, -5);
     store.set(PreferencesWindow::pageKey, 99);
     open();
