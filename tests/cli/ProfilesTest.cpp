@@ -46,6 +46,8 @@ TEST_F(Profiles, AreImportedListedShownAndExported) {
     EXPECT_EQ(nerlo({"profiles", "export", "Größe", "-"}).out, writeXml(upper));
     EXPECT_EQ(nerlo({"profiles", "export", "1", folder / "out.plist"}).status, 0);
     EXPECT_EQ(bytesOf(folder / "out.plist"), writeXml(lower));
+    putProfiles(writeBinary(PropertyArray{PropertyDictionary{{"profileName", u"a\n\x1b[2J"}}}));
+    EXPECT_EQ(nerlo({"profiles"}).out, "* 0  a??[2J\n");
 }
 
 TEST_F(Profiles, ChooseHowTextsAreCleaned) {

@@ -15,6 +15,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QTest>
