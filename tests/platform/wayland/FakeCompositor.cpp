@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <utility>
 
+#include <csignal>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -158,6 +159,11 @@ FakeCompositor::~FakeCompositor() {
 }
 
 void FakeCompositor::serve() {
+    // The program may close a pipe that an owner writes to, and a socket that is served.
+    sigset_t pipes;
+    sigemptyset(&pipes);
+    sigaddset(&pipes, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &pipes, nullptr);
     wl_event_loop *loop = wl_display_get_event_loop(server_);
     pollfd waits[2] = {{wake_, POLLIN, 0}, {wl_event_loop_get_fd(loop), POLLIN, 0}};
     for (;;) {
@@ -303,7 +309,8 @@ void FakeCompositor::addSeat() {
 void FakeCompositor::removeSeat() {
     run([this] {
         if (!seats_.empty()) {
-            wl_global_destroy(seats_.back());
+            // Withdrawn, not destroyed: a bind may be on its way, and is no fault of the program's.
+            wl_global_remove(seats_.back());
             seats_.pop_back();
         }
         if (seats_.empty()) {
