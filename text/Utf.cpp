@@ -1,17 +1,20 @@
 #include "text/Utf.h"
 
+#include "text/Simd.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 namespace nerlo::text {
 
 namespace {
 
 constexpr char32_t replacementCharacter = U'\uFFFD';
-constexpr std::size_t chunk = 16;         // units or bytes looked at together
+constexpr std::size_t chunk = 32;         // units or bytes looked at together
 constexpr std::size_t blockSize = 16'384; // units made at a time, to stay in the cache
 
 unsigned byteOf(char byte) {
@@ -23,33 +26,49 @@ std::uint32_t select(std::uint32_t condition, std::uint32_t yes, std::uint32_t n
     return (yes & (0 - condition)) | (no & (condition - 1));
 }
 
-// The leading bytes of the sixteen at `bytes` that are ASCII.
-std::size_t asciiPrefix(const char *bytes) {
-    std::uint64_t halves[2];
-    std::memcpy(halves, bytes, sizeof halves);
-    constexpr std::uint64_t high = 0x8080808080808080u;
-    if ((halves[0] & high) != 0) {
-        return static_cast<std::size_t>(std::countr_zero(halves[0] & high)) / 8;
-    }
-    if ((halves[1] & high) != 0) {
-        return 8 + static_cast<std::size_t>(std::countr_zero(halves[1] & high)) / 8;
-    }
-    return chunk;
+template <class Value>
+constexpr std::size_t wordful = sizeof(std::uint64_t) / sizeof(Value);
+
+// How many of the values at `from` that fill a word come before the first that is not ASCII.
+template <class Value>
+std::size_t asciiPrefix(const Value *from) {
+    constexpr std::uint64_t high = sizeof(Value) == 1 ? 0x8080808080808080u : 0xFF80FF80FF80FF80u;
+    std::uint64_t values = 0;
+    std::memcpy(&values, from, sizeof values);
+    return static_cast<std::size_t>(std::countr_zero(values & high)) / (8 * sizeof(Value));
 }
 
-// The same of the sixteen units at `units`.
-std::size_t asciiPrefix(const char16_t *units) {
-    std::uint64_t quarters[4];
-    std::memcpy(quarters, units, sizeof quarters);
-    constexpr std::uint64_t high = 0xFF80FF80FF80FF80u;
-    std::size_t prefix = 0;
-    for (const std::uint64_t quarter : quarters) {
-        if ((quarter & high) != 0) {
-            return prefix + static_cast<std::size_t>(std::countr_zero(quarter & high)) / 16;
+// Copies the leading ASCII of `count` values and says how many they are, not counting the last few
+// that make no whole chunk. What follows them at `to` may be overwritten up to `count`.
+template <class From, class To>
+inline __attribute__((always_inline)) std::size_t copyAscii(const From *__restrict from,
+                                                            std::size_t count, To *__restrict to) {
+    std::size_t at = 0;
+    for (; at + chunk <= count; at += chunk) {
+        unsigned all = 0;
+        for (std::size_t i = 0; i < chunk; ++i) {
+            const auto value = static_cast<std::make_unsigned_t<From>>(from[at + i]);
+            all |= value;
+            to[at + i] = static_cast<To>(value);
         }
-        prefix += 4;
+        if (all >= 0x80) {
+            std::size_t prefix = wordful<From>;
+            while (prefix == wordful<From>) {
+                prefix = asciiPrefix(from + at);
+                at += prefix;
+            }
+            break;
+        }
     }
-    return prefix;
+    return at;
+}
+
+NERLO_CLONES std::size_t widenAscii(const char *bytes, std::size_t count, char16_t *units) {
+    return copyAscii(bytes, count, units);
+}
+
+NERLO_CLONES std::size_t narrowAscii(const char16_t *units, std::size_t count, char *bytes) {
+    return copyAscii(units, count, bytes);
 }
 
 // The length of the well-formed sequence at `at`, which `left` bytes follow; 0 when it is none, or
@@ -108,14 +127,18 @@ std::size_t decodeBlock(std::string_view bytes, char16_t *const to, std::size_t 
     const char16_t *const full = to + room - chunk;
     bool wellFormed = true;
     while (wellFormed && at < end && unit <= full) {
-        if (static_cast<std::size_t>(end - at) >= chunk && byteOf(*at) < 0x80) {
-            for (std::size_t i = 0; i < chunk; ++i) {
-                unit[i] = static_cast<unsigned char>(at[i]);
+        if (end - at >= 8) {
+            std::size_t ascii = asciiPrefix(at);
+            if (ascii == wordful<char>) {
+                ascii = widenAscii(at, std::min(end - at, to + room - unit), unit);
+            } else {
+                for (std::size_t i = 0; i < wordful<char>; ++i) {
+                    unit[i] = static_cast<unsigned char>(at[i]);
+                }
             }
-            const std::size_t ascii = asciiPrefix(at);
             at += ascii;
             unit += ascii;
-            if (ascii == chunk) {
+            if (at == end || unit > full) {
                 continue;
             }
         }
@@ -207,15 +230,18 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
     char *to = room.data();
     const char *const full = to + room.size();
     while (at < end && full - to >= 4) {
-        if (*at < 0x80 && static_cast<std::size_t>(end - at) >= chunk &&
-            static_cast<std::size_t>(full - to) >= chunk) {
-            for (std::size_t i = 0; i < chunk; ++i) {
-                to[i] = static_cast<char>(at[i]);
+        if (end - at >= 4) {
+            std::size_t ascii = asciiPrefix(at);
+            if (ascii == wordful<char16_t>) {
+                ascii = narrowAscii(at, std::min(end - at, full - to), to);
+            } else {
+                for (std::size_t i = 0; i < wordful<char16_t>; ++i) {
+                    to[i] = static_cast<char>(at[i]);
+                }
             }
-            const std::size_t ascii = asciiPrefix(at);
             at += ascii;
             to += ascii;
-            if (ascii == chunk || full - to < 4) {
+            if (at == end || full - to < 4) {
                 continue;
             }
         }
