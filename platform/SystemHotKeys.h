@@ -22,8 +22,11 @@ class SystemHotKeys {
   public:
     virtual ~SystemHotKeys() = default;
 
-    // As they are now, whether switched on or not; empty where the desktop does not tell. Main
-    // thread; may take up to a second. Never fails.
+    // Begins to read them anew, in the background. Main thread.
+    virtual void refresh() {}
+
+    // As they were last read, whether switched on or not; empty where the desktop does not tell.
+    // Main thread; never waits.
     virtual std::vector<SystemHotKey> symbolicHotKeys() = 0;
 };
 

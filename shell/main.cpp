@@ -245,8 +245,8 @@ int main(int argc, char **argv) {
     shortcuts::GlobalHotKeys globalHotKeys(*hotKeyService.backend, shortcutTexts);
     shortcuts::UserDefaultsHotKeys hotKeys(store, globalHotKeys);
     keyboardLayout.backend->setChangedHandler([&] { hotKeys.keyboardLayoutChanged(); });
-    const auto systemHotKeys =
-        platform::createDesktopHotKeys(*keyboardLayout.backend, platform::DesktopSources::system());
+    const auto systemHotKeys = platform::createDesktopHotKeys(*keyboardLayout.backend, workerQueue,
+                                                              platform::DesktopSources::system());
 
     settings::nrPreferences preferences(
         store, mainQueue, paths,
@@ -273,6 +273,7 @@ int main(int argc, char **argv) {
         },
         {}};
     windows.setRecorderMaker([&](const std::string &key) {
+        systemHotKeys->refresh(); // known by the time somebody records
         auto *recorder = new shortcuts::nrShortcutView(recording);
         recorder->setAssociatedUserDefaultsKey(key);
         return recorder;

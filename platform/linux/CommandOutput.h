@@ -10,7 +10,7 @@ namespace nerlo::platform {
 
 struct CommandLimits {
     std::chrono::milliseconds time{1000};
-    std::size_t bytes = std::size_t{1} << 20;
+    std::size_t bytes = std::size_t{4} << 20;
 };
 
 // Runs a program, found by $PATH, with nothing on its standard input and its errors dropped, and

@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <mutex>
 #include <optional>
 #include <utility>
 
@@ -17,6 +20,7 @@ namespace {
 // More than any desktop has; what a broken file says beyond it is left out.
 constexpr std::size_t mostHotKeys = 4096;
 constexpr std::size_t mostCustomBindings = 64;
+constexpr auto longestReading = std::chrono::seconds(2);
 constexpr std::size_t largestFile = std::size_t{1} << 20;
 
 std::string lower(std::string_view text) {
@@ -60,11 +64,14 @@ std::string symbolOfQtName(std::string_view name) {
     return row == std::end(rows) ? std::string(name) : std::string(row->xkb);
 }
 
+// By the name of the symbol: which key has it, the layout says, and only on the main thread.
+struct NamedHotKey {
+    std::string symbol;
+    std::uint32_t modifiers = 0;
+};
+
 class Collector {
   public:
-    explicit Collector(const KeyboardLayout &layout)
-        : layout_(layout) {}
-
     // "<Super><Shift>v"; anything else is dropped.
     void addAccelerator(std::string_view text) {
         std::uint32_t modifiers = 0;
@@ -99,23 +106,16 @@ class Collector {
         add(symbolOfQtName(text), modifiers);
     }
 
-    std::vector<SystemHotKey> take() { return std::move(hotKeys_); }
+    std::vector<NamedHotKey> take() { return std::move(hotKeys_); }
 
   private:
-    void add(const std::string &symbol, std::uint32_t modifiers) {
-        if (symbol.empty() || symbol.size() > 64 || hotKeys_.size() >= mostHotKeys) {
-            return;
-        }
-        if (const auto key = layout_.keyOfSymbol(symbol)) {
-            const SystemHotKey hotKey{*key, modifiers};
-            if (std::ranges::find(hotKeys_, hotKey) == hotKeys_.end()) {
-                hotKeys_.push_back(hotKey);
-            }
+    void add(std::string symbol, std::uint32_t modifiers) {
+        if (!symbol.empty() && symbol.size() <= 64 && hotKeys_.size() < mostHotKeys) {
+            hotKeys_.push_back({std::move(symbol), modifiers});
         }
     }
 
-    const KeyboardLayout &layout_;
-    std::vector<SystemHotKey> hotKeys_;
+    std::vector<NamedHotKey> hotKeys_;
 };
 
 template <class Function>
@@ -141,27 +141,38 @@ void forEachQuoted(std::string_view text, Function function) {
     }
 }
 
+// Lines such as "org.gnome.shell.keybindings toggle-overview ['<Super>s']". One process lists them
+// all; the user's own bindings, whose schema has a path for each, take one more for each.
 void collectGnome(const DesktopSources &sources, Collector &collector) {
+    const auto end = std::chrono::steady_clock::now() + longestReading;
     const std::string mediaKeys = "org.gnome.settings-daemon.plugins.media-keys";
-    for (const auto &schema : {std::string("org.gnome.desktop.wm.keybindings"),
-                               std::string("org.gnome.mutter.keybindings"),
-                               std::string("org.gnome.mutter.wayland.keybindings"),
-                               std::string("org.gnome.shell.keybindings"), mediaKeys}) {
-        forEachQuoted(sources.output({"gsettings", "list-recursively", schema}),
-                      [&](std::string_view text) { collector.addAccelerator(text); });
-    }
-    std::size_t left = mostCustomBindings;
-    const std::string paths = sources.output({"gsettings", "get", mediaKeys, "custom-keybindings"});
-    forEachQuoted(paths, [&](std::string_view path) {
-        if (path.empty() || path.front() != '/' || left == 0) {
+    const std::array schemas{std::string("org.gnome.desktop.wm.keybindings "),
+                             std::string("org.gnome.mutter.keybindings "),
+                             std::string("org.gnome.mutter.wayland.keybindings "),
+                             std::string("org.gnome.shell.keybindings "), mediaKeys + ' '};
+    const std::string paths = mediaKeys + " custom-keybindings ";
+    std::vector<std::string> custom;
+    forEachLine(sources.output({"gsettings", "list-recursively"}), [&](std::string_view line) {
+        const bool ofPaths = line.starts_with(paths);
+        if (std::ranges::none_of(schemas, [&](auto &name) { return line.starts_with(name); })) {
             return;
         }
-        --left;
-        forEachQuoted(
-            sources.output({"gsettings", "get",
-                            mediaKeys + ".custom-keybinding:" + std::string(path), "binding"}),
-            [&](std::string_view text) { collector.addAccelerator(text); });
+        forEachQuoted(line, [&](std::string_view text) {
+            if (!ofPaths) {
+                collector.addAccelerator(text);
+            } else if (text.starts_with('/') && custom.size() < mostCustomBindings) {
+                custom.emplace_back(text);
+            }
+        });
     });
+    for (const auto &path : custom) {
+        if (std::chrono::steady_clock::now() > end) {
+            return;
+        }
+        forEachQuoted(sources.output({"gsettings", "get", mediaKeys + ".custom-keybinding:" + path,
+                                      "binding"}),
+                      [&](std::string_view text) { collector.addAccelerator(text); });
+    }
 }
 
 // Lines such as "/xfwm4/custom/<Alt>Tab    cycle_windows_key". What stands under "default" is the
@@ -224,27 +235,65 @@ constexpr std::array desktops{
     Desktop{"kde", collectKde},
 };
 
+std::vector<NamedHotKey> readHotKeys(const DesktopSources &sources) {
+    Collector collector;
+    const std::string names = ":" + lower(sources.currentDesktop) + ":";
+    for (const auto &desktop : desktops) {
+        if (names.find(":" + std::string(desktop.name) + ":") != names.npos) {
+            desktop.collect(sources, collector);
+            break;
+        }
+    }
+    return collector.take();
+}
+
 class DesktopHotKeys final : public SystemHotKeys {
   public:
-    DesktopHotKeys(const KeyboardLayout &layout, DesktopSources sources)
+    DesktopHotKeys(const KeyboardLayout &layout, WorkerQueue &workers, DesktopSources sources)
         : layout_(layout)
-        , sources_(std::move(sources)) {}
+        , workers_(workers)
+        , shared_(std::make_shared<Shared>(std::move(sources))) {}
+
+    void refresh() override {
+        if (shared_->reading.exchange(true)) {
+            return;
+        }
+        workers_.post([shared = shared_] {
+            auto hotKeys = readHotKeys(shared->sources);
+            const std::lock_guard lock(shared->mutex);
+            shared->hotKeys = std::move(hotKeys);
+            shared->reading = false;
+        });
+    }
 
     std::vector<SystemHotKey> symbolicHotKeys() override {
-        Collector collector(layout_);
-        const std::string names = ":" + lower(sources_.currentDesktop) + ":";
-        for (const auto &desktop : desktops) {
-            if (names.find(":" + std::string(desktop.name) + ":") != names.npos) {
-                desktop.collect(sources_, collector);
-                break;
+        const std::lock_guard lock(shared_->mutex);
+        std::vector<SystemHotKey> result;
+        for (const auto &[symbol, modifiers] : shared_->hotKeys) {
+            if (const auto key = layout_.keyOfSymbol(symbol)) {
+                const SystemHotKey hotKey{*key, modifiers};
+                if (std::ranges::find(result, hotKey) == result.end()) {
+                    result.push_back(hotKey);
+                }
             }
         }
-        return collector.take();
+        return result;
     }
 
   private:
+    // With the worker, which may end after us.
+    struct Shared {
+        explicit Shared(DesktopSources from)
+            : sources(std::move(from)) {}
+        const DesktopSources sources;
+        std::mutex mutex;
+        std::vector<NamedHotKey> hotKeys;
+        std::atomic<bool> reading = false;
+    };
+
     const KeyboardLayout &layout_;
-    DesktopSources sources_;
+    WorkerQueue &workers_;
+    std::shared_ptr<Shared> shared_;
 };
 
 std::string environment(const char *name) {
@@ -270,8 +319,8 @@ DesktopSources DesktopSources::system() {
 }
 
 std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,
-                                                    DesktopSources sources) {
-    return std::make_unique<DesktopHotKeys>(layout, std::move(sources));
+                                                    WorkerQueue &workers, DesktopSources sources) {
+    return std::make_unique<DesktopHotKeys>(layout, workers, std::move(sources));
 }
 
 } // namespace nerlo::platform

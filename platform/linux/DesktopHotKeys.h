@@ -3,6 +3,7 @@
 
 #include "platform/KeyboardLayout.h"
 #include "platform/SystemHotKeys.h"
+#include "platform/WorkerQueue.h"
 
 #include <functional>
 #include <memory>
@@ -12,7 +13,7 @@
 
 namespace nerlo::platform {
 
-// Where the readers look; tests put something else in place.
+// Where the readers look, on a worker; tests put something else in place.
 struct DesktopSources {
     // $XDG_CURRENT_DESKTOP: names between colons.
     std::string currentDesktop;
@@ -24,8 +25,8 @@ struct DesktopSources {
     static DesktopSources system();
 };
 
-// `layout` must outlive the result. On any other desktop the list is empty.
+// `layout` and `workers` must outlive the result. On any other desktop the list is empty.
 std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,
-                                                    DesktopSources sources);
+                                                    WorkerQueue &workers, DesktopSources sources);
 
 } // namespace nerlo::platform

@@ -140,6 +140,7 @@ void nrShortcutView::setRecording(bool recording) {
     // Out of the way, so that a combination in use reaches us.
     suspension_.reset();
     if (recording) {
+        context_.systemHotKeys.refresh();
         suspension_ = std::make_unique<GlobalHotKeys::Suspension>(context_.hotKeys.hotKeys());
     }
     announce();

@@ -1,5 +1,6 @@
 #include "platform/linux/DesktopHotKeys.h"
 #include "platform/linux/CommandOutput.h"
+#include "platform/memory/MemoryWorkerQueue.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 
 #include <gtest/gtest.h>
@@ -27,27 +28,34 @@ HotKeyList read(const std::string &desktop, std::map<std::string, std::string> t
         }
         return text;
     };
-    return createDesktopHotKeys(layout,
-                                {desktop, [&](const std::string &name) { return texts[name]; },
-                                 [&](const auto &command) { return texts[join(command)]; }})
-        ->symbolicHotKeys();
+    MemoryWorkerQueue workers;
+    const auto hotKeys =
+        createDesktopHotKeys(layout, workers,
+                             {desktop, [&](const std::string &name) { return texts[name]; },
+                              [&](const auto &command) { return texts[join(command)]; }});
+    hotKeys->refresh();
+    hotKeys->refresh();
+    EXPECT_EQ(workers.size(), 1u); // one reading at a time, and none on this thread
+    EXPECT_TRUE(hotKeys->symbolicHotKeys().empty());
+    workers.runAll();
+    return hotKeys->symbolicHotKeys();
 }
 
 TEST(DesktopHotKeys, OfEachDesktop) {
-    EXPECT_EQ(
-        read("ubuntu:GNOME",
-             {{"gsettings list-recursively org.gnome.desktop.wm.keybindings",
-               "org.gnome.desktop.wm.keybindings close ['<Alt>F4']\n"
-               "org.gnome.desktop.wm.keybindings maximize @as []\n"
-               "org.gnome.desktop.wm.keybindings panel ['<Primary><Shift>z', '<Mod4>F2']\n"
-               "org.gnome.desktop.wm.keybindings group ['<Super>Above_Tab', '<Hyper>a']\n"},
-              {"gsettings get org.gnome.settings-daemon.plugins.media-keys custom-keybindings",
-               "['/custom0/', 'no path']"},
-              {"gsettings get org.gnome.settings-daemon.plugins.media-keys.custom-keybinding:"
-               "/custom0/ binding",
-               "'<Super>v'"}}),
-        // Z is where the German layout has it.
-        (HotKeyList{{118, 0x800}, {16, 0x300}, {120, 0x1000}, {50, 0x1000}, {9, 0x1000}}));
+    EXPECT_EQ(read("ubuntu:GNOME",
+                   {{"gsettings list-recursively",
+                     "org.gnome.desktop.a11y.keyboard enable ['<Alt>F6']\n"
+                     "org.gnome.desktop.wm.keybindings close ['<Alt>F4']\n"
+                     "org.gnome.desktop.wm.keybindings maximize @as []\n"
+                     "org.gnome.desktop.wm.keybindings panel ['<Primary><Shift>z', '<Mod4>F2']\n"
+                     "org.gnome.desktop.wm.keybindings group ['<Super>Above_Tab', '<Hyper>a']\n"
+                     "org.gnome.settings-daemon.plugins.media-keys custom-keybindings "
+                     "['/custom0/', 'no path']\n"},
+                    {"gsettings get org.gnome.settings-daemon.plugins.media-keys.custom-keybinding:"
+                     "/custom0/ binding",
+                     "'<Super>v'"}}),
+              // Z is where the German layout has it.
+              (HotKeyList{{118, 0x800}, {16, 0x300}, {120, 0x1000}, {50, 0x1000}, {9, 0x1000}}));
     EXPECT_EQ(read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v",
                              "/commands/custom/<Alt>F2   xfce4-appfinder --collapsed\n"
                              "/commands/custom/override  true\n"
@@ -76,7 +84,7 @@ TEST(DesktopHotKeys, BrokenFilesGiveWhatTheyCan) {
             std::map<std::string, std::string> texts{
                 {"kglobalshortcutsrc", text},
                 {"xfconf-query -c xfce4-keyboard-shortcuts -l -v", text},
-                {"gsettings list-recursively org.gnome.shell.keybindings", text}};
+                {"gsettings list-recursively", "org.gnome.shell.keybindings a " + text}};
             EXPECT_TRUE(read(desktop, texts).empty()) << text;
         }
     }
@@ -89,7 +97,7 @@ TEST(DesktopHotKeys, BrokenFilesGiveWhatTheyCan) {
         }
         read("KDE", {{"kglobalshortcutsrc", text}});
         read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v", "/xfwm4/custom/" + text}});
-        read("GNOME", {{"gsettings list-recursively org.gnome.shell.keybindings", "'" + text}});
+        read("GNOME", {{"gsettings list-recursively", "org.gnome.shell.keybindings a '" + text}});
     }
 }
 
