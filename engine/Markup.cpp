@@ -18,6 +18,7 @@ using text::Range;
 
 constexpr text::UnitSet replyMarks(u">");
 constexpr text::UnitSet angles(u"<>");
+constexpr text::UnitSet anglesAndQuotes(u"<>\"'");
 
 bool startsWithAt(std::u16string_view text, std::size_t at, std::u16string_view what) {
     return text.substr(at).starts_with(what);
@@ -34,12 +35,22 @@ bool isSign(char16_t unit) {
     return unit == u'-' || unit == u':';
 }
 
-// Finds the end of what begins at a "<". Asked for ever later places, it takes linear time in all:
-// it remembers what it has learned about the text ahead.
+// Finds what begins at a "<" and where that ends. Asked for ever later places, it takes linear time
+// in all: it remembers what it has learned about the text ahead.
 class TagScanner {
   public:
     explicit TagScanner(std::u16string_view text)
-        : text_(text) {}
+        : text_(text)
+        , cursor_(text, anglesAndQuotes) {}
+
+    // The next "<" at or after `from`, or the text's size.
+    std::size_t nextOpen(std::size_t from) {
+        std::size_t at = cursor_.nextFrom(from);
+        while (at < text_.size() && text_[at] != u'<') {
+            at = cursor_.next();
+        }
+        return at;
+    }
 
     std::optional<std::size_t> endOfTag(std::size_t at) {
         if (const auto end = endOfComment(at)) {
@@ -116,16 +127,15 @@ class TagScanner {
         if (!neverEnds_.empty() && neverEnds_[from - neverEndsFrom_]) {
             return std::nullopt;
         }
-        for (std::size_t at = from; at < text_.size(); ++at) {
+        for (std::size_t at = cursor_.nextFrom(from); at < text_.size(); at = cursor_.next()) {
             const char16_t unit = text_[at];
             if (unit == u'>') {
                 return at + 1;
             }
-            if (unit == u'"' || unit == u'\'') {
-                at = text_.find(unit, at + 1);
-                if (at == std::u16string_view::npos) {
-                    break;
-                }
+            if (unit != u'<') {
+                do {
+                    at = cursor_.next();
+                } while (at < text_.size() && text_[at] != unit);
             }
         }
         if (neverEnds_.empty()) {
@@ -163,6 +173,7 @@ class TagScanner {
     static constexpr std::size_t none = std::u16string_view::npos;
 
     std::u16string_view text_;
+    text::UnitCursor cursor_;
     std::size_t commentClose_ = 0;     // the next "-->"; the places asked for are never 0
     std::size_t lineEnd_ = 0;          // of the line that an instruction began in last
     std::size_t instructionClose_ = 0; // the last "?>" before lineEnd_
@@ -234,12 +245,12 @@ std::u16string removeSpans(std::u16string text) {
 template <class Visit>
 void forEachTag(std::u16string_view text, Visit visit) {
     TagScanner scanner(text);
-    for (std::size_t at = text::findUnit(text, 0, u'<'); at < text.size();) {
+    for (std::size_t at = scanner.nextOpen(0); at < text.size();) {
         const auto end = scanner.endOfTag(at);
         if (end) {
             visit(Range{at, *end});
         }
-        at = text::findUnit(text, end.value_or(at + 1), u'<');
+        at = scanner.nextOpen(end.value_or(at + 1));
     }
 }
 

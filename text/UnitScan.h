@@ -94,8 +94,7 @@ class UnitCursor {
         while (mask_ == 0) {
             block_ += scanBlock;
             if (block_ >= text_.size()) {
-                block_ = text_.size();
-                return text_.size();
+                return end();
             }
             load();
         }
@@ -104,34 +103,38 @@ class UnitCursor {
         return block_ + bit;
     }
 
-    // The next position at or after `from`.
+    // The next position at or after `from`, which may be before those given already; what is before
+    // `from` may have changed.
     std::size_t nextFrom(std::size_t from) {
-        if (from >= block_ + scanBlock) {
-            block_ = from / scanBlock * scanBlock;
-            if (block_ >= text_.size()) {
-                block_ = text_.size();
-                mask_ = 0;
-                return text_.size();
+        if (from < block_ || from >= block_ + scanBlock) {
+            if (from >= text_.size()) {
+                return end();
             }
+            block_ = from / scanBlock * scanBlock;
             load();
         }
-        if (from > block_) {
-            mask_ &= ~std::uint64_t{0} << (from - block_);
-        }
+        mask_ = all_ & ~std::uint64_t{0} << (from - block_);
         return next();
     }
 
   private:
     void load() {
         const std::size_t left = text_.size() - block_;
-        mask_ = left >= scanBlock ? scanUnits(text_.data() + block_, set_)
-                                  : scanTail(text_.data() + block_, left, set_);
+        all_ = left >= scanBlock ? scanUnits(text_.data() + block_, set_)
+                                 : scanTail(text_.data() + block_, left, set_);
+        mask_ = all_;
+    }
+    std::size_t end() {
+        block_ = text_.size();
+        all_ = mask_ = 0;
+        return block_;
     }
 
     std::u16string_view text_;
     const UnitSet &set_;
     std::size_t block_ = 0;
-    std::uint64_t mask_ = 0;
+    std::uint64_t all_ = 0;  // of the block
+    std::uint64_t mask_ = 0; // what is left of it
 };
 
 } // namespace nerlo::text
