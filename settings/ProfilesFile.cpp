@@ -93,8 +93,12 @@ bool sameRecords(const ProfileItems &a, const ProfileItems &b) {
 } // namespace
 
 std::optional<PropertyArray> readSharedFindReplace(const SettingsPaths &paths,
-                                                   platform::FileCalls &calls) {
-    return readArray(paths.sharedFindReplace, calls).array;
+                                                   platform::FileCalls &calls, std::string *error) {
+    ArrayFile file = readArray(paths.sharedFindReplace, calls);
+    if (error) {
+        *error = std::move(file.error);
+    }
+    return std::move(file.array);
 }
 
 std::string writeSharedFindReplace(const SettingsPaths &paths, const PropertyArray &items,
@@ -227,7 +231,10 @@ void ProfilesFile::identify(ProfileItems &items) {
 
 ProfileItems ProfilesFile::load() {
     OnDisk disk = read();
-    loadError_ = disk.there ? std::move(disk.error) : std::string();
+    if (disk.there && loadError_.empty()) {
+        loadError_ =
+            std::move(disk.error); // stays: who loads again finds what was put in its place
+    }
     base_ = std::move(disk.items);
     return base_;
 }

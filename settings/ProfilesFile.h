@@ -41,7 +41,7 @@ class ProfilesFile {
 
     // The file's records; none where it is missing or unusable. Changes no file.
     ProfileItems load();
-    // Why the file that load() found is unusable; empty when it was read or is missing.
+    // Why the file was unusable when load() first found it so; empty if it never did.
     const std::string &loadError() const { return loadError_; }
 
     ProfileItem newItem(ProfileRecord record);
@@ -85,10 +85,12 @@ int selectedPlace(std::int64_t stored, std::size_t count);
 // all profiles, the list as it stands in its file.
 ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths);
 
-// The list of rules that all profiles may share. Nothing when the file is missing or unusable.
+// The list of rules that all profiles may share. Nothing when the file is missing or unusable; of
+// the latter, `error` says why.
 std::optional<platform::PropertyArray>
 readSharedFindReplace(const SettingsPaths &paths,
-                      platform::FileCalls &calls = platform::FileCalls::system());
+                      platform::FileCalls &calls = platform::FileCalls::system(),
+                      std::string *error = nullptr);
 // Under the folder's lock. A file that cannot be read is first kept under a dated name. Empty when
 // done, else what went wrong.
 std::string writeSharedFindReplace(const SettingsPaths &paths, const platform::PropertyArray &items,

@@ -143,7 +143,8 @@ void nrPreferences::initProfilesItems() {
         profileName_ = profileNameOf(profilesItems_.front().record);
         saveProfilesWithArray();
     }
-    if (readSharedList().empty()) {
+    const auto shared = readSharedFindReplace(paths_, calls_, &sharedListError_);
+    if (!shared || shared->empty()) {
         findReplace_.setItems({});
         findReplace_.append();
         writeSharedList();
@@ -161,6 +162,12 @@ void nrPreferences::initProfilesItems() {
     }
     profilesSelect();
     fillEngine();
+}
+
+std::vector<std::string> nrPreferences::loadErrors() const {
+    std::vector<std::string> errors{file_.loadError(), sharedListError_};
+    std::erase(errors, std::string());
+    return errors;
 }
 
 void nrPreferences::refreshProfilesMenu() {

@@ -60,8 +60,8 @@ class nrPreferences {
     // Profiles.
     void initProfilesItems(); // once, when everything is to be loaded
     const ProfileItems &profilesItems() const { return profilesItems_; }
-    // Why the profiles' file could not be read at the start; empty if it could, or was not there.
-    const std::string &profilesLoadError() const { return file_.loadError(); }
+    // Which of the two files could not be read at the start, and why.
+    std::vector<std::string> loadErrors() const;
     const ProfileRecord &profileSelected() const { return profileSelected_; }
     const std::u16string &profileName() const { return profileName_; }
     // The selected profile's place; the same as the tag of its menu item.
@@ -164,6 +164,7 @@ class nrPreferences {
     std::optional<int> popupSelection_;
     platform::PropertyDictionary controls_;
     FindReplaceList findReplace_;
+    std::string sharedListError_;
     platform::MainQueue::TaskId pending_ = 0;
     bool saveFailed_ = false;
 

@@ -286,12 +286,18 @@ int main(int argc, char **argv) {
         {store, mainQueue, preferences, engine, watcher, loginItem, windows, productLinks()});
     windows.setDelegate(&delegate);
     preferences.initProfilesItems();
-    if (const auto &damage = preferences.profilesLoadError(); !damage.empty()) {
-        // Who misses the profiles looks there.
-        windows.setProblem(shell::ShellWindows::Problem::damage,
-                           damage + "\nNew profiles have begun. The file is kept beside its place, "
-                                    "with \".unreadable-\" and the time in its name.");
-        complain(damage);
+    auto damages = preferences.loadErrors();
+    if (!store.loadError().empty()) {
+        damages.insert(damages.begin(), store.loadError());
+    }
+    if (!damages.empty()) {
+        QStringList lines;
+        for (const auto &damage : damages) {
+            lines << QString::fromStdString(damage) + "\n" + shell::localized("sFileDamaged");
+            complain(damage);
+        }
+        // Who misses something looks there.
+        windows.setProblem(shell::ShellWindows::Problem::damage, lines.join('\n').toStdString());
     }
     const platform::FolderWatch storeWatch(std::filesystem::path(paths.store).parent_path(),
                                            mainQueue, [&] { store.fileChanged(); });

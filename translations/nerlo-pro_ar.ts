@@ -154,6 +154,10 @@
         <translation>لا يعرض سطح المكتب هذا صينية نظام، لذا تُفتح هذه النافذة عند كل تشغيل.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>يبدأ محتواه من جديد. يُحفظ الملف التالف بجانب موضعه، وفي اسمه «.unreadable-» والوقت.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>التشغيل عند الولوج</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>Diese Arbeitsumgebung zeigt keinen Infobereich, darum öffnet sich dieses Fenster bei jedem Start.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Was darin stand, beginnt neu. Die beschädigte Datei liegt daneben, mit „.unreadable-“ und der Zeit im Namen.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Bei der Anmeldung starten</translation>
     </message>

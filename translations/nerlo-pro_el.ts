@@ -154,6 +154,10 @@
         <translation>Αυτό το περιβάλλον δεν έχει περιοχή ειδοποιήσεων, γι’ αυτό το παράθυρο ανοίγει σε κάθε εκκίνηση.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Το περιεχόμενό του ξεκινά από την αρχή. Το κατεστραμμένο αρχείο φυλάσσεται δίπλα, με «.unreadable-» και την ώρα στο όνομά του.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Εκκίνηση κατά τη σύνδεση</translation>
     </message>

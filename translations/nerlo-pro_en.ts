@@ -154,6 +154,10 @@
         <translation>This desktop shows no tray, so this window opens at each start.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>What it held begins anew. The damaged file is kept beside its place, with “.unreadable-” and the time in its name.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Start at login</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>Este escritorio no muestra una bandeja, así que esta ventana se abre en cada inicio.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Su contenido empieza de nuevo. El archivo dañado se conserva al lado, con «.unreadable-» y la hora en su nombre.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Iniciar con la sesión</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>Ce bureau n’a pas de zone de notification ; cette fenêtre s’ouvre donc à chaque démarrage.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Son contenu repart de zéro. Le fichier endommagé est conservé à côté, avec « .unreadable- » et l’heure dans son nom.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Lancer à l’ouverture de session</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>Questo desktop non mostra un vassoio, perciò questa finestra si apre a ogni avvio.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Il suo contenuto riparte da zero. Il file danneggiato è conservato accanto, con “.unreadable-” e l’ora nel nome.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Avvia all’accesso</translation>
     </message>

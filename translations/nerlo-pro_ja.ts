@@ -154,6 +154,10 @@
         <translation>このデスクトップにはトレイがないため、起動のたびにこのウィンドウが開きます。</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>その内容は最初からやり直しになります。壊れたファイルは、名前に「.unreadable-」と時刻を付けて元の場所の隣に残されています。</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>ログイン時に起動</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>To środowisko nie ma zasobnika, więc to okno otwiera się przy każdym uruchomieniu.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Jego zawartość zaczyna się od nowa. Uszkodzony plik został obok, z „.unreadable-” i czasem w nazwie.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Uruchamiaj przy logowaniu</translation>
     </message>

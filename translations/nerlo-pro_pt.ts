@@ -154,6 +154,10 @@
         <translation>Este ambiente não mostra uma bandeja, por isso esta janela abre a cada início.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>O seu conteúdo recomeça do zero. O ficheiro danificado fica guardado ao lado, com “.unreadable-” e a hora no nome.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Iniciar com a sessão</translation>
     </message>

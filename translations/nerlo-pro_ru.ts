@@ -154,6 +154,10 @@
         <translation>В этой рабочей среде нет системного лотка, поэтому это окно открывается при каждом запуске.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Его содержимое начинается заново. Повреждённый файл сохранён рядом, с «.unreadable-» и временем в имени.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Запускать при входе в систему</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>Den här skrivbordsmiljön visar inget systemfält, så det här fönstret öppnas vid varje start.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Innehållet börjar om från början. Den skadade filen finns kvar bredvid, med ”.unreadable-” och tiden i namnet.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Starta vid inloggning</translation>
     </message>

@@ -154,6 +154,10 @@
         <translation>У цьому середовищі немає системного лотка, тому це вікно відкривається під час кожного запуску.</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>Його вміст починається наново. Пошкоджений файл збережено поруч, з «.unreadable-» і часом у назві.</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>Запускати під час входу до системи</translation>
     </message>

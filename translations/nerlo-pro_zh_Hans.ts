@@ -154,6 +154,10 @@
         <translation>此桌面没有托盘，因此每次启动都会打开此窗口。</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>其中的内容重新开始。损坏的文件保留在原处旁边,名称中带有“.unreadable-”和时间。</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>登录时启动</translation>
     </message>

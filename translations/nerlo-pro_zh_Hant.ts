@@ -154,6 +154,10 @@
         <translation>此桌面沒有系統匣，因此每次啟動都會開啟此視窗。</translation>
     </message>
     <message>
+        <source>sFileDamaged</source>
+        <translation>其中的內容重新開始。損壞的檔案保留在原處旁邊,名稱中帶有「.unreadable-」和時間。</translation>
+    </message>
+    <message>
         <source>sLaunchOnStartup</source>
         <translation>登入時啟動</translation>
     </message>

@@ -10,7 +10,9 @@ FileSettingsStore::FileSettingsStore(std::string path, MainQueue *queue, FileCal
     : path_(std::move(path))
     , queue_(queue)
     , calls_(calls) {
-    fileChanged();
+    if (auto values = read(loadError_)) {
+        replaceAll(std::move(*values));
+    }
 }
 
 FileSettingsStore::~FileSettingsStore() {
@@ -19,19 +21,19 @@ FileSettingsStore::~FileSettingsStore() {
     }
 }
 
-std::optional<PropertyDictionary> FileSettingsStore::read(bool &unusable) const {
+std::optional<PropertyDictionary> FileSettingsStore::read(std::string &unusable) const {
     const FileContent content = readFile(path_, PropertyListLimits::bytes, calls_);
-    unusable = content.state != FileContent::State::Missing;
+    unusable = content.error;
     if (content.state != FileContent::State::Read) {
         return std::nullopt;
     }
-    const ParsedPropertyList parsed = parsePropertyList(content.bytes);
-    const auto *dictionary = parsed.value ? parsed.value->as<PropertyDictionary>() : nullptr;
+    ParsedPropertyList parsed = parsePropertyList(content.bytes);
+    auto *dictionary = parsed.value ? parsed.value->as<PropertyDictionary>() : nullptr;
     if (!dictionary) {
+        unusable = path_ + ": " + (parsed.value ? "no dictionary" : parsed.error);
         return std::nullopt;
     }
-    unusable = false;
-    return *dictionary;
+    return std::move(*dictionary);
 }
 
 // A file that has gone or become unusable says nothing about our values: they all stay.
@@ -51,14 +53,14 @@ bool FileSettingsStore::synchronize() {
     std::string before;
     {
         const FolderLock lock(folderOf(path_), calls_);
-        bool unusable = false;
+        std::string unusable;
         const auto theirs = read(unusable);
         merged = theirs ? withOwnChanges(*theirs) : values();
         before = std::exchange(error_, {});
         const bool differs = theirs ? !(merged == *theirs) : !dirty_.empty();
         if (differs) {
             error_ = lock.error();
-            if (error_.empty() && unusable && !moveAside(path_, "unreadable", calls_)) {
+            if (error_.empty() && !unusable.empty() && !moveAside(path_, "unreadable", calls_)) {
                 error_ = path_ + " cannot be read and cannot be moved aside";
             }
             if (error_.empty()) {
@@ -77,7 +79,7 @@ bool FileSettingsStore::synchronize() {
 }
 
 void FileSettingsStore::fileChanged() {
-    bool unusable = false;
+    std::string unusable;
     if (auto theirs = read(unusable)) {
         replaceAll(withOwnChanges(std::move(*theirs)));
     }

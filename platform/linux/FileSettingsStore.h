@@ -32,6 +32,8 @@ class FileSettingsStore final : public SettingsStore {
     void fileChanged();
 
     const std::string &path() const { return path_; }
+    // Why the file could not be read at the start; empty if it could, or was not there.
+    const std::string &loadError() const { return loadError_; }
     // Why the last write failed; empty when it did not.
     const std::string &error() const { return error_; }
     // Runs after each write by which that has changed.
@@ -41,8 +43,8 @@ class FileSettingsStore final : public SettingsStore {
 
   private:
     void changed(std::string_view key) override;
-    // The file's dictionary. Nothing when it is not there or unusable; `unusable` says which.
-    std::optional<PropertyDictionary> read(bool &unusable) const;
+    // The file's dictionary. Nothing when it is not there, or for what `unusable` says.
+    std::optional<PropertyDictionary> read(std::string &unusable) const;
     PropertyDictionary withOwnChanges(PropertyDictionary theirs) const;
 
     std::string path_;
@@ -50,6 +52,7 @@ class FileSettingsStore final : public SettingsStore {
     FileCalls &calls_;
     std::set<std::string> dirty_; // set or removed here since the last write
     std::shared_ptr<bool> posted_ = std::make_shared<bool>(false);
+    std::string loadError_;
     std::string error_;
     std::function<void(const std::string &error)> errorChanged_;
 };

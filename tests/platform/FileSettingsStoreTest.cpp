@@ -132,6 +132,7 @@ TEST(FileSettingsStore, MovesAnUnusableFileAsideAndGoesOn) {
         {
             FileSettingsStore store(path);
             EXPECT_TRUE(store.values().empty());
+            EXPECT_TRUE(store.loadError().starts_with(path + ": ")) << store.loadError();
             EXPECT_EQ(bytesOf(path), bytes) << "not touched by reading";
             store.set("a", 2);
         }

@@ -74,6 +74,21 @@ TEST(FirstStart, AfterTheStoreIsLostTheProfilesStay) {
     program.start();
     EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"default", u"work", u"home"}));
     EXPECT_EQ(folder.count("defaults.plist.unreadable-"), 1);
+    EXPECT_TRUE(program.preferences.loadErrors().empty());
+}
+
+TEST(FirstStart, EveryFileThatIsDamagedIsTold) {
+    const TemporaryFolder folder;
+    const SettingsPaths paths = pathsIn(folder);
+    for (const auto &path : {paths.store, paths.profiles, paths.sharedFindReplace}) {
+        putBytes(path, "damaged");
+    }
+    for (const std::size_t damages : {2U, 0U}) { // beside the store's own, and at the next start
+        Program program(folder);
+        program.start();
+        EXPECT_EQ(program.store.loadError().empty(), damages == 0);
+        EXPECT_EQ(program.preferences.loadErrors().size(), damages);
+    }
 }
 
 TEST(Files, LaidOutByMacOSLoadAndKeepWhatIsNotUnderstood) {
