@@ -1,6 +1,7 @@
 #include "text/Segmentation.h"
 
 #include "text/BreakIterators.h"
+#include "text/SentenceRules.h"
 #include "text/UnitScan.h"
 #include "text/WordClasses.h"
 
@@ -37,6 +38,14 @@ bool setText(UBreakIterator *iterator, std::u16string_view piece) {
 
 void forEachSentence(std::u16string_view text, const std::string &locale,
                      const std::function<void(std::u16string_view)> &visit) {
+    if (hasRootSentenceRules(locale)) {
+        SentenceEnds ends(text);
+        for (std::size_t begin = 0, end = 0; begin < text.size(); begin = end) {
+            end = ends.endOf(begin);
+            visit(text.substr(begin, end - begin));
+        }
+        return;
+    }
     UBreakIterator *const iterator = breakIterator(UBRK_SENTENCE, locale);
     while (!text.empty()) {
         const std::u16string_view piece = takePiece(text);
