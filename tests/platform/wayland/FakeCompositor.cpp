@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -19,106 +20,9 @@
 
 namespace nerlo::platform::test {
 
-namespace {
-
-FakeCompositor &compositorOf(wl_resource *resource) {
-    return *static_cast<FakeCompositor *>(wl_resource_get_user_data(resource));
-}
-
-// The type of the object that a request makes. The two names of the protocol differ in nothing
-// else.
-const wl_interface *made(const wl_interface *manager, int request) {
-    return manager->methods[request].types[0];
-}
-
-void destroyResource(wl_client *, wl_resource *resource) {
-    wl_resource_destroy(resource);
-}
-
-} // namespace
-
-// The requests of the program.
-struct Requests {
-    static void createSource(wl_client *client, wl_resource *manager, std::uint32_t id) {
-        auto &self = compositorOf(manager);
-        wl_resource *source = wl_resource_create(client, made(self.managerInterface_, 0), 1, id);
-        static const struct zwlr_data_control_source_v1_interface requests {
-            .offer =
-                [](wl_client *, wl_resource *of, const char *format) {
-                    compositorOf(of).programFormats_.emplace_back(format);
-                },
-            .destroy = destroyResource
-        };
-        self.programFormats_.clear();
-        wl_resource_set_implementation(source, &requests, &self, [](wl_resource *gone) {
-            auto &compositor = compositorOf(gone);
-            if (compositor.source_ == gone) {
-                compositor.source_ = nullptr;
-            }
-        });
-    }
-
-    static void getDevice(wl_client *client, wl_resource *manager, std::uint32_t id,
-                          wl_resource *) {
-        auto &self = compositorOf(manager);
-        self.device_ = wl_resource_create(client, made(self.managerInterface_, 1), 1, id);
-        static const struct zwlr_data_control_device_v1_interface requests {
-            .set_selection =
-                [](wl_client *, wl_resource *device, wl_resource *source) {
-                    auto &compositor = compositorOf(device);
-                    compositor.setProgramSource(source);
-                    if (std::exchange(compositor.overtake_, false)) {
-                        compositor.replace({"text/plain"}, nullptr);
-                    }
-                },
-            .destroy = destroyResource,
-            .set_primary_selection = [](wl_client *, wl_resource *, wl_resource *) {}
-        };
-        wl_resource_set_implementation(self.device_, &requests, &self, [](wl_resource *gone) {
-            auto &compositor = compositorOf(gone);
-            if (compositor.device_ == gone) {
-                compositor.device_ = nullptr;
-            }
-        });
-        self.announce(self.formats_.empty() ? nullptr : &self.formats_);
-    }
-
-    static void bindManager(wl_client *client, void *data, std::uint32_t version,
-                            std::uint32_t id) {
-        auto *self = static_cast<FakeCompositor *>(data);
-        wl_resource *manager =
-            wl_resource_create(client, self->managerInterface_, static_cast<int>(version), id);
-        static const struct zwlr_data_control_manager_v1_interface requests {
-            .create_data_source = createSource, .get_data_device = getDevice,
-            .destroy = destroyResource
-        };
-        wl_resource_set_implementation(manager, &requests, self, nullptr);
-    }
-
-    static void bindSeat(wl_client *client, void *, std::uint32_t version, std::uint32_t id) {
-        wl_resource *seat =
-            wl_resource_create(client, &wl_seat_interface, static_cast<int>(version), id);
-        wl_resource_set_implementation(seat, nullptr, nullptr, nullptr);
-    }
-
-    static void receive(wl_client *, wl_resource *offer, const char *format, std::int32_t fd) {
-        auto &self = compositorOf(offer);
-        if (offer != self.offer_) {
-            close(fd);
-        } else if (self.source_) {
-            zwlr_data_control_source_v1_send_send(self.source_, format, fd);
-            close(fd);
-        } else if (self.owner_) {
-            self.owner_(format, fd);
-        } else {
-            close(fd);
-        }
-    }
-};
-
-FakeCompositor::FakeCompositor(const wl_interface *manager, int seats,
-                               const std::function<void(wl_display *)> &more)
-    : managerInterface_(manager) {
+FakeCompositor::FakeCompositor(const wl_interface *manager, int seats, More more)
+    : manager_(manager)
+    , more_(std::move(more)) {
     std::array<char, 64> name{};
     std::strcpy(name.data(), "/tmp/nerlo-compositor.XXXXXX");
     folder_ = mkdtemp(name.data());
@@ -133,15 +37,15 @@ FakeCompositor::FakeCompositor(const wl_interface *manager, int seats,
         std::abort();
     }
     wl_display_add_socket_fd(server_, listener);
+    wl_display_init_shm(server_);
     for (int i = 0; i < seats; ++i) {
-        seats_.push_back(
-            wl_global_create(server_, &wl_seat_interface, 1, nullptr, Requests::bindSeat));
+        seats_.push_back(offer(&wl_seat_interface));
     }
     if (manager) {
-        wl_global_create(server_, manager, 1, this, Requests::bindManager);
+        offer(manager);
     }
-    if (more) {
-        more(server_);
+    for (const wl_interface *global : more_.globals) {
+        offer(global);
     }
     wake_ = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
     thread_ = std::thread([this] { serve(); });
@@ -199,21 +103,99 @@ void FakeCompositor::run(const std::function<void()> &task) {
     changed_.wait(lock, [this] { return !task_; });
 }
 
-// Offers `formats` to the program as the new content; null: nothing.
-void FakeCompositor::announce(const std::vector<std::string> *formats) {
+wl_global *FakeCompositor::offer(const wl_interface *interface) {
+    globals_.push_back({this, interface});
+    const int version = interface == &wl_compositor_interface ? 3 : 1; // with a buffer scale
+    return wl_global_create(
+        server_, interface, version, &globals_.back(),
+        [](wl_client *client, void *data, std::uint32_t bound, std::uint32_t id) {
+            const auto &global = *static_cast<const Global *>(data);
+            auto &self = *global.compositor;
+            wl_resource *made = self.make(client, global.interface, static_cast<int>(bound), id);
+            self.answer(global.interface->name + std::string(".bind"), made, nullptr, made);
+        });
+}
+
+wl_resource *FakeCompositor::make(wl_client *client, const wl_interface *interface, int version,
+                                  std::uint32_t id) {
+    wl_resource *made = wl_resource_create(client, interface, version, id);
+    wl_resource_set_dispatcher(made, dispatch, nullptr, this, [](wl_resource *gone) {
+        auto &self = *static_cast<FakeCompositor *>(wl_resource_get_user_data(gone));
+        for (wl_resource **held : {&self.device_, &self.source_}) {
+            *held = *held == gone ? nullptr : *held;
+        }
+    });
+    return made;
+}
+
+// Each request of each object: what it is to make is made, and what it is to destroy is destroyed.
+int FakeCompositor::dispatch(const void *, void *target, std::uint32_t, const wl_message *message,
+                             wl_argument *arguments) {
+    auto *object = static_cast<wl_resource *>(target);
+    auto &self = *static_cast<FakeCompositor *>(wl_resource_get_user_data(object));
+    wl_resource *made = nullptr;
+    int index = 0;
+    for (const char *type = message->signature; *type; ++type) {
+        if (*type == 'n') {
+            made = self.make(wl_resource_get_client(object), message->types[index],
+                             wl_resource_get_version(object), arguments[index].n);
+        }
+        index += std::isalpha(*type) ? 1 : 0; // the others are the version and "may be null"
+    }
+    const std::string request = message->name;
+    self.answer(wl_resource_get_class(object) + ("." + request), object, arguments, made);
+    if (request == "destroy") {
+        wl_resource_destroy(object);
+    }
+    return 0;
+}
+
+// The two names of the data-control protocol differ in nothing else.
+void FakeCompositor::answer(const std::string &request, wl_resource *object,
+                            const wl_argument *arguments, wl_resource *made) {
+    const auto is = [&](const char *end) { return request.ends_with(end); };
+    if (is("_manager_v1.create_data_source")) {
+        programFormats_.clear();
+    } else if (is("_manager_v1.get_data_device")) {
+        device_ = made;
+        announce();
+    } else if (is("_control_source_v1.offer")) {
+        programFormats_.emplace_back(arguments[0].s);
+    } else if (is("_control_device_v1.set_selection")) {
+        auto *source = reinterpret_cast<wl_resource *>(arguments[0].o);
+        replace(source ? programFormats_ : std::vector<std::string>(), nullptr, source);
+        if (std::exchange(overtake_, false)) {
+            replace({"text/plain"}, nullptr);
+        }
+    } else if (is("_control_offer_v1.receive")) {
+        receive(object, arguments[0].s, arguments[1].h);
+    } else if (more_.answer) {
+        more_.answer(request, object, made);
+    }
+}
+
+void FakeCompositor::receive(wl_resource *offer, const char *format, int fd) {
+    if (offer == offer_ && owner_) {
+        owner_(format, fd);
+        return;
+    }
+    if (offer == offer_ && source_) {
+        zwlr_data_control_source_v1_send_send(source_, format, fd);
+    }
+    close(fd);
+}
+
+// Offers the content to the program.
+void FakeCompositor::announce() {
     if (!device_) {
         return;
     }
     wl_resource *offer = nullptr;
-    if (formats) {
-        offer = wl_resource_create(wl_resource_get_client(device_),
-                                   made(managerInterface_, 1)->events[0].types[0], 1, 0);
-        static const struct zwlr_data_control_offer_v1_interface requests {
-            .receive = Requests::receive, .destroy = destroyResource
-        };
-        wl_resource_set_implementation(offer, &requests, this, nullptr);
+    if (!formats_.empty()) {
+        const wl_interface *device = manager_->methods[1].types[0];
+        offer = make(wl_resource_get_client(device_), device->events[0].types[0], 1, 0);
         zwlr_data_control_device_v1_send_data_offer(device_, offer);
-        for (const auto &format : *formats) {
+        for (const auto &format : formats_) {
             zwlr_data_control_offer_v1_send_offer(offer, format.c_str());
         }
     }
@@ -221,25 +203,16 @@ void FakeCompositor::announce(const std::vector<std::string> *formats) {
     offer_ = offer;
 }
 
-void FakeCompositor::setProgramSource(wl_resource *source) {
-    if (wl_resource *old = std::exchange(source_, nullptr)) {
-        zwlr_data_control_source_v1_send_cancelled(old);
-    }
-    source_ = source;
-    owner_ = nullptr;
-    formats_ = source ? programFormats_ : std::vector<std::string>();
-    if (!quiet_) {
-        announce(source ? &formats_ : nullptr);
-    }
-}
-
-void FakeCompositor::replace(std::vector<std::string> formats, Owner owner) {
-    if (wl_resource *old = std::exchange(source_, nullptr)) {
+// By another program's copy, or by the program's `source`.
+void FakeCompositor::replace(std::vector<std::string> formats, Owner owner, wl_resource *source) {
+    if (wl_resource *old = std::exchange(source_, source)) {
         zwlr_data_control_source_v1_send_cancelled(old);
     }
     owner_ = std::move(owner);
     formats_ = std::move(formats);
-    announce(formats_.empty() ? nullptr : &formats_);
+    if (!source || !quiet_) {
+        announce();
+    }
 }
 
 void FakeCompositor::copy(std::vector<std::string> formats, Owner owner) {
@@ -252,10 +225,6 @@ void FakeCompositor::copyText(const std::string &text) {
         [[maybe_unused]] const auto written = write(fd, text.data(), text.size());
         close(fd);
     });
-}
-
-void FakeCompositor::empty() {
-    copy({}, nullptr);
 }
 
 void FakeCompositor::overtakeNextWrite() {
@@ -300,10 +269,7 @@ std::optional<std::string> FakeCompositor::paste(const std::string &format) {
 }
 
 void FakeCompositor::addSeat() {
-    run([this] {
-        seats_.push_back(
-            wl_global_create(server_, &wl_seat_interface, 1, nullptr, Requests::bindSeat));
-    });
+    run([this] { seats_.push_back(offer(&wl_seat_interface)); });
 }
 
 void FakeCompositor::removeSeat() {

@@ -5,16 +5,20 @@
 
 #include <condition_variable>
 #include <functional>
+#include <list>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
+struct wl_client;
 struct wl_display;
 struct wl_global;
 struct wl_interface;
+struct wl_message;
 struct wl_resource;
+union wl_argument;
 
 namespace nerlo::platform::test {
 
@@ -24,9 +28,17 @@ class FakeCompositor {
     // later.
     using Owner = std::function<void(const std::string &format, int fd)>;
 
-    // The managers' protocol, null for none. `more` may add to what it offers.
-    explicit FakeCompositor(const wl_interface *manager, int seats = 1,
-                            const std::function<void(wl_display *)> &more = {});
+    // What else it offers. Each object is made that the program asks for; `answer` is told, on the
+    // compositor's thread, of each request ("wl_surface.commit", and "wl_seat.bind" for a bind)
+    // with its object and with the one that it made.
+    struct More {
+        std::vector<const wl_interface *> globals;
+        std::function<void(const std::string &request, wl_resource *object, wl_resource *made)>
+            answer;
+    };
+
+    // The managers' protocol, null for none.
+    explicit FakeCompositor(const wl_interface *manager, int seats = 1, More more = {});
     ~FakeCompositor();
 
     // The path of the socket.
@@ -35,7 +47,7 @@ class FakeCompositor {
     void copy(std::vector<std::string> formats, Owner owner);
     // A copy of one text by an owner that behaves.
     void copyText(const std::string &text);
-    void empty();
+    void empty() { copy({}, nullptr); }
     // Another program copies right after the program's next write, before that is confirmed.
     void overtakeNextWrite();
     // From now on the program is not told of its own writes.
@@ -60,18 +72,30 @@ class FakeCompositor {
     void die();
 
   private:
+    struct Global {
+        FakeCompositor *compositor;
+        const wl_interface *interface;
+    };
+
     void run(const std::function<void()> &task);
-    void announce(const std::vector<std::string> *formats);
     void serve();
-    void setProgramSource(wl_resource *source);
-    void replace(std::vector<std::string> formats, Owner owner);
+    wl_global *offer(const wl_interface *interface);
+    wl_resource *make(wl_client *client, const wl_interface *interface, int version,
+                      std::uint32_t id);
+    static int dispatch(const void *, void *target, std::uint32_t, const wl_message *message,
+                        wl_argument *arguments);
+    void answer(const std::string &request, wl_resource *object, const wl_argument *arguments,
+                wl_resource *made);
+    void receive(wl_resource *offer, const char *format, int fd);
+    void announce();
+    void replace(std::vector<std::string> formats, Owner owner, wl_resource *source = nullptr);
 
-    friend struct Requests;
-
-    const wl_interface *managerInterface_;
+    const wl_interface *manager_;
+    More more_;
     std::string folder_;
     std::string path_;
     wl_display *server_ = nullptr;
+    std::list<Global> globals_;
     std::vector<wl_global *> seats_;
     wl_resource *device_ = nullptr;
     wl_resource *offer_ = nullptr;  // the last one; those before are dead

@@ -22,115 +22,24 @@ using namespace std::chrono_literals;
 // What the compositor does; on its thread.
 struct LayerShell {
     std::function<void(wl_resource *role)> answer; // to the first commit of a surface
+    bool pointer = false;                          // there is one, but it is nowhere
     std::atomic<bool> shown = false;
     wl_resource *role = nullptr; // of the surface made last
 
-    static LayerShell &of(wl_resource *resource) {
-        return *static_cast<LayerShell *>(wl_resource_get_user_data(resource));
-    }
-    static void destroy(wl_client *, wl_resource *resource) { wl_resource_destroy(resource); }
-
-    static void createSurface(wl_client *client, wl_resource *compositor, std::uint32_t id) {
-        static const struct wl_surface_interface requests {
-            .destroy = destroy,
-            .attach = [](wl_client *, wl_resource *surface, wl_resource *, std::int32_t,
-                         std::int32_t) { of(surface).shown = true; },
-            .damage = [](wl_client *, wl_resource *, std::int32_t, std::int32_t, std::int32_t,
-                         std::int32_t) {},
-            .frame = nullptr, .set_opaque_region = nullptr, .set_input_region = nullptr,
-            .commit =
-                [](wl_client *, wl_resource *surface) {
-                    auto &self = of(surface);
-                    if (wl_resource *committed = std::exchange(self.role, nullptr)) {
-                        self.answer(committed);
+    test::FakeCompositor::More offer() {
+        return {{&wl_compositor_interface, &zwlr_layer_shell_v1_interface, &wl_output_interface,
+                 &wp_viewporter_interface},
+                [this](const std::string &request, wl_resource *object, wl_resource *made) {
+                    if (request == "zwlr_layer_shell_v1.get_layer_surface") {
+                        role = made;
+                    } else if (request == "wl_surface.attach") {
+                        shown = true;
+                    } else if (request == "wl_surface.commit" && role) {
+                        answer(std::exchange(role, nullptr));
+                    } else if (request == "wl_seat.bind" && pointer) {
+                        wl_seat_send_capabilities(object, WL_SEAT_CAPABILITY_POINTER);
                     }
-                },
-            .set_buffer_transform = nullptr,
-            .set_buffer_scale = [](wl_client *, wl_resource *, std::int32_t) {},
-            .damage_buffer = nullptr, .offset = nullptr
-        };
-        wl_resource_set_implementation(wl_resource_create(client, &wl_surface_interface, 3, id),
-                                       &requests, &of(compositor), nullptr);
-    }
-
-    static void getLayerSurface(wl_client *client, wl_resource *shell, std::uint32_t id,
-                                wl_resource *, wl_resource *, std::uint32_t, const char *) {
-        static const struct zwlr_layer_surface_v1_interface requests {
-            .set_size = [](wl_client *, wl_resource *, std::uint32_t, std::uint32_t) {},
-            .set_anchor = [](wl_client *, wl_resource *, std::uint32_t) {},
-            .set_exclusive_zone = [](wl_client *, wl_resource *, std::int32_t) {},
-            .set_margin = [](wl_client *, wl_resource *, std::int32_t, std::int32_t, std::int32_t,
-                             std::int32_t) {},
-            .set_keyboard_interactivity = [](wl_client *, wl_resource *, std::uint32_t) {},
-            .get_popup = nullptr, .ack_configure = [](wl_client *, wl_resource *, std::uint32_t) {},
-            .destroy = destroy, .set_layer = nullptr
-        };
-        auto &self = of(shell);
-        self.role = wl_resource_create(client, &zwlr_layer_surface_v1_interface, 1, id);
-        wl_resource_set_implementation(self.role, &requests, &self, nullptr);
-    }
-
-    void offer(wl_display *server) {
-        wl_display_init_shm(server);
-        wl_global_create(server, &wl_compositor_interface, 3, this,
-                         [](wl_client *client, void *self, std::uint32_t, std::uint32_t id) {
-                             static const struct wl_compositor_interface requests {
-                                 .create_surface = createSurface, .create_region = nullptr
-                             };
-                             wl_resource_set_implementation(
-                                 wl_resource_create(client, &wl_compositor_interface, 3, id),
-                                 &requests, self, nullptr);
-                         });
-        wl_global_create(server, &zwlr_layer_shell_v1_interface, 1, this,
-                         [](wl_client *client, void *self, std::uint32_t, std::uint32_t id) {
-                             static const struct zwlr_layer_shell_v1_interface requests {
-                                 .get_layer_surface = getLayerSurface, .destroy = nullptr
-                             };
-                             wl_resource_set_implementation(
-                                 wl_resource_create(client, &zwlr_layer_shell_v1_interface, 1, id),
-                                 &requests, self, nullptr);
-                         });
-    }
-
-    // Also a screen, and a pointer that is nowhere.
-    static void offerPointer(wl_display *server) {
-        wl_global_create(server, &wl_output_interface, 1, nullptr,
-                         [](wl_client *client, void *, std::uint32_t, std::uint32_t id) {
-                             wl_resource_create(client, &wl_output_interface, 1, id);
-                         });
-        wl_global_create(server, &wl_seat_interface, 1, nullptr,
-                         [](wl_client *client, void *, std::uint32_t, std::uint32_t id) {
-                             static const struct wl_seat_interface requests {
-                                 .get_pointer =
-                                     [](wl_client *of, wl_resource *, std::uint32_t pointer) {
-                                         wl_resource_create(of, &wl_pointer_interface, 1, pointer);
-                                     },
-                                 .get_keyboard = nullptr, .get_touch = nullptr, .release = nullptr
-                             };
-                             wl_resource *seat =
-                                 wl_resource_create(client, &wl_seat_interface, 1, id);
-                             wl_resource_set_implementation(seat, &requests, nullptr, nullptr);
-                             wl_seat_send_capabilities(seat, WL_SEAT_CAPABILITY_POINTER);
-                         });
-        wl_global_create(
-            server, &wp_viewporter_interface, 1, nullptr,
-            [](wl_client *client, void *, std::uint32_t, std::uint32_t id) {
-                static const struct wp_viewport_interface viewport {
-                    .destroy = destroy, .set_source = nullptr,
-                    .set_destination = [](wl_client *, wl_resource *, std::int32_t, std::int32_t) {}
-                };
-                static const struct wp_viewporter_interface requests {
-                    .destroy = nullptr, .get_viewport = [](wl_client *of, wl_resource *,
-                                                           std::uint32_t made, wl_resource *) {
-                        wl_resource_set_implementation(
-                            wl_resource_create(of, &wp_viewport_interface, 1, made), &viewport,
-                            nullptr, nullptr);
-                    }
-                };
-                wl_resource_set_implementation(
-                    wl_resource_create(client, &wp_viewporter_interface, 1, id), &requests, nullptr,
-                    nullptr);
-            });
+                }};
     }
 };
 
@@ -181,8 +90,7 @@ TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
         SCOPED_TRACE(row.answers);
         LayerShell shell;
         shell.answer = row.answer;
-        const test::FakeCompositor compositor(nullptr, 1,
-                                              [&](wl_display *server) { shell.offer(server); });
+        const test::FakeCompositor compositor(nullptr, 1, shell.offer());
         MemoryMainQueue queue;
         const auto created = createWaylandPopupLayer(queue, compositor.display());
         ASSERT_TRUE(created.backend) << created.declined;
@@ -211,10 +119,8 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
         shell.answer = [](wl_resource *role) {
             zwlr_layer_surface_v1_send_configure(role, 1, 1280, 800);
         };
-        const test::FakeCompositor compositor(nullptr, 0, [&](wl_display *server) {
-            shell.offer(server);
-            LayerShell::offerPointer(server);
-        });
+        shell.pointer = true;
+        const test::FakeCompositor compositor(nullptr, 1, shell.offer());
         MemoryMainQueue queue;
         const auto created = createWaylandPopupLayer(queue, compositor.display());
         std::atomic<bool> placed = false;
