@@ -32,17 +32,6 @@ std::string contentOf(const std::string &path) {
 
 } // namespace
 
-bool until(const std::function<bool()> &done, std::chrono::milliseconds limit) {
-    const auto end = std::chrono::steady_clock::now() + limit;
-    while (!done()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    }
-    return true;
-}
-
 Process::Process(const Arguments &command, std::string_view input)
     : outputPath_(sessionFile()) {
     const std::string inputPath = sessionFile();

@@ -1,8 +1,8 @@
 // Programs that a test starts, watches and ends.
 #pragma once
 
-#include <chrono>
-#include <functional>
+#include "tests/Until.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,10 +13,6 @@
 namespace nerlo::test {
 
 using Arguments = std::vector<std::string>;
-
-// Waits until `done`; false after `limit`.
-bool until(const std::function<bool()> &done,
-           std::chrono::milliseconds limit = std::chrono::seconds(20));
 
 // A running program; its output goes to a file, so that children which it leaves behind do not
 // matter. Killed with the object if it still runs.

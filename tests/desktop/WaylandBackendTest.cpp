@@ -3,6 +3,7 @@
 #include "platform/wayland/WaylandActiveApplication.h"
 #include "platform/wayland/WaylandPasteboard.h"
 #include "tests/desktop/Process.h"
+#include "tests/platform/PasteboardUser.h"
 
 #include <algorithm>
 #include <csignal>
@@ -18,6 +19,7 @@ namespace nerlo::platform {
 namespace {
 
 using namespace std::chrono_literals;
+using test::content;
 using test::outputOf;
 using test::Process;
 
@@ -40,52 +42,23 @@ class Manager {
 
 class WaylandBackend : public testing::Test {
   protected:
-    WaylandBackend()
-        : created(createWaylandPasteboard(queue)) {}
+    void SetUp() override { ASSERT_TRUE(clipboard.pasteboard); }
 
-    Pasteboard &pasteboard() { return *created.backend; }
-    bool until(const std::function<bool()> &done) {
-        return test::until([&] {
-            queue.runPosted();
-            return done();
-        });
-    }
-    bool untilCount(ChangeCount count) {
-        return until([&] { return pasteboard().changeCount() == count; });
-    }
-    void copy(const std::string &text) { ASSERT_TRUE(outputOf({"wl-copy"}, text)); }
-
-    PasteboardRead read(std::vector<std::string> formats, std::size_t limit = 200 << 20) {
-        std::optional<PasteboardRead> result;
-        pasteboard().read(pasteboard().changeCount(), std::move(formats), limit,
-                          [&](PasteboardRead got) { result = std::move(got); });
-        until([&] { return result.has_value(); });
-        return result.value_or(PasteboardRead());
-    }
-    std::string text() {
-        const auto result = read({"text/plain;charset=utf-8"});
-        return result.content.empty() ? "(nothing)" : *result.content[0].bytes;
-    }
+    static void copy(const std::string &text) { ASSERT_TRUE(outputOf({"wl-copy"}, text)); }
     PasteboardWrite write(const std::string &bytes, std::optional<ChangeCount> over = {}) {
-        std::optional<PasteboardWrite> result;
-        const auto shared = std::make_shared<const std::string>(bytes);
-        pasteboard().write({{"text/plain;charset=utf-8", {}, shared}, {"text/plain", {}, shared}},
-                           over, [&](PasteboardWrite got) { result = got; });
-        until([&] { return result.has_value(); });
-        return result.value_or(PasteboardWrite());
+        return clipboard.write(content({"text/plain;charset=utf-8", "text/plain"}, bytes), over);
     }
 
     MemoryMainQueue queue;
-    Created<Pasteboard> created;
+    test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue).backend};
 };
 
 TEST_F(WaylandBackend, ExchangesTextWithRealProgramsAndCountsExactly) {
-    ASSERT_TRUE(created.backend) << created.declined;
-    auto count = pasteboard().changeCount();
+    auto count = clipboard.pasteboard->changeCount();
     for (int i = 0; i < 20; ++i) {
         copy("copy " + std::to_string(i));
-        ASSERT_TRUE(untilCount(++count)) << i;
-        ASSERT_EQ(text(), "copy " + std::to_string(i));
+        ASSERT_TRUE(clipboard.untilCount(++count)) << i;
+        ASSERT_EQ(clipboard.text(), "copy " + std::to_string(i));
         const auto written = write("write " + std::to_string(i));
         ASSERT_EQ(written.status, PasteboardStatus::done);
         ASSERT_EQ(written.changeCount, ++count);
@@ -93,29 +66,27 @@ TEST_F(WaylandBackend, ExchangesTextWithRealProgramsAndCountsExactly) {
     }
     EXPECT_EQ(outputOf({"wl-paste", "-l"}), "text/plain;charset=utf-8\ntext/plain\n");
     outputOf({"wl-copy", "--clear"});
-    EXPECT_TRUE(untilCount(++count));
+    EXPECT_TRUE(clipboard.untilCount(++count));
     outputOf({"wl-copy", "--primary"}, "the primary selection is not ours");
     copy("last");
-    EXPECT_TRUE(untilCount(++count));
+    EXPECT_TRUE(clipboard.untilCount(++count));
 }
 
 // The end of the pipe looks like the end of the text; that the content went with its owner may show
 // only a moment later, but no write in its place gets through.
 TEST_F(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
-    ASSERT_TRUE(created.backend) << created.declined;
-    const auto start = pasteboard().changeCount();
+    const auto start = clipboard.pasteboard->changeCount();
     Process owner({ownerProgram, "--die-after", "70000", "text/plain;charset=utf-8=*1000000"});
     ASSERT_TRUE(owner.waitForLine("owned"));
-    ASSERT_TRUE(untilCount(start + 1));
-    EXPECT_LE(text().size(), 70'000u);
-    ASSERT_TRUE(untilCount(start + 2));
+    ASSERT_TRUE(clipboard.untilCount(start + 1));
+    EXPECT_LE(clipboard.text().size(), 70'000u);
+    ASSERT_TRUE(clipboard.untilCount(start + 2));
     EXPECT_EQ(write("half, but cleaned", start + 1).status, PasteboardStatus::changed);
 }
 
 // The compositor throws clients out that cannot take the list as fast as it comes, this one perhaps
 // too.
 TEST_F(WaylandBackend, SurvivesAListOfFormatsOutOfAllProportion) {
-    ASSERT_TRUE(created.backend) << created.declined;
     for (const char *number : {"1000", "10000", "30000"}) {
         SCOPED_TRACE(number);
         Process owner({ownerProgram, "--more-formats", number, "text/plain", "x"});
@@ -123,27 +94,25 @@ TEST_F(WaylandBackend, SurvivesAListOfFormatsOutOfAllProportion) {
         owner.signal(SIGKILL);
         owner.wait();
         EXPECT_TRUE(test::until([&] { return outputOf({"wl-copy"}, "next").has_value(); }));
-        EXPECT_TRUE(until([&] { return text() == "next"; }));
+        EXPECT_TRUE(clipboard.until([&] { return clipboard.text() == "next"; }));
     }
 }
 
 TEST_F(WaylandBackend, AManagerHasTheTextWhenTheProgramEndsRightAfterItsWrite) {
-    ASSERT_TRUE(created.backend) << created.declined;
     const Manager manager;
     copy("before");
-    ASSERT_TRUE(until([&] { return manager.kept() == "before"; }));
+    ASSERT_TRUE(clipboard.until([&] { return manager.kept() == "before"; }));
     const std::string written(3'000'000, 'w');
     write(written);
-    created.backend.reset();
+    clipboard.pasteboard.reset();
     EXPECT_TRUE(test::until([&] { return manager.kept() == written; }, 5s));
 }
 
 TEST_F(WaylandBackend, IsNotWokenWhileTheClipboardRests) {
-    ASSERT_TRUE(created.backend) << created.declined;
-    const auto start = pasteboard().changeCount();
+    const auto start = clipboard.pasteboard->changeCount();
     copy("x");
-    ASSERT_TRUE(untilCount(start + 1));
-    ASSERT_EQ(text(), "x");
+    ASSERT_TRUE(clipboard.untilCount(start + 1));
+    ASSERT_EQ(clipboard.text(), "x");
     // Until the thread rests: the last transfer may just be over.
     long woken = 0;
     test::until([&] { return std::exchange(woken, test::wakeUps("wayland")) == woken; });
@@ -156,13 +125,12 @@ TEST_F(WaylandBackend, IsNotWokenWhileTheClipboardRests) {
 }
 
 TEST_F(WaylandBackend, SaysWhenTheCompositorIsGone) {
-    ASSERT_TRUE(created.backend) << created.declined;
     bool lost = false;
-    pasteboard().setLostHandler([&] { lost = true; });
+    clipboard.pasteboard->setLostHandler([&] { lost = true; });
     outputOf({"swaymsg", "exit"});
-    ASSERT_TRUE(until([&] { return lost; }));
+    ASSERT_TRUE(clipboard.until([&] { return lost; }));
     EXPECT_EQ(write("x").status, PasteboardStatus::unavailable);
-    EXPECT_EQ(read({"text/plain"}).status, PasteboardStatus::unavailable);
+    EXPECT_EQ(clipboard.read({"text/plain"}).status, PasteboardStatus::unavailable);
     const auto woken = test::wakeUps("wayland");
     std::this_thread::sleep_for(1s);
     EXPECT_LE(test::wakeUps("wayland") - woken, 1) << "it spins";
@@ -174,10 +142,7 @@ TEST(WaylandApplications, NamesTheOneThatComesToTheFront) {
     ASSERT_TRUE(created.backend) << created.declined;
     std::vector<std::string> seen;
     const auto until = [&](const std::vector<std::string> &expected) {
-        return test::until([&] {
-            queue.runPosted();
-            return seen == expected;
-        });
+        return test::until(queue, [&] { return seen == expected; });
     };
     const auto window = [](const std::string &appId) {
         return test::Arguments{"foot", "--app-id=" + appId, "cat"};

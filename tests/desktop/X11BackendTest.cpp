@@ -5,7 +5,7 @@
 #include "platform/PasteboardFormats.h"
 #include "platform/memory/MemoryMainQueue.h"
 #include "platform/x11/Connection.h"
-#include "tests/desktop/Process.h"
+#include "tests/platform/PasteboardUser.h"
 
 #include <functional>
 #include <optional>
@@ -17,97 +17,63 @@
 namespace nerlo::platform {
 namespace {
 
-using Strings = std::vector<std::string>;
-
-PasteboardContent content(const Strings &formats, const std::string &bytes) {
-    const auto shared = std::make_shared<const std::string>(bytes);
-    PasteboardContent made;
-    for (const auto &format : formats) {
-        made.push_back({format, {}, shared});
-    }
-    return made;
-}
+using test::content;
+using test::PasteboardUser;
+using test::Strings;
 
 class X11Backend : public testing::Test {
   protected:
-    bool until(const std::function<bool()> &done) {
-        return test::until([&] {
-            queue.runPosted();
-            return done();
-        });
-    }
-    // Calls `function` with a handler, and waits for what the handler gets.
-    template <class Result>
-    Result wait(const std::function<void(std::function<void(Result)>)> &function) {
-        std::optional<Result> result;
-        function([&](Result got) { result = std::move(got); });
-        EXPECT_TRUE(until([&] { return result.has_value(); }));
-        return result.value_or(Result());
-    }
-    PasteboardFormats formats(Pasteboard &of) {
-        return wait<PasteboardFormats>([&](auto handler) { of.readFormats(handler); });
-    }
-    PasteboardRead read(Pasteboard &by, Strings wanted, std::size_t limit = 1 << 30) {
-        const auto count = formats(by).changeCount;
-        return wait<PasteboardRead>([&](auto handler) { by.read(count, wanted, limit, handler); });
-    }
-    std::string text(Pasteboard &by) {
-        const auto got = read(by, {"UTF8_STRING"}).content;
-        return got.empty() ? std::string() : *got[0].bytes;
-    }
-    PasteboardWrite write(Pasteboard &by, PasteboardContent written,
-                          std::optional<ChangeCount> onlyOver = {}) {
-        return wait<PasteboardWrite>([&](auto handler) { by.write(written, onlyOver, handler); });
-    }
+    bool until(const std::function<bool()> &done) { return ours.until(done); }
 
     MemoryMainQueue queue;
-    std::unique_ptr<Pasteboard> ours = createX11Pasteboard(queue).backend;
-    std::unique_ptr<Pasteboard> theirs = createX11Pasteboard(queue).backend;
+    PasteboardUser ours{queue, createX11Pasteboard(queue).backend};
+    PasteboardUser theirs{queue, createX11Pasteboard(queue).backend};
 };
 
 TEST_F(X11Backend, CountsEachReplacementOnceAndOwnWritesAtOnce) {
     int announced = 0;
-    ours->setChangeHandler([&] { ++announced; });
-    const auto before = ours->changeCount();
+    ours.pasteboard->setChangeHandler([&] { ++announced; });
+    const auto before = ours.pasteboard->changeCount();
     for (int i = 1; i <= 100; ++i) {
-        const auto written = write(*ours, plainTextContent("a"));
+        const auto written = ours.write(plainTextContent("a"));
         ASSERT_EQ(written.status, PasteboardStatus::done);
         ASSERT_EQ(written.changeCount, before + i);
-        ASSERT_EQ(ours->changeCount(), before + i);
+        ASSERT_EQ(ours.pasteboard->changeCount(), before + i);
     }
     for (int i = 0; i < 100; ++i) {
-        write(*theirs, plainTextContent("b"));
+        theirs.write(plainTextContent("b"));
     }
-    EXPECT_EQ(formats(*ours).changeCount, before + 200);
+    EXPECT_EQ(ours.formats().changeCount, before + 200);
     EXPECT_TRUE(until([&] { return announced > 0; }));
     // The owner's end is a change as well, and leaves an empty clipboard.
-    theirs.reset();
-    EXPECT_TRUE(until([&] { return ours->changeCount() > before + 200; }));
-    EXPECT_EQ(formats(*ours).formats, Strings());
-    EXPECT_EQ(formats(*ours).status, PasteboardStatus::done);
+    theirs.pasteboard.reset();
+    EXPECT_TRUE(until([&] { return ours.pasteboard->changeCount() > before + 200; }));
+    EXPECT_EQ(ours.formats().formats, Strings());
+    EXPECT_EQ(ours.formats().status, PasteboardStatus::done);
 }
 
 TEST_F(X11Backend, ANewerCopyAlwaysWins) {
     for (int round = 0; round < 200; ++round) {
-        write(*theirs, plainTextContent("old"));
-        const auto old = formats(*ours).changeCount;
+        theirs.write(plainTextContent("old"));
+        const auto old = ours.formats().changeCount;
         const auto newer = std::to_string(round);
         std::optional<PasteboardWrite> mine;
         std::optional<PasteboardWrite> other;
         const auto write_ours = [&] {
-            ours->write(plainTextContent("stale"), old, [&](auto result) { mine = result; });
+            ours.pasteboard->write(plainTextContent("stale"), old,
+                                   [&](auto result) { mine = result; });
         };
         if (round % 2 == 0) {
             write_ours();
         }
-        theirs->write(plainTextContent(newer), {}, [&](auto result) { other = result; });
+        theirs.pasteboard->write(plainTextContent(newer), {}, [&](auto result) { other = result; });
         if (round % 2 == 1) {
             write_ours();
         }
         ASSERT_TRUE(until([&] { return mine && other; }));
         ASSERT_EQ(other->status, PasteboardStatus::done);
-        ASSERT_EQ(text(*ours), newer);
-        ASSERT_EQ(text(*theirs), newer);
+        ASSERT_EQ(ours.text("UTF8_STRING"), newer);
+        ASSERT_EQ(theirs.text("UTF8_STRING"), newer);
     }
 }
 
@@ -116,30 +82,30 @@ TEST_F(X11Backend, CarriesLargeContentWithinTheLimit) {
     for (std::size_t i = 0; i < large.size(); ++i) {
         large[i] = static_cast<char>(i * i >> 5);
     }
-    write(*ours, content({"image/png", "UTF8_STRING"}, large));
-    for (auto *reader : {ours.get(), theirs.get()}) {
-        EXPECT_EQ(formats(*reader).formats, Strings({"image/png", "UTF8_STRING"}));
-        const auto all = read(*reader, {"UTF8_STRING", "text/html", "image/png"});
+    ours.write(content({"image/png", "UTF8_STRING"}, large));
+    for (auto *reader : {&ours, &theirs}) {
+        EXPECT_EQ(reader->formats().formats, Strings({"image/png", "UTF8_STRING"}));
+        const auto all = reader->read({"UTF8_STRING", "text/html", "image/png"});
         ASSERT_EQ(all.content.size(), 2u);
         EXPECT_EQ(*all.content[0].bytes, large);
         EXPECT_EQ(*all.content[1].bytes, large);
-        const auto one = read(*reader, {"UTF8_STRING", "image/png"}, large.size() + 1);
+        const auto one = reader->read({"UTF8_STRING", "image/png"}, large.size() + 1);
         EXPECT_EQ(one.status, PasteboardStatus::done);
         EXPECT_EQ(one.content.size(), 1u);
     }
 }
 
 TEST_F(X11Backend, KeepsTheTypeThatAnOwnerDelivers) {
-    write(*theirs, {{"TEXT", "UTF8_STRING", std::make_shared<const std::string>("x")}});
-    const auto got = read(*ours, {"TEXT"});
+    theirs.write({{"TEXT", "UTF8_STRING", std::make_shared<const std::string>("x")}});
+    const auto got = ours.read({"TEXT"});
     ASSERT_EQ(got.content.size(), 1u);
     EXPECT_EQ(got.content[0].type, "UTF8_STRING");
 }
 
 TEST_F(X11Backend, TellsWhenTheDisplayIsGone) {
     bool lost = false;
-    ours->setLostHandler([&] { lost = true; });
-    write(*ours, plainTextContent("a"));
+    ours.pasteboard->setLostHandler([&] { lost = true; });
+    ours.write(plainTextContent("a"));
     const auto connection = x11::Connection::open();
     auto *xcb = connection->get();
     const x11::Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
@@ -148,8 +114,8 @@ TEST_F(X11Backend, TellsWhenTheDisplayIsGone) {
     xcb_kill_client(xcb, owner->owner);
     xcb_flush(xcb);
     EXPECT_TRUE(until([&] { return lost; }));
-    EXPECT_EQ(formats(*ours).status, PasteboardStatus::unavailable);
-    EXPECT_EQ(write(*ours, plainTextContent("a")).status, PasteboardStatus::unavailable);
+    EXPECT_EQ(ours.formats().status, PasteboardStatus::unavailable);
+    EXPECT_EQ(ours.write(plainTextContent("a")).status, PasteboardStatus::unavailable);
 }
 
 // A window of a program with this instance and class.
@@ -186,7 +152,7 @@ TEST_F(X11Backend, NamesTheApplicationThatComesToTheFront) {
     activated.clear();
     xcb_destroy_window(connection->get(), nameless);
     xcb_flush(connection->get());
-    EXPECT_EQ(formats(*ours).status, PasteboardStatus::done); // the server has done so by now
+    EXPECT_EQ(ours.formats().status, PasteboardStatus::done); // the server has done so by now
     queue.runPosted();
     EXPECT_TRUE(activated.empty());
 }

@@ -43,12 +43,7 @@ class X11HotKeys : public testing::Test {
         ASSERT_TRUE(outputOf(command)) << arguments.front();
     }
 
-    bool waitFor(const std::function<bool()> &done) {
-        return test::until([&] {
-            queue.runPosted();
-            return done();
-        });
-    }
+    bool waitFor(const std::function<bool()> &done) { return test::until(queue, done); }
     // Waits until a press of another hot key has come through: what was pressed before has then
     // been dealt with.
     void settle() {
@@ -222,10 +217,8 @@ TEST(WaylandKeyboard, TheKeymapOfTheCompositorIsFollowed) {
     } rows[] = {{"ru", u"н"}, {"fr", u"y"}, {"de", u"z"}};
     for (const auto &row : rows) {
         ASSERT_TRUE(outputOf({"swaymsg", "-s", socket, "input * xkb_layout", row.name}));
-        EXPECT_TRUE(test::until([&] {
-            queue.runPosted();
-            return layout.textOfKey(16) == row.text;
-        })) << row.name;
+        EXPECT_TRUE(test::until(queue, [&] { return layout.textOfKey(16) == row.text; }))
+            << row.name;
     }
 }
 

@@ -6,10 +6,8 @@
 #include "platform/memory/MemoryMainQueue.h"
 #include "platform/memory/MemorySettingsStore.h"
 #include "tests/TemporaryFolder.h"
+#include "tests/Until.h"
 #include "tests/platform/FaultyFileCalls.h"
-
-#include <chrono>
-#include <thread>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -277,12 +275,7 @@ TEST(FolderWatch, TellsOfAnotherStoresWriteOnTheMainQueue) {
         FileSettingsStore other(folder / "defaults.plist");
         other.set("a", 1);
     }
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (mine.integerForKey("a") != 1 && std::chrono::steady_clock::now() < end) {
-        queue.runPosted();
-        std::this_thread::yield();
-    }
-    EXPECT_EQ(mine.integerForKey("a"), 1);
+    EXPECT_TRUE(test::until(queue, [&] { return mine.integerForKey("a") == 1; }));
 }
 
 } // namespace

@@ -18,7 +18,7 @@
 #include <wayland-server.h>
 #include <wlr-data-control-unstable-v1-server.h>
 
-namespace nerlo::platform::test {
+namespace nerlo::test {
 
 FakeCompositor::FakeCompositor(const wl_interface *manager, int seats, More more)
     : manager_(manager)
@@ -309,4 +309,4 @@ void FakeCompositor::die() {
     });
 }
 
-} // namespace nerlo::platform::test
+} // namespace nerlo::test

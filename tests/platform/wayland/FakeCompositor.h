@@ -20,7 +20,7 @@ struct wl_message;
 struct wl_resource;
 union wl_argument;
 
-namespace nerlo::platform::test {
+namespace nerlo::test {
 
 class FakeCompositor {
   public:
@@ -114,4 +114,4 @@ class FakeCompositor {
     std::thread thread_;
 };
 
-} // namespace nerlo::platform::test
+} // namespace nerlo::test

@@ -5,6 +5,7 @@
 #include "platform/memory/MemoryMainQueue.h"
 #include "platform/wayland/DataControl.h"
 #include "platform/wayland/Transfer.h"
+#include "tests/platform/PasteboardUser.h"
 #include "tests/platform/wayland/FakeCompositor.h"
 
 #include <algorithm>
@@ -24,77 +25,35 @@ namespace nerlo::platform {
 namespace {
 
 using namespace std::chrono_literals;
+using test::content;
 using test::FakeCompositor;
+using test::Strings;
 using wayland::dataControls;
 using wayland::FileDescriptor;
 
-using Strings = std::vector<std::string>;
+// Before the program's clipboard, and longer.
+struct Around {
+    MemoryMainQueue queue;
+    FakeCompositor compositor;
+};
 
-PasteboardContent content(const Strings &formats, const std::string &bytes) {
-    const auto shared = std::make_shared<const std::string>(bytes);
-    PasteboardContent made;
-    for (const auto &format : formats) {
-        made.push_back({format, {}, shared});
-    }
-    return made;
-}
-
-struct Desktop {
+struct Desktop : Around, test::PasteboardUser {
     explicit Desktop(const wl_interface *manager = dataControls[0].manager, int seats = 1)
-        : compositor(manager, seats) {
+        : Around{{}, FakeCompositor(manager, seats)}
+        , PasteboardUser{Around::queue, {}} {
         auto created = createWaylandPasteboard(queue, compositor.display());
         pasteboard = std::move(created.backend);
         declined = created.declined;
     }
-
-    // Serves the main queue until `done`; false after ten seconds.
-    bool until(const std::function<bool()> &done) {
-        const auto end = std::chrono::steady_clock::now() + 10s;
-        while (!done()) {
-            if (std::chrono::steady_clock::now() > end) {
-                return false;
-            }
-            std::this_thread::sleep_for(200us);
-            queue.runPosted();
-        }
-        return true;
-    }
-    bool untilCount(ChangeCount count) {
-        return until([&] { return pasteboard->changeCount() == count; });
-    }
-
-    PasteboardFormats formats() {
-        std::optional<PasteboardFormats> result;
-        pasteboard->readFormats([&](PasteboardFormats got) { result = std::move(got); });
-        until([&] { return result.has_value(); });
-        return result.value_or(PasteboardFormats());
-    }
-    std::optional<PasteboardRead> startedRead;
-    void startRead(const Strings &formats, std::size_t limit = 1 << 20) {
+    void startRead(const Strings &formats) {
         startedRead.reset();
-        pasteboard->read(pasteboard->changeCount(), formats, limit,
+        pasteboard->read(pasteboard->changeCount(), formats, 1 << 20,
                          [&](PasteboardRead got) { startedRead = std::move(got); });
     }
-    PasteboardRead read(const Strings &formats, std::size_t limit = 1 << 20) {
-        startRead(formats, limit);
-        until([&] { return startedRead.has_value(); });
-        return startedRead.value_or(PasteboardRead());
-    }
-    std::string text(const std::string &format = "text/plain;charset=utf-8") {
-        const auto result = read({format});
-        return result.content.size() == 1 ? *result.content[0].bytes : "(nothing)";
-    }
-    PasteboardWrite write(const PasteboardContent &what, std::optional<ChangeCount> over = {}) {
-        std::optional<PasteboardWrite> result;
-        pasteboard->write(what, over, [&](PasteboardWrite got) { result = got; });
-        until([&] { return result.has_value(); });
-        return result.value_or(PasteboardWrite());
-    }
 
-    MemoryMainQueue queue;
-    FakeCompositor compositor;
-    std::unique_ptr<Pasteboard> pasteboard;
+    using Around::queue;
     std::string declined;
+    std::optional<PasteboardRead> startedRead;
 };
 
 TEST(WaylandPasteboard, CountsReadsAndWritesUnderBothNamesOfTheProtocol) {

@@ -2,11 +2,11 @@
 #include "platform/wayland/WaylandPopupLayer.h"
 
 #include "platform/memory/MemoryMainQueue.h"
+#include "tests/Until.h"
 #include "tests/platform/wayland/FakeCompositor.h"
 
 #include <atomic>
 #include <chrono>
-#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -42,18 +42,6 @@ struct LayerShell {
                 }};
     }
 };
-
-bool until(MemoryMainQueue &queue, const std::function<bool()> &done) {
-    const auto end = std::chrono::steady_clock::now() + 10s;
-    while (!done()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        queue.runPosted();
-        std::this_thread::sleep_for(200us);
-    }
-    return true;
-}
 
 TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
     using Role = wl_resource *;
@@ -109,7 +97,8 @@ TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
         };
         popup.closed = [&] { ++gone; };
         const auto shown = created.backend->show(std::move(popup));
-        ASSERT_TRUE(until(queue, [&] { return shell.shown == row.shown && gone == row.gone; }));
+        ASSERT_TRUE(
+            test::until(queue, [&] { return shell.shown == row.shown && gone == row.gone; }));
     }
 }
 
@@ -134,10 +123,10 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
         popup.draw = [](int) { return PopupPicture(); };
         const auto shown = created.backend->show(std::move(popup));
         if (searched) { // by what covers the screen
-            ASSERT_TRUE(until(queue, [&] { return shell.shown.load(); }));
+            ASSERT_TRUE(test::until(queue, [&] { return shell.shown.load(); }));
         }
         queue.advance(1s);
-        EXPECT_TRUE(until(queue, [&] { return placed.load(); })) << searched;
+        EXPECT_TRUE(test::until(queue, [&] { return placed.load(); })) << searched;
     }
 }
 
