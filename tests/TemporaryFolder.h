@@ -1,8 +1,6 @@
 // A folder that goes with the object.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>

@@ -3,6 +3,8 @@
 
 #include "tests/TemporaryFolder.h"
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 #include <utility>

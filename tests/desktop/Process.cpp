@@ -1,10 +1,9 @@
 #include "tests/desktop/Process.h"
 
+#include "tests/TemporaryFolder.h"
+
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <thread>
 
 #include <csignal>
 #include <fcntl.h>
@@ -25,17 +24,12 @@ std::string sessionFile() {
            std::to_string(number++);
 }
 
-std::string contentOf(const std::string &path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 } // namespace
 
 Process::Process(const Arguments &command, std::string_view input)
     : outputPath_(sessionFile()) {
     const std::string inputPath = sessionFile();
-    std::ofstream(inputPath, std::ios::binary) << input;
+    putBytes(inputPath, std::string(input));
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
     posix_spawn_file_actions_addopen(&files, 0, inputPath.c_str(), O_RDONLY, 0);
@@ -65,7 +59,7 @@ Process::~Process() {
 }
 
 std::string Process::output() const {
-    return contentOf(outputPath_);
+    return bytesOf(outputPath_);
 }
 
 bool Process::waitForLine(std::string_view line) {
@@ -106,8 +100,8 @@ long wakeUps(std::string_view threadName) {
     constexpr std::string_view field = "\nvoluntary_ctxt_switches:";
     long sum = 0;
     for (const auto &thread : std::filesystem::directory_iterator("/proc/self/task")) {
-        if (contentOf(thread.path() / "comm") == std::string(threadName) + "\n") {
-            const std::string status = contentOf(thread.path() / "status");
+        if (bytesOf(thread.path() / "comm") == std::string(threadName) + "\n") {
+            const std::string status = bytesOf(thread.path() / "status");
             sum += std::stol(status.substr(status.find(field) + field.size()));
         }
     }

@@ -1,33 +1,21 @@
-// x11-owner [OPTION...] FORMAT=VALUE...: a program that owns the clipboard and offers several
-// formats; VALUE is a text, @FILE, or *N for N letters, and has no "=" in it. For the tests it can
-// also misbehave:
-//
-//   --hang             never answer
-//   --refuse           deliver no format
-//   --stall-after N    deliver N bytes, in pieces, and then nothing more
-//   --die-after N      deliver N bytes, in pieces, and die
-//   --endless          deliver pieces for ever
-//   --more-formats N   offer so many formats more, which are never delivered
-//
-// Prints "owned" when it owns the clipboard, "send FORMAT" for each request, and "replaced" when it
-// lost the clipboard, which ends it.
+// A clipboard owner in an X11 session; OwnerOptions.h tells what it can do.
 //
 // x11-owner --manager: is a clipboard manager instead. It prints "managing", saves the content when
 // it is asked to, prints "saved" and owns it from then on.
 //
 // x11-owner --watch: owns nothing, and prints "changed" for each time that somebody takes the
 // clipboard, after "watching".
+#include "OwnerOptions.h"
 #include "platform/x11/Connection.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <limits>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <unistd.h>
@@ -36,23 +24,15 @@
 namespace {
 
 using namespace nerlo::platform::x11;
+using nerlo::test::OwnerOptions;
 
 constexpr std::size_t pieceSize = 64 * 1024;
 constexpr std::size_t noLimit = std::numeric_limits<std::size_t>::max();
 
-enum class End { none, stall, die };
-
 class Owner {
   public:
-    std::map<std::string, std::string> data;
-    int moreFormats = 0;
-    bool hang = false;
-    bool refuse = false;
-    bool endless = false;
-    bool manager = false;
-    bool watch = false;
-    std::size_t deliver = noLimit; // bytes, and then
-    End end = End::none;
+    explicit Owner(OwnerOptions options)
+        : options_(std::move(options)) {}
 
     int run() {
         if (!x_) {
@@ -60,9 +40,10 @@ class Owner {
             return 1;
         }
         window_ = x_->makeWindow(XCB_EVENT_MASK_PROPERTY_CHANGE);
-        if (watch) {
+        if (options_.has("--watch")) {
             return printChanges();
         }
+        const bool manager = options_.has("--manager");
         own(manager ? "CLIPBOARD_MANAGER" : "CLIPBOARD");
         std::cout << (manager ? "managing" : "owned") << std::endl;
         while (const auto event = next()) {
@@ -137,7 +118,7 @@ class Owner {
     void answer(const xcb_selection_request_event_t &request) {
         const auto format = x_->names(std::array{request.target}, 255).front();
         std::cout << "send " << format << std::endl;
-        if (hang) {
+        if (options_.has("--hang")) {
             return;
         }
         xcb_selection_notify_event_t notify{XCB_SELECTION_NOTIFY,
@@ -148,8 +129,9 @@ class Owner {
                                             request.selection,
                                             request.target,
                                             request.property};
-        const auto found = data.find(format);
-        if (format == "SAVE_TARGETS" && manager) {
+        const auto found = options_.data.find(format);
+        const bool saves = format == "SAVE_TARGETS" && options_.has("--manager");
+        if (saves) {
             save();
         } else if (format == "TARGETS") {
             std::string atoms;
@@ -158,16 +140,17 @@ class Owner {
                 atoms.append(reinterpret_cast<const char *>(&atom), sizeof atom);
             };
             add("TARGETS");
-            for (const auto &[name, bytes] : data) {
+            for (const auto &[name, bytes] : options_.data) {
                 add(name);
             }
-            for (int i = 0; i < moreFormats; ++i) {
+            for (int i = 0; i < options_.moreFormats; ++i) {
                 add("x/" + std::to_string(i));
             }
             set(request.requestor, request.property, XCB_ATOM_ATOM, 32, atoms);
-        } else if (found == data.end() || refuse) {
+        } else if (found == options_.data.end() || options_.has("--refuse")) {
             notify.property = XCB_NONE;
-        } else if (found->second.size() <= pieceSize && deliver == noLimit && !endless) {
+        } else if (found->second.size() <= pieceSize && options_.deliver == noLimit &&
+                   !options_.has("--endless")) {
             set(request.requestor, request.property, request.target, 8, found->second);
         } else {
             const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
@@ -178,7 +161,7 @@ class Owner {
         std::array<char, 32> wire{};
         std::copy_n(reinterpret_cast<const char *>(&notify), sizeof notify, wire.begin());
         xcb_send_event(x_->get(), 0, request.requestor, 0, wire.data());
-        if (format == "SAVE_TARGETS" && manager) {
+        if (saves) {
             own("CLIPBOARD");
             std::cout << "saved" << std::endl;
         }
@@ -190,15 +173,16 @@ class Owner {
             return;
         }
         auto &sending = found->second;
-        if (sending.sent >= deliver) {
-            if (end == End::die) {
+        if (sending.sent >= options_.deliver) {
+            if (options_.dies) {
                 _exit(1);
             }
             return;
         }
         const auto piece =
-            endless ? std::string(pieceSize, 'x')
-                    : sending.bytes.substr(std::min(sending.sent, sending.bytes.size()), pieceSize);
+            options_.has("--endless")
+                ? std::string(pieceSize, 'x')
+                : sending.bytes.substr(std::min(sending.sent, sending.bytes.size()), pieceSize);
         set(event.window, event.atom, sending.type, 8, piece);
         sending.sent += piece.size();
         if (piece.empty()) {
@@ -215,7 +199,7 @@ class Owner {
         for (const auto &name : x_->names(atoms, 255)) {
             if (name != "TARGETS" && name != "MULTIPLE" && name != "TIMESTAMP" &&
                 name != "SAVE_TARGETS") {
-                data[name] = fetch(name);
+                options_.data[name] = fetch(name);
             }
         }
     }
@@ -244,49 +228,14 @@ class Owner {
         }
     }
 
+    OwnerOptions options_;
     std::unique_ptr<Connection> x_ = Connection::open();
     xcb_window_t window_ = XCB_NONE;
     std::map<std::pair<xcb_window_t, xcb_atom_t>, Sending> sendings_;
 };
 
-std::string bytesOf(const std::string &value) {
-    if (value.starts_with('@')) {
-        std::ifstream file(value.substr(1), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    return value.starts_with('*') ? std::string(std::stoul(value.substr(1)), 'x') : value;
-}
-
 } // namespace
 
 int main(int argc, char **argv) {
-    Owner owner;
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string &option = arguments[i];
-        const auto number = [&] { return std::stoul(arguments.at(++i)); };
-        if (option == "--hang") {
-            owner.hang = true;
-        } else if (option == "--refuse") {
-            owner.refuse = true;
-        } else if (option == "--endless") {
-            owner.endless = true;
-        } else if (option == "--watch") {
-            owner.watch = true;
-        } else if (option == "--manager") {
-            owner.manager = true;
-        } else if (option == "--stall-after") {
-            owner.deliver = number();
-            owner.end = End::stall;
-        } else if (option == "--die-after") {
-            owner.deliver = number();
-            owner.end = End::die;
-        } else if (option == "--more-formats") {
-            owner.moreFormats = static_cast<int>(number());
-        } else {
-            const auto equals = option.rfind('=');
-            owner.data[option.substr(0, equals)] = bytesOf(option.substr(equals + 1));
-        }
-    }
-    return owner.run();
+    return Owner(OwnerOptions(argc, argv)).run();
 }

@@ -9,6 +9,8 @@
 #include "tests/Until.h"
 #include "tests/platform/FaultyFileCalls.h"
 
+#include <gtest/gtest.h>
+
 #include <sys/stat.h>
 #include <sys/wait.h>
 

@@ -8,6 +8,8 @@
 #include "settings/nrPreferences.h"
 #include "tests/TemporaryFolder.h"
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
 #include <vector>
