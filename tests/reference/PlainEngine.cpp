@@ -4,12 +4,13 @@
 #include "engine/QuoteStyles.h"
 #include "engine/ReplacementRules.h"
 
-#include <unicode/ubrk.h>
-#include <unicode/ucol.h>
-#include <unicode/uregex.h>
-#include <unicode/ustring.h>
+#include <unicode/brkiter.h>
+#include <unicode/coll.h>
+#include <unicode/regex.h>
+#include <unicode/unistr.h>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <set>
 #include <stdexcept>
@@ -42,57 +43,28 @@ String replacedInOrder(String text, const text::ReplacementTable &table) {
     return text;
 }
 
-class Pattern {
-  public:
-    Pattern(const String &pattern, std::uint32_t flags) {
-        expression_ = uregex_open(pattern.data(), static_cast<std::int32_t>(pattern.size()), flags,
-                                  nullptr, &status_);
-        check();
+void check(UErrorCode status) {
+    if (U_FAILURE(status)) {
+        throw std::runtime_error(u_errorName(status));
     }
-    ~Pattern() { uregex_close(expression_); }
-    Pattern(const Pattern &) = delete;
-    Pattern &operator=(const Pattern &) = delete;
+}
 
-    String replaceAll(const String &text, const String &replacement) {
-        setText(text);
-        String result(text.size() * (replacement.size() + 2) + replacement.size() + 8, u'\0');
-        const auto size = uregex_replaceAll(
-            expression_, replacement.data(), static_cast<std::int32_t>(replacement.size()),
-            result.data(), static_cast<std::int32_t>(result.size()), &status_);
-        check();
-        result.resize(static_cast<std::size_t>(size));
-        return result;
-    }
+icu::UnicodeString icuText(const String &text) {
+    return {text.data(), static_cast<std::int32_t>(text.size())};
+}
 
-    std::vector<text::Range> findAll(const String &text) {
-        setText(text);
-        std::vector<text::Range> ranges;
-        while (uregex_findNext(expression_, &status_)) {
-            ranges.push_back({static_cast<std::size_t>(uregex_start(expression_, 0, &status_)),
-                              static_cast<std::size_t>(uregex_end(expression_, 0, &status_))});
-        }
-        check();
-        return ranges;
-    }
-
-  private:
-    void setText(const String &text) {
-        uregex_setText(expression_, text.data(), static_cast<std::int32_t>(text.size()), &status_);
-        check();
-    }
-    void check() const {
-        if (U_FAILURE(status_)) {
-            throw std::runtime_error(u_errorName(status_));
-        }
-    }
-
-    URegularExpression *expression_ = nullptr;
-    UErrorCode status_ = U_ZERO_ERROR;
-};
+String plainText(const icu::UnicodeString &text) {
+    return {text.getBuffer(), static_cast<std::size_t>(text.length())};
+}
 
 String replacedPattern(const String &text, const String &pattern, const String &replacement,
                        std::uint32_t flags = 0) {
-    return Pattern(pattern, flags).replaceAll(text, replacement);
+    UErrorCode status = U_ZERO_ERROR;
+    const auto input = icuText(text);
+    icu::RegexMatcher matcher(icuText(pattern), input, flags, status);
+    const auto result = matcher.replaceAll(icuText(replacement), status);
+    check(status);
+    return plainText(result);
 }
 
 const String whiteSpace = u"[\\p{Z}\\u0009-\\u000D\\u0085]";
@@ -115,71 +87,43 @@ String wrapped(const String &text, const String &prefix, const String &suffix) {
 
 String returns(const String &text, const engine::CleaningOptions &options) {
     const String custom1 = options.udChangeReturnsCustom1.stringValue();
-    switch (options.udChangeReturnsOption) {
+    const String replacements[] = {u"", u"\n", u"\n\n", u" ", u"\n ", u"\n\t", u"\n" + custom1};
+    const auto option = options.udChangeReturnsOption;
+    switch (option) {
     case 7:
         return wrapped(text, u"<p>", u"</p>");
     case 8:
         return wrapped(text, u"[img]", u"[/img]");
     case 9:
         return wrapped(text, custom1, options.udChangeReturnsCustom2.stringValue());
-    case 1:
-        return replacedPattern(allBreaks(text), u"[\n]+", u"\n");
-    case 2:
-        return replacedPattern(allBreaks(text), u"[\n]+", u"\n\n");
-    case 3:
-        return replacedPattern(allBreaks(text), u"[\n]+", u" ");
-    case 4:
-        return replacedPattern(allBreaks(text), u"[\n]+", u"\n ");
-    case 5:
-        return replacedPattern(allBreaks(text), u"[\n]+", u"\n\t");
-    case 6:
-        return replacedPattern(allBreaks(text), u"[\n]+", u"\n" + custom1);
     default:
-        return replacedPattern(allBreaks(text), u"[\n]+", u"");
+        return replacedPattern(allBreaks(text), u"[\n]+",
+                               replacements[option > 0 && option < 7 ? option : 0]);
     }
-}
-
-template <class Map>
-String mapped(Map map, const String &text, const char *locale) {
-    UErrorCode status = U_ZERO_ERROR;
-    String result(text.size() * 3 + 3, u'\0');
-    const auto size = map(result.data(), static_cast<std::int32_t>(result.size()), text.data(),
-                          static_cast<std::int32_t>(text.size()), locale, &status);
-    if (U_FAILURE(status)) {
-        throw std::runtime_error(u_errorName(status));
-    }
-    result.resize(static_cast<std::size_t>(size));
-    return result;
 }
 
 String upper(const String &text, const char *locale) {
-    return mapped(u_strToUpper, text, locale);
+    return plainText(icuText(text).toUpper(locale));
 }
 
 String lower(const String &text, const char *locale) {
-    return mapped(u_strToLower, text, locale);
-}
-
-String title(const String &text, const char *locale) {
-    const auto map = [](char16_t *to, std::int32_t room, const char16_t *from, std::int32_t size,
-                        const char *id, UErrorCode *status) {
-        return u_strToTitle(to, room, from, size, nullptr, id, status);
-    };
-    return mapped(map, text, locale);
+    return plainText(icuText(text).toLower(locale));
 }
 
 template <class Visit>
-void segments(UBreakIteratorType kind, const String &text, const char *locale, Visit visit) {
+void segments(decltype(icu::BreakIterator::createWordInstance) make, const String &text,
+              const char *locale, Visit visit) {
     UErrorCode status = U_ZERO_ERROR;
-    UBreakIterator *iterator =
-        ubrk_open(kind, locale, text.data(), static_cast<std::int32_t>(text.size()), &status);
-    std::int32_t begin = ubrk_first(iterator);
-    for (std::int32_t end = ubrk_next(iterator); end != UBRK_DONE;
-         begin = end, end = ubrk_next(iterator)) {
+    const std::unique_ptr<icu::BreakIterator> iterator(make(locale, status));
+    check(status);
+    const auto input = icuText(text);
+    iterator->setText(input);
+    std::int32_t begin = iterator->first();
+    for (std::int32_t end = iterator->next(); end != icu::BreakIterator::DONE;
+         begin = end, end = iterator->next()) {
         visit(text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)),
-              ubrk_getRuleStatus(iterator));
+              iterator->getRuleStatus());
     }
-    ubrk_close(iterator);
 }
 
 String capitalizedFirst(const String &text, const char *locale) {
@@ -214,15 +158,16 @@ std::optional<String> capitalizedSeparated(const String &sentence, const String 
 
 String smartCapitalized(const String &text, const char *locale) {
     String result;
-    segments(UBRK_SENTENCE, text, locale, [&](const String &sentence, std::int32_t) {
-        for (const char16_t *separator : {u"\u2026 ", u"... ", u". "}) {
-            if (const auto done = capitalizedSeparated(sentence, separator, locale)) {
-                result += *done;
-                return;
-            }
-        }
-        result += capitalizedFirst(sentence, locale);
-    });
+    segments(icu::BreakIterator::createSentenceInstance, text, locale,
+             [&](const String &sentence, std::int32_t) {
+                 for (const char16_t *separator : {u"\u2026 ", u"... ", u". "}) {
+                     if (const auto done = capitalizedSeparated(sentence, separator, locale)) {
+                         result += *done;
+                         return;
+                     }
+                 }
+                 result += capitalizedFirst(sentence, locale);
+             });
     return result;
 }
 
@@ -289,10 +234,17 @@ String removedTags(const String &text, bool withScripts) {
         }
         return result;
     }
-    Pattern tags(u"(?s:<!--.*?-->)|<\\?.*\\?>|(?:<[/!$]?[-a-zA-Z0-9:]+\\b(?>[^\"'>]+|\"[^\"]*\"|'["
-                 u"^']*')*>)",
-                 UREGEX_CASE_INSENSITIVE);
-    const std::vector<text::Range> matches = tags.findAll(text);
+    UErrorCode status = U_ZERO_ERROR;
+    const auto input = icuText(text);
+    icu::RegexMatcher tags(u"(?s:<!--.*?-->)|<\\?.*\\?>|(?:<[/!$]?[-a-zA-Z0-9:]+\\b(?>[^\"'>]+|"
+                           u"\"[^\"]*\"|'[^']*')*>)",
+                           input, UREGEX_CASE_INSENSITIVE, status);
+    std::vector<text::Range> matches;
+    while (tags.find(status)) {
+        matches.push_back({static_cast<std::size_t>(tags.start(status)),
+                           static_cast<std::size_t>(tags.end(status))});
+    }
+    check(status);
     bool inScript = false;
     bool isText = true;
     for (const String &piece : engine::splitByMatchesInString(text, matches)) {
@@ -416,13 +368,14 @@ String sorted(String text, std::int64_t option, std::int64_t separatorIndex, con
     }
     std::vector<String> items = split(text, separator);
     UErrorCode status = U_ZERO_ERROR;
-    UCollator *collator = ucol_open(locale.c_str(), &status);
+    const std::unique_ptr<icu::Collator> collator(
+        icu::Collator::createInstance(locale.c_str(), status));
+    check(status);
     if (option != 2 && option != 3) {
-        ucol_setStrength(collator, UCOL_SECONDARY);
+        collator->setStrength(icu::Collator::SECONDARY);
     }
     const auto compare = [&](const String &a, const String &b) {
-        return ucol_strcoll(collator, a.data(), static_cast<std::int32_t>(a.size()), b.data(),
-                            static_cast<std::int32_t>(b.size()));
+        return collator->compare(icuText(a), icuText(b), status);
     };
     const auto ascending = [&](const String &a, const String &b) { return compare(a, b) < 0; };
     const auto descending = [&](const String &a, const String &b) { return compare(a, b) > 0; };
@@ -448,7 +401,6 @@ String sorted(String text, std::int64_t option, std::int64_t separatorIndex, con
     default:
         std::ranges::stable_sort(items, ascending);
     }
-    ucol_close(collator);
     String result;
     for (const String &item : items) {
         result += item + separator;
@@ -494,7 +446,7 @@ String runOperation(std::int32_t index, const String &text,
     case 6:
         switch (o.udChangeCaseOption) {
         case 1:
-            return title(text, locale);
+            return plainText(icuText(text).toTitle(nullptr, locale));
         case 2:
             return lower(text, locale);
         case 3:
@@ -617,9 +569,10 @@ Counts count(const String &text, const std::string &locale) {
     for (const char16_t unit : text) {
         counts.spaces += unit == u' ' || unit == u'\u00A0' ? 1u : 0u;
     }
-    segments(UBRK_WORD, text, locale.c_str(), [&](const String &, std::int32_t status) {
-        counts.words += status >= UBRK_WORD_NUMBER ? 1u : 0u;
-    });
+    segments(icu::BreakIterator::createWordInstance, text, locale.c_str(),
+             [&](const String &, std::int32_t status) {
+                 counts.words += status >= UBRK_WORD_NUMBER ? 1u : 0u;
+             });
     if (!text.empty()) {
         const std::vector<String> lines = split(allBreaks(text), u"\n");
         counts.paragraphs = lines.size() - (lines.back().empty() ? 1 : 0);
