@@ -81,9 +81,14 @@ std::optional<Rule> activeRule(const platform::PropertyValue &item) {
     return Rule{text("find"), text("replace")};
 }
 
+// Begins with a token whose matches are not looked for first.
+bool isUntested(std::u16string_view replacement) {
+    return replacement.starts_with(u'!') && startsWithToken(replacement.substr(1));
+}
+
 std::u16string applyRule(std::u16string text, const Rule &rule) {
     std::u16string_view replacement = rule.replace;
-    const bool untested = replacement.starts_with(u'!') && startsWithToken(replacement.substr(1));
+    const bool untested = isUntested(replacement);
     if (untested) {
         replacement.remove_prefix(1);
     } else if (!startsWithToken(replacement)) {
@@ -135,6 +140,14 @@ std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16stri
         return replaceMatches(std::move(text), pattern, replacement.substr(deleteToken.size()));
     }
     return text;
+}
+
+bool patternIsUsable(std::u16string_view pattern) {
+    return pattern.empty() || Regex::compile(pattern, Regex::Case::Sensitive);
+}
+
+bool ruleIsUsable(std::u16string_view find, std::u16string_view replace) {
+    return !(startsWithToken(replace) || isUntested(replace)) || patternIsUsable(find);
 }
 
 std::vector<std::u16string> splitByMatchesInString(std::u16string_view text,

@@ -32,6 +32,11 @@ std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOpt
 std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16string_view replacement,
                                                std::u16string_view pattern);
 
+// Whether a pattern of the user's can be used; the empty one is none yet, and no mistake.
+bool patternIsUsable(std::u16string_view pattern);
+// Of what a rule seeks, where its replacement makes that a pattern; else true.
+bool ruleIsUsable(std::u16string_view find, std::u16string_view replace);
+
 // Text, match, text, ..., text. A text that holds the marker "%%%%%%SPLIT-ME%%%%%%" is split there
 // too, which puts the turns out by one from there on.
 std::vector<std::u16string> splitByMatchesInString(std::u16string_view text,

@@ -1,7 +1,9 @@
 #include "shell/FindReplaceTable.h"
 
+#include "engine/FindReplace.h"
 #include "shell/OptionRows.h"
 #include "shell/Strings.h"
+#include "shortcuts/view/WarningMark.h"
 
 #include <QDropEvent>
 #include <QGridLayout>
@@ -25,6 +27,18 @@ void describe(QWidget &widget, const char *name, const char *nameKey, const char
 
 constexpr int replacementRole = Qt::UserRole;
 
+void markProblem(QListWidgetItem &item) {
+    const bool usable = engine::ruleIsUsable(
+        item.text().toStdU16String(), item.data(replacementRole).toString().toStdU16String());
+    if (item.icon().isNull() == usable) {
+        return;
+    }
+    const QString problem = usable ? QString() : localized("sPatternUnusable");
+    item.setIcon(usable ? QIcon() : shortcuts::warningIcon());
+    item.setToolTip(problem);
+    item.setData(Qt::AccessibleDescriptionRole, problem);
+}
+
 // What is sought in the first half of the row, and behind an arrow what takes its place.
 class RuleDelegate final : public QStyledItemDelegate {
   public:
@@ -39,8 +53,9 @@ class RuleDelegate final : public QStyledItemDelegate {
         const QString replacement = index.data(replacementRole).toString();
         if (!replacement.isEmpty()) {
             constexpr int boxAndMargins = 32;
+            const int mark = option.icon.isNull() ? 0 : option.decorationSize.width() + 4;
             option.text = option.fontMetrics.elidedText(option.text, Qt::ElideRight,
-                                                        half.width() - boxAndMargins);
+                                                        half.width() - boxAndMargins - mark);
         }
         const QStyle &style = *option.widget->style();
         style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
@@ -59,6 +74,10 @@ class RuleDelegate final : public QStyledItemDelegate {
                            option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()),
                            selected ? QPalette::HighlightedText : QPalette::Text);
     }
+    // As wide as the list: what is longer is cut short, and shown whole by the editor.
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
 };
 
 } // namespace
@@ -66,6 +85,7 @@ class RuleDelegate final : public QStyledItemDelegate {
 RuleList::RuleList(QWidget *parent)
     : QListWidget(parent) {
     setItemDelegate(new RuleDelegate(this));
+    setIconSize(QSize(1, 1) * fontMetrics().height()); // no row is higher for its mark
     setDragDropMode(QAbstractItemView::InternalMove);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
@@ -165,6 +185,8 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
         if (find != settings::FindReplaceList::textOf(rule, "find")) {
             preferences_.selectedRow(row);
             preferences_.saveCurrentFindReplace(find);
+            const QScopedValueRollback loading(loading_, true);
+            markProblem(*item);
             showField();
         }
         preferences_.setAllBoolsInChangePasteboard();
@@ -175,6 +197,7 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
         if (auto *item = findTableView->currentItem()) {
             const QScopedValueRollback loading(loading_, true);
             item->setData(replacementRole, text);
+            markProblem(*item);
         }
         replaceTextField->setPlaceholderText(
             QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
@@ -237,6 +260,7 @@ void FindReplaceTable::addItem(const platform::PropertyValue &rule) {
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable |
                    Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
     item->setCheckState(settings::FindReplaceList::isOn(rule) ? Qt::Checked : Qt::Unchecked);
+    markProblem(*item);
     findTableView->addItem(item);
 }
 

@@ -1,9 +1,12 @@
 #include "shell/OptionRows.h"
 
+#include "engine/FindReplace.h"
 #include "settings/SettingsKeys.h"
 #include "shell/FindReplaceTable.h"
 #include "shell/Strings.h"
+#include "shortcuts/view/WarningMark.h"
 
+#include <QAction>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
@@ -25,6 +28,7 @@ constexpr auto delaySwitchKey = "udStatisticsDelaySwitcher";
 constexpr auto returnsKey = "udChangeReturnsOption";
 constexpr auto firstCustomKey = "udChangeReturnsCustom1";
 constexpr auto secondCustomKey = "udChangeReturnsCustom2";
+constexpr auto patternKey = "udInsertYourPatternTextField";
 
 struct SeparatorField {
     const char *separator;
@@ -35,8 +39,12 @@ constexpr SeparatorField separatorFields[] = {
     {"udRemoveDuplicateLinesSeparator", "udDuplicatesCustomSeparator"},
 };
 
-void describe(QWidget &widget, const std::string &key, const QString &name) {
-    const QString tip = localized(tooltipKey(key));
+void describe(QWidget &widget, const std::string &key, const QString &name,
+              const QString &problem = {}) {
+    QString tip = localized(tooltipKey(key));
+    if (!problem.isEmpty()) {
+        tip.prepend(problem + '\n');
+    }
     widget.setObjectName(QString::fromStdString(key));
     widget.setAccessibleName(name);
     widget.setAccessibleDescription(tip);
@@ -201,6 +209,18 @@ QWidget *OptionPage::makeText(const std::string &key) {
     }
     auto *field = new QLineEdit;
     describe(*field, key, localized(labelKey(key)));
+    if (key == patternKey) {
+        auto *mark = field->addAction(shortcuts::warningIcon(), QLineEdit::TrailingPosition);
+        mark->setText(localized("sPatternUnusable"));
+        mark->setVisible(false);
+        connect(field, &QLineEdit::textChanged, this, [field, mark, key](const QString &text) {
+            const bool usable = engine::patternIsUsable(text.toStdU16String());
+            if (mark->isVisible() == usable) {
+                mark->setVisible(!usable);
+                describe(*field, key, field->accessibleName(), usable ? QString() : mark->text());
+            }
+        });
+    }
     connect(field, &QLineEdit::textEdited, this, [this, key](const QString &text) {
         preferences_.controlTextDidChange(key, text.toStdU16String());
         emit edited();

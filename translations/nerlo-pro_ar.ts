@@ -712,6 +712,10 @@
 بعد (حذف): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>هذا ليس تعبيرًا نمطيًا صالحًا، لذلك لا يجد شيئًا.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>التطابقات</translation>
     </message>

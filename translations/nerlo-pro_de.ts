@@ -712,6 +712,10 @@ Vorher, mit [0-9]: a1b2
 Nachher (löschen): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Das ist kein gültiger regulärer Ausdruck, er findet also nichts.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Treffer</translation>
     </message>

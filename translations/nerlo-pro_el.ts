@@ -712,6 +712,10 @@
 Μετά (διαγραφή): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Δεν είναι έγκυρη κανονική έκφραση, γι’ αυτό δεν βρίσκει τίποτα.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Αντιστοιχίες</translation>
     </message>

@@ -712,6 +712,10 @@ Before: a1b2, with [0-9]
 After (delete): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>This is no valid regular expression, so it finds nothing.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Matches</translation>
     </message>

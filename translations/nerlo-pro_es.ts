@@ -712,6 +712,10 @@ Antes, con [0-9]: a1b2
 Después (eliminar): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>No es una expresión regular válida, así que no encuentra nada.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Coincidencias</translation>
     </message>

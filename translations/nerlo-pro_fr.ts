@@ -712,6 +712,10 @@ Avant, avec [0-9] : a1b2
 Après (supprimer) : ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Ce n’est pas une expression rationnelle valide : elle ne trouve rien.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Correspondances</translation>
     </message>

@@ -712,6 +712,10 @@ Prima, con [0-9]: a1b2
 Dopo (elimina): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Non è un’espressione regolare valida, quindi non trova nulla.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Corrispondenze</translation>
     </message>

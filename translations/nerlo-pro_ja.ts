@@ -712,6 +712,10 @@
 後（削除）：ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>正しい正規表現ではないため、何も見つかりません。</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>一致した部分</translation>
     </message>

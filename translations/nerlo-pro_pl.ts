@@ -712,6 +712,10 @@ Przed, z [0-9]: a1b2
 Po (usuń): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>To nie jest poprawne wyrażenie regularne, więc niczego nie znajduje.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Dopasowania</translation>
     </message>

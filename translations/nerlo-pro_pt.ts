@@ -712,6 +712,10 @@ Antes, com [0-9]: a1b2
 Depois (excluir): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Não é uma expressão regular válida, por isso não encontra nada.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Ocorrências</translation>
     </message>

@@ -712,6 +712,10 @@
 После (удалить): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Это неверное регулярное выражение, поэтому оно ничего не находит.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Совпадения</translation>
     </message>

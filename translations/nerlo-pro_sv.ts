@@ -712,6 +712,10 @@ Före, med [0-9]: a1b2
 Efter (ta bort): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Det här är inget giltigt reguljärt uttryck, så det hittar ingenting.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Träffar</translation>
     </message>

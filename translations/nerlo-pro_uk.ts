@@ -712,6 +712,10 @@
 Після (вилучити): ab</translation>
     </message>
     <message>
+        <source>sPatternUnusable</source>
+        <translation>Це неправильний формальний вираз, тому він нічого не знаходить.</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Збіги</translation>
     </message>

@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>sFileDamaged</source>
-        <translation>其中的内容重新开始。损坏的文件保留在原处旁边,名称中带有“.unreadable-”和时间。</translation>
+        <translation>其中的内容重新开始。损坏的文件保留在原处旁边，名称中带有“.unreadable-”和时间。</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -710,6 +710,10 @@
         <translation>正则表达式。
 之前（[0-9]）：a1b2
 之后（删除）：ab</translation>
+    </message>
+    <message>
+        <source>sPatternUnusable</source>
+        <translation>这不是有效的正则表达式，因此什么也找不到。</translation>
     </message>
     <message>
         <source>sInsertYourPatternOption</source>

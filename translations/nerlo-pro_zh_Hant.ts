@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>sFileDamaged</source>
-        <translation>其中的內容重新開始。損壞的檔案保留在原處旁邊,名稱中帶有「.unreadable-」和時間。</translation>
+        <translation>其中的內容重新開始。損壞的檔案保留在原處旁邊，名稱中帶有「.unreadable-」和時間。</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -710,6 +710,10 @@
         <translation>正規表示式。
 之前（[0-9]）：a1b2
 之後（刪除）：ab</translation>
+    </message>
+    <message>
+        <source>sPatternUnusable</source>
+        <translation>這不是有效的正規表示式，因此什麼也找不到。</translation>
     </message>
     <message>
         <source>sInsertYourPatternOption</source>

@@ -4,6 +4,7 @@
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/view/KeyEvents.h"
 #include "shortcuts/view/ShortcutAccessible.h"
+#include "shortcuts/view/WarningMark.h"
 
 #include <algorithm>
 #include <utility>
@@ -51,12 +52,6 @@ void drawGlyph(QPainter &painter, const QRectF &area, const QString &glyph, cons
     place.scale(scale, scale);
     place.translate(-bounds.center().x(), -bounds.center().y());
     painter.fillPath(place.map(shape), color);
-}
-
-// Amber that can be read on the background.
-QColor warningColor(const QPalette &palette) {
-    return palette.color(QPalette::Base).lightness() < 128 ? QColor(255, 190, 80)
-                                                           : QColor(170, 85, 0);
 }
 
 } // namespace
@@ -482,21 +477,7 @@ void nrShortcutView::paintEvent(QPaintEvent *) {
     }
 
     if (const QRect mark = warningRect(); !mark.isEmpty()) {
-        // Drawn, for not every font has the sign.
-        const qreal size = mark.height() * 0.55;
-        const QPointF middle = QRectF(mark).center();
-        const QPointF top(middle.x(), middle.y() - size / 2);
-        QPainterPath triangle(top);
-        triangle.lineTo(middle.x() + size * 0.58, middle.y() + size / 2);
-        triangle.lineTo(middle.x() - size * 0.58, middle.y() + size / 2);
-        triangle.closeSubpath();
-        const QColor color = warningColor(colors);
-        painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawPath(triangle);
-        painter.drawLine(QPointF(middle.x(), middle.y() - size * 0.15),
-                         QPointF(middle.x(), middle.y() + size * 0.15));
-        painter.drawPoint(QPointF(middle.x(), middle.y() + size * 0.35));
+        drawWarningMark(painter, mark, warningColor(colors));
     }
 }
 

@@ -209,6 +209,19 @@ TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(finds(), "acb");
     EXPECT_EQ(field.text(), "new");
+    // Of a pattern that is none the row tells, as long as it is to be one.
+    const auto told = [&] {
+        return !list.item(1)->data(Qt::AccessibleDescriptionRole).toString().isEmpty();
+    };
+    list.item(1)->setText("(c");
+    EXPECT_FALSE(told());
+    field.clear();
+    QTest::keyClicks(&field, "!{delete}");
+    EXPECT_TRUE(told());
+    preferences.hooks().updateUI(4);
+    EXPECT_TRUE(told());
+    list.item(1)->setText("c");
+    EXPECT_FALSE(told());
     list.item(0)->setCheckState(Qt::Unchecked);
     EXPECT_FALSE(settings::FindReplaceList::isOn(preferences.findReplaceList().items()[0]));
     emit list.dropped(0, 3);
@@ -219,6 +232,17 @@ TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     list.setCurrentRow(1);
     QTest::keyClick(&list, Qt::Key_Delete);
     EXPECT_EQ(finds(), "ca");
+}
+
+TEST_F(Preferences, APatternThatIsNoneIsToldWhereItIsTyped) {
+    auto &field = control<QLineEdit>("udInsertYourPatternTextField");
+    const QString description = field.accessibleDescription();
+    field.setText("[0-9");
+    EXPECT_TRUE(field.accessibleDescription().endsWith('\n' + description));
+    EXPECT_TRUE(field.actions().front()->isVisible());
+    field.setText("[0-9]");
+    EXPECT_EQ(field.accessibleDescription(), description);
+    EXPECT_FALSE(field.actions().front()->isVisible());
 }
 
 TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
