@@ -9,6 +9,9 @@
 #include <array>
 #include <csignal>
 #include <new>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -29,7 +32,21 @@ void occupyStandardDescriptors() {
     }
 }
 
+// The parser would take the next argument, most often a file, for the value of "--locale=".
+void refuseEmptyValues(std::span<char *const> arguments) {
+    for (const std::string_view argument : arguments) {
+        if (argument == "--") {
+            return;
+        }
+        if (argument.starts_with("--") && argument.find('=') == argument.size() - 1) {
+            throw Failure(ExitStatus::unusableArguments,
+                          std::string(argument) + " lacks its value\nTry `nerlo --help`.");
+        }
+    }
+}
+
 ExitStatus run(int argc, char **argv) {
+    refuseEmptyValues({argv, static_cast<std::size_t>(argc)});
     CLI::App app("Cleans text: spaces, line breaks, quotes, bullets, reply marks, tags and more.",
                  "nerlo");
     app.set_version_flag("--version", "nerlo " NERLO_VERSION, "Print the version and end");
