@@ -3,6 +3,7 @@
 #include "text/CaseMapping.h"
 #include "text/Replace.h"
 #include "text/Segmentation.h"
+#include "text/UnitScan.h"
 
 #include <array>
 #include <utility>
@@ -13,6 +14,7 @@ namespace nerlo::engine {
 namespace {
 
 constexpr std::array<std::u16string_view, 3> separators{u"\u2026 ", u"... ", u". "};
+constexpr text::UnitSet separatorBegins(u"\u2026.");
 
 // Where the pieces of a sentence begin, the first one's at 0; empty when the separator does not
 // split it.
@@ -126,8 +128,18 @@ std::u16string changeToCapitalizedFirstWordOfSentence(std::u16string text,
     std::vector<std::size_t> places; // gathered first, because the segmenter reads the text itself
     std::vector<std::size_t> begins;
     const std::u16string_view whole(text);
+    text::UnitCursor cursor(whole, separatorBegins);
+    std::size_t separatorBegin = cursor.next(); // at or after the sentence
     text::forEachSentence(whole, locale, [&](std::u16string_view sentence) {
         const auto offset = static_cast<std::size_t>(sentence.data() - whole.data());
+        // Most sentences hold none but the one that ends them.
+        while (separatorBegin < offset) {
+            separatorBegin = cursor.next();
+        }
+        if (separatorBegin + 2 >= offset + sentence.size()) {
+            places.push_back(offset);
+            return;
+        }
         for (const std::u16string_view separator : separators) {
             findPieces(sentence, separator, begins);
             if (!begins.empty()) {
