@@ -137,8 +137,11 @@ void nrPreferences::convertAfterUpdate() {
 // --- Profiles ---
 
 void nrPreferences::initProfilesItems() {
-    profilesItems_ = file_.load();
-    if (profilesItems_.empty()) {
+    if (auto items = file_.load(); !items.empty()) {
+        profilesItems_ = std::move(items);
+    } else if (!profilesItems_.empty()) {
+        saveProfilesWithArray(); // of the first start or the update, which could not save them
+    } else {
         profilesItems_ = {file_.newItem(firstProfile())};
         profileName_ = profileNameOf(profilesItems_.front().record);
         saveProfilesWithArray();
@@ -306,6 +309,8 @@ bool nrPreferences::saveProfilesWithArray() {
     }
     if (error.empty()) {
         adopt(std::move(items));
+    } else if (auto others = file_.refreshed(profilesItems_)) {
+        adopt(std::move(*others)); // what other processes have saved is there all the same
     }
     return report(error);
 }

@@ -409,6 +409,27 @@ TEST(Profiles, AFailedWriteIsReportedAndGoesWithTheNextSave) {
     EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udSort"), PropertyValue(1));
 }
 
+TEST(Profiles, WhatCannotBeSavedStaysAndWhatOthersHaveSavedAppears) {
+    const TemporaryFolder folder;
+    const std::string lock = folder / "data/nerlo-pro/Data/.lock";
+    std::filesystem::create_directories(lock); // cannot be held
+    Program program(folder);
+    program.start();
+    EXPECT_NE(program.failure, "");
+    EXPECT_EQ(program.preferences.profileSelected(), firstStartProfile("fr"));
+    putBytes(program.paths.profiles, writeXml(named({u"imported"})));
+    program.preferences.checkBoxChanged("udSort", true);
+    program.queue.advance(1s);
+    EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"imported", u"default"}));
+    std::filesystem::remove(lock);
+    program.preferences.checkBoxChanged("udAddPrefix", true);
+    program.queue.advance(1s);
+    EXPECT_EQ(program.failure, "");
+    const PropertyArray saved = profilesIn(program.paths);
+    ASSERT_EQ(saved.size(), 2U);
+    EXPECT_EQ(valueIn(saved[1], "udSort"), PropertyValue(1));
+}
+
 TEST(FindReplace, TheSharedListAndTheProfilesOwn) {
     const TemporaryFolder folder;
     Program program(folder);
