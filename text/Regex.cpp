@@ -1,10 +1,12 @@
 #include "text/Regex.h"
 
 #include "text/Replace.h"
+#include "text/UnitScan.h"
 
 #include <unicode/uregex.h>
 
 #include <algorithm>
+#include <cctype>
 #include <chrono>
 #include <cstdint>
 #include <limits>
@@ -48,10 +50,57 @@ std::int32_t memoryBudget(std::size_t units) {
     return size32((std::size_t{64} << 20) + 16 * units);
 }
 
+bool isAsciiAlphanumeric(char16_t unit) {
+    return unit < 0x80 && std::isalnum(unit) != 0;
+}
+
+// The units between brackets at `at`, which is moved behind them: single ones and ranges of them.
+std::optional<UnitSet> plainClass(std::u16string_view pattern, std::size_t &at) {
+    UnitSet units;
+    for (++at; at < pattern.size() && isAsciiAlphanumeric(pattern[at]); ++at) {
+        const char16_t first = pattern[at];
+        if (at + 2 < pattern.size() && pattern[at + 1] == u'-') {
+            at += 2;
+        }
+        if (!isAsciiAlphanumeric(pattern[at]) || pattern[at] < first || units.isFull()) {
+            return std::nullopt;
+        }
+        units.add(first, pattern[at]);
+    }
+    return at < pattern.size() && pattern[at++] == u']' ? std::optional(units) : std::nullopt;
+}
+
+// Units of which one begins every match, where that shows at the pattern's own beginning: in most
+// patterns that people write, a character or a class, neither of them optional. ICU tries each
+// position of a text by itself; these are found many at a time.
+std::optional<UnitSet> firstUnits(std::u16string_view pattern) {
+    // "|" may bring another beginning, "\G" asks where the match before ended.
+    if (pattern.find(u'|') != std::u16string_view::npos ||
+        pattern.find(u"\\G") != std::u16string_view::npos) {
+        return std::nullopt;
+    }
+    std::optional<UnitSet> units;
+    std::size_t at = 0;
+    if (pattern.starts_with(u"\\d")) {
+        units.emplace(u"0123456789");
+        units->add(u'\u0080', u'\uFFFF'); // the digits of other scripts are among these
+        at = 2;
+    } else if (pattern.starts_with(u'[')) {
+        units = plainClass(pattern, at);
+    } else if (isAsciiAlphanumeric(pattern.front())) {
+        units.emplace(pattern.substr(0, 1));
+        at = 1;
+    }
+    const bool isOptional =
+        at < pattern.size() && std::u16string_view(u"*?{").find(pattern[at]) != pattern.npos;
+    return isOptional ? std::nullopt : units;
+}
+
 } // namespace
 
 struct Regex::Matcher {
     URegularExpression *expression = nullptr;
+    std::optional<UnitSet> firstUnits; // of which one begins every match
     Nanoseconds deadline{};
     unsigned untilClock = 0;
 
@@ -60,12 +109,10 @@ struct Regex::Matcher {
     Matcher &operator=(const Matcher &) = delete;
     ~Matcher() { uregex_close(expression); }
 
+    bool inTime() { return ++untilClock % 16 != 0 || now() < deadline; }
+
     static UBool keepFinding(const void *context, std::int64_t) {
-        auto &self = *static_cast<Matcher *>(const_cast<void *>(context));
-        if (++self.untilClock % 16 != 0) {
-            return true;
-        }
-        return now() < self.deadline;
+        return static_cast<Matcher *>(const_cast<void *>(context))->inTime();
     }
 
     static UBool keepMatching(const void *context, std::int32_t) {
@@ -91,6 +138,9 @@ std::optional<Regex> Regex::compile(std::u16string_view pattern, Case letterCase
         uregex_open(pattern.data(), size32(pattern.size()), flags, nullptr, &status);
     if (U_FAILURE(status)) {
         return std::nullopt;
+    }
+    if (letterCase == Case::Sensitive) {
+        matcher->firstUnits = firstUnits(pattern);
     }
     uregex_setFindProgressCallback(matcher->expression, Matcher::keepFinding, matcher.get(),
                                    &status);
@@ -127,11 +177,27 @@ std::optional<std::vector<Range>> Regex::findAll(std::u16string_view text) {
     }
     std::vector<Range> ranges;
     UErrorCode status = U_ZERO_ERROR;
-    while (uregex_findNext(matcher_->expression, &status)) {
-        ranges.push_back({static_cast<std::size_t>(uregex_start(matcher_->expression, 0, &status)),
-                          static_cast<std::size_t>(uregex_end(matcher_->expression, 0, &status))});
+    URegularExpression *const expression = matcher_->expression;
+    // ICU watches the time only where it finds nothing.
+    const auto take = [&] {
+        ranges.push_back({static_cast<std::size_t>(uregex_start(expression, 0, &status)),
+                          static_cast<std::size_t>(uregex_end(expression, 0, &status))});
+        return matcher_->inTime();
+    };
+    bool inTime = true;
+    if (matcher_->firstUnits) {
+        UnitCursor cursor(text, *matcher_->firstUnits);
+        for (std::size_t at = cursor.next();
+             inTime && at < text.size() && uregex_find(expression, size32(at), &status);
+             at = cursor.nextFrom(ranges.back().end)) {
+            inTime = take();
+        }
+    } else {
+        while (inTime && uregex_findNext(expression, &status)) {
+            inTime = take();
+        }
     }
-    return U_SUCCESS(status) ? std::optional(std::move(ranges)) : std::nullopt;
+    return inTime && U_SUCCESS(status) ? std::optional(std::move(ranges)) : std::nullopt;
 }
 
 bool Regex::replaceAll(std::u16string &text, std::u16string_view replacement) {
@@ -159,6 +225,9 @@ bool Regex::expandAll(std::u16string &text, std::u16string_view replacement) {
     std::u16string piece;
     std::size_t copied = 0;
     while (uregex_findNext(expression, &status)) {
+        if (!matcher_->inTime()) {
+            return false;
+        }
         const auto begin = static_cast<std::size_t>(uregex_start(expression, 0, &status));
         std::size_t longestGroup = 0;
         for (std::int32_t group = 0; group <= groups; ++group) {

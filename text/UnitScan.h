@@ -46,6 +46,8 @@ class UnitSet {
         ranges_.at(size_++) = {first, last};
     }
 
+    constexpr bool isFull() const { return size_ == maxRanges; }
+
     constexpr bool contains(char16_t unit) const {
         for (std::size_t at = 0; at < size_; ++at) {
             if (unit >= ranges_[at].first && unit <= ranges_[at].last) {

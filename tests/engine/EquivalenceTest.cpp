@@ -129,6 +129,35 @@ TEST(RandomTexts, GiveTheSameThroughSortingAndReplacing) {
                       3);
 }
 
+TEST(RandomTexts, GiveTheSameThroughOwnPatterns) {
+    constexpr const char16_t *patterns[] = {u"[0-9]+",
+                                            u"\\d",
+                                            u"\\d+\\s?",
+                                            u"a",
+                                            u"ab?",
+                                            u"a?b",
+                                            u"a*",
+                                            u"[aZb]",
+                                            u"[a-z]+[^a]",
+                                            u"a|b",
+                                            u"b(?=[0-9o])",
+                                            u"a{0,2}1",
+                                            u"[^a]",
+                                            u"[a-]",
+                                            u"[acegikmoqsuwyACEGIKMOQSUWY02468]+",
+                                            u"\\s+",
+                                            u"a\\Gb",
+                                            u"o\\b.",
+                                            u"[[0-9]&&[5-9]]",
+                                            u"w(?i)ORD"};
+    repeat(10, [&](Random &random) {
+        CleaningOptions options;
+        options.udInsertYourPatternTextField = patterns[random.below(std::size(patterns))];
+        compareOperation(12, random.text(reference::plainTokens()),
+                         CleaningContext{options, "en_US"});
+    });
+}
+
 TEST(RandomTexts, GiveTheSameThroughCaseConversion) {
     compareOperations({6}, reference::plainTokens(), 4);
 }

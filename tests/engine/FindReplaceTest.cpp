@@ -93,6 +93,9 @@ TEST(CustomPattern, CannotHangOrCrash) {
     const std::u16string longer(100'000, u'b');
     EXPECT_EQ(insertYourPattern(longer, u"(?:.|\n)*x", 0), longer);
     EXPECT_EQ(insertYourPattern(longer, u"[^x]*+y", 0), longer) << "scans far, saves no states";
+    const std::u16string far(200'000, u'a');
+    EXPECT_EQ(insertYourPattern(far, u"a(?=[\\s\\S]*+)", 0), far) << "scans far, and matches";
+    EXPECT_EQ(insertYourPattern(far, u"(?=[\\s\\S]*+)a", 0), far);
     const std::u16string sound(900'000, u'b');
     EXPECT_EQ(insertYourPattern(sound, u"(?:b|c)*", 0), u"") << "deep, but sound";
 }

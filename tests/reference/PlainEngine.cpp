@@ -472,6 +472,8 @@ String runOperation(std::int32_t index, const String &text,
         return replaced(text, u">", u"");
     case 11:
         return removedTags(text, o.udRemoveHTMLTagsJS);
+    case 12:
+        return replacedPattern(text, o.udInsertYourPatternTextField.stringValue(), u"");
     case 13:
     case 14:
     case 15:
