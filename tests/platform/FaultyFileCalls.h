@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <functional>
 
+#include <gtest/gtest.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace nerlo::test {
@@ -14,6 +17,7 @@ namespace nerlo::test {
 class FaultyFileCalls final : public platform::FileCalls {
   public:
     enum class Fault { None, Death, Error };
+    static constexpr int deathStatus = 9;
     FaultyFileCalls(Fault fault, int at)
         : fault_(fault)
         , at_(at) {}
@@ -55,7 +59,7 @@ class FaultyFileCalls final : public platform::FileCalls {
             return true;
         }
         if (fault_ == Fault::Death) {
-            ::_exit(9);
+            ::_exit(deathStatus);
         }
         failed();
         return false;
@@ -69,5 +73,27 @@ class FaultyFileCalls final : public platform::FileCalls {
     int at_;
     int count_ = 0;
 };
+
+// Runs `save` again and again, each time in a process that ends before one system call more than
+// the last, until one comes through. `check` is told how often it has run and whether that was the
+// last time. Returns how many processes have ended early.
+inline int endAtEachCall(const std::function<bool(platform::FileCalls &calls, int at)> &save,
+                         const std::function<void(int at, bool last)> &check) {
+    for (int at = 1;; ++at) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            FaultyFileCalls dying(FaultyFileCalls::Fault::Death, at);
+            ::_exit(save(dying, at) ? 0 : 1);
+        }
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        const bool last = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        check(at, last);
+        if (last || !WIFEXITED(status) || WEXITSTATUS(status) != FaultyFileCalls::deathStatus) {
+            EXPECT_TRUE(last) << "a save failed";
+            return at - 1;
+        }
+    }
+}
 
 } // namespace nerlo::test

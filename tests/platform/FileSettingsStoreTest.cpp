@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 namespace nerlo::platform {
 namespace {
@@ -215,34 +214,23 @@ TEST(FileSettingsStore, EndedAtAnySystemCallOfASaveTheFileIsOldOrNew) {
         store.set("text", large);
         store.set("count", 0);
     }
-    int deaths = 0;
-    for (int at = 1;; ++at) {
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            FaultyFileCalls dying(Fault::Death, at);
-            FileSettingsStore store(path, nullptr, dying);
+    const int deaths = test::endAtEachCall(
+        [&](FileCalls &calls, int at) {
+            FileSettingsStore store(path, nullptr, calls);
             store.set("count", at);
-            ::_exit(store.synchronize() ? 0 : 1);
-        }
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        const FileSettingsStore after(path);
-        EXPECT_EQ(after.stringForKey("text"), large) << at;
-        const auto count = after.integerForKey("count");
-        EXPECT_TRUE(count == at || count == at - 1 || count == 0) << at;
-        EXPECT_EQ(folder.count("defaults.plist.unreadable-"), 0);
-        if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
-            EXPECT_EQ(count, at);
-            break;
-        }
-        ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 9);
-        ++deaths;
-        // What was left behind does not stop the next save.
-        FileSettingsStore next(path);
-        next.set("count", at);
-        EXPECT_TRUE(next.synchronize()) << at;
-    }
+            return store.synchronize();
+        },
+        [&](int at, bool last) {
+            const FileSettingsStore after(path);
+            EXPECT_EQ(after.stringForKey("text"), large) << at;
+            const auto count = after.integerForKey("count");
+            EXPECT_TRUE(count == at || (count == at - 1 && !last)) << at;
+            EXPECT_EQ(folder.count("defaults.plist.unreadable-"), 0);
+            // What was left behind does not stop the next save.
+            FileSettingsStore next(path);
+            next.set("count", at);
+            EXPECT_TRUE(next.synchronize()) << at;
+        });
     EXPECT_GT(deaths, 15);
 }
 

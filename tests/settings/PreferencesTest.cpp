@@ -20,26 +20,29 @@ using platform::PropertyValue;
 using platform::writeBinary;
 using platform::writeXml;
 
-TEST(FirstStart, WritesOneProfileAndTheStore) {
-    const TemporaryFolder folder;
-    Program program(folder);
+using FirstStart = RunningProgram;
+using Saving = RunningProgram;
+using Profiles = RunningProgram;
+using FindReplace = RunningProgram;
+
+TEST_F(FirstStart, WritesOneProfileAndTheStore) {
     bool shortcut = false;
-    program.preferences.hooks().setDefaultShortcut = [&]() -> void {
+    preferences.hooks().setDefaultShortcut = [&]() -> void {
         shortcut = true;
         throw std::runtime_error("no hot keys here");
     };
-    setAllDefaultsInFirstRun(program.store, program.preferences);
+    setAllDefaultsInFirstRun(store, preferences);
     EXPECT_TRUE(shortcut);
-    EXPECT_EQ(profilesIn(program.paths), (PropertyArray{firstStartProfile("fr")}));
+    EXPECT_EQ(profilesIn(paths), (PropertyArray{firstStartProfile("fr")}));
     const PropertyDictionary expected{{"stayOnTop", false},
                                       {"lunchOnStartup", false},
                                       {"automaticallyClearFormatting", false},
                                       {"showInMenubar", true},
                                       {"firstRunPreferencesProfiles", true}};
-    EXPECT_EQ(parsePropertyList(bytesOf(program.paths.store)).value, PropertyValue(expected));
+    EXPECT_EQ(parsePropertyList(bytesOf(paths.store)).value, PropertyValue(expected));
 }
 
-TEST(FirstStart, TheSecondStartChangesNoByte) {
+TEST(Starts, TheSecondStartChangesNoByte) {
     const TemporaryFolder folder;
     std::map<std::string, std::string> before;
     for (const auto wait : {0ms, 5000ms}) {
@@ -56,7 +59,7 @@ TEST(FirstStart, TheSecondStartChangesNoByte) {
     }
 }
 
-TEST(FirstStart, EndedBeforeItWasThroughItMakesNoSecondProfile) {
+TEST(Starts, EndedBeforeItWasThroughItMakesNoSecondProfile) {
     const TemporaryFolder folder;
     for (int start = 0; start < 2; ++start) {
         Program program(folder);
@@ -66,7 +69,7 @@ TEST(FirstStart, EndedBeforeItWasThroughItMakesNoSecondProfile) {
     EXPECT_EQ(folder.count("profiles.nrp."), 0);
 }
 
-TEST(FirstStart, AfterTheStoreIsLostTheProfilesStay) {
+TEST(Starts, AfterTheStoreIsLostTheProfilesStay) {
     const TemporaryFolder folder;
     putBytes(pathsIn(folder).profiles, writeXml(named({u"work", u"home"})));
     putBytes(pathsIn(folder).store, "damaged");
@@ -77,7 +80,7 @@ TEST(FirstStart, AfterTheStoreIsLostTheProfilesStay) {
     EXPECT_TRUE(program.preferences.loadErrors().empty());
 }
 
-TEST(FirstStart, EveryFileThatIsDamagedIsTold) {
+TEST(Starts, EveryFileThatIsDamagedIsTold) {
     const TemporaryFolder folder;
     const SettingsPaths paths = pathsIn(folder);
     for (const auto &path : {paths.store, paths.profiles, paths.sharedFindReplace}) {
@@ -91,50 +94,23 @@ TEST(FirstStart, EveryFileThatIsDamagedIsTold) {
     }
 }
 
-TEST(Files, LaidOutByMacOSLoadAndKeepWhatIsNotUnderstood) {
-    // Keys sorted, tabs, as the other system's writer does it; "future" is nobody's key here.
-    const std::string profiles = R"(<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
-<plist version="1.0">
-<array>
-	<dict>
-		<key>future</key>
-		<dict>
-			<key>when</key>
-			<date>2031-05-06T07:08:09Z</date>
-		</dict>
-		<key>profileName</key>
-		<string>Büro &amp; E-Mail</string>
-		<key>sFindAndReplaceItemsProfile</key>
-		<array>
-			<dict>
-				<key>checkbox</key>
-				<true/>
-				<key>find</key>
-				<string>&lt;b&gt;</string>
-				<key>note</key>
-				<real>0.25</real>
-				<key>replace</key>
-				<string></string>
-			</dict>
-		</array>
-		<key>udSort</key>
-		<integer>1</integer>
-		<key>udStatisticsValue</key>
-		<string>7</string>
-	</dict>
-</array>
-</plist>
-)";
+TEST(Files, OfTheOtherSystemLoadAndKeepWhatIsNotUnderstood) {
+    const PropertyDictionary rule{
+        {"checkbox", true}, {"find", u"<b>"}, {"note", 0.25}, {"replace", u""}};
+    const PropertyArray profiles{
+        PropertyDictionary{{"future", PropertyDictionary{{"when", platform::PropertyDate{5}}}},
+                           {"profileName", u"Büro & E-Mail"},
+                           {"sFindAndReplaceItemsProfile", PropertyArray{rule}},
+                           {"udSort", 1},
+                           {"udStatisticsValue", u"7"}}};
     const PropertyDictionary store{{"NSNavLastRootDirectory", u"~/Desktop"},
                                    {"firstRunPreferences", true},
                                    {"firstRunPreferencesProfiles", true},
                                    {"udSelectedProfileItem", 0}};
-    const PropertyValue asValue = *parsePropertyList(profiles).value;
-    for (const std::string &form : {profiles, writeBinary(asValue)}) {
+    for (const auto write : {writeXml, writeBinary}) {
         const TemporaryFolder folder;
-        putBytes(pathsIn(folder).profiles, form);
-        putBytes(pathsIn(folder).store, form == profiles ? writeXml(store) : writeBinary(store));
+        putBytes(pathsIn(folder).profiles, write(profiles));
+        putBytes(pathsIn(folder).store, write(store));
         Program program(folder);
         program.start();
         EXPECT_EQ(program.preferences.profileName(), u"Büro & E-Mail");
@@ -147,75 +123,65 @@ TEST(Files, LaidOutByMacOSLoadAndKeepWhatIsNotUnderstood) {
         program.queue.advance(1s);
         const PropertyArray after = profilesIn(program.paths);
         EXPECT_EQ(valueIn(after[0], "udRemoveAllTabs"), PropertyValue(1));
-        EXPECT_EQ(valueIn(after[0], "future"),
-                  valueIn((*asValue.as<PropertyArray>())[0], "future"));
-        EXPECT_EQ(valueIn(after[0], "sFindAndReplaceItemsProfile"),
-                  valueIn((*asValue.as<PropertyArray>())[0], "sFindAndReplaceItemsProfile"));
+        for (const char *key : {"future", "sFindAndReplaceItemsProfile"}) {
+            EXPECT_EQ(valueIn(after[0], key), valueIn(profiles[0], key));
+        }
         EXPECT_EQ(program.store.stringForKey("NSNavLastRootDirectory"), u"~/Desktop");
         EXPECT_EQ(FileSettingsStore(program.paths.store).values().size(), store.size() + 3);
     }
 }
 
-TEST(Saving, ThreeClicksAndATextEditGiveOneSaveTwoSecondsAfterTheEdit) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    program.start();
-    program.queue.advance(5s);
-    const std::string before = bytesOf(program.paths.profiles);
-    program.fills = 0;
+TEST_F(Saving, ThreeClicksAndATextEditGiveOneSaveTwoSecondsAfterTheEdit) {
+    start();
+    queue.advance(5s);
+    const std::string before = bytesOf(paths.profiles);
+    fills = 0;
     for (const char *key : {"udSort", "udAddPrefix", "udRemoveAllTabs"}) {
-        program.preferences.checkBoxChanged(key, true);
-        program.queue.advance(300ms);
+        preferences.checkBoxChanged(key, true);
+        queue.advance(300ms);
     }
-    program.queue.advance(200ms);
-    program.preferences.controlTextDidChange("udPrefixTextField", u"> ");
-    program.queue.advance(1999ms);
-    EXPECT_EQ(bytesOf(program.paths.profiles), before);
-    EXPECT_EQ(program.fills, 0);
-    program.queue.advance(1ms);
-    EXPECT_NE(bytesOf(program.paths.profiles), before);
-    EXPECT_EQ(program.fills, 2); // with the list of rules, and with the profile
-    EXPECT_EQ(*program.engine.find("udPrefixTextField"), PropertyValue(u"> "));
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udRemoveAllTabs"), PropertyValue(1));
-    EXPECT_EQ(program.queue.delayedCount(), 0u);
+    queue.advance(200ms);
+    preferences.controlTextDidChange("udPrefixTextField", u"> ");
+    queue.advance(1999ms);
+    EXPECT_EQ(bytesOf(paths.profiles), before);
+    EXPECT_EQ(fills, 0);
+    queue.advance(1ms);
+    EXPECT_NE(bytesOf(paths.profiles), before);
+    EXPECT_EQ(fills, 2); // with the list of rules, and with the profile
+    EXPECT_EQ(*engine.find("udPrefixTextField"), PropertyValue(u"> "));
+    EXPECT_EQ(saved("udRemoveAllTabs"), PropertyValue(1));
+    EXPECT_EQ(queue.delayedCount(), 0u);
 }
 
-TEST(Saving, AClickAfterATextEditShortensTheWait) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    program.start();
-    program.preferences.controlTextDidChange("udPrefixTextField", u"x");
-    program.queue.advance(500ms);
-    program.preferences.checkBoxChanged("udAddPrefix", true);
-    program.queue.advance(1s);
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udPrefixTextField"), PropertyValue(u"x"));
+TEST_F(Saving, AClickAfterATextEditShortensTheWait) {
+    start();
+    preferences.controlTextDidChange("udPrefixTextField", u"x");
+    queue.advance(500ms);
+    preferences.checkBoxChanged("udAddPrefix", true);
+    queue.advance(1s);
+    EXPECT_EQ(saved("udPrefixTextField"), PropertyValue(u"x"));
 }
 
-TEST(Saving, ComboBoxesReachTheEngineAtOnceAndTheFileWithTheNextSave) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    program.start();
-    program.queue.advance(5s);
-    const std::string before = bytesOf(program.paths.profiles);
-    program.preferences.comboBoxSelectionDidChange("udSortOption", 4);
-    EXPECT_EQ(*program.engine.find("udSortOption"), PropertyValue(4));
-    program.preferences.comboBoxSelectionDidChange("udStatisticsDefaultPosition", 2);
-    EXPECT_EQ(program.store.integerForKey("udStatisticsDefaultPosition"), 2);
-    program.queue.advance(5s);
-    EXPECT_EQ(bytesOf(program.paths.profiles), before);
+TEST_F(Saving, ComboBoxesReachTheEngineAtOnceAndTheFileWithTheNextSave) {
+    start();
+    queue.advance(5s);
+    const std::string before = bytesOf(paths.profiles);
+    preferences.comboBoxSelectionDidChange("udSortOption", 4);
+    EXPECT_EQ(*engine.find("udSortOption"), PropertyValue(4));
+    preferences.comboBoxSelectionDidChange("udStatisticsDefaultPosition", 2);
+    EXPECT_EQ(store.integerForKey("udStatisticsDefaultPosition"), 2);
+    queue.advance(5s);
+    EXPECT_EQ(bytesOf(paths.profiles), before);
     // No item selected: 0 for the engine, and -1 in the file once it is saved.
-    program.preferences.comboBoxSelectionDidChange("udChangeCaseOption", -1);
-    EXPECT_EQ(*program.engine.find("udChangeCaseOption"), PropertyValue(0));
-    program.preferences.savePending();
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udChangeCaseOption"), PropertyValue(-1));
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udSortOption"), PropertyValue(4));
+    preferences.comboBoxSelectionDidChange("udChangeCaseOption", -1);
+    EXPECT_EQ(*engine.find("udChangeCaseOption"), PropertyValue(0));
+    preferences.savePending();
+    EXPECT_EQ(saved("udChangeCaseOption"), PropertyValue(-1));
+    EXPECT_EQ(saved("udSortOption"), PropertyValue(4));
 }
 
-TEST(Saving, FieldsFollowTheLists) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    program.start();
-    nrPreferences &preferences = program.preferences;
+TEST_F(Saving, FieldsFollowTheLists) {
+    start();
     EXPECT_FALSE(preferences.customSeparatorEnabled("udSortSeparator"));
     preferences.comboBoxSelectionDidChange("udSortSeparator", 8);
     EXPECT_TRUE(preferences.customSeparatorEnabled("udSortSeparator"));
@@ -232,75 +198,67 @@ TEST(Saving, FieldsFollowTheLists) {
     EXPECT_EQ(preferences.returnsFields(),
               (Fields{u"sIndent", true, false, u"Custom", false, u""}));
     preferences.sUpdateStatisticksValue(u"12 s");
-    EXPECT_EQ(program.store.integerForKey("udStatisticsValue"), 12);
+    EXPECT_EQ(store.integerForKey("udStatisticsValue"), 12);
 }
 
-TEST(Profiles, SelectedPlaceBeyondTheListIsPulledBack) {
+TEST_F(Profiles, SelectedPlaceBeyondTheListIsPulledBack) {
     struct Row {
         int stored;
         int selected;
     };
+    putBytes(paths.profiles, writeXml(named({u"A", u"A", u"B"})));
     for (const Row &row : {Row{0, 0}, Row{2, 2}, Row{3, 0}, Row{4, 2}, Row{7, 2}, Row{-5, 0}}) {
-        const TemporaryFolder folder;
-        Program program(folder);
-        putBytes(program.paths.profiles, writeXml(named({u"A", u"A", u"B"})));
-        program.store.set("udSelectedProfileItem", row.stored);
-        program.preferences.initProfilesItems();
-        EXPECT_EQ(program.preferences.selectedItem(), row.selected) << row.stored;
-        EXPECT_EQ(program.store.integerForKey("udSelectedProfileItem"), row.selected);
-        EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"A", u"A", u"B"}));
+        store.set("udSelectedProfileItem", row.stored);
+        preferences.initProfilesItems();
+        EXPECT_EQ(preferences.selectedItem(), row.selected) << row.stored;
+        EXPECT_EQ(store.integerForKey("udSelectedProfileItem"), row.selected);
+        EXPECT_EQ(names(), (std::vector<std::u16string>{u"A", u"A", u"B"}));
     }
 }
 
-TEST(Profiles, AddSelectAndRemove) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    nrPreferences &preferences = program.preferences;
-    program.start();
+TEST_F(Profiles, AddSelectAndRemove) {
+    start();
     preferences.profilesAdd();
     preferences.checkBoxChanged("udSort", true);
-    program.queue.advance(2s);
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udSort"), PropertyValue(u"(absent)"))
+    queue.advance(2s);
+    EXPECT_EQ(saved("udSort"), PropertyValue(u"(absent)"))
         << "nothing is saved while the name is asked for";
     preferences.profilesAddingCloseWindow(u"");
-    EXPECT_EQ(program.names().size(), 1u);
+    EXPECT_EQ(names().size(), 1u);
     preferences.profilesAdd();
     preferences.profilesAddingCloseWindow(u"default");
-    EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"default", u"default"}));
+    EXPECT_EQ(names(), (std::vector<std::u16string>{u"default", u"default"}));
     EXPECT_EQ(preferences.selectedItem(), 1);
-    const PropertyArray saved = profilesIn(program.paths);
+    const PropertyArray saved = profilesIn(paths);
     ASSERT_EQ(saved.size(), 2u);
     // Every key but the list that all profiles share.
     EXPECT_EQ(saved[1].as<PropertyDictionary>()->size(), profileKeys().size() - 1);
-    EXPECT_EQ(program.control("udChangeQuotes"), PropertyValue(0));
+    EXPECT_EQ(control("udChangeQuotes"), PropertyValue(0));
     preferences.profilesSelect(0);
-    EXPECT_EQ(program.control("udChangeQuotes"), PropertyValue(1));
-    EXPECT_EQ(program.store.integerForKey("udStatisticsValue"), 3);
-    EXPECT_EQ(program.store.integerForKey("udStatisticsDelaySwitcher"), 1);
-    EXPECT_EQ(program.store.integerForKey("udStatisticsDefaultPosition"), 5);
+    EXPECT_EQ(control("udChangeQuotes"), PropertyValue(1));
+    EXPECT_EQ(store.integerForKey("udStatisticsValue"), 3);
+    EXPECT_EQ(store.integerForKey("udStatisticsDelaySwitcher"), 1);
+    EXPECT_EQ(store.integerForKey("udStatisticsDefaultPosition"), 5);
 
     preferences.hooks().confirmRemoval = [](const std::u16string &) { return false; };
     preferences.profilesRemove();
-    EXPECT_EQ(program.names().size(), 2u);
+    EXPECT_EQ(names().size(), 2u);
     preferences.hooks().confirmRemoval = {};
     preferences.profilesRemove();
     preferences.profilesRemove();
-    EXPECT_EQ(profilesIn(program.paths), PropertyArray());
+    EXPECT_EQ(profilesIn(paths), PropertyArray());
     EXPECT_EQ(preferences.profileName(), u"profile 1");
     preferences.checkBoxChanged("udSort", true);
-    program.queue.advance(1s);
-    const PropertyArray again = profilesIn(program.paths);
+    queue.advance(1s);
+    const PropertyArray again = profilesIn(paths);
     ASSERT_EQ(again.size(), 1u);
     EXPECT_EQ(valueIn(again[0], "profileName"), PropertyValue(u"profile 1"));
     EXPECT_EQ(valueIn(again[0], "udSort"), PropertyValue(1));
     EXPECT_EQ(again[0].as<PropertyDictionary>()->size(), profileKeys().size() - 1);
 }
 
-TEST(Profiles, GuardsStopWhatHooksCallBack) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    nrPreferences &preferences = program.preferences;
-    program.start();
+TEST_F(Profiles, GuardsStopWhatHooksCallBack) {
+    start();
     preferences.profilesAdd();
     preferences.profilesAddingCloseWindow(u"second");
     // Reading the controls while a profile is half loaded must not change it.
@@ -317,129 +275,104 @@ TEST(Profiles, GuardsStopWhatHooksCallBack) {
     EXPECT_EQ(preferences.selectedItem(), 1);
 }
 
-TEST(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    program.start();
-    program.queue.advance(5s);
-    ProfilesFile other(program.paths.profiles);
-    ProfileItems items = other.load();
-    items.insert(items.begin(), other.newItem({{"profileName", u"imported"}}));
-    EXPECT_EQ(other.save(items), "");
+TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
+    start();
+    queue.advance(5s);
+    elsewhere([](ProfilesFile &other, ProfileItems &items) {
+        items.insert(items.begin(), other.newItem({{"profileName", u"imported"}}));
+    });
     // An edit was under way: its save takes both.
-    program.preferences.checkBoxChanged("udSort", true);
-    program.preferences.profilesFileChanged();
-    program.queue.advance(1s);
-    EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"default", u"imported"}));
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udSort"), PropertyValue(1));
+    preferences.checkBoxChanged("udSort", true);
+    preferences.profilesFileChanged();
+    queue.advance(1s);
+    EXPECT_EQ(names(), (std::vector<std::u16string>{u"default", u"imported"}));
+    EXPECT_EQ(saved("udSort"), PropertyValue(1));
 
     // The selected profile is changed from outside: the controls follow.
-    items = other.load();
-    items[0].record.set("udAddPrefix", 1);
-    EXPECT_EQ(other.save(items), "");
-    program.preferences.profilesFileChanged();
-    EXPECT_EQ(program.control("udAddPrefix"), PropertyValue(1));
-    EXPECT_EQ(*program.engine.find("udAddPrefix"), PropertyValue(1));
+    const auto switchesOn = [&](const char *key) {
+        elsewhere([&](ProfilesFile &, ProfileItems &items) { items[0].record.set(key, 1); });
+    };
+    switchesOn("udAddPrefix");
+    preferences.profilesFileChanged();
+    EXPECT_EQ(control("udAddPrefix"), PropertyValue(1));
+    EXPECT_EQ(*engine.find("udAddPrefix"), PropertyValue(1));
 
     // A combo box was used meanwhile, which no save follows by itself.
-    program.queue.advance(5s);
-    program.preferences.comboBoxSelectionDidChange("udSortOption", 4);
-    items = other.load();
-    items[0].record.set("udAddSuffix", 1);
-    EXPECT_EQ(other.save(items), "");
-    program.preferences.profilesFileChanged();
-    program.queue.advance(1s);
-    EXPECT_EQ(program.control("udAddSuffix"), PropertyValue(1));
-    EXPECT_EQ(program.control("udSortOption"), PropertyValue(4));
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udSortOption"), PropertyValue(4));
+    queue.advance(5s);
+    preferences.comboBoxSelectionDidChange("udSortOption", 4);
+    switchesOn("udAddSuffix");
+    preferences.profilesFileChanged();
+    queue.advance(1s);
+    EXPECT_EQ(control("udAddSuffix"), PropertyValue(1));
+    EXPECT_EQ(control("udSortOption"), PropertyValue(4));
+    EXPECT_EQ(saved("udSortOption"), PropertyValue(4));
 
     // It is removed from outside.
-    items = other.load();
-    items.erase(items.begin());
-    EXPECT_EQ(other.save(items), "");
-    program.queue.advance(5s);
-    program.preferences.profilesFileChanged();
-    EXPECT_EQ(program.preferences.profileName(), u"imported");
+    othersRemoveTheFirst();
+    queue.advance(5s);
+    preferences.profilesFileChanged();
+    EXPECT_EQ(preferences.profileName(), u"imported");
 }
 
-TEST(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanwhile) {
-    const TemporaryFolder folder;
-    putBytes(pathsIn(folder).profiles, writeXml(named({u"A", u"B", u"C", u"D"})));
-    Program program(folder);
-    nrPreferences &preferences = program.preferences;
+TEST_F(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanwhile) {
+    putBytes(paths.profiles, writeXml(named({u"A", u"B", u"C", u"D"})));
     preferences.initProfilesItems();
-    program.queue.advance(5s);
-    const auto removeFirst = [&] {
-        ProfilesFile other(program.paths.profiles);
-        ProfileItems items = other.load();
-        items.erase(items.begin());
-        EXPECT_EQ(other.save(items), "");
-    };
+    queue.advance(5s);
     preferences.profilesSwitch(1);
     preferences.checkBoxChanged("udSort", true);
-    removeFirst();
+    othersRemoveTheFirst();
     preferences.profilesSwitch(2);
     EXPECT_EQ(preferences.profileName(), u"C");
-    program.queue.advance(5s);
+    queue.advance(5s);
 
     preferences.hooks().confirmRemoval = [&](const std::u16string &) {
-        removeFirst();
+        othersRemoveTheFirst();
         preferences.profilesFileChanged();
         return true;
     };
     preferences.profilesRemove();
-    EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"D"}));
+    EXPECT_EQ(names(), (std::vector<std::u16string>{u"D"}));
     preferences.profilesRemove(); // the other process was faster
-    EXPECT_EQ(profilesIn(program.paths), PropertyArray());
+    EXPECT_EQ(profilesIn(paths), PropertyArray());
 }
 
-TEST(Profiles, AFailedWriteIsReportedAndGoesWithTheNextSave) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    program.start();
-    program.queue.advance(5s);
+TEST_F(Profiles, AFailedWriteIsReportedAndGoesWithTheNextSave) {
+    start();
+    queue.advance(5s);
     const std::string data = folder / "data";
     std::filesystem::rename(data, folder / "elsewhere");
     putBytes(data, "a file in the way");
-    program.preferences.checkBoxChanged("udSort", true);
-    EXPECT_FALSE(program.preferences.saveChangesInProfiles());
-    EXPECT_NE(program.failure, "");
+    preferences.checkBoxChanged("udSort", true);
+    EXPECT_FALSE(preferences.saveChangesInProfiles());
+    EXPECT_NE(failure, "");
     std::filesystem::remove(data);
-    EXPECT_TRUE(program.preferences.saveChangesInProfiles());
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "udSort"), PropertyValue(1));
+    EXPECT_TRUE(preferences.saveChangesInProfiles());
+    EXPECT_EQ(saved("udSort"), PropertyValue(1));
 }
 
-TEST(Profiles, WhatCannotBeSavedStaysAndWhatOthersHaveSavedAppears) {
-    const TemporaryFolder folder;
+TEST_F(Profiles, WhatCannotBeSavedStaysAndWhatOthersHaveSavedAppears) {
     const std::string lock = folder / "data/nerlo-pro/Data/.lock";
     std::filesystem::create_directories(lock); // cannot be held
-    Program program(folder);
-    program.start();
-    EXPECT_NE(program.failure, "");
-    EXPECT_EQ(program.preferences.profileSelected(), firstStartProfile("fr"));
-    putBytes(program.paths.profiles, writeXml(named({u"imported"})));
-    program.preferences.checkBoxChanged("udSort", true);
-    program.queue.advance(1s);
-    EXPECT_EQ(program.names(), (std::vector<std::u16string>{u"imported", u"default"}));
+    start();
+    EXPECT_NE(failure, "");
+    EXPECT_EQ(preferences.profileSelected(), firstStartProfile("fr"));
+    putBytes(paths.profiles, writeXml(named({u"imported"})));
+    preferences.checkBoxChanged("udSort", true);
+    queue.advance(1s);
+    EXPECT_EQ(names(), (std::vector<std::u16string>{u"imported", u"default"}));
     std::filesystem::remove(lock);
-    program.preferences.checkBoxChanged("udAddPrefix", true);
-    program.queue.advance(1s);
-    EXPECT_EQ(program.failure, "");
-    const PropertyArray saved = profilesIn(program.paths);
-    ASSERT_EQ(saved.size(), 2U);
-    EXPECT_EQ(valueIn(saved[1], "udSort"), PropertyValue(1));
+    preferences.checkBoxChanged("udAddPrefix", true);
+    queue.advance(1s);
+    EXPECT_EQ(failure, "");
+    EXPECT_EQ(profilesIn(paths).size(), 2U);
+    EXPECT_EQ(saved("udSort", 1), PropertyValue(1));
 }
 
-TEST(FindReplace, TheSharedListAndTheProfilesOwn) {
-    const TemporaryFolder folder;
-    Program program(folder);
-    nrPreferences &preferences = program.preferences;
+TEST_F(FindReplace, TheSharedListAndTheProfilesOwn) {
     std::vector<int> told;
     preferences.hooks().updateUI = [&](int mode) { told.push_back(mode); };
-    program.start();
-    const auto shared = [&] {
-        return *parsePropertyList(bytesOf(program.paths.sharedFindReplace)).value;
-    };
+    start();
+    const auto shared = [&] { return *parsePropertyList(bytesOf(paths.sharedFindReplace)).value; };
     const PropertyDictionary rule{
         {"checkbox", true}, {"find", u"sFindReplaceNewItem"}, {"replace", u""}};
     EXPECT_EQ(shared(), PropertyValue(PropertyArray{rule}));
@@ -450,19 +383,18 @@ TEST(FindReplace, TheSharedListAndTheProfilesOwn) {
     preferences.saveCurrentFindReplace(u"mine");
     preferences.controlTextDidChangeReplace(u"yours");
     preferences.saveCurrentFindReplaceCheckbox(0, false);
-    program.queue.advance(2s);
+    queue.advance(2s);
     const PropertyDictionary own{{"checkbox", 0}, {"find", u"mine"}, {"replace", u"yours"}};
-    EXPECT_EQ(valueIn(profilesIn(program.paths)[0], "sFindAndReplaceItemsProfile"),
-              PropertyValue(PropertyArray{own}));
+    EXPECT_EQ(saved("sFindAndReplaceItemsProfile"), PropertyValue(PropertyArray{own}));
 
     preferences.onlyOneProfileChanged(true);
     EXPECT_EQ(preferences.findReplaceList().items(), PropertyArray{rule});
     preferences.selectedRow(0);
     preferences.saveCurrentFindReplace(u"ours");
-    program.queue.advance(2s);
+    queue.advance(2s);
     EXPECT_EQ(FindReplaceList::textOf((*shared().as<PropertyArray>())[0], "find"), u"ours");
-    EXPECT_EQ(*program.engine.find("sFindAndReplaceItems"), shared());
-    EXPECT_EQ(*program.engine.find("sOnlyOneProfile"), PropertyValue(1));
+    EXPECT_EQ(*engine.find("sFindAndReplaceItems"), shared());
+    EXPECT_EQ(*engine.find("sOnlyOneProfile"), PropertyValue(1));
 
     // The box keeps its state when another profile is selected, and at the next start.
     preferences.profilesAdd();
@@ -487,7 +419,7 @@ TEST(FindReplace, TheSharedListAndTheProfilesOwn) {
     EXPECT_EQ(shared(), PropertyValue(PropertyArray{rule}));
 }
 
-TEST(FindReplace, RowsMoveAsTheyAreDropped) {
+TEST(RuleList, RowsMoveAsTheyAreDropped) {
     struct Row {
         std::vector<int> rows;
         int drop;
@@ -515,7 +447,7 @@ TEST(FindReplace, RowsMoveAsTheyAreDropped) {
     }
 }
 
-TEST(FindReplace, HostileRulesAreEditedWithoutHarm) {
+TEST(RuleList, HostileRulesAreEditedWithoutHarm) {
     FindReplaceList list([](std::u16string_view key) { return std::u16string(key); });
     list.setItems({7, u"text", PropertyDictionary{{"find", 3}, {"extra", true}}});
     EXPECT_EQ(FindReplaceList::textOf(list.items()[0], "find"), u"");

@@ -79,6 +79,32 @@ inline PropertyValue valueIn(const PropertyValue &record, std::string_view key) 
     return value ? *value : PropertyValue(u"(absent)");
 }
 
+// A program in a folder of its own.
+struct OwnFolder {
+    TemporaryFolder folder;
+};
+class RunningProgram : public testing::Test, protected OwnFolder, protected Program {
+  protected:
+    RunningProgram()
+        : Program(folder) {}
+
+    // The value of a profile in the file.
+    PropertyValue saved(std::string_view key, std::size_t place = 0) const {
+        const PropertyArray profiles = profilesIn(paths);
+        return place < profiles.size() ? valueIn(profiles[place], key) : u"(absent)";
+    }
+    // Another process changes the file.
+    void elsewhere(const std::function<void(ProfilesFile &, ProfileItems &)> &change) const {
+        ProfilesFile other(paths.profiles);
+        ProfileItems items = other.load();
+        change(other, items);
+        EXPECT_EQ(other.save(items), "");
+    }
+    void othersRemoveTheFirst() const {
+        elsewhere([](ProfilesFile &, ProfileItems &items) { items.erase(items.begin()); });
+    }
+};
+
 inline std::map<std::string, std::string> allFiles(const TemporaryFolder &folder) {
     std::map<std::string, std::string> files;
     for (const auto &entry : std::filesystem::recursive_directory_iterator(folder.path())) {
