@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <charconv>
 #include <utility>
+#include <vector>
 
 namespace nerlo::engine {
 
@@ -151,6 +152,12 @@ bool withoutWordsAndSentences(const Options &options) {
     return options.udChangeCaseOption == 2 || options.udChangeCaseOption == 3;
 }
 
+bool whereQuotesAreTakenAlike(const Options &options) {
+    return !options.udChangeQuotesAll && convertsQuotesAlike(options.udChangeQuotesOption == 1,
+                                                             options.udChangeQuotesSingleOption,
+                                                             options.udChangeQuotesDoubleOption);
+}
+
 // The replacement slots 1 to 3 and 4 to 10 stand apart for historical reasons.
 constexpr Operation table[] = {
     {0, "collapse-tabs", "sChangeMultipleTabsToSingleTab", "runs of tabs to one tab",
@@ -167,9 +174,12 @@ constexpr Operation table[] = {
     {5, "trim", "sRemoveSpacesBeforeAndAfterText", "trim white space at both ends of the text",
      plain<removeSpacesStartAndEnd>, always},
     {6, "change-case", "sChangeCaseTo", "change letter case", changeCase, withoutWordsAndSentences},
-    {7, "change-quotes", "sChangeQuotes", "single quotes to double quotes, or back", changeQuotes},
-    {8, "remove-single-quotes", "sRemoveSingleQuotes", "remove single quotes", removeSingles},
-    {9, "remove-double-quotes", "sRemoveDoubleQuotes", "remove double quotes", removeDoubles},
+    {7, "change-quotes", "sChangeQuotes", "single quotes to double quotes, or back", changeQuotes,
+     whereQuotesAreTakenAlike},
+    {8, "remove-single-quotes", "sRemoveSingleQuotes", "remove single quotes", removeSingles,
+     always},
+    {9, "remove-double-quotes", "sRemoveDoubleQuotes", "remove double quotes", removeDoubles,
+     always},
     {10, "remove-reply-marks", "sRemoveReplyQuotes", "remove the > marks of mail replies",
      plain<removeReplyQuotes>, always},
     {11, "remove-tags", "sRemoveHTMLTags", "remove HTML tags", removeTags},
@@ -182,7 +192,7 @@ constexpr Operation table[] = {
      plain<removeMultipleSpaces>, always},
     {17, "change-tabs", "sChangeTabsAnd4Spaces", "tabs to four spaces, or back", changeTabs,
      always},
-    {18, "remove-bullets", "sRemoveBullets", "remove list bullets", plain<removeBullets>},
+    {18, "remove-bullets", "sRemoveBullets", "remove list bullets", plain<removeBullets>, always},
     {19, "remove-space-before-dot", "sRemoveSpaceBeforeDot", "remove a space before a dot",
      plain<removeSpaceBeforeDot>, always},
     {20, "remove-space-around-tab", "sRemoveSpaceBeforeAfterTab", "remove spaces next to tabs",
@@ -204,7 +214,8 @@ constexpr Operation table[] = {
     {32, "replace-10", "sChangeProperty10", "find and replace, pair 10", replaceSlot<10>},
     {33, "join-lines", "sChangeWrongInsertedReturnsTo", "join lines broken inside sentences",
      joinLines},
-    {34, "remove-hyphens", "sRemoveHyphens", "remove hyphens, or all dashes too", removeDashes},
+    {34, "remove-hyphens", "sRemoveHyphens", "remove hyphens, or all dashes too", removeDashes,
+     always},
     {35, "add-prefix", "sAddPrefix", "put the prefix before the text", prefix},
     {36, "add-suffix", "sAddSuffix", "put the suffix after the text", suffix},
     {37, "find-replace-list", "sFindReplaceBool", "apply the find-and-replace list",
@@ -326,12 +337,80 @@ std::size_t lastCut(std::u16string_view text, std::size_t from) {
     return 0;
 }
 
-std::u16string runPipeline(std::u16string text, const CleaningContext &context) {
-    for (const Step &step : pipeline) {
-        if (step.isOn(context.options)) {
-            text = runOperation(step.operation, std::move(text), context);
+namespace {
+
+// Where the piece that begins at `from` ends: at a place to cut, or at the end of the text.
+std::size_t endOfPiece(std::u16string_view text, std::size_t from, std::size_t size) {
+    const std::u16string_view rest = text.substr(from);
+    for (std::size_t searched = 0; size < rest.size(); searched = size, size *= 2) {
+        if (const std::size_t cut = lastCut(rest.substr(0, size), searched)) {
+            return from + cut;
         }
     }
+    return text.size();
+}
+
+std::u16string runInPieces(std::u16string text, std::span<const Operation *const> steps,
+                           const Context &context, std::size_t pieceSize) {
+    const auto runAll = [&](std::u16string &piece) {
+        for (const Operation *const step : steps) {
+            piece = step->run(std::move(piece), context);
+        }
+    };
+    if (steps.size() < 2) {
+        runAll(text);
+        return text;
+    }
+    std::u16string piece;
+    std::u16string longer; // the result, once it does not fit in front of what is still to do
+    std::size_t to = 0;
+    for (std::size_t from = 0, end = 0; from < text.size(); from = end) {
+        end = endOfPiece(text, from, pieceSize);
+        if (from == 0 && end == text.size()) {
+            runAll(text);
+            return text;
+        }
+        piece.assign(text, from, end - from);
+        runAll(piece);
+        if (longer.empty() && to + piece.size() <= end) {
+            to += piece.copy(text.data() + to, piece.size());
+            continue;
+        }
+        if (longer.empty()) {
+            longer.reserve(text.size() + piece.size());
+            longer.assign(text, 0, to);
+        }
+        longer.append(piece);
+    }
+    if (longer.empty()) {
+        text.resize(to);
+        return text;
+    }
+    return longer;
+}
+
+} // namespace
+
+std::u16string runPipeline(std::u16string text, const CleaningContext &context,
+                           std::size_t pieceSize) {
+    std::vector<const Operation *> steps; // that may go over the text together
+    const auto flush = [&] {
+        text = runInPieces(std::move(text), steps, context, pieceSize);
+        steps.clear();
+    };
+    for (const Step &step : pipeline) {
+        if (!step.isOn(context.options)) {
+            continue;
+        }
+        const Operation &operation = table[step.operation];
+        if (operation.inPieces && operation.inPieces(context.options)) {
+            steps.push_back(&operation);
+        } else {
+            flush();
+            text = operation.run(std::move(text), context);
+        }
+    }
+    flush();
     return text;
 }
 

@@ -31,7 +31,8 @@ struct Operation {
     std::string_view summary; // one English line for listings
     std::u16string (*run)(std::u16string text, const CleaningContext &context);
     // Whether a text may be cut wherever lastCut() says, each piece run alone and the results
-    // joined; null for never.
+    // joined, and the letters at the cut stay letters, so that the next one may too; null for
+    // never.
     bool (*inPieces)(const CleaningOptions &options) = nullptr;
 };
 
@@ -53,7 +54,12 @@ std::u16string runOperation(std::int32_t index, std::u16string text,
 // pieces: between two ASCII letters. 0 where there is none.
 std::size_t lastCut(std::u16string_view text, std::size_t from);
 
-// Every operation whose switch is on, in the fixed order.
-std::u16string runPipeline(std::u16string text, const CleaningContext &context);
+// Units that stay in the processor's nearer caches through several operations.
+inline constexpr std::size_t cachedPiece = 32 * 1024;
+
+// Every operation whose switch is on, in the fixed order. Operations next to each other that run in
+// pieces go over each piece of about `pieceSize` units before the next piece is looked at.
+std::u16string runPipeline(std::u16string text, const CleaningContext &context,
+                           std::size_t pieceSize = cachedPiece);
 
 } // namespace nerlo::engine

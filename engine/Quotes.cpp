@@ -331,6 +331,16 @@ std::u16string replaceDoubleQuotesToSingleQuotes(std::u16string text,
                    doubleQuoteStylesAll);
 }
 
+bool convertsQuotesAlike(bool doublesToSingles, std::int64_t changeQuotesSingleOption,
+                         std::int64_t changeQuotesDoubleOption) {
+    const QuoteStyle *find = styleAt(singleQuoteStyles, changeQuotesSingleOption);
+    const QuoteStyle *replace = styleAt(doubleQuoteStyles, changeQuotesDoubleOption);
+    if (doublesToSingles) {
+        std::swap(find, replace);
+    }
+    return !find || !replace || isTranslation(*find, *replace);
+}
+
 std::u16string removeSingleQuotes(std::u16string text, bool allQuotes, std::int64_t quoteOption) {
     return remove(std::move(text), allQuotes, styleAt(singleQuoteStyles, quoteOption), singleUnits);
 }

@@ -28,6 +28,10 @@ std::u16string replaceDoubleQuotesToSingleQuotes(std::u16string text,
                                                  std::int64_t changeQuotesDoubleOption,
                                                  bool changeAll);
 
+// Whether the conversion, without `changeAll`, gives each mark the same whatever stands around it.
+bool convertsQuotesAlike(bool doublesToSingles, std::int64_t changeQuotesSingleOption,
+                         std::int64_t changeQuotesDoubleOption);
+
 // With `allQuotes`, every known mark of the kind goes and the style is not looked at; the space of
 // a spaced mark then stays.
 std::u16string removeSingleQuotes(std::u16string text, bool allQuotes, std::int64_t quoteOption);

@@ -205,8 +205,12 @@ TEST(RandomTexts, GiveTheSameThroughThePipeline) {
         const std::u16string text =
             random.text(random.oneIn(3) ? reference::quoteTokens() : reference::plainTokens());
         const std::u16string expected = reference::runPipeline(text, context);
-        const std::u16string actual = engine::runPipeline(text, context);
-        ASSERT_EQ(escaped(actual), escaped(expected)) << escaped(text);
+        for (const std::size_t pieceSize :
+             {engine::cachedPiece, 1 + random.below(text.size() + 1)}) {
+            const std::u16string actual = engine::runPipeline(text, context, pieceSize);
+            ASSERT_EQ(escaped(actual), escaped(expected))
+                << escaped(text) << " in pieces of " << pieceSize;
+        }
     });
 }
 
