@@ -96,16 +96,4 @@ std::optional<std::string> outputOf(const Arguments &command, std::string_view i
     return process.wait() == 0 ? std::optional(process.output()) : std::nullopt;
 }
 
-long wakeUps(std::string_view threadName) {
-    constexpr std::string_view field = "\nvoluntary_ctxt_switches:";
-    long sum = 0;
-    for (const auto &thread : std::filesystem::directory_iterator("/proc/self/task")) {
-        if (bytesOf(thread.path() / "comm") == std::string(threadName) + "\n") {
-            const std::string status = bytesOf(thread.path() / "status");
-            sum += std::stol(status.substr(status.find(field) + field.size()));
-        }
-    }
-    return sum;
-}
-
 } // namespace nerlo::test

@@ -42,8 +42,4 @@ class Process {
 // The whole standard output of a program; nothing if it fails or takes longer than twenty seconds.
 std::optional<std::string> outputOf(const Arguments &command, std::string_view input = {});
 
-// How often the threads of this program that have this name have gone to sleep so far, which is how
-// often they were woken.
-long wakeUps(std::string_view threadName);
-
 } // namespace nerlo::test

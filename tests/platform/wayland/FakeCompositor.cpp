@@ -105,7 +105,10 @@ void FakeCompositor::run(const std::function<void()> &task) {
 
 wl_global *FakeCompositor::offer(const wl_interface *interface) {
     globals_.push_back({this, interface});
-    const int version = interface == &wl_compositor_interface ? 3 : 1; // with a buffer scale
+    // The compositor's third has a buffer scale.
+    const int version = interface == manager_                   ? manager_->version
+                        : interface == &wl_compositor_interface ? 3
+                                                                : 1;
     return wl_global_create(
         server_, interface, version, &globals_.back(),
         [](wl_client *client, void *data, std::uint32_t bound, std::uint32_t id) {
@@ -154,7 +157,9 @@ int FakeCompositor::dispatch(const void *, void *target, std::uint32_t, const wl
 void FakeCompositor::answer(const std::string &request, wl_resource *object,
                             const wl_argument *arguments, wl_resource *made) {
     const auto is = [&](const char *end) { return request.ends_with(end); };
-    if (is("_manager_v1.create_data_source")) {
+    if (is("control_manager_v1.bind")) {
+        version_ = wl_resource_get_version(made);
+    } else if (is("_manager_v1.create_data_source")) {
         programFormats_.clear();
     } else if (is("_manager_v1.get_data_device")) {
         device_ = made;

@@ -3,6 +3,7 @@
 // are for the test's thread and return when the compositor has done what they say.
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <functional>
 #include <list>
@@ -41,6 +42,8 @@ class FakeCompositor {
     explicit FakeCompositor(const wl_interface *manager, int seats = 1, More more = {});
     ~FakeCompositor();
 
+    // Of data-control, as the program has asked for it.
+    int version() const { return version_; }
     // The path of the socket.
     const std::string &display() const { return path_; }
 
@@ -103,6 +106,7 @@ class FakeCompositor {
     std::vector<std::string> formats_;
     std::vector<std::string> programFormats_;
     Owner owner_;
+    std::atomic<int> version_ = 0;
     bool overtake_ = false;
     bool quiet_ = false;
 
