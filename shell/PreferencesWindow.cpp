@@ -27,6 +27,7 @@ using settings::cleanHotKey;
 
 constexpr QSize firstSize{1080, 660};
 constexpr int shortest = 360;
+constexpr int narrowestPreview = 240;
 constexpr QSize frameRoom{8, 40}; // of a screen, what the frame of the window takes
 
 QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
@@ -54,7 +55,8 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     , pageList_(new QListWidget)
     , pages_(new QStackedWidget)
     , nothingFound_(new QLabel)
-    , notice_(new QLabel) {
+    , notice_(new QLabel)
+    , splitter_(new QSplitter) {
     setObjectName("preferencesWindow");
     setWindowTitle(localized("sPreferencesWindowName"));
 
@@ -86,17 +88,15 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     middleLayout->setContentsMargins(0, 0, 0, 0);
     middleLayout->addWidget(nothingFound_, 1);
     middleLayout->addWidget(pages_, 1);
-    auto *splitter = new QSplitter;
-    splitter->setObjectName("splitter");
-    splitter->addWidget(middle);
-    splitter->setChildrenCollapsible(false);
+    splitter_->setObjectName("splitter");
+    splitter_->addWidget(middle);
 
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
     layout->addWidget(makeTop());
     auto *below = new QHBoxLayout;
     below->addWidget(pageList_);
-    below->addWidget(splitter, 1);
+    below->addWidget(splitter_, 1);
     layout->addLayout(below, 1);
     layout->addWidget(notice_);
     setCentralWidget(content);
@@ -108,14 +108,14 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
         addPage(localized(page.title), widget);
         connect(widget, &OptionPage::edited, this, &PreferencesWindow::updatePreview);
     }
-    splitter->addWidget(preview_); // now, because the Tab key goes on to what came last
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
-    preview_->setMinimumWidth(240);
-    fitPages();
-    splitter->setSizes({middle->minimumWidth(), firstSize.width()});
+    splitter_->addWidget(preview_); // now, because the Tab key goes on to what came last
+    splitter_->setStretchFactor(0, 3);
+    splitter_->setStretchFactor(1, 2);
+    splitter_->setCollapsible(0, false);
+    preview_->setMinimumWidth(narrowestPreview);
     pageList_->setSpacing(2);
     pageList_->setFixedWidth(pageList_->sizeHintForColumn(0) + 2 * pageList_->frameWidth() + 24);
+    fitPages();
 
     connect(pageList_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) {
@@ -173,7 +173,33 @@ void PreferencesWindow::fitPages() {
         widest = std::max(widest, page->minimumSizeHint().width());
     }
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    pages_->parentWidget()->setMinimumWidth(widest + bar + 4);
+    const int options = widest + bar + 4;
+    pages_->parentWidget()->setMinimumWidth(options);
+    QLayout &layout = *centralWidget()->layout();
+    const int around = layout.contentsMargins().left() + layout.contentsMargins().right();
+    const int narrowest = around + pageList_->width() + layout.spacing() + options;
+    centralWidget()->setMinimumWidth(
+        std::max(narrowest, around + layout.itemAt(0)->minimumSize().width()));
+    previewBesideFrom_ = narrowest + splitter_->handleWidth() + narrowestPreview;
+    placePreview();
+}
+
+// Beside the options where there is room for both, else below them.
+void PreferencesWindow::placePreview() {
+    const bool below = width() < previewBesideFrom_;
+    if (below != (splitter_->orientation() == Qt::Vertical)) {
+        splitter_->setOrientation(below ? Qt::Vertical : Qt::Horizontal);
+        preview_->setSideBySide(below);
+        // What can be scrolled gets no more than it needs at the side, and all that there is above.
+        const int options = pages_->parentWidget()->minimumWidth();
+        splitter_->setSizes(below ? QList{firstSize.height(), 1}
+                                  : QList{options, firstSize.width()});
+    }
+}
+
+void PreferencesWindow::resizeEvent(QResizeEvent *event) {
+    QMainWindow::resizeEvent(event);
+    placePreview();
 }
 
 QWidget *PreferencesWindow::makeTop() {

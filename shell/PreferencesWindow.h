@@ -17,6 +17,8 @@
 #include <string_view>
 #include <vector>
 
+class QSplitter;
+
 namespace nerlo::shell {
 
 // The check boxes of the first page, which are about the program itself.
@@ -75,11 +77,13 @@ class PreferencesWindow final : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
   private:
     QWidget *makeGeneralPage(const RecorderMaker &makeRecorder);
     QWidget *makeTop();
     void fitPages();
+    void placePreview();
     void addPage(const QString &title, QWidget *page);
     void search(const QString &text);
     void updatePreview();
@@ -100,9 +104,11 @@ class PreferencesWindow final : public QMainWindow {
     QLabel *notice_;
     QLabel *generalProblem_ = nullptr;
     PreviewPane *preview_;
+    QSplitter *splitter_;
     std::vector<OptionPage *> optionPages_;
     QString generalTexts_; // what a search looks at, in lower case
     int pageBeforeSearch_ = -1;
+    int previewBesideFrom_ = 0; // width of the window
     bool loading_ = false;
 
     QCheckBox *automatic_ = nullptr;

@@ -6,7 +6,6 @@
 #include "shell/Strings.h"
 
 #include <QEvent>
-#include <QGridLayout>
 #include <QStyle>
 #include <QTextBlock>
 #include <chrono>
@@ -75,6 +74,7 @@ void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const Q
 
 PreviewPane::PreviewPane(PreviewParts parts)
     : parts_(std::move(parts))
+    , halves_(new QBoxLayout(QBoxLayout::TopToBottom, this))
     , before_(makeEditor("previewBefore", "sPreviewBefore", "sPreviewBeforeTip"))
     , after_(makeEditor("previewAfter", "sPreviewAfter", "sPreviewAfterTip"))
     , note_(new QLabel)
@@ -100,22 +100,20 @@ PreviewPane::PreviewPane(PreviewParts parts)
     describe(*take_, "previewTake", "sPreviewTakeTip");
     describe(*apply_, "previewApply", "sPreviewApplyTip");
 
-    auto *layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    const auto addTitle = [&](const char *key, QWidget *buddy, int row) {
+    halves_->setContentsMargins(0, 0, 0, 0);
+    const auto addHalf = [this](const char *key, QWidget *text) {
+        auto *half = new QVBoxLayout;
         auto *title = new QLabel(localized(key));
-        title->setBuddy(buddy);
-        layout->addWidget(title, row, 0);
+        title->setBuddy(text);
+        half->addWidget(title);
+        half->addWidget(text, 1);
+        halves_->addLayout(half, 1);
+        return half;
     };
-    addTitle("sPreviewBefore", before_, 0);
-    layout->addWidget(before_, 1, 0);
-    layout->addWidget(take_, 2, 0);
-    addTitle("sPreviewAfter", after_, 3);
-    layout->addWidget(after_, 4, 0);
-    layout->addWidget(note_, 5, 0);
-    layout->addWidget(apply_, 6, 0);
-    layout->setRowStretch(1, 1);
-    layout->setRowStretch(4, 1);
+    addHalf("sPreviewBefore", before_)->addWidget(take_);
+    auto *after = addHalf("sPreviewAfter", after_);
+    after->addWidget(note_);
+    after->addWidget(apply_);
 
     connect(before_, &QPlainTextEdit::textChanged, this, &PreviewPane::schedule);
     connect(take_, &QPushButton::clicked, this, [this] {
@@ -149,6 +147,10 @@ void PreviewPane::setOptions(platform::PropertyDictionary options) {
 
 void PreviewPane::setBefore(const QString &text) {
     before_->setPlainText(text);
+}
+
+void PreviewPane::setSideBySide(bool sideBySide) {
+    halves_->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 QString PreviewPane::after() const {

@@ -9,6 +9,7 @@
 #include "platform/WorkerQueue.h"
 #include "shell/TextDiff.h"
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -39,6 +40,8 @@ class PreviewPane final : public QWidget {
     // The options to try: a profile as it would be saved.
     void setOptions(platform::PropertyDictionary options);
     void setBefore(const QString &text);
+    // The two texts, instead of one above the other.
+    void setSideBySide(bool sideBySide);
     QString after() const;
     // Places in after() that are marked.
     const std::vector<TextSpan> &marked() const { return marked_; }
@@ -61,6 +64,7 @@ class PreviewPane final : public QWidget {
 
     PreviewParts parts_;
     platform::PropertyDictionary options_;
+    QBoxLayout *halves_;
     QPlainTextEdit *before_;
     QPlainTextEdit *after_;
     QLabel *note_;

@@ -263,6 +263,23 @@ TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
     EXPECT_EQ(stored("udAddSuffix"), 1);
 }
 
+TEST_F(Preferences, ANarrowWindowHasThePreviewBelowTheOptions) {
+    const QWidget &options = control<QStackedWidget>("pages");
+    const QWidget &preview = window->preview();
+    const auto place = [&](const QWidget &widget) {
+        return QRect(widget.mapTo(window.get(), QPoint()), widget.size());
+    };
+    for (const int width : {1080, 800, 1080}) {
+        window->resize(width, 600);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->width(), width);
+        EXPECT_FALSE(place(options).intersects(place(preview)));
+        EXPECT_EQ(place(preview).top() > place(options).bottom(), width == 800);
+        EXPECT_TRUE(window->rect().contains(place(preview)));
+        EXPECT_GT(options.height(), 250);
+    }
+}
+
 TEST_F(Preferences, HeightAndPageAreRemembered) {
     window->resize(window->width(), 577);
     showPage(4);
