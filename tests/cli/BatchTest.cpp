@@ -25,39 +25,13 @@ std::string randomText(Random &random) {
     return text::utf16ToUtf8(random.text(tokens[random.below(std::size(tokens))]));
 }
 
-json randomRules(Random &random) {
-    const char *replacements[] = {"x", "{search}, ", "{delete}$0$0", "!{search}", "!{delete}"};
-    json rules = json::array();
-    for (std::size_t i = random.below(3); i > 0; --i) {
-        rules.push_back({{"checkbox", !random.oneIn(4)},
-                         {"find", random.oneIn(2) ? "a" : "[a-m]+"},
-                         {"replace", replacements[random.below(std::size(replacements))]}});
-    }
-    return rules;
-}
-
+// Switches alone: with 7, the order of sorting is a shuffle.
 json randomOptions(Random &random) {
     json options = json::object();
     for (const settings::SettingsKey &row : settings::profileKeys()) {
-        if (!random.oneIn(3)) {
-            continue;
-        }
-        switch (row.kind) {
-        case settings::SettingKind::Switch:
+        if (row.kind == settings::SettingKind::Switch && random.oneIn(3)) {
             options[row.key] = random.oneIn(2);
-            break;
-        case settings::SettingKind::Index:
-            options[row.key] = random.below(11);
-            break;
-        case settings::SettingKind::List:
-            options[row.key] = randomRules(random);
-            break;
-        default:
-            options[row.key] = "a";
         }
-    }
-    if (options.value("udSortOption", 0) == 7) {
-        options["udSortOption"] = 6; // 7 shuffles
     }
     return options;
 }

@@ -41,31 +41,24 @@ std::vector<Command> commands() {
             {{"batch", "--jobs", "2"}, lines}};
 }
 
-TEST(Output, ClosedPipeEndsQuietly) {
-    for (const Command &command : commands()) {
-        const Ended ended = NerloRun{
-            command.arguments, command.input, {}, [] {
-                int ends[2];
-                if (pipe(ends) == 0) {
-                    close(ends[0]);
-                    dup2(ends[1], STDOUT_FILENO);
-                    close(ends[1]);
-                }
-            }}.toEnd();
-        EXPECT_EQ(ended.status, 0) << command.arguments[0];
-        EXPECT_EQ(ended.err, "") << command.arguments[0];
-    }
-}
-
-TEST(Output, FullDiskIsReported) {
-    for (const Command &command : commands()) {
-        const Ended ended = NerloRun{
-            command.arguments, command.input, {}, [] {
-                dup2(open("/dev/full", O_WRONLY | O_CLOEXEC), STDOUT_FILENO);
-            }}.toEnd();
-        EXPECT_EQ(ended.status, 1) << command.arguments[0];
-        EXPECT_EQ(ended.err, "nerlo: standard output: No space left on device\n")
-            << command.arguments[0];
+TEST(Output, AClosedPipeEndsQuietlyAndAFullDiskIsReported) {
+    const auto closedPipe = [] {
+        int ends[2];
+        if (pipe(ends) == 0) {
+            close(ends[0]);
+            dup2(ends[1], STDOUT_FILENO);
+            close(ends[1]);
+        }
+    };
+    const auto fullDisk = [] { dup2(open("/dev/full", O_WRONLY | O_CLOEXEC), STDOUT_FILENO); };
+    for (const auto &[arguments, input] : commands()) {
+        SCOPED_TRACE(arguments[0]);
+        const Ended closed = NerloRun{arguments, input, {}, closedPipe}.toEnd();
+        EXPECT_EQ(closed.status, 0);
+        EXPECT_EQ(closed.err, "");
+        const Ended full = NerloRun{arguments, input, {}, fullDisk}.toEnd();
+        EXPECT_EQ(full.status, 1);
+        EXPECT_EQ(full.err, "nerlo: standard output: No space left on device\n");
     }
 }
 

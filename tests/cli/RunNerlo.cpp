@@ -10,7 +10,7 @@
 
 namespace nerlo::test {
 
-pid_t NerloRun::start(int in, int out, int err, const std::vector<int> &closeInChild) const {
+pid_t NerloRun::start(int in, int out, int err) const {
     std::vector<std::string> words{NERLO_PROGRAM};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char *> argv;
@@ -24,9 +24,6 @@ pid_t NerloRun::start(int in, int out, int err, const std::vector<int> &closeInC
         dup2(in, STDIN_FILENO);
         dup2(out, STDOUT_FILENO);
         dup2(err, STDERR_FILENO);
-        for (const int descriptor : closeInChild) {
-            close(descriptor);
-        }
         for (const char *name : {"LANGUAGE", "LC_CTYPE", "LC_MESSAGES", "LC_COLLATE", "LANG"}) {
             unsetenv(name);
         }
@@ -52,7 +49,7 @@ Ended NerloRun::toEnd() const {
     const int in = open((folder / "in").c_str(), O_RDONLY | O_CLOEXEC);
     const int out = open((folder / "out").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
     const int err = open((folder / "err").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    const pid_t child = start(in, out, err, {});
+    const pid_t child = start(in, out, err);
     for (const int descriptor : {in, out, err}) {
         close(descriptor);
     }
@@ -68,7 +65,7 @@ pid_t NerloRun::start(int *toChild, int *fromChild) const {
     std::array<int, 2> out{};
     EXPECT_EQ(pipe2(in.data(), O_CLOEXEC), 0);
     EXPECT_EQ(pipe2(out.data(), O_CLOEXEC), 0);
-    const pid_t child = start(in[0], out[1], STDERR_FILENO, {});
+    const pid_t child = start(in[0], out[1], STDERR_FILENO);
     close(in[0]);
     close(out[1]);
     *toChild = in[1];

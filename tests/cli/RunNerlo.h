@@ -38,7 +38,7 @@ class NerloRun {
     pid_t start(int *toChild, int *fromChild) const;
 
   private:
-    pid_t start(int in, int out, int err, const std::vector<int> &closeInChild) const;
+    pid_t start(int in, int out, int err) const;
 };
 
 // The exit status as in Ended.

@@ -55,6 +55,19 @@ class ClipboardCleanTest : public testing::Test, public WriteListener {
             mainQueue.runPosted();
         } while (workers.size() > 0);
     }
+    void clean() {
+        engine.changePasteboard();
+        finish();
+    }
+    void cleanWith(std::int32_t operation) {
+        engine.changePasteboardWithKeys(operation);
+        finish();
+    }
+    // A clean that is under way: the worker has the text.
+    void begin() {
+        engine.changePasteboard();
+        mainQueue.runPosted();
+    }
     std::string text() const { return pasteboard.bytes("text/plain"); }
     std::size_t count(const std::string &line) const {
         return static_cast<std::size_t>(std::ranges::count(pasteboard.log, line));
@@ -69,8 +82,7 @@ class ClipboardCleanTest : public testing::Test, public WriteListener {
 
 TEST_F(ClipboardCleanTest, RewritesTextAsPlainTextOnlyAndAcknowledgesTheWrite) {
     pasteboard.copy(content({{"text/html", "<b>a b</b>"}, {"text/plain", "a b"}}));
-    engine.changePasteboard();
-    finish();
+    clean();
     EXPECT_EQ(pasteboard.formatNames(),
               Log({"text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"}));
     EXPECT_EQ(text(), "ab");
@@ -108,12 +120,7 @@ TEST_F(ClipboardCleanTest, LeavesAloneWhatIsNotOursToTouch) {
         for (const auto operation : {-1, removeAllSpaces, statisticsOperation}) {
             pasteboard.copy(row.content);
             pasteboard.log.clear();
-            if (operation == -1) {
-                engine.changePasteboard();
-            } else {
-                engine.changePasteboardWithKeys(operation);
-            }
-            finish();
+            operation == -1 ? clean() : cleanWith(operation);
             EXPECT_EQ(plain(pasteboard.content()), plain(row.content));
             if (operation != statisticsOperation) {
                 EXPECT_EQ(pasteboard.log, row.log);
@@ -125,8 +132,7 @@ TEST_F(ClipboardCleanTest, LeavesAloneWhatIsNotOursToTouch) {
 
 TEST_F(ClipboardCleanTest, CleansContentWhoseStateIsHarmless) {
     pasteboard.copy(content({{"CLIPBOARD_STATE", "data"}, {"text/plain", "a b"}}));
-    engine.changePasteboard();
-    finish();
+    clean();
     EXPECT_EQ(text(), "ab");
 }
 
@@ -140,8 +146,7 @@ TEST_F(ClipboardCleanTest, SurvivesBadOwnersAndCleansTheNextCopy) {
         finish();
         EXPECT_EQ(text(), "bad owner");
         pasteboard.copyText("a b");
-        engine.changePasteboard();
-        finish();
+        clean();
         EXPECT_EQ(text(), "ab");
     }
 }
@@ -159,8 +164,7 @@ TEST_F(ClipboardCleanTest, NeverReplacesANewerCopyNorRefillsAnEmptiedClipboard) 
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         pasteboard.copyText("a b");
-        engine.changePasteboard();
-        mainQueue.runPosted(); // the worker has the text
+        begin();
         row.meanwhile();
         finish();
         EXPECT_EQ(text(), row.after);
@@ -192,8 +196,7 @@ TEST_F(ClipboardCleanTest, WritesBackInTheOrderInWhichCleansEnd) {
 TEST_F(ClipboardCleanTest, AnyOtherIndexStillMakesItPlainText) {
     for (const auto index : {40, -1}) {
         pasteboard.copy(content({{"text/html", "<b>a b</b>"}, {"UTF8_STRING", "a b"}}));
-        engine.changePasteboardWithKeys(index);
-        finish();
+        cleanWith(index);
         EXPECT_EQ(text(), "a b");
         EXPECT_EQ(pasteboard.bytes("text/html"), "");
     }
@@ -229,21 +232,18 @@ TEST_F(ClipboardCleanTest, StatisticsReplaceThePopupAndWriteNothing) {
     engine.setCountWindowMaker([&] { return std::make_unique<RecordingWindow>(windows); });
     pasteboard.copyText("a b");
     const auto before = pasteboard.changeCount();
-    engine.changePasteboardWithKeys(statisticsOperation);
-    finish();
+    cleanWith(statisticsOperation);
     EXPECT_EQ(windows, Log({"made", "filled", "shown"}));
     EXPECT_EQ(pasteboard.changeCount(), before);
     EXPECT_TRUE(acknowledged.empty());
 
     setOptions({{"udStatistics", true}});
-    engine.changePasteboard();
-    finish();
+    clean();
     EXPECT_EQ(windows, Log({"made", "filled", "shown", "closed", "made", "filled", "shown"}));
     EXPECT_EQ(acknowledged.size(), 1u);
 
     // A single operation shows none, whatever the switch says.
-    engine.changePasteboardWithKeys(removeAllSpaces);
-    finish();
+    cleanWith(removeAllSpaces);
     EXPECT_EQ(windows.size(), 7u);
     engine.setCountWindowMaker(nullptr);
     engine.newCountWindow(u"x");
@@ -269,16 +269,13 @@ class RestoreTest : public ClipboardCleanTest {
 TEST_F(RestoreTest, PutsAllFormatsBackAndIsNotACopy) {
     EXPECT_EQ(restore(), Restored::nothingKept);
     pasteboard.copy(rich);
-    engine.changePasteboard();
-    finish();
+    clean();
     // Cleaning our own result again does not make it the original.
-    engine.changePasteboardWithKeys(addPrefix);
-    finish();
+    cleanWith(addPrefix);
     EXPECT_EQ(restore(), Restored::done);
     EXPECT_EQ(plain(pasteboard.content()), plain(rich));
     EXPECT_EQ(acknowledged.back(), pasteboard.changeCount());
-    engine.changePasteboard();
-    finish();
+    clean();
     EXPECT_EQ(text(), "ab");
     EXPECT_EQ(restore(), Restored::done);
     EXPECT_EQ(plain(pasteboard.content()), plain(rich));
@@ -286,8 +283,7 @@ TEST_F(RestoreTest, PutsAllFormatsBackAndIsNotACopy) {
 
 TEST_F(RestoreTest, DoesNotTouchAnEmptiedClipboardOrASecret) {
     pasteboard.copy(rich);
-    engine.changePasteboard();
-    finish();
+    clean();
     pasteboard.empty();
     EXPECT_EQ(restore(), Restored::refused);
     EXPECT_TRUE(pasteboard.content().empty());
@@ -298,31 +294,26 @@ TEST_F(RestoreTest, DoesNotTouchAnEmptiedClipboardOrASecret) {
 
 TEST_F(RestoreTest, KeepsNothingAboveTheLimitAndNoOlderOriginalInstead) {
     pasteboard.copy(rich);
-    engine.changePasteboard();
-    finish();
+    clean();
     engine.keepOriginalsUpTo(100);
     pasteboard.copyText(std::string(101, 'x'));
-    engine.changePasteboard();
-    finish();
+    clean();
     EXPECT_EQ(restore(), Restored::nothingKept);
 
     // A format that does not fit is left out; the text is kept first.
     pasteboard.copy(content({{"image/png", std::string(98, 'x')},
                              {"text/html", "<b>a b</b>"},
                              {"UTF8_STRING", "a b"}}));
-    engine.changePasteboard();
-    finish();
+    clean();
     EXPECT_EQ(restore(), Restored::done);
     EXPECT_EQ(pasteboard.formatNames(), Log({"text/html", "UTF8_STRING"}));
 }
 
 TEST_F(RestoreTest, ADroppedCleanLeavesTheOriginalBefore) {
     pasteboard.copy(rich);
-    engine.changePasteboard();
-    finish();
+    clean();
     pasteboard.copyText("dropped");
-    engine.changePasteboard();
-    mainQueue.runPosted();
+    begin();
     pasteboard.copyText("newer");
     finish();
     EXPECT_EQ(restore(), Restored::done);
