@@ -67,25 +67,33 @@ WordClass wordClassBeyondAscii(char16_t unit) {
 }
 
 NERLO_CLONES bool scanAsciiWords(const char16_t *units, AsciiWordBits &bits) {
-    std::uint16_t special = 0;
+    unsigned all = 0;
     for (std::size_t i = 0; i < scanBlock; ++i) {
-        const char16_t unit = units[i];
-        special = static_cast<std::uint16_t>(special | (unit >= 0x80 ? 1 : 0) |
-                                             (unit == u'_' ? 1 : 0) | (unit == u'@' ? 1 : 0));
+        all |= units[i];
     }
-    if (special != 0) {
+    if (all >= 0x80) {
         return false;
     }
     std::uint8_t letters[scanBlock];
     std::uint8_t digits[scanBlock];
     std::uint8_t midDigit[scanBlock];
     std::uint8_t midBoth[scanBlock];
+    std::uint8_t ask[scanBlock];
+    // Conditional expressions would become branches here.
+    const auto either = [](std::uint8_t unit, std::uint8_t one, std::uint8_t other) {
+        return static_cast<std::uint8_t>(static_cast<int>(unit == one) |
+                                         static_cast<int>(unit == other));
+    };
     for (std::size_t i = 0; i < scanBlock; ++i) {
         const auto unit = static_cast<std::uint8_t>(units[i]);
-        letters[i] = static_cast<std::uint8_t>((unit | 0x20) - 'a') < 26 ? 1 : 0;
-        digits[i] = static_cast<std::uint8_t>(unit - '0') < 10 ? 1 : 0;
-        midDigit[i] = static_cast<std::uint8_t>((unit == ',' ? 1 : 0) | (unit == ';' ? 1 : 0));
-        midBoth[i] = static_cast<std::uint8_t>((unit == '.' ? 1 : 0) | (unit == '\'' ? 1 : 0));
+        letters[i] = static_cast<std::uint8_t>((unit | 0x20) - 'a') < 26;
+        digits[i] = static_cast<std::uint8_t>(unit - '0') < 10;
+        midDigit[i] = either(unit, ',', ';');
+        midBoth[i] = either(unit, '.', '\'');
+        ask[i] = either(unit, '_', '@');
+    }
+    if (packFlags(ask) != 0) {
+        return false;
     }
     bits = {packFlags(letters), packFlags(digits), packFlags(midDigit), packFlags(midBoth)};
     return true;
