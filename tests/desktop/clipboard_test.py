@@ -16,13 +16,12 @@ import unittest
 
 import dbus
 
-from desktop_session import wait_until
+from desktop_session import Program, wait_until
 
 PROGRAM = os.environ["NERLO_PRO"]
 OWNER = os.environ["NERLO_OWNER"]
 SESSION = os.environ["NERLO_SESSION"]
 WAYLAND = SESSION == "wayland"
-BUS_NAME = "org.nerlo.NerloPro"
 TICK = 0.5
 PLAIN = {"text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"}
 PROTOCOL = {"TARGETS", "MULTIPLE", "TIMESTAMP", "SAVE_TARGETS"}
@@ -105,36 +104,7 @@ def clipboard_manager():
                                      f"while sleep 0.1; do {offer}; done"], "managing"))
 
 
-class Program:
-    """nerlo-pro, running."""
-
-    def __init__(self, *arguments):
-        self.process = subprocess.Popen([PROGRAM, *arguments])
-        self.bus = dbus.SessionBus(private=True)
-        wait_until(lambda: self.owner() == self.process.pid, "the program is on the bus")
-        # Answered only once the event loop runs.
-        self.call("Doctor")
-
-    def owner(self):
-        """The process that has the name; one that is ending may still hold it."""
-        try:
-            return self.bus.call_blocking(dbus.BUS_DAEMON_NAME, dbus.BUS_DAEMON_PATH,
-                                          dbus.BUS_DAEMON_IFACE, "GetConnectionUnixProcessID", "s",
-                                          [BUS_NAME])
-        except dbus.exceptions.DBusException:
-            return None
-
-    def call(self, method, signature="", arguments=()):
-        return self.bus.call_blocking(BUS_NAME, "/org/nerlo/NerloPro", BUS_NAME, method, signature,
-                                      arguments)
-
-    def close(self):
-        if self.process.poll() is None:
-            self.process.kill()
-        self.process.wait()
-        wait_until(lambda: self.owner() != self.process.pid, "the name is free")
-        self.bus.close()
-
+class WatchedProgram(Program):
     def memory(self):
         """Resident, in bytes."""
         with open(f"/proc/{self.process.pid}/statm") as file:
@@ -162,7 +132,7 @@ class ClipboardTest(unittest.TestCase):
             shutil.rmtree(os.path.join(os.environ[folder], "nerlo-pro"), ignore_errors=True)
 
     def start(self, *arguments):
-        program = Program(*arguments)
+        program = WatchedProgram(*arguments)
         self.addCleanup(program.close)
         return program
 
@@ -349,7 +319,7 @@ class ClipboardTest(unittest.TestCase):
             for text in (b"small  text", large):
                 with self.subTest(end=end, size=len(text)), clipboard_manager():
                     clean = text.replace(b"  ", b" ")
-                    with contextlib.closing(Program("--automatic", "on")) as program:
+                    with contextlib.closing(WatchedProgram("--automatic", "on")) as program:
                         copy(text)
                         self.expect_clean(clean)
                         if end == "--quit":
@@ -368,7 +338,7 @@ class ClipboardTest(unittest.TestCase):
         for mode, answer in (("off", "off"), ("toggle", "on"), ("toggle", "off"), ("on", "on")):
             self.assertEqual(nerlo("--automatic", mode).stdout, answer + "\n")
         with self.assertRaises(dbus.exceptions.DBusException):
-            program.call("Automatic", "s", ["maybe"])
+            program.call("Automatic", "maybe")
         self.assertIsNone(program.process.poll())
         self.assertEqual(nerlo("--quit").returncode, 0)
         self.assertEqual(program.process.wait(20), 0)

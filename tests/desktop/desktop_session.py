@@ -11,10 +11,13 @@ import subprocess
 import time
 
 import dbus
+import dbus.mainloop.glib
 from gi.repository import GLib
 
 # Those of the sessions.
 SCREEN = (1280, 800)
+
+dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
 
 
 def wait_until(condition, what, seconds=30):
@@ -52,6 +55,43 @@ def output_of(*command, text=None, seconds=30):
     except subprocess.TimeoutExpired:
         return ""
     return done.stdout if done.returncode == 0 else ""
+
+
+class Program:
+    """nerlo-pro, running."""
+
+    BUS_NAME = "org.nerlo.NerloPro"
+    PATH = "/org/nerlo/NerloPro"
+
+    def __init__(self, *arguments, **environment):
+        self.bus = dbus.SessionBus(private=True)
+        self.bus.set_exit_on_disconnect(False)
+        self.process = subprocess.Popen([os.environ["NERLO_PRO"], *arguments],
+                                        env=os.environ | environment)
+        wait_until(lambda: self.owner() == self.process.pid, "the program is on the bus")
+        self.call("Doctor")  # answered only once the event loop runs
+
+    def owner(self):
+        """The process that has the name; one that is ending may still hold it."""
+        try:
+            return ask(self.bus, dbus.BUS_DAEMON_NAME, dbus.BUS_DAEMON_PATH, dbus.BUS_DAEMON_IFACE,
+                       "GetConnectionUnixProcessID", self.BUS_NAME)[0]
+        except dbus.DBusException:
+            return None
+
+    def call(self, method, *arguments):
+        return ask(self.bus, self.BUS_NAME, self.PATH, self.BUS_NAME, method, *arguments)
+
+    def property(self, name):
+        return ask(self.bus, self.BUS_NAME, self.PATH, dbus.PROPERTIES_IFACE, "Get", self.BUS_NAME,
+                   name)[0]
+
+    def close(self):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
+        wait_until(lambda: self.owner() != self.process.pid, "the name is free")
+        self.bus.close()
 
 
 class X11Desktop:

@@ -12,22 +12,19 @@ import time
 import unittest
 
 import dbus
-import dbus.mainloop.glib
 import dbus.service
 
-from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TEXT, Eyes, ask, desktop,
-                             output_of, wait_until)
+from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TEXT, Eyes, Program, ask,
+                             desktop, output_of, wait_until)
 
 PROGRAM = os.environ["NERLO_PRO"]
 SESSION = os.environ["NERLO_SESSION_DIR"]
-BUS_NAME = "org.nerlo.NerloPro"
+BUS_NAME = Program.BUS_NAME
 CONFIG = os.path.join(os.environ["XDG_CONFIG_HOME"], "nerlo-pro/defaults.plist")
 PROFILES = os.path.join(os.environ["XDG_DATA_HOME"], "nerlo-pro/Data/profiles.nrp")
 PORTAL = os.path.join(os.path.dirname(os.path.abspath(__file__)), "portal-backend")
 CONTROLS = (BUTTON, CHECK_BOX, LIST_ITEM, TEXT)
 WATCHER = "org.kde.StatusNotifierWatcher"
-
-dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
 
 
 def stored(path):
@@ -114,23 +111,6 @@ class TrayHost(dbus.service.Object):
                   dbus.String("", variant_level=1), dbus.UInt32(0))
 
 
-class Program:
-    def __init__(self):
-        self.bus = dbus.SessionBus(private=True)
-        self.process = subprocess.Popen([PROGRAM],
-                                        env=os.environ | {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
-        wait_until(lambda: self.bus.name_has_owner(BUS_NAME), "the program is on the bus")
-
-    def property(self, name):
-        return ask(self.bus, BUS_NAME, "/org/nerlo/NerloPro", dbus.PROPERTIES_IFACE, "Get",
-                   BUS_NAME, name)[0]
-
-    def close(self):
-        if self.process.poll() is None:
-            self.process.terminate()
-        return self.process.wait(timeout=20)
-
-
 class Portal:
     """The desktop's side of shortcuts where programs cannot take keys themselves."""
 
@@ -165,7 +145,7 @@ class ShellTest(unittest.TestCase):
         self.eyes = Eyes("nerlo-pro")
 
     def start(self):
-        program = Program()
+        program = Program(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         self.addCleanup(program.close)
         return program
 

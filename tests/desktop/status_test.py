@@ -9,8 +9,8 @@ import unittest
 
 import dbus
 
-from desktop_session import CHECK_BOX, CHECKED, Eyes, desktop, wait_until
-from shell_test import BUS_NAME, PROFILES, Program, TrayHost, stored
+from desktop_session import CHECK_BOX, CHECKED, Eyes, Program, desktop, wait_until
+from shell_test import BUS_NAME, PROFILES, TrayHost, stored
 
 AUTOSTART = os.environ["XDG_CONFIG_HOME"] + "/autostart"
 LABEL = 29
@@ -25,17 +25,15 @@ class StatusTest(unittest.TestCase):
         tray.bus.add_signal_receiver(
             lambda interface, changed, gone: told.append((str(interface), dict(changed))),
             "PropertiesChanged", dbus.PROPERTIES_IFACE, path="/org/nerlo/NerloPro")
-        program = Program()
+        program = Program(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         self.addCleanup(program.close)
         wait_until(lambda: tray.items, "the item stands in the tray")
-        service = dbus.Interface(program.bus.get_object(BUS_NAME, "/org/nerlo/NerloPro",
-                                                        introspect=False), BUS_NAME)
 
         def tooltip():
             return str(tray.call("/StatusNotifierItem", dbus.PROPERTIES_IFACE, "Get",
                                  "org.kde.StatusNotifierItem", "ToolTip")[0][2])
         self.assertEqual(tooltip(), "Nerlo Pro")
-        service.Automatic("on")
+        program.call("Automatic", "on")
         wait_until(lambda: tooltip() not in ("Nerlo Pro", WRONG), "the item shows the mode")
         automatic = tooltip()
         records = wait_until(lambda: stored(PROFILES), "the profiles are saved")
@@ -43,8 +41,8 @@ class StatusTest(unittest.TestCase):
             plistlib.dump(records + [records[0] | {"profileName": "other"}], file)
         os.rename(PROFILES + ".new", PROFILES)
         wait_until(lambda: "other" in tray.menu(), "the program knows the new profile")
-        service.Automatic("on")
-        service.Profile("other")
+        program.call("Automatic", "on")
+        program.call("Profile", "other")
         wait_until(lambda: len(told) == 2, "both changes are told")
         self.assertEqual(told, [(BUS_NAME, {"AutomaticMode": True}),
                                 (BUS_NAME, {"SelectedProfile": "other"})])
