@@ -93,14 +93,26 @@ class ShortcutView : public testing::Test {
         ASSERT_TRUE(outputOf(command));
     }
     static void press(const std::string &keys) { xdotool({"key", keys}); }
-    void click(const nrShortcutView &view, QPoint at) {
+    static void point(const nrShortcutView &view, QPoint at) {
         const QPoint global = view.mapToGlobal(at) * view.devicePixelRatio();
-        xdotool(
-            {"mousemove", std::to_string(global.x()), std::to_string(global.y()), "click", "1"});
+        xdotool({"mousemove", std::to_string(global.x()), std::to_string(global.y())});
+    }
+    static void click(const nrShortcutView &view, QPoint at) {
+        point(view, at);
+        xdotool({"click", "1"});
     }
     void record(nrShortcutView &view) {
         click(view, view.shortcutRect().center());
         ASSERT_TRUE(wait([&] { return view.recording(); }));
+    }
+    void record(nrShortcutView &view, const std::string &keys) {
+        record(view);
+        pressAndEnd(view, keys);
+    }
+    // These keys end the recording.
+    void pressAndEnd(const nrShortcutView &view, const std::string &keys) {
+        press(keys);
+        ASSERT_TRUE(wait([&] { return !view.recording(); }));
     }
     void leaveWithMouse() { xdotool({"mousemove", "1200", "700"}); }
     std::optional<nrShortcut> stored(const char *key) { return storedShortcut(store, key); }
@@ -127,8 +139,7 @@ TEST_F(ShortcutView, RecordsReplacesAndDeletes) {
     record(view);
     leaveWithMouse();
     EXPECT_EQ(view.title(), "Type shortcut");
-    press("super+v");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    pressAndEnd(view, "super+v");
     EXPECT_EQ(view.title(), "⌃V");
     EXPECT_EQ(view.spokenValue(), "Super+V");
     EXPECT_EQ(stored("sSort"), nrShortcut(v, controlModifier));
@@ -141,18 +152,13 @@ TEST_F(ShortcutView, RecordsReplacesAndDeletes) {
     // Its own combination reaches the control while that records.
     record(view);
     const int before = runs["sSort"];
-    press("super+v");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    pressAndEnd(view, "super+v");
     EXPECT_EQ(runs["sSort"], before);
 
-    record(view);
-    press("ctrl+shift+F5");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    record(view, "ctrl+shift+F5");
     EXPECT_EQ(view.title(), "⇧⌘F5");
 
-    record(view);
-    press("BackSpace");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    record(view, "BackSpace");
     EXPECT_EQ(view.shortcutValue(), std::nullopt);
     EXPECT_EQ(store.find("sSort"), nullptr);
 
@@ -166,17 +172,11 @@ TEST_F(ShortcutView, RecordsReplacesAndDeletes) {
 TEST_F(ShortcutView, LeavesTheOldValueOnEscapeAndCancel) {
     auto &view = *views[0];
     bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
-    record(view);
-    press("Escape");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    record(view, "Escape");
     EXPECT_EQ(view.title(), "⌃V");
     record(view);
     click(view, {view.buttonRect().left() - 30, view.height() / 2}); // does nothing
-    xdotool({"mousemove",
-             std::to_string(view.mapToGlobal(view.buttonRect().center()).x() *
-                            static_cast<int>(view.devicePixelRatio())),
-             std::to_string(view.mapToGlobal(view.buttonRect().center()).y() *
-                            static_cast<int>(view.devicePixelRatio()))});
+    point(view, view.buttonRect().center());
     ASSERT_TRUE(wait([&] { return view.hinting(); }));
     EXPECT_TRUE(view.recording());
     EXPECT_EQ(view.title(), "Use old shortcut");
@@ -205,19 +205,10 @@ TEST_F(ShortcutView, RefusesWhatIsTaken) {
     bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
     const struct {
         const char *keys;
-        const char *message;
-        const char *informative;
-    } rows[] = {
-        {"ctrl+v",
-         "The key combination \"⌘V\" can't be used because it's already used by the menu item "
-         "\"Paste\".",
-         "The key combination \"⌘V\" can't be used!"},
-        {"alt+F4",
-         "The key combination \"⌥F4\" can't be used because it's already used by a system-wide "
-         "keyboard shortcut. If you really want to use this key combination, most shortcuts can "
-         "be changed in the Keyboard panel in System Preferences.",
-         "The key combination \"⌥F4\" can't be used!"},
-    };
+        const char *named;
+        const char *taker;
+    } rows[] = {{"ctrl+v", "The key combination \"⌘V\" can't be used", "menu item \"Paste\""},
+                {"alt+F4", "The key combination \"⌥F4\" can't be used", "system-wide"}};
     for (const auto &row : rows) {
         activate();
         if (!view.recording()) {
@@ -238,13 +229,12 @@ TEST_F(ShortcutView, RefusesWhatIsTaken) {
         poll.start(10);
         press(row.keys);
         ASSERT_TRUE(wait([&] { return !message.isEmpty(); }));
-        EXPECT_EQ(message.toStdString(), row.message);
-        EXPECT_EQ(informative.toStdString(), row.informative);
+        EXPECT_TRUE(message.startsWith(row.named) && message.contains(row.taker));
+        EXPECT_EQ(informative.toStdString(), std::string(row.named) + "!");
         EXPECT_TRUE(view.recording());
     }
     activate();
-    press("Escape");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    pressAndEnd(view, "Escape");
     EXPECT_EQ(stored("sSort"), nrShortcut(v, controlModifier));
 }
 
@@ -325,8 +315,7 @@ TEST_F(ShortcutView, WorksByKeyboardAndForScreenReaders) {
     view.setFocus();
     press("space");
     ASSERT_TRUE(wait([&] { return view.recording(); }));
-    press("super+c");
-    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    pressAndEnd(view, "super+c");
     auto *accessible = QAccessible::queryAccessibleInterface(&view);
     ASSERT_TRUE(accessible);
     EXPECT_EQ(accessible->text(QAccessible::Name), "sSort, Super+C");
