@@ -64,10 +64,14 @@ class Walker {
     static bool isBare(char first) { return first != '"' && first != '{' && first != '['; }
 
     void skipString() {
-        for (++at_; text_[at_] != '"'; ++at_) {
-            at_ += text_[at_] == '\\' ? 1 : 0;
+        std::size_t close = at_;
+        bool escaped = true;
+        while (escaped) {
+            close = text_.find('"', close + 1);
+            const std::size_t before = text_.find_last_not_of('\\', close - 1);
+            escaped = (close - before) % 2 == 0;
         }
-        ++at_;
+        at_ = close + 1;
     }
 
     std::string_view text_;
@@ -225,6 +229,21 @@ Answer BatchAnswers::answer(std::string_view request) const {
         error = exception.what();
     }
     return {"{\"id\":" + id + ",\"error\":" + json(error).dump() + "}\n", true};
+}
+
+Answers BatchAnswers::answerAll(std::string_view requests) const {
+    Answers answers;
+    while (!requests.empty()) {
+        const std::size_t end = std::min(requests.find('\n'), requests.size());
+        const Answer one = answer(requests.substr(0, end));
+        answers.lines += one.line;
+        ++answers.count;
+        if (one.failed && ++answers.failed == 1) {
+            answers.firstFailed = answers.count;
+        }
+        requests.remove_prefix(std::min(end + 1, requests.size()));
+    }
+    return answers;
 }
 
 } // namespace nerlo::cli

@@ -1,8 +1,9 @@
-// One line of `nerlo batch` in, one line out. Lines are JSON in UTF-8.
+// Lines of `nerlo batch` in, as many lines out. They are JSON in UTF-8.
 #pragma once
 
 #include "engine/CleaningOptions.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,13 @@ struct Answer {
     bool failed = false; // the line tells of an error
 };
 
+struct Answers {
+    std::string lines;
+    std::size_t count = 0;
+    std::size_t failed = 0;
+    std::size_t firstFailed = 0; // counted from 1
+};
+
 class BatchAnswers {
   public:
     // `defaults` and `locale`, an ICU locale id, serve the requests that bring none of their own.
@@ -20,6 +28,8 @@ class BatchAnswers {
 
     // `request` comes without its line break and may be any bytes. Any thread; never throws.
     Answer answer(std::string_view request) const;
+    // The same for several lines, of which only the last may lack its line break.
+    Answers answerAll(std::string_view requests) const;
 
   private:
     std::string resultOf(std::string_view request, std::string &id) const;

@@ -21,6 +21,7 @@ namespace nerlo::cli {
 namespace {
 
 constexpr std::size_t readAtMost = 64 * 1024;
+constexpr std::size_t pieceSize = 8 * 1024;     // of requests for one thread
 constexpr std::size_t writeAtLeast = 64 * 1024; // while more requests are at hand
 constexpr unsigned mostJobs = 256;
 
@@ -29,14 +30,15 @@ struct BatchArguments {
     std::string locale;
 };
 
-// Lines of standard input, without their line breaks; the last one may lack it.
+// Whole lines of standard input; the last one may lack its line break.
 class LineReader {
   public:
     explicit LineReader(Progress &progress)
         : progress_(progress) {}
 
-    // Calls `line` for each complete line at hand and `idle` before it waits for more.
-    void run(const std::function<void(std::string_view)> &line, const std::function<void()> &idle) {
+    // Calls `take` for all complete lines at hand, some at a time, and `idle` before it waits for
+    // more.
+    void run(const std::function<void(std::string_view)> &take, const std::function<void()> &idle) {
         for (;;) {
             const std::size_t kept = buffer_.size();
             buffer_.resize(kept + readAtMost);
@@ -47,25 +49,30 @@ class LineReader {
             if (count == 0) {
                 break;
             }
-            handOut(kept, line);
+            handOut(kept, take);
             idle();
         }
         if (!buffer_.empty()) {
-            line(buffer_);
+            take(buffer_);
         }
     }
 
   private:
     // The bytes before `searched` hold no line break.
-    void handOut(std::size_t searched, const std::function<void(std::string_view)> &line) {
-        std::size_t start = 0;
+    void handOut(std::size_t searched, const std::function<void(std::string_view)> &take) {
         const std::string_view all = buffer_;
-        for (std::size_t end = all.find('\n', searched); end != std::string::npos;
-             end = all.find('\n', start)) {
-            line(all.substr(start, end - start));
-            start = end + 1;
+        const std::size_t last = all.substr(searched).rfind('\n');
+        if (last == std::string_view::npos) {
+            return;
         }
-        buffer_.erase(0, start);
+        const std::size_t end = searched + last + 1;
+        for (std::size_t at = 0; at < end;) {
+            const std::size_t next =
+                end - at <= pieceSize ? end : all.find('\n', at + pieceSize - 1) + 1;
+            take(all.substr(at, next - at));
+            at = next;
+        }
+        buffer_.erase(0, end);
     }
 
     Progress &progress_;
@@ -78,13 +85,13 @@ class AnswerWriter {
     explicit AnswerWriter(Progress &progress)
         : progress_(progress) {}
 
-    void add(const Answer &answer) {
-        ++lines_;
-        if (answer.failed) {
-            firstFailed_ = failed_ == 0 ? lines_ : firstFailed_;
-            ++failed_;
+    void add(const Answers &answers) {
+        if (answers.failed != 0 && failed_ == 0) {
+            firstFailed_ = lines_ + answers.firstFailed;
         }
-        pending_ += answer.line;
+        failed_ += answers.failed;
+        lines_ += answers.count;
+        pending_ += answers.lines;
         if (pending_.size() >= writeAtLeast) {
             flush();
         }
@@ -127,17 +134,17 @@ ExitStatus runBatch(const BatchArguments &arguments) {
     LineReader reader(progress);
     AnswerWriter writer(progress);
     if (arguments.jobs <= 1) {
-        reader.run([&](std::string_view line) { writer.add(answers.answer(line)); },
+        reader.run([&](std::string_view lines) { writer.add(answers.answerAll(lines)); },
                    [&] { writer.flush(); });
         return writer.finish();
     }
     {
         OrderedWorkers workers(
-            arguments.jobs, [&](std::string_view line) { return answers.answer(line); },
-            [&](const std::vector<Answer> &ready) {
+            arguments.jobs, [&](std::string_view lines) { return answers.answerAll(lines); },
+            [&](const std::vector<Answers> &ready) {
                 try {
-                    for (const Answer &answer : ready) {
-                        writer.add(answer);
+                    for (const Answers &each : ready) {
+                        writer.add(each);
                     }
                     writer.flush();
                 } catch (const ClosedPipe &) {
@@ -147,7 +154,7 @@ ExitStatus runBatch(const BatchArguments &arguments) {
                     endNow(failure.status);
                 }
             });
-        reader.run([&](std::string_view line) { workers.push(std::string(line)); }, [] {});
+        reader.run([&](std::string_view lines) { workers.push(std::string(lines)); }, [] {});
     }
     return writer.finish();
 }

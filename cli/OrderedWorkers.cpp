@@ -6,7 +6,7 @@ namespace nerlo::cli {
 
 namespace {
 
-constexpr std::size_t requestsPerThread = 64;
+constexpr std::size_t piecesPerThread = 16;
 constexpr std::size_t mostBytes = 32 << 20;
 
 } // namespace
@@ -14,7 +14,7 @@ constexpr std::size_t mostBytes = 32 << 20;
 OrderedWorkers::OrderedWorkers(unsigned threads, Work work, Deliver deliver)
     : work_(std::move(work))
     , deliver_(std::move(deliver))
-    , mostRequests_(threads * requestsPerThread) {
+    , mostPieces_(threads * piecesPerThread) {
     for (unsigned i = 0; i < threads; ++i) {
         threads_.emplace_back([this] { run(); });
     }
@@ -31,15 +31,15 @@ OrderedWorkers::~OrderedWorkers() {
     }
 }
 
-void OrderedWorkers::push(std::string request) {
-    const std::size_t size = request.size();
+void OrderedWorkers::push(std::string requests) {
+    const std::size_t size = requests.size();
     {
         std::unique_lock lock(mutex_);
         room_.wait(lock, [&] {
-            return slots_.empty() || (slots_.size() < mostRequests_ && bytes_ + size <= mostBytes);
+            return slots_.empty() || (slots_.size() < mostPieces_ && bytes_ + size <= mostBytes);
         });
         bytes_ += size;
-        slots_.push_back({std::move(request), size, false, {}});
+        slots_.push_back({std::move(requests), size, false, {}});
     }
     workToDo_.notify_one();
 }
@@ -53,21 +53,21 @@ void OrderedWorkers::run() {
         }
         Slot &slot = slots_[started_++];
         lock.unlock();
-        slot.answer = work_(slot.request);
-        std::string().swap(slot.request);
+        slot.answers = work_(slot.requests);
+        std::string().swap(slot.requests);
         lock.lock();
         slot.answered = true;
         deliverReady(lock);
     }
 }
 
-// Whoever answers the oldest request delivers it and what follows it; the others go on working.
+// Whoever answers the oldest piece delivers it and what follows it; the others go on working.
 void OrderedWorkers::deliverReady(std::unique_lock<std::mutex> &lock) {
     while (!delivering_ && !slots_.empty() && slots_.front().answered) {
-        std::vector<Answer> ready;
+        std::vector<Answers> ready;
         for (; !slots_.empty() && slots_.front().answered; slots_.pop_front(), --started_) {
             bytes_ -= slots_.front().bytes;
-            ready.push_back(std::move(slots_.front().answer));
+            ready.push_back(std::move(slots_.front().answers));
         }
         delivering_ = true;
         lock.unlock();

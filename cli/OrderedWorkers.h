@@ -16,10 +16,10 @@ namespace nerlo::cli {
 class OrderedWorkers {
   public:
     // Called on any of the threads, by several at a time. Must not throw.
-    using Work = std::function<Answer(std::string_view request)>;
+    using Work = std::function<Answers(std::string_view requests)>;
     // Called on any of the threads, by one at a time, with answers that follow those of the call
     // before. Must not throw.
-    using Deliver = std::function<void(std::vector<Answer> answers)>;
+    using Deliver = std::function<void(std::vector<Answers> answers)>;
 
     OrderedWorkers(unsigned threads, Work work, Deliver deliver);
     // Waits until the last answer is delivered.
@@ -27,16 +27,18 @@ class OrderedWorkers {
     OrderedWorkers(const OrderedWorkers &) = delete;
     OrderedWorkers &operator=(const OrderedWorkers &) = delete;
 
-    // Waits while too much is under way, counted in requests and in bytes; one request is always
-    // let in, whatever its size. Called by one thread.
-    void push(std::string request);
+    // Some lines for one thread to answer: few, so that all have work, but not each by itself,
+    // which would have the threads wait for each other. Waits while too much is under way, counted
+    // in such pieces and in bytes; one piece is always let in, whatever its size. Called by one
+    // thread.
+    void push(std::string requests);
 
   private:
     struct Slot {
-        std::string request;
-        std::size_t bytes; // of the request, which is dropped once answered
+        std::string requests;
+        std::size_t bytes; // of the requests, which are dropped once answered
         bool answered = false;
-        Answer answer;
+        Answers answers;
     };
 
     void run();
@@ -44,7 +46,7 @@ class OrderedWorkers {
 
     const Work work_;
     const Deliver deliver_;
-    const std::size_t mostRequests_;
+    const std::size_t mostPieces_;
 
     std::mutex mutex_; // guards everything below
     std::condition_variable workToDo_;

@@ -127,11 +127,11 @@ TEST(OrderedWorkers, DeliverInOrderWhateverEndsFirst) {
                 } else if (request == "2") {
                     secondAnswered.set_value();
                 }
-                return cli::Answer{std::string(request), false};
+                return cli::Answers{.lines = std::string(request)};
             },
-            [&](const std::vector<cli::Answer> &answers) {
-                for (const cli::Answer &answer : answers) {
-                    delivered += answer.line;
+            [&](const std::vector<cli::Answers> &ready) {
+                for (const cli::Answers &answers : ready) {
+                    delivered += answers.lines;
                 }
             });
         for (const char *request : {"1", "2", "3"}) {
