@@ -38,6 +38,15 @@ std::size_t asciiPrefix(const Value *from) {
     return static_cast<std::size_t>(std::countr_zero(values & high)) / (8 * sizeof(Value));
 }
 
+// The same, and copies them; the rest of as many values at `to` may be overwritten.
+template <class From, class To>
+std::size_t copyAsciiOfWord(const From *__restrict from, To *__restrict to) {
+    for (std::size_t i = 0; i < wordful<From>; ++i) {
+        to[i] = static_cast<To>(static_cast<std::make_unsigned_t<From>>(from[i]));
+    }
+    return asciiPrefix(from);
+}
+
 // Copies the leading ASCII of `count` values and says how many they are, not counting the last few
 // that make no whole chunk. What follows them at `to` may be overwritten up to `count`.
 template <class From, class To>
@@ -128,16 +137,14 @@ std::size_t decodeBlock(std::string_view bytes, char16_t *const to, std::size_t 
     bool wellFormed = true;
     while (wellFormed && at < end && unit <= full) {
         if (end - at >= 8) {
-            std::size_t ascii = asciiPrefix(at);
-            if (ascii == wordful<char>) {
-                ascii = widenAscii(at, std::min(end - at, to + room - unit), unit);
-            } else {
-                for (std::size_t i = 0; i < wordful<char>; ++i) {
-                    unit[i] = static_cast<unsigned char>(at[i]);
-                }
-            }
+            const std::size_t ascii = copyAsciiOfWord(at, unit);
             at += ascii;
             unit += ascii;
+            if (ascii == wordful<char> && unit <= full) {
+                const std::size_t more = widenAscii(at, std::min(end - at, to + room - unit), unit);
+                at += more;
+                unit += more;
+            }
             if (at == end || unit > full) {
                 continue;
             }
@@ -231,16 +238,14 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
     const char *const full = to + room.size();
     while (at < end && full - to >= 4) {
         if (end - at >= 4) {
-            std::size_t ascii = asciiPrefix(at);
-            if (ascii == wordful<char16_t>) {
-                ascii = narrowAscii(at, std::min(end - at, full - to), to);
-            } else {
-                for (std::size_t i = 0; i < wordful<char16_t>; ++i) {
-                    to[i] = static_cast<char>(at[i]);
-                }
-            }
+            const std::size_t ascii = copyAsciiOfWord(at, to);
             at += ascii;
             to += ascii;
+            if (ascii == wordful<char16_t>) {
+                const std::size_t more = narrowAscii(at, std::min(end - at, full - to), to);
+                at += more;
+                to += more;
+            }
             if (at == end || full - to < 4) {
                 continue;
             }
