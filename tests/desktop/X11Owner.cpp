@@ -1,7 +1,7 @@
 // A clipboard owner in an X11 session; OwnerOptions.h tells what it can do.
 //
-// x11-owner --manager: is a clipboard manager instead. It prints "managing", saves the content when
-// it is asked to, prints "saved" and owns it from then on.
+// x11-owner --manager: is a clipboard manager instead. It prints "managing", and when it is asked
+// to save the content it has xclip own the text from then on.
 //
 // x11-owner --watch: owns nothing, and prints "changed" for each time that somebody takes the
 // clipboard, after "watching".
@@ -130,8 +130,7 @@ class Owner {
                                             request.target,
                                             request.property};
         const auto found = options_.data.find(format);
-        const bool saves = format == "SAVE_TARGETS" && options_.has("--manager");
-        if (saves) {
+        if (format == "SAVE_TARGETS" && options_.has("--manager")) {
             save();
         } else if (format == "TARGETS") {
             std::string atoms;
@@ -161,8 +160,14 @@ class Owner {
         std::array<char, 32> wire{};
         std::copy_n(reinterpret_cast<const char *>(&notify), sizeof notify, wire.begin());
         xcb_send_event(x_->get(), 0, request.requestor, 0, wire.data());
-        if (saves) {
-            own("CLIPBOARD");
+    }
+
+    // Another program takes the text over while its owner is still there.
+    static void save() {
+        const auto saved = std::string(std::getenv("NERLO_SESSION_DIR")) + "/saved";
+        const auto clipboard = "xclip -selection clipboard -t UTF8_STRING ";
+        if (std::system((clipboard + ("-o >" + saved)).c_str()) == 0 &&
+            std::system((clipboard + ("-i " + saved + " >/dev/null")).c_str()) == 0) {
             std::cout << "saved" << std::endl;
         }
     }
@@ -187,44 +192,6 @@ class Owner {
         sending.sent += piece.size();
         if (piece.empty()) {
             sendings_.erase(found);
-        }
-    }
-
-    // As a clipboard manager: takes every format over, waiting for each.
-    void save() {
-        const auto targets = fetch("TARGETS");
-        std::vector<xcb_atom_t> atoms(targets.size() / sizeof(xcb_atom_t));
-        std::copy_n(targets.data(), atoms.size() * sizeof(xcb_atom_t),
-                    reinterpret_cast<char *>(atoms.data()));
-        for (const auto &name : x_->names(atoms, 255)) {
-            if (name != "TARGETS" && name != "MULTIPLE" && name != "TIMESTAMP" &&
-                name != "SAVE_TARGETS") {
-                options_.data[name] = fetch(name);
-            }
-        }
-    }
-
-    std::string fetch(const std::string &format) {
-        const auto property = x_->atom("SAVED");
-        xcb_convert_selection(x_->get(), window_, x_->atom("CLIPBOARD"), x_->atom(format), property,
-                              XCB_CURRENT_TIME);
-        await(XCB_SELECTION_NOTIFY);
-        auto read = x_->property(window_, property, noLimit, true);
-        if (!read || read->type != x_->atom("INCR")) {
-            return read ? read->bytes : std::string();
-        }
-        std::string bytes;
-        for (;;) {
-            auto event = await(XCB_PROPERTY_NOTIFY);
-            const auto &change = as<xcb_property_notify_event_t>(event);
-            if (change.atom != property || change.state != XCB_PROPERTY_NEW_VALUE) {
-                continue;
-            }
-            read = x_->property(window_, property, noLimit, true);
-            if (!read || read->bytes.empty()) {
-                return bytes;
-            }
-            bytes += read->bytes;
         }
     }
 

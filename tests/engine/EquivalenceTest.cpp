@@ -104,29 +104,14 @@ TEST(EveryUnit, HasItsCaseChangedLikeICU) {
 }
 
 TEST(RandomTexts, GiveTheSameThroughOwnPatterns) {
-    constexpr const char16_t *patterns[] = {u"[0-9]+",
-                                            u"\\d",
-                                            u"\\d+\\s?",
-                                            u"a",
-                                            u"ab?",
-                                            u"a?b",
-                                            u"a*",
-                                            u"[aZb]",
-                                            u"[a-z]+[^a]",
-                                            u"a|b",
-                                            u"b(?=[0-9o])",
-                                            u"a{0,2}1",
-                                            u"[^a]",
-                                            u"[a-]",
-                                            u"[acegikmoqsuwyACEGIKMOQSUWY02468]+",
-                                            u"\\s+",
-                                            u"a\\Gb",
-                                            u"o\\b.",
-                                            u"[[0-9]&&[5-9]]",
-                                            u"w(?i)ORD"};
+    const auto patterns = reference::tokensOf(
+        u"[0-9]+ \\d \\d+\\s? a ab? a?b a* [aZb] [a-z]+[^a] a|b b(?=[0-9o]) a{0,2}1 [^a] [a-] "
+        u"[acegikmoqsuwyACEGIKMOQSUWY02468]+ \\s+ a\\Gb o\\b. [[0-9]&&[5-9]] w(?i)ORD",
+        u' ');
     repeat(10, [&](Random &random) {
         CleaningOptions options;
-        options.udInsertYourPatternTextField = patterns[random.below(std::size(patterns))];
+        options.udInsertYourPatternTextField =
+            std::u16string(patterns[random.below(patterns.size())]);
         compareOperation(12, random.text(reference::plainTokens()),
                          CleaningContext{options, "en_US"});
     });

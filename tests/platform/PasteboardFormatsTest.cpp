@@ -6,53 +6,34 @@
 namespace nerlo::platform {
 namespace {
 
-TEST(PasteboardFormats, DecideByNameAlone) {
-    const struct {
-        const char *name;
-        std::vector<std::string> formats;
-        const char *text; // null: no plain text
-        bool url;
-        bool secret;
-    } rows[] = {
-        {"nothing", {}, nullptr, false, false},
-        {"terminal", {"STRING", "UTF8_STRING"}, "UTF8_STRING", false, false},
-        {"editor",
-         {"text/html", "TEXT", "text/plain", "text/plain;charset=utf-8"},
-         "text/plain;charset=utf-8",
-         false,
-         false},
-        {"letter case",
-         {"STRING", "Text/Plain;Charset=UTF-8"},
-         "Text/Plain;Charset=UTF-8",
-         false,
-         false},
-        {"another encoding is not read as UTF-8",
-         {"text/plain;charset=utf-16"},
-         nullptr,
-         false,
-         false},
-        {"image", {"image/png", "text/html"}, nullptr, false, false},
-        {"Firefox, ordinary text",
-         {"text/html", "text/x-moz-url-priv", "UTF8_STRING"},
-         "UTF8_STRING",
-         false,
-         false},
-        {"Firefox, link", {"text/x-moz-url", "UTF8_STRING"}, "UTF8_STRING", true, false},
-        {"files", {"text/uri-list;charset=utf-8", "text/plain"}, "text/plain", true, false},
-        {"cut in Dolphin", {"application/x-kde-cutselection"}, nullptr, true, false},
-        {"cut in Files", {"x-special/gnome-copied-files"}, nullptr, true, false},
-        {"KeePassXC", {"text/plain", "x-kde-passwordManagerHint"}, "text/plain", false, true},
+using Names = std::vector<std::string>;
+
+TEST(PasteboardFormats, TheBestTextIsKnownByName) {
+    const std::pair<Names, const char *> rows[] = {
+        {{"STRING", "UTF8_STRING"}, "UTF8_STRING"},
+        {{"text/html", "TEXT", "text/plain", "text/plain;charset=utf-8"},
+         "text/plain;charset=utf-8"},
+        {{"STRING", "Text/Plain;Charset=UTF-8"}, "Text/Plain;Charset=UTF-8"},
+        {{"text/plain;charset=utf-16"}, nullptr}, // is not read as UTF-8
+        {{"image/png", "text/html"}, nullptr},
+        {{}, nullptr},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto *text = bestTextFormat(row.formats);
-        ASSERT_EQ(text != nullptr, row.text != nullptr);
-        if (text) {
-            EXPECT_EQ(*text, row.text);
-        }
-        EXPECT_EQ(offersUrl(row.formats), row.url);
-        EXPECT_EQ(marksSecret(row.formats), row.secret);
+    for (const auto &[names, expected] : rows) {
+        const auto *text = bestTextFormat(names);
+        EXPECT_EQ(text ? *text : "(none)", expected ? expected : "(none)");
     }
+}
+
+TEST(PasteboardFormats, AddressesAndSecretsAreKnownByName) {
+    for (const char *address : {"text/x-moz-url", "text/uri-list;charset=utf-8",
+                                "application/x-kde-cutselection", "x-special/gnome-copied-files"}) {
+        EXPECT_TRUE(offersUrl(Names{address, "UTF8_STRING"})) << address;
+        EXPECT_FALSE(marksSecret(Names{address, "UTF8_STRING"})) << address;
+    }
+    // As Firefox offers ordinary text, and KeePassXC a password.
+    EXPECT_FALSE(offersUrl(Names{"text/html", "text/x-moz-url-priv", "UTF8_STRING"}));
+    EXPECT_FALSE(offersUrl(Names{}));
+    EXPECT_TRUE(marksSecret(Names{"text/plain", "x-kde-passwordManagerHint"}));
 }
 
 TEST(PasteboardFormats, DecodeByTheFormatsEncoding) {

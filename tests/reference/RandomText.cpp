@@ -8,19 +8,6 @@ namespace nerlo::reference {
 
 namespace {
 
-// A bar stands between tokens.
-std::vector<std::u16string_view> split(std::u16string_view row) {
-    std::vector<std::u16string_view> tokens;
-    for (;;) {
-        const auto end = row.find(u'|');
-        tokens.push_back(row.substr(0, end));
-        if (end == row.npos) {
-            return tokens;
-        }
-        row.remove_prefix(end + 1);
-    }
-}
-
 constexpr std::u16string_view plain =
     u" | |  |\u00A0|\u00A0\u00A0|\t|\r\n|\r|\n|\n\n|a|b|o|o\t|A|Z|.|...|\u2026|. |?|-|- |"
     u"\u2010|\u2013|\u2212|\u2010 \r\n|\u2022|\u2022 |\u27A2|\u25E6|\u00B7|\u3002|\u30FB|"
@@ -49,18 +36,30 @@ constexpr const char *locales[] = {"en_US", "de_DE", "tr_TR", "el_GR", "lt_LT",
 
 } // namespace
 
+std::vector<std::u16string_view> tokensOf(std::u16string_view row, char16_t separator) {
+    std::vector<std::u16string_view> tokens;
+    for (;;) {
+        const auto end = row.find(separator);
+        tokens.push_back(row.substr(0, end));
+        if (end == row.npos) {
+            return tokens;
+        }
+        row.remove_prefix(end + 1);
+    }
+}
+
 Tokens plainTokens() {
-    static const auto tokens = split(plain);
+    static const auto tokens = tokensOf(plain, u'|');
     return tokens;
 }
 
 Tokens quoteTokens() {
-    static const auto tokens = split(quotes);
+    static const auto tokens = tokensOf(quotes, u'|');
     return tokens;
 }
 
 Tokens tagTokens() {
-    static const auto tokens = split(tags);
+    static const auto tokens = tokensOf(tags, u'|');
     return tokens;
 }
 

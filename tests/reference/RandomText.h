@@ -8,11 +8,13 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nerlo::reference {
 
 // Building blocks: what a family of operations looks at, and what may stand around it.
 using Tokens = std::span<const std::u16string_view>;
+std::vector<std::u16string_view> tokensOf(std::u16string_view row, char16_t separator);
 Tokens plainTokens();
 Tokens quoteTokens();
 Tokens tagTokens();

@@ -12,11 +12,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace test;
-using platform::FileSettingsStore;
-using platform::parsePropertyList;
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
 using platform::writeBinary;
 using platform::writeXml;
 

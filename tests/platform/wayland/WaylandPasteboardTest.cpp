@@ -150,31 +150,28 @@ void say(int fd, const std::string &text) {
 
 // Owners that end their turn at once, each with what is read of {"broken", "good"} from them.
 TEST(WaylandPasteboard, OwnersThatMisbehave) {
-    struct Row {
+    const auto endless = [](int fd) {
+        std::thread([fd] {
+            const std::string piece(60'000, 'x');
+            while (write(fd, piece.data(), piece.size()) > 0) {
+            }
+            close(fd);
+        }).detach();
+    };
+    const auto noText = [](int fd) {
+        say(fd, std::string("\0\xff\xc0\0", 4));
+        close(fd);
+    };
+    const struct {
         const char *name;
         std::function<void(int fd)> broken;
         Strings expected;
+    } rows[] = {
+        {"closes the pipe at once", close, {"good"}},
+        {"delivers more than the limit", endless, {"good"}},
+        {"delivers bytes that are no text", noText, {"broken", "good"}},
     };
-    const Row rows[] = {
-        {"closes the pipe at once", [](int fd) { close(fd); }, {"good"}},
-        {"delivers more than the limit",
-         [](int fd) {
-             std::thread([fd] {
-                 const std::string piece(60'000, 'x');
-                 while (write(fd, piece.data(), piece.size()) > 0) {
-                 }
-                 close(fd);
-             }).detach();
-         },
-         {"good"}},
-        {"delivers bytes that are no text",
-         [](int fd) {
-             say(fd, std::string("\0\xff\xc0\0", 4));
-             close(fd);
-         },
-         {"broken", "good"}},
-    };
-    for (const Row &row : rows) {
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         Desktop desktop;
         const auto start = desktop.pasteboard->changeCount();
