@@ -16,39 +16,13 @@ import unittest
 
 import dbus
 
-from desktop_session import Program, wait_until
+from desktop_session import WAYLAND, Program, copy, desktop, paste, read, wait_until
 
 PROGRAM = os.environ["NERLO_PRO"]
 OWNER = os.environ["NERLO_OWNER"]
-SESSION = os.environ["NERLO_SESSION"]
-WAYLAND = SESSION == "wayland"
 TICK = 0.5
 PLAIN = {"text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"}
 PROTOCOL = {"TARGETS", "MULTIPLE", "TIMESTAMP", "SAVE_TARGETS"}
-
-
-def copy(data):
-    """Copies as plain text, with the session's ordinary tool."""
-    tool = ["wl-copy", "--type", "text/plain;charset=utf-8"] if WAYLAND else ["xclip", "-sel", "c"]
-    subprocess.run(tool, input=data, check=True, stdout=subprocess.DEVNULL,
-                   stderr=subprocess.DEVNULL)
-
-
-def read(*tool):
-    """The output of a tool that reads the clipboard, None if it fails. Where the owner ends just
-    when it is asked, as xclip does when it loses the clipboard, a reader waits for ever."""
-    try:
-        done = subprocess.run(tool, capture_output=True, timeout=5)
-    except subprocess.TimeoutExpired:
-        return None
-    return done.stdout if done.returncode == 0 else None
-
-
-def paste(kind="UTF8_STRING"):
-    """The bytes of one format, None if it cannot be had."""
-    if WAYLAND:
-        return read("wl-paste", "--no-newline", "--type", kind)
-    return read("xclip", "-o", "-sel", "c", "-t", kind)
 
 
 def formats():
@@ -363,11 +337,10 @@ class ClipboardTest(unittest.TestCase):
         program = self.start_automatic()
         # Of the windows of a first start, the one that has no text field and so no caret that blinks
         # gets the focus, once the other has had it.
+        hands = desktop()
+        self.addCleanup(hands.close)
         for title in "Preferences", "Tips":
-            wait_until(lambda: subprocess.run(
-                ["swaymsg", f'[title="^{title}$"] focus'] if WAYLAND else
-                ["xdotool", "search", "--onlyvisible", "--name", f"^{title}$", "windowactivate",
-                 "--sync"], capture_output=True).returncode == 0, f"a window {title}")
+            hands.activate(title)
         copy(b"one  two")
         self.expect_clean(b"one two")
         # What a window has used is given back for up to half a minute, which a short watch does not

@@ -94,7 +94,58 @@ class Program:
         self.bus.close()
 
 
-class X11Desktop:
+WAYLAND = os.environ["NERLO_SESSION"] == "wayland"
+
+
+def copy(data):
+    """Copies as plain text, with the session's ordinary tool. It stays to serve the text, and must not
+    hold the pipes of its starter."""
+    tool = ["wl-copy", "--type", "text/plain;charset=utf-8"] if WAYLAND else ["xclip", "-sel", "c"]
+    subprocess.run(tool, input=data, check=True, stdout=subprocess.DEVNULL,
+                   stderr=subprocess.DEVNULL)
+
+
+def read(*tool):
+    """The output of a tool that reads the clipboard, None if it fails. Where the owner ends just
+    when it is asked, as xclip does when it loses the clipboard, a reader waits for ever."""
+    try:
+        done = subprocess.run(tool, capture_output=True, timeout=5)
+    except subprocess.TimeoutExpired:
+        return None
+    return done.stdout if done.returncode == 0 else None
+
+
+def paste(kind="UTF8_STRING"):
+    """The bytes of one format, None if it cannot be had."""
+    if WAYLAND:
+        return read("wl-paste", "--no-newline", "--type", kind)
+    return read("xclip", "-o", "-sel", "c", "-t", kind)
+
+
+class Desktop:
+    @staticmethod
+    def copy(text):
+        copy(text.encode())
+
+    @staticmethod
+    def paste():
+        return (paste() or b"").decode(errors="replace")
+
+    def activate(self, title):
+        window = wait_until(lambda: self.windows(title), f"a window {title}")[0]
+        self.focus(window)
+        wait_until(lambda: self.active() == window, f"{title} is in front")
+
+    def click(self, x, y):
+        self.move(x, y)
+        self.press()
+
+    def press(self):
+        self.button(True)
+        self.button(False)
+
+
+class X11Desktop(Desktop):
     def close(self):
         pass
 
@@ -106,10 +157,9 @@ class X11Desktop:
     def active():
         return output_of("xdotool", "getactivewindow").strip()
 
-    def activate(self, title):
-        wid = wait_until(lambda: self.windows(title), f"a window {title}")[0]
-        output_of("xdotool", "windowactivate", wid)
-        wait_until(lambda: self.active() == wid, f"{title} is in front")
+    @staticmethod
+    def focus(window):
+        output_of("xdotool", "windowactivate", window)
 
     def place(self, title):
         lines = output_of("xdotool", "getwindowgeometry", "--shell", self.windows(title)[0])
@@ -128,18 +178,8 @@ class X11Desktop:
     def keys(*chords):
         output_of("xdotool", "key", "--delay", 30, *chords)
 
-    @staticmethod
-    def copy(text):
-        # It stays to serve the text, and must not hold the pipes of its starter.
-        subprocess.run(["xclip", "-sel", "c"], input=text.encode(), check=True,
-                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
-    @staticmethod
-    def paste():
-        return output_of("xclip", "-o", "-sel", "c", "-t", "UTF8_STRING", seconds=5)
-
-
-class WaylandDesktop:
+class WaylandDesktop(Desktop):
     """sway, with a keyboard and a pointer of our own: its protocol needs no more than this."""
 
     KEYMAP = ('xkb_keymap { xkb_keycodes { include "evdev+aliases(qwerty)" }; '
@@ -240,10 +280,9 @@ class WaylandDesktop:
         return next((node["id"] for node in self.nodes()
                      if node.get("focused") and node.get("pid")), None)
 
-    def activate(self, title):
-        wid = wait_until(lambda: self.windows(title), f"a window {title}")[0]
-        output_of("swaymsg", f"[con_id={wid}] focus")
-        wait_until(lambda: self.active() == wid, f"{title} is in front")
+    @staticmethod
+    def focus(window):
+        output_of("swaymsg", f"[con_id={window}] focus")
 
     def move(self, x, y):
         self.send(self.pointer, 1, struct.pack("IIIII", self.now(), x, y, *SCREEN))
@@ -267,18 +306,9 @@ class WaylandDesktop:
                     self.send(self.keyboard, 2, struct.pack("IIII", mask, 0, 0, 0))
                     self.round_trip()
 
-    @staticmethod
-    def copy(text):
-        subprocess.run(["wl-copy"], input=text.encode(), check=True,
-                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-
-    @staticmethod
-    def paste():
-        return output_of("wl-paste", "--no-newline", seconds=5)
-
 
 def desktop():
-    return WaylandDesktop() if os.environ["NERLO_SESSION"] == "wayland" else X11Desktop()
+    return WaylandDesktop() if WAYLAND else X11Desktop()
 
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"

@@ -64,9 +64,7 @@ class PopupTest(unittest.TestCase):
         return wait_until(popup, "the popup is there")
 
     def click(self, x, y):
-        self.desktop.move(x, y)
-        self.desktop.button(True)
-        self.desktop.button(False)
+        self.desktop.click(x, y)
         wait_until(lambda: not popup(), "a click closes it")
 
     def test_it_stands_where_it_should_takes_no_focus_and_closes_by_a_click(self):

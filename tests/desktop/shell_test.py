@@ -14,8 +14,8 @@ import unittest
 import dbus
 import dbus.service
 
-from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TEXT, Eyes, Program, ask,
-                             desktop, output_of, wait_until)
+from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TEXT, WAYLAND, Eyes,
+                             Program, ask, desktop, output_of, wait_until)
 
 PROGRAM = os.environ["NERLO_PRO"]
 SESSION = os.environ["NERLO_SESSION_DIR"]
@@ -139,8 +139,7 @@ class ShellTest(unittest.TestCase):
     def setUp(self):
         self.desktop = desktop()
         self.addCleanup(self.desktop.close)
-        self.wayland = os.environ["NERLO_SESSION"] == "wayland"
-        if self.wayland:
+        if WAYLAND:
             self.addCleanup(Portal().close)
         self.eyes = Eyes("nerlo-pro")
 
@@ -150,12 +149,7 @@ class ShellTest(unittest.TestCase):
         return program
 
     def click(self, role, name):
-        self.desktop.move(*self.eyes.middle(self.eyes.find(role, name)))
-        self.press_button()
-
-    def press_button(self):
-        self.desktop.button(True)
-        self.desktop.button(False)
+        self.desktop.click(*self.eyes.middle(self.eyes.find(role, name)))
 
     def do_until(self, act, condition, what):
         """Again if need be: while the focus moves, a key goes nowhere."""
@@ -210,7 +204,7 @@ class ShellTest(unittest.TestCase):
         wait_until(lambda: self.desktop.paste() == clean, f"{text} becomes {clean}")
 
     def press_shortcut(self):
-        if self.wayland:
+        if WAYLAND:
             wait_until(lambda: "sRemoveAllSpaces CTRL+SHIFT+k" in output_of(PORTAL, "list"),
                        "the desktop knows the shortcut")
             output_of(PORTAL, "press", "sRemoveAllSpaces")
@@ -278,16 +272,16 @@ class ShellTest(unittest.TestCase):
                    "the popup has its counts")
         for count in ("Characters: 9", "Spaces: 1", "Words: 2"):
             self.assertIn(count, names)
-        if not self.wayland:  # whose compositor tells nobody of such windows
+        if not WAYLAND:  # whose compositor tells nobody of such windows
             wait_until(lambda: self.desktop.windows("Statistics"), "the popup is there")
             self.assertEqual(self.desktop.place("Statistics"), (x, y))
         self.assertEqual(self.desktop.active(), active, "the popup leaves the focus alone")
         # It takes the first click, and the box below it the next.
         self.desktop.move(x + 12, y + 6)
-        self.press_button()
+        self.desktop.press()
         with self.assertRaises(AssertionError):
             wait_until(lambda: not self.eyes.state(box, CHECKED), "the box is behind it", 1)
-        self.do_until(self.press_button, lambda: not self.eyes.state(box, CHECKED),
+        self.do_until(self.desktop.press, lambda: not self.eyes.state(box, CHECKED),
                       "the box is no longer ticked")
 
         # A profile is added by keyboard alone.

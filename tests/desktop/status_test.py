@@ -49,9 +49,7 @@ class StatusTest(unittest.TestCase):
 
         def click():
             hands.activate("Preferences")
-            hands.move(*eyes.middle(eyes.find(CHECK_BOX, "Start at login")))
-            hands.button(True)
-            hands.button(False)
+            hands.click(*eyes.middle(eyes.find(CHECK_BOX, "Start at login")))
 
         def notice():
             return any(AUTOSTART in eyes.attribute(node, "Name") for node in eyes.shown()
