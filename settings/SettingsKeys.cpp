@@ -61,7 +61,7 @@ constexpr StoreKey storeKeys[] = {
     {"preferencesHeight", SettingKind::Integer, "application", "height of the window"},
     {"firstRunPreferences", SettingKind::Boolean, "start", "the first start has been handled"},
     {"firstRunPreferencesProfiles", SettingKind::Boolean, "start", "there are profiles"},
-    {"firstRunTips", SettingKind::Boolean, "start", "the tips have been shown"},
+    {"firstRunTips", SettingKind::Boolean, "start", "show the tips at each start"},
     {"updateReleaseNotes3_1", SettingKind::Boolean, "start", "the release notes have been shown"},
     {"udSelectedProfileItem", SettingKind::Integer, "profile", "place of the selected profile"},
     {"udStatisticsValue", SettingKind::Integer, "statistics",

@@ -27,16 +27,20 @@ void describe(QWidget &widget, const char *name, const char *nameKey, const char
 
 constexpr int replacementRole = Qt::UserRole;
 
-void markProblem(QListWidgetItem &item) {
-    const bool usable = engine::ruleIsUsable(
-        item.text().toStdU16String(), item.data(replacementRole).toString().toStdU16String());
-    if (item.icon().isNull() == usable) {
-        return;
-    }
+// What the row shows beside its text; a screen reader gets it as the description.
+void describeRow(QListWidgetItem &item) {
+    const QString replacement = item.data(replacementRole).toString();
+    const bool usable =
+        engine::ruleIsUsable(item.text().toStdU16String(), replacement.toStdU16String());
     const QString problem = usable ? QString() : localized("sPatternUnusable");
     item.setIcon(usable ? QIcon() : shortcuts::warningIcon());
     item.setToolTip(problem);
-    item.setData(Qt::AccessibleDescriptionRole, problem);
+    QStringList description{problem};
+    if (!replacement.isEmpty()) {
+        description << localized("sFindReplaceWith") + ": " + replacement;
+    }
+    description.removeAll(QString());
+    item.setData(Qt::AccessibleDescriptionRole, description.join('\n'));
 }
 
 // What is sought in the first half of the row, and behind an arrow what takes its place.
@@ -186,7 +190,7 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
             preferences_.selectedRow(row);
             preferences_.saveCurrentFindReplace(find);
             const QScopedValueRollback loading(loading_, true);
-            markProblem(*item);
+            describeRow(*item);
             showField();
         }
         preferences_.setAllBoolsInChangePasteboard();
@@ -197,7 +201,7 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
         if (auto *item = findTableView->currentItem()) {
             const QScopedValueRollback loading(loading_, true);
             item->setData(replacementRole, text);
-            markProblem(*item);
+            describeRow(*item);
         }
         replaceTextField->setPlaceholderText(
             QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
@@ -260,7 +264,7 @@ void FindReplaceTable::addItem(const platform::PropertyValue &rule) {
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable |
                    Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
     item->setCheckState(settings::FindReplaceList::isOn(rule) ? Qt::Checked : Qt::Unchecked);
-    markProblem(*item);
+    describeRow(*item);
     findTableView->addItem(item);
 }
 

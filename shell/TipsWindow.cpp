@@ -134,6 +134,11 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     previous_->setText(texts[0]);
     atEachStart_->setText(texts[1]);
     next_->setDefault(true);
+    // The keys that turn the pages: a button would go to the next one.
+    for (QWidget *focus : {static_cast<QWidget *>(this), static_cast<QWidget *>(previous_),
+                           static_cast<QWidget *>(next_), static_cast<QWidget *>(atEachStart_)}) {
+        focus->installEventFilter(this);
+    }
     showPage();
 }
 
@@ -162,19 +167,26 @@ void TipsWindow::showPage() {
     setAccessibleDescription(title_->text() + ". " + text_->text());
 }
 
-void TipsWindow::keyPressEvent(QKeyEvent *event) {
+bool TipsWindow::eventFilter(QObject *, QEvent *event) {
+    if (event->type() != QEvent::KeyPress) {
+        return false;
+    }
     const int forward = isRightToLeft() ? -1 : 1;
-    switch (event->key()) {
+    switch (static_cast<QKeyEvent *>(event)->key()) {
     case Qt::Key_Right:
-    case Qt::Key_PageDown:
-        setPage(page_ + (event->key() == Qt::Key_Right ? forward : 1));
-        break;
+        setPage(page_ + forward);
+        return true;
     case Qt::Key_Left:
+        setPage(page_ - forward);
+        return true;
+    case Qt::Key_PageDown:
+        setPage(page_ + 1);
+        return true;
     case Qt::Key_PageUp:
-        setPage(page_ - (event->key() == Qt::Key_Left ? forward : 1));
-        break;
+        setPage(page_ - 1);
+        return true;
     default:
-        QDialog::keyPressEvent(event);
+        return false;
     }
 }
 

@@ -43,7 +43,7 @@ class TipsWindow final : public QDialog {
     void setPage(int page);
 
   protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
 
