@@ -1,40 +1,28 @@
 // The automatic mode on a clock moved by hand.
-#include "shell/nrPasteboardWatcher.h"
-
-#include "platform/PasteboardFormats.h"
-#include "platform/memory/MemoryActiveApplication.h"
-#include "platform/memory/MemoryMainQueue.h"
-#include "platform/memory/MemoryPasteboard.h"
-#include "platform/memory/MemoryWorkerQueue.h"
-
-#include <gtest/gtest.h>
+#include "tests/shell/ShellFixture.h"
 
 namespace nerlo::shell {
 namespace {
 
 using namespace std::chrono_literals;
 
-// Each test runs on a clipboard that announces its changes and on one that has to be polled.
-class PasteboardWatcherTest : public testing::TestWithParam<bool> {
+// Each test runs on both kinds of clipboards.
+class PasteboardWatcherTest : public ShellFixture, public testing::WithParamInterface<bool> {
   protected:
-    void advance(platform::MainQueue::Clock::duration duration) { mainQueue.advance(duration); }
+    PasteboardWatcherTest()
+        : ShellFixture(GetParam()) {}
+
+    void advance(platform::MainQueue::Clock::duration duration) { queue.advance(duration); }
     // How many cleans have begun. None of them ends before `finish`.
-    std::size_t cleans() const { return workers.size(); }
+    std::size_t cleans() const { return worker.size(); }
     void finish() {
-        workers.runAll();
-        mainQueue.runPosted();
+        worker.runAll();
+        queue.runPosted();
     }
     void copyLink(const char *format) {
         const auto bytes = std::make_shared<const std::string>("cells");
         pasteboard.copy({{"UTF8_STRING", {}, bytes}, {format, {}, bytes}});
     }
-
-    platform::MemoryMainQueue mainQueue;
-    platform::MemoryWorkerQueue workers;
-    platform::MemoryPasteboard pasteboard{mainQueue, GetParam()};
-    platform::MemoryActiveApplication applications;
-    engine::nrChangePasterboard engine{pasteboard, mainQueue, workers, "en_US"};
-    nrPasteboardWatcher watcher{pasteboard, mainQueue, applications, engine};
 };
 
 INSTANTIATE_TEST_SUITE_P(Clipboards, PasteboardWatcherTest, testing::Bool(),
@@ -64,16 +52,16 @@ TEST_P(PasteboardWatcherTest, TicksFirstAfterTwoSecondsThenEveryHalf) {
 TEST_P(PasteboardWatcherTest, AnIdleClipboardThatNotifiesIsNotLookedAt) {
     watcher.start();
     advance(1min);
-    EXPECT_EQ(mainQueue.delayedCount(), GetParam() ? 0u : 1u);
+    EXPECT_EQ(queue.delayedCount(), GetParam() ? 0u : 1u);
     pasteboard.copyText("a");
-    mainQueue.runPosted();
-    EXPECT_EQ(mainQueue.delayedCount(), 1u);
+    queue.runPosted();
+    EXPECT_EQ(queue.delayedCount(), 1u);
     advance(500ms);
     finish();
     advance(1min);
-    EXPECT_EQ(mainQueue.delayedCount(), GetParam() ? 0u : 1u);
+    EXPECT_EQ(queue.delayedCount(), GetParam() ? 0u : 1u);
     watcher.stop();
-    EXPECT_EQ(mainQueue.delayedCount(), 0u);
+    EXPECT_EQ(queue.delayedCount(), 0u);
 }
 
 TEST_P(PasteboardWatcherTest, CleansEachNewContentOnce) {
@@ -119,7 +107,7 @@ TEST_P(PasteboardWatcherTest, AManualCleanIsNotFollowedByAnAutomaticOne) {
         SCOPED_TRACE(running);
         pasteboard.copyText("a");
         engine.changePasteboardWithKeys(1);
-        mainQueue.runPosted();
+        queue.runPosted();
         finish();
         if (!running) {
             watcher.start();
@@ -134,7 +122,7 @@ TEST_P(PasteboardWatcherTest, StopsAndStartsAfresh) {
     watcher.start();
     advance(10s);
     pasteboard.copyText("a");
-    mainQueue.runPosted();
+    queue.runPosted();
     watcher.stop();
     EXPECT_FALSE(watcher.running());
     advance(10s);
@@ -173,7 +161,7 @@ TEST_P(PasteboardWatcherTest, SparesLinkedCellsOnlyWhereTheExceptionHolds) {
         SCOPED_TRACE(row.name);
         watcher.toggleEngine(row.exception);
         for (const auto &identifier : row.activated) {
-            applications.activate(identifier);
+            activeApplication.activate(identifier);
         }
         copyLink(row.format);
         advance(10s);
@@ -198,17 +186,17 @@ TEST_P(PasteboardWatcherTest, SwitchingTheExceptionOnSubscribesAndAcceptsWhatIsT
     advance(1s);
     EXPECT_EQ(cleans(), 0u);
     watcher.toggleEngine(true);
-    EXPECT_EQ(applications.subscriptions, 2);
-    applications.activate("xterm");
+    EXPECT_EQ(activeApplication.subscriptions, 2);
+    activeApplication.activate("xterm");
     watcher.toggleEngine(true);
-    EXPECT_EQ(applications.subscriptions, 2);
+    EXPECT_EQ(activeApplication.subscriptions, 2);
 }
 
 TEST_P(PasteboardWatcherTest, AHungSpreadsheetDelaysNothingElse) {
     watcher.start();
     advance(2s);
     watcher.toggleEngine(true);
-    applications.activate("com.microsoft.Excel");
+    activeApplication.activate("com.microsoft.Excel");
     pasteboard.copyText("hangs", {.delay = 1h});
     advance(1s);
     pasteboard.copyText("a");

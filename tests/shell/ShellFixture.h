@@ -17,11 +17,15 @@ namespace nerlo::shell {
 
 class ShellFixture : public testing::Test {
   protected:
+    // A clipboard that announces its changes, or one that has to be polled.
+    explicit ShellFixture(bool notifies = true)
+        : pasteboard(queue, notifies) {}
+
     test::TemporaryFolder folder;
     platform::MemorySettingsStore store;
     platform::MemoryMainQueue queue;
     platform::MemoryWorkerQueue worker;
-    platform::MemoryPasteboard pasteboard{queue};
+    platform::MemoryPasteboard pasteboard;
     platform::MemoryActiveApplication activeApplication;
     engine::nrChangePasterboard engine{pasteboard, queue, worker, "en_US"};
     nrPasteboardWatcher watcher{pasteboard, queue, activeApplication, engine};
