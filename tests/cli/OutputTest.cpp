@@ -1,11 +1,6 @@
 // Where the output goes, and what happens when it cannot go there.
 #include "tests/cli/RunNerlo.h"
 
-#include <csignal>
-
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,8 +8,8 @@ namespace nerlo::test {
 
 namespace {
 
-const std::string request = "{\"id\":1,\"text\":\"a  b\"}\n";
-const std::string answer = "{\"id\":1,\"text\":\"a b\"}\n";
+const std::string request = R"({"id":1,"text":"a  b"})";
+const std::string answer = R"({"id":1,"text":"a b"})";
 
 mode_t modeOf(const std::string &path) {
     struct stat status {};
@@ -30,7 +25,7 @@ struct Command {
 std::vector<Command> commands() {
     std::string lines;
     for (int i = 0; i < 20000; ++i) {
-        lines += request;
+        lines += request + "\n";
     }
     return {{{"clean"}, std::string(300000, 'a')},
             {{"count"}, "a"},
@@ -42,21 +37,15 @@ std::vector<Command> commands() {
 }
 
 TEST(Output, AClosedPipeEndsQuietlyAndAFullDiskIsReported) {
-    const auto closedPipe = [] {
-        int ends[2];
-        if (pipe(ends) == 0) {
-            close(ends[0]);
-            dup2(ends[1], STDOUT_FILENO);
-            close(ends[1]);
-        }
-    };
-    const auto fullDisk = [] { dup2(open("/dev/full", O_WRONLY | O_CLOEXEC), STDOUT_FILENO); };
+    // The other end of the pipe has been there, and is gone.
+    const std::string closedPipe =
+        "mkfifo $0.pipe && exec 3<>$0.pipe && exec >$0.pipe && exec 3<&-";
     for (const auto &[arguments, input] : commands()) {
         SCOPED_TRACE(arguments[0]);
         const Ended closed = NerloRun{arguments, input, {}, closedPipe}.toEnd();
         EXPECT_EQ(closed.status, 0);
-        EXPECT_EQ(closed.err, "");
-        const Ended full = NerloRun{arguments, input, {}, fullDisk}.toEnd();
+        EXPECT_EQ(closed.err + closed.out, "");
+        const Ended full = NerloRun{arguments, input, {}, "exec >/dev/full"}.toEnd();
         EXPECT_EQ(full.status, 1);
         EXPECT_EQ(full.err, "nerlo: standard output: No space left on device\n");
     }
@@ -66,41 +55,34 @@ TEST(Output, AClosedPipeEndsQuietlyAndAFullDiskIsReported) {
 TEST(Output, ClosedDescriptorsAreNotReused) {
     const TemporaryFolder folder;
     putBytes(folder / "file", "a  b");
-    const Ended ended = NerloRun{
-        {"clean", "--in-place", folder / "file"}, "", {}, [] {
-            close(STDIN_FILENO);
-            close(STDOUT_FILENO);
-        }}.toEnd();
+    const Ended ended =
+        NerloRun{{"clean", "--in-place", folder / "file"}, "", {}, "exec <&- >&-"}.toEnd();
     EXPECT_EQ(ended.status, 0) << ended.err;
     EXPECT_EQ(bytesOf(folder / "file"), "a b");
 
-    const Ended unread = NerloRun{{"clean"}, "", {}, [] { close(STDIN_FILENO); }}.toEnd();
+    const Ended unread = NerloRun{{"clean"}, "", {}, "exec <&-"}.toEnd();
     EXPECT_EQ(unread.status, 1);
     EXPECT_EQ(unread.err, "nerlo: standard input: Bad file descriptor\n");
 }
 
 // An editor sends a request and waits for its answer before it sends the next.
 TEST(Output, BatchAnswersBeforeMoreIsAsked) {
+    const std::string script = R"(
+        coproc NERLO { exec "$0" batch --jobs "$1" 2>/dev/null; }
+        for round in 1 2 3; do
+            echo "$2" >&${NERLO[1]}
+            read -r -t 60 answer <&${NERLO[0]} && [ "$answer" = "$3" ] || exit 99
+        done
+        # Nobody reads any more: the next answer ends the program, though its input stays open.
+        child=$NERLO_PID
+        exec {NERLO[0]}<&-
+        echo "$2" >&${NERLO[1]}
+        wait "$child")";
     for (const char *jobs : {"1", "2"}) {
-        int toChild = -1;
-        int fromChild = -1;
-        const pid_t child =
-            NerloRun{{"batch", "--jobs", jobs}, "", {}, {}}.start(&toChild, &fromChild);
-        for (int round = 0; round < 3; ++round) {
-            ASSERT_EQ(write(toChild, request.data(), request.size()),
-                      static_cast<ssize_t>(request.size()));
-            pollfd ready{fromChild, POLLIN, 0};
-            ASSERT_EQ(poll(&ready, 1, 60000), 1) << "no answer";
-            char buffer[100];
-            const ssize_t size = read(fromChild, buffer, sizeof buffer);
-            EXPECT_EQ(std::string(buffer, static_cast<std::size_t>(size)), answer);
-        }
-        // Nobody reads any more: the next answer ends the program, though its input stays open.
-        close(fromChild);
-        ASSERT_EQ(write(toChild, request.data(), request.size()),
-                  static_cast<ssize_t>(request.size()));
-        EXPECT_EQ(waitFor(child), 0);
-        close(toChild);
+        EXPECT_EQ(Process({"bash", "-c", script, NERLO_PROGRAM, jobs, request, answer})
+                      .wait(std::chrono::minutes(5)),
+                  0)
+            << jobs;
     }
 }
 
@@ -142,11 +124,8 @@ TEST(InPlace, FailedWriteLeavesTheOldFile) {
     const TemporaryFolder folder;
     const std::string before(20000, 'a');
     putBytes(folder / "file", before);
-    const Ended ended = NerloRun{
-        {"clean", "--in-place", folder / "file"}, "", {}, [] {
-            const rlimit limit{10000, 10000};
-            setrlimit(RLIMIT_FSIZE, &limit);
-        }}.toEnd();
+    const Ended ended =
+        NerloRun{{"clean", "--in-place", folder / "file"}, "", {}, "ulimit -f 19"}.toEnd();
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.err, "nerlo: " + folder / "file" + ": File too large\n");
     EXPECT_EQ(bytesOf(folder / "file"), before);

@@ -1,21 +1,18 @@
-// Runs the program `nerlo` in a child process, in a folder of its own.
+// Runs the program `nerlo` where nothing of the machine's own settings and languages reaches it.
 #pragma once
 
-#include "tests/TemporaryFolder.h"
+#include "tests/Process.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include <sys/types.h>
-
 namespace nerlo::test {
 
 struct Ended {
-    int status = -1; // exit status; 1000 and the signal's number when a signal ended it
+    int status = -1; // exit status; 128 and the signal's number when a signal ended it
     std::string out;
     std::string err;
     long peakKilobytes = 0;
@@ -23,25 +20,14 @@ struct Ended {
 
 using Environment = std::vector<std::pair<std::string, std::string>>;
 
-class NerloRun {
-  public:
-    std::vector<std::string> arguments;
+struct NerloRun {
+    Arguments arguments; // paths are relative to the caller's current folder
     std::string input;
     Environment environment;
-    // Called in the child before the program starts; only system calls are safe there.
-    std::function<void()> inChild;
+    std::string before; // what the shell is to do first: "exec >/dev/full"
 
-    // With all input at once, until the end. Paths among the arguments are relative to the caller's
-    // current folder.
+    // With all input at once, until the end.
     Ended toEnd() const;
-    // Standard input and output are pipes, whose ends for us go to `*input` and `*output`.
-    pid_t start(int *toChild, int *fromChild) const;
-
-  private:
-    pid_t start(int in, int out, int err) const;
 };
-
-// The exit status as in Ended.
-int waitFor(pid_t child, long *peakKilobytes = nullptr);
 
 } // namespace nerlo::test

@@ -1,5 +1,4 @@
 // The control that records shortcuts, in a window on a real X server; xdotool is the user.
-#include "Process.h"
 #include "platform/memory/MemoryHotKeys.h"
 #include "platform/memory/MemorySettingsStore.h"
 #include "platform/qt/QtMainQueue.h"
@@ -7,6 +6,7 @@
 #include "platform/x11/X11KeyboardLayout.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/view/nrShortcutView.h"
+#include "tests/Process.h"
 
 #include <gtest/gtest.h>
 

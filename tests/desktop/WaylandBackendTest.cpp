@@ -3,7 +3,7 @@
 #include "platform/memory/MemoryMainQueue.h"
 #include "platform/wayland/WaylandActiveApplication.h"
 #include "platform/wayland/WaylandPasteboard.h"
-#include "tests/desktop/Process.h"
+#include "tests/Process.h"
 #include "tests/platform/PasteboardUser.h"
 
 #include <filesystem>

@@ -1,11 +1,11 @@
 // Hot keys and the keyboard layout on a real X server: xdotool is the user.
 #include "platform/x11/X11HotKeys.h"
-#include "Process.h"
 #include "platform/memory/MemoryMainQueue.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/XkbEvents.h"
 #include "platform/x11/XkbProtocol.h"
+#include "tests/Process.h"
 
 #include <gtest/gtest.h>
 

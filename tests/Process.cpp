@@ -1,14 +1,10 @@
-#include "tests/desktop/Process.h"
-
-#include "tests/TemporaryFolder.h"
-
-#include <cstdlib>
-#include <filesystem>
+#include "tests/Process.h"
 
 #include <csignal>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,24 +12,13 @@ extern char **environ;
 
 namespace nerlo::test {
 
-namespace {
-
-std::string sessionFile() {
-    static int number = 0;
-    return std::string(std::getenv("NERLO_SESSION_DIR")) + "/" + std::to_string(getpid()) + "." +
-           std::to_string(number++);
-}
-
-} // namespace
-
-Process::Process(const Arguments &command, std::string_view input)
-    : outputPath_(sessionFile()) {
-    const std::string inputPath = sessionFile();
-    putBytes(inputPath, std::string(input));
+Process::Process(const Arguments &command, std::string_view input) {
+    putBytes(folder_ / "in", std::string(input));
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_addopen(&files, 0, inputPath.c_str(), O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&files, 1, outputPath_.c_str(), O_WRONLY | O_CREAT, 0600);
+    posix_spawn_file_actions_addopen(&files, 0, (folder_ / "in").c_str(), O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&files, 1, (folder_ / "out").c_str(), O_WRONLY | O_CREAT,
+                                     0600);
     std::vector<char *> arguments;
     for (const auto &argument : command) {
         arguments.push_back(const_cast<char *>(argument.c_str()));
@@ -47,19 +32,17 @@ Process::Process(const Arguments &command, std::string_view input)
         status_ = 127;
         ADD_FAILURE() << "cannot start " << command[0];
     }
-    std::filesystem::remove(inputPath);
 }
 
 Process::~Process() {
     if (!status_) {
-        signal(SIGKILL);
+        kill(pid_, SIGKILL);
         wait();
     }
-    std::filesystem::remove(outputPath_);
 }
 
 std::string Process::output() const {
-    return bytesOf(outputPath_);
+    return bytesOf(folder_ / "out");
 }
 
 bool Process::waitForLine(std::string_view line) {
@@ -76,19 +59,15 @@ std::optional<int> Process::wait(std::chrono::milliseconds limit) {
     until(
         [this] {
             int status = 0;
-            if (!status_ && waitpid(pid_, &status, WNOHANG) == pid_) {
+            rusage usage{};
+            if (!status_ && wait4(pid_, &status, WNOHANG, &usage) == pid_) {
+                peakKilobytes_ = usage.ru_maxrss;
                 status_ = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
             }
             return status_.has_value();
         },
         limit);
     return status_;
-}
-
-void Process::signal(int number) const {
-    if (!status_) {
-        kill(pid_, number);
-    }
 }
 
 std::optional<std::string> outputOf(const Arguments &command, std::string_view input) {

@@ -1,6 +1,7 @@
 // Programs that a test starts, watches and ends.
 #pragma once
 
+#include "tests/TemporaryFolder.h"
 #include "tests/Until.h"
 
 #include <optional>
@@ -24,19 +25,20 @@ class Process {
     Process(const Process &) = delete;
     Process &operator=(const Process &) = delete;
 
-    pid_t pid() const { return pid_; }
     // What it has written to its standard output so far.
     std::string output() const;
     // False if it ends without having written the line, or after twenty seconds.
     bool waitForLine(std::string_view line);
     // The exit status, 128 + N for signal N; nothing if it still runs after `limit`.
     std::optional<int> wait(std::chrono::milliseconds limit = std::chrono::seconds(20));
-    void signal(int number) const;
+    // The most memory that it ever had, once it has ended.
+    long peakKilobytes() const { return peakKilobytes_; }
 
   private:
     pid_t pid_ = -1;
     std::optional<int> status_;
-    std::string outputPath_;
+    long peakKilobytes_ = 0;
+    const TemporaryFolder folder_;
 };
 
 // The whole standard output of a program; nothing if it fails or takes longer than twenty seconds.
