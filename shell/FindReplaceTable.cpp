@@ -26,6 +26,7 @@ void describe(QWidget &widget, const char *name, const char *nameKey, const char
 }
 
 constexpr int replacementRole = Qt::UserRole;
+constexpr auto textBefore = "textBefore"; // property of an editor
 
 // What the row shows beside its text; a screen reader gets it as the description.
 void describeRow(QListWidgetItem &item) {
@@ -77,6 +78,31 @@ class RuleDelegate final : public QStyledItemDelegate {
                            option.palette, option.state & QStyle::State_Enabled,
                            option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()),
                            selected ? QPalette::HighlightedText : QPalette::Text);
+    }
+    // Each keystroke counts, as in other fields: the profile may be switched, or the program ended,
+    // while the editor is open.
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override {
+        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+        editor->setProperty(textBefore, index.data(Qt::EditRole));
+        connect(qobject_cast<QLineEdit *>(editor), &QLineEdit::textEdited, this,
+                [this, editor] { emit const_cast<RuleDelegate *>(this)->commitData(editor); });
+        return editor;
+    }
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override {
+        // The place of the cursor is not lost to an equal text.
+        if (qobject_cast<QLineEdit *>(editor)->text() != index.data(Qt::EditRole)) {
+            QStyledItemDelegate::setEditorData(editor, index);
+        }
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        auto *editor = qobject_cast<QLineEdit *>(watched);
+        if (editor && event->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+            editor->setText(editor->property(textBefore).toString());
+            emit commitData(editor);
+        }
+        return QStyledItemDelegate::eventFilter(watched, event);
     }
     // As wide as the list: what is longer is cut short, and shown whole by the editor.
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {

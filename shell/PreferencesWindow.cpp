@@ -15,6 +15,7 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -213,6 +214,7 @@ QWidget *PreferencesWindow::makeTop() {
     search_->setAccessibleName(localized("sSearch"));
     search_->setToolTip(plainTooltip(localized("sSearchTip")));
     search_->setClearButtonEnabled(true);
+    search_->findChild<QToolButton *>()->setAccessibleName(localized(Table::menu, "Delete"));
     connect(search_, &QLineEdit::textChanged, this, &PreferencesWindow::search);
     layout->addWidget(search_, 1);
     layout->addSpacing(24);

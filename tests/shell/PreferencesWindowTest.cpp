@@ -209,6 +209,19 @@ TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(finds(), "acb");
     EXPECT_EQ(field.text(), "new");
+    // What is typed into a row counts at once, and Escape takes it back.
+    const auto stored = [&](int row) {
+        return settings::FindReplaceList::textOf(
+            preferences.findReplaceList().items()[static_cast<std::size_t>(row)], "find");
+    };
+    list.editItem(list.item(2));
+    QLineEdit *editor = list.viewport()->findChildren<QLineEdit *>().last();
+    QTest::keyClick(editor, Qt::Key_Home);
+    QTest::keyClicks(editor, "xy");
+    EXPECT_EQ(stored(2), u"xyb");
+    QTest::keyClick(editor, Qt::Key_Escape);
+    EXPECT_EQ(stored(2), u"b");
+    list.setCurrentRow(1);
     // Of a pattern that is none the row tells, as long as it is to be one.
     const auto told = [&] { return !list.item(1)->icon().isNull(); };
     list.item(1)->setText("(c");
