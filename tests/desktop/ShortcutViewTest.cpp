@@ -276,9 +276,6 @@ TEST_F(ShortcutView, WarnsOfAShortcutThatTheDesktopRefuses) {
     leaveWithMouse();
     bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sSort");
     EXPECT_EQ(view.warning(), "");
-    // The second of two that want the same keys.
-    bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sStatistics");
-    EXPECT_EQ(views[1]->warning(), "another shortcut of this program has the same keys");
 }
 
 TEST_F(ShortcutView, ItsToolTipTellsTheKeysThatTheDesktopChose) {

@@ -4,16 +4,12 @@
 #include <array>
 #include <cctype>
 #include <cstdlib>
-#include <cstring>
-#include <filesystem>
 #include <utility>
 
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 #include <wayland-server.h>
 #include <wlr-data-control-unstable-v1-server.h>
@@ -23,20 +19,10 @@ namespace nerlo::test {
 FakeCompositor::FakeCompositor(const wl_interface *manager, int seats, More more)
     : manager_(manager)
     , more_(std::move(more)) {
-    std::array<char, 64> name{};
-    std::strcpy(name.data(), "/tmp/nerlo-compositor.XXXXXX");
-    folder_ = mkdtemp(name.data());
-    path_ = folder_ + "/socket";
     server_ = wl_display_create();
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::strcpy(address.sun_path, path_.c_str());
-    const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0 ||
-        listen(listener, 8) != 0) {
+    if (wl_display_add_socket(server_, display().c_str()) != 0) {
         std::abort();
     }
-    wl_display_add_socket_fd(server_, listener);
     wl_display_init_shm(server_);
     for (int i = 0; i < seats; ++i) {
         seats_.push_back(offer(&wl_seat_interface));
@@ -59,7 +45,6 @@ FakeCompositor::~FakeCompositor() {
         wl_display_destroy(server_);
     }
     close(wake_);
-    std::filesystem::remove_all(folder_);
 }
 
 void FakeCompositor::serve() {

@@ -3,6 +3,8 @@
 // are for the test's thread and return when the compositor has done what they say.
 #pragma once
 
+#include "tests/TemporaryFolder.h"
+
 #include <atomic>
 #include <condition_variable>
 #include <functional>
@@ -45,7 +47,7 @@ class FakeCompositor {
     // Of data-control, as the program has asked for it.
     int version() const { return version_; }
     // The path of the socket.
-    const std::string &display() const { return path_; }
+    std::string display() const { return folder_ / "socket"; }
 
     void copy(std::vector<std::string> formats, Owner owner);
     // A copy of one text by an owner that behaves.
@@ -95,8 +97,7 @@ class FakeCompositor {
 
     const wl_interface *manager_;
     More more_;
-    std::string folder_;
-    std::string path_;
+    const TemporaryFolder folder_;
     wl_display *server_ = nullptr;
     std::list<Global> globals_;
     std::vector<wl_global *> seats_;
