@@ -3,6 +3,7 @@
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Mnemonics.h"
+#include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 
 #include <QCloseEvent>
@@ -10,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
@@ -29,7 +29,6 @@ using settings::cleanHotKey;
 constexpr QSize firstSize{1080, 660};
 constexpr int shortest = 360;
 constexpr int narrowestPreview = 240;
-constexpr QSize frameRoom{8, 40}; // of a screen, what the frame of the window takes
 
 QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
     auto *box = new QCheckBox(localized(titleKey));
@@ -135,8 +134,7 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     const QSize size(firstSize.width(),
                      height >= shortest ? static_cast<int>(std::min<std::int64_t>(height, 10'000))
                                         : firstSize.height());
-    // What does not fit could not be reached.
-    resize(size.boundedTo(screen()->availableSize() - frameRoom));
+    resize(size.boundedTo(screenRoom(*this)));
     const auto page = store_.integerForKey(pageKey);
     pageList_->setCurrentRow(page >= 0 && page < pages_->count() ? static_cast<int>(page) : 0);
     profilesChanged();

@@ -2,6 +2,7 @@
 
 #include "shell/Mnemonics.h"
 #include "shell/OptionRows.h"
+#include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 
 #include <QEvent>
@@ -119,6 +120,9 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     buttons->addWidget(next_);
     layout->addLayout(buttons);
     layout->addWidget(atEachStart_);
+    // On a small screen the picture gives way.
+    const int missing = std::max(0, sizeHint().height() - screenRoom(*this).height());
+    picture_->setFixedHeight(std::max(pictureSize.height() / 3, pictureSize.height() - missing));
 
     connect(previous_, &QPushButton::clicked, this, [this] { setPage(page_ - 1); });
     connect(next_, &QPushButton::clicked, this, [this] {
@@ -153,7 +157,7 @@ void TipsWindow::setPage(int page) {
 
 void TipsWindow::showPage() {
     const QIcon picture(":/tips/tip" + QString::number(page_ + 1) + ".svg");
-    picture_->setPixmap(picture.pixmap(pictureSize, devicePixelRatioF()));
+    picture_->setPixmap(picture.pixmap(picture_->size(), devicePixelRatioF()));
     title_->setText(textOf(page_, "Title"));
     text_->setText(textOf(page_, "Text"));
     picture_->setAccessibleName(title_->text());

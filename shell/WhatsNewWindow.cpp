@@ -1,5 +1,6 @@
 #include "shell/WhatsNewWindow.h"
 
+#include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 
 #include <QFile>
@@ -40,7 +41,7 @@ WhatsNewWindow::WhatsNewWindow(std::function<void()> showTips) {
     buttons->addStretch();
     buttons->addWidget(close);
     layout->addLayout(buttons);
-    resize(620, 480);
+    resize(QSize(620, 480).boundedTo(screenRoom(*this)));
 }
 
 } // namespace nerlo::shell
