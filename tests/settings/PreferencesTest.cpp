@@ -177,9 +177,7 @@ TEST_F(Saving, ComboBoxesReachTheEngineAtOnceAndTheFileWithTheNextSave) {
 
 TEST_F(Saving, FieldsFollowTheLists) {
     start();
-    EXPECT_FALSE(preferences.customSeparatorEnabled("udSortSeparator"));
     preferences.comboBoxSelectionDidChange("udSortSeparator", 8);
-    EXPECT_TRUE(preferences.customSeparatorEnabled("udSortSeparator"));
     preferences.comboBoxSelectionDidChange("udSortSeparator", -1);
     EXPECT_FALSE(preferences.customSeparatorEnabled("udSortSeparator"));
     using Fields = nrPreferences::ReturnsFields;

@@ -50,26 +50,15 @@ class RecordedWindows final : public ShellWindows {
     Calls take() { return std::exchange(calls, {}); }
 };
 
-class MemoryLoginItem final : public platform::LoginItem {
-  public:
-    std::string setEnabled(bool on) override {
-        if (error.empty()) {
-            on_ = on;
-        }
-        return error;
-    }
-    bool enabled() const override { return on_; }
-
-    std::string error;
-
-  private:
-    bool on_ = false;
+struct NoLoginItem final : platform::LoginItem {
+    std::string setEnabled(bool) override { return {}; }
+    bool enabled() const override { return false; }
 };
 
 class AppDelegate : public ShellFixture {
   protected:
     RecordedWindows windows;
-    MemoryLoginItem loginItem;
+    NoLoginItem loginItem;
     std::unique_ptr<nrAppDelegate> delegate;
 
     void start() {
@@ -156,20 +145,6 @@ TEST_F(AppDelegate, TheVisibilityBoxes) {
     EXPECT_EQ(windows.take(), (Calls{"preferences", "does not float"}));
 }
 
-TEST_F(AppDelegate, TheAutomaticModeIsKeptAndStartsAFreshWatch) {
-    startAgain();
-    for (const bool on : {true, false, true}) {
-        delegate->automaticallyClearFormatting();
-        EXPECT_EQ(watcher.running(), on);
-        EXPECT_EQ(delegate->automatic(), on);
-        EXPECT_EQ(store.boolForKey("automaticallyClearFormatting"), on);
-    }
-    watcher.stop();
-    startAgain();
-    EXPECT_TRUE(watcher.running());
-    EXPECT_TRUE(delegate->automatic());
-}
-
 TEST_F(AppDelegate, TheSpreadsheetExceptionSaysSoWhenItIsSwitchedOn) {
     startAgain();
     windows.take();
@@ -226,27 +201,6 @@ TEST_F(AppDelegate, SmallCommands) {
                      "about", "floats", "preferences", "floats"}));
     EXPECT_EQ(nrAppDelegate::emailLink({"", "m", "1", "Version 14 (Version B)"}),
               "m%20v1%20-%2014%20(B)");
-    delegate->launchOnStartup(true);
-    EXPECT_TRUE(loginItem.enabled());
-    EXPECT_TRUE(store.boolForKey("lunchOnStartup"));
-    delegate->launchOnStartup(false);
-    EXPECT_FALSE(loginItem.enabled());
-    loginItem.error = "read-only";
-    delegate->launchOnStartup(true);
-    EXPECT_EQ(windows.take(), Calls{"problem read-only"});
-    EXPECT_FALSE(store.boolForKey("lunchOnStartup")) << "the box shows what is";
-    int quits = 0;
-    delegate->setQuitHandler([&] { ++quits; });
-    delegate->quitApp();
-    EXPECT_EQ(quits, 1);
-    pasteboard.copyText("two  spaces");
-    preferences.initProfilesItems();
-    engine.setAllBools(settings::firstStartProfile("en"));
-    delegate->clearFormattingFromClipboard();
-    queue.runPosted();
-    worker.runAll();
-    queue.runPosted();
-    EXPECT_EQ(pasteboard.bytes("UTF8_STRING"), "two spaces");
 }
 
 TEST(PreferencesLayout, EveryOptionHasOnePlaceAndEveryOperationOneShortcut) {

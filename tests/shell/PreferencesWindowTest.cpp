@@ -72,22 +72,6 @@ class Preferences : public ShellFixture {
     }
 };
 
-TEST_F(Preferences, AnEditReachesTheProfileAfterItsDelay) {
-    auto &box = control<QCheckBox>("udSort");
-    EXPECT_FALSE(box.isChecked());
-    box.click();
-    queue.advance(999ms);
-    EXPECT_EQ(stored("udSort"), 0);
-    queue.advance(1ms);
-    EXPECT_EQ(stored("udSort"), 1);
-    control<QComboBox>("udSortOption").setCurrentIndex(3);
-    EXPECT_EQ(stored("udSortOption"), 3);
-    auto &seconds = control<QSpinBox>("udStatisticsValue");
-    EXPECT_EQ(seconds.value(), 3);
-    seconds.setValue(8);
-    EXPECT_EQ(store.integerForKey("udStatisticsValue"), 8);
-}
-
 TEST_F(Preferences, WhatDependsOnABoxIsDimmed) {
     const auto enabled = [&](const char *name) { return control<QWidget>(name).isEnabled(); };
     EXPECT_FALSE(enabled("udSortSeparator"));
