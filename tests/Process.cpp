@@ -70,6 +70,12 @@ std::optional<int> Process::wait(std::chrono::milliseconds limit) {
     return status_;
 }
 
+void xdotool(const Arguments &arguments) {
+    Arguments command{"xdotool"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    EXPECT_TRUE(outputOf(command)) << arguments.front();
+}
+
 std::optional<std::string> outputOf(const Arguments &command, std::string_view input) {
     Process process(command, input);
     return process.wait() == 0 ? std::optional(process.output()) : std::nullopt;

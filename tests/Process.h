@@ -41,6 +41,9 @@ class Process {
     const TemporaryFolder folder_;
 };
 
+// The user of an X11 session.
+void xdotool(const Arguments &arguments);
+
 // The whole standard output of a program; nothing if it fails or takes longer than twenty seconds.
 std::optional<std::string> outputOf(const Arguments &command, std::string_view input = {});
 

@@ -23,6 +23,7 @@ namespace nerlo::shortcuts {
 namespace {
 
 using test::outputOf;
+using test::xdotool;
 
 constexpr std::uint64_t v = 9;
 
@@ -86,11 +87,6 @@ class ShortcutView : public testing::Test {
                 return done();
             },
             limit);
-    }
-    static void xdotool(const test::Arguments &arguments) {
-        test::Arguments command{"xdotool"};
-        command.insert(command.end(), arguments.begin(), arguments.end());
-        ASSERT_TRUE(outputOf(command));
     }
     static void press(const std::string &keys) { xdotool({"key", keys}); }
     static void point(const nrShortcutView &view, QPoint at) {

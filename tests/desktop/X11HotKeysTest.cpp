@@ -18,6 +18,7 @@ namespace {
 
 using test::outputOf;
 using test::Process;
+using test::xdotool;
 
 constexpr std::uint32_t v = 9;
 constexpr std::uint32_t f5 = 96;
@@ -36,13 +37,6 @@ class X11HotKeys : public testing::Test {
         return from.registerHotKey({key, modifiers, {1, ++lastId}, {}, {}});
     }
 
-    static void xdotool(const test::Arguments &arguments) {
-        test::Arguments command{"xdotool"};
-        command.insert(command.end(), arguments.begin(), arguments.end());
-        ASSERT_TRUE(outputOf(command)) << arguments.front();
-    }
-
-    bool waitFor(const std::function<bool()> &done) { return test::until(queue, done); }
     // Waits until a press of another hot key has come through: what was pressed before has then
     // been dealt with.
     void settle() {

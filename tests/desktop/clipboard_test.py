@@ -10,13 +10,12 @@ import random
 import shutil
 import signal
 import subprocess
-import threading
 import time
 import unittest
 
 import dbus
 
-from desktop_session import WAYLAND, Program, copy, desktop, paste, read, wait_until
+from desktop_session import WAYLAND, Logged, Program, copy, desktop, paste, read, wait_until
 
 PROGRAM = os.environ["NERLO_PRO"]
 OWNER = os.environ["NERLO_OWNER"]
@@ -31,51 +30,27 @@ def formats():
     return {name for name in (names or b"").decode().split("\n") if name} - PROTOCOL
 
 
-class Lines:
-    """A program in the background, with the lines that it has printed so far."""
-
-    def __init__(self, command, ready=None):
-        self.lines = []
-        self.process = subprocess.Popen(command, stdin=subprocess.DEVNULL, text=True,
-                                        stdout=subprocess.PIPE, start_new_session=True)
-        self.reader = threading.Thread(target=self._read, daemon=True)
-        self.reader.start()
-        if ready:
-            wait_until(lambda: ready in self.lines, f"{command[0]} says {ready}")
-
-    def _read(self):
-        for line in self.process.stdout:
-            self.lines.append(line.rstrip("\n"))
-
-    def close(self):
-        """Ends it, with all that it has started."""
-        with contextlib.suppress(ProcessLookupError):
-            os.killpg(self.process.pid, signal.SIGKILL)
-        self.process.wait()
-        self.reader.join()
-        self.process.stdout.close()
-
-
 def owner(*arguments):
-    return contextlib.closing(Lines([OWNER, *arguments], "owned"))
+    return contextlib.closing(Logged(OWNER, *arguments, ready="owned"))
 
 
 def watch_changes():
     """Prints a line for each time that the clipboard is replaced."""
     if WAYLAND:
-        return contextlib.closing(Lines(["wl-paste", "--watch", "echo", "changed"]))
-    return contextlib.closing(Lines([OWNER, "--watch"], "watching"))
+        return contextlib.closing(Logged("wl-paste", "--watch", "echo", "changed"))
+    return contextlib.closing(Logged(OWNER, "--watch", ready="watching"))
 
 
 def clipboard_manager():
     """Keeps each text, and offers it again when its owner has gone."""
     if not WAYLAND:
-        return contextlib.closing(Lines([OWNER, "--manager"], "managing"))
+        return contextlib.closing(Logged(OWNER, "--manager", ready="managing"))
     kept = os.path.join(os.environ["NERLO_SESSION_DIR"], "kept")
     keep = f"cat >{kept}.new; mv {kept}.new {kept}"
     offer = f"wl-paste --list-types >/dev/null 2>&1 || [ ! -s {kept} ] || wl-copy <{kept}"
-    return contextlib.closing(Lines(["sh", "-c", f"echo managing; wl-paste --watch sh -c '{keep}' &"
-                                     f"while sleep 0.1; do {offer}; done"], "managing"))
+    return contextlib.closing(Logged(
+        "sh", "-c", f"echo managing; wl-paste --watch sh -c '{keep}' & while sleep 0.1; do {offer}; done",
+        ready="managing"))
 
 
 class WatchedProgram(Program):

@@ -3,11 +3,14 @@ program and, through the accessibility bus, what stands in the windows.
 
 desktop() gives those of the session that runs; X11 and Wayland differ only there.
 """
+import contextlib
 import json
 import os
+import signal
 import socket
 import struct
 import subprocess
+import tempfile
 import time
 
 import dbus
@@ -55,6 +58,33 @@ def output_of(*command, text=None, seconds=30):
     except subprocess.TimeoutExpired:
         return ""
     return done.stdout if done.returncode == 0 else ""
+
+
+class Logged:
+    """A program in the background, with what it has printed so far."""
+
+    def __init__(self, *command, ready=None, stderr=None):
+        self.log = tempfile.NamedTemporaryFile(dir=os.environ["NERLO_SESSION_DIR"])
+        self.process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self.log,
+                                        stderr=stderr, start_new_session=True)
+        if ready:
+            wait_until(lambda: ready in self.lines, f"{command[0]} says {ready}")
+
+    @property
+    def text(self):
+        with open(self.log.name, encoding="utf-8") as log:
+            return log.read()
+
+    @property
+    def lines(self):
+        return self.text.split("\n")[:-1]
+
+    def close(self):
+        """Ends it, with all that it has started."""
+        with contextlib.suppress(ProcessLookupError):
+            os.killpg(self.process.pid, signal.SIGKILL)
+        self.process.wait()
+        self.log.close()
 
 
 class Program:

@@ -13,8 +13,8 @@ import unittest
 
 import dbus
 
-from desktop_session import desktop, output_of, wait_until
-from shell_test import BUS_NAME, PORTAL, PROGRAM, SESSION, Portal
+from desktop_session import Logged, desktop, output_of, wait_until
+from shell_test import BUS_NAME, PORTAL, PROGRAM, Portal
 
 SHIFT, LOCK, SUPER = 1, 2, 64
 SCROLL_LOCK = 32  # put there by a test
@@ -58,24 +58,16 @@ class HotKeyTest(unittest.TestCase):
         self.desktop = desktop()
         self.addCleanup(self.desktop.close)
 
-    def run_logged(self, *command):
-        """Runs it until the test ends; the answer tells what it has written so far."""
-        path = f"{SESSION}/log/{os.path.basename(command[0])}"
-        with open(path, "wb") as log:
-            process = subprocess.Popen(command, stdout=log, stderr=log)
-        self.addCleanup(process.wait)
-        self.addCleanup(process.kill)
-
-        def written():
-            with open(path, encoding="utf-8") as log:
-                return log.read()
-        return written
+    def logged(self, *command):
+        program = Logged(*command, stderr=subprocess.STDOUT)
+        self.addCleanup(program.close)
+        return program
 
     def start(self):
-        self.output = self.run_logged(PROGRAM)
+        self.program = self.logged(PROGRAM)
 
     def says(self, line):
-        wait_until(lambda: line in self.output(), f"it says {line!r}")
+        wait_until(lambda: line in self.program.text, f"it says {line!r}")
 
     def store(self, shortcut, finding=None):
         """A shortcut, by the command line; `finding` is what becomes of it while the program runs."""
@@ -102,10 +94,10 @@ class HotKeyTest(unittest.TestCase):
         self.start()
         self.store("remove-all-spaces=Ctrl+Shift+R", "works")
         output_of("xset", "r", "off")  # a slow machine holds each key for long
-        front = self.run_logged("xev", "-event", "keyboard")
+        front = self.logged("xev", "-event", "keyboard")
         output_of("xdotool", "search", "--sync", "--onlyvisible", "--name", "Event Tester",
                   "windowactivate", "--sync")
-        wait_until(lambda: self.desktop.keys("a") or "keycode 38 " in front(), "xev gets the keys")
+        wait_until(lambda: self.desktop.keys("a") or "keycode 38 " in front.text, "xev gets the keys")
         presses = 0
 
         def presses_once():
@@ -142,9 +134,9 @@ class HotKeyTest(unittest.TestCase):
         self.desktop.keys("ctrl+27", "shift+27", "super+shift+27", "ctrl+shift+28")
         presses_once()  # what any of these had run would have come before
         # Of the combination the program in front has seen nothing, of the others each.
-        wait_until(lambda: front().count("keycode 28 ") == 2, "the last of them has arrived")
-        self.assertEqual(front().count("keycode 27 "), 2 * 3)
-        self.assertEqual(self.output(), "")
+        wait_until(lambda: front.text.count("keycode 28 ") == 2, "the last of them has arrived")
+        self.assertEqual(front.text.count("keycode 27 "), 2 * 3)
+        self.assertEqual(self.program.text, "")
 
     def test_x11_follows_shortcuts_stored_by_the_command_line(self):
         keyboard = Keyboard()
@@ -166,7 +158,7 @@ class HotKeyTest(unittest.TestCase):
                                   stderr=subprocess.DEVNULL, timeout=20, check=False)
             self.assertEqual(done.returncode, 2, bad)
         self.finds("clean=Ctrl+F9: works")
-        self.assertEqual(self.output(), "")
+        self.assertEqual(self.program.text, "")
 
     def test_x11_says_what_is_refused(self):
         self.store("clean=Super+V")
@@ -207,7 +199,7 @@ class HotKeyTest(unittest.TestCase):
         self.binds(clean)
         self.store("clean=")
         self.binds("")
-        self.assertEqual(self.output(), "")
+        self.assertEqual(self.program.text, "")
 
     def test_wayland_a_declined_dialog_is_a_refusal(self):
         portal = Portal()
