@@ -21,6 +21,10 @@ unsigned byteOf(char byte) {
     return static_cast<unsigned char>(byte);
 }
 
+std::size_t least(std::ptrdiff_t a, std::ptrdiff_t b) {
+    return static_cast<std::size_t>(std::min(a, b));
+}
+
 // `yes` when the condition is 1, `no` when it is 0; the compiler would make a branch of "?:".
 std::uint32_t select(std::uint32_t condition, std::uint32_t yes, std::uint32_t no) {
     return (yes & (0 - condition)) | (no & (condition - 1));
@@ -141,7 +145,7 @@ std::size_t decodeBlock(std::string_view bytes, char16_t *const to, std::size_t 
             at += ascii;
             unit += ascii;
             if (ascii == wordful<char> && unit <= full) {
-                const std::size_t more = widenAscii(at, std::min(end - at, to + room - unit), unit);
+                const std::size_t more = widenAscii(at, least(end - at, to + room - unit), unit);
                 at += more;
                 unit += more;
             }
@@ -242,7 +246,7 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
             at += ascii;
             to += ascii;
             if (ascii == wordful<char16_t>) {
-                const std::size_t more = narrowAscii(at, std::min(end - at, full - to), to);
+                const std::size_t more = narrowAscii(at, least(end - at, full - to), to);
                 at += more;
                 to += more;
             }
