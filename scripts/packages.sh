@@ -15,7 +15,7 @@ set -eu
 
 build="g++ cmake ninja-build pkg-config libicu-dev libplist-dev libcli11-dev nlohmann-json3-dev"
 desktop_build="qt6-base-dev qt6-wayland qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-    libqt6svg6-dev libxcb1-dev libxcb-xfixes0-dev libxcb-keysyms1-dev libxcb-xkb-dev
+    qt6-svg-dev libxcb1-dev libxcb-xfixes0-dev libxcb-keysyms1-dev libxcb-xkb-dev
     libxkbcommon-dev libxkbcommon-x11-dev libwayland-dev libwayland-bin
     wayland-protocols"
 test="libgtest-dev libbenchmark-dev"
