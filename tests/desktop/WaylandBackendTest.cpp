@@ -37,6 +37,22 @@ TEST(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
               PasteboardStatus::changed);
 }
 
+// A manager takes a copy of each content as soon as it comes, which may be after the program's end.
+TEST(WaylandBackend, AManagerHasTheTextWhenTheProgramEndsRightAfterItsWrite) {
+    MemoryMainQueue queue;
+    test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue).backend};
+    ASSERT_TRUE(clipboard.pasteboard);
+    const test::TemporaryFolder folder;
+    const std::string kept = folder / "kept";
+    const Process manager({"wl-paste", "--watch", "sh", "-c", "cat >$0.new; mv $0.new $0", kept});
+    clipboard.write(plainTextContent("before"));
+    ASSERT_TRUE(test::until([&] { return test::bytesOf(kept) == "before"; }));
+    const std::string written(3'000'000, 'w');
+    clipboard.write(plainTextContent(written));
+    clipboard.pasteboard.reset();
+    EXPECT_TRUE(test::until([&] { return test::bytesOf(kept) == written; }));
+}
+
 TEST(WaylandApplications, NamesTheOneThatComesToTheFront) {
     MemoryMainQueue queue;
     const auto created = createWaylandActiveApplication(queue);
