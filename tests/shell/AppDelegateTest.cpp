@@ -201,6 +201,13 @@ TEST_F(AppDelegate, SmallCommands) {
                      "about", "floats", "preferences", "floats"}));
     EXPECT_EQ(nrAppDelegate::emailLink({"", "m", "1", "Version 14 (Version B)"}),
               "m%20v1%20-%2014%20(B)");
+    pasteboard.copyText("two  spaces");
+    engine.setAllBools(settings::firstStartProfile("en"));
+    delegate->clearFormattingFromClipboard();
+    queue.runPosted();
+    worker.runAll();
+    queue.runPosted();
+    EXPECT_EQ(pasteboard.bytes("UTF8_STRING"), "two spaces");
 }
 
 TEST(PreferencesLayout, EveryOptionHasOnePlaceAndEveryOperationOneShortcut) {
