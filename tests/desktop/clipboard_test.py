@@ -47,6 +47,8 @@ def clipboard_manager():
         return contextlib.closing(Logged(OWNER, "--manager", ready="managing"))
     kept = os.path.join(os.environ["NERLO_SESSION_DIR"], "kept")
     keep = f"cat >{kept}.new; mv {kept}.new {kept}"
+    with contextlib.suppress(FileNotFoundError):
+        os.remove(kept)  # what an earlier one kept is not to come in between
     offer = f"wl-paste --list-types >/dev/null 2>&1 || [ ! -s {kept} ] || wl-copy <{kept}"
     return contextlib.closing(Logged(
         "sh", "-c", f"echo managing; wl-paste --watch sh -c '{keep}' & while sleep 0.1; do {offer}; done",

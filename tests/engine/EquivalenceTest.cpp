@@ -22,7 +22,7 @@ using reference::Random;
 
 std::chrono::milliseconds timeForOne() {
     const char *const seconds = std::getenv("NERLO_EQUIVALENCE_SECONDS");
-    return std::chrono::milliseconds(seconds ? static_cast<long>(std::atof(seconds) * 1000) : 4000);
+    return std::chrono::milliseconds(seconds ? static_cast<long>(std::atof(seconds) * 1000) : 6000);
 }
 
 // Runs until the time is over or a comparison fails, and at least 200 times.
