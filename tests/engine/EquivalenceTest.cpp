@@ -118,7 +118,11 @@ TEST(RandomTexts, GiveTheSameThroughOwnPatterns) {
 }
 
 TEST(RandomTexts, GiveTheSameThroughEveryOperation) {
-    const std::pair<std::vector<std::int32_t>, reference::Tokens> rows[] = {
+    struct Row {
+        std::vector<std::int32_t> indices;
+        reference::Tokens tokens;
+    };
+    const Row rows[] = {
         {{0, 1, 2, 3, 4, 5, 16, 17, 18, 19, 20, 21, 22, 34, 35, 36}, reference::plainTokens()},
         {{33}, reference::plainTokens()},
         {{13, 14, 15, 23, 24, 26, 27, 28, 29, 30, 31, 32}, reference::plainTokens()},
@@ -126,12 +130,12 @@ TEST(RandomTexts, GiveTheSameThroughEveryOperation) {
         {{7, 8, 9}, reference::quoteTokens()},
         {{10, 11}, reference::tagTokens()},
     };
-    for (std::uint64_t seed = 1; const auto &[indices, tokens] : rows) {
+    for (std::uint64_t seed = 1; const Row &row : rows) {
         repeat(seed++, [&](Random &random) {
             const CleaningOptions options = random.options();
             const CleaningContext context{options, random.locale(), random.oneIn(4) ? 107 : 109};
-            const std::u16string text = random.text(tokens);
-            for (const std::int32_t index : indices) {
+            const std::u16string text = random.text(row.tokens);
+            for (const std::int32_t index : row.indices) {
                 compareOperation(index, text, context);
             }
         });
