@@ -20,7 +20,7 @@ namespace {
 
 using engine::CleaningContext;
 using engine::CleaningOptions;
-using platform::PropertyDictionary;
+using storage::PropertyDictionary;
 
 constexpr std::size_t sizes[] = {1 << 10, 20 << 10, 16 << 20};
 constexpr Kind kinds[] = {Kind::Prose, Kind::Mixed, Kind::Html};

@@ -3,7 +3,7 @@
 #include "cli/JsonOptions.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
-#include "platform/UserLocale.h"
+#include "settings/UserLocale.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -155,7 +155,7 @@ const engine::Operation *operationOf(const json *value) {
 
 std::string localeOf(const json &value) {
     const std::string &name = stringOf(value, "locale");
-    const std::optional<std::string> id = platform::localeId(name);
+    const std::optional<std::string> id = settings::localeId(name);
     if (!id) {
         throw BadRequest("unusable locale " + value.dump());
     }

@@ -4,12 +4,12 @@
 #include "cli/Input.h"
 #include "cli/JsonOptions.h"
 #include "cli/Progress.h"
-#include "platform/PropertyList.h"
-#include "platform/UserLocale.h"
-#include "platform/linux/FileSettingsStore.h"
 #include "settings/ProfilesFile.h"
 #include "settings/SettingsKeys.h"
 #include "settings/UserLanguages.h"
+#include "settings/UserLocale.h"
+#include "storage/FileSettingsStore.h"
+#include "storage/PropertyList.h"
 
 #include <CLI/App.hpp>
 #include <nlohmann/json.hpp>
@@ -18,7 +18,7 @@ namespace nerlo::cli {
 
 namespace {
 
-using platform::PropertyDictionary;
+using storage::PropertyDictionary;
 
 [[noreturn]] void refuse(const std::string &message) {
     throw Failure(ExitStatus::unusableArguments, message);
@@ -36,7 +36,7 @@ PropertyDictionary readOptions(const std::string &file) {
     Progress progress;
     const InputFile input(file);
     const Bytes bytes = readBytes(input.descriptor(), nameOf(file), progress);
-    const platform::ParsedPropertyList parsed = platform::parsePropertyList(bytes.view());
+    const storage::ParsedPropertyList parsed = storage::parsePropertyList(bytes.view());
     if (!parsed.value) {
         throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + parsed.error);
     }
@@ -67,7 +67,7 @@ PropertyDictionary profileOptions(const std::string &nameOrIndex) {
             refuse("no profile \"" + nameOrIndex + "\"; `nerlo profiles` lists them");
         }
     } else if (!items.empty()) {
-        const platform::FileSettingsStore store(paths.store);
+        const storage::FileSettingsStore store(paths.store);
         const auto place =
             settings::selectedPlace(store.integerForKey("udSelectedProfileItem"), items.size());
         item = &items[static_cast<std::size_t>(place)];
@@ -75,7 +75,7 @@ PropertyDictionary profileOptions(const std::string &nameOrIndex) {
     return item ? settings::withSharedRules(item->record, paths) : defaultOptions();
 }
 
-platform::PropertyValue readRules(const std::string &key, std::string_view text) {
+storage::PropertyValue readRules(const std::string &key, std::string_view text) {
     const nlohmann::json value = nlohmann::json::parse(text, nullptr, false);
     if (!value.is_array()) {
         refuse("--set " + key + ": not a JSON array of rules");
@@ -110,12 +110,12 @@ void addFiles(CLI::App &command, std::vector<std::string> &files) {
 }
 
 void addLocale(CLI::App &command, std::string &locale) {
-    locale = platform::userLocale();
+    locale = settings::userLocale();
     command
         .add_option_function<std::string>(
             "--locale",
             [&locale](const std::string &name) {
-                const std::optional<std::string> id = platform::localeId(name);
+                const std::optional<std::string> id = settings::localeId(name);
                 if (!id) {
                     refuse("unusable locale \"" + name + "\"");
                 }

@@ -1,7 +1,7 @@
 // Arguments that several commands share.
 #pragma once
 
-#include "platform/PropertyValue.h"
+#include "storage/PropertyValue.h"
 
 #include <string>
 #include <vector>
@@ -33,12 +33,12 @@ struct OptionArguments {
 void addOptions(CLI::App &command, OptionArguments &arguments);
 
 // The settings that hold when nothing on the command line says otherwise.
-platform::PropertyDictionary defaultOptions();
+storage::PropertyDictionary defaultOptions();
 
 // What the arguments ask for: the file, else the named profile, else the selected one, else the
 // defaults, each with the single settings put over it. Throws Failure: unusableArguments for a key
 // that is no settings key, a value that does not suit its key and an unknown profile, ioFailed for
 // a file that cannot be read.
-platform::PropertyDictionary chosenOptions(const OptionArguments &arguments);
+storage::PropertyDictionary chosenOptions(const OptionArguments &arguments);
 
 } // namespace nerlo::cli

@@ -13,9 +13,9 @@ namespace nerlo::cli {
 namespace {
 
 using nlohmann::json;
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 constexpr int deepest = 4; // a list of rules has two levels
 
@@ -60,7 +60,7 @@ PropertyValue valueFromJson(const std::string &key, const json &value, int depth
 
 } // namespace
 
-platform::PropertyValue settingFromJson(const std::string &key, const json &value) {
+storage::PropertyValue settingFromJson(const std::string &key, const json &value) {
     return valueFromJson(key, value, 0);
 }
 

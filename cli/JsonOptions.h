@@ -1,7 +1,7 @@
 // Settings keys and their values in JSON.
 #pragma once
 
-#include "platform/PropertyValue.h"
+#include "storage/PropertyValue.h"
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -11,9 +11,9 @@ namespace nerlo::cli {
 
 // Booleans, integers, strings, arrays and objects become what they are in a property list. Throws
 // Failure for null, fractions, integers above 63 bits and values nested deeper than any setting.
-platform::PropertyValue settingFromJson(const std::string &key, const nlohmann::json &value);
+storage::PropertyValue settingFromJson(const std::string &key, const nlohmann::json &value);
 
 // Also throws Failure for anything but an object, and for a key that is no settings key.
-platform::PropertyDictionary optionsFromJson(const nlohmann::json &object);
+storage::PropertyDictionary optionsFromJson(const nlohmann::json &object);
 
 } // namespace nerlo::cli

@@ -18,12 +18,12 @@ namespace nerlo::cli {
 
 namespace {
 
-using platform::PropertyDictionary;
 using settings::SettingsKey;
+using storage::PropertyDictionary;
 
 // A key's first-start value here and now: the quote styles follow the user's language.
-const platform::PropertyValue *firstStart(const SettingsKey &row,
-                                          const PropertyDictionary &profile) {
+const storage::PropertyValue *firstStart(const SettingsKey &row,
+                                         const PropertyDictionary &profile) {
     if (row.scope == settings::SettingScope::Profile) {
         return profile.find(row.key);
     }
@@ -51,7 +51,7 @@ std::string table() {
             text += (text.empty() ? "" : "\n") + std::string(row.group) + "\n";
             group = row.group;
         }
-        const platform::PropertyValue *value = firstStart(row, profile);
+        const storage::PropertyValue *value = firstStart(row, profile);
         const std::string shown = value ? text::utf16ToUtf8(value->stringValue()) : "";
         text += "  " + row.key + "  (" + std::string(settings::nameOfKind(row.kind)) +
                 (shown.empty() ? "" : ", first start " + shown) + ")  " + row.meaning + "\n";
@@ -66,7 +66,7 @@ std::string table() {
     return text;
 }
 
-nlohmann::ordered_json jsonOf(const platform::PropertyValue *value) {
+nlohmann::ordered_json jsonOf(const storage::PropertyValue *value) {
     if (!value) {
         return nullptr;
     }

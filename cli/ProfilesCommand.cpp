@@ -2,11 +2,11 @@
 #include "cli/Commands.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
-#include "platform/PropertyList.h"
-#include "platform/SafeFile.h"
-#include "platform/linux/FileSettingsStore.h"
 #include "settings/ProfilesFile.h"
 #include "settings/SettingsKeys.h"
+#include "storage/FileSettingsStore.h"
+#include "storage/PropertyList.h"
+#include "storage/SafeFile.h"
 #include "text/Utf.h"
 
 #include <CLI/App.hpp>
@@ -22,11 +22,11 @@ namespace nerlo::cli {
 namespace {
 
 using nlohmann::ordered_json;
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
 using settings::ProfileItem;
 using settings::ProfileItems;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 // Data, dates and references have no JSON form; no setting of a profile holds one.
 ordered_json jsonOf(const PropertyValue &value) {
@@ -86,7 +86,7 @@ struct Profiles {
 
 void list(bool asJson) {
     const Profiles profiles;
-    const platform::FileSettingsStore store(profiles.paths.store);
+    const storage::FileSettingsStore store(profiles.paths.store);
     const int selected = settings::selectedPlace(store.integerForKey("udSelectedProfileItem"),
                                                  profiles.items.size());
     std::string text;
@@ -119,7 +119,7 @@ PropertyArray readProfiles(const std::string &file) {
     Progress progress;
     const InputFile input(file);
     const Bytes bytes = readBytes(input.descriptor(), nameOf(file), progress);
-    auto parsed = platform::parsePropertyList(bytes.view());
+    auto parsed = storage::parsePropertyList(bytes.view());
     if (!parsed.value) {
         throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + parsed.error);
     }
@@ -157,7 +157,7 @@ void importFile(const std::string &file) {
 void exportTo(const std::string &nameOrIndex, const std::string &file) {
     const Profiles profiles;
     const std::string bytes =
-        platform::writePropertyList(PropertyValue(profiles.find(nameOrIndex).record));
+        storage::writePropertyList(PropertyValue(profiles.find(nameOrIndex).record));
     if (file == "-") {
         writeOutput(bytes);
         return;
@@ -167,7 +167,7 @@ void exportTo(const std::string &nameOrIndex, const std::string &file) {
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         throw Failure(ExitStatus::ioFailed, file + ": not a regular file");
     }
-    if (const std::string error = platform::replaceFile(file, bytes); !error.empty()) {
+    if (const std::string error = storage::replaceFile(file, bytes); !error.empty()) {
         throw Failure(ExitStatus::ioFailed, error);
     }
 }

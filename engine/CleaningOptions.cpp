@@ -99,19 +99,19 @@ constexpr OptionField fields[] = {
      "copy of the list for all profiles"},
 };
 
-void read(const platform::PropertyValue *value, bool &field) {
+void read(const storage::PropertyValue *value, bool &field) {
     field = value && value->boolValue();
 }
 
-void read(const platform::PropertyValue *value, std::int64_t &field) {
+void read(const storage::PropertyValue *value, std::int64_t &field) {
     field = value ? value->integerValue() : 0;
 }
 
-void read(const platform::PropertyValue *value, CleaningOptions::Text &field) {
+void read(const storage::PropertyValue *value, CleaningOptions::Text &field) {
     field = value ? *value : CleaningOptions::Text(u"");
 }
 
-void read(const platform::PropertyValue *value, CleaningOptions::List &field) {
+void read(const storage::PropertyValue *value, CleaningOptions::List &field) {
     field = value ? CleaningOptions::List(*value) : std::nullopt;
 }
 
@@ -129,7 +129,7 @@ std::string OptionField::keyOf(std::size_t slot) const {
     return text;
 }
 
-void CleaningOptions::setAllBools(const platform::PropertyDictionary &dictionary) {
+void CleaningOptions::setAllBools(const storage::PropertyDictionary &dictionary) {
     kCheckSetters = true;
     for (const OptionField &row : fields) {
         std::visit(

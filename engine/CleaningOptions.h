@@ -4,7 +4,7 @@
 // threads as std::shared_ptr<const CleaningOptions>.
 #pragma once
 
-#include "platform/PropertyValue.h"
+#include "storage/PropertyValue.h"
 
 #include <array>
 #include <cstdint>
@@ -19,8 +19,8 @@ namespace nerlo::engine {
 inline constexpr std::size_t replaceSlots = 10;
 
 struct CleaningOptions {
-    using Text = platform::PropertyValue; // a string, unless somebody stored something else
-    using List = std::optional<platform::PropertyValue>;
+    using Text = storage::PropertyValue; // a string, unless somebody stored something else
+    using List = std::optional<storage::PropertyValue>;
     template <class T>
     using PerSlot = std::array<T, replaceSlots>;
 
@@ -89,7 +89,7 @@ struct CleaningOptions {
     bool udFindReplaceBool = false;
 
     // Overwrites every field: a key that is missing gives false, "", 0 or no list.
-    void setAllBools(const platform::PropertyDictionary &dictionary);
+    void setAllBools(const storage::PropertyDictionary &dictionary);
 
     bool operator==(const CleaningOptions &) const = default;
 };

@@ -68,8 +68,8 @@ struct Rule {
 };
 
 // Nothing for a rule that is switched off, or is no rule at all.
-std::optional<Rule> activeRule(const platform::PropertyValue &item) {
-    const auto *record = item.as<platform::PropertyDictionary>();
+std::optional<Rule> activeRule(const storage::PropertyValue &item) {
+    const auto *record = item.as<storage::PropertyDictionary>();
     const auto *checkbox = record ? record->find("checkbox") : nullptr;
     if (!checkbox || !checkbox->boolValue()) {
         return std::nullopt;
@@ -118,11 +118,11 @@ std::u16string insertYourPattern(std::u16string text, std::u16string_view patter
 std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options) {
     const auto &list = options.udOnlyOneProfile ? options.udFindAndReplaceItems
                                                 : options.udFindAndReplaceItemsProfile;
-    const auto *items = list ? list->as<platform::PropertyArray>() : nullptr;
+    const auto *items = list ? list->as<storage::PropertyArray>() : nullptr;
     if (!items) {
         return text;
     }
-    for (const platform::PropertyValue &item : *items) {
+    for (const storage::PropertyValue &item : *items) {
         if (const auto rule = activeRule(item)) {
             text = applyRule(std::move(text), *rule);
         }

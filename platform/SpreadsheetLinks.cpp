@@ -1,6 +1,6 @@
 #include "platform/SpreadsheetLinks.h"
 
-#include "platform/PasteboardFormats.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -48,7 +48,7 @@ std::span<const SpreadsheetLink> spreadsheetLinks() {
 
 std::string_view spreadsheetOfWindow(std::string_view windowName) {
     for (const auto &window : windows) {
-        if (equalIgnoringCase(window.here, windowName)) {
+        if (text::equalIgnoringAsciiCase(window.here, windowName)) {
             return window.standsFor;
         }
     }
@@ -58,7 +58,7 @@ std::string_view spreadsheetOfWindow(std::string_view windowName) {
 bool offersLink(const std::vector<std::string> &formats, std::string_view type) {
     return std::ranges::any_of(formats, [&](const std::string &format) {
         return format == type || std::ranges::any_of(formatNames, [&](const Name &name) {
-                   return name.standsFor == type && equalIgnoringCase(name.here, format);
+                   return name.standsFor == type && text::equalIgnoringAsciiCase(name.here, format);
                });
     });
 }

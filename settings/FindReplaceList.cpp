@@ -5,9 +5,9 @@
 
 namespace nerlo::settings {
 
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 FindReplaceList::FindReplaceList(Localize localize)
     : localize_(std::move(localize)) {

@@ -4,8 +4,8 @@
 // thread only.
 #pragma once
 
-#include "platform/PropertyValue.h"
 #include "settings/OptionLists.h"
+#include "storage/PropertyValue.h"
 
 #include <string>
 #include <vector>
@@ -24,9 +24,9 @@ class FindReplaceList {
 
     explicit FindReplaceList(Localize localize);
 
-    const platform::PropertyArray &items() const { return items_; }
+    const storage::PropertyArray &items() const { return items_; }
     // Nothing is selected afterwards.
-    void setItems(platform::PropertyArray items);
+    void setItems(storage::PropertyArray items);
     // The selected row; -1 for none.
     int lastClickedRow() const { return lastClickedRow_; }
     const ReplacementField &field() const { return field_; }
@@ -47,15 +47,15 @@ class FindReplaceList {
     void move(const std::vector<int> &rows, int dropRow);
 
     // Of one rule.
-    static bool isOn(const platform::PropertyValue &rule);
-    static std::u16string textOf(const platform::PropertyValue &rule, std::string_view key);
+    static bool isOn(const storage::PropertyValue &rule);
+    static std::u16string textOf(const storage::PropertyValue &rule, std::string_view key);
 
   private:
     bool contains(int row) const;
-    void setInRule(int row, std::string_view key, platform::PropertyValue value);
+    void setInRule(int row, std::string_view key, storage::PropertyValue value);
 
     Localize localize_;
-    platform::PropertyArray items_;
+    storage::PropertyArray items_;
     int lastClickedRow_ = -1;
     ReplacementField field_;
 };

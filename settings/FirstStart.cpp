@@ -5,7 +5,7 @@
 
 namespace nerlo::settings {
 
-void setDefaults(platform::SettingsStore &store) {
+void setDefaults(storage::SettingsStore &store) {
     for (const SettingsKey &row : settingsKeys()) {
         if (row.scope == SettingScope::Store && row.firstStart) {
             store.set(row.key, *row.firstStart);
@@ -14,7 +14,7 @@ void setDefaults(platform::SettingsStore &store) {
     store.synchronize();
 }
 
-void setAllDefaultsInFirstRun(platform::SettingsStore &store, nrPreferences &preferences) {
+void setAllDefaultsInFirstRun(storage::SettingsStore &store, nrPreferences &preferences) {
     if (!store.boolForKey("firstRunPreferences")) {
         setDefaults(store);
         preferences.firstRunPreferences();

@@ -4,7 +4,7 @@
 
 namespace nerlo::settings {
 
-ProfileRecord migratedProfile(const platform::SettingsStore &store) {
+ProfileRecord migratedProfile(const storage::SettingsStore &store) {
     ProfileRecord profile{{"profileName", u"profile 1"}};
     // The profile's order is switches, texts, choices.
     for (const SettingsKey &row : profileKeys()) {

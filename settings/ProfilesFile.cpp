@@ -1,7 +1,7 @@
 #include "settings/ProfilesFile.h"
 
-#include "platform/PropertyList.h"
-#include "platform/SafeFile.h"
+#include "storage/PropertyList.h"
+#include "storage/SafeFile.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -14,9 +14,9 @@ namespace nerlo::settings {
 
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 class ById {
   public:
@@ -70,13 +70,12 @@ struct ArrayFile {
     std::string error;                  // why it is unusable
 };
 
-ArrayFile readArray(const std::string &path, platform::FileCalls &calls) {
-    using platform::FileContent;
-    const FileContent content =
-        platform::readFile(path, platform::PropertyListLimits::bytes, calls);
+ArrayFile readArray(const std::string &path, storage::FileCalls &calls) {
+    using storage::FileContent;
+    const FileContent content = storage::readFile(path, storage::PropertyListLimits::bytes, calls);
     ArrayFile file{content.state != FileContent::State::Missing, std::nullopt, content.error};
     if (content.state == FileContent::State::Read) {
-        auto parsed = platform::parsePropertyList(content.bytes);
+        auto parsed = storage::parsePropertyList(content.bytes);
         if (auto *array = parsed.value ? parsed.value->as<PropertyArray>() : nullptr) {
             file.array = std::move(*array);
         } else {
@@ -93,7 +92,7 @@ bool sameRecords(const ProfileItems &a, const ProfileItems &b) {
 } // namespace
 
 std::optional<PropertyArray> readSharedFindReplace(const SettingsPaths &paths,
-                                                   platform::FileCalls &calls, std::string *error) {
+                                                   storage::FileCalls &calls, std::string *error) {
     ArrayFile file = readArray(paths.sharedFindReplace, calls);
     if (error) {
         *error = std::move(file.error);
@@ -102,9 +101,9 @@ std::optional<PropertyArray> readSharedFindReplace(const SettingsPaths &paths,
 }
 
 std::string writeSharedFindReplace(const SettingsPaths &paths, const PropertyArray &items,
-                                   platform::FileCalls &calls) {
+                                   storage::FileCalls &calls) {
     const std::string &path = paths.sharedFindReplace;
-    const platform::FolderLock lock(platform::folderOf(path), calls);
+    const storage::FolderLock lock(storage::folderOf(path), calls);
     if (!lock.error().empty()) {
         return lock.error();
     }
@@ -112,10 +111,10 @@ std::string writeSharedFindReplace(const SettingsPaths &paths, const PropertyArr
     if (before.array == items) {
         return {};
     }
-    if (before.there && !before.array && !platform::moveAside(path, "unreadable", calls)) {
+    if (before.there && !before.array && !storage::moveAside(path, "unreadable", calls)) {
         return path + " cannot be read and cannot be moved aside";
     }
-    return platform::replaceFile(path, platform::writePropertyList(PropertyValue(items)), calls);
+    return storage::replaceFile(path, storage::writePropertyList(PropertyValue(items)), calls);
 }
 
 std::u16string profileNameOf(const ProfileRecord &record) {
@@ -178,7 +177,7 @@ ProfileItems mergeProfiles(const ProfileItems &base, const ProfileItems &mine,
     return merged;
 }
 
-ProfilesFile::ProfilesFile(std::string path, platform::FileCalls &calls)
+ProfilesFile::ProfilesFile(std::string path, storage::FileCalls &calls)
     : path_(std::move(path))
     , calls_(calls) {}
 
@@ -241,16 +240,16 @@ ProfileItems ProfilesFile::load() {
 
 std::string ProfilesFile::write(const ProfileItems &items, const PropertyArray &others) {
     const PropertyValue array(arrayOf(items, others));
-    return platform::replaceFile(path_, platform::writePropertyList(array), calls_);
+    return storage::replaceFile(path_, storage::writePropertyList(array), calls_);
 }
 
 std::string ProfilesFile::save(ProfileItems &items) {
-    const platform::FolderLock lock(platform::folderOf(path_), calls_);
+    const storage::FolderLock lock(storage::folderOf(path_), calls_);
     if (!lock.error().empty()) {
         return lock.error();
     }
     const OnDisk disk = read();
-    if (disk.there && !disk.usable && !platform::moveAside(path_, "unreadable", calls_)) {
+    if (disk.there && !disk.usable && !storage::moveAside(path_, "unreadable", calls_)) {
         return path_ + " cannot be read and cannot be moved aside";
     }
     // A file that has gone or become unusable says nothing about the records: all of ours stay.
@@ -266,13 +265,12 @@ std::string ProfilesFile::save(ProfileItems &items) {
 }
 
 std::string ProfilesFile::replace(ProfileItems &items) {
-    const platform::FolderLock lock(platform::folderOf(path_), calls_);
+    const storage::FolderLock lock(storage::folderOf(path_), calls_);
     if (!lock.error().empty()) {
         return lock.error();
     }
     const OnDisk disk = read();
-    if (disk.there &&
-        !platform::moveAside(path_, disk.usable ? "replaced" : "unreadable", calls_)) {
+    if (disk.there && !storage::moveAside(path_, disk.usable ? "replaced" : "unreadable", calls_)) {
         return path_ + " cannot be moved aside";
     }
     std::string error = write(items, {});

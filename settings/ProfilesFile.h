@@ -4,9 +4,9 @@
 // only what was changed here, record by record and key by key. Main thread only.
 #pragma once
 
-#include "platform/FileCalls.h"
-#include "platform/PropertyValue.h"
 #include "settings/SettingsPaths.h"
+#include "storage/FileCalls.h"
+#include "storage/PropertyValue.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,7 +16,7 @@
 
 namespace nerlo::settings {
 
-using ProfileRecord = platform::PropertyDictionary;
+using ProfileRecord = storage::PropertyDictionary;
 
 struct ProfileItem {
     std::uint64_t id; // tells records of equal names apart; of this process only
@@ -37,7 +37,7 @@ ProfileItems mergeProfiles(const ProfileItems &base, const ProfileItems &mine,
 class ProfilesFile {
   public:
     explicit ProfilesFile(std::string path,
-                          platform::FileCalls &calls = platform::FileCalls::system());
+                          storage::FileCalls &calls = storage::FileCalls::system());
 
     // The file's records; none where it is missing or unusable. Changes no file.
     ProfileItems load();
@@ -64,14 +64,14 @@ class ProfilesFile {
         bool there = false;
         std::string error;
         ProfileItems items;
-        platform::PropertyArray others; // elements that are no records; kept at the end
+        storage::PropertyArray others; // elements that are no records; kept at the end
     };
     OnDisk read();
     void identify(ProfileItems &items);
-    std::string write(const ProfileItems &items, const platform::PropertyArray &others);
+    std::string write(const ProfileItems &items, const storage::PropertyArray &others);
 
     std::string path_;
-    platform::FileCalls &calls_;
+    storage::FileCalls &calls_;
     ProfileItems base_; // the file's records as last seen
     std::uint64_t lastId_ = 0;
     std::string loadError_;
@@ -87,13 +87,13 @@ ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths);
 
 // The list of rules that all profiles may share. Nothing when the file is missing or unusable; of
 // the latter, `error` says why.
-std::optional<platform::PropertyArray>
+std::optional<storage::PropertyArray>
 readSharedFindReplace(const SettingsPaths &paths,
-                      platform::FileCalls &calls = platform::FileCalls::system(),
+                      storage::FileCalls &calls = storage::FileCalls::system(),
                       std::string *error = nullptr);
 // Under the folder's lock. A file that cannot be read is first kept under a dated name. Empty when
 // done, else what went wrong.
-std::string writeSharedFindReplace(const SettingsPaths &paths, const platform::PropertyArray &items,
-                                   platform::FileCalls &calls = platform::FileCalls::system());
+std::string writeSharedFindReplace(const SettingsPaths &paths, const storage::PropertyArray &items,
+                                   storage::FileCalls &calls = storage::FileCalls::system());
 
 } // namespace nerlo::settings

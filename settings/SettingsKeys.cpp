@@ -16,8 +16,8 @@ namespace nerlo::settings {
 namespace {
 
 using engine::CleaningOptions;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 // Profile keys that the engine has no use for, each with the engine's key that it follows.
 struct ProfileOnly {
@@ -226,7 +226,7 @@ ParsedSetting parseText(std::string_view text) {
 }
 
 ParsedSetting parseTexts(std::string_view text) {
-    platform::PropertyArray texts;
+    storage::PropertyArray texts;
     while (!text.empty()) {
         const auto comma = std::min(text.find(','), text.size());
         ParsedSetting item = parseText(text.substr(0, comma));

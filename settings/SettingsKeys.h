@@ -4,7 +4,7 @@
 // settings know stand at their places among them, and the hot keys come from the operations.
 #pragma once
 
-#include "platform/PropertyValue.h"
+#include "storage/PropertyValue.h"
 
 #include <optional>
 #include <span>
@@ -37,7 +37,7 @@ struct SettingsKey {
     std::string meaning; // one English line
     // What a first start writes; none where the key is then absent, or where the value depends on
     // the user's language (the quote styles).
-    std::optional<platform::PropertyValue> firstStart;
+    std::optional<storage::PropertyValue> firstStart;
     // Carried over from the settings store of versions before there were profiles.
     bool migrated = false;
 };
@@ -58,10 +58,10 @@ const SettingsKey *findKey(std::string_view key, SettingScope scope);
 
 // The profile "default" of a first start: only the keys with a value, in the order of writing. The
 // quote styles follow `language`, a code such as "de" or "pt-BR".
-platform::PropertyDictionary firstStartProfile(std::string_view language);
+storage::PropertyDictionary firstStartProfile(std::string_view language);
 
 struct ParsedSetting {
-    std::optional<platform::PropertyValue> value;
+    std::optional<storage::PropertyValue> value;
     std::string error; // English; empty when there is a value
 };
 

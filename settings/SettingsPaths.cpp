@@ -44,9 +44,9 @@ SettingsPaths SettingsPaths::standard(const Environment &environment) {
             data + "/profiles.nrp", data + "/profilesFR.nrp"};
 }
 
-std::string firstLanguage(const platform::SettingsStore &store) {
+std::string firstLanguage(const storage::SettingsStore &store) {
     if (const auto *value = store.find("AppleLanguages")) {
-        const auto *languages = value->as<platform::PropertyArray>();
+        const auto *languages = value->as<storage::PropertyArray>();
         if (languages && !languages->empty()) {
             return text::utf16ToUtf8(languages->front().stringValue());
         }

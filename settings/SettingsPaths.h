@@ -1,7 +1,7 @@
 // Where the settings lie, and which language a first start takes.
 #pragma once
 
-#include "platform/SettingsStore.h"
+#include "storage/SettingsStore.h"
 
 #include <functional>
 #include <string>
@@ -23,6 +23,6 @@ struct SettingsPaths {
 };
 
 // The first of the settings key "AppleLanguages"; without it, of userLanguages().
-std::string firstLanguage(const platform::SettingsStore &store);
+std::string firstLanguage(const storage::SettingsStore &store);
 
 } // namespace nerlo::settings

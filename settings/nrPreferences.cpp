@@ -1,9 +1,9 @@
 #include "settings/nrPreferences.h"
 
-#include "platform/PropertyList.h"
-#include "platform/SafeFile.h"
 #include "settings/Migration.h"
 #include "settings/SettingsKeys.h"
+#include "storage/PropertyList.h"
+#include "storage/SafeFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,8 +12,8 @@ namespace nerlo::settings {
 
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyValue;
 
 constexpr const char *selectedItemKey = "udSelectedProfileItem";
 constexpr const char *sharedListKey = "sFindAndReplaceItems";
@@ -51,9 +51,9 @@ nrPreferences *nrPreferences::sharedInstance() {
     return instance;
 }
 
-nrPreferences::nrPreferences(platform::SettingsStore &store, platform::MainQueue &queue,
+nrPreferences::nrPreferences(storage::SettingsStore &store, platform::MainQueue &queue,
                              SettingsPaths paths, Localize localize, std::string language,
-                             platform::FileCalls &calls)
+                             storage::FileCalls &calls)
     : store_(store)
     , queue_(queue)
     , paths_(std::move(paths))
@@ -78,7 +78,7 @@ nrPreferences::~nrPreferences() {
 }
 
 void nrPreferences::createDir() {
-    platform::makeFolder(platform::folderOf(paths_.profiles), calls_);
+    storage::makeFolder(storage::folderOf(paths_.profiles), calls_);
 }
 
 bool nrPreferences::report(const std::string &error) {

@@ -6,11 +6,11 @@
 #pragma once
 
 #include "platform/MainQueue.h"
-#include "platform/SettingsStore.h"
 #include "settings/FindReplaceList.h"
 #include "settings/OptionLists.h"
 #include "settings/ProfilesFile.h"
 #include "settings/SettingsPaths.h"
+#include "storage/SettingsStore.h"
 
 #include <chrono>
 #include <functional>
@@ -43,9 +43,9 @@ class nrPreferences {
     static nrPreferences *sharedInstance();
 
     // Prepares paths and option lists; reads nothing yet.
-    nrPreferences(platform::SettingsStore &store, platform::MainQueue &queue, SettingsPaths paths,
+    nrPreferences(storage::SettingsStore &store, platform::MainQueue &queue, SettingsPaths paths,
                   Localize localize = {}, std::string language = "en",
-                  platform::FileCalls &calls = platform::FileCalls::system());
+                  storage::FileCalls &calls = storage::FileCalls::system());
     ~nrPreferences();
     nrPreferences(const nrPreferences &) = delete;
     nrPreferences &operator=(const nrPreferences &) = delete;
@@ -89,7 +89,7 @@ class nrPreferences {
     void savePending();
 
     // Controls: the state of each by its key, as it is stored (0 or 1, text, index).
-    const platform::PropertyDictionary &controls() const { return controls_; }
+    const storage::PropertyDictionary &controls() const { return controls_; }
     const std::vector<OptionList> &optionLists() const { return optionLists_; }
     // Any check box but the one-list box.
     void checkBoxChanged(std::string_view key, bool on);
@@ -142,17 +142,17 @@ class nrPreferences {
     // 0 reload and show the first row, 1 the selected row goes, 2 a row came at the end, 3 the
     // field is empty, others reload.
     void updateUI(int mode);
-    platform::PropertyArray readSharedList() const;
+    storage::PropertyArray readSharedList() const;
     bool writeSharedList();
     bool report(const std::string &error);
     void adopt(ProfileItems items);
 
-    platform::SettingsStore &store_;
+    storage::SettingsStore &store_;
     platform::MainQueue &queue_;
     SettingsPaths paths_;
     Localize localize_;
     std::string language_;
-    platform::FileCalls &calls_;
+    storage::FileCalls &calls_;
     PreferencesHooks hooks_;
     std::vector<OptionList> optionLists_;
 
@@ -162,7 +162,7 @@ class nrPreferences {
     int selectedItem_ = 0;
     std::u16string profileName_;
     std::optional<int> popupSelection_;
-    platform::PropertyDictionary controls_;
+    storage::PropertyDictionary controls_;
     FindReplaceList findReplace_;
     std::string sharedListError_;
     platform::MainQueue::TaskId pending_ = 0;

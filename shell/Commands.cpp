@@ -12,8 +12,8 @@ std::optional<AutomaticMode> parseAutomaticMode(std::string_view word) {
     return word == "toggle" ? std::optional(AutomaticMode::toggle) : std::nullopt;
 }
 
-std::string_view nameOf(engine::nrChangePasterboard::Restored outcome) {
-    using Restored = engine::nrChangePasterboard::Restored;
+std::string_view nameOf(clipboard::nrChangePasterboard::Restored outcome) {
+    using Restored = clipboard::nrChangePasterboard::Restored;
     return outcome == Restored::done          ? "done"
            : outcome == Restored::nothingKept ? "nothing kept"
                                               : "refused";

@@ -1,7 +1,7 @@
 // What the program can be told to do from outside: by its command line and over the bus.
 #pragma once
 
-#include "engine/nrChangePasterboard.h"
+#include "clipboard/nrChangePasterboard.h"
 
 #include <cstdint>
 #include <functional>
@@ -17,13 +17,13 @@ enum class AutomaticMode { on, off, toggle };
 std::optional<AutomaticMode> parseAutomaticMode(std::string_view word);
 
 // "done", "nothing kept" or "refused".
-std::string_view nameOf(engine::nrChangePasterboard::Restored outcome);
+std::string_view nameOf(clipboard::nrChangePasterboard::Restored outcome);
 
 // Set by main(), called on the main thread. None is null once the event loop runs.
 struct Commands {
     std::function<void()> clean;
     std::function<void(std::int32_t index)> operation;
-    std::function<void(std::function<void(engine::nrChangePasterboard::Restored)>)> restore;
+    std::function<void(std::function<void(clipboard::nrChangePasterboard::Restored)>)> restore;
     std::function<bool(AutomaticMode)> automatic; // returns whether it is on now
     std::function<void()> activate;               // the program was started again
     std::function<void()> preferences;            // opens the window

@@ -370,8 +370,8 @@ void DesktopShell::updateNotice() {
 }
 
 void DesktopShell::restore() {
-    parts_.engine.restore([this](engine::nrChangePasterboard::Restored outcome) {
-        using Restored = engine::nrChangePasterboard::Restored;
+    parts_.engine.restore([this](clipboard::nrChangePasterboard::Restored outcome) {
+        using Restored = clipboard::nrChangePasterboard::Restored;
         if (outcome != Restored::done) {
             runAlert({Alert::Style::informational,
                       localized(outcome == Restored::nothingKept ? "sRestoreNothing"

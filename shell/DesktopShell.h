@@ -4,7 +4,6 @@
 #pragma once
 
 #include "platform/MainQueue.h"
-#include "platform/SettingsStore.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
 #include "platform/WorkerQueue.h"
@@ -15,6 +14,7 @@
 #include "shell/TrayIcon.h"
 #include "shell/nrAppDelegate.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
+#include "storage/SettingsStore.h"
 
 #include <functional>
 #include <map>
@@ -31,11 +31,11 @@ class WhatsNewWindow;
 class DesktopShell final : public ShellWindows {
   public:
     struct Parts {
-        platform::SettingsStore &store;
+        storage::SettingsStore &store;
         platform::MainQueue &mainQueue;
         platform::WorkerQueue &workerQueue;
         settings::nrPreferences &preferences;
-        engine::nrChangePasterboard &engine;
+        clipboard::nrChangePasterboard &engine;
         shortcuts::UserDefaultsHotKeys &hotKeys;
         const shortcuts::ShortcutTexts &shortcutTexts;
         std::string locale; // an ICU locale id
@@ -99,7 +99,7 @@ class DesktopShell final : public ShellWindows {
     std::unique_ptr<WhatsNewWindow> whatsNewController;
     bool taskbarEntry_ = true;
     platform::MainQueue::TaskId settle_ = 0;
-    platform::SettingsStore::Observation cleanShortcut_;
+    storage::SettingsStore::Observation cleanShortcut_;
     shortcuts::UserDefaultsHotKeys::Observation hotKeyStatus_;
 };
 

@@ -275,14 +275,14 @@ void FindReplaceTable::load() {
 void FindReplaceTable::reload() {
     const QScopedValueRollback loading(loading_, true);
     findTableView->clear();
-    for (const platform::PropertyValue &rule : preferences_.findReplaceList().items()) {
+    for (const storage::PropertyValue &rule : preferences_.findReplaceList().items()) {
         addItem(rule);
     }
     findTableView->setCurrentRow(preferences_.findReplaceList().lastClickedRow());
     showField();
 }
 
-void FindReplaceTable::addItem(const platform::PropertyValue &rule) {
+void FindReplaceTable::addItem(const storage::PropertyValue &rule) {
     auto *item = new QListWidgetItem(
         QString::fromStdU16String(settings::FindReplaceList::textOf(rule, "find")));
     item->setData(replacementRole,

@@ -49,7 +49,7 @@ class FindReplaceTable final : public QWidget {
   private:
     void reload();
     void showField();
-    void addItem(const platform::PropertyValue &rule);
+    void addItem(const storage::PropertyValue &rule);
     void moveSelected(int by);
     void afterEdit();
 

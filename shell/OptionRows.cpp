@@ -242,9 +242,9 @@ QWidget *OptionPage::control(std::string_view key) const {
 
 void OptionPage::load() {
     const QScopedValueRollback loading(loading_, true);
-    const platform::PropertyDictionary &states = preferences_.controls();
+    const storage::PropertyDictionary &states = preferences_.controls();
     for (const auto &[key, widget] : controls_) {
-        const platform::PropertyValue *value = states.find(key);
+        const storage::PropertyValue *value = states.find(key);
         if (auto *box = qobject_cast<QCheckBox *>(widget)) {
             box->setChecked(value && value->boolValue());
         } else if (auto *choice = qobject_cast<QComboBox *>(widget)) {

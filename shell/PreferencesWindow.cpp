@@ -46,7 +46,7 @@ QStringList wordsOf(const QString &text) {
 } // namespace
 
 PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
-                                     platform::SettingsStore &store,
+                                     storage::SettingsStore &store,
                                      const RecorderMaker &makeRecorder, GeneralActions actions,
                                      PreviewParts previewParts)
     : preferences_(preferences)

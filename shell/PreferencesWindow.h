@@ -3,10 +3,10 @@
 // It shows the state in nrPreferences and reports edits to it. Main thread only.
 #pragma once
 
-#include "platform/SettingsStore.h"
 #include "settings/nrPreferences.h"
 #include "shell/OptionRows.h"
 #include "shell/PreviewPane.h"
+#include "storage/SettingsStore.h"
 
 #include <QLineEdit>
 #include <QListWidget>
@@ -49,7 +49,7 @@ class PreferencesWindow final : public QMainWindow {
     static constexpr auto heightKey = "preferencesHeight"; // device-independent pixels
     static constexpr auto pageKey = "preferencesPage";     // counted from 0
 
-    PreferencesWindow(settings::nrPreferences &preferences, platform::SettingsStore &store,
+    PreferencesWindow(settings::nrPreferences &preferences, storage::SettingsStore &store,
                       const RecorderMaker &makeRecorder, GeneralActions actions,
                       PreviewParts previewParts);
     ~PreferencesWindow() override;
@@ -90,7 +90,7 @@ class PreferencesWindow final : public QMainWindow {
     void remember();
 
     settings::nrPreferences &preferences_;
-    platform::SettingsStore &store_;
+    storage::SettingsStore &store_;
     GeneralActions actions_;
     std::function<bool()> closeHandler_;
 

@@ -137,7 +137,7 @@ PreviewPane::~PreviewPane() {
     parts_.mainQueue.cancel(pending_);
 }
 
-void PreviewPane::setOptions(platform::PropertyDictionary options) {
+void PreviewPane::setOptions(storage::PropertyDictionary options) {
     if (options == options_) {
         return;
     }

@@ -5,9 +5,9 @@
 #pragma once
 
 #include "platform/MainQueue.h"
-#include "platform/PropertyValue.h"
 #include "platform/WorkerQueue.h"
 #include "shell/TextDiff.h"
+#include "storage/PropertyValue.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -38,7 +38,7 @@ class PreviewPane final : public QWidget {
     ~PreviewPane() override;
 
     // The options to try: a profile as it would be saved.
-    void setOptions(platform::PropertyDictionary options);
+    void setOptions(storage::PropertyDictionary options);
     void setBefore(const QString &text);
     // The two texts, instead of one above the other.
     void setSideBySide(bool sideBySide);
@@ -63,7 +63,7 @@ class PreviewPane final : public QWidget {
     void markDifferences();
 
     PreviewParts parts_;
-    platform::PropertyDictionary options_;
+    storage::PropertyDictionary options_;
     QBoxLayout *halves_;
     QPlainTextEdit *before_;
     QPlainTextEdit *after_;

@@ -1,17 +1,17 @@
 // nerlo-pro: makes everything that the program consists of, in order, and runs it.
 
-#include "engine/nrChangePasterboard.h"
-#include "platform/UserLocale.h"
+#include "clipboard/nrChangePasterboard.h"
+#include "clipboard/nrPasteboardWatcher.h"
 #include "platform/backends/Backends.h"
 #include "platform/linux/AutostartEntry.h"
 #include "platform/linux/DesktopHotKeys.h"
-#include "platform/linux/FileSettingsStore.h"
 #include "platform/linux/FolderWatch.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtWindowSystem.h"
 #include "platform/qt/QtWorkerQueue.h"
 #include "settings/SettingsKeys.h"
 #include "settings/SettingsPaths.h"
+#include "settings/UserLocale.h"
 #include "settings/nrPreferences.h"
 #include "shell/Alerts.h"
 #include "shell/BusService.h"
@@ -24,10 +24,10 @@
 #include "shell/Strings.h"
 #include "shell/nrAppDelegate.h"
 #include "shell/nrCountWindowController.h"
-#include "shell/nrPasteboardWatcher.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
 #include "shortcuts/view/nrShortcutView.h"
+#include "storage/FileSettingsStore.h"
 
 #include <filesystem>
 #include <iostream>
@@ -73,7 +73,7 @@ std::optional<int> handOver(shell::CommandLine &commandLine) {
             return complain(text);
         }
         if (request.method == "Restore" &&
-            text != shell::nameOf(engine::nrChangePasterboard::Restored::done)) {
+            text != shell::nameOf(clipboard::nrChangePasterboard::Restored::done)) {
             return complain("not restored: " + text);
         }
         if (request.method == "Doctor") {
@@ -118,7 +118,7 @@ int storeShortcuts(const std::vector<std::string> &wanted) {
             return unusableArguments;
         }
     }
-    platform::FileSettingsStore store(settings::SettingsPaths::standard().store);
+    storage::FileSettingsStore store(settings::SettingsPaths::standard().store);
     for (const auto &change : changes) {
         shortcuts::storeShortcut(store, change.key, change.shortcut);
     }
@@ -227,17 +227,18 @@ int main(int argc, char **argv) {
     const auto popupLayer = platform::openPopupLayer(mainQueue);
 
     const auto paths = settings::SettingsPaths::standard();
-    platform::FileSettingsStore store(paths.store, &mainQueue);
+    storage::FileSettingsStore store(paths.store,
+                                     [&mainQueue](auto task) { mainQueue.post(std::move(task)); });
 
-    engine::nrChangePasterboard engine(*clipboard.backend, mainQueue, workerQueue,
-                                       platform::userLocale());
+    clipboard::nrChangePasterboard engine(*clipboard.backend, mainQueue, workerQueue,
+                                          settings::userLocale());
     engine.setCountWindowMaker([&] {
         return std::make_unique<shell::nrCountWindowController>(store, mainQueue,
                                                                 popupLayer.backend.get());
     });
     engine.setCleanedHandler([&] { bus.cleaned(); });
-    shell::nrPasteboardWatcher watcher(*clipboard.backend, mainQueue, *activeApplication.backend,
-                                       engine);
+    clipboard::nrPasteboardWatcher watcher(*clipboard.backend, mainQueue,
+                                           *activeApplication.backend, engine);
 
     const shortcuts::ShortcutTexts shortcutTexts(
         *keyboardLayout.backend,
@@ -257,7 +258,7 @@ int main(int argc, char **argv) {
 
     shell::DesktopShell windows(
         {store, mainQueue, workerQueue, preferences, engine, hotKeys, shortcutTexts,
-         platform::userLocale(), NERLO_VERSION, platform::pointerPositionKnown(),
+         settings::userLocale(), NERLO_VERSION, platform::pointerPositionKnown(),
          hotKeyService.backend->available(), platform::openTaskbarHint(),
          [&](auto appeared) { return platform::openTrayWatch(mainQueue, std::move(appeared)); }});
     store.setErrorHandler([&](const std::string &error) {

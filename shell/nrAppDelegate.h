@@ -5,13 +5,13 @@
 // only.
 #pragma once
 
-#include "engine/nrChangePasterboard.h"
+#include "clipboard/nrChangePasterboard.h"
+#include "clipboard/nrPasteboardWatcher.h"
 #include "platform/LoginItem.h"
 #include "platform/MainQueue.h"
-#include "platform/SettingsStore.h"
 #include "settings/nrPreferences.h"
 #include "shell/ShellWindows.h"
-#include "shell/nrPasteboardWatcher.h"
+#include "storage/SettingsStore.h"
 
 #include <functional>
 #include <memory>
@@ -34,11 +34,11 @@ inline constexpr const char *disableAutomaticKey = "disableAutomaticallyClearFor
 class nrAppDelegate {
   public:
     struct Parts {
-        platform::SettingsStore &userDef;
+        storage::SettingsStore &userDef;
         platform::MainQueue &mainQueue;
         settings::nrPreferences &preferences;
-        engine::nrChangePasterboard &engine;
-        nrPasteboardWatcher &watcher;
+        clipboard::nrChangePasterboard &engine;
+        clipboard::nrPasteboardWatcher &watcher;
         platform::LoginItem &loginItem;
         ShellWindows &windows;
         ProductLinks links;
@@ -98,10 +98,10 @@ class nrAppDelegate {
     void stopWatchPasteboard();
     void setStatusBar();
 
-    platform::SettingsStore &userDef;
+    storage::SettingsStore &userDef;
     platform::MainQueue &mainQueue_;
-    engine::nrChangePasterboard &engine_;
-    nrPasteboardWatcher &watcher_;
+    clipboard::nrChangePasterboard &engine_;
+    clipboard::nrPasteboardWatcher &watcher_;
     platform::LoginItem &loginItem_;
     ShellWindows &windows_;
     const ProductLinks links_;

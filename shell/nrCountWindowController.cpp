@@ -65,7 +65,7 @@ void nrRoundedView::paintEvent(QPaintEvent *) {
     painter.fillPath(shape(size()), QColor::fromRgbF(0, 0, 0, backgroundOpacity));
 }
 
-nrTransparentWindow::nrTransparentWindow(const platform::SettingsStore &def_,
+nrTransparentWindow::nrTransparentWindow(const storage::SettingsStore &def_,
                                          platform::MainQueue &mainQueue,
                                          platform::PopupLayer *layer)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
@@ -185,7 +185,7 @@ void nrTransparentWindow::resizeEvent(QResizeEvent *event) {
     setMask(shape);
 }
 
-nrCountWindowController::nrCountWindowController(const platform::SettingsStore &settings,
+nrCountWindowController::nrCountWindowController(const storage::SettingsStore &settings,
                                                  platform::MainQueue &mainQueue,
                                                  platform::PopupLayer *layer)
     : window_(std::make_unique<nrTransparentWindow>(settings, mainQueue, layer)) {

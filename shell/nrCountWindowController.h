@@ -3,11 +3,11 @@
 // Main thread only.
 #pragma once
 
-#include "engine/nrChangePasterboard.h"
+#include "clipboard/nrChangePasterboard.h"
 #include "platform/MainQueue.h"
 #include "platform/PopupLayer.h"
-#include "platform/SettingsStore.h"
 #include "shell/PopupPlacement.h"
+#include "storage/SettingsStore.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -32,7 +32,7 @@ class nrTransparentWindow final : public QWidget {
     Q_OBJECT
 
   public:
-    nrTransparentWindow(const platform::SettingsStore &def, platform::MainQueue &mainQueue,
+    nrTransparentWindow(const storage::SettingsStore &def, platform::MainQueue &mainQueue,
                         platform::PopupLayer *layer);
     ~nrTransparentWindow() override;
 
@@ -55,7 +55,7 @@ class nrTransparentWindow final : public QWidget {
     std::unique_ptr<platform::ShownPopup> showInLayer();
     platform::PopupPicture picture(int scale);
 
-    const platform::SettingsStore &def;
+    const storage::SettingsStore &def;
     platform::MainQueue &mainQueue_;
     platform::PopupLayer *layer_;
     std::unique_ptr<platform::ShownPopup> shown_;
@@ -63,11 +63,11 @@ class nrTransparentWindow final : public QWidget {
     bool open_ = false;
 };
 
-class nrCountWindowController final : public engine::CountWindow {
+class nrCountWindowController final : public clipboard::CountWindow {
   public:
     // With a layer, the popup is shown there, and the window itself stays hidden. All must outlive
     // this.
-    nrCountWindowController(const platform::SettingsStore &settings, platform::MainQueue &mainQueue,
+    nrCountWindowController(const storage::SettingsStore &settings, platform::MainQueue &mainQueue,
                             platform::PopupLayer *layer = nullptr);
     ~nrCountWindowController() override;
 

@@ -4,13 +4,13 @@
 
 namespace nerlo::shortcuts {
 
-std::optional<nrShortcut> storedShortcut(const platform::SettingsStore &store,
+std::optional<nrShortcut> storedShortcut(const storage::SettingsStore &store,
                                          std::string_view key) {
     const auto *data = store.dataForKey(key);
     return data ? nrShortcut::shortcutWithData(*data) : std::nullopt;
 }
 
-void storeShortcut(platform::SettingsStore &store, std::string_view key,
+void storeShortcut(storage::SettingsStore &store, std::string_view key,
                    const std::optional<nrShortcut> &shortcut) {
     if (shortcut) {
         store.set(key, shortcut->data());
@@ -20,7 +20,7 @@ void storeShortcut(platform::SettingsStore &store, std::string_view key,
 }
 
 nrShortcutUserDefaultsHotKey::nrShortcutUserDefaultsHotKey(
-    platform::SettingsStore &store, GlobalHotKeys &hotKeys, std::string userDefaultsKey_,
+    storage::SettingsStore &store, GlobalHotKeys &hotKeys, std::string userDefaultsKey_,
     HotKeyHandler handler_, std::string title, std::function<void()> changed)
     : userDefaultsKey(std::move(userDefaultsKey_))
     , handler(std::move(handler_))
@@ -60,7 +60,7 @@ void nrShortcutUserDefaultsHotKey::installHotKeyFromUserDefaults() {
     }
 }
 
-UserDefaultsHotKeys::UserDefaultsHotKeys(platform::SettingsStore &store, GlobalHotKeys &hotKeys)
+UserDefaultsHotKeys::UserDefaultsHotKeys(storage::SettingsStore &store, GlobalHotKeys &hotKeys)
     : store_(store)
     , hotKeys_(hotKeys) {
     hotKeys_.setStatusHandler([this](const GlobalHotKeys::Token &) { tell(); });

@@ -3,8 +3,8 @@
 // Main thread only.
 #pragma once
 
-#include "platform/SettingsStore.h"
 #include "shortcuts/GlobalHotKeys.h"
+#include "storage/SettingsStore.h"
 
 #include <functional>
 #include <map>
@@ -16,17 +16,16 @@
 namespace nerlo::shortcuts {
 
 // The shortcut that is stored under `key`; none where there is none or no archive of one.
-std::optional<nrShortcut> storedShortcut(const platform::SettingsStore &store,
-                                         std::string_view key);
+std::optional<nrShortcut> storedShortcut(const storage::SettingsStore &store, std::string_view key);
 // Stores the shortcut, or removes the key when there is none.
-void storeShortcut(platform::SettingsStore &store, std::string_view key,
+void storeShortcut(storage::SettingsStore &store, std::string_view key,
                    const std::optional<nrShortcut> &shortcut);
 
 // The hot key of one settings key: there whenever a shortcut is stored under it.
 class nrShortcutUserDefaultsHotKey {
   public:
     // `changed` runs when the status may have changed.
-    nrShortcutUserDefaultsHotKey(platform::SettingsStore &store, GlobalHotKeys &hotKeys,
+    nrShortcutUserDefaultsHotKey(storage::SettingsStore &store, GlobalHotKeys &hotKeys,
                                  std::string userDefaultsKey, HotKeyHandler handler,
                                  std::string title, std::function<void()> changed);
     ~nrShortcutUserDefaultsHotKey();
@@ -44,13 +43,13 @@ class nrShortcutUserDefaultsHotKey {
     void observeValue();
     void installHotKeyFromUserDefaults();
 
-    platform::SettingsStore &store_;
+    storage::SettingsStore &store_;
     GlobalHotKeys &hotKeys_;
     std::string title_;
     std::function<void()> changed_;
     std::optional<GlobalHotKeys::Token> monitor_;
     std::string refusal_;
-    platform::SettingsStore::Observation observation_; // last: it ends first
+    storage::SettingsStore::Observation observation_; // last: it ends first
 };
 
 class UserDefaultsHotKeys {
@@ -61,7 +60,7 @@ class UserDefaultsHotKeys {
     using Observation = std::shared_ptr<void>;
 
     // Both must outlive this.
-    UserDefaultsHotKeys(platform::SettingsStore &store, GlobalHotKeys &hotKeys);
+    UserDefaultsHotKeys(storage::SettingsStore &store, GlobalHotKeys &hotKeys);
     ~UserDefaultsHotKeys();
 
     // Replaces an earlier binding of the key. `title` says what the hot key does, in UTF-8, where a
@@ -79,14 +78,14 @@ class UserDefaultsHotKeys {
     [[nodiscard]] Observation observeStatus(std::function<void()> changed);
     void keyboardLayoutChanged() { tell(); }
 
-    platform::SettingsStore &store() { return store_; }
-    const platform::SettingsStore &store() const { return store_; }
+    storage::SettingsStore &store() { return store_; }
+    const storage::SettingsStore &store() const { return store_; }
     GlobalHotKeys &hotKeys() { return hotKeys_; }
 
   private:
     void tell();
 
-    platform::SettingsStore &store_;
+    storage::SettingsStore &store_;
     GlobalHotKeys &hotKeys_;
     std::vector<std::weak_ptr<std::function<void()>>> observers_;
     Registered registered_;

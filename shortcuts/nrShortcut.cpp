@@ -1,9 +1,9 @@
 #include "shortcuts/nrShortcut.h"
 
-#include "platform/PropertyList.h"
 #include "platform/SystemHotKeys.h"
 #include "platform/VirtualKeys.h"
 #include "shortcuts/ShortcutTexts.h"
+#include "storage/PropertyList.h"
 #include "text/CaseMapping.h"
 #include "text/Characters.h"
 #include "text/Utf.h"
@@ -18,11 +18,11 @@ namespace nerlo::shortcuts {
 
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyData;
-using platform::PropertyDictionary;
-using platform::PropertyUid;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyData;
+using storage::PropertyDictionary;
+using storage::PropertyUid;
+using storage::PropertyValue;
 
 std::atomic<bool> anyWithOption = false;
 
@@ -169,7 +169,7 @@ std::optional<nrShortcut> nrShortcut::shortcutWithData(std::span<const std::byte
         return std::nullopt;
     }
     const auto parsed =
-        platform::parsePropertyList({reinterpret_cast<const char *>(data.data()), data.size()});
+        storage::parsePropertyList({reinterpret_cast<const char *>(data.data()), data.size()});
     const auto *archive = parsed.value ? parsed.value->as<PropertyDictionary>() : nullptr;
     if (!archive || !isText(archive->find("$archiver"), u"NSKeyedArchiver")) {
         return std::nullopt;
@@ -198,7 +198,7 @@ PropertyData nrShortcut::data() const {
         {"$classname", className},
         {"$classes", PropertyArray{className, u"NSObject"}},
     };
-    const std::string bytes = platform::writeBinary(PropertyDictionary{
+    const std::string bytes = storage::writeBinary(PropertyDictionary{
         {"$version", 100000},
         {"$archiver", u"NSKeyedArchiver"},
         {"$top", PropertyDictionary{{"root", PropertyUid{1}}}},

@@ -4,8 +4,8 @@
 // keyboard layout and so belong to the main thread. Nothing here throws but std::bad_alloc.
 #pragma once
 
-#include "platform/PropertyValue.h"
 #include "shortcuts/MenuItem.h"
+#include "storage/PropertyValue.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -65,10 +65,10 @@ class nrShortcut {
     void setModifierFlags(std::uint64_t flags) { modifierFlags_ = flags & allModifiers; }
 
     // A whole keyed archive, in binary form.
-    platform::PropertyData data() const;
+    storage::PropertyData data() const;
     // The fields inside the archive's object.
-    platform::PropertyDictionary encodeWithCoder() const;
-    static std::optional<nrShortcut> initWithCoder(const platform::PropertyDictionary &fields);
+    storage::PropertyDictionary encodeWithCoder() const;
+    static std::optional<nrShortcut> initWithCoder(const storage::PropertyDictionary &fields);
 
     std::u16string keyCodeString(const ShortcutTexts &texts) const;
     std::u16string modifierFlagsString() const;

@@ -25,7 +25,7 @@ class EchoGuard {
 } // namespace
 
 nrShortcutDefaultsObserver::nrShortcutDefaultsObserver(ShortcutControl &shortcutView,
-                                                       platform::SettingsStore &store,
+                                                       storage::SettingsStore &store,
                                                        std::string userDefaultsKey)
     : shortcutView_(shortcutView)
     , store_(store)

@@ -3,8 +3,8 @@
 // Main thread only.
 #pragma once
 
-#include "platform/SettingsStore.h"
 #include "shortcuts/nrShortcut.h"
+#include "storage/SettingsStore.h"
 
 #include <functional>
 #include <optional>
@@ -27,7 +27,7 @@ class ShortcutControl {
 class nrShortcutDefaultsObserver {
   public:
     // The control takes on the stored value. Both must outlive this.
-    nrShortcutDefaultsObserver(ShortcutControl &shortcutView, platform::SettingsStore &store,
+    nrShortcutDefaultsObserver(ShortcutControl &shortcutView, storage::SettingsStore &store,
                                std::string userDefaultsKey);
     // The control gets back the value that it had before.
     ~nrShortcutDefaultsObserver();
@@ -41,13 +41,13 @@ class nrShortcutDefaultsObserver {
     void valueChanged();
 
     ShortcutControl &shortcutView_;
-    platform::SettingsStore &store_;
+    storage::SettingsStore &store_;
     std::string userDefaultsKey_;
     std::optional<nrShortcut> originalShortcut_;
     // Counted, so that each direction may run into itself.
     int internalPreferenceChange_ = 0;
     int internalShortcutChange_ = 0;
-    platform::SettingsStore::Observation observation_;
+    storage::SettingsStore::Observation observation_;
 };
 
 } // namespace nerlo::shortcuts

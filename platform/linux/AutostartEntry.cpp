@@ -1,6 +1,6 @@
 #include "platform/linux/AutostartEntry.h"
 
-#include "platform/SafeFile.h"
+#include "storage/SafeFile.h"
 
 #include <filesystem>
 #include <system_error>
@@ -58,20 +58,20 @@ std::string AutostartEntry::setEnabled(bool enable) {
     if (error) {
         return folder_ + ": " + error.message();
     }
-    return replaceFile(path, "[Desktop Entry]\n"
-                             "Type=Application\n"
-                             "Name=Nerlo Pro\n"
-                             "Icon=org.nerlo.NerloPro\n"
-                             "Exec=" +
-                                 execArgument(program_) +
-                                 "\n"
-                                 "Terminal=false\n"
-                                 "X-GNOME-Autostart-enabled=true\n");
+    return storage::replaceFile(path, "[Desktop Entry]\n"
+                                      "Type=Application\n"
+                                      "Name=Nerlo Pro\n"
+                                      "Icon=org.nerlo.NerloPro\n"
+                                      "Exec=" +
+                                          execArgument(program_) +
+                                          "\n"
+                                          "Terminal=false\n"
+                                          "X-GNOME-Autostart-enabled=true\n");
 }
 
 bool AutostartEntry::enabled() const {
-    const FileContent entry = readFile(folder_ + fileName, largest);
-    return entry.state == FileContent::State::Read &&
+    const storage::FileContent entry = storage::readFile(folder_ + fileName, largest);
+    return entry.state == storage::FileContent::State::Read &&
            entry.bytes.find("\nHidden=true") == std::string::npos &&
            entry.bytes.find("\nX-GNOME-Autostart-enabled=false") == std::string::npos;
 }

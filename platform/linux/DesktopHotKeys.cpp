@@ -1,6 +1,7 @@
 #include "platform/linux/DesktopHotKeys.h"
 
 #include "platform/linux/CommandOutput.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -23,14 +24,6 @@ constexpr std::size_t mostCustomBindings = 64;
 constexpr auto longestReading = std::chrono::seconds(2);
 constexpr std::size_t largestFile = std::size_t{1} << 20;
 
-std::string lower(std::string_view text) {
-    std::string result(text);
-    for (char &c : result) {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return result;
-}
-
 std::optional<std::uint32_t> modifierOf(std::string_view name) {
     const struct {
         std::string_view name;
@@ -41,7 +34,7 @@ std::optional<std::uint32_t> modifierOf(std::string_view name) {
         {"alt", hotKeyOption},      {"mod1", hotKeyOption},     {"super", hotKeyControl},
         {"mod4", hotKeyControl},    {"meta", hotKeyControl}, // Qt's name of the Super key
     };
-    const std::string wanted = lower(name);
+    const std::string wanted = text::asciiLower(std::string(name));
     const auto *row = std::ranges::find(rows, wanted, &std::decay_t<decltype(rows[0])>::name);
     return row == std::end(rows) ? std::nullopt : std::optional(row->flag);
 }
@@ -59,7 +52,7 @@ std::string symbolOfQtName(std::string_view name) {
         {"[", "bracketleft"}, {"]", "bracketright"}, {"+", "plus"},         {"<", "less"},
         {"#", "numbersign"},
     };
-    const std::string wanted = lower(name);
+    const std::string wanted = text::asciiLower(std::string(name));
     const auto *row = std::ranges::find(rows, wanted, &std::decay_t<decltype(rows[0])>::qt);
     return row == std::end(rows) ? std::string(name) : std::string(row->xkb);
 }
@@ -237,7 +230,7 @@ constexpr std::array desktops{
 
 std::vector<NamedHotKey> readHotKeys(const DesktopSources &sources) {
     Collector collector;
-    const std::string names = ":" + lower(sources.currentDesktop) + ":";
+    const std::string names = ":" + text::asciiLower(sources.currentDesktop) + ":";
     for (const auto &desktop : desktops) {
         if (names.find(":" + std::string(desktop.name) + ":") != names.npos) {
             desktop.collect(sources, collector);

@@ -1,6 +1,6 @@
 #include "platform/linux/FolderWatch.h"
 
-#include "platform/SafeFile.h"
+#include "storage/SafeFile.h"
 
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -12,7 +12,7 @@ namespace nerlo::platform {
 FolderWatch::FolderWatch(const std::string &folder, MainQueue &queue, std::function<void()> changed)
     : shared_(std::make_shared<Shared>()) {
     shared_->changed = std::move(changed);
-    makeFolder(folder);
+    storage::makeFolder(folder);
     events_ = ::inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
     stop_ = ::eventfd(0, EFD_CLOEXEC);
     constexpr std::uint32_t mask = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE;

@@ -1,4 +1,4 @@
-#include "platform/PropertyList.h"
+#include "storage/PropertyList.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/cli/RunNerlo.h"
 
@@ -7,8 +7,8 @@
 namespace nerlo::test {
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyDictionary;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
 
 class Profiles : public testing::Test {
   protected:
@@ -30,7 +30,7 @@ class Profiles : public testing::Test {
     const PropertyDictionary upper{{"profileName", u"Größe"},
                                    {"udChangeCaseTo", 1},
                                    {"udChangeCaseOption", 3},
-                                   {"future", platform::PropertyDate{5}}};
+                                   {"future", storage::PropertyDate{5}}};
     const PropertyDictionary lower{
         {"profileName", u"small"}, {"udChangeCaseTo", 1}, {"udChangeCaseOption", 2}};
 };

@@ -1,12 +1,12 @@
 // The control that records shortcuts, in a window on a real X server; xdotool is the user.
-#include "platform/memory/MemoryHotKeys.h"
-#include "platform/memory/MemorySettingsStore.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/view/nrShortcutView.h"
 #include "tests/Process.h"
+#include "tests/fakes/MemoryHotKeys.h"
+#include "tests/fakes/MemorySettingsStore.h"
 
 #include <gtest/gtest.h>
 
@@ -114,7 +114,7 @@ class ShortcutView : public testing::Test {
     std::optional<nrShortcut> stored(const char *key) { return storedShortcut(store, key); }
 
     platform::QtMainQueue queue;
-    platform::MemorySettingsStore store;
+    test::MemorySettingsStore store;
     FixedHotKeys desktop;
     std::unique_ptr<platform::KeyboardLayout> layout;
     std::unique_ptr<platform::HotKeyService> service;
@@ -275,7 +275,7 @@ TEST_F(ShortcutView, WarnsOfAShortcutThatTheDesktopRefuses) {
 }
 
 TEST_F(ShortcutView, ItsToolTipTellsTheKeysThatTheDesktopChose) {
-    platform::MemoryHotKeys portal;
+    test::MemoryHotKeys portal;
     GlobalHotKeys registered(portal, *texts);
     UserDefaultsHotKeys keys(store, registered);
     bound->unregisterGlobalShortcutWithUserDefaultsKey("sSort");

@@ -1,9 +1,9 @@
 // The Wayland backends in a real compositor, with real programs that copy and paste.
-#include "platform/PasteboardFormats.h"
-#include "platform/memory/MemoryMainQueue.h"
+#include "clipboard/PasteboardFormats.h"
 #include "platform/wayland/WaylandActiveApplication.h"
 #include "platform/wayland/WaylandPasteboard.h"
 #include "tests/Process.h"
+#include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/PasteboardUser.h"
 
 #include <filesystem>
@@ -24,7 +24,7 @@ const std::string ownerProgram =
 // The end of the pipe looks like the end of the text; that the content went with its owner may show
 // only a moment later, but no write in its place gets through.
 TEST(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     const test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue).backend};
     ASSERT_TRUE(clipboard.pasteboard);
     const auto start = clipboard.pasteboard->changeCount();
@@ -33,28 +33,28 @@ TEST(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
     ASSERT_TRUE(clipboard.untilCount(start + 1));
     EXPECT_LE(clipboard.text().size(), 70'000u);
     ASSERT_TRUE(clipboard.untilCount(start + 2));
-    EXPECT_EQ(clipboard.write(plainTextContent("half, but cleaned"), start + 1).status,
+    EXPECT_EQ(clipboard.write(clipboard::plainTextContent("half, but cleaned"), start + 1).status,
               PasteboardStatus::changed);
 }
 
 // A manager takes a copy of each content as soon as it comes, which may be after the program's end.
 TEST(WaylandBackend, AManagerHasTheTextWhenTheProgramEndsRightAfterItsWrite) {
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue).backend};
     ASSERT_TRUE(clipboard.pasteboard);
     const test::TemporaryFolder folder;
     const std::string kept = folder / "kept";
     const Process manager({"wl-paste", "--watch", "sh", "-c", "cat >$0.new; mv $0.new $0", kept});
-    clipboard.write(plainTextContent("before"));
+    clipboard.write(clipboard::plainTextContent("before"));
     ASSERT_TRUE(test::until([&] { return test::bytesOf(kept) == "before"; }));
     const std::string written(3'000'000, 'w');
-    clipboard.write(plainTextContent(written));
+    clipboard.write(clipboard::plainTextContent(written));
     clipboard.pasteboard.reset();
     EXPECT_TRUE(test::until([&] { return test::bytesOf(kept) == written; }));
 }
 
 TEST(WaylandApplications, NamesTheOneThatComesToTheFront) {
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     const auto created = createWaylandActiveApplication(queue);
     ASSERT_TRUE(created.backend) << created.declined;
     std::vector<std::string> seen;

@@ -2,9 +2,9 @@
 #include "platform/x11/X11ActiveApplication.h"
 #include "platform/x11/X11Pasteboard.h"
 
-#include "platform/PasteboardFormats.h"
-#include "platform/memory/MemoryMainQueue.h"
+#include "clipboard/PasteboardFormats.h"
 #include "platform/x11/Connection.h"
+#include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/PasteboardUser.h"
 
 #include <functional>
@@ -25,7 +25,7 @@ class X11Backend : public testing::Test {
   protected:
     bool until(const std::function<bool()> &done) { return ours.until(done); }
 
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     PasteboardUser ours{queue, createX11Pasteboard(queue).backend};
     PasteboardUser theirs{queue, createX11Pasteboard(queue).backend};
 };
@@ -35,13 +35,13 @@ TEST_F(X11Backend, CountsEachReplacementOnceAndOwnWritesAtOnce) {
     ours.pasteboard->setChangeHandler([&] { ++announced; });
     const auto before = ours.pasteboard->changeCount();
     for (int i = 1; i <= 100; ++i) {
-        const auto written = ours.write(plainTextContent("a"));
+        const auto written = ours.write(clipboard::plainTextContent("a"));
         ASSERT_EQ(written.status, PasteboardStatus::done);
         ASSERT_EQ(written.changeCount, before + i);
         ASSERT_EQ(ours.pasteboard->changeCount(), before + i);
     }
     for (int i = 0; i < 100; ++i) {
-        theirs.write(plainTextContent("b"));
+        theirs.write(clipboard::plainTextContent("b"));
     }
     EXPECT_EQ(ours.formats().changeCount, before + 200);
     EXPECT_TRUE(until([&] { return announced > 0; }));
@@ -54,19 +54,20 @@ TEST_F(X11Backend, CountsEachReplacementOnceAndOwnWritesAtOnce) {
 
 TEST_F(X11Backend, ANewerCopyAlwaysWins) {
     for (int round = 0; round < 200; ++round) {
-        theirs.write(plainTextContent("old"));
+        theirs.write(clipboard::plainTextContent("old"));
         const auto old = ours.formats().changeCount;
         const auto newer = std::to_string(round);
         std::optional<PasteboardWrite> mine;
         std::optional<PasteboardWrite> other;
         const auto write_ours = [&] {
-            ours.pasteboard->write(plainTextContent("stale"), old,
+            ours.pasteboard->write(clipboard::plainTextContent("stale"), old,
                                    [&](auto result) { mine = result; });
         };
         if (round % 2 == 0) {
             write_ours();
         }
-        theirs.pasteboard->write(plainTextContent(newer), {}, [&](auto result) { other = result; });
+        theirs.pasteboard->write(clipboard::plainTextContent(newer), {},
+                                 [&](auto result) { other = result; });
         if (round % 2 == 1) {
             write_ours();
         }
@@ -105,7 +106,7 @@ TEST_F(X11Backend, KeepsTheTypeThatAnOwnerDelivers) {
 TEST_F(X11Backend, TellsWhenTheDisplayIsGone) {
     bool lost = false;
     ours.pasteboard->setLostHandler([&] { lost = true; });
-    ours.write(plainTextContent("a"));
+    ours.write(clipboard::plainTextContent("a"));
     const auto connection = x11::Connection::open();
     auto *xcb = connection->get();
     const x11::Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
@@ -115,7 +116,7 @@ TEST_F(X11Backend, TellsWhenTheDisplayIsGone) {
     xcb_flush(xcb);
     EXPECT_TRUE(until([&] { return lost; }));
     EXPECT_EQ(ours.formats().status, PasteboardStatus::unavailable);
-    EXPECT_EQ(ours.write(plainTextContent("a")).status, PasteboardStatus::unavailable);
+    EXPECT_EQ(ours.write(clipboard::plainTextContent("a")).status, PasteboardStatus::unavailable);
 }
 
 // A window of a program with this instance and class.

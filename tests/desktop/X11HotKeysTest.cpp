@@ -1,11 +1,11 @@
 // Hot keys and the keyboard layout on a real X server: xdotool is the user.
 #include "platform/x11/X11HotKeys.h"
-#include "platform/memory/MemoryMainQueue.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/XkbEvents.h"
 #include "platform/x11/XkbProtocol.h"
 #include "tests/Process.h"
+#include "tests/fakes/MemoryMainQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -52,7 +52,7 @@ class X11HotKeys : public testing::Test {
         settle();
     }
 
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     std::unique_ptr<HotKeyService> service = create();
     std::map<std::uint32_t, int> runs;
     std::uint32_t lastId = 0;
@@ -153,7 +153,7 @@ TEST(WaylandKeyboard, TheKeymapOfTheCompositorIsFollowed) {
     std::string display;
     ASSERT_TRUE(test::until([&] { return !!(std::ifstream(folder + "/wayland") >> display); }));
 
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     const auto created = createWaylandKeyboardLayout(queue, display);
     ASSERT_TRUE(created.backend) << created.declined;
     const auto &layout = *created.backend;

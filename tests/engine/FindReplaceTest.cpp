@@ -4,9 +4,9 @@
 namespace nerlo::engine {
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 PropertyValue rule(const char16_t *find, const char16_t *replace) {
     return PropertyDictionary{{"checkbox", true}, {"find", find}, {"replace", replace}};

@@ -7,8 +7,8 @@
 namespace nerlo::engine {
 namespace {
 
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 TEST(CleaningOptions, AreFilledAsAWhole) {
     CleaningOptions options;
@@ -21,7 +21,7 @@ TEST(CleaningOptions, AreFilledAsAWhole) {
                          {"udSortOption", u"3 or so"},
                          {"udRemoveAllTabs", u"no"},
                          {"sOnlyOneProfile", 1},
-                         {"sFindAndReplaceItems", platform::PropertyArray{}}});
+                         {"sFindAndReplaceItems", storage::PropertyArray{}}});
     EXPECT_TRUE(options.kCheckSetters);
     EXPECT_TRUE(options.udSort);
     EXPECT_TRUE(options.udStatistics);

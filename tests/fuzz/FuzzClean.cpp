@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const std::u16string replacement = part();
     const text::Utf16Result decoded = text::utf8ToUtf16(rest);
 
-    platform::PropertyDictionary settings;
+    storage::PropertyDictionary settings;
     for (const engine::OptionField &field : engine::optionFields()) {
         if (field.key.ends_with("Option") || field.key.ends_with("Separator")) {
             settings.set(field.key, option);
@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     settings.set("udChangeProperty1ToTextField", replacement);
     settings.set(
         "sFindAndReplaceItemsProfile",
-        platform::PropertyArray{platform::PropertyDictionary{
+        storage::PropertyArray{storage::PropertyDictionary{
             {"checkbox", true}, {"find", pattern}, {"replace", u"{delete}" + replacement}}});
     engine::CleaningOptions options;
     options.setAllBools(settings);

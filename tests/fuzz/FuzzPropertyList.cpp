@@ -1,5 +1,5 @@
 // Any bytes as a property list: no crash; and what was read survives being written in both forms.
-#include "platform/PropertyList.h"
+#include "storage/PropertyList.h"
 
 #include <cstdlib>
 

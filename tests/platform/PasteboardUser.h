@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/Pasteboard.h"
-#include "platform/memory/MemoryMainQueue.h"
 #include "tests/Until.h"
+#include "tests/fakes/MemoryMainQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ inline platform::PasteboardContent content(const Strings &formats, const std::st
 }
 
 struct PasteboardUser {
-    platform::MemoryMainQueue &queue;
+    test::MemoryMainQueue &queue;
     std::unique_ptr<platform::Pasteboard> pasteboard;
 
     bool until(const std::function<bool()> &done) const { return test::until(queue, done); }

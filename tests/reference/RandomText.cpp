@@ -80,7 +80,7 @@ std::u16string Random::text(Tokens tokens) {
 }
 
 engine::CleaningOptions Random::options() {
-    platform::PropertyDictionary dictionary;
+    storage::PropertyDictionary dictionary;
     const std::size_t density = 1 + below(8);
     for (const engine::OptionField &field : engine::optionFields()) {
         for (std::size_t slot = 1; slot <= (field.perSlot() ? engine::replaceSlots : 1); ++slot) {

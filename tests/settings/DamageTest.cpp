@@ -1,8 +1,8 @@
 // Files that were damaged, saves that were ended, and two processes that save at once.
-#include "platform/SafeFile.h"
+#include "storage/SafeFile.h"
 #include "tests/Until.h"
-#include "tests/platform/FaultyFileCalls.h"
 #include "tests/settings/Program.h"
+#include "tests/storage/FaultyFileCalls.h"
 
 #include <chrono>
 #include <random>
@@ -17,8 +17,8 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace test;
-using platform::writeBinary;
-using platform::writeXml;
+using storage::writeBinary;
+using storage::writeXml;
 
 TEST(Files, DamagedAnywhereGiveAUsableStartAndAreNotLost) {
     const PropertyArray profiles{PropertyDictionary{{"profileName", u"work"}, {"udSort", 1}}};
@@ -82,7 +82,7 @@ PropertyArray twoProfiles(int count) {
 }
 
 // Sets both counts, which only a whole file has alike.
-bool saveCount(const std::string &path, int count, platform::FileCalls &calls) {
+bool saveCount(const std::string &path, int count, storage::FileCalls &calls) {
     ProfilesFile file(path, calls);
     ProfileItems items = file.load();
     for (ProfileItem &item : items) {
@@ -106,7 +106,7 @@ TEST(Ended, AtAnySystemCallOfAProfileSaveTheFileIsOldOrNew) {
     putBytes(paths.profiles, writeXml(twoProfiles(0)));
     std::int64_t before = 0;
     const int deaths = nerlo::test::endAtEachCall(
-        [&](platform::FileCalls &calls, int at) { return saveCount(paths.profiles, at, calls); },
+        [&](storage::FileCalls &calls, int at) { return saveCount(paths.profiles, at, calls); },
         [&](int at, bool last) {
             const auto after = wholeCount(paths);
             EXPECT_TRUE(after == at || (after == before && !last)) << at << ": " << after;
@@ -127,7 +127,7 @@ TEST(Ended, KilledTwoHundredTimesInTheMiddleOfSavingTheFileIsWhole) {
         ASSERT_GE(child, 0);
         if (child == 0) {
             for (auto count = static_cast<int>(last) + 1;; ++count) {
-                if (!saveCount(paths.profiles, count, platform::FileCalls::system())) {
+                if (!saveCount(paths.profiles, count, storage::FileCalls::system())) {
                     ::_exit(1);
                 }
             }

@@ -1,8 +1,8 @@
 #include "settings/nrPreferences.h"
 
-#include "platform/memory/MemorySettingsStore.h"
 #include "settings/SettingsKeys.h"
 #include "settings/UserLanguages.h"
+#include "tests/fakes/MemorySettingsStore.h"
 #include "tests/settings/Program.h"
 
 #include <stdexcept>
@@ -12,8 +12,8 @@ namespace {
 
 using namespace std::chrono_literals;
 using namespace test;
-using platform::writeBinary;
-using platform::writeXml;
+using storage::writeBinary;
+using storage::writeXml;
 
 using FirstStart = RunningProgram;
 using Saving = RunningProgram;
@@ -522,7 +522,7 @@ TEST(Migration, MovesTheOldOptionsIntoOneProfileOnce) {
 }
 
 TEST(Language, TheKeyOfTheStoreComesBeforeTheDesktop) {
-    platform::MemorySettingsStore store;
+    test::MemorySettingsStore store;
     EXPECT_EQ(firstLanguage(store), userLanguages().front());
     store.set("AppleLanguages", PropertyArray{});
     EXPECT_EQ(firstLanguage(store), userLanguages().front());

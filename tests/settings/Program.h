@@ -1,12 +1,12 @@
 // The program's settings in a folder of their own, without windows.
 #pragma once
 
-#include "platform/PropertyList.h"
-#include "platform/linux/FileSettingsStore.h"
-#include "platform/memory/MemoryMainQueue.h"
 #include "settings/FirstStart.h"
 #include "settings/nrPreferences.h"
+#include "storage/FileSettingsStore.h"
+#include "storage/PropertyList.h"
 #include "tests/TemporaryFolder.h"
+#include "tests/fakes/MemoryMainQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -17,12 +17,12 @@
 namespace nerlo::settings::test {
 
 using namespace nerlo::test;
-using platform::FileSettingsStore;
-using platform::MemoryMainQueue;
-using platform::parsePropertyList;
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::FileSettingsStore;
+using storage::parsePropertyList;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
+using test::MemoryMainQueue;
 
 inline SettingsPaths pathsIn(const TemporaryFolder &folder) {
     return {folder / "config/nerlo-pro/defaults.plist", folder / "data/nerlo-pro/Data/profiles.nrp",
@@ -59,7 +59,7 @@ struct Program {
     }
 
     SettingsPaths paths;
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     FileSettingsStore store;
     nrPreferences preferences;
     ProfileRecord engine;

@@ -12,9 +12,9 @@
 namespace nerlo::settings {
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
 
 std::size_t place(std::string_view key) {
     const SettingsKey *row = findKey(key);

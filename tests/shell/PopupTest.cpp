@@ -1,8 +1,8 @@
 #include "shell/nrCountWindowController.h"
 
-#include "platform/memory/MemoryMainQueue.h"
-#include "platform/memory/MemorySettingsStore.h"
 #include "shell/PopupPlacement.h"
+#include "tests/fakes/MemoryMainQueue.h"
+#include "tests/fakes/MemorySettingsStore.h"
 
 #include <gtest/gtest.h>
 
@@ -54,8 +54,8 @@ TEST(PopupPlacement, StandsWhereTheListSays) {
 
 class Popup : public testing::Test {
   protected:
-    platform::MemorySettingsStore store;
-    platform::MemoryMainQueue queue;
+    test::MemorySettingsStore store;
+    test::MemoryMainQueue queue;
     nrCountWindowController controller{store, queue};
 
     QString text(const char *name) { return controller.window().findChild<QLabel *>(name)->text(); }

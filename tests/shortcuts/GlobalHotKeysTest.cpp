@@ -1,9 +1,9 @@
-#include "platform/memory/MemoryHotKeys.h"
-#include "platform/memory/MemorySettingsStore.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
 #include "shortcuts/nrShortcutDefaultsObserver.h"
+#include "tests/fakes/MemoryHotKeys.h"
+#include "tests/fakes/MemorySettingsStore.h"
 
 #include <gtest/gtest.h>
 
@@ -25,8 +25,8 @@ class HotKeys : public testing::Test {
 
     platform::XkbKeyboardLayout layout{platform::xkb::Keymap::fromNames("us")};
     ShortcutTexts texts{layout};
-    platform::MemoryHotKeys service;
-    platform::MemorySettingsStore store;
+    test::MemoryHotKeys service;
+    test::MemorySettingsStore store;
     GlobalHotKeys hotKeys{service, texts};
     UserDefaultsHotKeys bound{store, hotKeys};
     int runs = 0;
@@ -120,8 +120,8 @@ TEST_F(HotKeys, FollowTheStoredShortcut) {
     EXPECT_TRUE(service.press(c, 0x1000));
     EXPECT_EQ(runs, 2);
 
-    for (const platform::PropertyValue &bad :
-         {platform::PropertyValue(platform::PropertyData(7)), platform::PropertyValue(u"⌃V")}) {
+    for (const storage::PropertyValue &bad :
+         {storage::PropertyValue(storage::PropertyData(7)), storage::PropertyValue(u"⌃V")}) {
         store.set("sSort", superC.data());
         store.set("sSort", bad);
         EXPECT_TRUE(service.registered.empty());
@@ -228,7 +228,7 @@ TEST_F(HotKeys, AControlAndItsKeyFollowEachOtherWithoutEcho) {
         EXPECT_EQ(store.find("sSort"), nullptr);
         EXPECT_TRUE(service.registered.empty());
 
-        store.set("sSort", platform::PropertyData(3)); // no archive
+        store.set("sSort", storage::PropertyData(3)); // no archive
         EXPECT_EQ(control.value, std::nullopt);
         EXPECT_NE(store.find("sSort"), nullptr);
     }

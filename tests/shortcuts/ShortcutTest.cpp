@@ -1,10 +1,10 @@
 #include "shortcuts/nrShortcut.h"
 
-#include "platform/PropertyList.h"
 #include "platform/SystemHotKeys.h"
 #include "platform/VirtualKeys.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "shortcuts/ShortcutTexts.h"
+#include "storage/PropertyList.h"
 #include "text/Utf.h"
 
 #include <gtest/gtest.h>
@@ -14,11 +14,11 @@
 namespace nerlo::shortcuts {
 namespace {
 
-using platform::PropertyArray;
-using platform::PropertyData;
-using platform::PropertyDictionary;
-using platform::PropertyUid;
 using platform::XkbKeyboardLayout;
+using storage::PropertyArray;
+using storage::PropertyData;
+using storage::PropertyDictionary;
+using storage::PropertyUid;
 
 XkbKeyboardLayout layoutOf(const char *name) {
     return XkbKeyboardLayout(platform::xkb::Keymap::fromNames(name));
@@ -55,7 +55,7 @@ TEST(Shortcut, ArchiveGoesRoundForEveryKeyAndModifierSet) {
         }
     }
     EXPECT_EQ(*nrShortcut(nrShortcut::absentKey, 0).encodeWithCoder().find("KeyCode"),
-              platform::PropertyValue(-1));
+              storage::PropertyValue(-1));
     EXPECT_EQ(nrShortcut::initWithCoder({{"KeyCode", -7}, {"ModifierFlags", 0}})->keyCode(),
               nrShortcut::absentKey);
 }
@@ -92,7 +92,7 @@ TEST(Shortcut, BadArchivesAreNoShortcut) {
         {"$class", PropertyUid{2}}, {"KeyCode", 9}, {"ModifierFlags", 0}};
     const auto archive = [](PropertyDictionary object, PropertyDictionary type, PropertyUid root,
                             const char16_t *archiver = u"NSKeyedArchiver") {
-        return bytesOf(platform::writeBinary(PropertyDictionary{
+        return bytesOf(storage::writeBinary(PropertyDictionary{
             {"$archiver", archiver},
             {"$top", PropertyDictionary{{"root", root}}},
             {"$objects", PropertyArray{u"$null", std::move(object), std::move(type)}}}));
@@ -110,7 +110,7 @@ TEST(Shortcut, BadArchivesAreNoShortcut) {
         {"key code is text",
          archive({{"$class", PropertyUid{2}}, {"KeyCode", u"9"}, {"ModifierFlags", 0}}, ours, {1})},
         {"another archiver", archive(fields, ours, {1}, u"NSArchiver")},
-        {"a list", bytesOf(platform::writeBinary(PropertyArray{1, 2}))},
+        {"a list", bytesOf(storage::writeBinary(PropertyArray{1, 2}))},
     };
     for (const auto &row : rows) {
         EXPECT_FALSE(nrShortcut::shortcutWithData(row.data)) << row.name;

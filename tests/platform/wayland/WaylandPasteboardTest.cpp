@@ -2,9 +2,9 @@
 // not.
 #include "platform/wayland/WaylandPasteboard.h"
 
-#include "platform/memory/MemoryMainQueue.h"
 #include "platform/wayland/DataControl.h"
 #include "platform/wayland/Transfer.h"
+#include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/PasteboardUser.h"
 #include "tests/platform/wayland/FakeCompositor.h"
 
@@ -34,7 +34,7 @@ using wayland::FileDescriptor;
 
 // Before the program's clipboard, and longer.
 struct Around {
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     FakeCompositor compositor;
 };
 
@@ -95,7 +95,7 @@ TEST(WaylandPasteboard, CountsReadsAndWritesUnderBothNamesOfTheProtocol) {
 TEST(WaylandPasteboard, WhatStandsThereBeforeItIsNotAChange) {
     FakeCompositor compositor(dataControls[1].manager);
     compositor.copyText("old");
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     const auto pasteboard = createWaylandPasteboard(queue, compositor.display()).backend;
     const auto start = pasteboard->changeCount();
     std::optional<PasteboardFormats> formats;
@@ -419,7 +419,7 @@ TEST(WaylandPasteboard, ACompositorThatStopsAnsweringIsWaitedForOnlySoLong) {
     Desktop desktop;
     desktop.compositor.freeze();
     EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::timedOut);
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     const auto second = createWaylandPasteboard(queue, desktop.compositor.display());
     EXPECT_FALSE(second.backend);
     EXPECT_EQ(second.declined, "the Wayland compositor does not answer");
@@ -427,7 +427,7 @@ TEST(WaylandPasteboard, ACompositorThatStopsAnsweringIsWaitedForOnlySoLong) {
 
 TEST(WaylandPasteboard, DeclinesWhereThereIsNothingToTalkTo) {
     EXPECT_EQ(Desktop(nullptr).declined, "the Wayland compositor has no data-control protocol");
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     EXPECT_EQ(createWaylandPasteboard(queue, "/nonexistent/socket").declined,
               "there is no Wayland compositor");
 }

@@ -1,8 +1,8 @@
 // The popup against a compositor that answers what a real one should not.
 #include "platform/wayland/WaylandPopupLayer.h"
 
-#include "platform/memory/MemoryMainQueue.h"
 #include "tests/Until.h"
+#include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/wayland/FakeCompositor.h"
 
 #include <atomic>
@@ -79,7 +79,7 @@ TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
         LayerShell shell;
         shell.answer = row.answer;
         const test::FakeCompositor compositor(nullptr, 1, shell.offer());
-        MemoryMainQueue queue;
+        test::MemoryMainQueue queue;
         const auto created = createWaylandPopupLayer(queue, compositor.display());
         ASSERT_TRUE(created.backend) << created.declined;
         int gone = 0;
@@ -110,7 +110,7 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
         };
         shell.pointer = true;
         const test::FakeCompositor compositor(nullptr, 1, shell.offer());
-        MemoryMainQueue queue;
+        test::MemoryMainQueue queue;
         const auto created = createWaylandPopupLayer(queue, compositor.display());
         std::atomic<bool> placed = false;
         Popup popup;
@@ -131,7 +131,7 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
 }
 
 TEST(WaylandPopupLayer, DeclinesWhereThereIsNoLayerShellOrNoAnswer) {
-    MemoryMainQueue queue;
+    test::MemoryMainQueue queue;
     EXPECT_EQ(createWaylandPopupLayer(queue, "/no/such").declined,
               "there is no Wayland compositor");
     test::FakeCompositor compositor(nullptr);

@@ -1,7 +1,7 @@
 #include "platform/linux/DesktopHotKeys.h"
 #include "platform/linux/CommandOutput.h"
-#include "platform/memory/MemoryWorkerQueue.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
+#include "tests/fakes/MemoryWorkerQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ HotKeyList read(const std::string &desktop, std::map<std::string, std::string> t
         }
         return text;
     };
-    MemoryWorkerQueue workers;
+    test::MemoryWorkerQueue workers;
     const auto hotKeys =
         createDesktopHotKeys(layout, workers,
                              {desktop, [&](const std::string &name) { return texts[name]; },

@@ -1,0 +1,83 @@
+// The automatic mode: while it runs, each new content that another program puts on the clipboard is
+// passed once to the engine.
+//
+// The change count is looked at in ticks on the main queue, the first 2.0 seconds after the start
+// and one every 0.5 seconds after that. Where the clipboard announces its changes, only those ticks
+// are scheduled in which something can have changed: an idle desktop is not woken.
+//
+// All functions are called on the main thread.
+#pragma once
+
+#include "clipboard/nrChangePasterboard.h"
+#include "platform/ActiveApplication.h"
+#include "platform/MainQueue.h"
+#include "platform/Pasteboard.h"
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nerlo::clipboard {
+
+class nrPasteboardWatcher final : public clipboard::WriteListener {
+  public:
+    // What is on the clipboard now is never cleaned automatically. The engine is told to report its
+    // writes here.
+    nrPasteboardWatcher(platform::Pasteboard &pasteboard, platform::MainQueue &mainQueue,
+                        platform::ActiveApplication &activeApplication,
+                        clipboard::nrChangePasterboard &engine);
+    ~nrPasteboardWatcher() override;
+    nrPasteboardWatcher(const nrPasteboardWatcher &) = delete;
+    nrPasteboardWatcher &operator=(const nrPasteboardWatcher &) = delete;
+
+    // The watcher that was last made and still lives; there must be one.
+    static nrPasteboardWatcher &sharedInstance();
+
+    // The generation of the operating system, 106 to 109, by its toolkit's version number. Newer
+    // systems than the last in the table are 109.
+    static std::int64_t checkVersion(double toolkitVersion);
+
+    // Starting again starts the grid of ticks again.
+    void start();
+    // Nothing happens if it does not run. A read under way still ends.
+    void stop();
+    bool running() const { return started.has_value(); }
+
+    // One tick.
+    void update();
+
+    // Takes the content with this count for handled, and nothing newer.
+    void addOneCount(platform::ChangeCount written) override;
+    // Takes what is on the clipboard now for handled.
+    void addOneCount();
+
+    // Switches the exception: copies of a spreadsheet that carry its link data are left alone.
+    void toggleEngine(bool on);
+    void startEngine();
+    void stopEngine();
+    void appActivated(std::string identifier);
+
+  private:
+    void scheduleNextTick();
+    // The type of link data that is spared in the application in front; empty for none.
+    std::string_view sparedLinkType() const;
+    void cleanUnlessLink(platform::ChangeCount count, std::string_view linkType);
+
+    platform::Pasteboard &pasteboard;
+    platform::MainQueue &mainQueue;
+    platform::ActiveApplication &activeApplication;
+    clipboard::nrChangePasterboard &engine;
+
+    platform::ChangeCount changeCount; // last accepted as handled
+    std::optional<platform::MainQueue::Clock::time_point> started;
+    platform::MainQueue::TaskId timer = 0; // 0: no tick is scheduled
+    std::optional<std::string> currentAppBundle;
+    bool disableAppsState = false;
+
+    std::shared_ptr<const bool> alive = std::make_shared<bool>(true);
+};
+
+} // namespace nerlo::clipboard

@@ -1,0 +1,60 @@
+// The settings store in one property-list file, shared with other processes.
+#pragma once
+
+#include "storage/FileCalls.h"
+#include "storage/SettingsStore.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace nerlo::storage {
+
+class FileSettingsStore final : public SettingsStore {
+  public:
+    // Reads the file. One that cannot be read, or holds no dictionary, is moved aside under a dated
+    // name at the first write, and the store begins empty. With `later`, changes are written by
+    // themselves in a task that is handed to it, to be run on this thread once the present one is
+    // over; without, by synchronize() and the destructor.
+    using Later = std::function<void(std::function<void()> task)>;
+    explicit FileSettingsStore(std::string path, Later later = nullptr,
+                               FileCalls &calls = FileCalls::system());
+    ~FileSettingsStore() override;
+
+    // Under the folder's lock: reads the file again, puts only the keys changed here into it, and
+    // writes it if that makes a difference.
+    bool synchronize() override;
+
+    // Takes over what other processes have written; to be called when the folder has changed.
+    void fileChanged();
+
+    const std::string &path() const { return path_; }
+    // Why the file could not be read at the start; empty if it could, or was not there.
+    const std::string &loadError() const { return loadError_; }
+    // Why the last write failed; empty when it did not.
+    const std::string &error() const { return error_; }
+    // Runs after each write by which that has changed.
+    void setErrorHandler(std::function<void(const std::string &error)> changed) {
+        errorChanged_ = std::move(changed);
+    }
+
+  private:
+    void changed(std::string_view key) override;
+    // The file's dictionary. Nothing when it is not there, or for what `unusable` says.
+    std::optional<PropertyDictionary> read(std::string &unusable) const;
+    PropertyDictionary withOwnChanges(PropertyDictionary theirs) const;
+
+    std::string path_;
+    Later later_;
+    FileCalls &calls_;
+    std::set<std::string> dirty_; // set or removed here since the last write
+    std::shared_ptr<bool> posted_ = std::make_shared<bool>(false);
+    std::string loadError_;
+    std::string error_;
+    std::function<void(const std::string &error)> errorChanged_;
+};
+
+} // namespace nerlo::storage

@@ -1,0 +1,43 @@
+// Property lists as bytes: read in XML or binary form, written in either.
+//
+// libplist does the reading and writing; what it takes on trust (well-formed UTF-8, digits that are
+// digits, nesting, sizes, balanced elements) is checked before it sees a byte. Any bytes may be
+// given, from any thread. Nothing here throws except std::bad_alloc.
+#pragma once
+
+#include "storage/PropertyValue.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nerlo::storage {
+
+struct PropertyListLimits {
+    static constexpr std::size_t bytes = std::size_t{64}
+                                         << 20;      // of a file, and of its texts and data
+    static constexpr std::size_t values = 1'000'000; // shared ones counted at every use
+    static constexpr int depth = 128;                // containers within containers
+};
+
+struct ParsedPropertyList {
+    std::optional<PropertyValue> value;
+    std::string error; // English, no line break; empty when there is a value
+};
+
+// Kinds are kept: an integer stays an integer, a boolean a boolean. Dates are read to the whole
+// second. In XML a dictionary with the one key "CF$UID" is the reference that it stands for.
+ParsedPropertyList parsePropertyList(std::string_view bytes);
+
+// Laid out as macOS's own writer does, keys in the dictionary's order. In both forms, what a
+// property list cannot hold (an unpaired surrogate, U+0000) becomes U+FFFD, a reference above 32
+// bits is cut to them, and a date is written to the whole second.
+std::string writeXml(const PropertyValue &value);
+std::string writeBinary(const PropertyValue &value);
+
+// XML, unless a text holds a control character that an XML reader would refuse or change (all below
+// U+0020 but tab and line feed): then binary.
+std::string writePropertyList(const PropertyValue &value);
+
+} // namespace nerlo::storage

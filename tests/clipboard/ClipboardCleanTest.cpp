@@ -1,0 +1,329 @@
+// The engine between a clipboard and a worker thread, all in memory.
+#include "clipboard/nrChangePasterboard.h"
+
+#include "clipboard/PasteboardFormats.h"
+#include "engine/Operations.h"
+#include "tests/fakes/MemoryMainQueue.h"
+#include "tests/fakes/MemoryPasteboard.h"
+#include "tests/fakes/MemoryWorkerQueue.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace nerlo::clipboard {
+namespace {
+
+using namespace std::chrono_literals;
+using platform::ChangeCount;
+using platform::PasteboardContent;
+using Log = std::vector<std::string>;
+
+constexpr std::int32_t removeAllSpaces = 1;
+constexpr std::int32_t addPrefix = 35;
+
+PasteboardContent content(std::initializer_list<std::pair<const char *, std::string>> formats) {
+    PasteboardContent result;
+    for (const auto &[format, bytes] : formats) {
+        result.push_back({format, {}, std::make_shared<const std::string>(bytes)});
+    }
+    return result;
+}
+
+std::vector<std::pair<std::string, std::string>> plain(const PasteboardContent &content) {
+    std::vector<std::pair<std::string, std::string>> result;
+    for (const auto &data : content) {
+        result.emplace_back(data.format, *data.bytes);
+    }
+    return result;
+}
+
+class ClipboardCleanTest : public testing::Test, public WriteListener {
+  protected:
+    ClipboardCleanTest() {
+        engine.setWriteListener(this);
+        setOptions({{"udRemoveAllSpaces", true}});
+    }
+    void addOneCount(ChangeCount written) override { acknowledged.push_back(written); }
+
+    void setOptions(storage::PropertyDictionary dictionary) { engine.setAllBools(dictionary); }
+    // Until nothing is left to do, with the clock standing.
+    void finish() {
+        do {
+            mainQueue.runPosted();
+            workers.runAll();
+            mainQueue.runPosted();
+        } while (workers.size() > 0);
+    }
+    void clean() {
+        engine.changePasteboard();
+        finish();
+    }
+    void cleanWith(std::int32_t operation) {
+        engine.changePasteboardWithKeys(operation);
+        finish();
+    }
+    // A clean that is under way: the worker has the text.
+    void begin() {
+        engine.changePasteboard();
+        mainQueue.runPosted();
+    }
+    std::string text() const { return pasteboard.bytes("text/plain"); }
+    std::size_t count(const std::string &line) const {
+        return static_cast<std::size_t>(std::ranges::count(pasteboard.log, line));
+    }
+
+    test::MemoryMainQueue mainQueue;
+    test::MemoryWorkerQueue workers;
+    test::MemoryPasteboard pasteboard{mainQueue};
+    nrChangePasterboard engine{pasteboard, mainQueue, workers, "en_US"};
+    std::vector<ChangeCount> acknowledged;
+};
+
+TEST_F(ClipboardCleanTest, RewritesTextAsPlainTextOnlyAndAcknowledgesTheWrite) {
+    pasteboard.copy(content(
+        {{"text/html", "<b>a b</b>"}, {"CLIPBOARD_STATE", "harmless"}, {"text/plain", "a b"}}));
+    clean();
+    EXPECT_EQ(pasteboard.formatNames(),
+              Log({"text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"}));
+    EXPECT_EQ(text(), "ab");
+    EXPECT_EQ(acknowledged, std::vector{pasteboard.changeCount()});
+}
+
+TEST_F(ClipboardCleanTest, LeavesAloneWhatIsNotOursToTouch) {
+    const struct {
+        const char *name;
+        PasteboardContent content;
+        Log log; // what may be asked of the clipboard
+    } rows[] = {
+        {"empty", {}, {"formats"}},
+        {"link with its text",
+         content({{"text/x-moz-url", "http://a b"}, {"text/plain", "a b"}}),
+         {"formats"}},
+        {"files", content({{"text/uri-list", "file:///a"}, {"text/plain", "/a b"}}), {"formats"}},
+        {"image", content({{"image/png", "\x89PNG"}, {"text/html", "<img>"}}), {"formats"}},
+        {"password, whatever the hint's value",
+         content({{"x-kde-passwordManagerHint", ""}, {"text/plain", "pass word"}}),
+         {"formats"}},
+        {"sensitive state",
+         content({{"CLIPBOARD_STATE", "sensitive"}, {"text/plain", "pass word"}}),
+         {"formats", "read CLIPBOARD_STATE"}},
+        {"state too long to be told",
+         content({{"CLIPBOARD_STATE", std::string(300, 'x')}, {"text/plain", "pass word"}}),
+         {"formats", "read CLIPBOARD_STATE"}},
+        {"text without a letter", content({{"text/plain", ""}}), {"formats", "read text/plain"}},
+        {"bytes that are no text",
+         content({{"text/plain", "caf\xe9 x"}}),
+         {"formats", "read text/plain", "read "}},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const auto operation : {-1, removeAllSpaces, engine::statisticsOperation}) {
+            pasteboard.copy(row.content);
+            pasteboard.log.clear();
+            operation == -1 ? clean() : cleanWith(operation);
+            EXPECT_EQ(plain(pasteboard.content()), plain(row.content));
+            if (operation != engine::statisticsOperation) {
+                EXPECT_EQ(pasteboard.log, row.log);
+            }
+        }
+    }
+    EXPECT_TRUE(acknowledged.empty());
+}
+
+TEST_F(ClipboardCleanTest, SurvivesBadOwnersAndCleansTheNextCopy) {
+    const test::MemoryOwner owners[] = {{.delay = 1h}, {.deliversNothing = true}, {.gone = true}};
+    for (const auto &owner : owners) {
+        pasteboard.copyText("bad owner", owner);
+        engine.changePasteboard();
+        mainQueue.advance(platform::pasteboardReadLimit);
+        finish();
+        EXPECT_EQ(text(), "bad owner");
+        pasteboard.copyText("a b");
+        clean();
+        EXPECT_EQ(text(), "ab");
+    }
+}
+
+TEST_F(ClipboardCleanTest, NeverReplacesANewerCopyNorRefillsAnEmptiedClipboard) {
+    const struct {
+        const char *name;
+        std::function<void()> meanwhile;
+        std::string after;
+    } rows[] = {
+        {"copied again", [&] { pasteboard.copyText("n e w"); }, "n e w"},
+        {"the same text copied again", [&] { pasteboard.copyText("a b"); }, "a b"},
+        {"emptied", [&] { pasteboard.empty(); }, ""},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        pasteboard.copyText("a b");
+        begin();
+        row.meanwhile();
+        finish();
+        EXPECT_EQ(text(), row.after);
+        // The change may also come before the text is read.
+        pasteboard.copyText("a b");
+        engine.changePasteboard();
+        row.meanwhile();
+        finish();
+        EXPECT_EQ(text(), row.after);
+    }
+    EXPECT_TRUE(acknowledged.empty());
+}
+
+TEST_F(ClipboardCleanTest, WritesBackInTheOrderInWhichCleansEnd) {
+    setOptions({{"udPrefixTextField", u">"}});
+    pasteboard.copyText("a b");
+    engine.changePasteboardWithKeys(removeAllSpaces);
+    engine.changePasteboardWithKeys(addPrefix);
+    mainQueue.runPosted();
+    ASSERT_EQ(workers.size(), 2u);
+    workers.run(1);
+    workers.run(0);
+    finish();
+    EXPECT_EQ(text(), "ab");
+    EXPECT_EQ(acknowledged.size(), 2u);
+    EXPECT_EQ(count("refused"), 0u);
+}
+
+TEST_F(ClipboardCleanTest, AnyOtherIndexStillMakesItPlainText) {
+    for (const auto index : {40, -1}) {
+        pasteboard.copy(content({{"text/html", "<b>a b</b>"}, {"UTF8_STRING", "a b"}}));
+        cleanWith(index);
+        EXPECT_EQ(text(), "a b");
+        EXPECT_EQ(pasteboard.bytes("text/html"), "");
+    }
+}
+
+TEST_F(ClipboardCleanTest, ACleanKeepsTheOptionsThatItStartedWith) {
+    pasteboard.copyText("a b");
+    engine.changePasteboard();
+    setOptions({});
+    finish();
+    EXPECT_EQ(text(), "ab");
+}
+
+class RecordingWindow final : public CountWindow {
+  public:
+    explicit RecordingWindow(Log &log_)
+        : log(log_) {
+        log.emplace_back("made");
+    }
+    ~RecordingWindow() override { log.emplace_back("closed"); }
+    void countToTextFields(std::u16string, std::u16string, std::u16string,
+                           std::u16string) override {
+        log.emplace_back("filled");
+    }
+    void showWindow() override { log.emplace_back("shown"); }
+
+  private:
+    Log &log;
+};
+
+TEST_F(ClipboardCleanTest, StatisticsReplaceThePopupAndWriteNothing) {
+    Log windows;
+    engine.setCountWindowMaker([&] { return std::make_unique<RecordingWindow>(windows); });
+    pasteboard.copyText("a b");
+    const auto before = pasteboard.changeCount();
+    cleanWith(engine::statisticsOperation);
+    EXPECT_EQ(windows, Log({"made", "filled", "shown"}));
+    EXPECT_EQ(pasteboard.changeCount(), before);
+    EXPECT_TRUE(acknowledged.empty());
+
+    setOptions({{"udStatistics", true}});
+    clean();
+    EXPECT_EQ(windows, Log({"made", "filled", "shown", "closed", "made", "filled", "shown"}));
+    EXPECT_EQ(acknowledged.size(), 1u);
+
+    // A single operation shows none, whatever the switch says.
+    cleanWith(removeAllSpaces);
+    EXPECT_EQ(windows.size(), 7u);
+    engine.setCountWindowMaker(nullptr);
+    engine.newCountWindow(u"x");
+    finish();
+    EXPECT_EQ(windows.back(), "closed");
+}
+
+class RestoreTest : public ClipboardCleanTest {
+  protected:
+    nrChangePasterboard::Restored restore() {
+        std::optional<nrChangePasterboard::Restored> outcome;
+        engine.restore([&](nrChangePasterboard::Restored result) { outcome = result; });
+        finish();
+        return outcome.value();
+    }
+
+    const PasteboardContent rich = content({{"text/html", "<b>a b</b>"},
+                                            {"UTF8_STRING", "a b"},
+                                            {"image/png", std::string("\0x", 2)}});
+    using Restored = nrChangePasterboard::Restored;
+};
+
+TEST_F(RestoreTest, PutsAllFormatsBackAndIsNotACopy) {
+    EXPECT_EQ(restore(), Restored::nothingKept);
+    pasteboard.copy(rich);
+    clean();
+    // Cleaning our own result again does not make it the original.
+    cleanWith(addPrefix);
+    EXPECT_EQ(restore(), Restored::done);
+    EXPECT_EQ(plain(pasteboard.content()), plain(rich));
+    EXPECT_EQ(acknowledged.back(), pasteboard.changeCount());
+    clean();
+    EXPECT_EQ(text(), "ab");
+    EXPECT_EQ(restore(), Restored::done);
+    EXPECT_EQ(plain(pasteboard.content()), plain(rich));
+}
+
+TEST_F(RestoreTest, DoesNotTouchAnEmptiedClipboardOrASecret) {
+    pasteboard.copy(rich);
+    clean();
+    pasteboard.empty();
+    EXPECT_EQ(restore(), Restored::refused);
+    EXPECT_TRUE(pasteboard.content().empty());
+    pasteboard.copy(content({{"x-kde-passwordManagerHint", "secret"}, {"text/plain", "p"}}));
+    EXPECT_EQ(restore(), Restored::refused);
+    EXPECT_EQ(text(), "p");
+}
+
+TEST_F(RestoreTest, KeepsNothingAboveTheLimitAndNoOlderOriginalInstead) {
+    pasteboard.copy(rich);
+    clean();
+    engine.keepOriginalsUpTo(100);
+    pasteboard.copyText(std::string(101, 'x'));
+    clean();
+    EXPECT_EQ(restore(), Restored::nothingKept);
+
+    // A format that does not fit is left out; the text is kept first.
+    pasteboard.copy(content({{"image/png", std::string(98, 'x')},
+                             {"text/html", "<b>a b</b>"},
+                             {"UTF8_STRING", "a b"}}));
+    clean();
+    EXPECT_EQ(restore(), Restored::done);
+    EXPECT_EQ(pasteboard.formatNames(), Log({"text/html", "UTF8_STRING"}));
+}
+
+TEST_F(RestoreTest, ADroppedCleanLeavesTheOriginalBefore) {
+    pasteboard.copy(rich);
+    clean();
+    pasteboard.copyText("dropped");
+    begin();
+    pasteboard.copyText("newer");
+    finish();
+    EXPECT_EQ(restore(), Restored::done);
+    EXPECT_EQ(plain(pasteboard.content()), plain(rich));
+}
+
+TEST_F(ClipboardCleanTest, AnEngineThatEndsLeavesWorkUnderWayHarmless) {
+    auto brief = std::make_unique<nrChangePasterboard>(pasteboard, mainQueue, workers, "en_US");
+    pasteboard.copyText("a b");
+    brief->changePasteboard();
+    mainQueue.runPosted();
+    brief->changePasteboard();
+    brief.reset();
+    finish();
+    EXPECT_EQ(text(), "a b");
+}
+
+} // namespace
+} // namespace nerlo::clipboard

@@ -1,0 +1,76 @@
+// A clipboard without a desktop. Other programs are played by `copy`, `empty` and `owner`; answers
+// come through the main queue, on its clock.
+#pragma once
+
+#include "platform/MainQueue.h"
+#include "platform/Pasteboard.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace nerlo::test {
+
+// How the owner of the content behaves. An own write brings an obedient owner back.
+struct MemoryOwner {
+    platform::MainQueue::Clock::duration
+        delay{};                  // before each answer; above the stall limit: given up
+    bool deliversNothing = false; // offers formats and has bytes for none
+    bool gone = false;            // there is no answer at all, and no connection
+};
+
+class MemoryPasteboard final : public platform::Pasteboard {
+  public:
+    explicit MemoryPasteboard(platform::MainQueue &mainQueue, bool notifies = true)
+        : mainQueue_(mainQueue)
+        , notifies_(notifies) {}
+
+    // Another program's copy, with the owner's behaviour.
+    void copy(platform::PasteboardContent content, MemoryOwner owner = {});
+    void copyText(std::string utf8, MemoryOwner owner = {});
+    // The content goes, by its owner's end or by hand.
+    void empty();
+
+    const platform::PasteboardContent &content() const { return content_; }
+    // The bytes offered under `format`; empty if it is not offered.
+    std::string bytes(std::string_view format) const;
+    std::vector<std::string> formatNames() const;
+
+    // One line for each call in order: "formats", "read text/plain,STRING", "write
+    // text/plain,STRING", and "written" or "refused" once a write has been decided.
+    std::vector<std::string> log;
+
+    platform::ChangeCount changeCount() const override { return changeCount_; }
+    bool notifiesChanges() const override { return notifies_; }
+    void setChangeHandler(std::function<void()> changed) override { changed_ = std::move(changed); }
+    void setLostHandler(std::function<void()> lost) override { lost_ = std::move(lost); }
+    void readFormats(FormatsHandler handler) override;
+    void read(platform::ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+              ReadHandler handler) override;
+    void write(platform::PasteboardContent content, std::optional<platform::ChangeCount> onlyOver,
+               WriteHandler handler) override;
+    std::string description() const override { return "in memory"; }
+    std::vector<std::string> limitations() const override { return {}; }
+
+    // The connection to the desktop breaks.
+    void lose();
+
+  private:
+    void replace(platform::PasteboardContent content, MemoryOwner owner);
+    // Runs `answer` when the owner answers or is given up; it gets the status so far.
+    void ask(std::function<void(platform::PasteboardStatus)> answer);
+
+    platform::MainQueue &mainQueue_;
+    bool notifies_;
+    platform::PasteboardContent content_;
+    MemoryOwner owner_;
+    platform::ChangeCount changeCount_ = 1;
+    std::function<void()> changed_;
+    std::function<void()> lost_;
+    // Answers that are under way when the pasteboard goes are dropped.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+};
+
+} // namespace nerlo::test
