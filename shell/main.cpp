@@ -21,7 +21,9 @@
 #include "shell/Doctor.h"
 #include "shell/HotKeyCommands.h"
 #include "shell/QuitSignals.h"
+#include "shell/StoreShortcuts.h"
 #include "shell/Strings.h"
+#include "shell/Terminal.h"
 #include "shell/nrAppDelegate.h"
 #include "shell/nrCountWindowController.h"
 #include "shortcuts/ShortcutTexts.h"
@@ -43,17 +45,12 @@
 namespace {
 
 using namespace nerlo;
-
-constexpr int succeeded = 0;
-constexpr int failed = 1;
-constexpr int unusableArguments = 2;
+using shell::complain;
+using shell::failed;
+using shell::succeeded;
+using shell::unusableArguments;
 
 constexpr auto applicationId = "org.nerlo.NerloPro";
-
-int complain(const std::string &what) {
-    std::cerr << "nerlo-pro: " << what << std::endl;
-    return failed;
-}
 
 // A second start: the program that runs does what was asked. Nothing if it was about to end
 // instead, which leaves the requests that it has not done.
@@ -106,25 +103,6 @@ void perform(const shell::CommandLine &commandLine, const shell::Commands &comma
     }
 }
 
-// In the settings, which a running program follows.
-int storeShortcuts(const std::vector<std::string> &wanted) {
-    platform::QtMainQueue mainQueue;
-    const auto layout = platform::openKeyboardLayout(mainQueue);
-    std::vector<shell::ShortcutChange> changes;
-    for (const auto &text : wanted) {
-        changes.push_back(shell::parseShortcutChange(text, *layout.backend));
-        if (!changes.back().error.empty()) {
-            complain(changes.back().error);
-            return unusableArguments;
-        }
-    }
-    storage::FileSettingsStore store(settings::SettingsPaths::standard().store);
-    for (const auto &change : changes) {
-        shortcuts::storeShortcut(store, change.key, change.shortcut);
-    }
-    return store.synchronize() ? succeeded : complain(store.error());
-}
-
 // What can be done without windows: the words of --help, and what a running program is asked.
 // Nothing when the program is to start.
 std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &commandLine) {
@@ -136,13 +114,12 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
         std::cout << commandLine.text.toStdString();
         return succeeded;
     case shell::CommandLine::Action::fail:
-        complain(commandLine.text.toStdString());
-        return unusableArguments;
+        return complain(commandLine.text.toStdString(), unusableArguments);
     case shell::CommandLine::Action::run:
         break;
     }
     if (!commandLine.shortcuts.empty()) {
-        const int status = storeShortcuts(commandLine.shortcuts);
+        const int status = shell::storeShortcuts(commandLine.shortcuts);
         if (status != succeeded || commandLine.requests.empty()) {
             return status;
         }
