@@ -1,7 +1,7 @@
 #include "platform/wayland/WaylandPasteboard.h"
 
 #include "platform/wayland/EventLoop.h"
-#include "platform/wayland/SelectionPeer.h"
+#include "platform/wayland/WaylandSelection.h"
 
 #include <algorithm>
 #include <atomic>
@@ -13,7 +13,7 @@ namespace {
 
 using wayland::Clock;
 using wayland::EventLoop;
-using wayland::SelectionPeer;
+using wayland::WaylandSelection;
 
 // A clipboard manager gets this long after a write to ask for what was written.
 constexpr std::chrono::milliseconds managerLimit{500};
@@ -37,8 +37,8 @@ class WaylandPasteboard final : public Pasteboard {
     WaylandPasteboard(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop)
         : mainQueue_(mainQueue)
         , loop_(std::move(loop))
-        , peer_(std::make_unique<SelectionPeer>(*loop_,
-                                                [this](ChangeCount count) { report(count); })) {}
+        , peer_(std::make_unique<WaylandSelection>(*loop_,
+                                                   [this](ChangeCount count) { report(count); })) {}
 
     ~WaylandPasteboard() override {
         const auto now = Clock::now();
@@ -154,7 +154,7 @@ class WaylandPasteboard final : public Pasteboard {
     std::string description_;
     std::optional<Clock::time_point> lastWrite_;
     std::unique_ptr<EventLoop> loop_;
-    std::unique_ptr<SelectionPeer> peer_;
+    std::unique_ptr<WaylandSelection> peer_;
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "platform/x11/X11Pasteboard.h"
 
 #include "platform/x11/EventThread.h"
-#include "platform/x11/SelectionPeer.h"
+#include "platform/x11/X11Selection.h"
 
 #include <atomic>
 #include <system_error>
@@ -13,7 +13,7 @@ namespace {
 
 class X11Pasteboard final : public Pasteboard {
   public:
-    X11Pasteboard(MainQueue &mainQueue, std::unique_ptr<x11::SelectionPeer> peer)
+    X11Pasteboard(MainQueue &mainQueue, std::unique_ptr<x11::X11Selection> peer)
         : mainQueue_(mainQueue)
         , peer_(std::move(peer)) {
         peer_->changed = [this] {
@@ -99,7 +99,7 @@ class X11Pasteboard final : public Pasteboard {
     std::atomic<bool> observed_ = false;
     std::atomic<bool> announced_ = false; // a call of changed_ is under way
     std::shared_ptr<const bool> alive_ = std::make_shared<bool>(true);
-    std::unique_ptr<x11::SelectionPeer> peer_;
+    std::unique_ptr<x11::X11Selection> peer_;
     std::unique_ptr<x11::EventThread> thread_;
 };
 
@@ -108,7 +108,7 @@ class X11Pasteboard final : public Pasteboard {
 Created<Pasteboard> createX11Pasteboard(MainQueue &mainQueue) {
     Created<Pasteboard> result;
     try {
-        if (auto peer = x11::SelectionPeer::open(result.declined)) {
+        if (auto peer = x11::X11Selection::open(result.declined)) {
             result.backend = std::make_unique<X11Pasteboard>(mainQueue, std::move(peer));
         }
     } catch (const std::system_error &error) {

@@ -1,4 +1,4 @@
-#include "platform/wayland/SelectionPeer.h"
+#include "platform/wayland/WaylandSelection.h"
 
 #include <algorithm>
 #include <cstring>
@@ -32,7 +32,7 @@ bool usableName(const std::string &name) {
 
 } // namespace
 
-struct SelectionPeer::ReadJob {
+struct WaylandSelection::ReadJob {
     std::vector<std::string> formats;
     std::size_t next = 0;
     std::size_t bytesLeft;
@@ -50,15 +50,15 @@ struct SelectionPeer::ReadJob {
     }
 };
 
-SelectionPeer::SelectionPeer(EventLoop &loop, std::function<void(ChangeCount)> replaced)
+WaylandSelection::WaylandSelection(EventLoop &loop, std::function<void(ChangeCount)> replaced)
     : loop_(loop)
     , replaced_(std::move(replaced)) {}
 
-SelectionPeer::~SelectionPeer() {
+WaylandSelection::~WaylandSelection() {
     destroyObjects();
 }
 
-void SelectionPeer::destroyObjects() {
+void WaylandSelection::destroyObjects() {
     leaveSeat();
     for (const auto &[name, seat] : std::exchange(seats_, {})) {
         wl_seat_destroy(seat);
@@ -70,7 +70,7 @@ void SelectionPeer::destroyObjects() {
     registry_.reset();
 }
 
-std::string SelectionPeer::prepare() {
+std::string WaylandSelection::prepare() {
     registry_ = std::make_unique<Registry>(
         loop_.display(),
         [this](std::uint32_t name, std::string_view interface, std::uint32_t version) {
@@ -99,7 +99,7 @@ std::string SelectionPeer::prepare() {
     return {};
 }
 
-void SelectionPeer::addGlobal(std::uint32_t name, std::string_view interface, std::uint32_t) {
+void WaylandSelection::addGlobal(std::uint32_t name, std::string_view interface, std::uint32_t) {
     if (interface == wl_seat_interface.name) {
         seats_[name] = reinterpret_cast<wl_seat *>(registry_->bind(name, wl_seat_interface, 1));
         if (manager_) {
@@ -110,7 +110,7 @@ void SelectionPeer::addGlobal(std::uint32_t name, std::string_view interface, st
     }
 }
 
-void SelectionPeer::removeGlobal(std::uint32_t name) {
+void WaylandSelection::removeGlobal(std::uint32_t name) {
     const auto found = seats_.find(name);
     if (found == seats_.end()) {
         return;
@@ -124,14 +124,14 @@ void SelectionPeer::removeGlobal(std::uint32_t name) {
     takeSeat();
 }
 
-void SelectionPeer::takeSeat() {
+void WaylandSelection::takeSeat() {
     if (!device_ && manager_ && !seats_.empty()) {
         seat_ = seats_.begin()->first;
         device_ = protocol_->newDevice(manager_, seats_.begin()->second, *this);
     }
 }
 
-void SelectionPeer::leaveSeat() {
+void WaylandSelection::leaveSeat() {
     announced_.push_back(std::exchange(current_, {}));
     for (const Offer &offer : std::exchange(announced_, {})) {
         if (offer.proxy) {
@@ -148,14 +148,14 @@ void SelectionPeer::leaveSeat() {
     seat_ = 0;
 }
 
-void SelectionPeer::finished() {
+void WaylandSelection::finished() {
     // The seat went, or the compositor has withdrawn the protocol from us: there is no use in
     // asking for the same seat again.
     leaveSeat();
     replaceContent({});
 }
 
-void SelectionPeer::newOffer(wl_proxy *offer) {
+void WaylandSelection::newOffer(wl_proxy *offer) {
     if (announced_.size() == announcedLimit) {
         destroyOffer(announced_.front().proxy);
         announced_.erase(announced_.begin());
@@ -164,7 +164,7 @@ void SelectionPeer::newOffer(wl_proxy *offer) {
     listen(offer, *this);
 }
 
-void SelectionPeer::offeredFormat(wl_proxy *offer, const char *format) {
+void WaylandSelection::offeredFormat(wl_proxy *offer, const char *format) {
     const auto found = std::ranges::find(announced_, offer, &Offer::proxy);
     if (found != announced_.end() && found->formats.size() < pasteboardFormatLimit &&
         std::strlen(format) <= pasteboardFormatNameLimit && !contains(found->formats, format)) {
@@ -172,7 +172,7 @@ void SelectionPeer::offeredFormat(wl_proxy *offer, const char *format) {
     }
 }
 
-SelectionPeer::Offer SelectionPeer::takeAnnounced(wl_proxy *offer) {
+WaylandSelection::Offer WaylandSelection::takeAnnounced(wl_proxy *offer) {
     const auto found = std::ranges::find(announced_, offer, &Offer::proxy);
     if (found == announced_.end()) {
         return {};
@@ -182,7 +182,7 @@ SelectionPeer::Offer SelectionPeer::takeAnnounced(wl_proxy *offer) {
     return taken;
 }
 
-void SelectionPeer::selection(wl_proxy *offer) {
+void WaylandSelection::selection(wl_proxy *offer) {
     Offer taken = takeAnnounced(offer);
     // An offer that was never announced, or the current one once more, is no news.
     if (taken.proxy || !offer) {
@@ -190,13 +190,13 @@ void SelectionPeer::selection(wl_proxy *offer) {
     }
 }
 
-void SelectionPeer::primarySelection(wl_proxy *offer) {
+void WaylandSelection::primarySelection(wl_proxy *offer) {
     if (const Offer taken = takeAnnounced(offer); taken.proxy) {
         destroyOffer(taken.proxy);
     }
 }
 
-void SelectionPeer::replaceContent(Offer offer) {
+void WaylandSelection::replaceContent(Offer offer) {
     if (current_.proxy) {
         destroyOffer(current_.proxy);
     }
@@ -210,14 +210,14 @@ void SelectionPeer::replaceContent(Offer offer) {
     }
 }
 
-void SelectionPeer::endReads(PasteboardStatus status) {
+void WaylandSelection::endReads(PasteboardStatus status) {
     for (const auto &job : std::exchange(reads_, {})) {
         job->finish(status);
     }
     loop_.abandonIncoming();
 }
 
-void SelectionPeer::readFormats(const Pasteboard::FormatsHandler &handler) {
+void WaylandSelection::readFormats(const Pasteboard::FormatsHandler &handler) {
     if (!loop_.connected()) {
         handler({});
         return;
@@ -225,8 +225,8 @@ void SelectionPeer::readFormats(const Pasteboard::FormatsHandler &handler) {
     handler({PasteboardStatus::done, count_, current_.formats});
 }
 
-void SelectionPeer::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-                         Pasteboard::ReadHandler handler) {
+void WaylandSelection::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+                            Pasteboard::ReadHandler handler) {
     const auto job = std::make_shared<ReadJob>(ReadJob{.formats = std::move(formats),
                                                        .bytesLeft = limit,
                                                        .end = Clock::now() + pasteboardReadLimit,
@@ -242,7 +242,7 @@ void SelectionPeer::read(ChangeCount of, std::vector<std::string> formats, std::
     }
 }
 
-void SelectionPeer::readNext(const std::shared_ptr<ReadJob> &job) {
+void WaylandSelection::readNext(const std::shared_ptr<ReadJob> &job) {
     const auto end = [this, job](PasteboardStatus status) {
         std::erase(reads_, job);
         job->finish(status);
@@ -284,8 +284,8 @@ void SelectionPeer::readNext(const std::shared_ptr<ReadJob> &job) {
         }));
 }
 
-void SelectionPeer::write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
-                          Pasteboard::WriteHandler handler) {
+void WaylandSelection::write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
+                             Pasteboard::WriteHandler handler) {
     writes_.push_back({std::move(content), onlyOver, std::move(handler)});
     if (writes_.size() == 1) {
         startWrite();
@@ -294,7 +294,7 @@ void SelectionPeer::write(PasteboardContent content, std::optional<ChangeCount> 
 
 // One write at a time. The first round trip brings in what other programs did before; the second
 // one brings in the news of our own write.
-void SelectionPeer::startWrite() {
+void WaylandSelection::startWrite() {
     loop_.afterRoundTrip(pasteboardStallLimit, [this](bool answered) {
         const auto &onlyOver = writes_.front().onlyOver;
         if (!loop_.connected() || !device_) {
@@ -309,7 +309,7 @@ void SelectionPeer::startWrite() {
     });
 }
 
-void SelectionPeer::setContent() {
+void WaylandSelection::setContent() {
     PasteboardContent &content = writes_.front().content;
     window_ = WriteWindow{nullptr};
     if (!content.empty()) {
@@ -333,7 +333,7 @@ void SelectionPeer::setContent() {
     });
 }
 
-void SelectionPeer::confirmWrite() {
+void WaylandSelection::confirmWrite() {
     const WriteWindow window = *std::exchange(window_, std::nullopt);
     const bool overtaken = window.source ? window.cancelled : current_.proxy != nullptr;
     // One piece of news for our write, one more if a copy came after it; a compositor may keep ours
@@ -348,7 +348,7 @@ void SelectionPeer::confirmWrite() {
     }
 }
 
-void SelectionPeer::endWrite(PasteboardWrite result) {
+void WaylandSelection::endWrite(PasteboardWrite result) {
     const auto handler = std::move(writes_.front().handler);
     writes_.pop_front();
     handler(result);
@@ -357,7 +357,7 @@ void SelectionPeer::endWrite(PasteboardWrite result) {
     }
 }
 
-void SelectionPeer::send(wl_proxy *source, const char *format, int fd) {
+void WaylandSelection::send(wl_proxy *source, const char *format, int fd) {
     FileDescriptor receiver(fd);
     const auto own = std::ranges::find(sources_, source, &OwnSource::proxy);
     if (own == sources_.end()) {
@@ -376,7 +376,7 @@ void SelectionPeer::send(wl_proxy *source, const char *format, int fd) {
     }
 }
 
-void SelectionPeer::cancelled(wl_proxy *source) {
+void WaylandSelection::cancelled(wl_proxy *source) {
     if (window_ && window_->source == source) {
         window_->cancelled = true;
     }
@@ -384,7 +384,7 @@ void SelectionPeer::cancelled(wl_proxy *source) {
     destroySource(source);
 }
 
-void SelectionPeer::lost() {
+void WaylandSelection::lost() {
     endReads(PasteboardStatus::unavailable);
     destroyObjects();
 }

@@ -22,13 +22,13 @@
 
 namespace nerlo::platform::wayland {
 
-class SelectionPeer final : private DeviceEvents, private OfferEvents, private SourceEvents {
+class WaylandSelection final : private DeviceEvents, private OfferEvents, private SourceEvents {
   public:
     // `replaced` gets the new count when another program replaced the content. The count of an own
     // write goes to that write's handler instead.
-    SelectionPeer(EventLoop &loop, std::function<void(ChangeCount)> replaced);
+    WaylandSelection(EventLoop &loop, std::function<void(ChangeCount)> replaced);
     // The loop's thread must not be running.
-    ~SelectionPeer();
+    ~WaylandSelection();
 
     // Where the loop allows round trips: takes up the protocol, and learns what the clipboard
     // holds. Returns why this compositor cannot be used, or nothing.

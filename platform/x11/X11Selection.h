@@ -19,11 +19,11 @@
 
 namespace nerlo::platform::x11 {
 
-class SelectionPeer final : public EventSource {
+class X11Selection final : public EventSource {
   public:
     // Null if the display lacks what is needed; then `declined` says what.
-    static std::unique_ptr<SelectionPeer> open(std::string &declined);
-    ~SelectionPeer() override;
+    static std::unique_ptr<X11Selection> open(std::string &declined);
+    ~X11Selection() override;
 
     // Any thread. Owner notifications counted since the start.
     ChangeCount changeCount() const { return changeCount_; }
@@ -92,7 +92,7 @@ class SelectionPeer final : public EventSource {
     };
     using Questions = std::list<Question>;
 
-    explicit SelectionPeer(std::unique_ptr<Connection> connection);
+    explicit X11Selection(std::unique_ptr<Connection> connection);
 
     // Events. An owner notification is counted as soon as it is taken off the connection, the
     // others wait their turn.

@@ -1,4 +1,4 @@
-#include "platform/x11/SelectionPeer.h"
+#include "platform/x11/X11Selection.h"
 
 #include <algorithm>
 #include <array>
@@ -31,7 +31,7 @@ const T &as(const xcb_generic_event_t &event) {
 
 } // namespace
 
-std::unique_ptr<SelectionPeer> SelectionPeer::open(std::string &declined) {
+std::unique_ptr<X11Selection> X11Selection::open(std::string &declined) {
     auto connection = Connection::open();
     if (!connection) {
         declined = "no X display";
@@ -50,14 +50,14 @@ std::unique_ptr<SelectionPeer> SelectionPeer::open(std::string &declined) {
         declined = "the X display's XFixes extension does not answer";
         return nullptr;
     }
-    auto peer = std::unique_ptr<SelectionPeer>(new SelectionPeer(std::move(connection)));
+    auto peer = std::unique_ptr<X11Selection>(new X11Selection(std::move(connection)));
     peer->fixesEvent_ = fixes->first_event;
     peer->description_ = "X11, XFixes " + std::to_string(version->major_version) + "." +
                          std::to_string(version->minor_version);
     return peer;
 }
 
-SelectionPeer::SelectionPeer(std::unique_ptr<Connection> connection)
+X11Selection::X11Selection(std::unique_ptr<Connection> connection)
     : connection_(std::move(connection))
     , window_(connection_->makeWindow(XCB_EVENT_MASK_PROPERTY_CHANGE)) {
     atoms_ = {connection_->atom("CLIPBOARD"),         connection_->atom("TARGETS"),
@@ -78,13 +78,13 @@ SelectionPeer::SelectionPeer(std::unique_ptr<Connection> connection)
     owner_ = owner ? owner->owner : xcb_window_t{XCB_NONE};
 }
 
-SelectionPeer::~SelectionPeer() = default;
+X11Selection::~X11Selection() = default;
 
-int SelectionPeer::fileDescriptor() const {
+int X11Selection::fileDescriptor() const {
     return lost_ ? -1 : xcb_get_file_descriptor(connection_->get());
 }
 
-std::optional<EventSource::Clock::time_point> SelectionPeer::deadline() const {
+std::optional<EventSource::Clock::time_point> X11Selection::deadline() const {
     std::optional<Clock::time_point> first;
     const auto consider = [&](Clock::time_point time) {
         first = std::min(first.value_or(time), time);
@@ -98,7 +98,7 @@ std::optional<EventSource::Clock::time_point> SelectionPeer::deadline() const {
     return first;
 }
 
-void SelectionPeer::process() {
+void X11Selection::process() {
     if (lost_) {
         return;
     }
@@ -131,7 +131,7 @@ void SelectionPeer::process() {
 
 // Events
 
-void SelectionPeer::take(Event event) {
+void X11Selection::take(Event event) {
     if ((event->response_type & 0x7f) == fixesEvent_ + XCB_XFIXES_SELECTION_NOTIFY) {
         count(*event);
     } else if (event->response_type != 0) { // an error: some client's window is gone
@@ -139,7 +139,7 @@ void SelectionPeer::take(Event event) {
     }
 }
 
-void SelectionPeer::count(const xcb_generic_event_t &event) {
+void X11Selection::count(const xcb_generic_event_t &event) {
     const auto &news = as<xcb_xfixes_selection_notify_event_t>(event);
     if (news.selection != atoms_.clipboard) {
         return;
@@ -157,7 +157,7 @@ void SelectionPeer::count(const xcb_generic_event_t &event) {
 }
 
 // After this, everything that the server did before has been counted.
-void SelectionPeer::synchronize() {
+void X11Selection::synchronize() {
     auto *xcb = connection_->get();
     const Reply<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
@@ -166,7 +166,7 @@ void SelectionPeer::synchronize() {
     }
 }
 
-xcb_timestamp_t SelectionPeer::serverTime() {
+xcb_timestamp_t X11Selection::serverTime() {
     setProperty(window_, atoms_.time, XCB_ATOM_INTEGER, std::string());
     synchronize();
     xcb_timestamp_t time = XCB_CURRENT_TIME;
@@ -182,7 +182,7 @@ xcb_timestamp_t SelectionPeer::serverTime() {
     return time;
 }
 
-void SelectionPeer::dispatch(const xcb_generic_event_t &event) {
+void X11Selection::dispatch(const xcb_generic_event_t &event) {
     switch (event.response_type & 0x7f) {
     case XCB_SELECTION_NOTIFY:
         arrived(as<xcb_selection_notify_event_t>(event));
@@ -208,8 +208,8 @@ void SelectionPeer::dispatch(const xcb_generic_event_t &event) {
 }
 
 template <class T>
-void SelectionPeer::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type,
-                                const T &units) {
+void X11Selection::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t type,
+                               const T &units) {
     xcb_change_property(connection_->get(), XCB_PROP_MODE_REPLACE, window, name, type,
                         sizeof units[0] * 8, static_cast<std::uint32_t>(units.size()),
                         units.data());
@@ -217,7 +217,7 @@ void SelectionPeer::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t
 
 // Asking
 
-void SelectionPeer::readFormats(Pasteboard::FormatsHandler handler) {
+void X11Selection::readFormats(Pasteboard::FormatsHandler handler) {
     if (lost_) {
         handler({});
         return;
@@ -228,8 +228,8 @@ void SelectionPeer::readFormats(Pasteboard::FormatsHandler handler) {
     begin(std::prev(questions_.end()));
 }
 
-void SelectionPeer::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-                         Pasteboard::ReadHandler handler) {
+void X11Selection::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+                        Pasteboard::ReadHandler handler) {
     if (lost_) {
         handler({});
         return;
@@ -244,7 +244,7 @@ void SelectionPeer::read(ChangeCount of, std::vector<std::string> formats, std::
 }
 
 // Asks for the formats, or for the next one of those that are wanted.
-void SelectionPeer::begin(Questions::iterator question) {
+void X11Selection::begin(Questions::iterator question) {
     synchronize();
     if (question->formatsHandler) {
         question->of = changeCount_;
@@ -275,7 +275,7 @@ void SelectionPeer::begin(Questions::iterator question) {
     convert(*question, connection_->atom(question->wanted[question->next]));
 }
 
-void SelectionPeer::convert(Question &question, xcb_atom_t target) {
+void X11Selection::convert(Question &question, xcb_atom_t target) {
     endTransfer(question);
     auto &transfer = question.transfer;
     transfer.window = connection_->makeWindow(XCB_EVENT_MASK_PROPERTY_CHANGE);
@@ -286,14 +286,14 @@ void SelectionPeer::convert(Question &question, xcb_atom_t target) {
     xcb_flush(connection_->get());
 }
 
-void SelectionPeer::endTransfer(Question &question) {
+void X11Selection::endTransfer(Question &question) {
     if (question.transfer.window != XCB_NONE) {
         xcb_destroy_window(connection_->get(), question.transfer.window);
     }
     question.transfer = {};
 }
 
-void SelectionPeer::arrived(const xcb_selection_notify_event_t &event) {
+void X11Selection::arrived(const xcb_selection_notify_event_t &event) {
     if (event.selection == atoms_.manager && event.requestor == window_) {
         handingOver_ = false;
         return;
@@ -324,7 +324,7 @@ void SelectionPeer::arrived(const xcb_selection_notify_event_t &event) {
     }
 }
 
-void SelectionPeer::pieceArrived(const xcb_property_notify_event_t &event) {
+void X11Selection::pieceArrived(const xcb_property_notify_event_t &event) {
     const auto question = std::ranges::find(questions_, event.window,
                                             [](const Question &q) { return q.transfer.window; });
     if (event.atom != atoms_.data || question == questions_.end() ||
@@ -347,7 +347,7 @@ void SelectionPeer::pieceArrived(const xcb_property_notify_event_t &event) {
     transfer.stalled = Clock::now() + pasteboardStallLimit;
 }
 
-void SelectionPeer::transferred(Questions::iterator question) {
+void X11Selection::transferred(Questions::iterator question) {
     if (question->formatsHandler) {
         answerFormats(question);
         return;
@@ -366,7 +366,7 @@ void SelectionPeer::transferred(Questions::iterator question) {
     begin(question);
 }
 
-void SelectionPeer::skipped(Questions::iterator question) {
+void X11Selection::skipped(Questions::iterator question) {
     endTransfer(*question);
     if (question->formatsHandler) {
         answer(question, PasteboardStatus::unavailable);
@@ -376,7 +376,7 @@ void SelectionPeer::skipped(Questions::iterator question) {
     begin(question);
 }
 
-void SelectionPeer::answerFormats(Questions::iterator question) {
+void X11Selection::answerFormats(Questions::iterator question) {
     PasteboardFormats result{PasteboardStatus::done, question->of, {}};
     if (owned()) {
         for (const auto &offer : offers_) {
@@ -399,7 +399,7 @@ void SelectionPeer::answerFormats(Questions::iterator question) {
     handler(std::move(result));
 }
 
-void SelectionPeer::answer(Questions::iterator question, PasteboardStatus status) {
+void X11Selection::answer(Questions::iterator question, PasteboardStatus status) {
     endTransfer(*question);
     const auto answered = std::move(*question);
     questions_.erase(question);
@@ -411,7 +411,7 @@ void SelectionPeer::answer(Questions::iterator question, PasteboardStatus status
     answered.readHandler({status, useful ? answered.result.content : PasteboardContent()});
 }
 
-void SelectionPeer::answerOverdueAndStale() {
+void X11Selection::answerOverdueAndStale() {
     const auto now = Clock::now();
     for (auto next = questions_.begin(); next != questions_.end();) {
         const auto question = next++;
@@ -438,8 +438,8 @@ void SelectionPeer::answerOverdueAndStale() {
 
 // Serving
 
-void SelectionPeer::write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
-                          Pasteboard::WriteHandler handler) {
+void X11Selection::write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
+                         Pasteboard::WriteHandler handler) {
     if (lost_) {
         handler({});
         return;
@@ -480,7 +480,7 @@ void SelectionPeer::write(PasteboardContent content, std::optional<ChangeCount> 
     handler({PasteboardStatus::done, *taken_});
 }
 
-std::vector<xcb_atom_t> SelectionPeer::offeredTargets() const {
+std::vector<xcb_atom_t> X11Selection::offeredTargets() const {
     std::vector<xcb_atom_t> targets;
     for (const auto &offer : offers_) {
         targets.push_back(offer.target);
@@ -488,7 +488,7 @@ std::vector<xcb_atom_t> SelectionPeer::offeredTargets() const {
     return targets;
 }
 
-void SelectionPeer::serve(const xcb_selection_request_event_t &request) {
+void X11Selection::serve(const xcb_selection_request_event_t &request) {
     // Clients from before the ICCCM name no property.
     const auto property = request.property == XCB_NONE ? request.target : request.property;
     bool served = false;
@@ -512,7 +512,7 @@ void SelectionPeer::serve(const xcb_selection_request_event_t &request) {
     xcb_send_event(connection_->get(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT, notify.bytes);
 }
 
-bool SelectionPeer::serveTarget(xcb_window_t requestor, xcb_atom_t target, xcb_atom_t property) {
+bool X11Selection::serveTarget(xcb_window_t requestor, xcb_atom_t target, xcb_atom_t property) {
     if (target == atoms_.targets) {
         auto targets = offeredTargets();
         targets.insert(targets.end(),
@@ -554,7 +554,7 @@ bool SelectionPeer::serveTarget(xcb_window_t requestor, xcb_atom_t target, xcb_a
     return true;
 }
 
-bool SelectionPeer::serveMultiple(xcb_window_t requestor, xcb_atom_t property) {
+bool X11Selection::serveMultiple(xcb_window_t requestor, xcb_atom_t property) {
     const auto asked =
         connection_->property(requestor, property, mostPairs * 2 * sizeof(xcb_atom_t), false);
     if (!asked) {
@@ -571,7 +571,7 @@ bool SelectionPeer::serveMultiple(xcb_window_t requestor, xcb_atom_t property) {
     return true;
 }
 
-void SelectionPeer::sendPiece(Sending &sending) {
+void X11Selection::sendPiece(Sending &sending) {
     const auto piece = std::string_view(*sending.bytes).substr(sending.sent, pieceSize_);
     setProperty(sending.requestor, sending.property, sending.type, piece);
     sending.sent += piece.size();
@@ -579,7 +579,7 @@ void SelectionPeer::sendPiece(Sending &sending) {
     sending.stalled = Clock::now() + pasteboardReadLimit;
 }
 
-void SelectionPeer::pieceTaken(const xcb_property_notify_event_t &event) {
+void X11Selection::pieceTaken(const xcb_property_notify_event_t &event) {
     const auto sending = std::ranges::find_if(sendings_, [&](const Sending &candidate) {
         return candidate.requestor == event.window && candidate.property == event.atom;
     });
@@ -593,7 +593,7 @@ void SelectionPeer::pieceTaken(const xcb_property_notify_event_t &event) {
     }
 }
 
-void SelectionPeer::dropSending(std::list<Sending>::iterator sending) {
+void X11Selection::dropSending(std::list<Sending>::iterator sending) {
     const auto requestor = sending->requestor;
     sendings_.erase(sending);
     const bool others = std::ranges::any_of(
@@ -604,7 +604,7 @@ void SelectionPeer::dropSending(std::list<Sending>::iterator sending) {
     }
 }
 
-void SelectionPeer::handOver() {
+void X11Selection::handOver() {
     if (lost_ || !owned()) {
         return;
     }
