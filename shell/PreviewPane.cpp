@@ -117,18 +117,14 @@ PreviewPane::PreviewPane(PreviewParts parts)
 
     connect(before_, &QPlainTextEdit::textChanged, this, &PreviewPane::schedule);
     connect(take_, &QPushButton::clicked, this, [this] {
-        parts_.readClipboard(
-            [this, alive = std::weak_ptr(alive_)](const std::optional<std::u16string> &text) {
-                if (alive.expired()) {
-                    return;
-                }
-                if (text) {
-                    setBefore(QString::fromStdU16String(text->substr(0, longest + 1)));
-                } else {
-                    note_->setText(localized("sPreviewNothing"));
-                    note_->show();
-                }
-            });
+        parts_.readClipboard(alive_.guard([this](const std::optional<std::u16string> &text) {
+            if (text) {
+                setBefore(QString::fromStdU16String(text->substr(0, longest + 1)));
+            } else {
+                note_->setText(localized("sPreviewNothing"));
+                note_->show();
+            }
+        }));
     });
     connect(apply_, &QPushButton::clicked, this, [this] { parts_.cleanClipboard(); });
 }
@@ -192,8 +188,17 @@ void PreviewPane::run() {
     note_->setText(localized("sPreviewTooLong"));
     note_->setVisible(text.size() > longest);
     text.truncate(longest);
-    parts_.workerQueue.post([this, alive = std::weak_ptr(alive_), &queue = parts_.mainQueue, text,
-                             profile = options_, locale = parts_.locale] {
+    auto done = alive_.guardOn(parts_.mainQueue, [this](const std::optional<Result> &result) {
+        running_ = false;
+        if (result) {
+            show(*result);
+        }
+        if (changedMeanwhile_) {
+            run();
+        }
+    });
+    parts_.workerQueue.post([done = std::move(done), text, profile = options_,
+                             locale = parts_.locale] {
         std::optional<Result> result;
         try {
             engine::CleaningOptions options;
@@ -205,18 +210,7 @@ void PreviewPane::run() {
         } catch (const std::exception &) {
             // Out of memory, in practice. The preview stays as it was.
         }
-        queue.post([this, alive, result = std::move(result)] {
-            if (alive.expired()) {
-                return;
-            }
-            running_ = false;
-            if (result) {
-                show(*result);
-            }
-            if (changedMeanwhile_) {
-                run();
-            }
-        });
+        done(std::move(result));
     });
 }
 

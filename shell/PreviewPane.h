@@ -4,6 +4,7 @@
 // asks for it. Main thread only.
 #pragma once
 
+#include "platform/Alive.h"
 #include "platform/MainQueue.h"
 #include "platform/WorkerQueue.h"
 #include "shell/TextDiff.h"
@@ -75,7 +76,7 @@ class PreviewPane final : public QWidget {
     bool changedMeanwhile_ = false;
     std::vector<TextSpan> removed_;
     std::vector<TextSpan> marked_;
-    std::shared_ptr<const bool> alive_ = std::make_shared<bool>(true);
+    platform::Alive alive_;
 };
 
 } // namespace nerlo::shell

@@ -1,5 +1,6 @@
 #include "platform/qt/PortalHotKeys.h"
 
+#include "platform/Alive.h"
 #include "platform/qt/PortalSession.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 
@@ -70,15 +71,13 @@ class PortalHotKeys final : public HotKeyService {
 
     // Many come and go in one task, at the program's start above all; the user is asked once.
     void bindSoon() {
-        if (std::exchange(*bindPosted_, true)) {
+        if (std::exchange(bindPosted_, true)) {
             return;
         }
-        mainQueue_.post([this, weak = std::weak_ptr(bindPosted_)] {
-            if (const auto posted = weak.lock()) {
-                *posted = false;
-                bind();
-            }
-        });
+        mainQueue_.post(alive_.guard([this] {
+            bindPosted_ = false;
+            bind();
+        }));
     }
 
     void bind() {
@@ -150,7 +149,8 @@ class PortalHotKeys final : public HotKeyService {
     Handle last_ = 0;
     bool suspended_ = false;
     std::string missing_; // why there is no portal, as far as is known
-    std::shared_ptr<bool> bindPosted_ = std::make_shared<bool>(false);
+    bool bindPosted_ = false;
+    Alive alive_;
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/wayland/WaylandActiveApplication.h"
 
+#include "platform/Alive.h"
 #include "platform/Pasteboard.h"
 #include "platform/SpreadsheetLinks.h"
 #include "platform/wayland/EventLoop.h"
@@ -69,7 +70,7 @@ class WaylandActiveApplication final : public ActiveApplication {
 
     void setActivatedHandler(Handler activated) override {
         tracking_.reset();
-        handler_.reset();
+        alive_ = {};
         if (!activated) {
             return;
         }
@@ -78,16 +79,11 @@ class WaylandActiveApplication final : public ActiveApplication {
         if (!tracking_) {
             return;
         }
-        handler_ = std::make_shared<Handler>(std::move(activated));
-        tracking_->report([this, weak = std::weak_ptr(handler_)](const std::string &appId) {
-            const std::string_view spreadsheet = spreadsheetOfWindow(appId);
-            mainQueue_.post(
-                [weak, identifier = spreadsheet.empty() ? appId : std::string(spreadsheet)] {
-                    if (const auto handler = weak.lock()) {
-                        (*handler)(identifier);
-                    }
-                });
-        });
+        tracking_->report(
+            [tell = alive_.guardOn(mainQueue_, std::move(activated))](const std::string &appId) {
+                const std::string_view spreadsheet = spreadsheetOfWindow(appId);
+                tell(spreadsheet.empty() ? appId : std::string(spreadsheet));
+            });
     }
 
     std::string description() const override { return "Wayland, foreign-toplevel management"; }
@@ -95,7 +91,7 @@ class WaylandActiveApplication final : public ActiveApplication {
   private:
     MainQueue &mainQueue_;
     std::string display_;
-    std::shared_ptr<Handler> handler_; // tasks on the main queue hold it weakly
+    Alive alive_; // of one handler after the other
     std::unique_ptr<Tracking> tracking_;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/wayland/WaylandKeyboardLayout.h"
 
+#include "platform/Alive.h"
 #include "platform/Pasteboard.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/Registry.h"
@@ -139,18 +140,13 @@ class WaylandKeyboardLayout final : public KeyboardLayout {
   public:
     WaylandKeyboardLayout(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop,
                           std::unique_ptr<Keyboard> keyboard)
-        : layout_(std::make_shared<XkbKeyboardLayout>(
-              keyboard->keymap ? keyboard->keymap : xkb::Keymap::fromNames("us")))
+        : layout_(keyboard->keymap ? keyboard->keymap : xkb::Keymap::fromNames("us"))
         , loop_(std::move(loop))
         , keyboard_(std::move(keyboard)) {
         keyboard_->report(
-            [&mainQueue, weak = std::weak_ptr(layout_)](std::shared_ptr<const xkb::Keymap> keymap) {
-                mainQueue.post([weak, keymap = std::move(keymap)] {
-                    if (const auto layout = weak.lock()) {
-                        layout->replace(keymap, 0);
-                    }
-                });
-            });
+            alive_.guardOn(mainQueue, [this](const std::shared_ptr<const xkb::Keymap> &keymap) {
+                layout_.replace(keymap, 0);
+            }));
         loop_->start({});
     }
     ~WaylandKeyboardLayout() override {
@@ -159,21 +155,22 @@ class WaylandKeyboardLayout final : public KeyboardLayout {
     }
 
     std::u16string textOfKey(std::uint64_t virtualKey) const override {
-        return layout_->textOfKey(virtualKey);
+        return layout_.textOfKey(virtualKey);
     }
     std::string symbolOfKey(std::uint64_t virtualKey) const override {
-        return layout_->symbolOfKey(virtualKey);
+        return layout_.symbolOfKey(virtualKey);
     }
     std::optional<std::uint16_t> keyOfSymbol(std::string_view name) const override {
-        return layout_->keyOfSymbol(name);
+        return layout_.keyOfSymbol(name);
     }
     void setChangedHandler(std::function<void()> changed) override {
-        layout_->setChangedHandler(std::move(changed));
+        layout_.setChangedHandler(std::move(changed));
     }
     std::string description() const override { return "Wayland, by the compositor's keymap"; }
 
   private:
-    std::shared_ptr<XkbKeyboardLayout> layout_; // tasks on the main queue hold it weakly
+    XkbKeyboardLayout layout_;
+    Alive alive_;
     std::unique_ptr<EventLoop> loop_;
     std::unique_ptr<Keyboard> keyboard_;
 };

@@ -1,5 +1,6 @@
 #include "platform/wayland/WaylandPasteboard.h"
 
+#include "platform/Alive.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/WaylandSelection.h"
 
@@ -17,20 +18,6 @@ using wayland::WaylandSelection;
 
 // A clipboard manager gets this long after a write to ask for what was written.
 constexpr std::chrono::milliseconds managerLimit{500};
-
-// What the tasks on the main queue need; they hold it weakly, so that it ends with the pasteboard.
-struct MainSide {
-    std::atomic<ChangeCount> changeCount;
-    std::atomic<bool> changeReported{false}; // a task that reports a change is on its way
-    std::function<void()> changed;
-    std::function<void()> lost;
-
-    void raise(ChangeCount count) {
-        ChangeCount known = changeCount;
-        while (known < count && !changeCount.compare_exchange_weak(known, count)) {
-        }
-    }
-};
 
 class WaylandPasteboard final : public Pasteboard {
   public:
@@ -52,67 +39,55 @@ class WaylandPasteboard final : public Pasteboard {
         if (!declined.empty()) {
             return declined;
         }
-        main_->changeCount = peer_->changeCount();
+        changeCount_ = peer_->changeCount();
         description_ = std::string("Wayland, ") + peer_->protocol();
         loop_->start({.lost = [this] { peer_->lost(); },
                       .restored = [this] { return peer_->prepare().empty(); },
-                      .gone =
-                          [this] {
-                              onMain([](MainSide &main) {
-                                  if (const auto lost = main.lost) {
-                                      lost();
-                                  }
-                              });
-                          }});
+                      .gone = alive_.guardOn(mainQueue_, [this] {
+                          if (const auto lost = lost_) {
+                              lost();
+                          }
+                      })});
         return {};
     }
 
-    ChangeCount changeCount() const override { return main_->changeCount; }
+    ChangeCount changeCount() const override { return changeCount_; }
     bool notifiesChanges() const override { return true; }
-    void setChangeHandler(std::function<void()> changed) override {
-        main_->changed = std::move(changed);
-    }
-    void setLostHandler(std::function<void()> lost) override { main_->lost = std::move(lost); }
+    void setChangeHandler(std::function<void()> changed) override { changed_ = std::move(changed); }
+    void setLostHandler(std::function<void()> lost) override { lost_ = std::move(lost); }
 
     void readFormats(FormatsHandler handler) override {
-        loop_->post([this, handler = std::move(handler)]() mutable {
-            peer_->readFormats([this, handler = std::move(handler)](PasteboardFormats formats) {
-                onMain([handler, formats = std::move(formats)](MainSide &main) {
-                    main.raise(formats.changeCount);
-                    handler(formats);
-                });
-            });
-        });
+        loop_->post(
+            [this, answer = alive_.guardOn(mainQueue_, [this, handler = std::move(handler)](
+                                                           const PasteboardFormats &formats) {
+                raise(formats.changeCount);
+                handler(formats);
+            })] { peer_->readFormats(answer); });
     }
 
     void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
               ReadHandler handler) override {
         loop_->post([this, of, formats = std::move(formats), limit,
-                     handler = std::move(handler)]() mutable {
-            peer_->read(of, std::move(formats), limit,
-                        [this, handler = std::move(handler)](PasteboardRead result) {
-                            onMain([handler, result = std::move(result)](MainSide &) mutable {
-                                handler(std::move(result));
-                            });
-                        });
+                     answer = alive_.guardOn(mainQueue_, std::move(handler))]() mutable {
+            peer_->read(of, std::move(formats), limit, answer);
         });
     }
 
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                WriteHandler handler) override {
         lastWrite_ = Clock::now();
+        auto answer = alive_.guardOn(
+            mainQueue_, [this, handler = std::move(handler)](const PasteboardWrite &result) {
+                // Not before: a look at the count in between must not take our own write for
+                // another program's copy.
+                raise(result.changeCount);
+                const auto tell = alive_.guard([this] { tellChanged(); });
+                handler(result); // may end this
+                tell();
+            });
         loop_->post(
-            [this, content = std::move(content), onlyOver, handler = std::move(handler)]() mutable {
-                peer_->write(std::move(content), onlyOver,
-                             [this, handler = std::move(handler)](PasteboardWrite result) {
-                                 onMain([handler, result](MainSide &main) {
-                                     // Not before: a look at the count in between must not take our
-                                     // own write for another program's copy.
-                                     main.raise(result.changeCount);
-                                     handler(result);
-                                     runChanged(main);
-                                 });
-                             });
+            [this, content = std::move(content), onlyOver, answer = std::move(answer)]() mutable {
+                peer_->write(std::move(content), onlyOver, std::move(answer));
             });
     }
 
@@ -122,35 +97,37 @@ class WaylandPasteboard final : public Pasteboard {
     }
 
   private:
-    template <class Task>
-    void onMain(Task task) {
-        mainQueue_.post([weak = std::weak_ptr<MainSide>(main_), task = std::move(task)]() mutable {
-            if (const auto main = weak.lock()) {
-                task(*main);
-            }
-        });
+    void raise(ChangeCount count) {
+        ChangeCount known = changeCount_;
+        while (known < count && !changeCount_.compare_exchange_weak(known, count)) {
+        }
     }
 
-    static void runChanged(MainSide &main) {
+    void tellChanged() const {
         // A copy: the handler may replace itself.
-        if (const auto changed = main.changed) {
+        if (const auto changed = changed_) {
             changed();
         }
     }
 
     // On the loop's thread.
     void report(ChangeCount count) {
-        main_->raise(count);
-        if (!main_->changeReported.exchange(true)) {
-            onMain([](MainSide &main) {
-                main.changeReported = false;
-                runChanged(main);
-            });
+        raise(count);
+        if (!changeReported_.exchange(true)) {
+            reportChange_();
         }
     }
 
     MainQueue &mainQueue_;
-    std::shared_ptr<MainSide> main_ = std::make_shared<MainSide>();
+    std::atomic<ChangeCount> changeCount_{0};
+    std::atomic<bool> changeReported_ = false; // a task that reports a change is on its way
+    std::function<void()> changed_;            // main thread, as is lost_
+    std::function<void()> lost_;
+    Alive alive_;
+    const std::function<void()> reportChange_ = alive_.guardOn(mainQueue_, [this] {
+        changeReported_ = false;
+        tellChanged();
+    });
     std::string description_;
     std::optional<Clock::time_point> lastWrite_;
     std::unique_ptr<EventLoop> loop_;

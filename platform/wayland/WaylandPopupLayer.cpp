@@ -1,5 +1,6 @@
 #include "platform/wayland/WaylandPopupLayer.h"
 
+#include "platform/Alive.h"
 #include "platform/Pasteboard.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/LayerPopup.h"
@@ -25,9 +26,9 @@ class WaylandShownPopup final : public ShownPopup {
   public:
     WaylandShownPopup(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop, Popup popup)
         : mainQueue_(mainQueue)
-        , popup_(std::make_shared<Popup>(std::move(popup)))
+        , popup_(std::move(popup))
         , loop_(std::move(loop))
-        , surface_(std::make_unique<LayerPopup>(*loop_, *popup_, hooks())) {
+        , surface_(std::make_unique<LayerPopup>(*loop_, popup_, hooks())) {
         loop_->start({[this] { surface_->close(); }, {}, {}});
         loop_->post([this] { surface_->open(); });
         pointerUnknown_ = mainQueue_.postAfter(pointerWithin, [this] {
@@ -43,27 +44,19 @@ class WaylandShownPopup final : public ShownPopup {
 
   private:
     LayerPopup::Hooks hooks() {
-        const std::weak_ptr weak(popup_);
-        return {[this, weak](int scale) {
-                    mainQueue_.post([this, weak, scale] {
-                        if (const auto popup = weak.lock()) {
-                            loop_->post([this, picture = popup->draw(scale)] {
-                                surface_->setPicture(picture);
-                            });
-                        }
-                    });
-                },
-                [this, weak] {
-                    mainQueue_.post([weak] {
-                        if (const auto popup = weak.lock()) {
-                            popup->closed();
-                        }
-                    });
-                }};
+        return {alive_.guardOn(mainQueue_,
+                               [this](int scale) {
+                                   loop_->post([this, picture = popup_.draw(scale)] {
+                                       surface_->setPicture(picture);
+                                   });
+                               }),
+                // A copy: it ends this.
+                alive_.guardOn(mainQueue_, [closed = popup_.closed] { closed(); })};
     }
 
     MainQueue &mainQueue_;
-    std::shared_ptr<Popup> popup_; // tasks on the main queue hold it weakly
+    const Popup popup_;
+    Alive alive_;
     std::unique_ptr<EventLoop> loop_;
     std::unique_ptr<LayerPopup> surface_;
     MainQueue::TaskId pointerUnknown_ = 0;

@@ -1,5 +1,6 @@
 #include "platform/x11/X11ActiveApplication.h"
 
+#include "platform/Alive.h"
 #include "platform/SpreadsheetLinks.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/EventThread.h"
@@ -94,7 +95,7 @@ class X11ActiveApplication final : public ActiveApplication {
     void setActivatedHandler(Handler activated) override {
         thread_.reset();
         source_.reset();
-        handler_.reset();
+        alive_ = {};
         if (!activated) {
             return;
         }
@@ -102,16 +103,8 @@ class X11ActiveApplication final : public ActiveApplication {
         if (!connection) {
             return;
         }
-        handler_ = std::make_shared<const Handler>(std::move(activated));
-        source_ = std::make_unique<ActiveWindow>(
-            std::move(connection),
-            [&queue = mainQueue_, weak = std::weak_ptr(handler_)](std::string identifier) {
-                queue.post([weak, identifier = std::move(identifier)] {
-                    if (const auto handler = weak.lock()) {
-                        (*handler)(identifier);
-                    }
-                });
-            });
+        source_ = std::make_unique<ActiveWindow>(std::move(connection),
+                                                 alive_.guardOn(mainQueue_, std::move(activated)));
         thread_ = std::make_unique<x11::EventThread>(*source_);
     }
 
@@ -119,7 +112,7 @@ class X11ActiveApplication final : public ActiveApplication {
 
   private:
     MainQueue &mainQueue_;
-    std::shared_ptr<const Handler> handler_; // null: nobody listens
+    Alive alive_; // of one handler after the other
     std::unique_ptr<ActiveWindow> source_;
     std::unique_ptr<x11::EventThread> thread_;
 };

@@ -1,5 +1,6 @@
 #include "platform/x11/X11Desktop.h"
 
+#include "platform/Alive.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/EventThread.h"
 
@@ -69,19 +70,11 @@ class X11TrayWatch final : public TrayWatch {
   public:
     X11TrayWatch(std::unique_ptr<Connection> connection, MainQueue &mainQueue,
                  std::function<void()> appeared)
-        : appeared_(std::make_shared<std::function<void()>>(std::move(appeared)))
-        , source_(std::move(connection),
-                  [&mainQueue, weak = std::weak_ptr(appeared_)] {
-                      mainQueue.post([weak] {
-                          if (const auto handler = weak.lock()) {
-                              (*handler)();
-                          }
-                      });
-                  })
+        : source_(std::move(connection), alive_.guardOn(mainQueue, std::move(appeared)))
         , thread_(source_) {}
 
   private:
-    std::shared_ptr<std::function<void()>> appeared_;
+    Alive alive_;
     TraySource source_;
     x11::EventThread thread_;
 };

@@ -1,5 +1,6 @@
 #include "platform/x11/X11HotKeys.h"
 
+#include "platform/Alive.h"
 #include "platform/VirtualKeys.h"
 #include "platform/x11/EventThread.h"
 #include "platform/x11/XkbEvents.h"
@@ -315,33 +316,20 @@ class Grabs final : public x11::EventSource {
 class X11HotKeys final : public HotKeyService {
   public:
     X11HotKeys(MainQueue &mainQueue, std::unique_ptr<Connection> connection, XkbEvents events)
-        : state_(std::make_shared<State>())
-        , grabs_(std::make_unique<Grabs>(
+        : grabs_(std::make_unique<Grabs>(
               std::move(connection), events,
-              [&mainQueue, weak = std::weak_ptr(state_)](HotKeyId id) {
-                  mainQueue.post([weak, id] {
-                      const auto state = weak.lock();
-                      if (state && state->pressed && !state->suspended) {
-                          const Pressed pressed = state->pressed;
-                          pressed(id);
-                      }
-                  });
-              },
-              [&mainQueue, weak = std::weak_ptr(state_)](Handle handle, HotKeyId id,
-                                                         HotKeyStatus status) {
-                  mainQueue.post([weak, handle, id, status = std::move(status)] {
-                      if (const auto state = weak.lock()) {
-                          state->change(handle, id, status);
-                      }
-                  });
-              }))
+              alive_.guardOn(mainQueue, [this](HotKeyId id) { press(id); }),
+              alive_.guardOn(mainQueue,
+                             [this](Handle handle, HotKeyId id, const HotKeyStatus &status) {
+                                 change(handle, id, status);
+                             })))
         , thread_(std::make_unique<x11::EventThread>(*grabs_)) {}
 
     bool installHandler(Pressed pressed) override {
-        state_->pressed = std::move(pressed);
+        pressed_ = std::move(pressed);
         return true;
     }
-    void removeHandler() override { state_->pressed = nullptr; }
+    void removeHandler() override { pressed_ = nullptr; }
 
     Registration registerHotKey(const HotKeyRequest &request) override {
         const Handle handle = ++last_;
@@ -358,52 +346,54 @@ class X11HotKeys final : public HotKeyService {
         if (auto refusal = answered.get(); !refusal.empty()) {
             return {0, std::move(refusal)};
         }
-        state_->statuses[handle] = {HotKeyState::active, {}};
+        statuses_[handle] = {HotKeyState::active, {}};
         return {handle, {}};
     }
 
     void unregisterHotKey(Handle handle) override {
-        if (state_->statuses.erase(handle) != 0) {
+        if (statuses_.erase(handle) != 0) {
             thread_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
         }
     }
 
     HotKeyStatus status(Handle handle) const override {
-        const auto entry = state_->statuses.find(handle);
-        return entry == state_->statuses.end() ? HotKeyStatus() : entry->second;
+        const auto entry = statuses_.find(handle);
+        return entry == statuses_.end() ? HotKeyStatus() : entry->second;
     }
-    void setStatusHandler(StatusChanged changed) override {
-        state_->statusChanged = std::move(changed);
-    }
+    void setStatusHandler(StatusChanged changed) override { statusChanged_ = std::move(changed); }
 
     void setSuspended(bool suspended) override {
-        state_->suspended = suspended;
+        suspended_ = suspended;
         thread_->submit([grabs = grabs_.get(), suspended] { grabs->setSuspended(suspended); });
     }
 
     std::string description() const override { return "X11, grabbed keys"; }
 
   private:
-    // Belongs to the main thread; tasks on the main queue hold it weakly.
-    struct State {
-        void change(Handle handle, HotKeyId id, const HotKeyStatus &status) {
-            const auto entry = statuses.find(handle);
-            if (entry == statuses.end()) {
-                return;
-            }
-            entry->second = status;
-            if (statusChanged) {
-                const StatusChanged changed = statusChanged;
-                changed(id, status);
-            }
+    void press(HotKeyId id) const {
+        if (pressed_ && !suspended_) {
+            const Pressed pressed = pressed_;
+            pressed(id);
         }
-        Pressed pressed;
-        StatusChanged statusChanged;
-        std::map<Handle, HotKeyStatus> statuses;
-        bool suspended = false;
-    };
+    }
 
-    std::shared_ptr<State> state_;
+    void change(Handle handle, HotKeyId id, const HotKeyStatus &status) {
+        const auto entry = statuses_.find(handle);
+        if (entry == statuses_.end()) {
+            return;
+        }
+        entry->second = status;
+        if (statusChanged_) {
+            const StatusChanged changed = statusChanged_;
+            changed(id, status);
+        }
+    }
+
+    Pressed pressed_;
+    StatusChanged statusChanged_;
+    std::map<Handle, HotKeyStatus> statuses_;
+    bool suspended_ = false;
+    Alive alive_;
     std::unique_ptr<Grabs> grabs_;
     std::unique_ptr<x11::EventThread> thread_;
     Handle last_ = 0;

@@ -1,5 +1,6 @@
 #include "platform/x11/X11KeyboardLayout.h"
 
+#include "platform/Alive.h"
 #include "platform/x11/EventThread.h"
 #include "platform/x11/XkbEvents.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
@@ -76,48 +77,36 @@ class X11KeyboardLayout final : public KeyboardLayout {
   public:
     X11KeyboardLayout(MainQueue &mainQueue, std::unique_ptr<Connection> connection,
                       XkbEvents events)
-        : state_(std::make_shared<State>()) {
-        state_->replace(readKeymap(*connection, events), events.group(*connection));
+        : keymap_(readKeymap(*connection, events))
+        , layout_(keymap_, events.group(*connection)) {
         source_ = std::make_unique<LayoutSource>(
-            std::move(connection), events,
-            [&mainQueue, weak = std::weak_ptr(state_)](Layout layout) {
-                mainQueue.post([weak, layout = std::move(layout)] {
-                    if (const auto state = weak.lock()) {
-                        state->replace(layout.keymap, layout.group);
-                    }
-                });
-            });
+            std::move(connection), events, alive_.guardOn(mainQueue, [this](const Layout &layout) {
+                if (layout.keymap) {
+                    keymap_ = layout.keymap;
+                }
+                layout_.replace(keymap_, layout.group);
+            }));
         thread_ = std::make_unique<x11::EventThread>(*source_);
     }
 
     std::u16string textOfKey(std::uint64_t virtualKey) const override {
-        return state_->layout.textOfKey(virtualKey);
+        return layout_.textOfKey(virtualKey);
     }
     std::string symbolOfKey(std::uint64_t virtualKey) const override {
-        return state_->layout.symbolOfKey(virtualKey);
+        return layout_.symbolOfKey(virtualKey);
     }
     std::optional<std::uint16_t> keyOfSymbol(std::string_view name) const override {
-        return state_->layout.keyOfSymbol(name);
+        return layout_.keyOfSymbol(name);
     }
     void setChangedHandler(std::function<void()> changed) override {
-        state_->layout.setChangedHandler(std::move(changed));
+        layout_.setChangedHandler(std::move(changed));
     }
     std::string description() const override { return "X11, by xkb"; }
 
   private:
-    // Belongs to the main thread; tasks on the main queue hold it weakly.
-    struct State {
-        void replace(const std::shared_ptr<const xkb::Keymap> &newKeymap, std::uint32_t group) {
-            if (newKeymap) {
-                keymap = newKeymap;
-            }
-            layout.replace(keymap, group);
-        }
-        std::shared_ptr<const xkb::Keymap> keymap;
-        XkbKeyboardLayout layout;
-    };
-
-    std::shared_ptr<State> state_;
+    std::shared_ptr<const xkb::Keymap> keymap_;
+    XkbKeyboardLayout layout_;
+    Alive alive_;
     std::unique_ptr<LayoutSource> source_;
     std::unique_ptr<x11::EventThread> thread_;
 };

@@ -1,5 +1,6 @@
 #include "platform/x11/X11Pasteboard.h"
 
+#include "platform/Alive.h"
 #include "platform/x11/EventThread.h"
 #include "platform/x11/X11Selection.h"
 
@@ -18,22 +19,14 @@ class X11Pasteboard final : public Pasteboard {
         , peer_(std::move(peer)) {
         peer_->changed = [this] {
             if (observed_ && !announced_.exchange(true)) {
-                mainQueue_.post(whileAlive([this] {
-                    announced_ = false;
-                    // A copy: the handler may replace itself.
-                    if (const auto changed = changed_) {
-                        changed();
-                    }
-                }));
+                tellChanged_();
             }
         };
-        peer_->lost = [this] {
-            mainQueue_.post(whileAlive([this] {
-                if (lost_) {
-                    lost_();
-                }
-            }));
-        };
+        peer_->lost = alive_.guardOn(mainQueue_, [this] {
+            if (const auto lost = lost_) {
+                lost();
+            }
+        });
         thread_ = std::make_unique<x11::EventThread>(*peer_);
     }
 
@@ -51,54 +44,42 @@ class X11Pasteboard final : public Pasteboard {
     void setLostHandler(std::function<void()> lost) override { lost_ = std::move(lost); }
 
     void readFormats(FormatsHandler handler) override {
-        thread_->submit(
-            [this, handler = onMain(std::move(handler))] { peer_->readFormats(handler); });
+        thread_->submit([this, handler = alive_.guardOn(mainQueue_, std::move(handler))] {
+            peer_->readFormats(handler);
+        });
     }
     void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
               ReadHandler handler) override {
-        thread_->submit(
-            [this, of, formats = std::move(formats), limit, handler = onMain(std::move(handler))] {
-                peer_->read(of, formats, limit, handler);
-            });
+        thread_->submit([this, of, formats = std::move(formats), limit,
+                         handler = alive_.guardOn(mainQueue_, std::move(handler))] {
+            peer_->read(of, formats, limit, handler);
+        });
     }
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                WriteHandler handler) override {
-        thread_->submit(
-            [this, content = std::move(content), onlyOver, handler = onMain(std::move(handler))] {
-                peer_->write(content, onlyOver, handler);
-            });
+        thread_->submit([this, content = std::move(content), onlyOver,
+                         handler = alive_.guardOn(mainQueue_, std::move(handler))] {
+            peer_->write(content, onlyOver, handler);
+        });
     }
 
     std::string description() const override { return peer_->description(); }
     std::vector<std::string> limitations() const override { return {}; }
 
   private:
-    std::function<void()> whileAlive(std::function<void()> function) {
-        return [function = std::move(function), alive = std::weak_ptr<const bool>(alive_)] {
-            if (!alive.expired()) {
-                function();
-            }
-        };
-    }
-    // Carries a result from the peer's thread to the main thread.
-    template <class Result>
-    std::function<void(Result)> onMain(std::function<void(Result)> handler) {
-        return [this, handler = std::move(handler),
-                alive = std::weak_ptr<const bool>(alive_)](Result result) {
-            mainQueue_.post([handler, alive, result = std::move(result)]() mutable {
-                if (!alive.expired()) {
-                    handler(std::move(result));
-                }
-            });
-        };
-    }
-
     MainQueue &mainQueue_;
     std::function<void()> changed_; // main thread, as is lost_
     std::function<void()> lost_;
     std::atomic<bool> observed_ = false;
     std::atomic<bool> announced_ = false; // a call of changed_ is under way
-    std::shared_ptr<const bool> alive_ = std::make_shared<bool>(true);
+    Alive alive_;
+    const std::function<void()> tellChanged_ = alive_.guardOn(mainQueue_, [this] {
+        announced_ = false;
+        // A copy: the handler may replace itself.
+        if (const auto changed = changed_) {
+            changed();
+        }
+    });
     std::unique_ptr<x11::X11Selection> peer_;
     std::unique_ptr<x11::EventThread> thread_;
 };
