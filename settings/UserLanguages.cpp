@@ -1,22 +1,17 @@
 #include "settings/UserLanguages.h"
 
 #include "engine/QuoteLanguages.h"
+#include "storage/EnvironmentVariable.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace nerlo::settings {
 
 namespace {
 
-std::string_view environment(const char *name) {
-    const char *value = std::getenv(name);
-    return value ? value : "";
-}
-
 std::string_view messagesLocale() {
     for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const std::string_view value = environment(name); !value.empty()) {
+        if (const auto value = storage::environmentVariable(name); !value.empty()) {
             return value;
         }
     }
@@ -51,7 +46,7 @@ std::vector<std::string> userLanguages() {
     };
     const std::string_view messages = messagesLocale();
     if (!quoteLanguage(messages).empty()) {
-        std::string_view list = environment("LANGUAGE");
+        std::string_view list = storage::environmentVariable("LANGUAGE");
         while (!list.empty()) {
             const std::size_t end = std::min(list.find(':'), list.size());
             add(list.substr(0, end));

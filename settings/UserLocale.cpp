@@ -1,7 +1,8 @@
 #include "settings/UserLocale.h"
 
+#include "storage/EnvironmentVariable.h"
+
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace nerlo::settings {
@@ -56,8 +57,7 @@ std::optional<std::string> localeId(std::string_view name) {
 
 std::string userLocale() {
     for (const char *variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-        const char *value = std::getenv(variable);
-        if (value && *value) {
+        if (const auto value = storage::environmentVariable(variable); !value.empty()) {
             return localeId(value).value_or(std::string(neutralLocale));
         }
     }

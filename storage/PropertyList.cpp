@@ -1,5 +1,6 @@
 #include "storage/PropertyList.h"
 
+#include "storage/Overloaded.h"
 #include "storage/PropertyListCheck.h"
 #include "text/Utf.h"
 
@@ -212,13 +213,6 @@ PropertyValue valueOf(plist_t node) {
     }
     }
 }
-
-template <class... Ts>
-struct Overloaded : Ts... {
-    using Ts::operator()...;
-};
-template <class... Ts>
-Overloaded(Ts...) -> Overloaded<Ts...>;
 
 std::string withoutZeroBytes(std::string bytes) {
     for (auto nul = bytes.find('\0'); nul != std::string::npos; nul = bytes.find('\0', nul)) {

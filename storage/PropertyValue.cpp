@@ -1,5 +1,7 @@
 #include "storage/PropertyValue.h"
 
+#include "storage/Overloaded.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -58,13 +60,6 @@ std::int64_t integerOfText(std::u16string_view text) {
 std::u16string ascii(const std::string &text) {
     return {text.begin(), text.end()};
 }
-
-template <class... Ts>
-struct Overloaded : Ts... {
-    using Ts::operator()...;
-};
-template <class... Ts>
-Overloaded(Ts...) -> Overloaded<Ts...>;
 
 } // namespace
 

@@ -1,13 +1,13 @@
 #include "platform/linux/DesktopHotKeys.h"
 
 #include "platform/linux/CommandOutput.h"
+#include "storage/EnvironmentVariable.h"
 #include "text/Ascii.h"
 
 #include <algorithm>
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <mutex>
@@ -290,8 +290,7 @@ class DesktopHotKeys final : public SystemHotKeys {
 };
 
 std::string environment(const char *name) {
-    const char *value = std::getenv(name);
-    return value ? value : "";
+    return std::string(storage::environmentVariable(name));
 }
 
 } // namespace

@@ -1,10 +1,11 @@
 #include "platform/wayland/EventLoop.h"
 
+#include "storage/EnvironmentVariable.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <utility>
 
@@ -58,12 +59,9 @@ struct EventLoop::RoundTrip {
 };
 
 std::string EventLoop::defaultDisplay() {
-    const auto variable = [](const char *name) {
-        const char *value = std::getenv(name);
-        return std::string(value ? value : "");
-    };
-    const std::string name = variable("WAYLAND_DISPLAY");
-    return name.empty() && variable("XDG_SESSION_TYPE") == "wayland" ? "wayland-0" : name;
+    const std::string name(storage::environmentVariable("WAYLAND_DISPLAY"));
+    const bool session = storage::environmentVariable("XDG_SESSION_TYPE") == "wayland";
+    return name.empty() && session ? "wayland-0" : name;
 }
 
 std::unique_ptr<EventLoop> EventLoop::connect(const std::string &displayName) {
