@@ -391,26 +391,30 @@ std::u16string runInPieces(std::u16string text, std::span<const Operation *const
 
 } // namespace
 
-std::u16string runPipeline(std::u16string text, const CleaningContext &context,
-                           std::size_t pieceSize) {
-    std::vector<const Operation *> steps; // that may go over the text together
-    const auto flush = [&] {
-        text = runInPieces(std::move(text), steps, context, pieceSize);
-        steps.clear();
-    };
+std::vector<const Operation *> operationsSwitchedOn(const CleaningOptions &options) {
+    std::vector<const Operation *> operations;
     for (const Step &step : pipeline) {
-        if (!step.isOn(context.options)) {
-            continue;
-        }
-        const Operation &operation = table[step.operation];
-        if (operation.inPieces && operation.inPieces(context.options)) {
-            steps.push_back(&operation);
-        } else {
-            flush();
-            text = operation.run(std::move(text), context);
+        if (step.isOn(options)) {
+            operations.push_back(&table[step.operation]);
         }
     }
-    flush();
+    return operations;
+}
+
+std::u16string runPipeline(std::u16string text, const CleaningContext &context,
+                           std::size_t pieceSize) {
+    const std::vector<const Operation *> steps = operationsSwitchedOn(context.options);
+    const auto inPieces = [&](const Operation *step) {
+        return step->inPieces && step->inPieces(context.options);
+    };
+    for (auto step = steps.begin(); step != steps.end();) {
+        const auto end = std::find_if_not(step, steps.end(), inPieces);
+        text = runInPieces(std::move(text), {step, end}, context, pieceSize);
+        step = end;
+        if (step != steps.end()) {
+            text = (*step++)->run(std::move(text), context);
+        }
+    }
     return text;
 }
 

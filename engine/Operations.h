@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace nerlo::engine {
 
@@ -57,8 +58,11 @@ std::size_t lastCut(std::u16string_view text, std::size_t from);
 // Units that stay in the processor's nearer caches through several operations.
 inline constexpr std::size_t cachedPiece = 32 * 1024;
 
-// Every operation whose switch is on, in the fixed order. Operations next to each other that run in
-// pieces go over each piece of about `pieceSize` units before the next piece is looked at.
+// The operations whose switches are on, in the fixed order in which a clean runs them.
+std::vector<const Operation *> operationsSwitchedOn(const CleaningOptions &options);
+
+// All of these. Operations next to each other that run in pieces go over each piece of about
+// `pieceSize` units before the next piece is looked at.
 std::u16string runPipeline(std::u16string text, const CleaningContext &context,
                            std::size_t pieceSize = cachedPiece);
 

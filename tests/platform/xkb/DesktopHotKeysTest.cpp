@@ -107,9 +107,7 @@ TEST(CommandOutput, HasItsLimits) {
     EXPECT_EQ(outputOfCommand({"no-such-program"}), "");
     EXPECT_EQ(outputOfCommand({"cat"}), "");
     EXPECT_EQ(outputOfCommand({"yes"}, {std::chrono::seconds(20), 100000}), "");
-    const auto begin = std::chrono::steady_clock::now();
-    EXPECT_EQ(outputOfCommand({"sleep", "30"}, {std::chrono::milliseconds(50), 10}), "");
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
+    EXPECT_EQ(outputOfCommand({"sleep", "infinity"}, {std::chrono::milliseconds(50), 10}), "");
 }
 
 } // namespace
