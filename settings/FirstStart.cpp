@@ -11,7 +11,6 @@ void setDefaults(storage::SettingsStore &store) {
             store.set(row.key, *row.firstStart);
         }
     }
-    store.synchronize();
 }
 
 void setAllDefaultsInFirstRun(storage::SettingsStore &store, nrPreferences &preferences) {
@@ -24,7 +23,6 @@ void setAllDefaultsInFirstRun(storage::SettingsStore &store, nrPreferences &pref
         return;
     }
     store.set("firstRunPreferencesProfiles", true);
-    store.synchronize();
 }
 
 } // namespace nerlo::settings

@@ -22,27 +22,8 @@ constexpr const char *onlyOneKey = "sOnlyOneProfile";
 
 nrPreferences *instance = nullptr;
 
-// Sets a flag for a scope; within it, another scope of the same flag changes nothing.
-class ScopedFlag {
-  public:
-    explicit ScopedFlag(bool &flag)
-        : flag_(flag)
-        , before_(std::exchange(flag, true)) {}
-    ~ScopedFlag() { flag_ = before_; }
-    ScopedFlag(const ScopedFlag &) = delete;
-    ScopedFlag &operator=(const ScopedFlag &) = delete;
-
-  private:
-    bool &flag_;
-    bool before_;
-};
-
 ProfileRecord firstProfile() {
     return {{"profileName", u"profile 1"}};
-}
-
-std::u16string decimal(std::int64_t number) {
-    return PropertyValue(number).stringValue();
 }
 
 } // namespace
@@ -81,17 +62,21 @@ void nrPreferences::createDir() {
     storage::makeFolder(storage::folderOf(paths_.profiles), calls_);
 }
 
-bool nrPreferences::report(const std::string &error) {
+// Tells of a failed save, and of the first that succeeds after one.
+std::string nrPreferences::report(std::string error) {
     const bool failedBefore = std::exchange(saveFailed_, !error.empty());
     if ((saveFailed_ || failedBefore) && hooks_.saveFailed) {
         hooks_.saveFailed(error);
     }
-    return error.empty();
+    return error;
 }
 
 void nrPreferences::fillEngine() {
     if (hooks_.setAllBools) {
-        hooks_.setAllBools(profileSelected_);
+        hooks_.setAllBools(profileSelected());
+    }
+    if (hooks_.edited) {
+        hooks_.edited();
     }
 }
 
@@ -111,14 +96,12 @@ void nrPreferences::firstRunPreferences() {
 // Profiles that are there although nothing has been started yet (the store was lost, or the command
 // line has imported some) stay behind the new one.
 void nrPreferences::firstRunCombobox() {
-    profileSelected_ = firstStartProfile(language_);
-    profileName_ = profileNameOf(profileSelected_);
+    const ProfileRecord first = firstStartProfile(language_);
     profilesItems_ = file_.load();
-    if (std::ranges::find(profilesItems_, profileSelected_, &ProfileItem::record) !=
-        profilesItems_.end()) {
+    if (std::ranges::find(profilesItems_, first, &ProfileItem::record) != profilesItems_.end()) {
         return; // a first start that was ended before it was through has made it
     }
-    profilesItems_.insert(profilesItems_.begin(), file_.newItem(profileSelected_));
+    profilesItems_.insert(profilesItems_.begin(), file_.newItem(first));
     if (profilesItems_.size() == 1) {
         saveProfilesWithArray();
     } else {
@@ -128,9 +111,7 @@ void nrPreferences::firstRunCombobox() {
 
 void nrPreferences::convertAfterUpdate() {
     selectedItem_ = 0;
-    profileSelected_ = migratedProfile(store_);
-    profileName_ = profileNameOf(profileSelected_);
-    profilesItems_ = {file_.newItem(profileSelected_)};
+    profilesItems_ = {file_.newItem(migratedProfile(store_))};
     report(file_.replace(profilesItems_));
 }
 
@@ -143,14 +124,13 @@ void nrPreferences::initProfilesItems() {
         saveProfilesWithArray(); // of the first start or the update, which could not save them
     } else {
         profilesItems_ = {file_.newItem(firstProfile())};
-        profileName_ = profileNameOf(profilesItems_.front().record);
         saveProfilesWithArray();
     }
     const auto shared = readSharedFindReplace(paths_, calls_, &sharedListError_);
     if (!shared || shared->empty()) {
         findReplace_.setItems({});
         findReplace_.append();
-        writeSharedList();
+        report(writeSharedList());
     }
     const std::int64_t stored = store_.integerForKey(selectedItemKey);
     selectedItem_ = static_cast<int>(
@@ -161,10 +141,9 @@ void nrPreferences::initProfilesItems() {
     if (popupSelection_) {
         const auto &record = profilesItems_[static_cast<std::size_t>(*popupSelection_)].record;
         const PropertyValue *onlyOne = record.find(onlyOneKey);
-        controls_.set(onlyOneKey, onlyOne && onlyOne->boolValue() ? 1 : 0);
+        edited_.set(onlyOneKey, onlyOne && onlyOne->boolValue() ? 1 : 0);
     }
     profilesSelect();
-    fillEngine();
 }
 
 std::vector<std::string> nrPreferences::loadErrors() const {
@@ -190,32 +169,22 @@ void nrPreferences::refreshProfilesMenuItems() {
 }
 
 void nrPreferences::profilesSelect(std::optional<int> tag) {
-    if (blockReadWhileSaving_) {
-        return;
-    }
-    const ScopedFlag loading(blockSaveProfileToDictionary_);
     if (profilesItems_.empty()) {
         selectedItem_ = 0;
-        profileSelected_ = firstProfile();
         popupSelection_.reset();
+        edited_.load(firstProfile());
     } else {
         const int last = static_cast<int>(profilesItems_.size()) - 1;
         selectedItem_ = std::clamp(tag ? *tag : popupSelection_.value_or(0), 0, last);
-        profileSelected_ = profilesItems_[static_cast<std::size_t>(selectedItem_)].record;
         popupSelection_ = selectedItem_;
+        edited_.load(profilesItems_[static_cast<std::size_t>(selectedItem_)].record);
     }
-    profileName_ = profileNameOf(profileSelected_);
-    loadControls();
-    const auto mirror = [this](const char *key, std::int64_t value) { store_.set(key, value); };
-    mirror("udStatisticsValue", controls_.find("udStatisticsValue")->integerValue());
-    mirror("udStatisticsDelaySwitcher",
-           controls_.find("udStatisticsDelaySwitcher")->integerValue());
-    mirror("udStatisticsDefaultPosition",
-           controls_.find("udStatisticsDefaultPosition")->integerValue());
-    OnlyOneProfileAction();
+    for (const char *mirrored :
+         {"udStatisticsValue", "udStatisticsDelaySwitcher", "udStatisticsDefaultPosition"}) {
+        store_.set(mirrored, state(mirrored).integerValue());
+    }
     store_.set(selectedItemKey, selectedItem_);
-    store_.synchronize();
-    fillEngine();
+    OnlyOneProfileAction();
     refreshProfilesMenuItems();
     if (hooks_.controlsLoaded) {
         hooks_.controlsLoaded();
@@ -227,92 +196,60 @@ void nrPreferences::profilesSwitch(int place) {
         return;
     }
     const auto id = profilesItems_[static_cast<std::size_t>(place)].id;
-    savePending(); // which may take over profiles of other processes
+    savePending();
     const auto now = std::ranges::find(profilesItems_, id, &ProfileItem::id);
     if (now != profilesItems_.end()) {
         profilesSelect(static_cast<int>(now - profilesItems_.begin()));
     }
 }
 
-void nrPreferences::loadControls() {
-    for (const SettingsKey &row : profileKeys()) {
-        const PropertyValue *value = profileSelected_.find(row.key);
-        if (row.key == onlyOneKey || row.key == "profileName") {
-            continue;
-        }
-        switch (row.kind) {
-        case SettingKind::Switch:
-            controls_.set(row.key, value && value->boolValue() ? 1 : 0);
-            break;
-        case SettingKind::Index:
-            controls_.set(row.key, value ? value->integerValue() : 0);
-            break;
-        case SettingKind::Text:
-            if (row.key == "udStatisticsValue" && value) {
-                controls_.set(row.key, decimal(value->integerValue()));
-            } else {
-                controls_.set(row.key, value ? value->stringValue() : std::u16string());
-            }
-            break;
-        default:
-            break; // the lists of rules have a table of their own
-        }
-    }
-}
-
 void nrPreferences::saveSelectedProfileInDictionary() {
-    if (blockSaveProfileToDictionary_) {
-        return;
-    }
-    const ScopedFlag reading(blockReadWhileSaving_);
-    profileSelected_.set("profileName", profileName_);
-    for (const SettingsKey &row : profileKeys()) {
-        if (const PropertyValue *state = controls_.find(row.key)) {
-            profileSelected_.set(row.key, *state);
-        }
-    }
-    saveCurrentFindReplaceList();
+    edited_.complete();
+    keepRules();
 }
 
 bool nrPreferences::saveChangesInProfiles() {
+    return save().empty();
+}
+
+std::string nrPreferences::save() {
     if (profilesAdding_) {
-        return true;
+        return {};
     }
     if (profilesItems_.empty()) {
         profilesItems_ = {file_.newItem(firstProfile())};
-        profileName_ = profileNameOf(profilesItems_.front().record);
+        edited_.set("profileName", firstProfile().begin()->second);
         selectedItem_ = 0;
         refreshProfilesMenu();
     }
     saveSelectedProfileInDictionary();
     const auto place = static_cast<std::size_t>(std::max(selectedItem_, 0));
     if (place < profilesItems_.size()) {
-        profilesItems_[place].record = profileSelected_;
+        profilesItems_[place].record = profileSelected();
     } else {
-        profilesItems_.push_back(file_.newItem(profileSelected_));
+        profilesItems_.push_back(file_.newItem(profileSelected()));
     }
-    return saveProfilesWithArray();
+    const std::string rulesError = onlyOneProfile() ? writeSharedList() : std::string();
+    const std::string error = writeProfiles();
+    return report(error.empty() ? rulesError : error);
 }
 
 bool nrPreferences::saveProfilesWithArray() {
-    if (profilesSaving_) {
-        return false;
-    }
+    return report(writeProfiles()).empty();
+}
+
+std::string nrPreferences::writeProfiles() {
     ProfileItems items = profilesItems_;
-    std::string error;
-    {
-        const ScopedFlag saving(profilesSaving_);
-        error = file_.save(items);
-        if (!error.empty()) {
-            createDir();
-        }
-    }
+    std::string error = file_.save(items);
     if (error.empty()) {
         adopt(std::move(items));
-    } else if (auto others = file_.refreshed(profilesItems_)) {
-        adopt(std::move(*others)); // what other processes have saved is there all the same
+    } else {
+        createDir();
+        if (auto others = file_.refreshed(profilesItems_)) {
+            adopt(std::move(*others)); // what other processes have saved is there all the same
+        }
     }
-    return report(error);
+    return error;
 }
 
 // Takes the list over from the file, where other processes may have written; the selected profile
@@ -338,22 +275,20 @@ void nrPreferences::adopt(ProfileItems items) {
         profilesSelect(gone ? std::optional<int>() : std::optional(selectedItem_));
     } else if (!sameNames && id != 0) {
         store_.set(selectedItemKey, selectedItem_);
-        store_.synchronize();
     }
 }
 
 void nrPreferences::profilesFileChanged() {
-    if (profilesSaving_ || pending_ != 0) {
+    if (pending_ != 0) {
         return; // the save that is on its way takes over what others wrote
     }
-    if (unsaved()) {
-        setAllBoolsInChangePasteboard(); // as above, with what combo boxes have changed
-    } else if (auto items = file_.refreshed(profilesItems_)) {
+    if (auto items = file_.refreshed(profilesItems_)) {
         adopt(std::move(*items));
     }
 }
 
 void nrPreferences::profilesAdd() {
+    savePending();
     profilesAdding_ = true;
 }
 
@@ -362,7 +297,6 @@ void nrPreferences::profilesAddingCloseWindow(const std::u16string &name) {
     if (name.empty()) {
         return;
     }
-    profileName_ = name;
     profilesItems_.push_back(file_.newItem({{"profileName", name}}));
     selectedItem_ = static_cast<int>(profilesItems_.size()) - 1;
     refreshProfilesMenu();
@@ -395,40 +329,35 @@ void nrPreferences::profilesRemove() {
 // --- Controls ---
 
 void nrPreferences::checkBoxChanged(std::string_view key, bool on) {
-    controls_.set(key, on ? 1 : 0);
+    edited_.set(key, on ? 1 : 0);
     setAllBoolsInChangePasteboard();
 }
 
 void nrPreferences::controlTextDidChange(std::string_view key, std::u16string text) {
-    controls_.set(key, std::move(text));
+    edited_.set(key, std::move(text));
     setAllBoolsInChangePasteboardForText();
 }
 
 void nrPreferences::comboBoxSelectionDidChange(std::string_view key, std::int64_t index) {
-    controls_.set(key, index);
-    profileSelected_.set(key, std::max<std::int64_t>(index, 0));
+    edited_.choose(key, index);
     if (key == "udStatisticsDefaultPosition") {
-        store_.set(key, std::max<std::int64_t>(index, 0));
-        store_.synchronize();
+        store_.set(key, state(key));
     }
-    fillEngine();
+    setAllBoolsInChangePasteboard();
 }
 
 void nrPreferences::sUpdateStatisticksValue(std::u16string text) {
     store_.set("udStatisticsValue", PropertyValue(text).integerValue());
-    store_.synchronize();
-    controls_.set("udStatisticsValue", std::move(text));
+    edited_.set("udStatisticsValue", std::move(text));
     setAllBoolsInChangePasteboard();
 }
 
 bool nrPreferences::customSeparatorEnabled(std::string_view separatorKey) const {
-    const PropertyValue *index = controls_.find(separatorKey);
-    return index && index->integerValue() == sortCustomSeparatorPosition;
+    return state(separatorKey) == PropertyValue(sortCustomSeparatorPosition);
 }
 
 nrPreferences::ReturnsFields nrPreferences::returnsFields() const {
-    const PropertyValue *index = controls_.find("udChangeReturnsOption");
-    switch (index ? index->integerValue() : 0) {
+    switch (state("udChangeReturnsOption").integerValue()) {
     case returnsWithCustomText:
         return {localize_(u"sIndent"), false, true, localize_(u"Custom"), false, {}};
     case returnsWithTags:
@@ -439,10 +368,12 @@ nrPreferences::ReturnsFields nrPreferences::returnsFields() const {
 }
 
 void nrPreferences::setAllBoolsInChangePasteboard() {
+    fillEngine();
     schedule(checkBoxDelay);
 }
 
 void nrPreferences::setAllBoolsInChangePasteboardForText() {
+    fillEngine();
     schedule(textFieldDelay);
 }
 
@@ -456,31 +387,27 @@ void nrPreferences::schedule(std::chrono::milliseconds delay) {
 
 void nrPreferences::setAllBoolsInChangePasteboardAfterDelay() {
     saveChangesInProfiles();
-    fillEngine();
 }
 
-bool nrPreferences::unsaved() const {
-    const auto place = static_cast<std::size_t>(std::max(selectedItem_, 0));
-    return pending_ != 0 ||
-           (place < profilesItems_.size() && !(profilesItems_[place].record == profileSelected_));
-}
-
-void nrPreferences::savePending() {
-    if (unsaved()) {
-        queue_.cancel(std::exchange(pending_, 0));
-        setAllBoolsInChangePasteboardAfterDelay();
+std::string nrPreferences::savePending() {
+    if (pending_ == 0 && !saveFailed_) {
+        return {};
     }
+    queue_.cancel(std::exchange(pending_, 0));
+    return save();
 }
 
 // --- Find and replace ---
 
 bool nrPreferences::onlyOneProfile() const {
-    const PropertyValue *state = controls_.find(onlyOneKey);
-    return state && state->boolValue();
+    return state(onlyOneKey).boolValue();
 }
 
 void nrPreferences::onlyOneProfileChanged(bool on) {
-    controls_.set(onlyOneKey, on ? 1 : 0);
+    if (onlyOneProfile()) {
+        report(writeSharedList()); // what waits for its delay
+    }
+    edited_.set(onlyOneKey, on ? 1 : 0);
     OnlyOneProfileAction();
 }
 
@@ -490,10 +417,13 @@ void nrPreferences::OnlyOneProfileAction() {
         const bool empty = shared.empty();
         findReplace_.setItems(std::move(shared));
         if (empty) {
-            addNewFindReplace();
+            findReplace_.append();
+            updateUI(2);
+            report(writeSharedList());
         }
+        keepRules();
     } else {
-        const PropertyValue *own = profileSelected_.find(ownListKey);
+        const PropertyValue *own = profileSelected().find(ownListKey);
         const auto *items = own ? own->as<PropertyArray>() : nullptr;
         findReplace_.setItems(items ? *items : PropertyArray());
     }
@@ -501,6 +431,11 @@ void nrPreferences::OnlyOneProfileAction() {
     updateUI(0);
     updateUI(3);
     setAllBoolsInChangePasteboard();
+}
+
+// The list that is shown belongs to the edited profile, or is copied into it.
+void nrPreferences::keepRules() {
+    edited_.set(onlyOneProfile() ? sharedListKey : ownListKey, findReplace_.items());
 }
 
 void nrPreferences::updateUI(int mode) {
@@ -530,49 +465,47 @@ void nrPreferences::selectedRow(int row) {
 
 void nrPreferences::saveCurrentFindReplace(std::u16string find) {
     findReplace_.setFind(std::move(find));
+    keepRules();
     setAllBoolsInChangePasteboardForText();
 }
 
 void nrPreferences::controlTextDidChangeReplace(std::u16string replace) {
     findReplace_.setReplacement(std::move(replace));
+    keepRules();
     setAllBoolsInChangePasteboardForText();
 }
 
 void nrPreferences::saveCurrentFindReplaceCheckbox(int row, bool on) {
     findReplace_.setCheckbox(row, on);
+    keepRules();
     setAllBoolsInChangePasteboard();
 }
 
 void nrPreferences::acceptDrop(const std::vector<int> &rows, int dropRow) {
     findReplace_.move(rows, dropRow);
     updateUI(4);
+    keepRules();
     setAllBoolsInChangePasteboard();
 }
 
 void nrPreferences::saveCurrentFindReplaceList() {
+    keepRules();
     if (onlyOneProfile()) {
-        if (profilesSaving_) {
-            return;
-        }
-        writeSharedList();
-        profileSelected_.set(sharedListKey, findReplace_.items());
-    } else {
-        profileSelected_.set(ownListKey, findReplace_.items());
+        report(writeSharedList());
     }
-    fillEngine();
+    setAllBoolsInChangePasteboard();
 }
 
 PropertyArray nrPreferences::readSharedList() const {
     return readSharedFindReplace(paths_, calls_).value_or(PropertyArray());
 }
 
-bool nrPreferences::writeSharedList() {
-    const ScopedFlag saving(profilesSaving_);
-    const std::string error = writeSharedFindReplace(paths_, findReplace_.items(), calls_);
+std::string nrPreferences::writeSharedList() {
+    std::string error = writeSharedFindReplace(paths_, findReplace_.items(), calls_);
     if (!error.empty()) {
         createDir();
     }
-    return report(error);
+    return error;
 }
 
 } // namespace nerlo::settings

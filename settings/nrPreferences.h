@@ -1,11 +1,13 @@
-// The preferences without their window: the selected profile, the state of its controls, when what
-// is saved, and the find-and-replace list.
+// The preferences without their window: the profiles, the one that is edited, its find-and-replace
+// list, and when which file is written.
 //
-// The window shows controls(), items and fields from here and reports edits; it is told through
-// the hooks. Everything runs on the main thread; no call here waits for longer than a file takes.
+// There is one edited profile, profileSelected(): the window shows it and reports edits, the
+// preview and the engine read it, and each edit is in it, and told by the hooks, at once. Only the
+// files wait. Everything runs on the main thread; no call here waits for longer than a file takes.
 #pragma once
 
 #include "platform/MainQueue.h"
+#include "settings/EditedProfile.h"
 #include "settings/FindReplaceList.h"
 #include "settings/OptionLists.h"
 #include "settings/ProfilesFile.h"
@@ -22,7 +24,9 @@ namespace nerlo::settings {
 
 // What the preferences ask of the rest of the program; each may be empty.
 struct PreferencesHooks {
-    std::function<void(const ProfileRecord &)> setAllBools; // refills the engine's options
+    // Refills the engine's options: once for each change of the selected profile.
+    std::function<void(const ProfileRecord &)> setAllBools;
+    std::function<void()> edited; // goes with it, for the preview
     // Stores the first start's hot key. A failure, also an exception, is dropped.
     std::function<void()> setDefaultShortcut;
     // Whether the profile may go. Without a hook, it may.
@@ -62,20 +66,19 @@ class nrPreferences {
     const ProfileItems &profilesItems() const { return profilesItems_; }
     // Which of the two files could not be read at the start, and why.
     std::vector<std::string> loadErrors() const;
-    const ProfileRecord &profileSelected() const { return profileSelected_; }
-    const std::u16string &profileName() const { return profileName_; }
+    const ProfileRecord &profileSelected() const { return edited_.record(); }
+    std::u16string profileName() const { return edited_.name(); }
     // The selected profile's place; the same as the tag of its menu item.
     int selectedItem() const { return selectedItem_; }
     // The pop-up's selected item; none when `selectedItem` has no item.
     std::optional<int> popupSelection() const { return popupSelection_; }
     void profilesSelect(std::optional<int> tag = {});
-    // The user chose another profile: saves what waits, and selects the one at `place` in the list
-    // as it is now.
+    // The user chose another profile: saves what waits, which may take over profiles of other
+    // processes, and selects the one that was at `place`.
     void profilesSwitch(int place);
     void profilesAdd();
     void profilesAddingCloseWindow(const std::u16string &name);
     void profilesAddingCancelWindow();
-    bool profilesAdding() const { return profilesAdding_; }
     void profilesRemove();
     void saveSelectedProfileInDictionary();
     // False when the file could not be written; the changes go with the next save.
@@ -84,12 +87,12 @@ class nrPreferences {
     void saveCurrentState() { profilesSelect(); }
     // Takes over what other processes have written; to be called when the folder has changed.
     void profilesFileChanged();
-    // Saves at once what waits for its delay, and what combo boxes have changed, which no delayed
-    // save follows; for the program's end.
-    void savePending();
+    // Writes at once what waits for its delay, and what could not be written before; for the
+    // program's end. Empty when done, else why it could not be written now either.
+    std::string savePending();
 
-    // Controls: the state of each by its key, as it is stored (0 or 1, text, index).
-    const storage::PropertyDictionary &controls() const { return controls_; }
+    // Controls. See EditedProfile::state().
+    storage::PropertyValue state(std::string_view key) const { return edited_.state(key); }
     const std::vector<OptionList> &optionLists() const { return optionLists_; }
     // Any check box but the one-list box.
     void checkBoxChanged(std::string_view key, bool on);
@@ -112,7 +115,8 @@ class nrPreferences {
     };
     ReturnsFields returnsFields() const;
 
-    // Each drops the request that waits and makes a new one, after 1 and 2 seconds.
+    // The edited profile has changed: the engine gets it now, and the file after 1 and 2 seconds,
+    // counted from the last change.
     void setAllBoolsInChangePasteboard();
     void setAllBoolsInChangePasteboardForText();
     void setAllBoolsInChangePasteboardAfterDelay();
@@ -135,16 +139,17 @@ class nrPreferences {
     void createDir();
     void refreshProfilesMenu();
     void refreshProfilesMenuItems();
-    void loadControls();
     void schedule(std::chrono::milliseconds delay);
     void fillEngine();
-    bool unsaved() const;
+    void keepRules();
     // 0 reload and show the first row, 1 the selected row goes, 2 a row came at the end, 3 the
     // field is empty, others reload.
     void updateUI(int mode);
     storage::PropertyArray readSharedList() const;
-    bool writeSharedList();
-    bool report(const std::string &error);
+    std::string save();
+    std::string writeSharedList();
+    std::string writeProfiles();
+    std::string report(std::string error);
     void adopt(ProfileItems items);
 
     storage::SettingsStore &store_;
@@ -158,21 +163,15 @@ class nrPreferences {
 
     ProfilesFile file_;
     ProfileItems profilesItems_;
-    ProfileRecord profileSelected_;
+    EditedProfile edited_;
     int selectedItem_ = 0;
-    std::u16string profileName_;
     std::optional<int> popupSelection_;
-    storage::PropertyDictionary controls_;
     FindReplaceList findReplace_;
     std::string sharedListError_;
     platform::MainQueue::TaskId pending_ = 0;
     bool saveFailed_ = false;
 
     bool profilesAdding_ = false;
-    // Against re-entrance through hooks; set for a scope each.
-    bool profilesSaving_ = false;               // a file is being written
-    bool blockSaveProfileToDictionary_ = false; // a profile is being loaded into the controls
-    bool blockReadWhileSaving_ = false;         // the controls are being read
 };
 
 } // namespace nerlo::settings

@@ -57,6 +57,7 @@ DesktopShell::~DesktopShell() {
     auto &hooks = parts_.preferences.hooks();
     hooks.profilesChanged = nullptr;
     hooks.controlsLoaded = nullptr;
+    hooks.edited = nullptr;
     hooks.updateUI = nullptr;
     hooks.confirmRemoval = nullptr;
     hooks.saveFailed = nullptr;
@@ -71,16 +72,11 @@ MenuCommands DesktopShell::menuCommands() {
         };
     };
     MenuCommands commands;
-    // What was typed a moment before counts too.
-    commands.clean = [this, clean = tell(&nrAppDelegate::clearFormattingFromClipboard)] {
-        parts_.preferences.savePending();
-        clean();
-    };
+    commands.clean = tell(&nrAppDelegate::clearFormattingFromClipboard);
     commands.automatic = tell(&nrAppDelegate::automaticallyClearFormatting);
     commands.excelException = tell(&nrAppDelegate::disableAutomaticallyClearFormatting);
     commands.restore = [this] { restore(); };
     commands.operation = [this](std::int32_t index) {
-        parts_.preferences.savePending();
         parts_.engine.changePasteboardWithKeys(index);
     };
     commands.selectProfile = [this](int place) { parts_.preferences.profilesSwitch(place); };
@@ -106,6 +102,11 @@ void DesktopShell::connectPreferences() {
     hooks.controlsLoaded = [this] {
         if (window) {
             window->controlsLoaded();
+        }
+    };
+    hooks.edited = [this] {
+        if (window) {
+            window->edited();
         }
     };
     hooks.updateUI = [this](int mode) {
@@ -266,10 +267,8 @@ void DesktopShell::showTips() {
     constexpr auto atEachStartKey = "firstRunTips";
     if (!tipsController) {
         tipsController =
-            std::make_unique<TipsWindow>(parts_.store.boolForKey(atEachStartKey), [this](bool on) {
-                parts_.store.set(atEachStartKey, on);
-                parts_.store.synchronize();
-            });
+            std::make_unique<TipsWindow>(parts_.store.boolForKey(atEachStartKey),
+                                         [this](bool on) { parts_.store.set(atEachStartKey, on); });
         tipsController->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
     }
     tipsController->setPage(0);
@@ -283,10 +282,7 @@ void DesktopShell::showWhatsNew() {
         whatsNewController = std::make_unique<WhatsNewWindow>([this] { showTips(); });
         whatsNewController->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
         QObject::connect(whatsNewController.get(), &QDialog::finished, whatsNewController.get(),
-                         [this] {
-                             parts_.store.set("updateReleaseNotes3_1", true);
-                             parts_.store.synchronize();
-                         });
+                         [this] { parts_.store.set("updateReleaseNotes3_1", true); });
     }
     whatsNewController->show();
     whatsNewController->raise();

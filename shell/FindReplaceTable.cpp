@@ -192,7 +192,6 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
         if (!loading_) {
             preferences_.onlyOneProfileChanged(on);
             load();
-            emit edited();
         }
     });
     connect(findTableView, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -219,10 +218,12 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
             describeRow(*item);
             showField();
         }
-        preferences_.setAllBoolsInChangePasteboard();
-        emit edited();
     });
-    connect(replaceTextField, &QLineEdit::textEdited, this, [this](const QString &text) {
+    // Not textEdited(), which is silent when an accessibility tool sets the text.
+    connect(replaceTextField, &QLineEdit::textChanged, this, [this](const QString &text) {
+        if (loading_) {
+            return;
+        }
         preferences_.controlTextDidChangeReplace(text.toStdU16String());
         if (auto *item = findTableView->currentItem()) {
             const QScopedValueRollback loading(loading_, true);
@@ -231,24 +232,20 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
         }
         replaceTextField->setPlaceholderText(
             QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
-        emit edited();
     });
-    connect(findTableView, &RuleList::dropped, this, [this](int row, int place) {
-        preferences_.acceptDrop({row}, place);
-        afterEdit();
-    });
+    connect(findTableView, &RuleList::dropped, this,
+            [this](int row, int place) { preferences_.acceptDrop({row}, place); });
     connect(findTableView, &RuleList::moveAsked, this, &FindReplaceTable::moveSelected);
     connect(up_, &QPushButton::clicked, this, [this] { moveSelected(-1); });
     connect(down_, &QPushButton::clicked, this, [this] { moveSelected(1); });
     const auto remove = [this] {
         preferences_.deleteFindReplace();
-        afterEdit();
+        showField(); // which says so where no row is selected
     };
     connect(findTableView, &RuleList::removeAsked, this, remove);
     connect(remove_, &QPushButton::clicked, this, remove);
     connect(add_, &QPushButton::clicked, this, [this] {
         preferences_.addNewFindReplace();
-        afterEdit();
         findTableView->setFocus();
         if (auto *item = findTableView->currentItem()) {
             findTableView->editItem(item);
@@ -295,6 +292,7 @@ void FindReplaceTable::addItem(const storage::PropertyValue &rule) {
 }
 
 void FindReplaceTable::showField() {
+    const QScopedValueRollback loading(loading_, true);
     const auto &list = preferences_.findReplaceList();
     const auto &field = list.field();
     const QString text = QString::fromStdU16String(field.text);
@@ -331,14 +329,7 @@ void FindReplaceTable::moveSelected(int by) {
     }
     preferences_.acceptDrop({row}, place);
     preferences_.selectedRow(place);
-    afterEdit();
-}
-
-void FindReplaceTable::afterEdit() {
     reload();
-    // The list alone would wait for the next save of something else.
-    preferences_.setAllBoolsInChangePasteboard();
-    emit edited();
 }
 
 } // namespace nerlo::shell

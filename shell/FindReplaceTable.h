@@ -43,15 +43,11 @@ class FindReplaceTable final : public QWidget {
     void updateUI(int mode);
     QString searchTexts() const;
 
-  signals:
-    void edited();
-
   private:
     void reload();
     void showField();
     void addItem(const storage::PropertyValue &rule);
     void moveSelected(int by);
-    void afterEdit();
 
     settings::nrPreferences &preferences_;
     QCheckBox *onlyOneProfile;

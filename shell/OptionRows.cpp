@@ -163,7 +163,6 @@ QCheckBox *OptionPage::makeCheckBox(const std::string &key) {
         if (!loading_) {
             preferences_.checkBoxChanged(key, on);
             updateDependents();
-            emit edited();
         }
     });
     controls_.emplace(key, box);
@@ -185,7 +184,6 @@ QComboBox *OptionPage::makeChoice(const std::string &key, QString &texts) {
         if (!loading_) {
             preferences_.comboBoxSelectionDidChange(key, index);
             updateDependents();
-            emit edited();
         }
     });
     controls_.emplace(key, choice);
@@ -201,7 +199,6 @@ QWidget *OptionPage::makeText(const std::string &key) {
         connect(number, &QSpinBox::valueChanged, this, [this](int seconds) {
             if (!loading_) {
                 preferences_.sUpdateStatisticksValue(QString::number(seconds).toStdU16String());
-                emit edited();
             }
         });
         controls_.emplace(key, number);
@@ -221,9 +218,11 @@ QWidget *OptionPage::makeText(const std::string &key) {
             }
         });
     }
-    connect(field, &QLineEdit::textEdited, this, [this, key](const QString &text) {
-        preferences_.controlTextDidChange(key, text.toStdU16String());
-        emit edited();
+    // Not textEdited(), which is silent when an accessibility tool sets the text.
+    connect(field, &QLineEdit::textChanged, this, [this, key](const QString &text) {
+        if (!loading_) {
+            preferences_.controlTextDidChange(key, text.toStdU16String());
+        }
     });
     controls_.emplace(key, field);
     return field;
@@ -232,7 +231,6 @@ QWidget *OptionPage::makeText(const std::string &key) {
 void OptionPage::addRules(QString &texts) {
     rules_ = new FindReplaceTable(preferences_);
     texts += ' ' + rules_->searchTexts();
-    connect(rules_, &FindReplaceTable::edited, this, &OptionPage::edited);
 }
 
 QWidget *OptionPage::control(std::string_view key) const {
@@ -242,21 +240,19 @@ QWidget *OptionPage::control(std::string_view key) const {
 
 void OptionPage::load() {
     const QScopedValueRollback loading(loading_, true);
-    const storage::PropertyDictionary &states = preferences_.controls();
     for (const auto &[key, widget] : controls_) {
-        const storage::PropertyValue *value = states.find(key);
+        const storage::PropertyValue state = preferences_.state(key);
         if (auto *box = qobject_cast<QCheckBox *>(widget)) {
-            box->setChecked(value && value->boolValue());
+            box->setChecked(state.boolValue());
         } else if (auto *choice = qobject_cast<QComboBox *>(widget)) {
-            const std::int64_t index = value ? value->integerValue() : 0;
+            const std::int64_t index = state.integerValue();
             choice->setCurrentIndex(index >= 0 && index < choice->count() ? static_cast<int>(index)
                                                                           : -1);
         } else if (auto *number = qobject_cast<QSpinBox *>(widget)) {
-            const std::int64_t seconds = value ? value->integerValue() : 0;
-            number->setValue(static_cast<int>(std::clamp<std::int64_t>(seconds, 1, longestDelay)));
+            number->setValue(
+                static_cast<int>(std::clamp<std::int64_t>(state.integerValue(), 1, longestDelay)));
         } else if (auto *field = qobject_cast<QLineEdit *>(widget)) {
-            const QString text =
-                value ? QString::fromStdU16String(value->stringValue()) : QString();
+            const QString text = QString::fromStdU16String(state.stringValue());
             // The place of the cursor is not lost to an equal text.
             if (field->text() != text) {
                 field->setText(text);

@@ -53,9 +53,6 @@ class OptionPage final : public QWidget {
     // Why the system does not give the program this shortcut; empty when it does.
     void setHotKeyProblem(std::string_view hotKey, const QString &problem);
 
-  signals:
-    void edited();
-
   private:
     struct Row {
         QWidget *widget;

@@ -60,11 +60,6 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     setObjectName("preferencesWindow");
     setWindowTitle(localized("sPreferencesWindowName"));
 
-    // Edits that wait for their delay count too: what the preview shows is what is cleaned.
-    previewParts.cleanClipboard = [this, clean = std::move(previewParts.cleanClipboard)] {
-        preferences_.savePending();
-        clean();
-    };
     preview_ = new PreviewPane(std::move(previewParts));
 
     pageList_->setObjectName("pageList");
@@ -106,7 +101,6 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
         auto *widget = new OptionPage(page, preferences_, makeRecorder);
         optionPages_.push_back(widget);
         addPage(localized(page.title), widget);
-        connect(widget, &OptionPage::edited, this, &PreferencesWindow::updatePreview);
     }
     splitter_->addWidget(preview_); // now, because the Tab key goes on to what came last
     splitter_->setStretchFactor(0, 3);
@@ -139,6 +133,7 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     pageList_->setCurrentRow(page >= 0 && page < pages_->count() ? static_cast<int>(page) : 0);
     profilesChanged();
     controlsLoaded();
+    edited();
 }
 
 PreferencesWindow::~PreferencesWindow() = default;
@@ -389,30 +384,19 @@ void PreferencesWindow::controlsLoaded() {
     for (OptionPage *page : optionPages_) {
         page->load();
     }
-    updatePreview();
 }
 
 void PreferencesWindow::updateUI(int mode) {
     for (OptionPage *page : optionPages_) {
         page->updateRules(mode);
     }
-    updatePreview();
 }
 
-void PreferencesWindow::updatePreview() {
-    settings::ProfileRecord options = preferences_.profileSelected();
-    for (const auto &[key, value] : preferences_.controls()) {
-        options.set(key, value);
-    }
-    const bool shared = preferences_.onlyOneProfile();
-    options.set("sOnlyOneProfile", shared ? 1 : 0);
-    options.set(shared ? "sFindAndReplaceItems" : "sFindAndReplaceItemsProfile",
-                preferences_.findReplaceList().items());
-    preview_->setOptions(std::move(options));
+void PreferencesWindow::edited() {
+    preview_->setOptions(preferences_.profileSelected());
 }
 
 void PreferencesWindow::addProfile() {
-    preferences_.savePending();
     preferences_.profilesAdd();
     const auto name = askForText(localized("Insert new profile name and click OK"),
                                  localized("sProfileName"), this);
@@ -435,7 +419,6 @@ void PreferencesWindow::remember() {
     store_.set(heightKey, height());
     const int page = pageBeforeSearch_ >= 0 ? pageBeforeSearch_ : pageList_->currentRow();
     store_.set(pageKey, page);
-    store_.synchronize();
 }
 
 void PreferencesWindow::closeEvent(QCloseEvent *event) {

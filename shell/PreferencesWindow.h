@@ -67,6 +67,7 @@ class PreferencesWindow final : public QMainWindow {
     void profilesChanged();
     void controlsLoaded();
     void updateUI(int mode);
+    void edited();
 
     // Asks, and adds or removes.
     void addProfile();
@@ -86,7 +87,6 @@ class PreferencesWindow final : public QMainWindow {
     void placePreview();
     void addPage(const QString &title, QWidget *page);
     void search(const QString &text);
-    void updatePreview();
     void remember();
 
     settings::nrPreferences &preferences_;

@@ -283,15 +283,8 @@ int main(int argc, char **argv) {
                                               mainQueue,
                                               [&] { preferences.profilesFileChanged(); });
 
-    // What was typed a moment before counts too.
-    commands.clean = [&] {
-        preferences.savePending();
-        delegate.clearFormattingFromClipboard();
-    };
-    commands.operation = [&](std::int32_t index) {
-        preferences.savePending();
-        engine.changePasteboardWithKeys(index);
-    };
+    commands.clean = [&] { delegate.clearFormattingFromClipboard(); };
+    commands.operation = [&](std::int32_t index) { engine.changePasteboardWithKeys(index); };
     commands.restore = [&](auto handler) { engine.restore(std::move(handler)); };
     commands.automatic = [&](shell::AutomaticMode mode) {
         const bool on = mode == shell::AutomaticMode::on ||
@@ -304,11 +297,10 @@ int main(int argc, char **argv) {
     commands.activate = [&] { delegate.applicationShouldHandleReopen(windows.hasVisibleWindow()); };
     commands.preferences = [&] { delegate.showPreferences(); };
     commands.profile = [&](const std::string &wanted) {
-        preferences.savePending(); // which may take over profiles of other processes
         const auto &items = preferences.profilesItems();
         const auto *item = settings::findProfile(items, wanted);
         if (item) {
-            preferences.profilesSelect(static_cast<int>(item - items.data()));
+            preferences.profilesSwitch(static_cast<int>(item - items.data()));
         }
         return item != nullptr;
     };
@@ -352,7 +344,13 @@ int main(int argc, char **argv) {
     perform(commandLine, commands);
     const int status = QCoreApplication::exec();
     bus.end();
-    preferences.savePending();
+    // Also what could not be written before; there is no window any more that could tell.
+    if (const auto error = preferences.savePending(); !error.empty()) {
+        complain(error);
+    }
+    if (!store.synchronize()) {
+        complain(store.error());
+    }
     store.setErrorHandler(nullptr); // the windows go before it
     return status;
 }

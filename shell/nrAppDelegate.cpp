@@ -96,7 +96,6 @@ void nrAppDelegate::showInMenuBar() {
         windows_.setTaskbarEntry(false);
         if (appOpened) {
             userDef.set(showInMenuBarKey, false);
-            userDef.synchronize();
         }
     } else if (showInMenuBarChecked()) {
         setStatusBar();
@@ -118,13 +117,11 @@ void nrAppDelegate::showInMenuBar() {
 
 void nrAppDelegate::setShowInMenuBar(bool on) {
     userDef.set(showInMenuBarKey, on);
-    userDef.synchronize();
     showInMenuBar();
 }
 
 void nrAppDelegate::setRunInTheBackground(bool on) {
     userDef.set(runInTheBackgroundKey, on);
-    userDef.synchronize();
     showInMenuBar();
 }
 
@@ -136,7 +133,6 @@ void nrAppDelegate::openPreferencesInFirstRun() {
     if (!userDef.boolForKey(firstRunPreferencesKey)) {
         newPreferencesWindow();
         userDef.set(firstRunPreferencesKey, true);
-        userDef.synchronize();
     }
 }
 
@@ -149,7 +145,6 @@ void nrAppDelegate::openTipsInFirstRun() {
     }
     aOpenTips();
     userDef.set(releaseNotesKey, true);
-    userDef.synchronize();
 }
 
 void nrAppDelegate::watchPasteboard() {
@@ -172,7 +167,6 @@ void nrAppDelegate::automaticallyClearFormatting() {
     }
     automatic_ = !automatic_;
     userDef.set(automaticKey, automatic_);
-    userDef.synchronize();
     windows_.stateChanged();
 }
 
@@ -180,7 +174,6 @@ void nrAppDelegate::disableAutomaticallyClearFormatting() {
     excelException_ = !excelException_;
     watcher_.toggleEngine(excelException_);
     userDef.set(disableAutomaticKey, excelException_);
-    userDef.synchronize();
     windows_.stateChanged();
     if (excelException_) {
         windows_.showAlert("Excel disabled", "With option \"Automatically clear formatting\"");
@@ -231,14 +224,12 @@ void nrAppDelegate::openReleaseNotesNerloPro() {
 
 void nrAppDelegate::aStayOnTop(bool on) {
     userDef.set(stayOnTopKey, on);
-    userDef.synchronize();
     windows_.setFloating(on);
 }
 
 void nrAppDelegate::launchOnStartup(bool on) {
     const std::string error = setStartAtLogin(on);
     userDef.set(launchOnStartupKey, error.empty() ? on : loginItem_.enabled());
-    userDef.synchronize();
     windows_.setProblem(ShellWindows::Problem::loginItem, error);
     windows_.stateChanged();
 }

@@ -56,7 +56,6 @@ void nrShortcutDefaultsObserver::valueChanged() {
     }
     const EchoGuard guard(internalPreferenceChange_);
     storeShortcut(store_, userDefaultsKey_, shortcutView_.shortcutValue());
-    store_.synchronize();
 }
 
 } // namespace nerlo::shortcuts

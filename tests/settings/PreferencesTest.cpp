@@ -27,6 +27,7 @@ TEST_F(FirstStart, WritesOneProfileAndTheStore) {
         throw std::runtime_error("no hot keys here");
     };
     setAllDefaultsInFirstRun(store, preferences);
+    store.synchronize();
     EXPECT_TRUE(shortcut);
     EXPECT_EQ(profilesIn(paths), (PropertyArray{firstStartProfile("fr")}));
     const PropertyDictionary expected{{"stayOnTop", false},
@@ -136,8 +137,8 @@ TEST(Files, OfTheOtherSystemLoadAndKeepWhatIsNotUnderstood) {
         Program program(folder);
         program.start();
         EXPECT_EQ(program.preferences.profileName(), u"Büro & E-Mail");
-        EXPECT_EQ(program.control("udSort"), PropertyValue(1));
-        EXPECT_EQ(program.control("udStatisticsValue"), PropertyValue(u"7"));
+        EXPECT_EQ(program.preferences.state("udSort"), PropertyValue(1));
+        EXPECT_EQ(program.preferences.state("udStatisticsValue"), PropertyValue(u"7"));
         EXPECT_EQ(program.store.integerForKey("udStatisticsValue"), 7);
         EXPECT_EQ(FindReplaceList::textOf(program.preferences.findReplaceList().items()[0], "find"),
                   u"<b>");
@@ -166,11 +167,10 @@ TEST_F(Saving, ThreeClicksAndATextEditGiveOneSaveTwoSecondsAfterTheEdit) {
     preferences.controlTextDidChange("udPrefixTextField", u"> ");
     queue.advance(1999ms);
     EXPECT_EQ(bytesOf(paths.profiles), before);
-    EXPECT_EQ(fills, 0);
+    EXPECT_EQ(*engine.find("udPrefixTextField"), PropertyValue(u"> ")) << "no delay for the engine";
     queue.advance(1ms);
-    EXPECT_NE(bytesOf(paths.profiles), before);
-    EXPECT_EQ(fills, 2); // with the list of rules, and with the profile
-    EXPECT_EQ(*engine.find("udPrefixTextField"), PropertyValue(u"> "));
+    EXPECT_EQ(fills, 4) << "one for each edit";
+    EXPECT_EQ(saved("udPrefixTextField"), PropertyValue(u"> "));
     EXPECT_EQ(saved("udRemoveAllTabs"), PropertyValue(1));
     EXPECT_EQ(queue.delayedCount(), 0u);
 }
@@ -184,41 +184,16 @@ TEST_F(Saving, AClickAfterATextEditShortensTheWait) {
     EXPECT_EQ(saved("udPrefixTextField"), PropertyValue(u"x"));
 }
 
-TEST_F(Saving, ComboBoxesReachTheEngineAtOnceAndTheFileWithTheNextSave) {
+TEST_F(Saving, AChoiceOfNoItemIsTheFirstForTheEngineAndNoneInTheFile) {
     start();
-    queue.advance(5s);
-    const std::string before = bytesOf(paths.profiles);
     preferences.comboBoxSelectionDidChange("udSortOption", 4);
-    EXPECT_EQ(*engine.find("udSortOption"), PropertyValue(4));
     preferences.comboBoxSelectionDidChange("udStatisticsDefaultPosition", 2);
     EXPECT_EQ(store.integerForKey("udStatisticsDefaultPosition"), 2);
-    queue.advance(5s);
-    EXPECT_EQ(bytesOf(paths.profiles), before);
-    // No item selected: 0 for the engine, and -1 in the file once it is saved.
     preferences.comboBoxSelectionDidChange("udChangeCaseOption", -1);
     EXPECT_EQ(*engine.find("udChangeCaseOption"), PropertyValue(0));
-    preferences.savePending();
+    queue.advance(1s);
     EXPECT_EQ(saved("udChangeCaseOption"), PropertyValue(-1));
     EXPECT_EQ(saved("udSortOption"), PropertyValue(4));
-}
-
-TEST_F(Saving, FieldsFollowTheLists) {
-    start();
-    preferences.comboBoxSelectionDidChange("udSortSeparator", 8);
-    preferences.comboBoxSelectionDidChange("udSortSeparator", -1);
-    EXPECT_FALSE(preferences.customSeparatorEnabled("udSortSeparator"));
-    using Fields = nrPreferences::ReturnsFields;
-    preferences.comboBoxSelectionDidChange("udChangeReturnsOption", 6);
-    EXPECT_EQ(preferences.returnsFields(),
-              (Fields{u"sIndent", false, true, u"Custom", false, u""}));
-    preferences.comboBoxSelectionDidChange("udChangeReturnsOption", 9);
-    EXPECT_EQ(preferences.returnsFields(),
-              (Fields{u"sTag", false, true, u"[img]", true, u"[/img]"}));
-    preferences.comboBoxSelectionDidChange("udChangeReturnsOption", -1);
-    EXPECT_EQ(preferences.returnsFields(),
-              (Fields{u"sIndent", true, false, u"Custom", false, u""}));
-    preferences.sUpdateStatisticksValue(u"12 s");
-    EXPECT_EQ(store.integerForKey("udStatisticsValue"), 12);
 }
 
 TEST_F(Profiles, SelectedPlaceBeyondTheListIsPulledBack) {
@@ -241,8 +216,7 @@ TEST_F(Profiles, AddSelectAndRemove) {
     preferences.profilesAdd();
     preferences.checkBoxChanged("udSort", true);
     queue.advance(2s);
-    EXPECT_EQ(saved("udSort"), PropertyValue(u"(absent)"))
-        << "nothing is saved while the name is asked for";
+    EXPECT_EQ(saved("udSort"), PropertyValue(0)) << "nothing is saved while the name is asked for";
     preferences.profilesAddingCloseWindow(u"");
     EXPECT_EQ(names().size(), 1u);
     preferences.profilesAdd();
@@ -253,9 +227,9 @@ TEST_F(Profiles, AddSelectAndRemove) {
     ASSERT_EQ(saved.size(), 2u);
     // Every key but the list that all profiles share.
     EXPECT_EQ(saved[1].as<PropertyDictionary>()->size(), profileKeys().size() - 1);
-    EXPECT_EQ(control("udChangeQuotes"), PropertyValue(0));
+    EXPECT_EQ(preferences.state("udChangeQuotes"), PropertyValue(0));
     preferences.profilesSelect(0);
-    EXPECT_EQ(control("udChangeQuotes"), PropertyValue(1));
+    EXPECT_EQ(preferences.state("udChangeQuotes"), PropertyValue(1));
     EXPECT_EQ(store.integerForKey("udStatisticsValue"), 3);
     EXPECT_EQ(store.integerForKey("udStatisticsDelaySwitcher"), 1);
     EXPECT_EQ(store.integerForKey("udStatisticsDefaultPosition"), 5);
@@ -277,24 +251,6 @@ TEST_F(Profiles, AddSelectAndRemove) {
     EXPECT_EQ(again[0].as<PropertyDictionary>()->size(), profileKeys().size() - 1);
 }
 
-TEST_F(Profiles, GuardsStopWhatHooksCallBack) {
-    start();
-    preferences.profilesAdd();
-    preferences.profilesAddingCloseWindow(u"second");
-    // Reading the controls while a profile is half loaded must not change it.
-    preferences.hooks().controlsLoaded = [&] { preferences.saveSelectedProfileInDictionary(); };
-    preferences.profilesSelect(0);
-    EXPECT_EQ(preferences.profileSelected(), preferences.profilesItems()[0].record);
-    preferences.hooks().controlsLoaded = {};
-    // A selection while the controls are read is ignored, also after it has come twice.
-    preferences.hooks().setAllBools = [&](const ProfileRecord &) { preferences.profilesSelect(1); };
-    preferences.saveSelectedProfileInDictionary();
-    preferences.hooks().setAllBools = {};
-    EXPECT_EQ(preferences.selectedItem(), 0);
-    preferences.profilesSelect(1);
-    EXPECT_EQ(preferences.selectedItem(), 1);
-}
-
 TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
     start();
     queue.advance(5s);
@@ -314,18 +270,8 @@ TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
     };
     switchesOn("udAddPrefix");
     preferences.profilesFileChanged();
-    EXPECT_EQ(control("udAddPrefix"), PropertyValue(1));
+    EXPECT_EQ(preferences.state("udAddPrefix"), PropertyValue(1));
     EXPECT_EQ(*engine.find("udAddPrefix"), PropertyValue(1));
-
-    // A combo box was used meanwhile, which no save follows by itself.
-    queue.advance(5s);
-    preferences.comboBoxSelectionDidChange("udSortOption", 4);
-    switchesOn("udAddSuffix");
-    preferences.profilesFileChanged();
-    queue.advance(1s);
-    EXPECT_EQ(control("udAddSuffix"), PropertyValue(1));
-    EXPECT_EQ(control("udSortOption"), PropertyValue(4));
-    EXPECT_EQ(saved("udSortOption"), PropertyValue(4));
 
     // It is removed from outside.
     othersRemoveTheFirst();
@@ -356,17 +302,19 @@ TEST_F(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanw
     EXPECT_EQ(profilesIn(paths), PropertyArray());
 }
 
-TEST_F(Profiles, AFailedWriteIsReportedAndGoesWithTheNextSave) {
+TEST_F(Profiles, AFailedWriteIsReportedAndTriedAgainAtTheEnd) {
     start();
     queue.advance(5s);
     const std::string data = folder / "data";
     std::filesystem::rename(data, folder / "elsewhere");
     putBytes(data, "a file in the way");
     preferences.checkBoxChanged("udSort", true);
-    EXPECT_FALSE(preferences.saveChangesInProfiles());
+    queue.advance(1s);
     EXPECT_NE(failure, "");
+    EXPECT_EQ(preferences.savePending(), failure);
     std::filesystem::remove(data);
-    EXPECT_TRUE(preferences.saveChangesInProfiles());
+    EXPECT_EQ(preferences.savePending(), "") << "tried again, though nothing has been edited";
+    EXPECT_EQ(failure, "");
     EXPECT_EQ(saved("udSort"), PropertyValue(1));
 }
 
@@ -375,7 +323,7 @@ TEST_F(Profiles, WhatCannotBeSavedStaysAndWhatOthersHaveSavedAppears) {
     std::filesystem::create_directories(lock); // cannot be held
     start();
     EXPECT_NE(failure, "");
-    EXPECT_EQ(preferences.profileSelected(), firstStartProfile("fr"));
+    EXPECT_EQ(preferences.profileName(), u"default");
     putBytes(paths.profiles, writeXml(named({u"imported"})));
     preferences.checkBoxChanged("udSort", true);
     queue.advance(1s);
@@ -415,6 +363,22 @@ TEST_F(FindReplace, TheSharedListAndTheProfilesOwn) {
     EXPECT_EQ(FindReplaceList::textOf((*shared().as<PropertyArray>())[0], "find"), u"ours");
     EXPECT_EQ(*engine.find("sFindAndReplaceItems"), shared());
     EXPECT_EQ(*engine.find("sOnlyOneProfile"), PropertyValue(1));
+
+    // What was typed just before the box was switched is in its list.
+    preferences.selectedRow(0);
+    preferences.controlTextDidChangeReplace(u"typed");
+    preferences.onlyOneProfileChanged(false);
+    EXPECT_EQ(preferences.findReplaceList().items(), PropertyArray{own});
+    preferences.selectedRow(0);
+    preferences.controlTextDidChangeReplace(u"typed too");
+    preferences.onlyOneProfileChanged(true);
+    const auto typed = [&] {
+        return FindReplaceList::textOf(preferences.findReplaceList().items()[0], "replace");
+    };
+    EXPECT_EQ(typed(), u"typed");
+    preferences.onlyOneProfileChanged(false);
+    EXPECT_EQ(typed(), u"typed too");
+    preferences.onlyOneProfileChanged(true);
 
     // The box keeps its state when another profile is selected, and at the next start.
     preferences.profilesAdd();
@@ -514,6 +478,7 @@ TEST(Migration, MovesTheOldOptionsIntoOneProfileOnce) {
         EXPECT_EQ(record.size(), 1u + 39 + 26 + 13);
         EXPECT_EQ(folder.count("profiles.nrp.replaced-"), 1) << "the file before is kept";
         EXPECT_EQ(program.store.find("stayOnTop"), nullptr);
+        program.store.synchronize();
         before = allFiles(folder);
     }
     Program program(folder);

@@ -54,9 +54,6 @@ struct Program {
         }
         return names;
     }
-    const PropertyValue &control(const char *key) const {
-        return *preferences.controls().find(key);
-    }
 
     SettingsPaths paths;
     test::MemoryMainQueue queue;

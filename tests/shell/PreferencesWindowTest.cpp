@@ -47,6 +47,7 @@ class Preferences : public ShellFixture {
         auto &hooks = preferences.hooks();
         hooks.profilesChanged = [this] { window->profilesChanged(); };
         hooks.controlsLoaded = [this] { window->controlsLoaded(); };
+        hooks.edited = [this] { window->edited(); };
         hooks.updateUI = [this](int mode) { window->updateUI(mode); };
         hooks.confirmRemoval = [this](const auto &name) { return window->confirmRemoval(name); };
         window->show();
@@ -253,10 +254,12 @@ TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
     clipboard = u"from  there";
     control<QPushButton>("previewTake").click();
     EXPECT_EQ(control<QPlainTextEdit>("previewBefore").toPlainText(), "from  there");
-    // The edits that wait for their delay count for the clean that is asked for.
     control<QPushButton>("previewApply").click();
     EXPECT_EQ(cleans, 1);
     EXPECT_EQ(stored("udAddSuffix"), 1);
+    // As an accessibility tool sets it.
+    control<QLineEdit>("udSuffixTextField").setText("?");
+    EXPECT_EQ(previewed("x"), "x?");
 }
 
 TEST_F(Preferences, ANarrowWindowHasThePreviewBelowTheOptions) {
