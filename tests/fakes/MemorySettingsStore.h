@@ -12,12 +12,7 @@ class MemorySettingsStore final : public storage::SettingsStore {
         replaceAll(std::move(values));
     }
 
-    bool synchronize() override {
-        ++synchronizations;
-        return true;
-    }
-
-    int synchronizations = 0;
+    bool synchronize() override { return true; }
 
   private:
     void changed(std::string_view) override {}

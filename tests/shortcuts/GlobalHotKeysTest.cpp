@@ -208,7 +208,6 @@ TEST_F(HotKeys, AControlAndItsKeyFollowEachOtherWithoutEcho) {
     {
         const nrShortcutDefaultsObserver observer(control, store, "sSort");
         EXPECT_EQ(control.value, superV);
-        EXPECT_EQ(store.synchronizations, 0);
 
         int storeChanges = 0;
         const auto watching = store.observeAll([&] { ++storeChanges; });
@@ -216,12 +215,10 @@ TEST_F(HotKeys, AControlAndItsKeyFollowEachOtherWithoutEcho) {
         control.setShortcutValue(superC);
         EXPECT_EQ(control.sets, 1); // no echo from the store
         EXPECT_EQ(storedShortcut(store, "sSort"), superC);
-        EXPECT_EQ(store.synchronizations, 1);
         EXPECT_TRUE(service.press(c, 0x1000));
 
         bound.setGlobalShortcut(superV, "sSort");
         EXPECT_EQ(control.value, superV);
-        EXPECT_EQ(store.synchronizations, 1); // no echo from the control
         EXPECT_EQ(storeChanges, 2);
 
         control.setShortcutValue(std::nullopt);
