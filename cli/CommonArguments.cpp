@@ -67,12 +67,17 @@ PropertyDictionary profileOptions(const std::string &nameOrIndex) {
             refuse("no profile \"" + nameOrIndex + "\"; `nerlo profiles` lists them");
         }
     } else if (!items.empty()) {
-        const storage::FileSettingsStore store(paths.store);
-        const auto place =
-            settings::selectedPlace(store.integerForKey("udSelectedProfileItem"), items.size());
-        item = &items[static_cast<std::size_t>(place)];
+        item = &items[static_cast<std::size_t>(selectedProfile(paths, items.size()))];
     }
-    return item ? settings::withSharedRules(item->record, paths) : defaultOptions();
+    if (!item) {
+        return defaultOptions();
+    }
+    std::string error;
+    PropertyDictionary options = settings::withSharedRules(item->record, paths, error);
+    if (!error.empty()) {
+        throw Failure(ExitStatus::ioFailed, error);
+    }
+    return options;
 }
 
 storage::PropertyValue readRules(const std::string &key, std::string_view text) {
@@ -137,6 +142,14 @@ void addOptions(CLI::App &command, OptionArguments &arguments) {
     command.add_option("--set", arguments.settings, "Change one key; may be given several times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
+}
+
+int selectedProfile(const settings::SettingsPaths &paths, std::size_t count) {
+    const storage::FileSettingsStore store(paths.store);
+    if (!store.loadError().empty()) {
+        throw Failure(ExitStatus::ioFailed, store.loadError());
+    }
+    return settings::selectedPlace(store.integerForKey("udSelectedProfileItem"), count);
 }
 
 PropertyDictionary defaultOptions() {

@@ -1,6 +1,7 @@
 // Arguments that several commands share.
 #pragma once
 
+#include "settings/SettingsPaths.h"
 #include "storage/PropertyValue.h"
 
 #include <string>
@@ -31,6 +32,10 @@ struct OptionArguments {
 };
 
 void addOptions(CLI::App &command, OptionArguments &arguments);
+
+// The place of the selected profile in a list of `count`. Throws Failure when the settings cannot be
+// read: with a profile that nobody chose, a text would be cleaned in a way that nobody asked for.
+int selectedProfile(const settings::SettingsPaths &paths, std::size_t count);
 
 // The settings that hold when nothing on the command line says otherwise.
 storage::PropertyDictionary defaultOptions();

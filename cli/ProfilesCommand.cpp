@@ -1,10 +1,10 @@
 // nerlo profiles: list, show, import and export.
 #include "cli/Commands.h"
+#include "cli/CommonArguments.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "settings/ProfilesFile.h"
 #include "settings/SettingsKeys.h"
-#include "storage/FileSettingsStore.h"
 #include "storage/PropertyList.h"
 #include "storage/SafeFile.h"
 #include "text/Utf.h"
@@ -86,9 +86,7 @@ struct Profiles {
 
 void list(bool asJson) {
     const Profiles profiles;
-    const storage::FileSettingsStore store(profiles.paths.store);
-    const int selected = settings::selectedPlace(store.integerForKey("udSelectedProfileItem"),
-                                                 profiles.items.size());
+    const int selected = selectedProfile(profiles.paths, profiles.items.size());
     std::string text;
     ordered_json array = ordered_json::array();
     for (int place = 0; const ProfileItem &item : profiles.items) {

@@ -143,10 +143,11 @@ int selectedPlace(std::int64_t stored, std::size_t count) {
     return stored < 0 || stored >= size ? 0 : static_cast<int>(stored);
 }
 
-ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths) {
+ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths,
+                              std::string &error) {
     const PropertyValue *onlyOne = record.find("sOnlyOneProfile");
     if (onlyOne && onlyOne->boolValue()) {
-        if (auto shared = readSharedFindReplace(paths)) {
+        if (auto shared = readSharedFindReplace(paths, storage::FileCalls::system(), &error)) {
             record.set("sFindAndReplaceItems", std::move(*shared));
         }
     }

@@ -82,8 +82,8 @@ class ProfilesFile {
 int selectedPlace(std::int64_t stored, std::size_t count);
 
 // A profile for programs that clean with it and edit nothing: where one list of rules is used for
-// all profiles, the list as it stands in its file.
-ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths);
+// all profiles, the list as it stands in its file. When that file is unusable, `error` says why.
+ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths, std::string &error);
 
 // The list of rules that all profiles may share. Nothing when the file is missing or unusable; of
 // the latter, `error` says why.

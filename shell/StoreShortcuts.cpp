@@ -21,10 +21,17 @@ int storeShortcuts(const std::vector<std::string> &wanted) {
         }
     }
     storage::FileSettingsStore store(settings::SettingsPaths::standard().store);
+    if (!store.loadError().empty()) {
+        return complain(store.loadError());
+    }
     for (const auto &change : changes) {
         shortcuts::storeShortcut(store, change.key, change.shortcut);
     }
-    return store.synchronize() ? succeeded : complain(store.error());
+    if (!store.synchronize()) {
+        store.forgetChanges(); // reported as not stored, so they must not be stored later either
+        return complain(store.error());
+    }
+    return succeeded;
 }
 
 } // namespace nerlo::shell

@@ -28,6 +28,9 @@ class FileSettingsStore final : public SettingsStore {
     // writes it if that makes a difference.
     bool synchronize() override;
 
+    // Nothing that was changed here and not yet written will be written.
+    void forgetChanges() { dirty_.clear(); }
+
     // Takes over what other processes have written; to be called when the folder has changed.
     void fileChanged();
 

@@ -102,10 +102,33 @@ TEST_F(Profiles, WhatCannotBeUsedIsNamedAndNothingIsChanged) {
         EXPECT_NE(ended.err.find(row.message), std::string::npos) << row.shows << ": " << ended.err;
     }
     EXPECT_EQ(bytesOf(folder / "data/nerlo-pro/Data/profiles.nrp"), writeXml(PropertyArray{upper}));
+}
+
+// Other options than those that were asked for are worse than none.
+TEST_F(Profiles, DamagedFilesThatAreNeededAreNamedAndStay) {
+    const std::string profiles = folder / "data/nerlo-pro/Data/profiles.nrp";
+    const std::string shared = folder / "data/nerlo-pro/Data/profilesFR.nrp";
+    const std::string store = folder / "config/nerlo-pro/defaults.plist";
+    const auto expectRefused = [&](const std::string &file, std::vector<std::string> arguments) {
+        const std::string before = bytesOf(file);
+        const Ended ended = nerlo(arguments, "x");
+        EXPECT_EQ(ended.status, 1) << arguments[0] << " without " << file;
+        EXPECT_EQ(ended.out, "");
+        EXPECT_NE(ended.err.find(file), std::string::npos) << ended.err;
+        EXPECT_EQ(bytesOf(file), before);
+    };
+    putProfiles(writeXml(PropertyArray{PropertyDictionary{{"sOnlyOneProfile", 1}}, upper}));
+    putBytes(store, "damaged");
+    expectRefused(store, {"clean"});
+    expectRefused(store, {"profiles"});
+    EXPECT_EQ(nerlo({"clean", "--profile", "1"}, "x").out, "X") << "which needs no store";
+    putBytes(store, writeXml(PropertyDictionary{{"udSelectedProfileItem", 0}}));
+    putBytes(shared, writeXml(upper));
+    expectRefused(shared, {"clean"});
+    EXPECT_EQ(nerlo({"clean", "--profile", "1"}, "x").out, "X") << "which has its own rules";
     putProfiles("damaged");
-    EXPECT_EQ(nerlo({"clean"}, "x").status, 1);
-    EXPECT_EQ(nerlo({"profiles", "import", "-"}, writeXml(upper)).status, 1);
-    EXPECT_EQ(bytesOf(folder / "data/nerlo-pro/Data/profiles.nrp"), "damaged");
+    expectRefused(profiles, {"clean"});
+    expectRefused(profiles, {"profiles", "import", "-"});
 }
 
 } // namespace
