@@ -61,19 +61,26 @@ std::string cleanPieces(TextReader &reader, const engine::Operation &operation,
     return clean;
 }
 
-CleanText cleanFile(const std::string &file, Progress &progress, const engine::Operation *operation,
+CleanText cleanText(TextReader &reader, const engine::Operation *operation,
                     const engine::CleaningContext &context) {
-    TextReader reader(file, progress);
-    CleanText clean;
     if (operation && operation->inPieces && operation->inPieces(context.options)) {
-        clean = cleanPieces(reader, *operation, context);
-    } else {
-        std::u16string text = reader.readAll();
-        clean = operation ? operation->run(std::move(text), context)
-                          : engine::runPipeline(std::move(text), context);
+        return cleanPieces(reader, *operation, context);
     }
-    progress.addDone(reader.bytes());
-    return clean;
+    std::u16string text = reader.readAll();
+    return operation ? operation->run(std::move(text), context)
+                     : engine::runPipeline(std::move(text), context);
+}
+
+// A file keeps its byte order mark and, if it had one, a line break at its end, which is then of
+// the kind that the clean text has.
+void rewrite(const std::string &file, const TextReader &reader, CleanText text) {
+    std::string ending;
+    if (!reader.finalBreak().empty() && !endsWithBreak(text)) {
+        ending = lastBreak(text).empty() ? reader.finalBreak() : lastBreak(text);
+    }
+    const CleanText parts[] = {std::string(reader.byteOrderMark() ? "\xEF\xBB\xBF" : ""),
+                               std::move(text), std::move(ending)};
+    replaceFile(file, parts);
 }
 
 ExitStatus runClean(const CleanArguments &arguments) {
@@ -91,9 +98,11 @@ ExitStatus runClean(const CleanArguments &arguments) {
     Progress progress;
     for (const std::string &file : files) {
         try {
-            CleanText text = cleanFile(file, progress, operation, context);
+            TextReader reader(file, progress);
+            CleanText text = cleanText(reader, operation, context);
+            progress.addDone(reader.bytes());
             if (arguments.inPlace) {
-                replaceFile(file, text);
+                rewrite(file, reader, std::move(text));
             } else {
                 cleaned.push_back(std::move(text));
             }
@@ -118,7 +127,9 @@ void addClean(CLI::App &app, ExitStatus &status) {
     command->footer(
         "Reads the files, or standard input, as UTF-8 and writes the cleaned text to standard\n"
         "output, with no line break added. Several files are cleaned each on its own and written\n"
-        "one after another. Unless every input could be read, nothing is written.\n"
+        "one after another, with a line break between them where one lacks it. Unless every\n"
+        "input could be read, nothing is written. A file that is rewritten keeps a line break\n"
+        "at its end and a byte order mark.\n"
         "\n"
         "--options takes a property list, XML or binary; a key that it lacks is off, 0 or empty.\n"
         "Without it, the profile holds that --profile names or that is selected in the desktop\n"
@@ -141,8 +152,8 @@ void addClean(CLI::App &app, ExitStatus &status) {
         ->type_name("INDEX|NAME");
     addOptions(*command, arguments->options);
     addLocale(*command, arguments->locale);
-    command->add_flag("--in-place", arguments->inPlace,
-                      "Rewrite each file; one that fails stays as it was");
+    command->add_flag("-i,--in-place", arguments->inPlace,
+                      "Rewrite each file that changes; one that fails stays as it was");
     addFiles(*command, arguments->files);
     command->callback([arguments, &status] { status = runClean(*arguments); });
 }

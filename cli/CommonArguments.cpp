@@ -107,10 +107,22 @@ void applySetting(const std::string &setting, PropertyDictionary &options) {
     options.set(key, std::move(*parsed.value));
 }
 
+// The library's own lists of texts read "{}" as an empty list.
+CLI::Option *addTexts(CLI::App &command, const std::string &name, std::vector<std::string> &texts,
+                      const std::string &description) {
+    return command
+        .add_option(name, CLI::callback_t([&texts](const CLI::results_t &values) {
+                        texts = values;
+                        return true;
+                    }),
+                    description)
+        ->expected(CLI::detail::expected_max_vector_size);
+}
+
 } // namespace
 
 void addFiles(CLI::App &command, std::vector<std::string> &files) {
-    command.add_option("files", files, "The files to read; none or \"-\" is standard input")
+    addTexts(command, "files", files, "The files to read; none or \"-\" is standard input")
         ->option_text("FILE...");
 }
 
@@ -139,7 +151,7 @@ void addOptions(CLI::App &command, OptionArguments &arguments) {
         .add_option("--profile", arguments.profile,
                     "Take the options from this profile instead of the selected one")
         ->type_name("NAME|INDEX");
-    command.add_option("--set", arguments.settings, "Change one key; may be given several times")
+    addTexts(command, "--set", arguments.settings, "Change one key; may be given several times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
 }

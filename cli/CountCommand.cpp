@@ -58,7 +58,7 @@ std::string row(const TextStatistics &counts, const std::string &file) {
     for (const Column &column : columns) {
         line += cell(std::to_string(counts.*column.count));
     }
-    return line + (file.empty() ? "" : "  " + file) + "\n";
+    return line + (file.empty() ? "" : "  " + withoutControls(file)) + "\n";
 }
 
 // `file` is empty for standard input that nobody named.

@@ -23,7 +23,12 @@ class Failure : public std::runtime_error {
     ExitStatus status;
 };
 
-// Writes "nerlo: MESSAGE" and a line break to standard error.
-void report(const std::string &message);
+// `text`, in which control characters are question marks: a terminal would act on them. They come
+// from names of files and from files.
+std::string withoutControls(std::string text);
+
+// Writes "nerlo: MESSAGE" and a line break to standard error, to a terminal without control
+// characters; then the hint, if there is one, on a line of its own.
+void report(const std::string &message, const std::string &hint = {});
 
 } // namespace nerlo::cli

@@ -137,12 +137,29 @@ bool TextReader::readBlock(std::u16string &text) {
         }
         bytes_ += count;
         progress_.addRead(count);
+        ending_.append(block_.get() + count - std::min<std::size_t>(count, 2),
+                       block_.get() + count);
+        ending_.erase(0, ending_.size() - std::min<std::size_t>(ending_.size(), 2));
+    }
+    if (!begun_ && !text.empty()) {
+        begun_ = true;
+        byteOrderMark_ = text.front() == u'\uFEFF';
+        text.erase(0, byteOrderMark_ ? 1 : 0);
     }
     if (decoder_.invalidAt()) {
         throw Failure(ExitStatus::ioFailed,
                       name_ + ": invalid UTF-8 at byte " + std::to_string(*decoder_.invalidAt()));
     }
     return count != 0;
+}
+
+std::string_view TextReader::finalBreak() const {
+    const std::string_view ending = ending_;
+    if (ending == "\r\n") {
+        return ending;
+    }
+    const bool isBreak = ending.ends_with('\n') || ending.ends_with('\r');
+    return ending.substr(ending.size() - (isBreak ? 1 : 0));
 }
 
 void TextReader::readPieces(

@@ -57,8 +57,8 @@ std::size_t readSome(int descriptor, char *data, std::size_t size, const std::st
 // Everything up to the end of the input. Throws as readSome().
 Bytes readBytes(int descriptor, const std::string &name, Progress &progress);
 
-// A text that arrives in blocks. Every function throws Failure when the file cannot be read or is
-// not well-formed UTF-8.
+// A text that arrives in blocks. A byte order mark in front is no part of it. Every function throws
+// Failure when the file cannot be read or is not well-formed UTF-8.
 class TextReader {
   public:
     // "-" is standard input.
@@ -75,6 +75,10 @@ class TextReader {
                     const std::function<void(std::u16string &piece)> &take);
     // Bytes read so far.
     std::size_t bytes() const { return bytes_; }
+    // Of what has been read so far: whether a byte order mark was in front, and the line break at
+    // the end ("\n", "\r\n", "\r"), empty where there is none.
+    bool byteOrderMark() const { return byteOrderMark_; }
+    std::string_view finalBreak() const;
 
   private:
     // Appends the next block to `text`; false at the end of the text.
@@ -86,6 +90,9 @@ class TextReader {
     text::Utf8Decoder decoder_;
     std::unique_ptr<char[]> block_;
     std::size_t bytes_ = 0;
+    bool begun_ = false; // the first unit has arrived
+    bool byteOrderMark_ = false;
+    std::string ending_; // the last two bytes
 };
 
 // Room for so many bytes, in large pages if it is much: that makes the first use several

@@ -4,10 +4,12 @@
 #include "cli/Input.h"
 #include "text/Utf.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 
 #include <sys/stat.h>
@@ -34,21 +36,50 @@ int writeAll(int descriptor, std::string_view bytes) {
     return 0;
 }
 
-int writeText(int descriptor, std::u16string_view text) {
+// Takes bytes in order; returns 0, or what is to end the giving.
+using Sink = std::function<int(std::string_view bytes)>;
+
+int giveEncoded(std::u16string_view text, const Sink &sink) {
     const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
     while (!text.empty()) {
         const std::size_t size = text::encodeUtf8(text, {block.get(), blockSize});
-        if (const int error = writeAll(descriptor, {block.get(), size})) {
+        if (const int error = sink({block.get(), size})) {
             return error;
         }
     }
     return 0;
 }
 
-int write(int descriptor, const CleanText &text) {
+int give(const CleanText &text, const Sink &sink) {
     const auto *bytes = std::get_if<std::string>(&text);
-    return bytes ? writeAll(descriptor, *bytes)
-                 : writeText(descriptor, std::get<std::u16string>(text));
+    return bytes ? sink(*bytes) : giveEncoded(std::get<std::u16string>(text), sink);
+}
+
+Sink writerTo(int descriptor) {
+    return [descriptor](std::string_view bytes) { return writeAll(descriptor, bytes); };
+}
+
+bool isEmpty(const CleanText &text) {
+    return std::visit([](const auto &units) { return units.empty(); }, text);
+}
+
+bool holdsAlready(const std::string &file, std::span<const CleanText> parts) {
+    const InputFile input(file);
+    const auto block = std::make_unique_for_overwrite<char[]>(blockSize);
+    const Sink compare = [&](std::string_view bytes) {
+        while (!bytes.empty()) {
+            const std::size_t size =
+                readSome(input.descriptor(), block.get(), std::min(bytes.size(), blockSize), file);
+            if (size == 0 || !bytes.starts_with(std::string_view(block.get(), size))) {
+                return -1;
+            }
+            bytes.remove_prefix(size);
+        }
+        return 0;
+    };
+    return std::ranges::all_of(parts,
+                               [&](const CleanText &part) { return give(part, compare) == 0; }) &&
+           readSome(input.descriptor(), block.get(), 1, file) == 0;
 }
 
 void checkOutput(int error) {
@@ -137,9 +168,40 @@ void writeOutput(std::string_view bytes) {
 }
 
 void writeOutput(std::span<const CleanText> texts) {
+    const Sink output = writerTo(STDOUT_FILENO);
+    bool lineOpen = false;
     for (const CleanText &text : texts) {
-        checkOutput(write(STDOUT_FILENO, text));
+        if (isEmpty(text)) {
+            continue;
+        }
+        checkOutput(lineOpen ? output("\n") : 0);
+        checkOutput(give(text, output));
+        lineOpen = !endsWithBreak(text);
     }
+}
+
+bool endsWithBreak(const CleanText &text) {
+    return std::visit(
+        [](const auto &units) {
+            return !units.empty() && (units.back() == '\n' || units.back() == '\r');
+        },
+        text);
+}
+
+std::string_view lastBreak(const CleanText &text) {
+    return std::visit(
+        [](const auto &units) -> std::string_view {
+            const auto last = std::find_if(units.rbegin(), units.rend(),
+                                           [](auto unit) { return unit == '\n' || unit == '\r'; });
+            if (last == units.rend()) {
+                return {};
+            }
+            if (*last == '\r') {
+                return "\r";
+            }
+            return last + 1 != units.rend() && last[1] == '\r' ? "\r\n" : "\n";
+        },
+        text);
 }
 
 void closeOutput() {
@@ -149,7 +211,7 @@ void closeOutput() {
     }
 }
 
-void replaceFile(const std::string &file, const CleanText &text) {
+void replaceFile(const std::string &file, std::span<const CleanText> parts) {
     const auto check = [&](int error) {
         if (error != 0) {
             throw Failure(ExitStatus::ioFailed, systemMessage(file, error));
@@ -168,9 +230,15 @@ void replaceFile(const std::string &file, const CleanText &text) {
         throw Failure(ExitStatus::ioFailed, file + ": not a regular file");
     }
 
+    if (holdsAlready(target, parts)) {
+        return;
+    }
+
     const SignalsHeld held;
     TemporaryFile temporary(target);
-    check(write(temporary.descriptor(), text));
+    for (const CleanText &part : parts) {
+        check(give(part, writerTo(temporary.descriptor())));
+    }
     check(copyOwnerAndMode(status, temporary.descriptor()));
     // On the disk before it takes the name: a power cut must not leave an empty file.
     check(fsync(temporary.descriptor()) == 0 ? 0 : errno);

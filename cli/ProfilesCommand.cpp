@@ -91,11 +91,9 @@ void list(bool asJson) {
     ordered_json array = ordered_json::array();
     for (int place = 0; const ProfileItem &item : profiles.items) {
         const bool isSelected = place == selected;
-        // One line each, whatever it is named: terminals act on control characters.
-        std::string shown = nameIn(item);
-        std::ranges::replace_if(
-            shown, [](unsigned char c) { return c < 0x20 || c == 0x7f; }, '?');
-        text += std::string(isSelected ? "* " : "  ") + std::to_string(place) + "  " + shown + '\n';
+        // One line each, whatever it is named.
+        text += std::string(isSelected ? "* " : "  ") + std::to_string(place) + "  " +
+                withoutControls(nameIn(item)) + '\n';
         array.push_back({{"index", place}, {"name", nameIn(item)}, {"selected", isSelected}});
         ++place;
     }

@@ -1,17 +1,20 @@
 // nerlo: text cleaning for pipes, scripts and editors.
 #include "cli/Commands.h"
+#include "cli/LiteralArguments.h"
 #include "cli/Output.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <new>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -32,6 +35,12 @@ void occupyStandardDescriptors() {
     }
 }
 
+// Arguments that make no sense; the help tells which do.
+struct Misuse : Failure {
+    explicit Misuse(const std::string &message)
+        : Failure(ExitStatus::unusableArguments, message) {}
+};
+
 // The parser would take the next argument, most often a file, for the value of "--locale=".
 void refuseEmptyValues(std::span<char *const> arguments) {
     for (const std::string_view argument : arguments) {
@@ -39,14 +48,45 @@ void refuseEmptyValues(std::span<char *const> arguments) {
             return;
         }
         if (argument.starts_with("--") && argument.find('=') == argument.size() - 1) {
-            throw Failure(ExitStatus::unusableArguments,
-                          std::string(argument) + " lacks its value\nTry `nerlo --help`.");
+            throw Misuse(std::string(argument) + " lacks its value");
         }
     }
 }
 
-ExitStatus run(int argc, char **argv) {
-    refuseEmptyValues({argv, static_cast<std::size_t>(argc)});
+// The parser calls a mistyped command just an argument that it did not expect.
+void refuseUnknownCommand(const CLI::App &app) {
+    const auto chosen = app.get_subcommands();
+    if (!chosen.empty()) {
+        refuseUnknownCommand(*chosen.front());
+        return;
+    }
+    const std::vector<std::string> extras = app.remaining();
+    const auto command = std::ranges::find_if(
+        extras, [](const std::string &argument) { return !argument.starts_with('-'); });
+    if (command != extras.end() && !app.get_subcommands(nullptr).empty()) {
+        throw Misuse("unknown command \"" + withoutMarks(*command) + "\"");
+    }
+}
+
+void parse(CLI::App &app, std::span<char *const> arguments) {
+    refuseEmptyValues(arguments);
+    unmarkValues(app);
+    try {
+        app.parse(markedArguments(arguments));
+        if (app.get_subcommands().empty()) {
+            throw CLI::RequiredError("A command");
+        }
+    } catch (const CLI::CallForVersion &) {
+        writeOutput(app.version() + "\n");
+    } catch (const CLI::CallForHelp &) {
+        writeOutput(app.help());
+    } catch (const CLI::ParseError &error) {
+        refuseUnknownCommand(app);
+        throw Misuse(withoutMarks(error.what()));
+    }
+}
+
+ExitStatus run(std::span<char *const> arguments) {
     CLI::App app("Cleans text: spaces, line breaks, quotes, bullets, reply marks, tags and more.",
                  "nerlo");
     app.set_version_flag("--version", "nerlo " NERLO_VERSION, "Print the version and end");
@@ -57,19 +97,7 @@ ExitStatus run(int argc, char **argv) {
     for (const auto add : commands) {
         add(app, status);
     }
-    try {
-        app.parse(argc, argv);
-        if (app.get_subcommands().empty()) {
-            throw CLI::RequiredError("A command");
-        }
-    } catch (const CLI::CallForVersion &) {
-        writeOutput(app.version() + "\n");
-    } catch (const CLI::CallForHelp &) {
-        writeOutput(app.help());
-    } catch (const CLI::ParseError &error) {
-        throw Failure(ExitStatus::unusableArguments,
-                      std::string(error.what()) + "\nTry `nerlo --help`.");
-    }
+    parse(app, arguments);
     closeOutput();
     return status;
 }
@@ -85,9 +113,12 @@ int main(int argc, char **argv) {
     occupyStandardDescriptors();
     ExitStatus status = ExitStatus::done;
     try {
-        status = run(argc, argv);
+        status = run({argv, static_cast<std::size_t>(argc)});
     } catch (const ClosedPipe &) {
         // Whoever read has enough.
+    } catch (const Misuse &misuse) {
+        report(misuse.what(), "Try `nerlo --help`.");
+        status = misuse.status;
     } catch (const Failure &failure) {
         report(failure.what());
         status = failure.status;

@@ -1,6 +1,8 @@
 // Where the output goes, and what happens when it cannot go there.
 #include "tests/cli/RunNerlo.h"
 
+#include <nlohmann/json.hpp>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -104,6 +106,64 @@ TEST(InPlace, KeepsModeAndLinkAndLeavesNothingBehind) {
     }
 }
 
+TEST(InPlace, KeepsTheEndTheMarkAndAFileThatStaysTheSame) {
+    const TemporaryFolder folder;
+    const struct {
+        const char *before;
+        const char *after;
+    } rows[] = {
+        {"a  b\n", "a b\n"},
+        {"a  b\r\n", "a b\r\n"},
+        {"a  b\r", "a b\r"},
+        {"a  b", "a b"},
+        {"a.\r\n\r\nb. \r\n", "a.\nb.\n"},
+        {"\n", "\n"},
+        {"\xEF\xBB\xBF a  b\n", "\xEF\xBB\xBF"
+                                "a b\n"},
+        {"\xEF\xBB\xBF", "\xEF\xBB\xBF"},
+    };
+    const auto clean = [&] {
+        return NerloRun{{"clean", "-i", folder / "file"}, "", {}, {}}.toEnd();
+    };
+    const auto inode = [&] {
+        struct stat status {};
+        return stat((folder / "file").c_str(), &status) == 0 ? status.st_ino : 0;
+    };
+    for (const auto &[before, after] : rows) {
+        putBytes(folder / "file", before);
+        EXPECT_EQ(clean().status, 0);
+        EXPECT_EQ(bytesOf(folder / "file"), after);
+        const auto cleaned = inode();
+        EXPECT_EQ(clean().status, 0);
+        EXPECT_EQ(inode(), cleaned) << "rewritten: " << after;
+    }
+}
+
+// No name is a list, an end of a list or an option in disguise.
+TEST(Arguments, AreTakenAsTheyAre) {
+    const TemporaryFolder folder;
+    const std::vector<std::string> names{"[a]", "[a,b]", "[]", "{}", "++", "\1x", "--x=[q]", "--"};
+    for (const std::string &name : names) {
+        putBytes(folder / name, name + "  .");
+        const std::string before = "cd " + folder.path();
+        EXPECT_EQ((NerloRun{{"clean", "--", name}, "", {}, before}.toEnd().out), name + ".");
+        if (!name.starts_with("--")) {
+            EXPECT_EQ((NerloRun{{"clean", name}, "", {}, before}.toEnd().out), name + ".");
+            const Ended count = NerloRun{{"count", "--json", name}, "", {}, before}.toEnd();
+            EXPECT_EQ(nlohmann::json::parse(count.out)["file"], name);
+        }
+        for (const char *option : {"--set", "--operation", "--profile", "--options"}) {
+            const Ended ended = NerloRun{{"clean", option + ("=" + name)}, "a", {}, before}.toEnd();
+            EXPECT_NE(ended.status, 0) << option << " " << name;
+            EXPECT_NE(ended.err.find(name.substr(0, name.find('='))), std::string::npos)
+                << ended.err;
+        }
+    }
+    const Ended glued =
+        NerloRun{{"clean", "[a]", "--", "[]", "--"}, "", {}, "cd " + folder.path()}.toEnd();
+    EXPECT_EQ(glued.out, "[a].\n[].\n--.");
+}
+
 TEST(InPlace, BadFilesStayAndGoodOnesAreCleaned) {
     const TemporaryFolder folder;
     putBytes(folder / "bad", "a  b\xFF");
@@ -122,7 +182,7 @@ TEST(InPlace, BadFilesStayAndGoodOnesAreCleaned) {
 
 TEST(InPlace, FailedWriteLeavesTheOldFile) {
     const TemporaryFolder folder;
-    const std::string before(20000, 'a');
+    const std::string before = "a  " + std::string(20000, 'a');
     putBytes(folder / "file", before);
     const Ended ended =
         NerloRun{{"clean", "--in-place", folder / "file"}, "", {}, "ulimit -f 19"}.toEnd();

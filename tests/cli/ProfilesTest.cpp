@@ -111,7 +111,7 @@ TEST_F(Profiles, DamagedFilesThatAreNeededAreNamedAndStay) {
     const std::string store = folder / "config/nerlo-pro/defaults.plist";
     const auto expectRefused = [&](const std::string &file, std::vector<std::string> arguments) {
         const std::string before = bytesOf(file);
-        const Ended ended = nerlo(arguments, "x");
+        const Ended ended = nerlo(arguments, writeXml(upper));
         EXPECT_EQ(ended.status, 1) << arguments[0] << " without " << file;
         EXPECT_EQ(ended.out, "");
         EXPECT_NE(ended.err.find(file), std::string::npos) << ended.err;
