@@ -1,6 +1,7 @@
 #include "shell/HotKeyCommands.h"
 
 #include "engine/Operations.h"
+#include "platform/SystemHotKeys.h"
 #include "settings/SettingsKeys.h"
 #include "shell/Commands.h"
 #include "shortcuts/ShortcutTexts.h"
@@ -26,6 +27,17 @@ std::string_view nameOfCommand(std::string_view key) {
     const auto rows = engine::operations();
     const auto row = std::ranges::find(rows, key, &engine::Operation::hotKey);
     return row == rows.end() ? cleanName : row->name;
+}
+
+// Of every command, by its settings key.
+std::map<std::string, std::optional<shortcuts::nrShortcut>>
+storedShortcuts(const storage::SettingsStore &store) {
+    std::map<std::string, std::optional<shortcuts::nrShortcut>> stored{
+        {std::string(cleanHotKey), shortcuts::storedShortcut(store, cleanHotKey)}};
+    for (const auto &operation : engine::operations()) {
+        stored.emplace(operation.hotKey, shortcuts::storedShortcut(store, operation.hotKey));
+    }
+    return stored;
 }
 
 std::string finding(const platform::HotKeyStatus &status) {
@@ -88,6 +100,8 @@ std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &ho
             lines.push_back(std::string(nameOfCommand(key)) + "=" +
                             text::utf16ToUtf8(shortcut->spelledOutName(english)) + ": " +
                             finding(hotKey->status()));
+        } else if (hotKeys.store().find(key)) {
+            lines.push_back(std::string(nameOfCommand(key)) + ": what is stored is no shortcut");
         }
     }
     return lines;
@@ -118,12 +132,39 @@ ShortcutChange parseShortcutChange(std::string_view text, const platform::Keyboa
         return failed("There are no keys '" + std::string(keys) +
                       "'; they are written like \"Ctrl+Super+Alt+Shift+V\".");
     }
-    // What cannot be recorded either.
-    if (!change.shortcut->isValid() || change.shortcut->shouldBypass(english) ||
-        change.shortcut->keyCodeString(english).empty()) {
-        return failed("'" + std::string(keys) + "' cannot be a global shortcut.");
-    }
     return change;
+}
+
+std::string refusalOf(std::span<const ShortcutChange> changes, const storage::SettingsStore &store,
+                      const platform::KeyboardLayout &layout,
+                      platform::SystemHotKeys &systemHotKeys,
+                      std::span<const shortcuts::MenuItem> mainMenu) {
+    const shortcuts::ShortcutTexts english(layout);
+    auto after = storedShortcuts(store);
+    for (const auto &change : changes) {
+        after[change.key] = change.shortcut;
+    }
+    for (const auto &change : changes) {
+        if (!change.shortcut) {
+            continue;
+        }
+        const auto &shortcut = *change.shortcut;
+        const std::string keys = "'" + text::utf16ToUtf8(shortcut.spelledOutName(english)) + "'";
+        if (!shortcut.isValid() || shortcut.shouldBypass(english) ||
+            shortcut.keyCodeString(english).empty()) {
+            return keys + " cannot be a global shortcut.";
+        }
+        shortcuts::ShortcutError error;
+        if (shortcut.isTakenError(&error, english, systemHotKeys, mainMenu)) {
+            return keys + ": " + text::utf16ToUtf8(error.localizedDescription);
+        }
+        for (const auto &[key, other] : after) {
+            if (key != change.key && other == shortcut) {
+                return keys + " is the shortcut of '" + std::string(nameOfCommand(key)) + "'.";
+            }
+        }
+    }
+    return {};
 }
 
 } // namespace nerlo::shell

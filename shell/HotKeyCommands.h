@@ -6,12 +6,19 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+namespace nerlo::platform {
+class SystemHotKeys;
+}
 namespace nerlo::shortcuts {
 class UserDefaultsHotKeys;
+}
+namespace nerlo::storage {
+class SettingsStore;
 }
 
 namespace nerlo::shell {
@@ -32,7 +39,7 @@ std::shared_ptr<void> reportRefusedHotKeys(shortcuts::UserDefaultsHotKeys &hotKe
                                            std::function<void(const std::string &line)> say);
 
 // "clean=Super+V: works": each shortcut that is set, with the name of what it runs and what became
-// of it. English, UTF-8.
+// of it; "clean: ..." where what is stored is none. English, UTF-8.
 std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &hotKeys,
                                         const platform::KeyboardLayout &layout);
 
@@ -44,5 +51,12 @@ struct ShortcutChange {
     std::string error; // for the user; then there is nothing else
 };
 ShortcutChange parseShortcutChange(std::string_view text, const platform::KeyboardLayout &layout);
+
+// Why one of the changes is refused, as the control that records shortcuts would refuse it; empty
+// when all may be stored. `changes` are not in the store yet, and count together. English, UTF-8.
+std::string refusalOf(std::span<const ShortcutChange> changes, const storage::SettingsStore &store,
+                      const platform::KeyboardLayout &layout,
+                      platform::SystemHotKeys &systemHotKeys,
+                      std::span<const shortcuts::MenuItem> mainMenu);
 
 } // namespace nerlo::shell

@@ -30,17 +30,21 @@ QString escaped(QString text) {
 struct EditCommand {
     const char *title;
     const char *slot; // of the toolkit's text fields; null for the Delete key
-    QKeySequence::StandardKey keys;
+    const char *keys;
 };
+// Keys by name: the toolkit's standard keys are known only to a program with windows, and
+// --shortcut is refused these too.
 constexpr EditCommand editCommands[] = {
-    {"Undo", "undo", QKeySequence::Undo},
-    {"Redo", "redo", QKeySequence::Redo},
-    {"Cut", "cut", QKeySequence::Cut},
-    {"Copy", "copy", QKeySequence::Copy},
-    {"Paste", "paste", QKeySequence::Paste},
-    {"Delete", nullptr, QKeySequence::UnknownKey},
-    {"Select All", "selectAll", QKeySequence::SelectAll},
+    {"Undo", "undo", "Ctrl+Z"},
+    {"Redo", "redo", "Ctrl+Shift+Z"},
+    {"Cut", "cut", "Ctrl+X"},
+    {"Copy", "copy", "Ctrl+C"},
+    {"Paste", "paste", "Ctrl+V"},
+    {"Delete", nullptr, ""},
+    {"Select All", "selectAll", "Ctrl+A"},
 };
+constexpr auto preferencesKeys = "Ctrl+,";
+constexpr auto quitKeys = "Ctrl+Q";
 
 void sendDelete(QWidget *widget) {
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -49,10 +53,10 @@ void sendDelete(QWidget *widget) {
     }
 }
 
-shortcuts::MenuItem itemOf(const QAction &action) {
+shortcuts::MenuItem itemOf(const char *titleKey, const char *keyNames) {
     shortcuts::MenuItem item;
-    item.title = action.text().remove('&').toStdU16String();
-    const QKeySequence keys = action.shortcut();
+    item.title = title(titleKey).toStdU16String();
+    const QKeySequence keys(keyNames);
     if (!keys.isEmpty()) {
         const QKeyCombination first = keys[0];
         const int key = first.key();
@@ -96,8 +100,8 @@ StatusMenu::StatusMenu(MenuCommands commands)
     , quit_(add("quit", "Quit Nerlo Pro", commands_.quit)) {
     automatic_->setCheckable(true);
     excelException_->setCheckable(true);
-    preferences_->setShortcut(Qt::CTRL | Qt::Key_Comma);
-    quit_->setShortcut(Qt::CTRL | Qt::Key_Q);
+    preferences_->setShortcut(QKeySequence(preferencesKeys));
+    quit_->setShortcut(QKeySequence(quitKeys));
     quit_->setMenuRole(QAction::NoRole);
     // The hot key itself works everywhere; in the menu it is only shown.
     clean_->setShortcutContext(Qt::WidgetShortcut);
@@ -160,9 +164,7 @@ void StatusMenu::makeOperations() {
 void StatusMenu::makeEditActions() {
     for (const EditCommand &command : editCommands) {
         auto *action = new QAction(title(command.title), this);
-        if (command.keys != QKeySequence::UnknownKey) {
-            action->setShortcut(command.keys);
-        }
+        action->setShortcut(QKeySequence(command.keys));
         connect(action, &QAction::triggered, this, [slot = command.slot] {
             QWidget *widget = QApplication::focusWidget();
             if (!widget) {
@@ -220,15 +222,13 @@ void StatusMenu::setCleanShortcut(const QKeySequence &keys) {
     clean_->setShortcutVisibleInContextMenu(true);
 }
 
-std::vector<shortcuts::MenuItem> StatusMenu::mainMenu() const {
-    std::vector<shortcuts::MenuItem> items;
-    for (const QAction *action : {preferences_, quit_}) {
-        items.push_back(itemOf(*action));
-    }
+std::vector<shortcuts::MenuItem> StatusMenu::mainMenu() {
+    std::vector<shortcuts::MenuItem> items{itemOf("Preferences…", preferencesKeys),
+                                           itemOf("Quit Nerlo Pro", quitKeys)};
     shortcuts::MenuItem edit;
     edit.title = title("Edit").toStdU16String();
-    for (const QAction *action : edit_) {
-        edit.submenu.push_back(itemOf(*action));
+    for (const EditCommand &command : editCommands) {
+        edit.submenu.push_back(itemOf(command.title, command.keys));
     }
     items.push_back(std::move(edit));
     return items;

@@ -53,7 +53,7 @@ class StatusMenu final : public QObject {
     void setCleanShortcut(const QKeySequence &keys);
 
     // The items of the menu bar with their key equivalents, with which a shortcut may collide.
-    std::vector<shortcuts::MenuItem> mainMenu() const;
+    static std::vector<shortcuts::MenuItem> mainMenu();
 
   private:
     QAction *add(const char *name, const char *title, const std::function<void()> &command);
