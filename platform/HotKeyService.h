@@ -74,6 +74,10 @@ class HotKeyService {
     // nothing. Registrations stay, and can be made and ended.
     virtual void setSuspended(bool suspended) = 0;
 
+    // Tries to take what was refused after its registration, if that does not trouble the user.
+    // What comes of it goes to the status handler.
+    virtual void retryRefused() {}
+
     // False where this desktop gives no program a hot key.
     virtual bool available() const { return true; }
 

@@ -245,6 +245,7 @@ void DesktopShell::showPreferencesWindow() {
     window->raise();
     window->activateWindow();
     applyTaskbarEntry();
+    parts_.hotKeys.retryRefused();
 }
 
 bool DesktopShell::hasVisibleWindow() const {

@@ -220,7 +220,7 @@ int main(int argc, char **argv) {
     const shortcuts::ShortcutTexts shortcutTexts(
         *keyboardLayout.backend,
         [](std::u16string_view key) { return shell::localizedUtf16(shell::Table::shortcut, key); });
-    shortcuts::GlobalHotKeys globalHotKeys(*hotKeyService.backend, shortcutTexts);
+    shortcuts::GlobalHotKeys globalHotKeys(*hotKeyService.backend);
     shortcuts::UserDefaultsHotKeys hotKeys(store, globalHotKeys);
     keyboardLayout.backend->setChangedHandler([&] { hotKeys.keyboardLayoutChanged(); });
     const auto systemHotKeys = platform::createDesktopHotKeys(*keyboardLayout.backend, workerQueue,
@@ -245,11 +245,12 @@ int main(int argc, char **argv) {
         shortcutTexts,
         *systemHotKeys,
         hotKeys,
-        [&] { return windows.menu().mainMenu(); },
+        &shell::StatusMenu::mainMenu,
         [](QWidget *parent, const QString &message, const QString &informative) {
             shell::runAlert({shell::Alert::Style::critical, message, informative, {}}, parent);
         },
-        {}};
+        {},
+        platform::keyboardCanBeGrabbed()};
     windows.setRecorderMaker([&](const std::string &key) {
         systemHotKeys->refresh(); // known by the time somebody records
         auto *recorder = new shortcuts::nrShortcutView(recording);

@@ -1,7 +1,5 @@
 #include "shortcuts/GlobalHotKeys.h"
 
-#include "shortcuts/ShortcutTexts.h"
-
 #include <utility>
 
 namespace nerlo::shortcuts {
@@ -23,9 +21,8 @@ nrShortcutHotKey::~nrShortcutHotKey() {
     }
 }
 
-GlobalHotKeys::GlobalHotKeys(platform::HotKeyService &service, const ShortcutTexts &texts)
-    : service_(service)
-    , texts_(texts) {
+GlobalHotKeys::GlobalHotKeys(platform::HotKeyService &service)
+    : service_(service) {
     service_.setStatusHandler([this](platform::HotKeyId id, const platform::HotKeyStatus &) {
         for (const auto &[token, hotKey] : hotKeys_) {
             if (hotKey.carbonHotKeyID == id.id && id.signature == signature && statusChanged_) {
@@ -47,12 +44,11 @@ GlobalHotKeys::~GlobalHotKeys() {
 GlobalHotKeys::Added
 GlobalHotKeys::addGlobalHotkeyMonitorWithShortcut(const nrShortcut &shortcut, HotKeyHandler handler,
                                                   const HotKeyCommand &command) {
-    // The service would be given code 0 for it, and take the A key from every program.
-    if (shortcut.keyCode() == nrShortcut::absentKey) {
+    // The service would be given another code, that of the A key for none.
+    if (shortcut.keyCode() != shortcut.carbonKeyCode()) {
         return {std::nullopt, "the shortcut has no key"};
     }
-    Token token = shortcut.description(texts_);
-    if (hotKeys_.contains(token)) {
+    if (hotKeys_.contains(shortcut)) {
         return {std::nullopt, "another shortcut of this program has the same keys"};
     }
     if (!installHandler()) {
@@ -64,13 +60,13 @@ GlobalHotKeys::addGlobalHotkeyMonitorWithShortcut(const nrShortcut &shortcut, Ho
                                           command.name,
                                           command.title};
     const auto [entry, added] =
-        hotKeys_.try_emplace(token, service_, shortcut, std::move(handler), request);
+        hotKeys_.try_emplace(shortcut, service_, shortcut, std::move(handler), request);
     if (entry->second.carbonHotKey == 0) {
         std::string refusal = entry->second.refusal;
         hotKeys_.erase(entry);
         return {std::nullopt, std::move(refusal)};
     }
-    return {std::move(token), {}};
+    return {shortcut, {}};
 }
 
 void GlobalHotKeys::removeGlobalHotkeyMonitor(const std::optional<Token> &token) {

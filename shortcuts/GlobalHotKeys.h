@@ -44,15 +44,15 @@ struct HotKeyCommand {
 
 class GlobalHotKeys {
   public:
-    // The text of the shortcut, "⌃V".
-    using Token = std::u16string;
+    // Key code and modifiers: what a key is called changes with the keyboard layout.
+    using Token = nrShortcut;
     struct Added {
         std::optional<Token> token;
         std::string refusal; // why there is none: English, UTF-8, one line
     };
 
-    // Both must outlive this, and this what it hands out.
-    GlobalHotKeys(platform::HotKeyService &service, const ShortcutTexts &texts);
+    // The service must outlive this, and this what it hands out.
+    explicit GlobalHotKeys(platform::HotKeyService &service);
     ~GlobalHotKeys();
 
     // A combination that is registered already, that the desktop refuses, or without a key gives no
@@ -62,6 +62,8 @@ class GlobalHotKeys {
     void removeGlobalHotkeyMonitor(const std::optional<Token> &token);
 
     platform::HotKeyStatus status(const Token &token) const;
+    // See HotKeyService.
+    void retryRefused() { service_.retryRefused(); }
     // Runs when the status of a hot key changes later.
     void setStatusHandler(std::function<void(const Token &)> changed);
 
@@ -85,7 +87,6 @@ class GlobalHotKeys {
     void pressed(platform::HotKeyId id);
 
     platform::HotKeyService &service_;
-    const ShortcutTexts &texts_;
     std::map<Token, nrShortcutHotKey> hotKeys_;
     std::function<void(const Token &)> statusChanged_;
     bool handlerInstalled_ = false;

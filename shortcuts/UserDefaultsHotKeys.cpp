@@ -21,13 +21,13 @@ void storeShortcut(storage::SettingsStore &store, std::string_view key,
 
 nrShortcutUserDefaultsHotKey::nrShortcutUserDefaultsHotKey(
     storage::SettingsStore &store, GlobalHotKeys &hotKeys, std::string userDefaultsKey_,
-    HotKeyHandler handler_, std::string title, std::function<void()> changed)
+    HotKeyHandler handler_, std::string title_, std::function<void()> changed)
     : userDefaultsKey(std::move(userDefaultsKey_))
     , handler(std::move(handler_))
+    , title(std::move(title_))
     , observableKeyPath("values." + userDefaultsKey)
     , store_(store)
     , hotKeys_(hotKeys)
-    , title_(std::move(title))
     , changed_(std::move(changed))
     , observation_(store.observe(userDefaultsKey, [this] { observeValue(); })) {}
 
@@ -44,20 +44,33 @@ platform::HotKeyStatus nrShortcutUserDefaultsHotKey::status() const {
                             : platform::HotKeyStatus{platform::HotKeyState::refused, refusal_};
 }
 
+void nrShortcutUserDefaultsHotKey::retry() {
+    if (!monitor_) {
+        installHotKeyFromUserDefaults();
+    }
+}
+
 void nrShortcutUserDefaultsHotKey::observeValue() {
     hotKeys_.removeGlobalHotkeyMonitor(std::exchange(monitor_, std::nullopt));
-    refusal_.clear();
     installHotKeyFromUserDefaults();
     changed_();
 }
 
 void nrShortcutUserDefaultsHotKey::installHotKeyFromUserDefaults() {
-    if (const auto shortcut = storedShortcut(store_, userDefaultsKey)) {
-        auto added = hotKeys_.addGlobalHotkeyMonitorWithShortcut(*shortcut, handler,
-                                                                 {userDefaultsKey, title_});
-        monitor_ = std::move(added.token);
-        refusal_ = std::move(added.refusal);
+    refusal_.clear();
+    const auto shortcut = storedShortcut(store_, userDefaultsKey);
+    if (!shortcut) {
+        return;
     }
+    if (!shortcut->isValid()) {
+        // It would take a key that is typed from every program.
+        refusal_ = "a shortcut needs Ctrl or Super, or a function key";
+        return;
+    }
+    auto added =
+        hotKeys_.addGlobalHotkeyMonitorWithShortcut(*shortcut, handler, {userDefaultsKey, title});
+    monitor_ = std::move(added.token);
+    refusal_ = std::move(added.refusal);
 }
 
 UserDefaultsHotKeys::UserDefaultsHotKeys(storage::SettingsStore &store, GlobalHotKeys &hotKeys)
@@ -77,18 +90,36 @@ void UserDefaultsHotKeys::registerGlobalShortcutWithUserDefaultsKey(std::string_
     registered_.erase(std::string(key));
     registered_.emplace(key, std::make_unique<nrShortcutUserDefaultsHotKey>(
                                  store_, hotKeys_, std::string(key), std::move(handler),
-                                 std::move(title), [this] { tell(); }));
+                                 std::move(title), [this] { retryRefused(); }));
 }
 
 void UserDefaultsHotKeys::unregisterGlobalShortcutWithUserDefaultsKey(std::string_view key) {
     if (registered_.erase(std::string(key)) != 0) {
-        tell();
+        retryRefused();
     }
+}
+
+void UserDefaultsHotKeys::retryRefused() {
+    hotKeys_.retryRefused();
+    for (const auto &[key, hotKey] : registered_) {
+        hotKey->retry();
+    }
+    tell();
 }
 
 platform::HotKeyStatus UserDefaultsHotKeys::status(std::string_view key) const {
     const auto entry = registered_.find(key);
     return entry == registered_.end() ? platform::HotKeyStatus() : entry->second->status();
+}
+
+const nrShortcutUserDefaultsHotKey *UserDefaultsHotKeys::otherWith(const nrShortcut &shortcut,
+                                                                   std::string_view key) const {
+    for (const auto &[other, hotKey] : registered_) {
+        if (other != key && storedShortcut(store_, other) == shortcut) {
+            return hotKey.get();
+        }
+    }
+    return nullptr;
 }
 
 UserDefaultsHotKeys::Observation UserDefaultsHotKeys::observeStatus(std::function<void()> changed) {

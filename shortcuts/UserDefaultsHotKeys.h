@@ -24,7 +24,7 @@ void storeShortcut(storage::SettingsStore &store, std::string_view key,
 // The hot key of one settings key: there whenever a shortcut is stored under it.
 class nrShortcutUserDefaultsHotKey {
   public:
-    // `changed` runs when the status may have changed.
+    // `changed` runs after each change of the stored value.
     nrShortcutUserDefaultsHotKey(storage::SettingsStore &store, GlobalHotKeys &hotKeys,
                                  std::string userDefaultsKey, HotKeyHandler handler,
                                  std::string title, std::function<void()> changed);
@@ -33,9 +33,12 @@ class nrShortcutUserDefaultsHotKey {
     nrShortcutUserDefaultsHotKey &operator=(const nrShortcutUserDefaultsHotKey &) = delete;
 
     platform::HotKeyStatus status() const;
+    // Tries again if there is no hot key for what is stored.
+    void retry();
 
     const std::string userDefaultsKey;
     const HotKeyHandler handler;
+    const std::string title;
     const std::string observableKeyPath; // "values." and the key
     const std::optional<GlobalHotKeys::Token> &monitor() const { return monitor_; }
 
@@ -45,7 +48,6 @@ class nrShortcutUserDefaultsHotKey {
 
     storage::SettingsStore &store_;
     GlobalHotKeys &hotKeys_;
-    std::string title_;
     std::function<void()> changed_;
     std::optional<GlobalHotKeys::Token> monitor_;
     std::string refusal_;
@@ -74,9 +76,14 @@ class UserDefaultsHotKeys {
     const Registered &registeredUserDefaultsHotKeys() const { return registered_; }
 
     platform::HotKeyStatus status(std::string_view key) const;
+    // Another key's hot key for which this shortcut is stored, or null.
+    const nrShortcutUserDefaultsHotKey *otherWith(const nrShortcut &shortcut,
+                                                  std::string_view key) const;
     // Calls `changed` after each change of the status of any key, or of what keys are called.
     [[nodiscard]] Observation observeStatus(std::function<void()> changed);
-    void keyboardLayoutChanged() { tell(); }
+    // Tries again what was refused: whoever had it may be gone. Asks the user nothing.
+    void retryRefused();
+    void keyboardLayoutChanged() { retryRefused(); }
 
     storage::SettingsStore &store() { return store_; }
     const storage::SettingsStore &store() const { return store_; }

@@ -7,6 +7,7 @@
 #include "shortcuts/MenuItem.h"
 #include "storage/PropertyValue.h"
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -102,7 +103,7 @@ class nrShortcut {
     static void setAllowsAnyHotkeyWithOptionModifier(bool allows);
     static bool allowsAnyHotkeyWithOptionModifier();
 
-    bool operator==(const nrShortcut &) const = default;
+    auto operator<=>(const nrShortcut &) const = default;
 
   private:
     std::uint64_t keyCode_;

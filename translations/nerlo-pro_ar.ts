@@ -1275,6 +1275,10 @@
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>لا يمكن استخدامه</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>انقر لتسجيل اختصار</translation>
     </message>
@@ -1313,6 +1317,10 @@
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>لا يمكن استخدام تركيبة المفاتيح «%@» لأن عنصر القائمة «%@» يستخدمها.</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>يحتاج الاختصار إلى Ctrl أو Super، أو إلى مفتاح وظيفي.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

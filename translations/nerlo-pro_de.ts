@@ -1275,6 +1275,10 @@ MIT-Lizenz</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Nicht verwendbar</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Tastenkürzel aufnehmen</translation>
     </message>
@@ -1313,6 +1317,10 @@ MIT-Lizenz</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Die Tastenkombination „%@“ kann nicht verwendet werden, weil der Menüeintrag „%@“ sie schon benutzt.</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Ein Tastenkürzel braucht Ctrl oder Super oder eine Funktionstaste.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

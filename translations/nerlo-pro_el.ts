@@ -1275,6 +1275,10 @@
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Δεν μπορεί να χρησιμοποιηθεί</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Εγγραφή συντόμευσης</translation>
     </message>
@@ -1313,6 +1317,10 @@
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Ο συνδυασμός πλήκτρων «%@» δεν μπορεί να χρησιμοποιηθεί, γιατί τον χρησιμοποιεί ήδη το στοιχείο μενού «%@».</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Μια συντόμευση χρειάζεται Ctrl ή Super ή ένα πλήκτρο λειτουργίας.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

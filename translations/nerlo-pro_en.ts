@@ -1275,6 +1275,10 @@ MIT licence</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Cannot be used</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Click to record shortcut</translation>
     </message>
@@ -1313,6 +1317,10 @@ MIT licence</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>A shortcut needs Ctrl or Super, or a function key.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@ Licencia MIT</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>No se puede usar</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Grabar un atajo</translation>
     </message>
@@ -1313,6 +1317,10 @@ Licencia MIT</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>No se puede usar la combinación de teclas «%@» porque ya la usa el elemento de menú «%@».</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Un atajo necesita Ctrl o Super, o una tecla de función.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@ Licence MIT</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Inutilisable</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Enregistrer un raccourci</translation>
     </message>
@@ -1313,6 +1317,10 @@ Licence MIT</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>La combinaison de touches « %@ » ne peut pas être utilisée, car elle sert déjà à l’élément de menu « %@ ».</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Un raccourci doit contenir Ctrl ou Super, ou une touche de fonction.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@ Licenza MIT</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Non utilizzabile</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Registra una scorciatoia</translation>
     </message>
@@ -1313,6 +1317,10 @@ Licenza MIT</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>La combinazione di tasti «%@» non può essere usata perché la usa già la voce di menu «%@».</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Una scorciatoia richiede Ctrl o Super, oppure un tasto funzione.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@ MIT ライセンス</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>使用できません</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>ショートカットを記録</translation>
     </message>
@@ -1313,6 +1317,10 @@ MIT ライセンス</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>キーの組み合わせ「%@」は、メニュー項目「%@」ですでに使われているため使えません。</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>ショートカットには Ctrl、Super、またはファンクションキーが必要です。</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

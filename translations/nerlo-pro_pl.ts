@@ -1275,6 +1275,10 @@ Licencja MIT</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Nie można użyć</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Nagraj skrót</translation>
     </message>
@@ -1313,6 +1317,10 @@ Licencja MIT</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Nie można użyć kombinacji klawiszy „%@”, bo używa jej już pozycja menu „%@”.</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Skrót wymaga klawisza Ctrl lub Super albo klawisza funkcyjnego.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@ Licença MIT</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Não pode ser usado</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Gravar um atalho</translation>
     </message>
@@ -1313,6 +1317,10 @@ Licença MIT</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>A combinação de teclas “%@” não pode ser usada porque o item de menu “%@” já a usa.</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Um atalho precisa de Ctrl ou Super, ou de uma tecla de função.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

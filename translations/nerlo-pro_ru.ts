@@ -1275,6 +1275,10 @@
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Нельзя использовать</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Записать комбинацию</translation>
     </message>
@@ -1313,6 +1317,10 @@
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Комбинацию клавиш «%@» использовать нельзя, потому что она уже занята пунктом меню «%@».</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Комбинации нужна клавиша Ctrl или Super либо функциональная клавиша.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@ MIT-licens</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Kan inte användas</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Spela in en genväg</translation>
     </message>
@@ -1313,6 +1317,10 @@ MIT-licens</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Tangentkombinationen ”%@” kan inte användas eftersom den redan används av menyposten ”%@”.</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>En genväg behöver Ctrl eller Super, eller en funktionstangent.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1275,6 +1275,10 @@
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>Не можна використати</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>Записати комбінацію</translation>
     </message>
@@ -1313,6 +1317,10 @@
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>Комбінацію клавіш «%@» використати не можна, бо вона вже зайнята пунктом меню «%@».</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>Комбінації потрібна клавіша Ctrl або Super чи функціональна клавіша.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

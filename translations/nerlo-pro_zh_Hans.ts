@@ -1275,6 +1275,10 @@ MIT 许可证</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>无法使用</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>单击以录制快捷键</translation>
     </message>
@@ -1313,6 +1317,10 @@ MIT 许可证</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>无法使用按键组合“%@”，因为菜单项“%@”已在使用。</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>快捷键需要 Ctrl 或 Super，或者是功能键。</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

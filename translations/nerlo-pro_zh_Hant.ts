@@ -1275,6 +1275,10 @@ MIT 授權</translation>
 <context>
     <name>Shortcut</name>
     <message>
+        <source>Cannot be used</source>
+        <translation>無法使用</translation>
+    </message>
+    <message>
         <source>Click to record shortcut</source>
         <translation>按一下以錄製快捷鍵</translation>
     </message>
@@ -1313,6 +1317,10 @@ MIT 授權</translation>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>
         <translation>無法使用按鍵組合「%@」，因為選單項目「%@」已在使用。</translation>
+    </message>
+    <message>
+        <source>a shortcut needs Ctrl or Super, or a function key</source>
+        <translation>快速鍵需要 Ctrl 或 Super，或者是功能鍵。</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

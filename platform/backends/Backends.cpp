@@ -119,6 +119,10 @@ std::unique_ptr<TrayWatch> openTrayWatch(MainQueue &mainQueue, std::function<voi
     return qtIsOnX11() ? createX11TrayWatch(mainQueue, std::move(appeared)) : nullptr;
 }
 
+bool keyboardCanBeGrabbed() {
+    return qtIsOnX11();
+}
+
 bool pointerPositionKnown() {
     return qtIsOnX11();
 }

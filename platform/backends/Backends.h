@@ -53,6 +53,9 @@ std::unique_ptr<TaskbarHint> openTaskbarHint();
 // comes. Null where there are no trays of this kind.
 std::unique_ptr<TrayWatch> openTrayWatch(MainQueue &mainQueue, std::function<void()> appeared);
 
+// Whether a window of the toolkit can take the whole keyboard for a while.
+bool keyboardCanBeGrabbed();
+
 // Whether the toolkit can tell where the pointer is, and put a menu there.
 bool pointerPositionKnown();
 

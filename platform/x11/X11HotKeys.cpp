@@ -157,10 +157,10 @@ class Grabs final : public x11::EventSource {
     // Empty when the combination is ours now, else why it is not.
     std::string add(Handle handle, const HotKeyRequest &request) {
         Grab grab{request, 0, 0, false, {}};
-        if (suspended_) {
-            describe(grab);
-        } else {
-            take(grab);
+        if (!takeUnlessSuspended(grab)) {
+            // The map may have changed just now, and the layout's reader may have seen it first.
+            followMap();
+            takeUnlessSuspended(grab);
         }
         std::string refusal = grab.refusal;
         if (refusal.empty()) {
@@ -179,6 +179,24 @@ class Grabs final : public x11::EventSource {
     void setSuspended(bool suspended) {
         suspended_ = suspended;
         takeAgain();
+    }
+
+    // Takes what is missing, and tells of each change.
+    void takeAgain() {
+        for (auto &[handle, grab] : grabs_) {
+            const std::string before = grab.refusal;
+            if (suspended_) {
+                release(grab);
+            } else if (!grab.held) {
+                take(grab);
+            }
+            if (grab.refusal != before) {
+                changed_(handle, grab.request.id,
+                         {grab.refusal.empty() ? HotKeyState::active : HotKeyState::refused,
+                          grab.refusal});
+            }
+        }
+        xcb_flush(connection_->get());
     }
 
   private:
@@ -222,21 +240,12 @@ class Grabs final : public x11::EventSource {
         }
     }
 
-    void takeAgain() {
-        for (auto &[handle, grab] : grabs_) {
-            const std::string before = grab.refusal;
-            if (suspended_) {
-                release(grab);
-            } else if (!grab.held) {
-                take(grab);
-            }
-            if (grab.refusal != before) {
-                changed_(handle, grab.request.id,
-                         {grab.refusal.empty() ? HotKeyState::active : HotKeyState::refused,
-                          grab.refusal});
-            }
+    bool takeUnlessSuspended(Grab &grab) {
+        if (suspended_) {
+            return describe(grab);
         }
-        xcb_flush(connection_->get());
+        take(grab);
+        return grab.held;
     }
 
     // Finds the key and modifiers on the keyboard; false, and why, when they are not there.
@@ -274,9 +283,11 @@ class Grabs final : public x11::EventSource {
         }
         std::vector<xcb_void_cookie_t> cookies;
         for (const auto state : statesOf(grab)) {
-            cookies.push_back(xcb_grab_key_checked(connection_->get(), 0,
-                                                   connection_->screen().root, state, grab.key,
-                                                   XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+            if (++holders_[{grab.key, state}] == 1) {
+                cookies.push_back(xcb_grab_key_checked(connection_->get(), 0,
+                                                       connection_->screen().root, state, grab.key,
+                                                       XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+            }
         }
         bool all = true;
         for (const auto cookie : cookies) {
@@ -296,7 +307,9 @@ class Grabs final : public x11::EventSource {
     void release(Grab &grab) {
         if (std::exchange(grab.held, false)) {
             for (const auto state : statesOf(grab)) {
-                xcb_ungrab_key(connection_->get(), grab.key, connection_->screen().root, state);
+                if (--holders_[{grab.key, state}] == 0) {
+                    xcb_ungrab_key(connection_->get(), grab.key, connection_->screen().root, state);
+                }
             }
             xcb_flush(connection_->get());
         }
@@ -308,6 +321,9 @@ class Grabs final : public x11::EventSource {
     Pressed pressed_;
     Changed changed_;
     std::map<Handle, Grab> grabs_;
+    // How many hot keys stand on each grab: the server keeps one for all of a program's, and one
+    // release would end it for all.
+    std::map<std::pair<xcb_keycode_t, std::uint16_t>, int> holders_;
     bool suspended_ = false;
     std::set<xcb_keycode_t> down_;
     std::map<xcb_keycode_t, xcb_timestamp_t> released_;
@@ -339,7 +355,7 @@ class X11HotKeys final : public HotKeyService {
             answer->set_value(grabs->add(handle, request));
         });
         if (answered.wait_for(answerLimit) != std::future_status::ready) {
-            // Whatever still comes of it.
+            // The grab may still succeed later; it is given back then.
             thread_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
             return {0, "the X server does not answer"};
         }
@@ -365,6 +381,10 @@ class X11HotKeys final : public HotKeyService {
     void setSuspended(bool suspended) override {
         suspended_ = suspended;
         thread_->submit([grabs = grabs_.get(), suspended] { grabs->setSuspended(suspended); });
+    }
+
+    void retryRefused() override {
+        thread_->submit([grabs = grabs_.get()] { grabs->takeAgain(); });
     }
 
     std::string description() const override { return "X11, grabbed keys"; }

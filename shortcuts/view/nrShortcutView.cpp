@@ -5,6 +5,7 @@
 #include "shortcuts/view/KeyEvents.h"
 #include "shortcuts/view/ShortcutAccessible.h"
 #include "shortcuts/view/WarningMark.h"
+#include "text/Utf.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,6 +32,7 @@ constexpr int margin = 6;
 constexpr qreal radius = 4;
 
 constexpr auto clickToRecord = u"Click to record shortcut";
+constexpr auto cannotBeUsed = u"Cannot be used";
 
 // At most one control records.
 QPointer<nrShortcutView> recordingView;
@@ -129,6 +131,7 @@ void nrShortcutView::setRecording(bool recording) {
         recordingView = nullptr;
     }
     shortcutPlaceholder_.clear();
+    unusable_ = false;
     resetToolTips();
     activateEventMonitoring(recording);
     activateResignObserver(recording);
@@ -163,6 +166,9 @@ QString nrShortcutView::title() const {
     }
     if (hinting_) {
         return fromTable(shortcutValue_ ? u"Use old shortcut" : u"Cancel");
+    }
+    if (unusable_) {
+        return fromTable(cannotBeUsed);
     }
     return shortcutPlaceholder_.isEmpty() ? fromTable(u"Type shortcut") : shortcutPlaceholder_;
 }
@@ -217,7 +223,7 @@ QSize nrShortcutView::sizeHint() const {
     const int line = fontMetrics().height() + 2 * margin;
     // The first has no button beside it.
     int widest = fontMetrics().horizontalAdvance(fromTable(clickToRecord));
-    for (const auto *text : {u"Type shortcut", u"Use old shortcut", u"Cancel"}) {
+    for (const auto *text : {u"Type shortcut", u"Use old shortcut", u"Cancel", cannotBeUsed}) {
         widest = std::max(widest, fontMetrics().horizontalAdvance(fromTable(text)) + line + 6);
     }
     return {widest + 4 * margin, line};
@@ -275,8 +281,17 @@ void nrShortcutView::activateEventMonitoring(bool active) {
     monitoring_ = active;
     if (active) {
         QCoreApplication::instance()->installEventFilter(this);
-    } else if (auto *application = QCoreApplication::instance()) {
+        // Only from the window in front: no other would notice that it has to let go again.
+        if (context_.grabsKeyboard && window()->isActiveWindow()) {
+            grabKeyboard();
+        }
+        return;
+    }
+    if (auto *application = QCoreApplication::instance()) {
         application->removeEventFilter(this);
+    }
+    if (QWidget::keyboardGrabber() == this) {
+        releaseKeyboard();
     }
 }
 
@@ -315,8 +330,14 @@ bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
         if (monitoring_) {
             const auto &keyEvent = static_cast<QKeyEvent &>(*event);
             const auto key = keyEventOf(keyEvent, context_.texts.layout());
-            const bool counts = event->type() == QEvent::KeyPress || isModifierKey(key.keyCode);
-            return !counts || keyEvent.isAutoRepeat() || monitor(key);
+            const bool pressed = event->type() == QEvent::KeyPress;
+            if (keyEvent.isAutoRepeat() || (!pressed && !isModifierKey(key.keyCode))) {
+                return true;
+            }
+            if (pressed) {
+                setUnusable(false);
+            }
+            return monitor(key);
         }
         return false;
     default:
@@ -341,21 +362,44 @@ bool nrShortcutView::monitor(const KeyEvent &event) {
     }
     if (shortcut.keyCodeString(context_.texts).empty()) {
         setShortcutPlaceholder(QString::fromStdU16String(shortcut.modifierFlagsString()));
+        if (!isModifierKey(event.keyCode)) {
+            setUnusable(true);
+        }
         return true;
     }
     if (!shortcut.isValid()) {
         context_.beep();
+        setUnusable(true);
         return true;
     }
     ShortcutError error;
-    const auto menu = context_.mainMenu ? context_.mainMenu() : std::vector<MenuItem>();
-    if (shortcut.isTakenError(&error, context_.texts, context_.systemHotKeys, menu)) {
+    if (shortcut.isTakenError(&error, context_.texts, context_.systemHotKeys,
+                              takenKeys(shortcut))) {
         refuseTaken(shortcut, error);
         return true;
     }
     setShortcutValue(shortcut);
     setRecording(false);
     return true;
+}
+
+void nrShortcutView::setUnusable(bool unusable) {
+    if (unusable != unusable_) {
+        unusable_ = unusable;
+        announce();
+    }
+}
+
+// The main menu, and the command of ours that has the shortcut already.
+std::vector<MenuItem> nrShortcutView::takenKeys(const nrShortcut &shortcut) const {
+    auto taken = context_.mainMenu ? context_.mainMenu() : std::vector<MenuItem>();
+    if (const auto *other = context_.hotKeys.otherWith(shortcut, associatedUserDefaultsKey())) {
+        taken.push_back({text::utf8ToUtf16(other->title).text,
+                         shortcut.keyCodeStringForKeyEquivalent(context_.texts),
+                         shortcut.modifierFlags(),
+                         {}});
+    }
+    return taken;
 }
 
 void nrShortcutView::refuseTaken(const nrShortcut &shortcut, const ShortcutError &error) {

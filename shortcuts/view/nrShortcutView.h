@@ -1,7 +1,8 @@
 // The control with which the user records, replaces or deletes a global shortcut.
 //
 // By mouse: a click starts recording, the button at the end deletes the shortcut or, while
-// recording, ends that. By keyboard: Space or Return starts, Delete deletes. A shortcut that the
+// recording, ends that. By keyboard: Space or Return starts, Delete deletes. A key that cannot be
+// used is answered with a word in place of the prompt, until the next key. A shortcut that the
 // desktop refuses has a warning mark, with the reason in its tooltip.
 //
 // Main thread only. Texts are those of the string table "Shortcut".
@@ -36,6 +37,9 @@ struct ShortcutViewContext {
     // Shows a modal, critical alert.
     std::function<void(QWidget *parent, const QString &message, const QString &informative)> alert;
     std::function<void()> beep; // empty for the desktop's
+    // Whether the control takes the whole keyboard while it records, so that combinations of the
+    // desktop and of other programs reach it. Only X11 lets a window do so.
+    bool grabsKeyboard = false;
 };
 
 class nrShortcutView : public QWidget, public ShortcutControl {
@@ -99,6 +103,8 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     void announce();
     // A key-down or modifier change while recording; false to let it through.
     bool monitor(const KeyEvent &event);
+    void setUnusable(bool unusable);
+    std::vector<MenuItem> takenKeys(const nrShortcut &shortcut) const;
     void refuseTaken(const nrShortcut &shortcut, const ShortcutError &error);
     QString fromTable(std::u16string_view key) const;
 
@@ -111,6 +117,7 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     bool recording_ = false;
     bool hinting_ = false;
     bool monitoring_ = false;
+    bool unusable_ = false; // the last key cannot be used
     QPointer<QWidget> observedWindow_;
     Appearance appearance_ = Appearance::framed;
     std::unique_ptr<GlobalHotKeys::Suspension> suspension_; // while recording

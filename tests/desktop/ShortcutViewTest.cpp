@@ -31,6 +31,15 @@ struct FixedHotKeys final : platform::SystemHotKeys {
     std::vector<platform::SystemHotKey> symbolicHotKeys() override { return {{118, 0x800}}; }
 };
 
+struct Repeats final : QObject {
+    bool eventFilter(QObject *, QEvent *event) override {
+        count +=
+            event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->isAutoRepeat();
+        return false;
+    }
+    int count = 0;
+};
+
 class ShortcutView : public testing::Test {
   protected:
     void SetUp() override {
@@ -39,7 +48,7 @@ class ShortcutView : public testing::Test {
         service = platform::createX11HotKeys(queue).backend;
         ASSERT_TRUE(layout && service);
         texts = std::make_unique<ShortcutTexts>(*layout);
-        hotKeys = std::make_unique<GlobalHotKeys>(*service, *texts);
+        hotKeys = std::make_unique<GlobalHotKeys>(*service);
         bound = std::make_unique<UserDefaultsHotKeys>(store, *hotKeys);
         const ShortcutViewContext context{
             *texts,
@@ -53,10 +62,12 @@ class ShortcutView : public testing::Test {
                 box.setInformativeText(informative);
                 box.exec();
             },
-            [this] { ++beeps; }};
+            [this] { ++beeps; },
+            true};
         auto *column = new QVBoxLayout(&window);
         for (const char *key : {"sSort", "sStatistics"}) {
-            bound->registerGlobalShortcutWithUserDefaultsKey(key, [this, key] { ++runs[key]; });
+            bound->registerGlobalShortcutWithUserDefaultsKey(
+                key, [this, key] { ++runs[key]; }, key);
             auto *view = new nrShortcutView(context, &window);
             view->setAssociatedUserDefaultsKey(key);
             view->setAccessibleName(QString::fromLatin1(key));
@@ -154,9 +165,12 @@ TEST_F(ShortcutView, RecordsReplacesAndDeletes) {
     record(view, "ctrl+shift+F5");
     EXPECT_EQ(view.title(), "⇧⌘F5");
 
-    record(view, "BackSpace");
-    EXPECT_EQ(view.shortcutValue(), std::nullopt);
-    EXPECT_EQ(store.find("sSort"), nullptr);
+    for (const auto *key : {"BackSpace", "Delete"}) {
+        bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+        record(view, key);
+        EXPECT_EQ(view.shortcutValue(), std::nullopt);
+        EXPECT_EQ(store.find("sSort"), nullptr);
+    }
 
     bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
     EXPECT_EQ(view.title(), "⌃V");
@@ -186,12 +200,23 @@ TEST_F(ShortcutView, ShowsHeldModifiersAndBeepsAtWhatIsNoShortcut) {
     auto &view = *views[0];
     record(view);
     leaveWithMouse();
+    Repeats repeats;
+    QCoreApplication::instance()->installEventFilter(&repeats);
     xdotool({"keydown", "shift"});
     ASSERT_TRUE(wait([&] { return view.title() == "⇧"; }));
-    press("a");
-    ASSERT_TRUE(wait([&] { return beeps == 1; }));
-    xdotool({"keyup", "shift"});
-    ASSERT_TRUE(wait([&] { return view.title() == "Type shortcut"; }));
+    ASSERT_TRUE(outputOf({"xset", "r", "rate", "10", "100"}));
+    xdotool({"keydown", "a"});
+    ASSERT_TRUE(wait([&] { return repeats.count > 3; }));
+    xdotool({"keyup", "a", "keyup", "shift"});
+    EXPECT_EQ(beeps, 1); // however long it is held
+    EXPECT_EQ(view.title(), "Cannot be used");
+    press("Caps_Lock");
+    xdotool({"keydown", "super"});
+    ASSERT_TRUE(wait([&] { return view.title() == "⌃"; }));
+    press("Print"); // no key of a shortcut
+    ASSERT_TRUE(wait([&] { return view.title() == "Cannot be used"; }));
+    xdotool({"keyup", "super"});
+    EXPECT_EQ(beeps, 1);
     EXPECT_TRUE(view.recording());
     EXPECT_EQ(view.shortcutValue(), std::nullopt);
 }
@@ -199,12 +224,14 @@ TEST_F(ShortcutView, ShowsHeldModifiersAndBeepsAtWhatIsNoShortcut) {
 TEST_F(ShortcutView, RefusesWhatIsTaken) {
     auto &view = *views[0];
     bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sStatistics");
     const struct {
         const char *keys;
         const char *named;
         const char *taker;
     } rows[] = {{"ctrl+v", "The key combination \"⌘V\" can't be used", "menu item \"Paste\""},
-                {"alt+F4", "The key combination \"⌥F4\" can't be used", "system-wide"}};
+                {"alt+F4", "The key combination \"⌥F4\" can't be used", "system-wide"},
+                {"super+c", "The key combination \"⌃C\" can't be used", "\"sStatistics\""}};
     for (const auto &row : rows) {
         activate();
         if (!view.recording()) {
@@ -258,25 +285,42 @@ TEST_F(ShortcutView, OnlyOneRecordsAndOnlyInTheWindowInFront) {
     EXPECT_FALSE(views[1]->recording());
 }
 
-TEST_F(ShortcutView, WarnsOfAShortcutThatTheDesktopRefuses) {
+TEST_F(ShortcutView, TakesTheKeyboardAndGivesItBack) {
     const auto other = platform::createX11HotKeys(queue).backend;
-    ASSERT_NE(other->registerHotKey({v, platform::hotKeyControl, {1, 1}, {}, {}}).handle, 0u);
+    int theirs = 0;
+    other->installHandler([&](platform::HotKeyId) { ++theirs; });
+    const auto taken = other->registerHotKey({v, platform::hotKeyControl, {1, 1}, {}, {}});
+    ASSERT_NE(taken.handle, 0u);
     auto &view = *views[0];
-    record(view);
-    press("super+v"); // the other program has it
-    bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
-    view.setRecording(false);
+    record(view, "super+v"); // though the other program has it
+    EXPECT_EQ(theirs, 0);
     ASSERT_TRUE(wait([&] { return !view.warning().isEmpty(); }));
     EXPECT_EQ(view.warning(), "another program has taken this key combination");
     EXPECT_FALSE(view.warningRect().isEmpty());
     leaveWithMouse();
-    bound->setGlobalShortcut(nrShortcut(8, controlModifier), "sSort");
-    EXPECT_EQ(view.warning(), "");
+    press("super+v");
+    ASSERT_TRUE(wait([&] { return theirs == 1; }));
+    record(view);
+    const test::Process terminal({"xev", "-name", "Other"});
+    xdotool({"search", "--sync", "--onlyvisible", "--name", "Other", "windowactivate", "--sync"});
+    ASSERT_TRUE(wait([&] { return !view.recording(); }));
+    ASSERT_TRUE(wait([&] {
+        press("super+v");
+        return theirs > 1;
+    }));
+
+    other->unregisterHotKey(taken.handle);
+    EXPECT_TRUE(wait([&] {
+        bound->retryRefused();
+        return view.warning().isEmpty();
+    }));
+    press("super+v");
+    EXPECT_TRUE(wait([&] { return runs["sSort"] == 1; }));
 }
 
 TEST_F(ShortcutView, ItsToolTipTellsTheKeysThatTheDesktopChose) {
     test::MemoryHotKeys portal;
-    GlobalHotKeys registered(portal, *texts);
+    GlobalHotKeys registered(portal);
     UserDefaultsHotKeys keys(store, registered);
     bound->unregisterGlobalShortcutWithUserDefaultsKey("sSort");
     keys.registerGlobalShortcutWithUserDefaultsKey("sSort", {});

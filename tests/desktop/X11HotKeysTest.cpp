@@ -68,7 +68,15 @@ TEST_F(X11HotKeys, WhatAnotherProgramHoldsIsRefused) {
     EXPECT_EQ(refused.refusal, "another program has taken this key combination");
     // Nor is a part of it kept.
     other->unregisterHotKey(theirs.handle);
-    EXPECT_TRUE(test::until([&] { return take(*service, v, hotKeyControl).handle != 0; }));
+    HotKeyService::Registration mine;
+    EXPECT_TRUE(test::until([&] {
+        mine = take(*service, v, hotKeyControl);
+        return mine.handle != 0;
+    }));
+    // Two hot keys of one program share it until both are gone.
+    EXPECT_NE(take(*service, v, hotKeyControl).handle, 0u);
+    service->unregisterHotKey(mine.handle);
+    settle();
     EXPECT_EQ(take(*other, v, hotKeyControl).handle, 0u);
     // With the program its grabs end.
     service.reset();
@@ -76,7 +84,7 @@ TEST_F(X11HotKeys, WhatAnotherProgramHoldsIsRefused) {
     EXPECT_EQ(take(*other, 52, hotKeyControl).refusal, "the keyboard has no such key");
 }
 
-TEST_F(X11HotKeys, AConflictOnTheWayBackIsTold) {
+TEST_F(X11HotKeys, AConflictOnTheWayBackIsToldAndEnds) {
     const auto mine = take(*service, v, hotKeyControl);
     std::vector<HotKeyStatus> told;
     service->setStatusHandler(
@@ -92,6 +100,13 @@ TEST_F(X11HotKeys, AConflictOnTheWayBackIsTold) {
     ASSERT_TRUE(test::until(queue, [&] { return told.size() == 1; }));
     EXPECT_EQ(told[0].state, HotKeyState::refused);
     EXPECT_EQ(service->status(mine.handle), told[0]);
+    // Until it is free again.
+    other->unregisterHotKey(theirs.handle);
+    ASSERT_TRUE(test::until(queue, [&] {
+        service->retryRefused();
+        return told.size() == 2;
+    }));
+    EXPECT_EQ(told[1], (HotKeyStatus{HotKeyState::active, {}}));
 }
 
 TEST_F(X11HotKeys, FollowModifiersThatMove) {

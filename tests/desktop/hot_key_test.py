@@ -7,6 +7,7 @@ under test.
 """
 import ctypes
 import os
+import plistlib
 import subprocess
 import time
 import unittest
@@ -14,7 +15,7 @@ import unittest
 import dbus
 
 from desktop_session import Logged, desktop, output_of, wait_until
-from shell_test import BUS_NAME, PORTAL, PROGRAM, Portal
+from shell_test import BUS_NAME, CONFIG, PORTAL, PROGRAM, Portal
 
 SHIFT, LOCK, SUPER = 1, 2, 64
 SCROLL_LOCK = 32  # put there by a test
@@ -51,6 +52,12 @@ class Keyboard:
                             self.x.XDefaultRootWindow(self.display), 0, 1, 1)
             self.x.XSync(self.display, 0)
         return self.failures == before
+
+    def gives_back(self, keycode, modifiers):
+        for locked in (0, LOCK):
+            self.x.XUngrabKey(self.display, keycode, modifiers | locked,
+                              self.x.XDefaultRootWindow(self.display))
+        self.x.XSync(self.display, 0)
 
 
 class HotKeyTest(unittest.TestCase):
@@ -152,25 +159,54 @@ class HotKeyTest(unittest.TestCase):
         self.assertFalse(keyboard.takes(28, SUPER | SHIFT))
         self.store("remove-all-spaces=")
         wait_until(lambda: keyboard.takes(28, SUPER | SHIFT), "T is given back")
-        for bad in ("clean", "cleen=Super+V", "clean=Super+", "clean=Hyper+V", "clean=V",
-                    "clean=Shift+A", "clean=Ctrl+Q", "clean=Super+Shift_L"):
+        self.store("1=Super+G")
+        with open(os.path.join(os.environ["XDG_CONFIG_HOME"], "kglobalshortcutsrc"), "w",
+                  encoding="ascii") as file:
+            file.write("[kwin]\nOverview=Meta+W,none,Overview\n")
+        for status, bad, why in (
+                (2, "clean", "NAME=KEYS"), (2, "cleen=Super+V", "no operation"),
+                (2, "clean=Super+", "no keys"), (2, "clean=Hyper+V", "no keys"),
+                (1, "clean=V", "cannot be"), (1, "clean=Shift+A", "cannot be"),
+                (1, "clean=Ctrl+Q", "cannot be"), (1, "clean=Super+Shift_L", "cannot be"),
+                (1, "clean=Ctrl+V", '"Paste"'), (1, "clean=Super+W", "system-wide"),
+                (1, "clean=Super+G", "'remove-all-spaces'"),
+                (1, "sort-lines=Super+V", "'sort-lines'")):
             done = subprocess.run([PROGRAM, "--shortcut", "clean=Super+V", "--shortcut", bad],
-                                  stderr=subprocess.DEVNULL, timeout=20, check=False)
-            self.assertEqual(done.returncode, 2, bad)
+                                  capture_output=True, text=True, timeout=20, check=False,
+                                  env=os.environ | {"XDG_CURRENT_DESKTOP": "KDE"})
+            self.assertEqual(done.returncode, status, bad)
+            self.assertIn(why, done.stderr)
         self.finds("clean=Ctrl+F9: works")
         self.assertEqual(self.program.text, "")
+        # Together they may change places.
+        subprocess.run([PROGRAM, "--shortcut", "clean=Super+G", "--shortcut", "1=Ctrl+F9"],
+                       check=True, timeout=20)
+        self.finds("remove-all-spaces=Ctrl+F9: works")
+        self.finds("clean=Super+G: works")
 
     def test_x11_says_what_is_refused(self):
+        os.makedirs(os.path.dirname(CONFIG))
+        with open(CONFIG, "wb") as file:
+            plistlib.dump({"sSort": b"no archive"}, file)
         self.store("clean=Super+V")
         keyboard = Keyboard()
         self.assertTrue(keyboard.takes(55, SUPER))
         self.start()
+        self.finds("sort-lines: what is stored is no shortcut")
         refusal = "another program has taken this key combination"
         self.says(f'hot key "sClearFormatingFromClipboard": {refusal}')
         self.finds(f"clean=Super+V: refused, {refusal}")
         # It goes on, and takes the next one that it is given.
         self.store("remove-all-spaces=Super+R", "works")
         self.cleans_with("super+r")
+        # Another layout is an occasion to try again, and calls other keys by the names of those.
+        keyboard.gives_back(55, SUPER)
+        self.store("remove-all-spaces=Super+Z", "works")
+        output_of("setxkbmap", "de")
+        self.finds("clean=Super+V: works")
+        self.store("sort-lines=Super+Z", "works")
+        self.finds("remove-all-spaces=Super+Y: works")
+        self.cleans_with("super+52")
 
     def portal(self, *command):
         return output_of(PORTAL, *command)

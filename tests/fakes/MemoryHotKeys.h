@@ -60,7 +60,8 @@ class MemoryHotKeys final : public platform::HotKeyService {
         }
         return false;
     }
-    // An event as it comes from the desktop, of anybody's.
+    bool hasHandlers() const { return pressed_ || statusChanged_; }
+    // A hot-key event that may belong to another program.
     bool deliver(platform::HotKeyId id) {
         if (!pressed_ || suspended) {
             return false;
