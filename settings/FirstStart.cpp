@@ -5,6 +5,25 @@
 
 namespace nerlo::settings {
 
+namespace {
+
+constexpr auto profilesKey = "firstRunPreferencesProfiles";
+
+std::int64_t versionOf(const storage::SettingsStore &store) {
+    return store.find(settingsVersionKey)  ? store.integerForKey(settingsVersionKey)
+           : store.boolForKey(profilesKey) ? 1
+                                           : 0;
+}
+
+void setVersion(storage::SettingsStore &store, int number) {
+    store.set(profilesKey, true);
+    if (number > 1) {
+        store.set(settingsVersionKey, number);
+    }
+}
+
+} // namespace
+
 void setDefaults(storage::SettingsStore &store) {
     for (const SettingsKey &row : settingsKeys()) {
         if (row.scope == SettingScope::Store && row.firstStart) {
@@ -13,16 +32,20 @@ void setDefaults(storage::SettingsStore &store) {
     }
 }
 
-void setAllDefaultsInFirstRun(storage::SettingsStore &store, nrPreferences &preferences) {
+void setAllDefaultsInFirstRun(storage::SettingsStore &store, nrPreferences &preferences,
+                              const std::vector<MigrationStep> &steps) {
     if (!store.boolForKey("firstRunPreferences")) {
         setDefaults(store);
         preferences.firstRunPreferences();
-    } else if (!store.boolForKey("firstRunPreferencesProfiles")) {
-        preferences.convertAfterUpdate();
-    } else {
+        setVersion(store, steps.back().number);
         return;
     }
-    store.set("firstRunPreferencesProfiles", true);
+    for (const MigrationStep &step : steps) {
+        if (step.number > versionOf(store)) {
+            step.run(store, preferences);
+            setVersion(store, step.number);
+        }
+    }
 }
 
 } // namespace nerlo::settings

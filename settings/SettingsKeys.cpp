@@ -3,6 +3,7 @@
 #include "engine/CleaningOptions.h"
 #include "engine/Operations.h"
 #include "engine/QuoteLanguages.h"
+#include "settings/Migration.h"
 #include "settings/OptionLists.h"
 #include "text/Utf.h"
 
@@ -26,16 +27,15 @@ struct ProfileOnly {
     SettingKind kind;
     std::string_view group;
     std::string_view meaning;
-    bool migrated;
 };
 constexpr ProfileOnly profileOnly[] = {
-    {"", "profileName", SettingKind::Text, "profile", "the profile's name", false},
+    {"", "profileName", SettingKind::Text, "profile", "the profile's name"},
     {"udStatistics", "udStatisticsDelaySwitcher", SettingKind::Switch, "statistics",
-     "the popup closes by itself", true},
+     "the popup closes by itself"},
     {"udDuplicatesCustomSeparator", "udStatisticsValue", SettingKind::Text, "statistics",
-     "seconds before the popup closes", true},
+     "seconds before the popup closes"},
     {"udRemoveDuplicateLinesSeparator", "udStatisticsDefaultPosition", SettingKind::Index,
-     "statistics", "where the popup appears", true},
+     "statistics", "where the popup appears"},
 };
 
 struct StoreKey {
@@ -61,6 +61,8 @@ constexpr StoreKey storeKeys[] = {
     {"preferencesHeight", SettingKind::Integer, "application", "height of the window"},
     {"firstRunPreferences", SettingKind::Boolean, "start", "the first start has been handled"},
     {"firstRunPreferencesProfiles", SettingKind::Boolean, "start", "there are profiles"},
+    {settingsVersionKey, SettingKind::Integer, "start",
+     "the number of the last change of their form; 1 or none where it is absent"},
     {"firstRunTips", SettingKind::Boolean, "start", "show the tips at each start"},
     {"updateReleaseNotes3_1", SettingKind::Boolean, "start", "the release notes have been shown"},
     {"udSelectedProfileItem", SettingKind::Integer, "profile", "place of the selected profile"},
@@ -73,11 +75,6 @@ constexpr StoreKey storeKeys[] = {
     {"AppleLanguages", SettingKind::TextList, "application",
      "the user's languages, before those of the desktop"},
 };
-
-// Options that came with profiles; there was nothing to carry over.
-constexpr std::string_view notMigrated[] = {"udRemoveHyphens",   "udRemoveHyphensAll",
-                                            "udAddPrefix",       "udAddSuffix",
-                                            "udPrefixTextField", "udSuffixTextField"};
 
 // What a first start writes, in its own order, which is not the profile's.
 struct FirstStart {
@@ -148,8 +145,7 @@ Table makeTable() {
         for (const ProfileOnly &row : profileOnly) {
             if (row.after == after) {
                 table.keys.push_back({std::string(row.key), row.kind, SettingScope::Profile,
-                                      row.group, std::string(row.meaning), firstStartOf(row.key),
-                                      row.migrated});
+                                      row.group, std::string(row.meaning), firstStartOf(row.key)});
             }
         }
     };
@@ -158,17 +154,14 @@ Table makeTable() {
     for (const engine::OptionField &field : engine::optionFields()) {
         const SettingKind kind =
             std::visit([](auto member) { return kindOf<decltype(member)>(); }, field.field);
-        // The find-and-replace list, whose keys begin with "s", came with profiles as a whole.
-        const bool migrated = field.key.starts_with("ud") &&
-                              std::ranges::find(notMigrated, field.key) == std::end(notMigrated);
         for (std::size_t slot = 1; slot <= (field.perSlot() ? engine::replaceSlots : 1); ++slot) {
             std::string meaning(field.meaning);
             if (const auto place = meaning.find('%'); place != std::string::npos) {
                 meaning.replace(place, 1, std::to_string(slot));
             }
             const std::string key = field.keyOf(slot);
-            table.keys.push_back({key, kind, SettingScope::Profile, field.group, meaning,
-                                  firstStartOf(key), migrated});
+            table.keys.push_back(
+                {key, kind, SettingScope::Profile, field.group, meaning, firstStartOf(key)});
         }
         addProfileOnly(field.key);
     }

@@ -38,8 +38,6 @@ struct SettingsKey {
     // What a first start writes; none where the key is then absent, or where the value depends on
     // the user's language (the quote styles).
     std::optional<storage::PropertyValue> firstStart;
-    // Carried over from the settings store of versions before there were profiles.
-    bool migrated = false;
 };
 
 // The one hot key that no operation has: it cleans the clipboard with all that is on.

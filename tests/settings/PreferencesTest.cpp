@@ -475,7 +475,7 @@ TEST(Migration, MovesTheOldOptionsIntoOneProfileOnce) {
                                 "sFindReplaceBool", "sOnlyOneProfile"}) {
             EXPECT_EQ(record.find(key), nullptr) << key;
         }
-        EXPECT_EQ(record.size(), 1u + 39 + 26 + 13);
+        EXPECT_EQ(std::prev(record.end())->first, "udInsertYourPatternOption");
         EXPECT_EQ(folder.count("profiles.nrp.replaced-"), 1) << "the file before is kept";
         EXPECT_EQ(program.store.find("stayOnTop"), nullptr);
         program.store.synchronize();
@@ -484,6 +484,48 @@ TEST(Migration, MovesTheOldOptionsIntoOneProfileOnce) {
     Program program(folder);
     setAllDefaultsInFirstRun(program.store, program.preferences);
     EXPECT_EQ(allFiles(folder), before);
+}
+
+TEST(Migration, EachStepIsDoneOnce) {
+    const TemporaryFolder folder;
+    std::vector<int> done;
+    const auto step = [&](int number) {
+        return MigrationStep{number, [&, number](auto &, auto &) { done.push_back(number); }};
+    };
+    const struct {
+        const char *shows;
+        PropertyDictionary store;
+        int newest;
+        std::vector<int> steps;
+    } rows[] = {
+        {"a first start has nothing to change", {}, 3, {}},
+        {"before profiles", {{"firstRunPreferences", true}}, 3, {1, 2, 3}},
+        {"no number yet",
+         {{"firstRunPreferences", true}, {"firstRunPreferencesProfiles", true}},
+         3,
+         {2, 3}},
+        {"half way", {{"firstRunPreferences", true}, {"settingsVersion", 2}}, 3, {3}},
+        {"of a newer program", {{"firstRunPreferences", true}, {"settingsVersion", 9}}, 3, {}},
+        {"the number is not needed yet", {}, 1, {}},
+    };
+    for (const auto &row : rows) {
+        test::MemorySettingsStore store(row.store);
+        MemoryMainQueue queue;
+        nrPreferences preferences(store, queue, pathsIn(folder));
+        std::vector<MigrationStep> steps;
+        for (int number = 1; number <= row.newest; ++number) {
+            steps.push_back(step(number));
+        }
+        done.clear();
+        setAllDefaultsInFirstRun(store, preferences, steps);
+        EXPECT_EQ(done, row.steps) << row.shows;
+        EXPECT_EQ(store.find("settingsVersion") != nullptr, row.newest > 1) << row.shows;
+        EXPECT_GE(std::max<std::int64_t>(store.integerForKey("settingsVersion"), 1), row.newest)
+            << row.shows;
+        store.set("firstRunPreferences", true);
+        setAllDefaultsInFirstRun(store, preferences, steps);
+        EXPECT_EQ(done, row.steps) << row.shows;
+    }
 }
 
 TEST(Language, TheKeyOfTheStoreComesBeforeTheDesktop) {

