@@ -18,12 +18,15 @@ bool FindReplaceList::contains(int row) const {
     return row >= 0 && static_cast<std::size_t>(row) < items_.size();
 }
 
-void FindReplaceList::setItems(PropertyArray items) {
+void FindReplaceList::setItems(PropertyArray items, std::vector<std::uint64_t> ids) {
     items_ = std::move(items);
+    ids_ = std::move(ids);
+    ids_.resize(items_.size());
     select(-1);
 }
 
-void FindReplaceList::append() {
+void FindReplaceList::append(std::uint64_t id) {
+    ids_.push_back(id);
     items_.emplace_back(PropertyDictionary{
         {"checkbox", true}, {"find", localize_(u"sFindReplaceNewItem")}, {"replace", u""}});
     select(static_cast<int>(items_.size()) - 1);
@@ -35,6 +38,7 @@ bool FindReplaceList::removeSelected() {
         return false;
     }
     items_.erase(items_.begin() + lastClickedRow_);
+    ids_.erase(ids_.begin() + lastClickedRow_);
     return true;
 }
 
@@ -85,12 +89,15 @@ void FindReplaceList::move(const std::vector<int> &rows, int dropRow) {
         return;
     }
     PropertyValue moved = items_[static_cast<std::size_t>(sorted.front())];
+    const std::uint64_t id = ids_[static_cast<std::size_t>(sorted.front())];
     for (auto row = sorted.rbegin(); row != sorted.rend(); ++row) {
         items_.erase(items_.begin() + *row);
+        ids_.erase(ids_.begin() + *row);
     }
     const int left = static_cast<int>(items_.size());
     const int place = left < dropRow ? dropRow - 1 : dropRow;
     items_.insert(items_.begin() + std::min(place, left), std::move(moved));
+    ids_.insert(ids_.begin() + std::min(place, left), id);
     select(-1);
 }
 

@@ -7,6 +7,7 @@
 #include "settings/OptionLists.h"
 #include "storage/PropertyValue.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -25,14 +26,17 @@ class FindReplaceList {
     explicit FindReplaceList(Localize localize);
 
     const storage::PropertyArray &items() const { return items_; }
+    // One for each item, to find it again after others have changed the list; 0 where none is
+    // known.
+    const std::vector<std::uint64_t> &ids() const { return ids_; }
     // Nothing is selected afterwards.
-    void setItems(storage::PropertyArray items);
+    void setItems(storage::PropertyArray items, std::vector<std::uint64_t> ids = {});
     // The selected row; -1 for none.
     int lastClickedRow() const { return lastClickedRow_; }
     const ReplacementField &field() const { return field_; }
 
     // A ticked rule with a text to start from, selected.
-    void append();
+    void append(std::uint64_t id = 0);
     // lastClickedRow() still tells the row that went, until the next select(). False, and a hint in
     // the field, when no row is selected.
     bool removeSelected();
@@ -56,6 +60,7 @@ class FindReplaceList {
 
     Localize localize_;
     storage::PropertyArray items_;
+    std::vector<std::uint64_t> ids_;
     int lastClickedRow_ = -1;
     ReplacementField field_;
 };

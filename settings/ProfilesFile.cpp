@@ -20,26 +20,26 @@ using storage::PropertyValue;
 
 class ById {
   public:
-    explicit ById(const ProfileItems &items) {
-        for (const ProfileItem &item : items) {
+    explicit ById(const RecordItems &items) {
+        for (const RecordItem &item : items) {
             places_.emplace(item.id, &item.record);
         }
     }
-    const ProfileRecord *find(std::uint64_t id) const {
+    const PropertyDictionary *find(std::uint64_t id) const {
         const auto place = places_.find(id);
         return place == places_.end() ? nullptr : place->second;
     }
 
   private:
-    std::unordered_map<std::uint64_t, const ProfileRecord *> places_;
+    std::unordered_map<std::uint64_t, const PropertyDictionary *> places_;
 };
 
-ProfileRecord mergeRecords(const ProfileRecord &base, const ProfileRecord &mine,
-                           const ProfileRecord &theirs) {
+PropertyDictionary mergeKeys(const PropertyDictionary &base, const PropertyDictionary &mine,
+                             const PropertyDictionary &theirs) {
     if (theirs == base) {
         return mine;
     }
-    ProfileRecord merged = theirs;
+    PropertyDictionary merged = theirs;
     for (const auto &[key, value] : mine) {
         const PropertyValue *before = base.find(key);
         if (!before || !(*before == value)) {
@@ -54,10 +54,10 @@ ProfileRecord mergeRecords(const ProfileRecord &base, const ProfileRecord &mine,
     return merged;
 }
 
-PropertyArray arrayOf(const ProfileItems &items, const PropertyArray &others) {
+PropertyArray arrayOf(const RecordItems &items, const PropertyArray &others) {
     PropertyArray array;
     array.reserve(items.size() + others.size());
-    for (const ProfileItem &item : items) {
+    for (const RecordItem &item : items) {
         array.emplace_back(item.record);
     }
     array.insert(array.end(), others.begin(), others.end());
@@ -85,8 +85,45 @@ ArrayFile readArray(const std::string &path, storage::FileCalls &calls) {
     return file;
 }
 
-bool sameRecords(const ProfileItems &a, const ProfileItems &b) {
-    return std::ranges::equal(a, b, {}, &ProfileItem::record, &ProfileItem::record);
+bool sameRecords(const RecordItems &a, const RecordItems &b) {
+    return std::ranges::equal(a, b, {}, &RecordItem::record, &RecordItem::record);
+}
+
+// Whether the records of `base` that are left do not stand as they did, or not before all new ones.
+bool moved(const RecordItems &base, const RecordItems &mine) {
+    const ById inBase(base);
+    const ById inMine(mine);
+    std::vector<std::uint64_t> unmoved;
+    for (const RecordItem &item : base) {
+        if (inMine.find(item.id)) {
+            unmoved.push_back(item.id);
+        }
+    }
+    for (const RecordItem &item : mine) {
+        if (!inBase.find(item.id)) {
+            unmoved.push_back(item.id);
+        }
+    }
+    return !std::ranges::equal(unmoved, mine, {}, {}, &RecordItem::id);
+}
+
+// The records of `mine` in its order, and each other one still behind what it stood behind.
+RecordItems inOrderOf(const RecordItems &mine, const RecordItems &merged) {
+    const ById inMine(mine);
+    const ById inMerged(merged);
+    RecordItems ordered;
+    for (const RecordItem &item : mine) {
+        if (const PropertyDictionary *record = inMerged.find(item.id)) {
+            ordered.push_back({item.id, *record});
+        }
+    }
+    auto place = ordered.begin();
+    for (const RecordItem &item : merged) {
+        place = inMine.find(item.id) ? std::ranges::find(ordered, item.id, &RecordItem::id)
+                                     : ordered.insert(place, item);
+        ++place;
+    }
+    return ordered;
 }
 
 } // namespace
@@ -98,23 +135,6 @@ std::optional<PropertyArray> readSharedFindReplace(const SettingsPaths &paths,
         *error = std::move(file.error);
     }
     return std::move(file.array);
-}
-
-std::string writeSharedFindReplace(const SettingsPaths &paths, const PropertyArray &items,
-                                   storage::FileCalls &calls) {
-    const std::string &path = paths.sharedFindReplace;
-    const storage::FolderLock lock(storage::folderOf(path), calls);
-    if (!lock.error().empty()) {
-        return lock.error();
-    }
-    const ArrayFile before = readArray(path, calls);
-    if (before.array == items) {
-        return {};
-    }
-    if (before.there && !before.array && !storage::moveAside(path, "unreadable", calls)) {
-        return path + " cannot be read and cannot be moved aside";
-    }
-    return storage::replaceFile(path, storage::writePropertyList(PropertyValue(items)), calls);
 }
 
 std::u16string profileNameOf(const ProfileRecord &record) {
@@ -154,39 +174,46 @@ ProfileRecord withSharedRules(ProfileRecord record, const SettingsPaths &paths,
     return record;
 }
 
-ProfileItems mergeProfiles(const ProfileItems &base, const ProfileItems &mine,
-                           const ProfileItems &theirs) {
+RecordItems mergeRecords(const RecordItems &base, const RecordItems &mine,
+                         const RecordItems &theirs) {
     const ById inBase(base);
     const ById inMine(mine);
     const ById inTheirs(theirs);
-    ProfileItems merged;
-    for (const ProfileItem &item : theirs) {
-        const ProfileRecord *before = inBase.find(item.id);
-        const ProfileRecord *own = inMine.find(item.id);
+    RecordItems merged;
+    for (const RecordItem &item : theirs) {
+        const PropertyDictionary *before = inBase.find(item.id);
+        const PropertyDictionary *own = inMine.find(item.id);
         if (before && own) {
-            merged.push_back({item.id, mergeRecords(*before, *own, item.record)});
+            merged.push_back({item.id, mergeKeys(*before, *own, item.record)});
         } else if (!before || !(item.record == *before)) {
             merged.push_back(item);
         }
     }
-    for (const ProfileItem &item : mine) {
-        const ProfileRecord *before = inBase.find(item.id);
+    for (const RecordItem &item : mine) {
+        const PropertyDictionary *before = inBase.find(item.id);
         if (!inTheirs.find(item.id) && (!before || !(item.record == *before))) {
             merged.push_back(item);
         }
     }
-    return merged;
+    return moved(base, mine) ? inOrderOf(mine, merged) : merged;
 }
 
-ProfilesFile::ProfilesFile(std::string path, storage::FileCalls &calls)
+RecordsFile::RecordsFile(std::string path, std::string nameKey, storage::FileCalls &calls)
     : path_(std::move(path))
+    , nameKey_(std::move(nameKey))
     , calls_(calls) {}
 
-ProfileItem ProfilesFile::newItem(ProfileRecord record) {
-    return {++lastId_, std::move(record)};
+bool RecordsFile::differs(const RecordItems &items) const {
+    return !sameRecords(items, base_);
 }
 
-ProfilesFile::OnDisk ProfilesFile::read() {
+std::u16string RecordsFile::nameOf(const PropertyDictionary &record) const {
+    const PropertyValue *name = record.find(nameKey_);
+    return name ? name->stringValue() : std::u16string();
+}
+
+RecordsFile::OnDisk RecordsFile::read() {
+    seen_ = storage::settledStampOf(path_);
     ArrayFile file = readArray(path_, calls_);
     OnDisk disk;
     disk.there = file.there;
@@ -206,20 +233,20 @@ ProfilesFile::OnDisk ProfilesFile::read() {
 
 // A record is one that we know if it stands unchanged in its place, or else if it has the name of
 // one that does not; all others are new.
-void ProfilesFile::identify(ProfileItems &items) {
+void RecordsFile::identify(RecordItems &items) {
     std::unordered_map<std::u16string, std::deque<std::uint64_t>> named;
     for (std::size_t i = 0; i < base_.size(); ++i) {
         if (i < items.size() && items[i].record == base_[i].record) {
             items[i].id = base_[i].id;
         } else {
-            named[profileNameOf(base_[i].record)].push_back(base_[i].id);
+            named[nameOf(base_[i].record)].push_back(base_[i].id);
         }
     }
-    for (ProfileItem &item : items) {
+    for (RecordItem &item : items) {
         if (item.id != 0) {
             continue;
         }
-        auto &ids = named[profileNameOf(item.record)];
+        auto &ids = named[nameOf(item.record)];
         if (ids.empty()) {
             item.id = ++lastId_;
         } else {
@@ -229,7 +256,7 @@ void ProfilesFile::identify(ProfileItems &items) {
     }
 }
 
-ProfileItems ProfilesFile::load() {
+RecordItems RecordsFile::load() {
     OnDisk disk = read();
     if (disk.there && loadError_.empty()) {
         loadError_ =
@@ -239,12 +266,14 @@ ProfileItems ProfilesFile::load() {
     return base_;
 }
 
-std::string ProfilesFile::write(const ProfileItems &items, const PropertyArray &others) {
+std::string RecordsFile::write(const RecordItems &items, const PropertyArray &others) {
     const PropertyValue array(arrayOf(items, others));
-    return storage::replaceFile(path_, storage::writePropertyList(array), calls_);
+    std::string error = storage::replaceFile(path_, storage::writePropertyList(array), calls_);
+    seen_ = storage::stampOf(path_);
+    return error;
 }
 
-std::string ProfilesFile::save(ProfileItems &items) {
+std::string RecordsFile::save(RecordItems &items) {
     const storage::FolderLock lock(storage::folderOf(path_), calls_);
     if (!lock.error().empty()) {
         return lock.error();
@@ -254,7 +283,7 @@ std::string ProfilesFile::save(ProfileItems &items) {
         return path_ + " cannot be read and cannot be moved aside";
     }
     // A file that has gone or become unusable says nothing about the records: all of ours stay.
-    ProfileItems merged = disk.usable ? mergeProfiles(base_, items, disk.items) : items;
+    RecordItems merged = disk.usable ? mergeRecords(base_, items, disk.items) : items;
     // The other writer's own form of the same records is left alone.
     std::string error =
         disk.usable && sameRecords(merged, disk.items) ? std::string() : write(merged, disk.others);
@@ -265,7 +294,7 @@ std::string ProfilesFile::save(ProfileItems &items) {
     return error;
 }
 
-std::string ProfilesFile::replace(ProfileItems &items) {
+std::string RecordsFile::replace(RecordItems &items) {
     const storage::FolderLock lock(storage::folderOf(path_), calls_);
     if (!lock.error().empty()) {
         return lock.error();
@@ -281,12 +310,15 @@ std::string ProfilesFile::replace(ProfileItems &items) {
     return error;
 }
 
-std::optional<ProfileItems> ProfilesFile::refreshed(const ProfileItems &items) {
+std::optional<RecordItems> RecordsFile::refreshed(const RecordItems &items) {
+    if (seen_ && storage::stampOf(path_) == seen_) {
+        return std::nullopt;
+    }
     const OnDisk disk = read();
     if (!disk.usable || sameRecords(disk.items, base_)) {
         return std::nullopt;
     }
-    ProfileItems merged = mergeProfiles(base_, items, disk.items);
+    RecordItems merged = mergeRecords(base_, items, disk.items);
     base_ = disk.items;
     return merged;
 }

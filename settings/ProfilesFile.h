@@ -1,4 +1,5 @@
-// The file of all profiles, shared with other processes.
+// The files of all profiles, and of the rules that they may share; both shared with other
+// processes.
 //
 // Each process edits its own list; a save reads the file again under the folder's lock and puts in
 // only what was changed here, record by record and key by key. Main thread only.
@@ -7,22 +8,27 @@
 #include "settings/SettingsPaths.h"
 #include "storage/FileCalls.h"
 #include "storage/PropertyValue.h"
+#include "storage/SafeFile.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace nerlo::settings {
 
 using ProfileRecord = storage::PropertyDictionary;
 
-struct ProfileItem {
+// A record of a list: a profile, or a rule of find and replace.
+struct RecordItem {
     std::uint64_t id; // tells records of equal names apart; of this process only
-    ProfileRecord record;
+    storage::PropertyDictionary record;
 };
-using ProfileItems = std::vector<ProfileItem>;
+using RecordItems = std::vector<RecordItem>;
+using ProfileItem = RecordItem;
+using ProfileItems = RecordItems;
 
 // The text under "profileName".
 std::u16string profileNameOf(const ProfileRecord &record);
@@ -30,51 +36,77 @@ std::u16string profileNameOf(const ProfileRecord &record);
 const ProfileItem *findProfile(const ProfileItems &items, std::string_view nameOrIndex);
 
 // What `mine` changed of `base`, put into `theirs`. A record removed on one side and changed on the
-// other stays; of a key changed on both sides, `mine` wins.
-ProfileItems mergeProfiles(const ProfileItems &base, const ProfileItems &mine,
-                           const ProfileItems &theirs);
+// other stays; of a key changed on both sides, `mine` wins. The order is theirs, unless records
+// have been moved in `mine`.
+RecordItems mergeRecords(const RecordItems &base, const RecordItems &mine,
+                         const RecordItems &theirs);
 
-class ProfilesFile {
+// A property list that holds an array of dictionaries.
+class RecordsFile {
   public:
-    explicit ProfilesFile(std::string path,
-                          storage::FileCalls &calls = storage::FileCalls::system());
+    // A record that others have changed is found again by the text under `nameKey`.
+    RecordsFile(std::string path, std::string nameKey, storage::FileCalls &calls);
 
     // The file's records; none where it is missing or unusable. Changes no file.
-    ProfileItems load();
+    RecordItems load();
     // Why the file was unusable when load() first found it so; empty if it never did.
     const std::string &loadError() const { return loadError_; }
 
-    ProfileItem newItem(ProfileRecord record);
+    std::uint64_t newId() { return ++lastId_; }
+    RecordItem newItem(storage::PropertyDictionary record) { return {newId(), std::move(record)}; }
+
+    // Whether a save of `items` has anything to put into the file.
+    bool differs(const RecordItems &items) const;
 
     // Puts the changes of `items` since the last load or save into the file; `items` then is what
     // the file holds. A file that cannot be read is first kept under a dated name. Empty when done;
     // else what went wrong, and the file and `items` are as they were.
-    std::string save(ProfileItems &items);
+    std::string save(RecordItems &items);
 
     // As save(), but the records that are in the file go; the file that held them is kept under a
     // dated name.
-    std::string replace(ProfileItems &items);
+    std::string replace(RecordItems &items);
 
-    // When another process has written: `items` with its changes. Nothing when there are none.
-    std::optional<ProfileItems> refreshed(const ProfileItems &items);
+    // When another process has written: `items` with its changes. Nothing when there are none; what
+    // was written here is not read again.
+    std::optional<RecordItems> refreshed(const RecordItems &items);
 
   private:
     struct OnDisk {
         bool usable = false;
         bool there = false;
         std::string error;
-        ProfileItems items;
+        RecordItems items;
         storage::PropertyArray others; // elements that are no records; kept at the end
     };
     OnDisk read();
-    void identify(ProfileItems &items);
-    std::string write(const ProfileItems &items, const storage::PropertyArray &others);
+    void identify(RecordItems &items);
+    std::string write(const RecordItems &items, const storage::PropertyArray &others);
+
+    std::u16string nameOf(const storage::PropertyDictionary &record) const;
 
     std::string path_;
+    std::string nameKey_;
     storage::FileCalls &calls_;
-    ProfileItems base_; // the file's records as last seen
+    std::optional<storage::FileStamp> seen_; // the file when it was last written or read
+    RecordItems base_;                       // the file's records as last seen
     std::uint64_t lastId_ = 0;
     std::string loadError_;
+};
+
+class ProfilesFile : public RecordsFile {
+  public:
+    explicit ProfilesFile(std::string path,
+                          storage::FileCalls &calls = storage::FileCalls::system())
+        : RecordsFile(std::move(path), "profileName", calls) {}
+};
+
+// The list of rules that all profiles may share.
+class SharedFindReplaceFile : public RecordsFile {
+  public:
+    explicit SharedFindReplaceFile(std::string path,
+                                   storage::FileCalls &calls = storage::FileCalls::system())
+        : RecordsFile(std::move(path), "find", calls) {}
 };
 
 // The place of the profile that is selected in a list of `count`, by the stored one: a place beyond
@@ -91,9 +123,5 @@ std::optional<storage::PropertyArray>
 readSharedFindReplace(const SettingsPaths &paths,
                       storage::FileCalls &calls = storage::FileCalls::system(),
                       std::string *error = nullptr);
-// Under the folder's lock. A file that cannot be read is first kept under a dated name. Empty when
-// done, else what went wrong.
-std::string writeSharedFindReplace(const SettingsPaths &paths, const storage::PropertyArray &items,
-                                   storage::FileCalls &calls = storage::FileCalls::system());
 
 } // namespace nerlo::settings

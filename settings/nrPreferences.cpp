@@ -13,6 +13,7 @@ namespace nerlo::settings {
 namespace {
 
 using storage::PropertyArray;
+using storage::PropertyDictionary;
 using storage::PropertyValue;
 
 constexpr const char *selectedItemKey = "udSelectedProfileItem";
@@ -44,6 +45,7 @@ nrPreferences::nrPreferences(storage::SettingsStore &store, platform::MainQueue 
     , calls_(calls)
     , optionLists_(settings::optionLists(localize_))
     , file_(paths_.profiles, calls)
+    , sharedFile_(paths_.sharedFindReplace, calls)
     , findReplace_(localize_) {
     if (!instance) {
         instance = this;
@@ -126,11 +128,9 @@ void nrPreferences::initProfilesItems() {
         profilesItems_ = {file_.newItem(firstProfile())};
         saveProfilesWithArray();
     }
-    const auto shared = readSharedFindReplace(paths_, calls_, &sharedListError_);
-    if (!shared || shared->empty()) {
-        findReplace_.setItems({});
-        findReplace_.append();
-        report(writeSharedList());
+    sharedRules_ = sharedFile_.load();
+    if (sharedRules_.empty()) {
+        showSharedRules(); // which gives it a rule
     }
     const std::int64_t stored = store_.integerForKey(selectedItemKey);
     selectedItem_ = static_cast<int>(
@@ -147,7 +147,7 @@ void nrPreferences::initProfilesItems() {
 }
 
 std::vector<std::string> nrPreferences::loadErrors() const {
-    std::vector<std::string> errors{file_.loadError(), sharedListError_};
+    std::vector<std::string> errors{file_.loadError(), sharedFile_.loadError()};
     std::erase(errors, std::string());
     return errors;
 }
@@ -229,7 +229,7 @@ std::string nrPreferences::save() {
     } else {
         profilesItems_.push_back(file_.newItem(profileSelected()));
     }
-    const std::string rulesError = onlyOneProfile() ? writeSharedList() : std::string();
+    const std::string rulesError = writeSharedList();
     const std::string error = writeProfiles();
     return report(error.empty() ? rulesError : error);
 }
@@ -285,6 +285,7 @@ void nrPreferences::profilesFileChanged() {
     if (auto items = file_.refreshed(profilesItems_)) {
         adopt(std::move(*items));
     }
+    sharedFileChanged();
 }
 
 void nrPreferences::profilesAdd() {
@@ -404,23 +405,16 @@ bool nrPreferences::onlyOneProfile() const {
 }
 
 void nrPreferences::onlyOneProfileChanged(bool on) {
-    if (onlyOneProfile()) {
-        report(writeSharedList()); // what waits for its delay
-    }
     edited_.set(onlyOneKey, on ? 1 : 0);
     OnlyOneProfileAction();
 }
 
 void nrPreferences::OnlyOneProfileAction() {
     if (onlyOneProfile()) {
-        PropertyArray shared = readSharedList();
-        const bool empty = shared.empty();
-        findReplace_.setItems(std::move(shared));
-        if (empty) {
-            findReplace_.append();
-            updateUI(2);
-            report(writeSharedList());
+        if (auto rules = sharedFile_.refreshed(sharedRules_)) {
+            sharedRules_ = std::move(*rules);
         }
+        showSharedRules();
         keepRules();
     } else {
         const PropertyValue *own = profileSelected().find(ownListKey);
@@ -433,9 +427,57 @@ void nrPreferences::OnlyOneProfileAction() {
     setAllBoolsInChangePasteboard();
 }
 
-// The list that is shown belongs to the edited profile, or is copied into it.
+// A list without rules gets one to start from.
+void nrPreferences::showSharedRules() {
+    PropertyArray items;
+    std::vector<std::uint64_t> ids;
+    for (const RecordItem &rule : sharedRules_) {
+        items.emplace_back(rule.record);
+        ids.push_back(rule.id);
+    }
+    findReplace_.setItems(std::move(items), std::move(ids));
+    if (sharedRules_.empty()) {
+        findReplace_.append(sharedFile_.newId());
+        sharedRules_ = {{findReplace_.ids()[0], *findReplace_.items()[0].as<PropertyDictionary>()}};
+        report(writeSharedList());
+    }
+}
+
+// What was edited belongs to the edited profile; the shared list is copied into it.
 void nrPreferences::keepRules() {
-    edited_.set(onlyOneProfile() ? sharedListKey : ownListKey, findReplace_.items());
+    const PropertyArray &items = findReplace_.items();
+    edited_.set(onlyOneProfile() ? sharedListKey : ownListKey, items);
+    if (onlyOneProfile()) {
+        sharedRules_.clear();
+        for (std::size_t row = 0; row < items.size(); ++row) {
+            sharedRules_.push_back({findReplace_.ids()[row], *items[row].as<PropertyDictionary>()});
+        }
+    }
+}
+
+void nrPreferences::sharedFileChanged() {
+    if (auto rules = sharedFile_.refreshed(sharedRules_)) {
+        adoptRules(std::move(*rules));
+    }
+}
+
+// Takes the list over from the file; the selected rule is followed to its new place.
+void nrPreferences::adoptRules(RecordItems rules) {
+    const bool same =
+        std::ranges::equal(rules, sharedRules_, {}, &RecordItem::record, &RecordItem::record);
+    sharedRules_ = std::move(rules);
+    if (same || !onlyOneProfile()) {
+        return;
+    }
+    const int row = findReplace_.lastClickedRow();
+    const std::uint64_t id = row < 0 ? 0 : findReplace_.ids()[static_cast<std::size_t>(row)];
+    showSharedRules();
+    const auto &ids = findReplace_.ids();
+    const auto place = std::ranges::find(ids, id);
+    findReplace_.select(place == ids.end() ? -1 : static_cast<int>(place - ids.begin()));
+    keepRules();
+    updateUI(4);
+    setAllBoolsInChangePasteboard();
 }
 
 void nrPreferences::updateUI(int mode) {
@@ -445,7 +487,7 @@ void nrPreferences::updateUI(int mode) {
 }
 
 void nrPreferences::addNewFindReplace() {
-    findReplace_.append();
+    findReplace_.append(sharedFile_.newId());
     updateUI(2);
     saveCurrentFindReplaceList();
 }
@@ -496,13 +538,16 @@ void nrPreferences::saveCurrentFindReplaceList() {
     setAllBoolsInChangePasteboard();
 }
 
-PropertyArray nrPreferences::readSharedList() const {
-    return readSharedFindReplace(paths_, calls_).value_or(PropertyArray());
-}
-
 std::string nrPreferences::writeSharedList() {
-    std::string error = writeSharedFindReplace(paths_, findReplace_.items(), calls_);
-    if (!error.empty()) {
+    if (!sharedFile_.differs(sharedRules_)) {
+        sharedFileChanged();
+        return {};
+    }
+    RecordItems rules = sharedRules_;
+    std::string error = sharedFile_.save(rules);
+    if (error.empty()) {
+        adoptRules(std::move(rules));
+    } else {
         createDir();
     }
     return error;

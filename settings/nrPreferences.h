@@ -141,11 +141,13 @@ class nrPreferences {
     void refreshProfilesMenuItems();
     void schedule(std::chrono::milliseconds delay);
     void fillEngine();
+    void showSharedRules();
     void keepRules();
+    void sharedFileChanged();
+    void adoptRules(RecordItems rules);
     // 0 reload and show the first row, 1 the selected row goes, 2 a row came at the end, 3 the
     // field is empty, others reload.
     void updateUI(int mode);
-    storage::PropertyArray readSharedList() const;
     std::string save();
     std::string writeSharedList();
     std::string writeProfiles();
@@ -166,8 +168,9 @@ class nrPreferences {
     EditedProfile edited_;
     int selectedItem_ = 0;
     std::optional<int> popupSelection_;
-    FindReplaceList findReplace_;
-    std::string sharedListError_;
+    SharedFindReplaceFile sharedFile_;
+    RecordItems sharedRules_;     // of all profiles, also while it is not shown
+    FindReplaceList findReplace_; // the list that is shown
     platform::MainQueue::TaskId pending_ = 0;
     bool saveFailed_ = false;
 

@@ -1,7 +1,6 @@
 #include "storage/FileSettingsStore.h"
 
 #include "storage/PropertyList.h"
-#include "storage/SafeFile.h"
 
 namespace nerlo::storage {
 
@@ -9,6 +8,7 @@ FileSettingsStore::FileSettingsStore(std::string path, Later later, FileCalls &c
     : path_(std::move(path))
     , later_(std::move(later))
     , calls_(calls) {
+    seen_ = settledStampOf(path_);
     if (auto values = read(loadError_)) {
         replaceAll(std::move(*values));
     }
@@ -64,6 +64,7 @@ bool FileSettingsStore::synchronize() {
             }
             if (error_.empty()) {
                 error_ = replaceFile(path_, writePropertyList(merged), calls_);
+                seen_ = stampOf(path_);
             }
         }
         if (error_.empty()) {
@@ -78,6 +79,10 @@ bool FileSettingsStore::synchronize() {
 }
 
 void FileSettingsStore::fileChanged() {
+    if (seen_ && stampOf(path_) == seen_) {
+        return;
+    }
+    seen_ = settledStampOf(path_);
     std::string unusable;
     if (auto theirs = read(unusable)) {
         replaceAll(withOwnChanges(std::move(*theirs)));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "storage/FileCalls.h"
+#include "storage/SafeFile.h"
 #include "storage/SettingsStore.h"
 
 #include <functional>
@@ -31,7 +32,8 @@ class FileSettingsStore final : public SettingsStore {
     // Nothing that was changed here and not yet written will be written.
     void forgetChanges() { dirty_.clear(); }
 
-    // Takes over what other processes have written; to be called when the folder has changed.
+    // Takes over what other processes have written; to be called when the folder has changed. Does
+    // not read what was written here.
     void fileChanged();
 
     const std::string &path() const { return path_; }
@@ -53,7 +55,8 @@ class FileSettingsStore final : public SettingsStore {
     std::string path_;
     Later later_;
     FileCalls &calls_;
-    std::set<std::string> dirty_; // set or removed here since the last write
+    std::optional<FileStamp> seen_; // the file when it was last written or read
+    std::set<std::string> dirty_;   // set or removed here since the last write
     std::shared_ptr<bool> posted_ = std::make_shared<bool>(false);
     std::string loadError_;
     std::string error_;

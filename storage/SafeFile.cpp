@@ -171,6 +171,20 @@ std::string replaceFile(const std::string &path, std::string_view bytes, FileCal
     return {};
 }
 
+std::optional<FileStamp> stampOf(const std::string &path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return FileStamp{status.st_dev, status.st_ino, status.st_size, status.st_ctim.tv_sec,
+                     status.st_ctim.tv_nsec};
+}
+
+std::optional<FileStamp> settledStampOf(const std::string &path) {
+    const auto stamp = stampOf(path);
+    return stamp && stamp->seconds + 1 < std::time(nullptr) ? stamp : std::nullopt;
+}
+
 std::optional<std::string> moveAside(const std::string &path, const char *reason,
                                      FileCalls &calls) {
     const std::time_t now = std::time(nullptr);

@@ -8,6 +8,7 @@
 
 #include "storage/FileCalls.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -28,6 +29,21 @@ FileContent readFile(const std::string &path, std::size_t limit,
 // was. The folder must be there. Two writers of one file must hold the same FolderLock.
 std::string replaceFile(const std::string &path, std::string_view bytes,
                         FileCalls &calls = FileCalls::system());
+
+// Tells later whether anybody has written the file since.
+struct FileStamp {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0; // of the file in its file system
+    std::int64_t size = 0;    // bytes
+    std::int64_t seconds = 0; // of the last change
+    std::int64_t nanoseconds = 0;
+    bool operator==(const FileStamp &) const = default;
+};
+// Of the file that a write of ours has just made. Nothing where there is none.
+std::optional<FileStamp> stampOf(const std::string &path);
+// Of a file that is about to be read. Nothing, too, when it has changed a moment ago: another
+// change in the same tick of the clock would look the same.
+std::optional<FileStamp> settledStampOf(const std::string &path);
 
 // Renames the file to its name, the reason and the moment, in UTC
 // ("profiles.nrp.unreadable-2024-05-01T12-30-00"). Returns the new path; nothing when the file

@@ -255,7 +255,7 @@ TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
     start();
     queue.advance(5s);
     elsewhere([](ProfilesFile &other, ProfileItems &items) {
-        items.insert(items.begin(), other.newItem({{"profileName", u"imported"}}));
+        items.push_back(other.newItem({{"profileName", u"imported"}}));
     });
     // An edit was under way: its save takes both.
     preferences.checkBoxChanged("udSort", true);
@@ -401,6 +401,71 @@ TEST_F(FindReplace, TheSharedListAndTheProfilesOwn) {
     preferences.onlyOneProfileChanged(false);
     preferences.onlyOneProfileChanged(true);
     EXPECT_EQ(shared(), PropertyValue(PropertyArray{rule}));
+}
+
+TEST(SharedRules, OfTwoProgramsAreMergedAndOutsideChangesSeen) {
+    const TemporaryFolder folder;
+    Program first(folder);
+    first.start();
+    Program second(folder);
+    second.start();
+    const auto finds = [](const Program &program) {
+        std::u16string all;
+        for (const PropertyValue &rule : program.preferences.findReplaceList().items()) {
+            all += FindReplaceList::textOf(rule, "find") + u' ';
+        }
+        return all;
+    };
+    const auto add = [](Program &program, const char16_t *find) {
+        program.preferences.addNewFindReplace();
+        program.preferences.saveCurrentFindReplace(find);
+    };
+    const auto settle = [&] {
+        for (Program *program : {&first, &second, &first}) {
+            program->queue.advance(2s);
+            program->preferences.profilesFileChanged();
+        }
+        EXPECT_EQ(finds(first), finds(second));
+        for (const Program *program : {&first, &second}) {
+            EXPECT_EQ(*program->engine.find("sFindAndReplaceItems"),
+                      PropertyValue(program->preferences.findReplaceList().items()));
+        }
+        return finds(first);
+    };
+    for (Program *program : {&first, &second}) {
+        program->preferences.onlyOneProfileChanged(true);
+        program->queue.advance(2s);
+    }
+    first.preferences.selectedRow(0);
+    first.preferences.saveCurrentFindReplace(u"a");
+    settle();
+    add(first, u"b");
+    add(second, u"c");
+    EXPECT_EQ(settle(), u"a b c ");
+
+    // One moves a rule, the other changes it and adds another.
+    first.preferences.acceptDrop({2}, 0);
+    second.preferences.selectedRow(2);
+    second.preferences.controlTextDidChangeReplace(u"new");
+    add(second, u"d");
+    EXPECT_EQ(settle(), u"c d a b ");
+    EXPECT_EQ(FindReplaceList::textOf(first.preferences.findReplaceList().items()[0], "replace"),
+              u"new");
+
+    // One removes a rule while the other types into it; the selected rule stays selected.
+    first.preferences.selectedRow(1);
+    first.preferences.deleteFindReplace();
+    second.preferences.selectedRow(1);
+    second.preferences.controlTextDidChangeReplace(u"kept");
+    second.queue.advance(2s);
+    EXPECT_EQ(finds(second), u"c a b d ");
+    EXPECT_EQ(second.preferences.findReplaceList().lastClickedRow(), 3);
+    EXPECT_EQ(second.preferences.findReplaceList().field().text, u"kept");
+
+    // A tool that knows no locks puts another file in its place.
+    putBytes(first.paths.sharedFindReplace,
+             writeXml(PropertyArray{PropertyDictionary{{"find", u"synced"}}}));
+    EXPECT_EQ(settle(), u"synced ");
 }
 
 TEST(RuleList, RowsMoveAsTheyAreDropped) {

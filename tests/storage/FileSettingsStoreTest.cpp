@@ -138,13 +138,17 @@ TEST(FileSettingsStore, AFileThatIsDamagedOrRemovedLaterGetsAllValuesAgain) {
 TEST(FileSettingsStore, WritesByItselfOnceTheTaskIsOver) {
     const TemporaryFolder folder;
     test::MemoryMainQueue queue;
-    FileSettingsStore store(folder / "defaults.plist",
-                            [&](auto task) { queue.post(std::move(task)); });
+    FaultyFileCalls counting(Fault::None, 0);
+    FileSettingsStore store(
+        folder / "defaults.plist", [&](auto task) { queue.post(std::move(task)); }, counting);
     store.set("a", 1);
     store.set("b", 1);
     EXPECT_FALSE(std::filesystem::exists(store.path()));
     queue.runPosted();
     EXPECT_EQ(FileSettingsStore(store.path()).values().size(), 2u);
+    const int calls = counting.count();
+    store.fileChanged();
+    EXPECT_EQ(counting.count(), calls) << "its own write is not read again";
 }
 
 TEST(FileSettingsStore, FailedWriteIsReportedAndGoesWithTheNext) {
