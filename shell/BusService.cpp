@@ -2,69 +2,15 @@
 
 #include "engine/Operations.h"
 #include "nerlopro_adaptor.h"
-#include "platform/Pasteboard.h"
 
-#include <algorithm>
-#include <chrono>
-#include <thread>
 #include <utility>
 
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
 namespace nerlo::shell {
 
-namespace {
-
-const auto serviceName = QStringLiteral("org.nerlo.NerloPro");
-const auto objectPath = QStringLiteral("/org/nerlo/NerloPro");
-const auto interfaceName = serviceName;
-
-using namespace std::chrono_literals;
-
-// A program that ends may be busy with its clipboard for so long.
-constexpr auto endsWithin = platform::pasteboardHandOverLimit + 5s;
-
-const auto questionName = QStringLiteral("question");
-
-// The shared connection is for the application that may come after the question.
-class OwnConnection {
-  public:
-    OwnConnection()
-        : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, questionName)) {}
-    ~OwnConnection() { QDBusConnection::disconnectFromBus(questionName); }
-    OwnConnection(const OwnConnection &) = delete;
-    OwnConnection &operator=(const OwnConnection &) = delete;
-
-    bool programRuns() const {
-        return bus.isConnected() && bus.interface()->isServiceRegistered(serviceName);
-    }
-    bool programEnds() const {
-        const auto end = std::chrono::steady_clock::now() + endsWithin;
-        while (programRuns()) {
-            if (std::chrono::steady_clock::now() > end) {
-                return false;
-            }
-            std::this_thread::sleep_for(20ms);
-        }
-        return true;
-    }
-
-    QDBusConnection bus;
-};
-
-// What a program that ends leaves a question with.
-bool fromOneThatEnds(const QDBusMessage &reply) {
-    constexpr QDBusError::ErrorType ends[] = {QDBusError::UnknownObject, QDBusError::ServiceUnknown,
-                                              QDBusError::NoReply};
-    return std::ranges::find(ends, QDBusError(reply).type()) != std::end(ends);
-}
-
-} // namespace
-
-BusService::BusService(const Commands &commands)
-    : commands_(commands) {
+BusService::BusService() {
     new NerloProAdaptor(this);
 }
 
@@ -74,12 +20,19 @@ BusService::Name BusService::takeName() {
         return Name::noBus;
     }
     // The object first: whoever finds the name finds it too.
-    bus.registerObject(objectPath, this);
-    return bus.registerService(serviceName) ? Name::ours : Name::taken;
+    bus.registerObject(busObjectPath, this);
+    named_ = bus.registerService(applicationId);
+    return named_ ? Name::ours : Name::taken;
+}
+
+void BusService::serve(Program &program) {
+    program_ = &program;
+    program.setListener(this);
+    stateChanged();
 }
 
 void BusService::end() {
-    QDBusConnection::sessionBus().unregisterObject(objectPath);
+    QDBusConnection::sessionBus().unregisterObject(busObjectPath);
 }
 
 void BusService::stateChanged() {
@@ -93,16 +46,16 @@ void BusService::stateChanged() {
         }
     }
     if (!changed.empty()) {
-        auto signal = QDBusMessage::createSignal(objectPath,
+        auto signal = QDBusMessage::createSignal(busObjectPath,
                                                  QStringLiteral("org.freedesktop.DBus.Properties"),
                                                  QStringLiteral("PropertiesChanged"));
-        signal.setArguments({interfaceName, changed, QStringList()});
+        signal.setArguments({applicationId, changed, QStringList()});
         QDBusConnection::sessionBus().send(signal);
     }
 }
 
 void BusService::Clean() {
-    commands_.clean();
+    program_->clean();
 }
 
 void BusService::Operation(int index) {
@@ -110,15 +63,13 @@ void BusService::Operation(int index) {
         sendErrorReply(QDBusError::InvalidArgs, "there is no operation " + QString::number(index));
         return;
     }
-    commands_.operation(index);
+    program_->runOperation(index);
 }
 
 QString BusService::Restore() {
     setDelayedReply(true);
-    commands_.restore([bus = connection(), call = message()](auto outcome) {
-        const auto name = nameOf(outcome);
-        bus.send(call.createReply(
-            QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()))));
+    program_->restore([bus = connection(), call = message()](auto outcome) {
+        bus.send(call.createReply(nameOf(outcome)));
     });
     return {};
 }
@@ -129,55 +80,29 @@ bool BusService::Automatic(const QString &mode) {
         sendErrorReply(QDBusError::InvalidArgs, "on, off or toggle");
         return false;
     }
-    return commands_.automatic(*parsed);
+    return program_->setAutomatic(*parsed);
 }
 
 void BusService::Activate() {
-    commands_.activate();
+    program_->activate();
 }
 
 void BusService::Preferences() {
-    commands_.preferences();
+    program_->showPreferences();
 }
 
 void BusService::Profile(const QString &name) {
-    if (!commands_.profile(name.toStdString())) {
+    if (!program_->selectProfile(name.toStdString())) {
         sendErrorReply(QDBusError::InvalidArgs, "there is no profile '" + name + "'");
     }
 }
 
 QString BusService::Doctor() {
-    return QString::fromStdString(commands_.doctor());
+    return QString::fromStdString(program_->doctor(named_));
 }
 
 void BusService::Quit() {
-    commands_.quit();
-}
-
-bool programRuns() {
-    return OwnConnection().programRuns();
-}
-
-Answer askRunningProgram(const Request &request) {
-    const OwnConnection connection;
-    auto call =
-        QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, request.method);
-    call.setArguments(request.arguments);
-    const auto reply = connection.bus.call(call);
-    if (reply.type() == QDBusMessage::ErrorMessage) {
-        // The thread of the connection is still busy with an error when it has handed it out, and
-        // would complain if the process ended meanwhile. What it is asked now comes after that.
-        const bool runs = connection.programRuns();
-        const bool ended = fromOneThatEnds(reply) && (!runs || connection.programEnds());
-        return {ended ? Answer::Outcome::ended : Answer::Outcome::failed, reply.errorMessage()};
-    }
-    if (reply.arguments().isEmpty()) {
-        return {Answer::Outcome::done, std::nullopt};
-    }
-    const auto value = reply.arguments().first();
-    const bool flag = value.typeId() == QMetaType::Bool;
-    return {Answer::Outcome::done,
-            flag ? QString(value.toBool() ? "on" : "off") : value.toString()};
+    program_->quit();
 }
 
 } // namespace nerlo::shell

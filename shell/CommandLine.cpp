@@ -1,7 +1,6 @@
 #include "shell/CommandLine.h"
 
 #include "engine/Operations.h"
-#include "shell/Commands.h"
 
 #include <algorithm>
 
@@ -10,41 +9,67 @@
 
 namespace nerlo::shell {
 
-bool CommandLine::asksFor(const QString &method) const {
-    return std::ranges::any_of(requests,
-                               [&](const Request &request) { return request.method == method; });
+namespace {
+
+CommandLine failed(const QString &why) {
+    return {CommandLine::Action::fail, why};
+}
+
+// Adds the requests for one argument; what is wrong with it, or nothing.
+QString addRequests(std::vector<Request> &requests, const CommandRow &row,
+                    const QStringList &values) {
+    switch (row.command) {
+    case Command::automatic:
+        if (!parseAutomaticMode(values.last().toStdString())) {
+            return "--automatic takes on, off or toggle, not '" + values.last() + "'.";
+        }
+        [[fallthrough]];
+    case Command::profile:
+        requests.push_back({row.command, values.last()});
+        break;
+    case Command::operation:
+        for (const auto &wanted : values) {
+            const auto *operation = engine::findOperation(std::string_view(wanted.toStdString()));
+            if (!operation) {
+                return "There is no operation '" + wanted + "'.";
+            }
+            requests.push_back({row.command, int{operation->index}});
+        }
+        break;
+    default:
+        requests.push_back({row.command});
+    }
+    return {};
+}
+
+} // namespace
+
+bool CommandLine::asksFor(Command command) const {
+    return std::ranges::find(requests, command, &Request::command) != requests.end();
 }
 
 CommandLine parseCommandLine(const QStringList &arguments) {
-    const QCommandLineOption clean("clean", "Clean the text on the clipboard.");
-    const QCommandLineOption operation(
-        "operation", "Run one operation on it, by index or name (see: nerlo operations).",
-        "INDEX|NAME");
-    const QCommandLineOption restore("restore", "Put back what stood there before the last clean.");
-    const QCommandLineOption automatic("automatic", "Clean each new copy by itself.",
-                                       "on|off|toggle");
-    const QCommandLineOption preferences("preferences", "Open the preferences.");
-    const QCommandLineOption profile("profile", "Use this profile from now on.", "NAME");
-    const QCommandLineOption doctor("doctor", "Say what works on this desktop, and what does not.");
     const QCommandLineOption shortcut(
         "shortcut",
         "Store a global shortcut for an operation, or for \"clean\"; without keys, delete it. "
         "Alone, it starts nothing. Example: sort-lines=Super+Shift+S",
         "INDEX|NAME=KEYS");
-    const QCommandLineOption quit("quit", "End the running program.");
     // The library's own help would have a second option, which lists the library's.
     const QCommandLineOption help({"h", "help"}, "Print this help and end.");
     const QCommandLineOption version({"v", "version"}, "Print the version and end.");
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        "Cleans the text on the clipboard. Starts the program, or tells the one that runs.");
-    parser.addOptions({clean, operation, restore, automatic, profile, preferences, shortcut, doctor,
-                       quit, help, version});
+        "Cleans the text on the clipboard. Starts the program, or tells the one that runs. Several "
+        "options are done in this order:");
+    parser.addOption(shortcut);
+    for (const auto &row : commandRows()) {
+        if (row.argument) {
+            parser.addOption({row.argument, row.help, row.valueName});
+        }
+    }
+    parser.addOptions({help, version});
 
-    const auto failed = [](const QString &why) {
-        return CommandLine{CommandLine::Action::fail, why};
-    };
     if (!parser.parse(arguments)) {
         return failed(parser.errorText());
     }
@@ -63,37 +88,13 @@ CommandLine parseCommandLine(const QStringList &arguments) {
     for (const auto &value : parser.values(shortcut)) {
         result.shortcuts.push_back(value.toStdString());
     }
-    if (parser.isSet(automatic)) {
-        const auto mode = parser.value(automatic);
-        if (!parseAutomaticMode(mode.toStdString())) {
-            return failed("--automatic takes on, off or toggle, not '" + mode + "'.");
+    for (const auto &row : commandRows()) {
+        if (row.argument && parser.isSet(row.argument)) {
+            const auto values = row.valueName ? parser.values(row.argument) : QStringList();
+            if (const auto wrong = addRequests(result.requests, row, values); !wrong.isEmpty()) {
+                return failed(wrong);
+            }
         }
-        result.requests.push_back({"Automatic", {mode}});
-    }
-    if (parser.isSet(profile)) {
-        result.requests.push_back({"Profile", {parser.value(profile)}});
-    }
-    if (parser.isSet(preferences)) {
-        result.requests.push_back({"Preferences", {}});
-    }
-    if (parser.isSet(clean)) {
-        result.requests.push_back({"Clean", {}});
-    }
-    for (const auto &wanted : parser.values(operation)) {
-        const auto *row = engine::findOperation(std::string_view(wanted.toStdString()));
-        if (!row) {
-            return failed("There is no operation '" + wanted + "'.");
-        }
-        result.requests.push_back({"Operation", {int{row->index}}});
-    }
-    if (parser.isSet(restore)) {
-        result.requests.push_back({"Restore", {}});
-    }
-    if (parser.isSet(doctor)) {
-        result.requests.push_back({"Doctor", {}});
-    }
-    if (parser.isSet(quit)) {
-        result.requests.push_back({"Quit", {}});
     }
     return result;
 }

@@ -1,20 +1,15 @@
 // The arguments of nerlo-pro.
 #pragma once
 
+#include "shell/Requests.h"
+
 #include <string>
+#include <vector>
 
 #include <QString>
 #include <QStringList>
-#include <QVariantList>
-#include <vector>
 
 namespace nerlo::shell {
-
-// A method of the program's bus interface, with its arguments.
-struct Request {
-    QString method;
-    QVariantList arguments;
-};
 
 struct CommandLine {
     enum class Action {
@@ -28,8 +23,7 @@ struct CommandLine {
     std::vector<std::string> shortcuts{}; // "clean=Super+V", to be stored before anything else
     std::vector<Request> requests{};      // in a fixed order, whatever that of the arguments
 
-    // Whether one of the requests is for this method.
-    bool asksFor(const QString &method) const;
+    bool asksFor(Command command) const;
 };
 
 // `arguments` begin with the program's name.

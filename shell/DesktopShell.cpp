@@ -5,6 +5,7 @@
 #include "shell/Alerts.h"
 #include "shell/KeySequences.h"
 #include "shell/PreferencesWindow.h"
+#include "shell/Program.h"
 #include "shell/Strings.h"
 #include "shell/TipsWindow.h"
 #include "shell/WhatsNewWindow.h"
@@ -26,7 +27,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A tray that is not there by then may still come; but the user is not left without a window.
+// A tray that is not there by then may still come; but the user is not left without a window_.
 constexpr auto trayExpectedWithin = 2000ms;
 
 // What a user is told to bind by hand.
@@ -34,27 +35,38 @@ const auto cleanCommand = QStringLiteral("nerlo-pro --clean");
 
 } // namespace
 
-DesktopShell::DesktopShell(Parts parts)
-    : parts_(std::move(parts))
-    , menu_(std::make_unique<StatusMenu>(menuCommands()))
-    , tray_(std::make_unique<TrayIcon>(menu_->menu())) {
+DesktopShell::DesktopShell(Program &program)
+    : program_(program)
+    , recording_{program.shortcutTexts(),
+                 *program.parts().desktop.systemHotKeys,
+                 program.hotKeys(),
+                 &StatusMenu::mainMenu,
+                 [](QWidget *parent, const QString &message, const QString &informative) {
+                     runAlert({Alert::Style::critical, message, informative, {}}, parent);
+                 },
+                 {},
+                 platform::keyboardCanBeGrabbed()}
+    , menu_(std::make_unique<StatusMenu>(program))
+    , tray_(std::make_unique<TrayIcon>(menu_->menu()))
+    , taskbar_(platform::openTaskbarHint()) {
     QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(),
                      [this] { setProblem(Problem::tray, {}); });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
-        if (parts_.pointerPositionKnown) {
+        if (platform::pointerPositionKnown()) {
             menu_->menu().popup(QCursor::pos());
-        } else if (delegate_) {
-            delegate_->showPreferences();
+        } else {
+            program_.showPreferences();
         }
     });
-    cleanShortcut_ = parts_.store.observe(settings::cleanHotKey, [this] { updateCleanShortcut(); });
-    hotKeyStatus_ = parts_.hotKeys.observeStatus([this] { updateHotKeys(); });
+    cleanShortcut_ =
+        program_.store().observe(settings::cleanHotKey, [this] { updateCleanShortcut(); });
+    hotKeyStatus_ = program_.hotKeys().observeStatus([this] { updateHotKeys(); });
     connectPreferences();
 }
 
 DesktopShell::~DesktopShell() {
-    parts_.mainQueue.cancel(settle_);
-    auto &hooks = parts_.preferences.hooks();
+    program_.parts().mainQueue.cancel(settle_);
+    auto &hooks = program_.preferences().hooks();
     hooks.profilesChanged = nullptr;
     hooks.controlsLoaded = nullptr;
     hooks.edited = nullptr;
@@ -63,59 +75,26 @@ DesktopShell::~DesktopShell() {
     hooks.saveFailed = nullptr;
 }
 
-MenuCommands DesktopShell::menuCommands() {
-    const auto tell = [this](void (nrAppDelegate::*action)()) {
-        return [this, action] {
-            if (delegate_) {
-                (delegate_->*action)();
-            }
-        };
-    };
-    MenuCommands commands;
-    commands.clean = tell(&nrAppDelegate::clearFormattingFromClipboard);
-    commands.automatic = tell(&nrAppDelegate::automaticallyClearFormatting);
-    commands.excelException = tell(&nrAppDelegate::disableAutomaticallyClearFormatting);
-    commands.restore = [this] { restore(); };
-    commands.operation = [this](std::int32_t index) {
-        parts_.engine.changePasteboardWithKeys(index);
-    };
-    commands.selectProfile = [this](int place) { parts_.preferences.profilesSwitch(place); };
-    commands.preferences = tell(&nrAppDelegate::showPreferences);
-    commands.tips = tell(&nrAppDelegate::aOpenTips);
-    commands.whatsNew = tell(&nrAppDelegate::openReleaseNotesNerloPro);
-    commands.rate = tell(&nrAppDelegate::openRateApp);
-    commands.support = tell(&nrAppDelegate::supportWebsite);
-    commands.email = tell(&nrAppDelegate::openEmailToDev);
-    commands.about = tell(&nrAppDelegate::openAboutApp);
-    commands.quit = tell(&nrAppDelegate::quitApp);
-    commands.hide = [this] {
-        if (window) {
-            window->close();
-        }
-    };
-    return commands;
-}
-
 void DesktopShell::connectPreferences() {
-    auto &hooks = parts_.preferences.hooks();
+    auto &hooks = program_.preferences().hooks();
     hooks.profilesChanged = [this] { updateProfiles(); };
     hooks.controlsLoaded = [this] {
-        if (window) {
-            window->controlsLoaded();
+        if (window_) {
+            window_->controlsLoaded();
         }
     };
     hooks.edited = [this] {
-        if (window) {
-            window->edited();
+        if (window_) {
+            window_->edited();
         }
     };
     hooks.updateUI = [this](int mode) {
-        if (window) {
-            window->updateUI(mode);
+        if (window_) {
+            window_->updateUI(mode);
         }
     };
     hooks.confirmRemoval = [this](const std::u16string &name) {
-        return window && window->confirmRemoval(name);
+        return window_ && window_->confirmRemoval(name);
     };
     hooks.saveFailed = [this](const std::string &error) { setProblem(Problem::profiles, error); };
     updateProfiles();
@@ -123,21 +102,21 @@ void DesktopShell::connectPreferences() {
 
 void DesktopShell::updateProfiles() {
     QStringList names;
-    for (const settings::ProfileItem &item : parts_.preferences.profilesItems()) {
+    for (const settings::ProfileItem &item : program_.preferences().profilesItems()) {
         names.push_back(QString::fromStdU16String(settings::profileNameOf(item.record)));
     }
-    menu_->setProfiles(names, parts_.preferences.selectedItem());
-    if (window) {
-        window->profilesChanged();
+    menu_->setProfiles(names, program_.preferences().selectedItem());
+    if (window_) {
+        window_->profilesChanged();
     }
-    if (changed_) {
-        changed_();
+    if (program_.complete()) {
+        program_.stateChanged();
     }
 }
 
 void DesktopShell::updateCleanShortcut() {
-    const auto shortcut = shortcuts::storedShortcut(parts_.store, settings::cleanHotKey);
-    menu_->setCleanShortcut(shortcut ? keySequence(*shortcut, parts_.shortcutTexts)
+    const auto shortcut = shortcuts::storedShortcut(program_.store(), settings::cleanHotKey);
+    menu_->setCleanShortcut(shortcut ? keySequence(*shortcut, program_.shortcutTexts())
                                      : QKeySequence());
 }
 
@@ -145,40 +124,36 @@ void DesktopShell::updateHotKeys() {
     updateCleanShortcut(); // a new keyboard layout names its key anew
     QStringList refused;
     const auto update = [&](std::string_view key) {
-        const auto status = parts_.hotKeys.status(key);
+        const auto status = program_.hotKeys().status(key);
         QString problem;
         if (status.state == platform::HotKeyState::refused) {
             problem = status.text.empty() ? localized("sShortcutRefused")
                                           : localized(Table::shortcut, status.text);
             refused.push_back(localized(key) + ": " + problem);
         }
-        if (window) {
-            window->setHotKeyProblem(key, problem);
+        if (window_) {
+            window_->setHotKeyProblem(key, problem);
         }
     };
     update(settings::cleanHotKey);
     for (const engine::Operation &operation : engine::operations()) {
         update(operation.hotKey);
     }
-    if (!refused.empty() && !parts_.hotKeysAvailable) {
+    if (!refused.empty() && !program_.parts().desktop.hotKeys.backend->available()) {
         refused = {filled(localized("sShortcutsUnavailable"), {cleanCommand})};
     }
     setProblem(Problem::shortcuts, refused.join('\n').toStdString());
 }
 
 void DesktopShell::start() {
-    if (parts_.watchTray) {
-        xembed_ = parts_.watchTray([this] { tray_->trayAppeared(); });
-    }
-    settle_ = parts_.mainQueue.postAfter(trayExpectedWithin, [this] {
+    xembed_ =
+        platform::openTrayWatch(program_.parts().mainQueue, [this] { tray_->trayAppeared(); });
+    settle_ = program_.parts().mainQueue.postAfter(trayExpectedWithin, [this] {
         settle_ = 0;
-        if (!delegate_) {
-            return;
-        }
         if (tray_->wanted() && !tray_->shown()) {
             setProblem(Problem::tray, localized("sNoTray").toStdString());
         }
-        delegate_->traySettled();
+        program_.delegate().traySettled();
     });
 }
 
@@ -200,52 +175,51 @@ void DesktopShell::setTaskbarEntry(bool shown) {
 }
 
 void DesktopShell::applyTaskbarEntry() {
-    if (parts_.taskbar && window && window->isVisible()) {
-        // Without an icon to click, the taskbar is the way back to a minimized window.
-        parts_.taskbar->setShownInTaskbar(window->winId(), taskbarEntry_ || !tray_->shown());
+    if (taskbar_ && window_ && window_->isVisible()) {
+        // Without an icon to click, the taskbar is the way back to a minimized window_.
+        taskbar_->setShownInTaskbar(window_->winId(), taskbarEntry_ || !tray_->shown());
+    }
+}
+
+QWidget *DesktopShell::makeRecorder(const std::string &hotKey) {
+    program_.parts().desktop.systemHotKeys->refresh(); // known by the time somebody records
+    auto *recorder = new shortcuts::nrShortcutView(recording_);
+    recorder->setAssociatedUserDefaultsKey(hotKey);
+    return recorder;
+}
+
+bool DesktopShell::closingMinimizes() const {
+    return taskbarEntry_ && !tray_->shown();
+}
+
+void DesktopShell::hidePreferences() {
+    if (window_) {
+        window_->close();
     }
 }
 
 void DesktopShell::makePreferencesWindow() {
-    GeneralActions actions;
-    actions.automatic = [this](bool) { delegate_->automaticallyClearFormatting(); };
-    actions.excelException = [this](bool) { delegate_->disableAutomaticallyClearFormatting(); };
-    actions.showInMenuBar = [this](bool on) { delegate_->setShowInMenuBar(on); };
-    actions.runInTheBackground = [this](bool on) { delegate_->setRunInTheBackground(on); };
-    actions.launchOnStartup = [this](bool on) { delegate_->launchOnStartup(on); };
-    actions.stayOnTop = [this](bool on) { delegate_->aStayOnTop(on); };
-    window = std::make_unique<PreferencesWindow>(
-        parts_.preferences, parts_.store, makeRecorder_, std::move(actions),
-        PreviewParts{parts_.mainQueue, parts_.workerQueue, parts_.locale,
-                     [this](auto handler) { parts_.engine.readClipboardText(std::move(handler)); },
-                     [this] { parts_.engine.changePasteboard(); }});
-    menu_->fillMenuBar(*window->menuBar());
-    window->assignLetters();
-    window->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
-    window->setCloseHandler([this] {
-        if (taskbarEntry_ && !tray_->shown()) {
-            window->showMinimized();
-            return true;
-        }
-        return false;
-    });
+    window_ = std::make_unique<PreferencesWindow>(program_);
+    menu_->fillMenuBar(*window_->menuBar());
+    window_->assignLetters();
+    window_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
     updateNotice();
     updateHotKeys();
 }
 
 void DesktopShell::showPreferencesWindow() {
-    if (!window) {
+    if (!window_) {
         makePreferencesWindow();
         stateChanged();
     }
-    if (window->isMinimized()) {
-        window->showNormal();
+    if (window_->isMinimized()) {
+        window_->showNormal();
     }
-    window->show();
-    window->raise();
-    window->activateWindow();
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
     applyTaskbarEntry();
-    parts_.hotKeys.retryRefused();
+    program_.hotKeys().retryRefused();
 }
 
 bool DesktopShell::hasVisibleWindow() const {
@@ -258,45 +232,45 @@ bool DesktopShell::hasVisibleWindow() const {
 }
 
 void DesktopShell::setFloating(bool floating) {
-    if (window && window->windowHandle()) {
-        // Of the widget, the flag would hide the window.
-        window->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, floating);
+    if (window_ && window_->windowHandle()) {
+        // Of the widget, the flag would hide the window_.
+        window_->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, floating);
     }
 }
 
 void DesktopShell::showTips() {
     constexpr auto atEachStartKey = "firstRunTips";
-    if (!tipsController) {
-        tipsController =
-            std::make_unique<TipsWindow>(parts_.store.boolForKey(atEachStartKey),
-                                         [this](bool on) { parts_.store.set(atEachStartKey, on); });
-        tipsController->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
+    if (!tipsController_) {
+        tipsController_ = std::make_unique<TipsWindow>(
+            program_.store().boolForKey(atEachStartKey),
+            [this](bool on) { program_.store().set(atEachStartKey, on); });
+        tipsController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
     }
-    tipsController->setPage(0);
-    tipsController->show();
-    tipsController->raise();
-    tipsController->activateWindow();
+    tipsController_->setPage(0);
+    tipsController_->show();
+    tipsController_->raise();
+    tipsController_->activateWindow();
 }
 
 void DesktopShell::showWhatsNew() {
-    if (!whatsNewController) {
-        whatsNewController = std::make_unique<WhatsNewWindow>([this] { showTips(); });
-        whatsNewController->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
-        QObject::connect(whatsNewController.get(), &QDialog::finished, whatsNewController.get(),
-                         [this] { parts_.store.set("updateReleaseNotes3_1", true); });
+    if (!whatsNewController_) {
+        whatsNewController_ = std::make_unique<WhatsNewWindow>([this] { showTips(); });
+        whatsNewController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
+        QObject::connect(whatsNewController_.get(), &QDialog::finished, whatsNewController_.get(),
+                         [this] { program_.store().set("updateReleaseNotes3_1", true); });
     }
-    whatsNewController->show();
-    whatsNewController->raise();
-    whatsNewController->activateWindow();
+    whatsNewController_->show();
+    whatsNewController_->raise();
+    whatsNewController_->activateWindow();
 }
 
 void DesktopShell::showAbout() {
-    auto *box = new QMessageBox(window.get());
+    auto *box = new QMessageBox(window_.get());
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setObjectName("about");
     box->setWindowTitle(localized(Table::menu, "About"));
     box->setText(localized(Table::menu, "Nerlo Pro"));
-    box->setInformativeText(localized("sAboutText").arg(QString::fromStdString(parts_.version)));
+    box->setInformativeText(localized("sAboutText").arg(QCoreApplication::applicationVersion()));
     box->setIconPixmap(QIcon(":/icons/org.nerlo.NerloPro.svg").pixmap(64, 64));
     box->addButton(localized("sClose"), QMessageBox::RejectRole);
     box->show();
@@ -309,7 +283,7 @@ void DesktopShell::showAlert(const char *messageKey, const char *informativeKey)
               localized(messageKey),
               localized(informativeKey),
               {localized("OK")}},
-             window && window->isVisible() ? window.get() : nullptr);
+             window_ && window_->isVisible() ? window_.get() : nullptr);
 }
 
 bool DesktopShell::openUrl(const std::string &url) {
@@ -317,28 +291,24 @@ bool DesktopShell::openUrl(const std::string &url) {
 }
 
 void DesktopShell::stateChanged() {
-    if (!delegate_) {
-        return;
+    if (!program_.complete()) {
+        return; // its delegate tells again
     }
-    menu_->setAutomatic(delegate_->automatic());
-    menu_->setExcelException(delegate_->excelException());
-    tray_->setState(!problems_.empty()       ? TrayState::problem
-                    : delegate_->automatic() ? TrayState::automatic
-                                             : TrayState::idle);
-    if (window) {
-        GeneralState state;
-        state.automatic = delegate_->automatic();
-        state.excelException = delegate_->excelException();
-        state.showInMenuBar = delegate_->showInMenuBarChecked();
-        state.runInTheBackground = delegate_->runInTheBackgroundChecked();
-        state.launchOnStartup = parts_.store.boolForKey("lunchOnStartup");
-        state.stayOnTop = parts_.store.boolForKey("stayOnTop");
-        window->setGeneralState(state);
+    const auto &delegate = program_.delegate();
+    menu_->setAutomatic(delegate.automatic());
+    menu_->setExcelException(delegate.excelException());
+    tray_->setState(!problems_.empty()     ? TrayState::problem
+                    : delegate.automatic() ? TrayState::automatic
+                                           : TrayState::idle);
+    if (window_) {
+        window_->updateGeneral();
         applyTaskbarEntry();
     }
-    if (changed_) {
-        changed_();
-    }
+    program_.stateChanged();
+}
+
+void DesktopShell::quit() {
+    program_.parts().mainQueue.post([] { QCoreApplication::quit(); });
 }
 
 void DesktopShell::setProblem(Problem problem, const std::string &text) {
@@ -356,18 +326,18 @@ void DesktopShell::setProblem(Problem problem, const std::string &text) {
 }
 
 void DesktopShell::updateNotice() {
-    if (!window) {
+    if (!window_) {
         return;
     }
     QStringList lines;
     for (const auto &[problem, text] : problems_) {
         lines.push_back(QString::fromStdString(text));
     }
-    window->setNotice(lines.join('\n'));
+    window_->setNotice(lines.join('\n'));
 }
 
 void DesktopShell::restore() {
-    parts_.engine.restore([this](clipboard::nrChangePasterboard::Restored outcome) {
+    program_.restore([this](clipboard::nrChangePasterboard::Restored outcome) {
         using Restored = clipboard::nrChangePasterboard::Restored;
         if (outcome != Restored::done) {
             runAlert({Alert::Style::informational,
@@ -375,7 +345,7 @@ void DesktopShell::restore() {
                                                                  : "sRestoreRefused"),
                       {},
                       {localized("OK")}},
-                     window && window->isVisible() ? window.get() : nullptr);
+                     window_ && window_->isVisible() ? window_.get() : nullptr);
         }
     });
 }

@@ -6,58 +6,42 @@
 #include "platform/MainQueue.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
-#include "platform/WorkerQueue.h"
-#include "settings/nrPreferences.h"
-#include "shell/OptionRows.h"
 #include "shell/ShellWindows.h"
 #include "shell/StatusMenu.h"
 #include "shell/TrayIcon.h"
-#include "shell/nrAppDelegate.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
+#include "shortcuts/view/nrShortcutView.h"
 #include "storage/SettingsStore.h"
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
-#include <utility>
 
 namespace nerlo::shell {
 
 class PreferencesWindow;
+class Program;
 class TipsWindow;
 class WhatsNewWindow;
 
 class DesktopShell final : public ShellWindows {
   public:
-    struct Parts {
-        storage::SettingsStore &store;
-        platform::MainQueue &mainQueue;
-        platform::WorkerQueue &workerQueue;
-        settings::nrPreferences &preferences;
-        clipboard::nrChangePasterboard &engine;
-        shortcuts::UserDefaultsHotKeys &hotKeys;
-        const shortcuts::ShortcutTexts &shortcutTexts;
-        std::string locale; // an ICU locale id
-        std::string version;
-        // What the desktop offers; all but the first may be missing.
-        bool pointerPositionKnown = false;
-        bool hotKeysAvailable = true;
-        std::unique_ptr<platform::TaskbarHint> taskbar;
-        std::function<std::unique_ptr<platform::TrayWatch>(std::function<void()> appeared)>
-            watchTray;
-    };
-    // All must outlive this. Takes the hooks of the preferences that the windows need.
-    explicit DesktopShell(Parts parts);
+    // `program` owns this. Takes the hooks of the preferences that the windows need.
+    explicit DesktopShell(Program &program);
     ~DesktopShell() override;
 
-    void setDelegate(nrAppDelegate *delegate) { delegate_ = delegate; }
-    void setRecorderMaker(RecorderMaker maker) { makeRecorder_ = std::move(maker); }
-    // Runs after each change of the automatic mode or of the profiles.
-    void setChangedHandler(std::function<void()> changed) { changed_ = std::move(changed); }
     // The menu bar's items, with which a shortcut may collide.
     StatusMenu &menu() { return *menu_; }
-    // Once the event loop runs: looks for trays, and tells the delegate whether there is one.
+    // A control that records the shortcut of a settings key.
+    QWidget *makeRecorder(const std::string &hotKey);
+    // Puts the original back, and says so when that cannot be.
+    void restore();
+    void hidePreferences();
+    // Whether the preferences, when they are closed, must stay as an entry in the taskbar, because
+    // there is no other way back to them.
+    bool closingMinimizes() const;
+    // Just before the event loop runs: looks for trays, and tells the delegate whether there is
+    // one.
     void start();
 
     void showStatusItem() override;
@@ -74,29 +58,27 @@ class DesktopShell final : public ShellWindows {
     bool openUrl(const std::string &url) override;
     void setProblem(Problem problem, const std::string &text) override;
     void stateChanged() override;
+    void quit() override;
 
   private:
-    MenuCommands menuCommands();
     void makePreferencesWindow();
     void connectPreferences();
     void updateProfiles();
     void updateCleanShortcut();
     void updateHotKeys();
     void updateNotice();
-    void restore();
     void applyTaskbarEntry();
 
-    Parts parts_;
-    nrAppDelegate *delegate_ = nullptr;
-    RecorderMaker makeRecorder_;
-    std::function<void()> changed_;
+    Program &program_;
+    const shortcuts::ShortcutViewContext recording_;
     std::unique_ptr<StatusMenu> menu_;
     std::unique_ptr<TrayIcon> tray_;
+    const std::unique_ptr<platform::TaskbarHint> taskbar_; // null where there is none
     std::unique_ptr<platform::TrayWatch> xembed_;
     std::map<Problem, std::string> problems_; // none is empty
-    std::unique_ptr<PreferencesWindow> window;
-    std::unique_ptr<TipsWindow> tipsController;
-    std::unique_ptr<WhatsNewWindow> whatsNewController;
+    std::unique_ptr<PreferencesWindow> window_;
+    std::unique_ptr<TipsWindow> tipsController_;
+    std::unique_ptr<WhatsNewWindow> whatsNewController_;
     bool taskbarEntry_ = true;
     platform::MainQueue::TaskId settle_ = 0;
     storage::SettingsStore::Observation cleanShortcut_;

@@ -2,12 +2,8 @@
 
 namespace nerlo::shell {
 
-std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard,
-                         const platform::Chosen<platform::ActiveApplication> &activeApplication,
-                         const platform::Chosen<platform::HotKeyService> &hotKeys,
-                         const std::vector<std::string> &hotKeyFindings,
-                         const platform::Chosen<platform::PopupLayer> &popupLayer, bool sessionBus,
-                         std::optional<bool> automatic) {
+std::string doctorReport(const Desktop &desktop, bool sessionBus,
+                         const std::optional<RunningState> &running) {
     std::string report;
     const auto line = [&](const std::string &topic, const std::string &finding) {
         report += topic + ": " + finding + "\n";
@@ -17,29 +13,31 @@ std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard
             line("  not", reason);
         }
     };
-    line("Clipboard",
-         clipboard.backend ? clipboard.backend->description() : "none, so nothing can be cleaned");
-    declined(clipboard.declined);
-    if (clipboard.backend) {
-        for (const auto &limitation : clipboard.backend->limitations()) {
+    const auto &clipboard = desktop.clipboard.backend;
+    line("Clipboard", clipboard ? clipboard->description() : "none, so nothing can be cleaned");
+    declined(desktop.clipboard.declined);
+    if (clipboard) {
+        for (const auto &limitation : clipboard->limitations()) {
             line("  but", limitation);
         }
     }
-    line("Application in front", activeApplication.backend->description());
-    declined(activeApplication.declined);
-    line("Hot keys", hotKeys.backend->description());
-    declined(hotKeys.declined);
-    for (const auto &finding : hotKeyFindings) {
-        report += "  " + finding + "\n";
+    line("Application in front", desktop.activeApplication.backend->description());
+    declined(desktop.activeApplication.declined);
+    line("Hot keys", desktop.hotKeys.backend->description());
+    declined(desktop.hotKeys.declined);
+    if (running) {
+        for (const auto &finding : running->hotKeyFindings) {
+            report += "  " + finding + "\n";
+        }
     }
-    line("Statistics popup",
-         popupLayer.backend ? popupLayer.backend->description() : "a window like any other");
-    declined(popupLayer.declined);
+    const auto &popup = desktop.popupLayer.backend;
+    line("Statistics popup", popup ? popup->description() : "a window like any other");
+    declined(desktop.popupLayer.declined);
     line("Session bus",
          sessionBus ? "yes" : "none, so the running program cannot be told anything");
-    line("Automatic cleaning", !automatic   ? "the program is not running"
-                               : *automatic ? "on"
-                                            : "off");
+    line("Automatic cleaning", !running             ? "the program is not running"
+                               : running->automatic ? "on"
+                                                    : "off");
     return report;
 }
 

@@ -1,7 +1,7 @@
 // What the program found on this desktop, for a person who wonders why something does not work.
 #pragma once
 
-#include "platform/backends/Backends.h"
+#include "shell/Desktop.h"
 
 #include <optional>
 #include <string>
@@ -9,12 +9,14 @@
 
 namespace nerlo::shell {
 
-// English lines, UTF-8. `automatic` is nothing when the program does not run.
-std::string doctorReport(const platform::Chosen<platform::Pasteboard> &clipboard,
-                         const platform::Chosen<platform::ActiveApplication> &activeApplication,
-                         const platform::Chosen<platform::HotKeyService> &hotKeys,
-                         const std::vector<std::string> &hotKeyFindings,
-                         const platform::Chosen<platform::PopupLayer> &popupLayer, bool sessionBus,
-                         std::optional<bool> automatic);
+// What only a running program knows.
+struct RunningState {
+    bool automatic = false;
+    std::vector<std::string> hotKeyFindings; // a line for each shortcut that is set
+};
+
+// English lines, UTF-8. `running` is nothing when the program does not run.
+std::string doctorReport(const Desktop &desktop, bool sessionBus,
+                         const std::optional<RunningState> &running);
 
 } // namespace nerlo::shell

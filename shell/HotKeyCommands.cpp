@@ -3,7 +3,6 @@
 #include "engine/Operations.h"
 #include "platform/SystemHotKeys.h"
 #include "settings/SettingsKeys.h"
-#include "shell/Commands.h"
 #include "shortcuts/ShortcutTexts.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
 #include "text/Utf.h"
@@ -55,17 +54,6 @@ std::string finding(const platform::HotKeyStatus &status) {
 }
 
 } // namespace
-
-void registerHotKeyCommands(shortcuts::UserDefaultsHotKeys &hotKeys, const Commands &commands,
-                            const std::function<std::string(std::string_view key)> &titleOf) {
-    hotKeys.registerGlobalShortcutWithUserDefaultsKey(
-        cleanHotKey, [&commands] { commands.clean(); }, titleOf(cleanHotKey));
-    for (const auto &operation : engine::operations()) {
-        hotKeys.registerGlobalShortcutWithUserDefaultsKey(
-            operation.hotKey, [&commands, index = operation.index] { commands.operation(index); },
-            titleOf(operation.hotKey));
-    }
-}
 
 void setDefaultShortcut(shortcuts::UserDefaultsHotKeys &hotKeys) {
     if (!hotKeys.store().find(cleanHotKey)) {

@@ -1,4 +1,4 @@
-// The commands that global hot keys run: one for each operation, and one for the whole pipeline.
+// Global hot keys as a user names them: what each runs, what became of it, and how it is set.
 #pragma once
 
 #include "platform/KeyboardLayout.h"
@@ -22,13 +22,6 @@ class SettingsStore;
 }
 
 namespace nerlo::shell {
-
-struct Commands;
-
-// `commands` must outlive the hot keys. `titleOf` gives the words that a desktop shows for the
-// command of a settings key, in UTF-8.
-void registerHotKeyCommands(shortcuts::UserDefaultsHotKeys &hotKeys, const Commands &commands,
-                            const std::function<std::string(std::string_view key)> &titleOf);
 
 // What a first start stores: Super+V cleans the clipboard, unless it has a shortcut already.
 void setDefaultShortcut(shortcuts::UserDefaultsHotKeys &hotKeys);

@@ -3,6 +3,7 @@
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Mnemonics.h"
+#include "shell/Program.h"
 #include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 
@@ -30,6 +31,34 @@ constexpr QSize firstSize{1080, 660};
 constexpr int shortest = 360;
 constexpr int narrowestPreview = 240;
 
+// The check boxes of the first page.
+struct GeneralBox {
+    const char *name;
+    const char *titleKey;
+    const char *tipKey;
+    bool (nrAppDelegate::*checked)() const;
+    void (*change)(nrAppDelegate &delegate, bool on);
+    bool aboutCleaning; // else about the window
+};
+using Delegate = nrAppDelegate;
+constexpr GeneralBox generalBoxes[] = {
+    {"automatic", "sAutomatic", "sAutomaticTip", &Delegate::automatic,
+     [](Delegate &delegate, bool) { delegate.automaticallyClearFormatting(); }, true},
+    {"excelException", "sExceptSpreadsheet", "sExceptSpreadsheetTip", &Delegate::excelException,
+     [](Delegate &delegate, bool) { delegate.disableAutomaticallyClearFormatting(); }, true},
+    {"showInMenuBar", "sShowInMenuBar", "sShowInMenuBarTip", &Delegate::showInMenuBarChecked,
+     [](Delegate &delegate, bool on) { delegate.setShowInMenuBar(on); }, false},
+    {"runInTheBackground", "sRunInTheBackground", "sRunInTheBackgroundTip",
+     &Delegate::runInTheBackgroundChecked,
+     [](Delegate &delegate, bool on) { delegate.setRunInTheBackground(on); }, false},
+    {"launchOnStartup", "sLaunchOnStartup", "sLaunchOnStartupTip",
+     &Delegate::launchOnStartupChecked,
+     [](Delegate &delegate, bool on) { delegate.launchOnStartup(on); }, false},
+    {"stayOnTop", "sStayOnTop", "sStayOnTopTip", &Delegate::stayOnTopChecked,
+     [](Delegate &delegate, bool on) { delegate.aStayOnTop(on); }, false},
+};
+constexpr std::size_t showInMenuBarBox = 2; // dimmed while the program runs in the background
+
 QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
     auto *box = new QCheckBox(localized(titleKey));
     box->setObjectName(name);
@@ -45,22 +74,18 @@ QStringList wordsOf(const QString &text) {
 
 } // namespace
 
-PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
-                                     storage::SettingsStore &store,
-                                     const RecorderMaker &makeRecorder, GeneralActions actions,
-                                     PreviewParts previewParts)
-    : preferences_(preferences)
-    , store_(store)
-    , actions_(std::move(actions))
+PreferencesWindow::PreferencesWindow(Program &program)
+    : program_(program)
+    , preferences_(program.preferences())
+    , store_(program.store())
     , pageList_(new QListWidget)
     , pages_(new QStackedWidget)
     , nothingFound_(new QLabel)
     , notice_(new QLabel)
+    , preview_(new PreviewPane(program))
     , splitter_(new QSplitter) {
     setObjectName("preferencesWindow");
     setWindowTitle(localized("sPreferencesWindowName"));
-
-    preview_ = new PreviewPane(std::move(previewParts));
 
     pageList_->setObjectName("pageList");
     pageList_->setAccessibleName(localized("sPages"));
@@ -96,6 +121,9 @@ PreferencesWindow::PreferencesWindow(settings::nrPreferences &preferences,
     layout->addWidget(notice_);
     setCentralWidget(content);
 
+    const RecorderMaker makeRecorder = [&program](const std::string &hotKey) {
+        return program.windows().makeRecorder(hotKey);
+    };
     addPage(localized("sPageGeneral"), makeGeneralPage(makeRecorder));
     for (const PreferencesPage &page : preferencesPages()) {
         auto *widget = new OptionPage(page, preferences_, makeRecorder);
@@ -213,13 +241,13 @@ QWidget *PreferencesWindow::makeTop() {
     layout->addSpacing(24);
 
     auto *label = new QLabel(localized("sProfile"));
-    profilesPopupButton = new QComboBox;
-    profilesPopupButton->setObjectName("profilesPopupButton");
-    profilesPopupButton->setAccessibleName(label->text());
-    profilesPopupButton->setToolTip(plainTooltip(localized("sProfileTip")));
-    profilesPopupButton->setMinimumContentsLength(14);
-    label->setBuddy(profilesPopupButton);
-    connect(profilesPopupButton, &QComboBox::activated, this,
+    profilesPopupButton_ = new QComboBox;
+    profilesPopupButton_->setObjectName("profilesPopupButton");
+    profilesPopupButton_->setAccessibleName(label->text());
+    profilesPopupButton_->setToolTip(plainTooltip(localized("sProfileTip")));
+    profilesPopupButton_->setMinimumContentsLength(14);
+    label->setBuddy(profilesPopupButton_);
+    connect(profilesPopupButton_, &QComboBox::activated, this,
             [this](int index) { preferences_.profilesSwitch(index); });
     const auto makeButton = [](const char *name, const char *titleKey, const char *tipKey) {
         auto *button = new QPushButton(localized(titleKey));
@@ -233,7 +261,7 @@ QWidget *PreferencesWindow::makeTop() {
     connect(addProfile_, &QPushButton::clicked, this, &PreferencesWindow::addProfile);
     connect(removeProfile_, &QPushButton::clicked, this, [this] { preferences_.profilesRemove(); });
     layout->addWidget(label);
-    layout->addWidget(profilesPopupButton);
+    layout->addWidget(profilesPopupButton_);
     layout->addWidget(addProfile_);
     layout->addWidget(removeProfile_);
     return top;
@@ -248,13 +276,6 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
         auto *group = new QGroupBox(localized(titleKey));
         layout->addWidget(group);
         return new QVBoxLayout(group);
-    };
-    const auto connectBox = [this](QCheckBox *box, std::function<void(bool)> GeneralActions::*act) {
-        connect(box, &QCheckBox::toggled, this, [this, act](bool on) {
-            if (!loading_ && actions_.*act) {
-                (actions_.*act)(on);
-            }
-        });
     };
 
     QVBoxLayout *cleaning = addGroup("sGroupCleaning");
@@ -272,28 +293,18 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     generalProblem_->setWordWrap(true);
     generalProblem_->hide();
     cleaning->addWidget(generalProblem_);
-    automatic_ = makeBox("automatic", "sAutomatic", "sAutomaticTip");
-    excelException_ = makeBox("excelException", "sExceptSpreadsheet", "sExceptSpreadsheetTip");
-    cleaning->addWidget(automatic_);
-    cleaning->addWidget(excelException_);
-
     QVBoxLayout *window = addGroup("sGroupWindow");
-    showInMenuBar_ = makeBox("showInMenuBar", "sShowInMenuBar", "sShowInMenuBarTip");
-    runInTheBackground_ =
-        makeBox("runInTheBackground", "sRunInTheBackground", "sRunInTheBackgroundTip");
-    launchOnStartup_ = makeBox("launchOnStartup", "sLaunchOnStartup", "sLaunchOnStartupTip");
-    stayOnTop_ = makeBox("stayOnTop", "sStayOnTop", "sStayOnTopTip");
-    for (QCheckBox *box : {showInMenuBar_, runInTheBackground_, launchOnStartup_, stayOnTop_}) {
-        window->addWidget(box);
+    for (const GeneralBox &row : generalBoxes) {
+        auto *box = makeBox(row.name, row.titleKey, row.tipKey);
+        (row.aboutCleaning ? cleaning : window)->addWidget(box);
+        general_.push_back(box);
+        connect(box, &QCheckBox::toggled, this, [this, change = row.change](bool on) {
+            if (!loading_) {
+                change(program_.delegate(), on);
+            }
+        });
     }
     layout->addStretch();
-
-    connectBox(automatic_, &GeneralActions::automatic);
-    connectBox(excelException_, &GeneralActions::excelException);
-    connectBox(showInMenuBar_, &GeneralActions::showInMenuBar);
-    connectBox(runInTheBackground_, &GeneralActions::runInTheBackground);
-    connectBox(launchOnStartup_, &GeneralActions::launchOnStartup);
-    connectBox(stayOnTop_, &GeneralActions::stayOnTop);
 
     generalTexts_ = localized("sPageGeneral") + ' ' + command;
     for (const QCheckBox *box : page->findChildren<QCheckBox *>()) {
@@ -343,15 +354,13 @@ void PreferencesWindow::search(const QString &text) {
     }
 }
 
-void PreferencesWindow::setGeneralState(const GeneralState &state) {
+void PreferencesWindow::updateGeneral() {
     const QScopedValueRollback loading(loading_, true);
-    automatic_->setChecked(state.automatic);
-    excelException_->setChecked(state.excelException);
-    showInMenuBar_->setChecked(state.showInMenuBar);
-    showInMenuBar_->setEnabled(!state.runInTheBackground);
-    runInTheBackground_->setChecked(state.runInTheBackground);
-    launchOnStartup_->setChecked(state.launchOnStartup);
-    stayOnTop_->setChecked(state.stayOnTop);
+    const auto &delegate = program_.delegate();
+    for (std::size_t i = 0; i < general_.size(); ++i) {
+        general_[i]->setChecked((delegate.*generalBoxes[i].checked)());
+    }
+    general_[showInMenuBarBox]->setEnabled(!delegate.runInTheBackgroundChecked());
 }
 
 void PreferencesWindow::setHotKeyProblem(std::string_view hotKey, const QString &problem) {
@@ -370,14 +379,14 @@ void PreferencesWindow::setNotice(const QString &notice) {
 }
 
 void PreferencesWindow::profilesChanged() {
-    const QSignalBlocker blocker(profilesPopupButton);
-    profilesPopupButton->clear();
+    const QSignalBlocker blocker(profilesPopupButton_);
+    profilesPopupButton_->clear();
     for (const settings::ProfileItem &item : preferences_.profilesItems()) {
-        profilesPopupButton->addItem(
+        profilesPopupButton_->addItem(
             QString::fromStdU16String(settings::profileNameOf(item.record)));
     }
-    profilesPopupButton->setCurrentIndex(preferences_.popupSelection().value_or(-1));
-    removeProfile_->setEnabled(profilesPopupButton->currentIndex() >= 0);
+    profilesPopupButton_->setCurrentIndex(preferences_.popupSelection().value_or(-1));
+    removeProfile_->setEnabled(profilesPopupButton_->currentIndex() >= 0);
 }
 
 void PreferencesWindow::controlsLoaded() {
@@ -423,7 +432,8 @@ void PreferencesWindow::remember() {
 
 void PreferencesWindow::closeEvent(QCloseEvent *event) {
     remember();
-    if (closeHandler_ && closeHandler_()) {
+    if (program_.windows().closingMinimizes()) {
+        showMinimized();
         event->ignore();
     } else {
         QMainWindow::closeEvent(event);

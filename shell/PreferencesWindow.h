@@ -13,7 +13,6 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -21,25 +20,7 @@ class QSplitter;
 
 namespace nerlo::shell {
 
-// The check boxes of the first page, which are about the program itself.
-struct GeneralState {
-    bool automatic = false;
-    bool excelException = false;
-    bool showInMenuBar = false;
-    bool runInTheBackground = false;
-    bool launchOnStartup = false;
-    bool stayOnTop = false;
-};
-
-// What they do; each gets the new state.
-struct GeneralActions {
-    std::function<void(bool)> automatic;
-    std::function<void(bool)> excelException;
-    std::function<void(bool)> showInMenuBar;
-    std::function<void(bool)> runInTheBackground;
-    std::function<void(bool)> launchOnStartup;
-    std::function<void(bool)> stayOnTop;
-};
+class Program;
 
 class PreferencesWindow final : public QMainWindow {
     Q_OBJECT
@@ -49,19 +30,17 @@ class PreferencesWindow final : public QMainWindow {
     static constexpr auto heightKey = "preferencesHeight"; // device-independent pixels
     static constexpr auto pageKey = "preferencesPage";     // counted from 0
 
-    PreferencesWindow(settings::nrPreferences &preferences, storage::SettingsStore &store,
-                      const RecorderMaker &makeRecorder, GeneralActions actions,
-                      PreviewParts previewParts);
+    // `program` must outlive the window.
+    explicit PreferencesWindow(Program &program);
     ~PreferencesWindow() override;
 
     // Once, when the menu bar is filled: gives each control a letter that no menu has.
     void assignLetters();
-    void setGeneralState(const GeneralState &state);
+    // The check boxes of the first page, which are about the program itself.
+    void updateGeneral();
     void setHotKeyProblem(std::string_view hotKey, const QString &problem);
     // A line below the pages; hidden when empty.
     void setNotice(const QString &notice);
-    // Called instead of hiding the window when it is closed; returns whether it was done otherwise.
-    void setCloseHandler(std::function<bool()> handler) { closeHandler_ = std::move(handler); }
 
     // For the hooks of nrPreferences.
     void profilesChanged();
@@ -89,13 +68,12 @@ class PreferencesWindow final : public QMainWindow {
     void search(const QString &text);
     void remember();
 
+    Program &program_;
     settings::nrPreferences &preferences_;
     storage::SettingsStore &store_;
-    GeneralActions actions_;
-    std::function<bool()> closeHandler_;
 
     QLineEdit *search_ = nullptr;
-    QComboBox *profilesPopupButton = nullptr;
+    QComboBox *profilesPopupButton_ = nullptr;
     QPushButton *addProfile_ = nullptr;
     QPushButton *removeProfile_ = nullptr;
     QListWidget *pageList_;
@@ -111,12 +89,7 @@ class PreferencesWindow final : public QMainWindow {
     int previewBesideFrom_ = 0; // width of the window
     bool loading_ = false;
 
-    QCheckBox *automatic_ = nullptr;
-    QCheckBox *excelException_ = nullptr;
-    QCheckBox *showInMenuBar_ = nullptr;
-    QCheckBox *runInTheBackground_ = nullptr;
-    QCheckBox *launchOnStartup_ = nullptr;
-    QCheckBox *stayOnTop_ = nullptr;
+    std::vector<QCheckBox *> general_; // one for each of generalBoxes
 };
 
 } // namespace nerlo::shell

@@ -3,6 +3,7 @@
 #include "engine/CleaningOptions.h"
 #include "engine/Operations.h"
 #include "shell/OptionRows.h"
+#include "shell/Program.h"
 #include "shell/Strings.h"
 
 #include <QEvent>
@@ -72,8 +73,9 @@ void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const Q
 
 } // namespace
 
-PreviewPane::PreviewPane(PreviewParts parts)
-    : parts_(std::move(parts))
+PreviewPane::PreviewPane(Program &program)
+    : program_(program)
+    , mainQueue_(program.parts().mainQueue)
     , halves_(new QBoxLayout(QBoxLayout::TopToBottom, this))
     , before_(makeEditor("previewBefore", "sPreviewBefore", "sPreviewBeforeTip"))
     , after_(makeEditor("previewAfter", "sPreviewAfter", "sPreviewAfterTip"))
@@ -117,20 +119,21 @@ PreviewPane::PreviewPane(PreviewParts parts)
 
     connect(before_, &QPlainTextEdit::textChanged, this, &PreviewPane::schedule);
     connect(take_, &QPushButton::clicked, this, [this] {
-        parts_.readClipboard(alive_.guard([this](const std::optional<std::u16string> &text) {
-            if (text) {
-                setBefore(QString::fromStdU16String(text->substr(0, longest + 1)));
-            } else {
-                note_->setText(localized("sPreviewNothing"));
-                note_->show();
-            }
-        }));
+        program_.engine().readClipboardText(
+            alive_.guard([this](const std::optional<std::u16string> &text) {
+                if (text) {
+                    setBefore(QString::fromStdU16String(text->substr(0, longest + 1)));
+                } else {
+                    note_->setText(localized("sPreviewNothing"));
+                    note_->show();
+                }
+            }));
     });
-    connect(apply_, &QPushButton::clicked, this, [this] { parts_.cleanClipboard(); });
+    connect(apply_, &QPushButton::clicked, this, [this] { program_.clean(); });
 }
 
 PreviewPane::~PreviewPane() {
-    parts_.mainQueue.cancel(pending_);
+    mainQueue_.cancel(pending_);
 }
 
 void PreviewPane::setOptions(storage::PropertyDictionary options) {
@@ -170,8 +173,8 @@ void PreviewPane::schedule() {
     if (!isVisible()) {
         return;
     }
-    parts_.mainQueue.cancel(pending_);
-    pending_ = parts_.mainQueue.postAfter(settlesAfter, [this] {
+    mainQueue_.cancel(pending_);
+    pending_ = mainQueue_.postAfter(settlesAfter, [this] {
         pending_ = 0;
         run();
     });
@@ -188,7 +191,7 @@ void PreviewPane::run() {
     note_->setText(localized("sPreviewTooLong"));
     note_->setVisible(text.size() > longest);
     text.truncate(longest);
-    auto done = alive_.guardOn(parts_.mainQueue, [this](const std::optional<Result> &result) {
+    auto done = alive_.guardOn(mainQueue_, [this](const std::optional<Result> &result) {
         running_ = false;
         if (result) {
             show(*result);
@@ -197,8 +200,8 @@ void PreviewPane::run() {
             run();
         }
     });
-    parts_.workerQueue.post([done = std::move(done), text, profile = options_,
-                             locale = parts_.locale] {
+    program_.parts().workerQueue.post([done = std::move(done), text, profile = options_,
+                                       locale = program_.locale()] {
         std::optional<Result> result;
         try {
             engine::CleaningOptions options;

@@ -6,7 +6,6 @@
 
 #include "platform/Alive.h"
 #include "platform/MainQueue.h"
-#include "platform/WorkerQueue.h"
 #include "shell/TextDiff.h"
 #include "storage/PropertyValue.h"
 
@@ -15,27 +14,19 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QWidget>
-#include <functional>
 #include <memory>
-#include <optional>
-#include <string>
+#include <vector>
 
 namespace nerlo::shell {
 
-struct PreviewParts {
-    platform::MainQueue &mainQueue;
-    platform::WorkerQueue &workerQueue;
-    std::string locale; // an ICU locale id
-    // Reads the clipboard's text and hands it on, on the main thread; nothing where there is none.
-    std::function<void(std::function<void(std::optional<std::u16string>)>)> readClipboard;
-    std::function<void()> cleanClipboard;
-};
+class Program;
 
 class PreviewPane final : public QWidget {
     Q_OBJECT
 
   public:
-    explicit PreviewPane(PreviewParts parts);
+    // `program` must outlive the pane.
+    explicit PreviewPane(Program &program);
     ~PreviewPane() override;
 
     // The options to try: a profile as it would be saved.
@@ -63,7 +54,8 @@ class PreviewPane final : public QWidget {
     void show(const Result &result);
     void markDifferences();
 
-    PreviewParts parts_;
+    Program &program_;
+    platform::MainQueue &mainQueue_;
     storage::PropertyDictionary options_;
     QBoxLayout *halves_;
     QPlainTextEdit *before_;

@@ -34,6 +34,9 @@ class ShellWindows {
     // UTF-8. False when the desktop has nothing for it.
     virtual bool openUrl(const std::string &url) = 0;
 
+    // Ends the program, once what is under way here has returned.
+    virtual void quit() = 0;
+
     // What is not as the user wants it, told for as long as it lasts.
     enum class Problem { tray, shortcuts, settings, damage, profiles, loginItem };
     // Each of them replaces the one of its kind; an empty text ends it. One line or more, UTF-8.

@@ -3,6 +3,7 @@
 #include "engine/Operations.h"
 #include "shell/Mnemonics.h"
 #include "shell/PreferencesLayout.h"
+#include "shell/Program.h"
 #include "shell/Strings.h"
 #include "shortcuts/nrShortcut.h"
 
@@ -80,24 +81,28 @@ shortcuts::MenuItem itemOf(const char *titleKey, const char *keyNames) {
 
 } // namespace
 
-StatusMenu::StatusMenu(MenuCommands commands)
-    : commands_(std::move(commands))
-    , statusMenu(std::make_unique<QMenu>())
+StatusMenu::StatusMenu(Program &program)
+    : program_(program)
+    , statusMenu_(std::make_unique<QMenu>())
     , operations_(std::make_unique<QMenu>(title("Single operations")))
     , profiles_(std::make_unique<QMenu>(title("Profiles")))
-    , clean_(add("clean", "Clear formating from clipboard", commands_.clean))
-    , automatic_(add("automatic", "Automatically clear formatting", commands_.automatic))
-    , excelException_(add("excelException", "Except copies from Excel", commands_.excelException))
-    , restore_(add("restore", "Restore the original", commands_.restore))
-    , preferences_(add("preferences", "Preferences…", commands_.preferences))
-    , tips_(add("tips", "Tips", commands_.tips))
-    , whatsNew_(add("whatsNew", "What's new", commands_.whatsNew))
-    , rate_(add("rate", "Rate Nerlo Pro", commands_.rate))
-    , support_(add("support", "Support", commands_.support))
-    , email_(add("email", "E-mail to the developer", commands_.email))
-    , about_(add("about", "About", commands_.about))
-    , hide_(add("hide", "Hide Nerlo Pro", commands_.hide))
-    , quit_(add("quit", "Quit Nerlo Pro", commands_.quit)) {
+    , clean_(add("clean", "Clear formating from clipboard", [](Program &p) { p.clean(); }))
+    , automatic_(add("automatic", "Automatically clear formatting",
+                     [](Program &p) { p.setAutomatic(AutomaticMode::toggle); }))
+    , excelException_(add("excelException", "Except copies from Excel",
+                          [](Program &p) { p.delegate().disableAutomaticallyClearFormatting(); }))
+    , restore_(add("restore", "Restore the original", [](Program &p) { p.windows().restore(); }))
+    , preferences_(add("preferences", "Preferences…", [](Program &p) { p.showPreferences(); }))
+    , tips_(add("tips", "Tips", [](Program &p) { p.delegate().aOpenTips(); }))
+    , whatsNew_(add("whatsNew", "What's new",
+                    [](Program &p) { p.delegate().openReleaseNotesNerloPro(); }))
+    , rate_(add("rate", "Rate Nerlo Pro", [](Program &p) { p.delegate().openRateApp(); }))
+    , support_(add("support", "Support", [](Program &p) { p.delegate().supportWebsite(); }))
+    , email_(add("email", "E-mail to the developer",
+                 [](Program &p) { p.delegate().openEmailToDev(); }))
+    , about_(add("about", "About", [](Program &p) { p.delegate().openAboutApp(); }))
+    , hide_(add("hide", "Hide Nerlo Pro", [](Program &p) { p.windows().hidePreferences(); }))
+    , quit_(add("quit", "Quit Nerlo Pro", [](Program &p) { p.quit(); })) {
     automatic_->setCheckable(true);
     excelException_->setCheckable(true);
     preferences_->setShortcut(QKeySequence(preferencesKeys));
@@ -106,35 +111,30 @@ StatusMenu::StatusMenu(MenuCommands commands)
     // The hot key itself works everywhere; in the menu it is only shown.
     clean_->setShortcutContext(Qt::WidgetShortcut);
 
-    statusMenu->setObjectName("statusMenu");
+    statusMenu_->setObjectName("statusMenu");
     operations_->setObjectName("operationsMenu");
     profiles_->setObjectName("profilesMenu");
     makeOperations();
     makeEditActions();
 
-    statusMenu->addActions({clean_, automatic_, excelException_, restore_});
-    statusMenu->addSeparator();
-    statusMenu->addMenu(operations_.get());
-    statusMenu->addMenu(profiles_.get());
-    statusMenu->addSeparator();
-    statusMenu->addActions({preferences_, tips_, whatsNew_});
-    statusMenu->addSeparator();
-    statusMenu->addActions({rate_, support_, email_, about_});
-    statusMenu->addSeparator();
-    statusMenu->addAction(quit_);
+    statusMenu_->addActions({clean_, automatic_, excelException_, restore_});
+    statusMenu_->addSeparator();
+    statusMenu_->addMenu(operations_.get());
+    statusMenu_->addMenu(profiles_.get());
+    statusMenu_->addSeparator();
+    statusMenu_->addActions({preferences_, tips_, whatsNew_});
+    statusMenu_->addSeparator();
+    statusMenu_->addActions({rate_, support_, email_, about_});
+    statusMenu_->addSeparator();
+    statusMenu_->addAction(quit_);
 }
 
 StatusMenu::~StatusMenu() = default;
 
-QAction *StatusMenu::add(const char *name, const char *titleKey,
-                         const std::function<void()> &command) {
+QAction *StatusMenu::add(const char *name, const char *titleKey, void (*run)(Program &)) {
     auto *action = new QAction(title(titleKey), this);
     action->setObjectName(name);
-    connect(action, &QAction::triggered, this, [&command] {
-        if (command) {
-            command();
-        }
-    });
+    connect(action, &QAction::triggered, this, [this, run] { run(program_); });
     return action;
 }
 
@@ -152,11 +152,8 @@ void StatusMenu::makeOperations() {
             }
             auto *action = menu->addAction(escaped(localized(operation->hotKey)));
             action->setObjectName("operation" + QString::number(operation->index));
-            connect(action, &QAction::triggered, this, [this, index = operation->index] {
-                if (commands_.operation) {
-                    commands_.operation(index);
-                }
-            });
+            connect(action, &QAction::triggered, this,
+                    [this, index = operation->index] { program_.runOperation(index); });
         }
     }
 }
@@ -209,11 +206,8 @@ void StatusMenu::setProfiles(const QStringList &names, int selected) {
         auto *action = profiles_->addAction(escaped(names[place]));
         action->setCheckable(true);
         action->setChecked(place == selected);
-        connect(action, &QAction::triggered, this, [this, place] {
-            if (commands_.selectProfile) {
-                commands_.selectProfile(place);
-            }
-        });
+        connect(action, &QAction::triggered, this,
+                [this, place] { program_.switchProfile(place); });
     }
 }
 

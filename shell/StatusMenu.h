@@ -8,8 +8,6 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QStringList>
-#include <cstdint>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -17,32 +15,17 @@ class QMenuBar;
 
 namespace nerlo::shell {
 
-struct MenuCommands {
-    std::function<void()> clean;
-    std::function<void()> automatic;
-    std::function<void()> excelException;
-    std::function<void()> restore;
-    std::function<void(std::int32_t index)> operation;
-    std::function<void(int place)> selectProfile;
-    std::function<void()> preferences;
-    std::function<void()> tips;
-    std::function<void()> whatsNew;
-    std::function<void()> rate;
-    std::function<void()> support;
-    std::function<void()> email;
-    std::function<void()> about;
-    std::function<void()> hide;
-    std::function<void()> quit;
-};
+class Program;
 
 class StatusMenu final : public QObject {
     Q_OBJECT
 
   public:
-    explicit StatusMenu(MenuCommands commands);
+    // `program` must outlive the menu; its commands are run by the items.
+    explicit StatusMenu(Program &program);
     ~StatusMenu() override;
 
-    QMenu &menu() { return *statusMenu; }
+    QMenu &menu() { return *statusMenu_; }
     void fillMenuBar(QMenuBar &bar);
 
     void setAutomatic(bool on);
@@ -56,12 +39,12 @@ class StatusMenu final : public QObject {
     static std::vector<shortcuts::MenuItem> mainMenu();
 
   private:
-    QAction *add(const char *name, const char *title, const std::function<void()> &command);
+    QAction *add(const char *name, const char *title, void (*run)(Program &));
     void makeOperations();
     void makeEditActions();
 
-    MenuCommands commands_;
-    std::unique_ptr<QMenu> statusMenu;
+    Program &program_;
+    std::unique_ptr<QMenu> statusMenu_;
     std::unique_ptr<QMenu> operations_;
     std::unique_ptr<QMenu> profiles_;
     QAction *clean_;

@@ -82,47 +82,47 @@ void TrayIcon::lookForHost() {
 void TrayIcon::trayAppeared() {
     hostSeen_ = true;
     hostGone_ = false;
-    if (wanted_ && !statusItem) {
+    if (wanted_ && !statusItem_) {
         make();
     }
 }
 
 void TrayIcon::make() {
-    statusItem = std::make_unique<QSystemTrayIcon>(iconOf(state_));
-    statusItem->setObjectName("statusItem");
-    statusItem->setContextMenu(&menu_);
-    statusItem->setToolTip(tooltipOf(state_));
-    connect(statusItem.get(), &QSystemTrayIcon::activated, this,
+    statusItem_ = std::make_unique<QSystemTrayIcon>(iconOf(state_));
+    statusItem_->setObjectName("statusItem");
+    statusItem_->setContextMenu(&menu_);
+    statusItem_->setToolTip(tooltipOf(state_));
+    connect(statusItem_.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
                 if (reason == QSystemTrayIcon::Trigger) {
                     emit activated();
                 }
             });
-    statusItem->show();
+    statusItem_->show();
     emit appeared();
 }
 
 void TrayIcon::show() {
     wanted_ = true;
-    if (hostSeen_ && !statusItem) {
+    if (hostSeen_ && !statusItem_) {
         make();
     }
 }
 
 void TrayIcon::drop() {
     wanted_ = false;
-    statusItem.reset();
+    statusItem_.reset();
 }
 
 bool TrayIcon::shown() const {
-    return statusItem && !hostGone_;
+    return statusItem_ && !hostGone_;
 }
 
 void TrayIcon::setState(TrayState state) {
     state_ = state;
-    if (statusItem) {
-        statusItem->setIcon(iconOf(state));
-        statusItem->setToolTip(tooltipOf(state));
+    if (statusItem_) {
+        statusItem_->setIcon(iconOf(state));
+        statusItem_->setToolTip(tooltipOf(state));
     }
 }
 

@@ -59,7 +59,7 @@ class TrayIcon final : public QObject {
     bool hostSeen_ = false;
     bool hostGone_ = false; // it was there
     TrayState state_ = TrayState::idle;
-    std::unique_ptr<QSystemTrayIcon> statusItem;
+    std::unique_ptr<QSystemTrayIcon> statusItem_;
 };
 
 } // namespace nerlo::shell

@@ -34,14 +34,14 @@ std::string replaced(std::string text, std::string_view find, std::string_view w
 } // namespace
 
 nrAppDelegate::nrAppDelegate(Parts parts)
-    : userDef(parts.userDef)
+    : userDef_(parts.userDef)
     , mainQueue_(parts.mainQueue)
     , engine_(parts.engine)
     , watcher_(parts.watcher)
     , loginItem_(parts.loginItem)
     , windows_(parts.windows)
     , links_(std::move(parts.links)) {
-    settings::setAllDefaultsInFirstRun(userDef, parts.preferences);
+    settings::setAllDefaultsInFirstRun(userDef_, parts.preferences);
 }
 
 nrAppDelegate::~nrAppDelegate() {
@@ -49,18 +49,18 @@ nrAppDelegate::~nrAppDelegate() {
 }
 
 void nrAppDelegate::applicationWillFinishLaunching() {
-    appOpened = false;
+    appOpened_ = false;
     showInMenuBar();
 }
 
 void nrAppDelegate::applicationDidFinishLaunching() {
-    excelException_ = userDef.boolForKey(disableAutomaticKey);
-    if (userDef.boolForKey(automaticKey)) {
+    excelException_ = userDef_.boolForKey(disableAutomaticKey);
+    if (userDef_.boolForKey(automaticKey)) {
         watchPasteboard();
         automatic_ = true;
     }
     openPreferencesInFirstRun();
-    if (userDef.boolForKey(showInMenuBarKey)) {
+    if (userDef_.boolForKey(showInMenuBarKey)) {
         setStatusBar();
     }
     openTipsInFirstRun();
@@ -83,24 +83,32 @@ void nrAppDelegate::traySettled() {
 }
 
 bool nrAppDelegate::showInMenuBarChecked() const {
-    return userDef.boolForKey(showInMenuBarKey);
+    return userDef_.boolForKey(showInMenuBarKey);
 }
 
 bool nrAppDelegate::runInTheBackgroundChecked() const {
-    return userDef.boolForKey(runInTheBackgroundKey);
+    return userDef_.boolForKey(runInTheBackgroundKey);
+}
+
+bool nrAppDelegate::launchOnStartupChecked() const {
+    return userDef_.boolForKey(launchOnStartupKey);
+}
+
+bool nrAppDelegate::stayOnTopChecked() const {
+    return userDef_.boolForKey(stayOnTopKey);
 }
 
 void nrAppDelegate::showInMenuBar() {
     if (runInTheBackgroundChecked()) {
         windows_.dropStatusItem();
         windows_.setTaskbarEntry(false);
-        if (appOpened) {
-            userDef.set(showInMenuBarKey, false);
+        if (appOpened_) {
+            userDef_.set(showInMenuBarKey, false);
         }
     } else if (showInMenuBarChecked()) {
         setStatusBar();
         windows_.setTaskbarEntry(false);
-        if (appOpened) {
+        if (appOpened_) {
             mainQueue_.cancel(bringBack_);
             bringBack_ = mainQueue_.postAfter(comesBackAfter, [this] {
                 bringBack_ = 0;
@@ -111,17 +119,17 @@ void nrAppDelegate::showInMenuBar() {
         windows_.dropStatusItem();
         windows_.setTaskbarEntry(true);
     }
-    appOpened = true;
+    appOpened_ = true;
     windows_.stateChanged();
 }
 
 void nrAppDelegate::setShowInMenuBar(bool on) {
-    userDef.set(showInMenuBarKey, on);
+    userDef_.set(showInMenuBarKey, on);
     showInMenuBar();
 }
 
 void nrAppDelegate::setRunInTheBackground(bool on) {
-    userDef.set(runInTheBackgroundKey, on);
+    userDef_.set(runInTheBackgroundKey, on);
     showInMenuBar();
 }
 
@@ -130,21 +138,21 @@ void nrAppDelegate::setStatusBar() {
 }
 
 void nrAppDelegate::openPreferencesInFirstRun() {
-    if (!userDef.boolForKey(firstRunPreferencesKey)) {
+    if (!userDef_.boolForKey(firstRunPreferencesKey)) {
         newPreferencesWindow();
-        userDef.set(firstRunPreferencesKey, true);
+        userDef_.set(firstRunPreferencesKey, true);
     }
 }
 
 void nrAppDelegate::openTipsInFirstRun() {
-    if (userDef.find(firstRunTipsKey) && !userDef.boolForKey(firstRunTipsKey)) {
-        if (!userDef.find(releaseNotesKey)) {
+    if (userDef_.find(firstRunTipsKey) && !userDef_.boolForKey(firstRunTipsKey)) {
+        if (!userDef_.find(releaseNotesKey)) {
             openReleaseNotesNerloPro();
         }
         return;
     }
     aOpenTips();
-    userDef.set(releaseNotesKey, true);
+    userDef_.set(releaseNotesKey, true);
 }
 
 void nrAppDelegate::watchPasteboard() {
@@ -166,14 +174,14 @@ void nrAppDelegate::automaticallyClearFormatting() {
         watchPasteboard();
     }
     automatic_ = !automatic_;
-    userDef.set(automaticKey, automatic_);
+    userDef_.set(automaticKey, automatic_);
     windows_.stateChanged();
 }
 
 void nrAppDelegate::disableAutomaticallyClearFormatting() {
     excelException_ = !excelException_;
     watcher_.toggleEngine(excelException_);
-    userDef.set(disableAutomaticKey, excelException_);
+    userDef_.set(disableAutomaticKey, excelException_);
     windows_.stateChanged();
     if (excelException_) {
         windows_.showAlert("Excel disabled", "With option \"Automatically clear formatting\"");
@@ -187,7 +195,7 @@ void nrAppDelegate::showPreferences() {
 void nrAppDelegate::newPreferencesWindow() {
     windows_.showPreferencesWindow();
     windows_.stateChanged();
-    windows_.setFloating(userDef.boolForKey(stayOnTopKey));
+    windows_.setFloating(stayOnTopChecked());
 }
 
 void nrAppDelegate::openAboutApp() {
@@ -195,9 +203,7 @@ void nrAppDelegate::openAboutApp() {
 }
 
 void nrAppDelegate::quitApp() {
-    if (quit_) {
-        quit_();
-    }
+    windows_.quit();
 }
 
 void nrAppDelegate::supportWebsite() {
@@ -223,13 +229,13 @@ void nrAppDelegate::openReleaseNotesNerloPro() {
 }
 
 void nrAppDelegate::aStayOnTop(bool on) {
-    userDef.set(stayOnTopKey, on);
+    userDef_.set(stayOnTopKey, on);
     windows_.setFloating(on);
 }
 
 void nrAppDelegate::launchOnStartup(bool on) {
     const std::string error = setStartAtLogin(on);
-    userDef.set(launchOnStartupKey, error.empty() ? on : loginItem_.enabled());
+    userDef_.set(launchOnStartupKey, error.empty() ? on : loginItem_.enabled());
     windows_.setProblem(ShellWindows::Problem::loginItem, error);
     windows_.stateChanged();
 }

@@ -13,8 +13,6 @@
 #include "shell/ShellWindows.h"
 #include "storage/SettingsStore.h"
 
-#include <functional>
-#include <memory>
 #include <string>
 
 namespace nerlo::shell {
@@ -62,6 +60,8 @@ class nrAppDelegate {
     bool excelException() const { return excelException_; }
     bool showInMenuBarChecked() const;
     bool runInTheBackgroundChecked() const;
+    bool launchOnStartupChecked() const;
+    bool stayOnTopChecked() const;
 
     // The commands of the menus, and the check boxes of the preferences.
     void clearFormattingFromClipboard();
@@ -84,8 +84,6 @@ class nrAppDelegate {
     void newPreferencesWindow();
     // Empty when done, else what went wrong.
     std::string setStartAtLogin(bool on);
-    // Ends the program; set by main().
-    void setQuitHandler(std::function<void()> quit) { quit_ = std::move(quit); }
 
     // The complete link of openEmailToDev().
     static std::string emailLink(const ProductLinks &links);
@@ -98,16 +96,15 @@ class nrAppDelegate {
     void stopWatchPasteboard();
     void setStatusBar();
 
-    storage::SettingsStore &userDef;
+    storage::SettingsStore &userDef_;
     platform::MainQueue &mainQueue_;
     clipboard::nrChangePasterboard &engine_;
     clipboard::nrPasteboardWatcher &watcher_;
     platform::LoginItem &loginItem_;
     ShellWindows &windows_;
     const ProductLinks links_;
-    std::function<void()> quit_;
 
-    bool appOpened = false; // false until the first showInMenuBar() has ended
+    bool appOpened_ = false; // false until the first showInMenuBar() has ended
     bool automatic_ = false;
     bool excelException_ = false;
     platform::MainQueue::TaskId bringBack_ = 0;

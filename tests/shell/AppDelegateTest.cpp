@@ -47,6 +47,7 @@ class RecordedWindows final : public ShellWindows {
         }
     }
     void stateChanged() override {}
+    void quit() override { calls.push_back("quit"); }
     Calls take() { return std::exchange(calls, {}); }
 };
 
@@ -196,9 +197,10 @@ TEST_F(AppDelegate, SmallCommands) {
     delegate->openRateApp();
     delegate->aStayOnTop(true);
     delegate->showPreferences();
+    delegate->quitApp();
     EXPECT_EQ(windows.take(),
               (Calls{"https://page", "mailto:a@b?subject=Nerlo%20Pro%20v1.2%20-%20Debian%2012",
-                     "about", "floats", "preferences", "floats"}));
+                     "about", "floats", "preferences", "floats", "quit"}));
     EXPECT_EQ(nrAppDelegate::emailLink({"", "m", "1", "Version 14 (Version B)"}),
               "m%20v1%20-%2014%20(B)");
     pasteboard.copyText("two  spaces");

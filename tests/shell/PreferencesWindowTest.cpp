@@ -8,7 +8,7 @@
 #include "shell/Strings.h"
 #include "shell/TextDiff.h"
 #include "shell/TipsWindow.h"
-#include "tests/shell/ShellFixture.h"
+#include "tests/shell/ProgramFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -26,24 +26,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class Preferences : public ShellFixture {
+class Preferences : public ProgramFixture {
   protected:
     std::unique_ptr<PreferencesWindow> window;
-    std::optional<std::u16string> clipboard;
-    int cleans = 0;
 
-    void SetUp() override {
-        preferences.firstRunCombobox();
-        preferences.initProfilesItems();
-        open();
-    }
+    void SetUp() override { open(); }
     void TearDown() override { setAlertAnswers({}); }
 
     void open() {
-        window = std::make_unique<PreferencesWindow>(
-            preferences, store, [](const std::string &) { return new QLineEdit; }, GeneralActions{},
-            PreviewParts{queue, worker, "en_US", [this](auto handler) { handler(clipboard); },
-                         [this] { ++cleans; }});
+        window = std::make_unique<PreferencesWindow>(program);
         auto &hooks = preferences.hooks();
         hooks.profilesChanged = [this] { window->profilesChanged(); };
         hooks.controlsLoaded = [this] { window->controlsLoaded(); };
@@ -250,13 +241,13 @@ TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
     EXPECT_EQ(previewed("x"), "x!");
     EXPECT_EQ(window->preview().marked(), (std::vector<TextSpan>{{1, 1}}));
     EXPECT_EQ(pasteboard.log, std::vector<std::string>{});
-    EXPECT_EQ(cleans, 0);
-    clipboard = u"from  there";
+    pasteboard.copyText("from  there");
     control<QPushButton>("previewTake").click();
+    finishWork();
     EXPECT_EQ(control<QPlainTextEdit>("previewBefore").toPlainText(), "from  there");
     control<QPushButton>("previewApply").click();
-    EXPECT_EQ(cleans, 1);
-    EXPECT_EQ(stored("udAddSuffix"), 1);
+    finishWork();
+    EXPECT_EQ(pasteboard.bytes("UTF8_STRING"), "from there!");
     // As an accessibility tool sets it.
     control<QLineEdit>("udSuffixTextField").setText("?");
     EXPECT_EQ(previewed("x"), "x?");
@@ -320,7 +311,7 @@ void expectNames(QAccessibleInterface *object, int &checked) {
 }
 
 TEST_F(Preferences, EveryControlHasANameAToolTipAndNoTwoALetter) {
-    StatusMenu menu({});
+    StatusMenu menu(program);
     menu.fillMenuBar(*window->menuBar());
     window->assignLetters();
     for (int page = 0; page < control<QListWidget>("pageList").count(); ++page) {
@@ -401,29 +392,29 @@ TEST(TextDiff, MarksWhatDiffers) {
     EXPECT_EQ(differences(dots, commas).added, (Spans{{0, 50'000}}));
 }
 
-TEST(StatusMenu, ItemsProfilesAndKeys) {
-    std::vector<std::string> calls;
-    MenuCommands commands;
-    commands.clean = [&] { calls.push_back("clean"); };
-    commands.operation = [&](int index) { calls.push_back("operation " + std::to_string(index)); };
-    commands.selectProfile = [&](int place) {
-        calls.push_back("profile " + std::to_string(place));
-    };
-    StatusMenu menu(commands);
+using Menu = ProgramFixture;
+
+TEST_F(Menu, ItemsProfilesAndKeys) {
+    StatusMenu menu(program);
     menu.setProfiles({"A", "A", "R&D"}, 1);
     auto *profiles = menu.menu().actions()[6]->menu();
     ASSERT_TRUE(profiles);
     ASSERT_EQ(profiles->actions().size(), 3);
     EXPECT_TRUE(profiles->actions()[1]->isChecked());
     EXPECT_EQ(profiles->actions()[2]->text(), "R&&D");
-    profiles->actions()[2]->trigger();
     auto *operations = menu.menu().actions()[5]->menu();
     EXPECT_EQ(operations->findChildren<QAction *>(QRegularExpression("^operation")).size(),
               static_cast<qsizetype>(engine::operations().size()));
-    EXPECT_EQ(operations->actions()[1]->menu()->actions()[3]->text(), "Sort lines");
-    operations->actions()[1]->menu()->actions()[3]->trigger();
-    menu.menu().actions()[0]->trigger();
-    EXPECT_EQ(calls, (std::vector<std::string>{"profile 2", "operation 23", "clean"}));
+    const auto result = [&](QAction &action) {
+        pasteboard.copyText("b  b\na");
+        action.trigger();
+        finishWork();
+        return pasteboard.bytes("UTF8_STRING");
+    };
+    auto &sort = *operations->actions()[1]->menu()->actions()[3];
+    EXPECT_EQ(sort.text(), "Sort lines");
+    EXPECT_EQ(result(sort), "a\nb  b");
+    EXPECT_EQ(result(*menu.menu().actions()[0]), "b b a");
     menu.setCleanShortcut(QKeySequence("Meta+V"));
     EXPECT_EQ(menu.menu().actions()[0]->shortcut(), QKeySequence("Meta+V"));
     const auto items = menu.mainMenu();

@@ -1,0 +1,29 @@
+// What this desktop offers the program: for each of its notions the best backend.
+#pragma once
+
+#include "platform/LoginItem.h"
+#include "platform/SystemHotKeys.h"
+#include "platform/WorkerQueue.h"
+#include "platform/backends/Backends.h"
+
+#include <memory>
+
+namespace nerlo::shell {
+
+// Of the desktop file, the windows and the name on the bus.
+inline constexpr auto applicationId = "org.nerlo.NerloPro";
+
+struct Desktop {
+    platform::Chosen<platform::Pasteboard> clipboard; // null without a display
+    platform::Chosen<platform::ActiveApplication> activeApplication;
+    platform::Chosen<platform::KeyboardLayout> keyboardLayout;
+    platform::Chosen<platform::HotKeyService> hotKeys;
+    platform::Chosen<platform::PopupLayer> popupLayer; // may be null
+    std::unique_ptr<platform::SystemHotKeys> systemHotKeys;
+    std::unique_ptr<platform::LoginItem> loginItem;
+};
+
+// Needs a QCoreApplication; the queues must outlive the result.
+Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &workerQueue);
+
+} // namespace nerlo::shell

@@ -1,0 +1,220 @@
+#include "shell/Program.h"
+
+#include "engine/Operations.h"
+#include "settings/SettingsKeys.h"
+#include "settings/UserLocale.h"
+#include "shell/Doctor.h"
+#include "shell/HotKeyCommands.h"
+#include "shell/Strings.h"
+#include "shell/Terminal.h"
+#include "shell/nrCountWindowController.h"
+#include "text/Utf.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <filesystem>
+#include <utility>
+
+namespace nerlo::shell {
+
+namespace {
+
+constexpr auto automaticKey = "automaticallyClearFormatting";
+
+std::string folderOf(const std::string &file) {
+    return std::filesystem::path(file).parent_path();
+}
+
+} // namespace
+
+Program::Program(Parts parts)
+    : parts_(std::move(parts))
+    , locale_(settings::userLocale())
+    , store_(parts_.paths.store,
+             [&queue = parts_.mainQueue](auto task) { queue.post(std::move(task)); })
+    , engine_(*parts_.desktop.clipboard.backend, parts_.mainQueue, parts_.workerQueue, locale_)
+    , watcher_(*parts_.desktop.clipboard.backend, parts_.mainQueue,
+               *parts_.desktop.activeApplication.backend, engine_)
+    , shortcutTexts_(*parts_.desktop.keyboardLayout.backend,
+                     [](std::u16string_view key) { return localizedUtf16(Table::shortcut, key); })
+    , globalHotKeys_(*parts_.desktop.hotKeys.backend)
+    , hotKeys_(store_, globalHotKeys_)
+    , preferences_(
+          store_, parts_.mainQueue, parts_.paths,
+          [](std::u16string_view key) { return localizedUtf16(Table::standard, key); },
+          settings::firstLanguage(store_))
+    , windows_(*this) {
+    connect();
+    delegate_.emplace(nrAppDelegate::Parts{store_, parts_.mainQueue, preferences_, engine_,
+                                           watcher_, *parts_.desktop.loginItem, windows_,
+                                           parts_.links});
+    preferences_.initProfilesItems();
+    tellDamages();
+}
+
+Program::~Program() {
+    // Also what could not be written before; there is no window any more that could tell.
+    if (const auto error = preferences_.savePending(); !error.empty()) {
+        complain(error);
+    }
+    if (!store_.synchronize()) {
+        complain(store_.error());
+    }
+    // The windows, which it tells, go before it.
+    store_.setErrorHandler(nullptr);
+    parts_.desktop.keyboardLayout.backend->setChangedHandler(nullptr);
+    parts_.desktop.clipboard.backend->setLostHandler(nullptr);
+}
+
+void Program::connect() {
+    engine_.setCountWindowMaker([this] {
+        return std::make_unique<nrCountWindowController>(store_, parts_.mainQueue,
+                                                         parts_.desktop.popupLayer.backend.get());
+    });
+    engine_.setCleanedHandler([this] {
+        if (listener_) {
+            listener_->cleaned();
+        }
+    });
+    parts_.desktop.keyboardLayout.backend->setChangedHandler(
+        [this] { hotKeys_.keyboardLayoutChanged(); });
+    preferences_.hooks().setAllBools = [this](const auto &profile) {
+        engine_.setAllBools(profile);
+    };
+    preferences_.hooks().setDefaultShortcut = [this] { setDefaultShortcut(hotKeys_); };
+    store_.setErrorHandler([this](const std::string &error) {
+        windows_.setProblem(ShellWindows::Problem::settings, error);
+    });
+    parts_.desktop.clipboard.backend->setLostHandler([] {
+        complain("the display is gone");
+        QCoreApplication::exit(failed);
+    });
+}
+
+void Program::tellDamages() {
+    auto damages = preferences_.loadErrors();
+    if (!store_.loadError().empty()) {
+        damages.insert(damages.begin(), store_.loadError());
+    }
+    QStringList lines;
+    for (const auto &damage : damages) {
+        lines << QString::fromStdString(damage) + "\n" + localized("sFileDamaged");
+        complain(damage);
+    }
+    // Users who miss a setting look at this notice.
+    windows_.setProblem(ShellWindows::Problem::damage, lines.join('\n').toStdString());
+}
+
+void Program::start() {
+    refusals_ = reportRefusedHotKeys(hotKeys_, [](const std::string &line) { complain(line); });
+    registerHotKeys();
+    delegate_->applicationWillFinishLaunching();
+    delegate_->applicationDidFinishLaunching();
+    windows_.start();
+    followOtherProcesses();
+}
+
+void Program::registerHotKeys() {
+    const auto bind = [this](std::string_view key, std::function<void()> run) {
+        hotKeys_.registerGlobalShortcutWithUserDefaultsKey(std::string(key), std::move(run),
+                                                           localized(key).toStdString());
+    };
+    bind(settings::cleanHotKey, [this] { clean(); });
+    for (const auto &operation : engine::operations()) {
+        bind(operation.hotKey, [this, index = operation.index] { runOperation(index); });
+    }
+}
+
+void Program::followOtherProcesses() {
+    storeWatch_.emplace(folderOf(parts_.paths.store), parts_.mainQueue,
+                        [this] { store_.fileChanged(); });
+    profilesWatch_.emplace(folderOf(parts_.paths.profiles), parts_.mainQueue,
+                           [this] { preferences_.profilesFileChanged(); });
+    automaticMode_ = store_.observe(automaticKey, [this] {
+        setAutomatic(store_.boolForKey(automaticKey) ? AutomaticMode::on : AutomaticMode::off);
+    });
+}
+
+void Program::clean() {
+    delegate_->clearFormattingFromClipboard();
+}
+
+void Program::runOperation(std::int32_t index) {
+    engine_.changePasteboardWithKeys(index);
+}
+
+void Program::restore(std::function<void(clipboard::nrChangePasterboard::Restored)> handler) {
+    engine_.restore(std::move(handler));
+}
+
+bool Program::setAutomatic(AutomaticMode mode) {
+    const bool on = mode == AutomaticMode::toggle ? !automatic() : mode == AutomaticMode::on;
+    if (on != automatic()) {
+        delegate_->automaticallyClearFormatting();
+    }
+    return on;
+}
+
+bool Program::selectProfile(const std::string &nameOrPlace) {
+    const auto &items = preferences_.profilesItems();
+    const auto *item = settings::findProfile(items, nameOrPlace);
+    if (item) {
+        switchProfile(static_cast<int>(item - items.data()));
+    }
+    return item != nullptr;
+}
+
+void Program::switchProfile(int place) {
+    preferences_.profilesSwitch(place);
+}
+
+void Program::activate() {
+    delegate_->applicationShouldHandleReopen(windows_.hasVisibleWindow());
+}
+
+std::string Program::doctor(bool sessionBus) const {
+    return doctorReport(
+        parts_.desktop, sessionBus,
+        RunningState{automatic(), hotKeyFindings(hotKeys_, shortcutTexts_.layout())});
+}
+
+bool Program::perform(const Request &request) {
+    switch (request.command) {
+    case Command::automatic:
+        setAutomatic(*parseAutomaticMode(request.argument.toString().toStdString()));
+        break;
+    case Command::profile:
+        return selectProfile(request.argument.toString().toStdString());
+    case Command::preferences:
+        showPreferences();
+        break;
+    case Command::clean:
+        clean();
+        break;
+    case Command::operation:
+        runOperation(request.argument.toInt());
+        break;
+    case Command::restore:
+    case Command::doctor:
+    case Command::quit:
+    case Command::activate:
+        break;
+    }
+    return true;
+}
+
+std::string Program::profileName() const {
+    return text::utf16ToUtf8(preferences_.profileName());
+}
+
+std::string Program::backend() const {
+    return parts_.desktop.clipboard.backend->description();
+}
+
+void Program::stateChanged() {
+    if (listener_) {
+        listener_->stateChanged();
+    }
+}
+
+} // namespace nerlo::shell

@@ -1,0 +1,126 @@
+// The running program: what it consists of, and one function for each thing that it can be told to
+// do. The menu, the windows, the hot keys, the bus and the command line all call these.
+//
+// Main thread only.
+#pragma once
+
+#include "clipboard/nrChangePasterboard.h"
+#include "clipboard/nrPasteboardWatcher.h"
+#include "platform/MainQueue.h"
+#include "platform/WorkerQueue.h"
+#include "platform/linux/FolderWatch.h"
+#include "settings/SettingsPaths.h"
+#include "settings/nrPreferences.h"
+#include "shell/Desktop.h"
+#include "shell/DesktopShell.h"
+#include "shell/Requests.h"
+#include "shell/nrAppDelegate.h"
+#include "shortcuts/GlobalHotKeys.h"
+#include "shortcuts/ShortcutTexts.h"
+#include "shortcuts/UserDefaultsHotKeys.h"
+#include "storage/FileSettingsStore.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace nerlo::shell {
+
+// Who is told of what happens.
+class ProgramListener {
+  public:
+    virtual ~ProgramListener() = default;
+    virtual void cleaned() = 0;      // a cleaned text has reached the clipboard
+    virtual void stateChanged() = 0; // perhaps automatic() or profileName()
+};
+
+class Program final {
+  public:
+    struct Parts {
+        platform::MainQueue &mainQueue;
+        platform::WorkerQueue &workerQueue;
+        const Desktop &desktop; // with a clipboard
+        settings::SettingsPaths paths;
+        ProductLinks links;
+    };
+
+    // Makes everything, and reads the settings. All parts must outlive the program.
+    explicit Program(Parts parts);
+    // Saves what is not yet saved.
+    ~Program();
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    // Once, just before the event loop runs: shows what is to be seen, takes the hot keys, and
+    // follows what other processes do with the settings.
+    void start();
+    // Not owned; null for none.
+    void setListener(ProgramListener *listener) { listener_ = listener; }
+
+    // The commands.
+    void clean();
+    // By the operation's index, switched on or not.
+    void runOperation(std::int32_t index);
+    void restore(std::function<void(clipboard::nrChangePasterboard::Restored)> handler);
+    // Returns whether it is on now.
+    bool setAutomatic(AutomaticMode mode);
+    // By name, or by place in decimal digits; UTF-8. False when there is none.
+    bool selectProfile(const std::string &nameOrPlace);
+    // The one at this place in the list, counted from 0.
+    void switchProfile(int place);
+    void showPreferences() { delegate_->showPreferences(); }
+    // The program was started again.
+    void activate();
+    // English, UTF-8. `sessionBus`: others can reach the program over the bus.
+    std::string doctor(bool sessionBus) const;
+    void quit() { delegate_->quitApp(); }
+    // One of these, as the command line of this start asks for it; false when there is no such
+    // profile. What only a running program is asked for does nothing.
+    bool perform(const Request &request);
+
+    bool automatic() const { return delegate_->automatic(); }
+    std::string profileName() const; // of the selected one, UTF-8
+    std::string backend() const;     // of the clipboard, for people; UTF-8
+
+    // For the windows and the menu. The delegate is made last: false until it is there.
+    bool complete() const { return delegate_.has_value(); }
+    nrAppDelegate &delegate() { return *delegate_; }
+    DesktopShell &windows() { return windows_; }
+    settings::nrPreferences &preferences() { return preferences_; }
+    storage::SettingsStore &store() { return store_; }
+    clipboard::nrChangePasterboard &engine() { return engine_; }
+    shortcuts::UserDefaultsHotKeys &hotKeys() { return hotKeys_; }
+    const shortcuts::ShortcutTexts &shortcutTexts() const { return shortcutTexts_; }
+    const Parts &parts() const { return parts_; }
+    // An ICU locale id.
+    const std::string &locale() const { return locale_; }
+    // Tells the listener.
+    void stateChanged();
+
+  private:
+    void connect();
+    void tellDamages();
+    void registerHotKeys();
+    void followOtherProcesses();
+
+    Parts parts_;
+    const std::string locale_;
+    ProgramListener *listener_ = nullptr;
+    storage::FileSettingsStore store_;
+    clipboard::nrChangePasterboard engine_;
+    clipboard::nrPasteboardWatcher watcher_;
+    shortcuts::ShortcutTexts shortcutTexts_;
+    shortcuts::GlobalHotKeys globalHotKeys_;
+    shortcuts::UserDefaultsHotKeys hotKeys_;
+    settings::nrPreferences preferences_;
+    DesktopShell windows_;
+    std::optional<nrAppDelegate> delegate_;
+    std::optional<platform::FolderWatch> storeWatch_;
+    std::optional<platform::FolderWatch> profilesWatch_;
+    storage::SettingsStore::Observation automaticMode_;
+    std::shared_ptr<void> refusals_;
+};
+
+} // namespace nerlo::shell

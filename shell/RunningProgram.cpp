@@ -1,0 +1,138 @@
+#include "shell/RunningProgram.h"
+
+#include "platform/Pasteboard.h"
+#include "shell/BusService.h"
+#include "shell/Terminal.h"
+
+#include <algorithm>
+#include <chrono>
+#include <iostream>
+#include <thread>
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+
+namespace nerlo::shell {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// A program that ends may be busy with its clipboard for so long.
+constexpr auto endsWithin = platform::pasteboardHandOverLimit + 5s;
+
+const auto questionName = QStringLiteral("question");
+
+// The shared connection is for the application that may come after the question.
+class OwnConnection {
+  public:
+    OwnConnection()
+        : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, questionName)) {}
+    ~OwnConnection() { QDBusConnection::disconnectFromBus(questionName); }
+    OwnConnection(const OwnConnection &) = delete;
+    OwnConnection &operator=(const OwnConnection &) = delete;
+
+    bool programRuns() const {
+        return bus.isConnected() && bus.interface()->isServiceRegistered(applicationId);
+    }
+    bool programEnds() const {
+        const auto end = std::chrono::steady_clock::now() + endsWithin;
+        while (programRuns()) {
+            if (std::chrono::steady_clock::now() > end) {
+                return false;
+            }
+            std::this_thread::sleep_for(20ms);
+        }
+        return true;
+    }
+
+    QDBusConnection bus;
+};
+
+// The errors that a program which ends leaves a question with.
+bool fromOneThatEnds(const QDBusMessage &reply) {
+    constexpr QDBusError::ErrorType ends[] = {QDBusError::UnknownObject, QDBusError::ServiceUnknown,
+                                              QDBusError::NoReply};
+    return std::ranges::find(ends, QDBusError(reply).type()) != std::end(ends);
+}
+
+struct Answer {
+    enum class Outcome {
+        done,
+        failed, // the text says why, in English
+        ended,  // the program was about to end, and now has
+    };
+    Outcome outcome = Outcome::failed;
+    QString text; // empty where the request has no answer
+};
+
+Answer ask(const Request &request) {
+    const OwnConnection connection;
+    auto call = QDBusMessage::createMethodCall(applicationId, busObjectPath, applicationId,
+                                               rowOf(request.command).method);
+    if (request.argument.isValid()) {
+        call.setArguments({request.argument});
+    }
+    const auto reply = connection.bus.call(call);
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        // The thread of the connection is still busy with an error when it has handed it out, and
+        // would complain if the process ended meanwhile. What it is asked now comes after that.
+        const bool runs = connection.programRuns();
+        const bool ended = fromOneThatEnds(reply) && (!runs || connection.programEnds());
+        return {ended ? Answer::Outcome::ended : Answer::Outcome::failed, reply.errorMessage()};
+    }
+    const auto value = reply.arguments().value(0);
+    const bool flag = value.typeId() == QMetaType::Bool;
+    return {Answer::Outcome::done,
+            flag ? QString(value.toBool() ? "on" : "off") : value.toString()};
+}
+
+// The exit status for an answer.
+int tell(Command command, const QString &answer) {
+    switch (command) {
+    case Command::restore:
+        if (answer != nameOf(clipboard::nrChangePasterboard::Restored::done)) {
+            return complain("not restored: " + answer.toStdString());
+        }
+        break;
+    case Command::doctor:
+        std::cout << answer.toStdString();
+        break;
+    case Command::automatic:
+        std::cout << answer.toStdString() << '\n';
+        break;
+    default:
+        break;
+    }
+    return succeeded;
+}
+
+} // namespace
+
+bool programRuns() {
+    return OwnConnection().programRuns();
+}
+
+std::optional<int> handOver(CommandLine &commandLine) {
+    auto &requests = commandLine.requests;
+    if (requests.empty()) {
+        requests.push_back({Command::activate});
+    }
+    for (; !requests.empty(); requests.erase(requests.begin())) {
+        const auto command = requests.front().command;
+        const auto answer = ask(requests.front());
+        if (answer.outcome == Answer::Outcome::ended) {
+            return std::nullopt;
+        }
+        if (answer.outcome == Answer::Outcome::failed) {
+            return complain(answer.text.toStdString());
+        }
+        if (const int status = tell(command, answer.text); status != succeeded) {
+            return status;
+        }
+    }
+    return succeeded;
+}
+
+} // namespace nerlo::shell
