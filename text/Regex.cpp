@@ -1,32 +1,19 @@
 #include "text/Regex.h"
 
+#include "text/CountedText.h"
+#include "text/PatternSyntax.h"
 #include "text/Replace.h"
-#include "text/UnitScan.h"
+#include "text/ReplacementTemplate.h"
 
 #include <unicode/uregex.h>
 
 #include <algorithm>
-#include <cctype>
-#include <chrono>
-#include <cstdint>
 #include <limits>
 #include <utility>
-
-#include <time.h>
 
 namespace nerlo::text {
 
 namespace {
-
-using Nanoseconds = std::chrono::nanoseconds;
-
-// By a clock that costs next to nothing to read, because it is read often, and is good to some
-// milliseconds.
-Nanoseconds now() {
-    timespec time{};
-    clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
-    return std::chrono::seconds(time.tv_sec) + Nanoseconds(time.tv_nsec);
-}
 
 constexpr std::size_t longest = std::numeric_limits<std::int32_t>::max();
 
@@ -34,90 +21,136 @@ std::int32_t size32(std::size_t size) {
     return static_cast<std::int32_t>(std::min(size, longest));
 }
 
-// ICU counts 10,000 saved states as one unit of time (0.1 to 0.3 ms), over all finds in one text.
-// A sound pattern uses less than one unit in 6,000 code units.
-std::int32_t stepBudget(std::size_t units) {
-    return size32(1500 + units / 1000);
+// ICU reports every so many steps. A step is a saved state; it takes about ten nanoseconds, with
+// what is done between two of them.
+constexpr std::uint64_t stepsBetweenReports = 10'000;
+
+// Runaway patterns are given up after half a second or so on a short text. Sound ones take up to
+// some ten steps a unit, and more where each place may begin with any of many words.
+std::uint64_t stepsAllowed(std::size_t units, std::size_t patternSize) {
+    return 50'000'000 + std::uint64_t{units} * (128 + patternSize);
 }
 
-// For patterns that scan far from every position but save no states on the way.
-Nanoseconds timeBudget(std::size_t units) {
-    return std::chrono::milliseconds(700) + std::chrono::microseconds(units);
+// A find that does not go on where the last one ended starts ICU's count again, so the steps since
+// the last report are charged as a whole. A jump over so many units can afford that.
+constexpr std::size_t worthJumping = 128;
+
+// A saved state holds every group and loop of the pattern, and copying it is what takes long.
+std::uint64_t weightOfStep(std::u16string_view pattern, std::int32_t groups) {
+    const auto loops = std::ranges::count_if(
+        pattern, [](char16_t unit) { return unit == u'*' || unit == u'+' || unit == u'{'; });
+    return 1 + (2 * static_cast<std::uint64_t>(groups) + static_cast<std::uint64_t>(loops)) / 6;
 }
+
+// Where a text is counted by pieces, a step may look at most of a piece.
+constexpr std::uint64_t weightOfFarStep = 8;
 
 // Bytes for saved states. A greedy group takes about twelve a code unit.
 std::int32_t memoryBudget(std::size_t units) {
     return size32((std::size_t{64} << 20) + 16 * units);
 }
 
-bool isAsciiAlphanumeric(char16_t unit) {
-    return unit < 0x80 && std::isalnum(unit) != 0;
-}
-
-// The units between brackets at `at`, which is moved behind them: single ones and ranges of them.
-std::optional<UnitSet> plainClass(std::u16string_view pattern, std::size_t &at) {
-    UnitSet units;
-    for (++at; at < pattern.size() && isAsciiAlphanumeric(pattern[at]); ++at) {
-        const char16_t first = pattern[at];
-        if (at + 2 < pattern.size() && pattern[at + 1] == u'-') {
-            at += 2;
-        }
-        if (!isAsciiAlphanumeric(pattern[at]) || pattern[at] < first || units.isFull()) {
-            return std::nullopt;
-        }
-        units.add(first, pattern[at]);
-    }
-    return at < pattern.size() && pattern[at++] == u']' ? std::optional(units) : std::nullopt;
-}
-
-// Units of which one begins every match, where that shows at the pattern's own beginning: in most
-// patterns that people write, a character or a class, neither of them optional. ICU tries each
-// position of a text by itself; these are found many at a time.
-std::optional<UnitSet> firstUnits(std::u16string_view pattern) {
-    // "|" may bring another beginning, "\G" asks where the match before ended.
-    if (pattern.find(u'|') != std::u16string_view::npos ||
-        pattern.find(u"\\G") != std::u16string_view::npos) {
-        return std::nullopt;
-    }
-    std::optional<UnitSet> units;
-    std::size_t at = 0;
-    if (pattern.starts_with(u"\\d")) {
-        units.emplace(u"0123456789");
-        units->add(u'\u0080', u'\uFFFF'); // the digits of other scripts are among these
-        at = 2;
-    } else if (pattern.starts_with(u'[')) {
-        units = plainClass(pattern, at);
-    } else if (isAsciiAlphanumeric(pattern.front())) {
-        units.emplace(pattern.substr(0, 1));
-        at = 1;
-    }
-    const bool isOptional =
-        at < pattern.size() && std::u16string_view(u"*?{").find(pattern[at]) != pattern.npos;
-    return isOptional ? std::nullopt : units;
-}
+constexpr UnitSet marks = [] {
+    UnitSet units(u"\u00AD");
+    units.add(u'\u0300', u'\uFFFF'); // and much else
+    return units;
+}();
 
 } // namespace
 
 struct Regex::Matcher {
     URegularExpression *expression = nullptr;
+    std::size_t patternSize = 0;
     std::optional<UnitSet> firstUnits; // of which one begins every match
-    Nanoseconds deadline{};
-    unsigned untilClock = 0;
+    FarLooks farLooks = FarLooks::Never;
+    std::uint64_t weight = 1;
+    StepBudget budget;
+    std::uint64_t charge = 0; // for each report
+    CountedText counted;
 
     Matcher() = default;
     Matcher(const Matcher &) = delete;
     Matcher &operator=(const Matcher &) = delete;
     ~Matcher() { uregex_close(expression); }
 
-    bool inTime() { return ++untilClock % 16 != 0 || now() < deadline; }
-
-    static UBool keepFinding(const void *context, std::int64_t) {
-        return static_cast<Matcher *>(const_cast<void *>(context))->inTime();
+    static UBool goOn(const void *context, std::int32_t) {
+        StepBudget &budget = static_cast<Matcher *>(const_cast<void *>(context))->budget;
+        budget.done += static_cast<const Matcher *>(context)->charge;
+        return !budget.isSpent();
     }
 
-    static UBool keepMatching(const void *context, std::int32_t) {
-        return now() < static_cast<const Matcher *>(context)->deadline;
+    static UBool goOnFinding(const void *context, std::int64_t) {
+        return !static_cast<const Matcher *>(context)->budget.isSpent();
     }
+
+    bool looksFarIn(std::u16string_view text) const {
+        return text.size() > CountedText::pieceSize &&
+               (farLooks == FarLooks::Anywhere ||
+                (farLooks == FarLooks::AcrossMarks && findUnit(text, 0, marks) != text.size()));
+    }
+
+    bool setText(std::u16string_view text);
+};
+
+// One way through a text, match by match.
+class Regex::Walk {
+  public:
+    Walk(Matcher &matcher, std::u16string_view text)
+        : matcher_(matcher)
+        , text_(text)
+        , good_(matcher.setText(text)) {
+        if (good_ && matcher.firstUnits) {
+            cursor_.emplace(text, *matcher.firstUnits);
+        }
+    }
+
+    bool next() {
+        if (!good_) {
+            return false;
+        }
+        const bool found = find();
+        // Once the budget is spent, what was found may be the work of a blank.
+        good_ = U_SUCCESS(status_) && !matcher_.budget.isSpent();
+        if (!good_ || !found) {
+            return false;
+        }
+        end_ = group(0).end;
+        return true;
+    }
+
+    // Of the match; the empty range at 0 for one that has no part in it. Group 0 is the match.
+    Range group(std::int32_t number) {
+        const std::int64_t begin = uregex_start64(matcher_.expression, number, &status_);
+        const std::int64_t end = uregex_end64(matcher_.expression, number, &status_);
+        return begin < 0 ? Range{}
+                         : Range{static_cast<std::size_t>(begin), static_cast<std::size_t>(end)};
+    }
+
+    // False when a budget ran out.
+    bool isGood() const { return good_; }
+
+  private:
+    bool find() {
+        if (cursor_) {
+            const std::size_t at = cursor_->nextFrom(end_);
+            if (at == text_.size()) {
+                return false;
+            }
+            if (at - end_ >= worthJumping) {
+                matcher_.budget.done += stepsBetweenReports;
+                return uregex_find64(matcher_.expression, static_cast<std::int64_t>(at),
+                                     &status_) != 0;
+            }
+        }
+        return uregex_findNext(matcher_.expression, &status_) != 0;
+    }
+
+    Matcher &matcher_;
+    std::u16string_view text_;
+    std::optional<UnitCursor> cursor_;
+    std::size_t end_ = 0; // of the last match
+    UErrorCode status_ = U_ZERO_ERROR;
+    bool good_;
 };
 
 Regex::Regex(std::unique_ptr<Matcher> matcher)
@@ -126,137 +159,115 @@ Regex::Regex(Regex &&) noexcept = default;
 Regex &Regex::operator=(Regex &&) noexcept = default;
 Regex::~Regex() = default;
 
-std::optional<Regex> Regex::compile(std::u16string_view pattern, Case letterCase) {
-    if (pattern.empty() || pattern.size() > longest) {
+std::optional<Regex> Regex::compile(std::u16string_view pattern, Case letterCase,
+                                    PatternPlace *trouble) {
+    if (trouble) {
+        *trouble = {};
+    }
+    if (pattern.empty() || pattern.size() > longest / 2) {
         return std::nullopt;
     }
     auto matcher = std::make_unique<Matcher>();
     UErrorCode status = U_ZERO_ERROR;
     const std::uint32_t flags =
         letterCase == Case::Insensitive ? std::uint32_t{UREGEX_CASE_INSENSITIVE} : 0u;
-    matcher->expression =
-        uregex_open(pattern.data(), size32(pattern.size()), flags, nullptr, &status);
+    const auto open = [&](std::u16string_view source) {
+        UParseError place{};
+        auto *const expression =
+            uregex_open(source.data(), size32(source.size()), flags, &place, &status);
+        if (U_FAILURE(status) && trouble) {
+            *trouble = {std::max(place.line, 1), std::max(place.offset, 1)};
+        }
+        return expression;
+    };
+    const std::u16string sooner = withFewerStarts(pattern);
+    matcher->expression = open(sooner);
+    if (U_FAILURE(status) && sooner != pattern) {
+        status = U_ZERO_ERROR;
+        matcher->expression = open(pattern); // a place in the pattern as it was given
+    }
     if (U_FAILURE(status)) {
         return std::nullopt;
     }
+    matcher->patternSize = pattern.size();
+    matcher->farLooks = farLooks(pattern);
+    matcher->weight = weightOfStep(pattern, uregex_groupCount(matcher->expression, &status));
     if (letterCase == Case::Sensitive) {
         matcher->firstUnits = firstUnits(pattern);
     }
-    uregex_setFindProgressCallback(matcher->expression, Matcher::keepFinding, matcher.get(),
-                                   &status);
-    uregex_setMatchCallback(matcher->expression, Matcher::keepMatching, matcher.get(), &status);
-    return Regex(std::move(matcher));
+    uregex_setMatchCallback(matcher->expression, Matcher::goOn, matcher.get(), &status);
+    return U_SUCCESS(status) ? std::optional(Regex(std::move(matcher))) : std::nullopt;
 }
 
-bool Regex::setText(std::u16string_view text) {
+bool Regex::Matcher::setText(std::u16string_view text) {
     if (text.size() > longest) {
         return false;
     }
     UErrorCode status = U_ZERO_ERROR;
-    uregex_setText(matcher_->expression, text.empty() ? u"" : text.data(), size32(text.size()),
-                   &status);
-    uregex_setTimeLimit(matcher_->expression, stepBudget(text.size()), &status);
-    uregex_setStackLimit(matcher_->expression, memoryBudget(text.size()), &status);
-    matcher_->deadline = now() + timeBudget(text.size());
-    matcher_->untilClock = 0;
+    budget = {0, stepsAllowed(text.size(), patternSize)};
+    charge = weight * stepsBetweenReports;
+    if (looksFarIn(text)) {
+        charge *= weightOfFarStep;
+        UText *const pieces = counted.open(text, budget);
+        if (!pieces) {
+            return false;
+        }
+        uregex_setUText(expression, pieces, &status);
+        uregex_setFindProgressCallback(expression, goOnFinding, this, &status);
+    } else {
+        uregex_setText(expression, text.empty() ? u"" : text.data(), size32(text.size()), &status);
+        uregex_setFindProgressCallback(expression, nullptr, nullptr, &status);
+    }
+    uregex_setStackLimit(expression, memoryBudget(text.size()), &status);
     return U_SUCCESS(status);
 }
 
 std::optional<bool> Regex::occursIn(std::u16string_view text) {
-    if (!setText(text)) {
-        return std::nullopt;
-    }
-    UErrorCode status = U_ZERO_ERROR;
-    const bool found = uregex_find(matcher_->expression, 0, &status) != 0;
-    return U_SUCCESS(status) ? std::optional(found) : std::nullopt;
+    Walk walk(*matcher_, text);
+    const bool found = walk.next();
+    return walk.isGood() ? std::optional(found) : std::nullopt;
 }
 
 std::optional<std::vector<Range>> Regex::findAll(std::u16string_view text) {
-    if (!setText(text)) {
-        return std::nullopt;
-    }
     std::vector<Range> ranges;
-    UErrorCode status = U_ZERO_ERROR;
-    URegularExpression *const expression = matcher_->expression;
-    // ICU watches the time only where it finds nothing.
-    const auto take = [&] {
-        ranges.push_back({static_cast<std::size_t>(uregex_start(expression, 0, &status)),
-                          static_cast<std::size_t>(uregex_end(expression, 0, &status))});
-        return matcher_->inTime();
-    };
-    bool inTime = true;
-    if (matcher_->firstUnits) {
-        UnitCursor cursor(text, *matcher_->firstUnits);
-        for (std::size_t at = cursor.next();
-             inTime && at < text.size() && uregex_find(expression, size32(at), &status);
-             at = cursor.nextFrom(ranges.back().end)) {
-            inTime = take();
-        }
-    } else {
-        while (inTime && uregex_findNext(expression, &status)) {
-            inTime = take();
-        }
+    Walk walk(*matcher_, text);
+    while (walk.next()) {
+        ranges.push_back(walk.group(0));
     }
-    return inTime && U_SUCCESS(status) ? std::optional(std::move(ranges)) : std::nullopt;
+    return walk.isGood() ? std::optional(std::move(ranges)) : std::nullopt;
 }
 
 bool Regex::replaceAll(std::u16string &text, std::u16string_view replacement) {
-    if (replacement.find_first_of(u"$\\") != std::u16string_view::npos) {
-        return expandAll(text, replacement);
+    const auto pieces = parseTemplate(replacement, matcher_->expression);
+    if (pieces.size() == 1) {
+        const auto matches = findAll(text);
+        if (matches) {
+            text = replaceRanges(std::move(text), *matches, pieces.front().text);
+        }
+        return matches.has_value();
     }
-    const auto matches = findAll(text);
-    if (!matches) {
-        return false;
-    }
-    text = replaceRanges(std::move(text), *matches, replacement);
-    return true;
-}
-
-// ICU expands the template; it needs a buffer that is large enough beforehand.
-bool Regex::expandAll(std::u16string &text, std::u16string_view replacement) {
-    if (!setText(text) || replacement.size() > longest) {
-        return false;
-    }
-    URegularExpression *const expression = matcher_->expression;
-    const auto dollars = static_cast<std::size_t>(std::ranges::count(replacement, u'$'));
-    UErrorCode status = U_ZERO_ERROR;
-    const std::int32_t groups = uregex_groupCount(expression, &status);
+    const std::u16string_view source = text;
+    const auto part = [&](const Range &range) {
+        return source.substr(range.begin, range.end - range.begin);
+    };
     std::u16string result;
-    std::u16string piece;
     std::size_t copied = 0;
-    while (uregex_findNext(expression, &status)) {
-        if (!matcher_->inTime()) {
-            return false;
+    Walk walk(*matcher_, text);
+    while (walk.next()) {
+        const Range match = walk.group(0);
+        result.append(part({copied, match.begin}));
+        for (const TemplatePiece &piece : pieces) {
+            result.append(piece.text);
+            if (piece.group != TemplatePiece::noGroup) {
+                result.append(part(walk.group(piece.group)));
+            }
         }
-        const auto begin = static_cast<std::size_t>(uregex_start(expression, 0, &status));
-        std::size_t longestGroup = 0;
-        for (std::int32_t group = 0; group <= groups; ++group) {
-            longestGroup = std::max(
-                longestGroup, static_cast<std::size_t>(uregex_end(expression, group, &status) -
-                                                       uregex_start(expression, group, &status)));
-        }
-        const std::size_t capacity =
-            begin - copied + replacement.size() + dollars * longestGroup + 1;
-        if (capacity > longest) {
-            return false;
-        }
-        piece.resize(capacity);
-        char16_t *to = piece.data();
-        std::int32_t left = size32(capacity);
-        const std::int32_t written = uregex_appendReplacement(
-            expression, replacement.data(), size32(replacement.size()), &to, &left, &status);
-        if (U_FAILURE(status)) {
-            return false;
-        }
-        result.append(piece, 0, static_cast<std::size_t>(written));
-        copied = static_cast<std::size_t>(uregex_end(expression, 0, &status));
+        copied = match.end;
     }
-    if (U_FAILURE(status)) {
-        return false;
+    if (walk.isGood()) {
+        text = result.append(source.substr(copied));
     }
-    result.append(text, copied);
-    text = std::move(result);
-    return true;
+    return walk.isGood();
 }
 
 } // namespace nerlo::text
