@@ -1,6 +1,7 @@
 #include "cli/BatchAnswers.h"
 
 #include "cli/JsonOptions.h"
+#include "cli/PatternFailures.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
 #include "settings/UserLocale.h"
@@ -210,10 +211,15 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     if (optionsJson) {
         ownOptions.setAllBools(optionsFromJson(*optionsJson));
     }
-    const engine::CleaningContext context{optionsJson ? ownOptions : defaults_, localeId};
+    engine::CleaningReport report;
+    const engine::CleaningContext context{
+        .options = optionsJson ? ownOptions : defaults_, .locale = localeId, .report = &report};
     parsed = nullptr; // a long text need not be held twice
     content = operation ? engine::runOperation(operation->index, std::move(content), context)
                         : engine::runPipeline(std::move(content), context);
+    if (!report.empty()) {
+        throw BadRequest(messageOf(report));
+    }
     return "\"text\":" + json(text::utf16ToUtf8(content)).dump();
 }
 

@@ -3,6 +3,7 @@
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
+#include "cli/PatternFailures.h"
 #include "cli/Progress.h"
 #include "engine/Operations.h"
 
@@ -61,14 +62,21 @@ std::string cleanPieces(TextReader &reader, const engine::Operation &operation,
     return clean;
 }
 
-CleanText cleanText(TextReader &reader, const engine::Operation *operation,
-                    const engine::CleaningContext &context) {
+// `name` is what messages call the text.
+CleanText cleanText(const std::string &name, TextReader &reader, const engine::Operation *operation,
+                    engine::CleaningContext context) {
     if (operation && operation->inPieces && operation->inPieces(context.options)) {
         return cleanPieces(reader, *operation, context);
     }
+    engine::CleaningReport report;
+    context.report = &report;
     std::u16string text = reader.readAll();
-    return operation ? operation->run(std::move(text), context)
+    text = operation ? operation->run(std::move(text), context)
                      : engine::runPipeline(std::move(text), context);
+    if (!report.empty()) {
+        throw Failure(ExitStatus::ioFailed, name + ": " + messageOf(report));
+    }
+    return text;
 }
 
 // A file keeps its byte order mark and, if it had one, a line break at its end, which is then of
@@ -89,6 +97,7 @@ ExitStatus runClean(const CleanArguments &arguments) {
         arguments.operation.empty() ? nullptr : operationOf(arguments.operation);
     engine::CleaningOptions options;
     options.setAllBools(chosenOptions(arguments.options));
+    checkPatterns(options, operation);
     const engine::CleaningContext context{options, arguments.locale};
 
     const std::vector<std::string> files =
@@ -99,7 +108,7 @@ ExitStatus runClean(const CleanArguments &arguments) {
     for (const std::string &file : files) {
         try {
             TextReader reader(file, progress);
-            CleanText text = cleanText(reader, operation, context);
+            CleanText text = cleanText(nameOf(file), reader, operation, context);
             progress.addDone(reader.bytes());
             if (arguments.inPlace) {
                 rewrite(file, reader, std::move(text));
@@ -128,8 +137,8 @@ void addClean(CLI::App &app, ExitStatus &status) {
         "Reads the files, or standard input, as UTF-8 and writes the cleaned text to standard\n"
         "output, with no line break added. Several files are cleaned each on its own and written\n"
         "one after another, with a line break between them where one lacks it. Unless every\n"
-        "input could be read, nothing is written. A file that is rewritten keeps a line break\n"
-        "at its end and a byte order mark.\n"
+        "input could be read and every rule be applied, nothing is written. A file that is\n"
+        "rewritten keeps a line break at its end and a byte order mark.\n"
         "\n"
         "--options takes a property list, XML or binary; a key that it lacks is off, 0 or empty.\n"
         "Without it, the profile holds that --profile names or that is selected in the desktop\n"
@@ -144,7 +153,8 @@ void addClean(CLI::App &app, ExitStatus &status) {
         "  nerlo clean --operation change-case --set udChangeCaseOption=3 --in-place *.txt\n"
         "\n"
         "Exit status: 0 done; 1 an input or output failed, with a message that names it, and for\n"
-        "invalid UTF-8 the offset of the first bad byte, counted from 0; 2 unusable arguments.");
+        "invalid UTF-8 the offset of the first bad byte, counted from 0, or a rule of yours was\n"
+        "given up on a text; 2 unusable arguments, or a pattern with an error in it.");
     const auto arguments = std::make_shared<CleanArguments>();
     command
         ->add_option("--operation", arguments->operation,

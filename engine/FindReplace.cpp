@@ -23,44 +23,75 @@ bool startsWithToken(std::u16string_view replacement) {
     return replacement.starts_with(searchToken) || replacement.starts_with(deleteToken);
 }
 
-// Each match followed by the separator. A pattern that does not compile has no matches.
-std::u16string keepMatches(std::u16string text, std::u16string_view pattern,
-                           std::u16string_view separator) {
-    auto regex = Regex::compile(pattern, Regex::Case::Sensitive);
-    if (!regex) {
-        return {};
+// One pattern of the user's. Why it could not be used goes into the report, which may be null.
+class UserPattern {
+  public:
+    UserPattern(std::u16string_view pattern, std::size_t rule, CleaningReport *report)
+        : isEmpty_(pattern.empty())
+        , rule_(rule)
+        , report_(report)
+        , regex_(Regex::compile(pattern, Regex::Case::Sensitive, &place_)) {}
+
+    // Each match followed by the separator, or the text where there is none and it is `tested` for
+    // one. A pattern that does not compile has no matches.
+    std::u16string keepMatches(std::u16string text, std::u16string_view separator, bool tested) {
+        if (!regex_) {
+            // An empty pattern is not typed yet. That is no mistake while it costs nothing.
+            if (!tested || !isEmpty_) {
+                tell(PatternFailure::Why::DoesNotCompile);
+            }
+            return tested ? std::move(text) : std::u16string();
+        }
+        const auto matches = regex_->findAll(text);
+        if (!matches) {
+            tell(PatternFailure::Why::GivenUp);
+        }
+        if (!matches || (tested && matches->empty())) {
+            return text;
+        }
+        return joined(text, *matches, separator);
     }
-    const auto matches = regex->findAll(text);
-    if (!matches) {
+
+    // Each match replaced by the template.
+    std::u16string replaceMatches(std::u16string text, std::u16string_view replacement) {
+        if (!regex_) {
+            if (!isEmpty_) {
+                tell(PatternFailure::Why::DoesNotCompile);
+            }
+        } else if (!regex_->replaceAll(text, replacement)) {
+            tell(PatternFailure::Why::GivenUp);
+        }
         return text;
     }
-    std::size_t size = 0;
-    for (const Range &match : *matches) {
-        size += match.end - match.begin + separator.size();
-    }
-    std::u16string result;
-    result.reserve(size);
-    for (const Range &match : *matches) {
-        result.append(text, match.begin, match.end - match.begin);
-        result.append(separator);
-    }
-    return result;
-}
 
-std::u16string replaceMatches(std::u16string text, std::u16string_view pattern,
-                              std::u16string_view replacement) {
-    if (auto regex = Regex::compile(pattern, Regex::Case::Sensitive)) {
-        regex->replaceAll(text, replacement); // a budget that ran out leaves the text as it is
+  private:
+    void tell(PatternFailure::Why why) {
+        if (report_) {
+            report_->push_back({rule_, why, place_});
+        }
     }
-    return text;
-}
 
-// A pattern that matches the whole of a text, the empty one included, also occurs in it, so that
-// this is the only test.
-bool occurs(std::u16string_view text, std::u16string_view pattern) {
-    auto regex = Regex::compile(pattern, Regex::Case::Sensitive);
-    return regex && regex->occursIn(text).value_or(false);
-}
+    static std::u16string joined(std::u16string_view text, const std::vector<Range> &matches,
+                                 std::u16string_view separator) {
+        std::size_t size = 0;
+        for (const Range &match : matches) {
+            size += match.end - match.begin + separator.size();
+        }
+        std::u16string result;
+        result.reserve(size);
+        for (const Range &match : matches) {
+            result.append(text, match.begin, match.end - match.begin);
+            result.append(separator);
+        }
+        return result;
+    }
+
+    bool isEmpty_;
+    std::size_t rule_;
+    CleaningReport *report_;
+    text::PatternPlace place_;
+    std::optional<Regex> regex_;
+};
 
 struct Rule {
     std::u16string find;
@@ -86,18 +117,27 @@ bool isUntested(std::u16string_view replacement) {
     return replacement.starts_with(u'!') && startsWithToken(replacement.substr(1));
 }
 
-std::u16string applyRule(std::u16string text, const Rule &rule) {
+// A rule whose replacement begins with a token. A pattern that matches the whole of a text, the
+// empty one included, also occurs in it, so that finding no match is the only test.
+std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16string_view replacement,
+                                               UserPattern pattern, bool tested) {
+    if (replacement.starts_with(searchToken)) {
+        const std::u16string_view separator = replacement.substr(searchToken.size());
+        return pattern.keepMatches(std::move(text), separator.empty() ? u"\n" : separator, tested);
+    }
+    return pattern.replaceMatches(std::move(text), replacement.substr(deleteToken.size()));
+}
+
+std::u16string applyRule(std::u16string text, const Rule &rule, std::size_t number,
+                         CleaningReport *report) {
     std::u16string_view replacement = rule.replace;
     const bool untested = isUntested(replacement);
-    if (untested) {
-        replacement.remove_prefix(1);
-    } else if (!startsWithToken(replacement)) {
+    if (!untested && !startsWithToken(replacement)) {
         return replaceString(std::move(text), rule.find, replacement);
     }
-    if (!untested && !occurs(text, rule.find)) {
-        return text;
-    }
-    return insertYourPatternForFindReplace(std::move(text), replacement, rule.find);
+    replacement.remove_prefix(untested ? 1 : 0);
+    return insertYourPatternForFindReplace(std::move(text), replacement,
+                                           {rule.find, number, report}, !untested);
 }
 
 } // namespace
@@ -108,36 +148,25 @@ std::u16string replaceString(std::u16string text, std::u16string_view find,
 }
 
 std::u16string insertYourPattern(std::u16string text, std::u16string_view pattern,
-                                 std::int64_t mode) {
-    if (mode == 1) {
-        return keepMatches(std::move(text), pattern, u"\n");
-    }
-    return replaceMatches(std::move(text), pattern, u"");
+                                 std::int64_t mode, CleaningReport *report) {
+    UserPattern own(pattern, PatternFailure::ownPattern, report);
+    return mode == 1 ? own.keepMatches(std::move(text), u"\n", false)
+                     : own.replaceMatches(std::move(text), u"");
 }
 
-std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options) {
+std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options,
+                                          CleaningReport *report) {
     const auto &list = options.udOnlyOneProfile ? options.udFindAndReplaceItems
                                                 : options.udFindAndReplaceItemsProfile;
     const auto *items = list ? list->as<storage::PropertyArray>() : nullptr;
     if (!items) {
         return text;
     }
-    for (const storage::PropertyValue &item : *items) {
+    for (std::size_t number = 1; const storage::PropertyValue &item : *items) {
         if (const auto rule = activeRule(item)) {
-            text = applyRule(std::move(text), *rule);
+            text = applyRule(std::move(text), *rule, number, report);
         }
-    }
-    return text;
-}
-
-std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16string_view replacement,
-                                               std::u16string_view pattern) {
-    if (replacement.starts_with(searchToken)) {
-        const std::u16string_view separator = replacement.substr(searchToken.size());
-        return keepMatches(std::move(text), pattern, separator.empty() ? u"\n" : separator);
-    }
-    if (replacement.starts_with(deleteToken)) {
-        return replaceMatches(std::move(text), pattern, replacement.substr(deleteToken.size()));
+        ++number;
     }
     return text;
 }

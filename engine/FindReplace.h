@@ -1,12 +1,14 @@
 // The user's own replacements: fixed pairs, patterns and the list of find-and-replace rules.
 //
-// Texts are UTF-16. Every function is pure, may run on any thread and never fails: a pattern that
-// does not compile, or that runs out of its budget, leaves the text as it was, except where a rule
-// keeps only its matches and has no expression to find them with.
+// Texts are UTF-16. Every function may run on any thread and never fails: a pattern that does not
+// compile, or that runs out of its budget, leaves the text as it was, except where a rule keeps
+// only its matches and has no expression to find them with. Either is told in `report`, which may
+// be null.
 #pragma once
 
 #include "engine/CleaningOptions.h"
-#include "text/Regex.h"
+#include "engine/CleaningReport.h"
+#include "text/Range.h"
 
 #include <cstdint>
 #include <span>
@@ -23,14 +25,11 @@ std::u16string replaceString(std::u16string text, std::u16string_view find,
 // Mode 1 keeps only the matches of the pattern, one a line; any other mode removes them. Letter
 // case counts.
 std::u16string insertYourPattern(std::u16string text, std::u16string_view pattern,
-                                 std::int64_t mode);
+                                 std::int64_t mode, CleaningReport *report = nullptr);
 
 // Applies the active list of rules, in order.
-std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options);
-
-// One rule whose replacement begins with "{search}" or "{delete}".
-std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16string_view replacement,
-                                               std::u16string_view pattern);
+std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options,
+                                          CleaningReport *report = nullptr);
 
 // Whether a pattern of the user's can be used; the empty one is none yet, and no mistake.
 bool patternIsUsable(std::u16string_view pattern);

@@ -4,7 +4,7 @@
 // proportion to its text.
 #pragma once
 
-#include "text/Regex.h"
+#include "text/Range.h"
 
 #include <string>
 #include <string_view>

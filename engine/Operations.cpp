@@ -38,11 +38,16 @@ std::u16string replaceSlot(std::u16string text, const Context &context) {
                          options.udChangePropertyToTextField[slot - 1].stringValue());
 }
 
+// The option is a 32-bit number; of a larger one the lower bits count.
+std::int32_t returnsOption(const Options &options) {
+    return static_cast<std::int32_t>(options.udChangeReturnsOption);
+}
+
 std::u16string changeReturns(std::u16string text, const Context &context) {
     const auto &options = context.options;
-    return removeSingleOrMultipleReturns(
-        std::move(text), static_cast<std::int32_t>(options.udChangeReturnsOption),
-        options.udChangeReturnsCustom1.stringValue(), options.udChangeReturnsCustom2.stringValue());
+    return removeSingleOrMultipleReturns(std::move(text), returnsOption(options),
+                                         options.udChangeReturnsCustom1.stringValue(),
+                                         options.udChangeReturnsCustom2.stringValue());
 }
 
 std::u16string changeCase(std::u16string text, const Context &context) {
@@ -86,7 +91,7 @@ std::u16string removeTags(std::u16string text, const Context &context) {
 std::u16string applyPattern(std::u16string text, const Context &context) {
     const auto &options = context.options;
     return insertYourPattern(std::move(text), options.udInsertYourPatternTextField.stringValue(),
-                             options.udInsertYourPatternOption == 1 ? 1 : 0);
+                             options.udInsertYourPatternOption == 1 ? 1 : 0, context.report);
 }
 
 std::u16string changeTabs(std::u16string text, const Context &context) {
@@ -137,7 +142,7 @@ std::u16string suffix(std::u16string text, const Context &context) {
 }
 
 std::u16string findReplaceList(std::u16string text, const Context &context) {
-    return replaceStringInFindReplace(std::move(text), context.options);
+    return replaceStringInFindReplace(std::move(text), context.options, context.report);
 }
 
 bool always(const Options &) {
@@ -145,7 +150,7 @@ bool always(const Options &) {
 }
 
 bool unlessEachLineIsWrapped(const Options &options) {
-    return options.udChangeReturnsOption < 6 || options.udChangeReturnsOption > 9;
+    return returnsOption(options) < 6 || returnsOption(options) > 9;
 }
 
 bool withoutWordsAndSentences(const Options &options) {

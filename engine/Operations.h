@@ -5,6 +5,7 @@
 #pragma once
 
 #include "engine/CleaningOptions.h"
+#include "engine/CleaningReport.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,8 @@ struct CleaningContext {
     // The generation of the operating system: 106, 107, 108 or 109. From 108 on, case mapping
     // follows the locale; before, it is locale-free.
     std::int64_t actualVersion = 109;
+    // Told which patterns could not be used; may be null.
+    CleaningReport *report = nullptr;
 };
 
 struct Operation {

@@ -1,6 +1,8 @@
 #include "engine/FindReplace.h"
 #include "tests/engine/Rows.h"
 
+#include <algorithm>
+
 namespace nerlo::engine {
 namespace {
 
@@ -43,7 +45,9 @@ TEST(FindReplace, AppliesARule) {
         {"a pattern that does not compile is skipped", u"(", u"{delete}x", u"(a", u"(a"},
         {"in search mode too", u"(", u"{search}", u"(a", u"(a"},
         {"but untested it finds nothing", u"(", u"!{search}", u"(a", u""},
-        {"a group that is not there", u"a", u"{delete}$1", u"a", u"a"},
+        {"a \"$\" that names no group is one", u"(?<n>a)(b)?", u"{delete}$ US$5 ${x} ${n $3 $",
+         u"a", u"$ US$5 ${x} ${n $3 $"},
+        {"groups by name and number", u"(?<n>a)(b)?", u"{delete}${n}$10$2$0", u"ab", u"aa0bab"},
         {"an escape in the template", u"a", u"{delete}\\$1\\\\", u"a", u"$1\\"},
         {"the empty text can match", u"x*", u"{search}-", u"", u"-"},
     };
@@ -83,21 +87,61 @@ TEST(CustomPattern, DeletesOrKeepsMatches) {
     EXPECT_EQ(insertYourPattern(u"a\nB", u"^.$", 0), u"a\nB") << "anchors are those of the text";
 }
 
-// A user's pattern may be as bad as it likes: the text comes back as it was.
+// A user's pattern may be as bad as it likes: the text comes back as it was, and that is told.
 TEST(CustomPattern, CannotHangOrCrash) {
     const std::u16string letters = std::u16string(40, u'a') + u'!';
-    EXPECT_EQ(insertYourPattern(letters, u"(a+)+$", 0), letters);
-    EXPECT_EQ(insertYourPattern(letters, u"(a+)+$", 1), letters);
-    EXPECT_EQ(apply({rule(u"(a+)+$", u"{delete}"), rule(u"!", u"?")}, letters),
-              std::u16string(40, u'a') + u'?');
     const std::u16string longer(100'000, u'b');
-    EXPECT_EQ(insertYourPattern(longer, u"(?:.|\n)*x", 0), longer);
-    EXPECT_EQ(insertYourPattern(longer, u"[^x]*+y", 0), longer) << "scans far, saves no states";
     const std::u16string far(200'000, u'a');
-    EXPECT_EQ(insertYourPattern(far, u"a(?=[\\s\\S]*+)", 0), far) << "scans far, and matches";
-    EXPECT_EQ(insertYourPattern(far, u"(?=[\\s\\S]*+)a", 0), far);
-    const std::u16string sound(900'000, u'b');
-    EXPECT_EQ(insertYourPattern(sound, u"(?:b|c)*", 0), u"") << "deep, but sound";
+    const std::u16string marks = std::u16string(200'000, u'\u0301') + u"!!";
+    struct Case {
+        std::u16string_view pattern;
+        std::int64_t mode;
+        const std::u16string &text;
+    };
+    const Case cases[] = {
+        {u"(a+)+$", 0, letters},        {u"(?:.|\n)*x", 1, longer},
+        {u"(?:[^x]*+y)?", 0, longer}, // from here on far looks that save no states
+        {u"a(?=[\\s\\S]*+)", 1, far},   {u"(?:(?=[\\s\\S]*+)a)*", 0, far},
+        {u"(a*)b|(?:(a*)\\2)", 1, far}, {u"(?:.|..)*\\b!x", 0, marks},
+    };
+    for (const Case &row : cases) {
+        CleaningReport report;
+        EXPECT_TRUE(insertYourPattern(row.text, row.pattern, row.mode, &report) == row.text);
+        EXPECT_EQ(report, CleaningReport{PatternFailure{}}) << reference::escaped(row.pattern);
+    }
+}
+
+TEST(CustomPattern, WorksOnLongTextsWhereItIsSound) {
+    std::u16string lines;
+    while (lines.size() < 1'000'000) {
+        lines += u"one line among many others, none of which is long\n";
+    }
+    EXPECT_EQ(insertYourPattern(lines + u"it was quoted here\n", u".*quoted.*", 1),
+              u"it was quoted here\n");
+    std::u16string one = lines;
+    std::ranges::replace(one, u'\n', u' ');
+    EXPECT_EQ(insertYourPattern(one, u".*quoted.*", 1), u"");
+    EXPECT_EQ(insertYourPattern(lines, u"(?s).*quoted", 1), u"");
+    EXPECT_EQ(insertYourPattern(std::u16string(900'000, u'b'), u"(?:b|c)*", 0), u"");
+}
+
+TEST(FindReplace, TellsWhichRulesCouldNotBeUsed) {
+    using Why = PatternFailure::Why;
+    const std::u16string text = std::u16string(40, u'a') + u'!';
+    CleaningReport report;
+    CleaningOptions options;
+    options.udFindAndReplaceItemsProfile = PropertyValue(PropertyArray{
+        rule(u"!", u"?"), rule(u"a\nb(", u"{delete}"), rule(u"(a+)+$", u"{search}"),
+        PropertyDictionary{{"checkbox", false}, {"find", u"("}, {"replace", u"{delete}"}},
+        rule(u"", u"{delete}"), rule(u"", u"{search}"), rule(u"(a+)+$", u"!{delete}x")});
+    EXPECT_EQ(replaceStringInFindReplace(text, options, &report), std::u16string(40, u'a') + u'?');
+    const CleaningReport expected{
+        {2, Why::DoesNotCompile, {2, 2}}, {3, Why::GivenUp, {}}, {7, Why::GivenUp, {}}};
+    EXPECT_EQ(report, expected);
+    insertYourPattern(u"a", u"", 0, &report);
+    EXPECT_EQ(report, expected) << "no pattern yet";
+    insertYourPattern(u"a", u"", 1, &report);
+    EXPECT_EQ(report.back(), (PatternFailure{0, Why::DoesNotCompile, {}})) << "loses the text";
 }
 
 } // namespace

@@ -88,7 +88,7 @@ String wrapped(const String &text, const String &prefix, const String &suffix) {
 String returns(const String &text, const engine::CleaningOptions &options) {
     const String custom1 = options.udChangeReturnsCustom1.stringValue();
     const String replacements[] = {u"", u"\n", u"\n\n", u" ", u"\n ", u"\n\t", u"\n" + custom1};
-    const auto option = options.udChangeReturnsOption;
+    const auto option = static_cast<std::int32_t>(options.udChangeReturnsOption);
     switch (option) {
     case 7:
         return wrapped(text, u"<p>", u"</p>");

@@ -86,7 +86,8 @@ engine::CleaningOptions Random::options() {
         for (std::size_t slot = 1; slot <= (field.perSlot() ? engine::replaceSlots : 1); ++slot) {
             const std::string key = field.keyOf(slot);
             if (key.ends_with("Option") || key.ends_with("Separator")) {
-                dictionary.set(key, static_cast<std::int64_t>(below(13)) - 1);
+                const std::int64_t beyond32Bits = oneIn(20) ? std::int64_t{1} << 32 : 0;
+                dictionary.set(key, beyond32Bits + static_cast<std::int64_t>(below(13)) - 1);
             } else if (key.find("TextField") != std::string::npos ||
                        key.find("Custom") != std::string::npos) {
                 constexpr const char16_t *texts[] = {u"",   u"a",  u" ",      u"\t",  u"ab",
