@@ -94,8 +94,7 @@ TEST(Whitespace, ReplacesRunsOfLineBreaks) {
     expectRows({{"custom text", u"a\n\nb", u"a\n> b"}}, option(6, u"> "));
     expectRows({{"which is a template", u"a\n\nb", u"a\n[\n\n]b"}}, option(6, u"[$0]"));
     expectRows({{"a backslash makes plain", u"a\nb", u"a\n$0b"}}, option(6, u"\\$0"));
-    expectRows({{"a refused template leaves the text", u"a\n\nb", u"a\n\nb"}}, option(6, u"$9"));
-    expectRows({{"a dangling dollar too", u"a\nb", u"a\nb"}}, option(6, u"$"));
+    expectRows({{"a dollar may be just that", u"a\n\nb", u"a\n$9 US$b"}}, option(6, u"$9 US$"));
     expectRows({{"paragraphs, empty ones too", u"a\n\nb", u"<p>a</p>\n<p></p>\n<p>b</p>"},
                 {"and a last empty one", u"a\r\n", u"<p>a</p>\n<p></p>"}},
                option(7));
