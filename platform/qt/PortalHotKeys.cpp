@@ -90,7 +90,9 @@ class PortalHotKeys final : public HotKeyService {
                                   QString::fromStdString(trigger));
             }
             shortcuts.append({idOf(entry.request), properties});
-            entry.status = {HotKeyState::pending, {}};
+            if (entry.status.state != HotKeyState::active) {
+                entry.status = {HotKeyState::pending, {}};
+            }
         }
         session_.bind(shortcuts);
     }
@@ -120,7 +122,10 @@ class PortalHotKeys final : public HotKeyService {
 
     void refuse(const std::string &why) {
         missing_ = session_.available() ? std::string() : why;
-        setStatuses([&](const Entry &) { return HotKeyStatus{HotKeyState::refused, why}; });
+        setStatuses([&](const Entry &entry) {
+            const bool stays = session_.isBound() && entry.status.state == HotKeyState::active;
+            return stays ? entry.status : HotKeyStatus{HotKeyState::refused, why};
+        });
     }
 
     template <class StatusOf>

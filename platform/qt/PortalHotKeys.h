@@ -1,8 +1,10 @@
 // Hot keys by the desktop portal's GlobalShortcuts, for Wayland: the user confirms or changes them
 // in the desktop's own dialog, and the desktop keeps them.
 //
-// A portal session binds its shortcuts once, so each change of ours ends the session and begins
-// another with all of them. Nothing waits: hot keys are "pending" until the portal has answered.
+// A portal session binds its shortcuts once, so each change of ours begins another session with all
+// of them, which takes the place of the present one when the user has agreed. Until then, and if
+// the user declines, what is bound stays so. Nothing waits: hot keys are "pending" until the portal
+// has answered.
 #pragma once
 
 #include "platform/Created.h"

@@ -85,15 +85,17 @@ PortalSession::PortalSession(QDBusConnection bus, QString applicationId)
 }
 
 PortalSession::~PortalSession() {
-    end();
+    abandon();
+    close(session_);
     QDBusConnection::disconnectFromBus(bus_.name());
 }
 
 void PortalSession::bind(QList<PortalShortcut> shortcuts) {
-    end();
+    abandon();
     ++generation_;
     shortcuts_ = std::move(shortcuts);
     if (shortcuts_.isEmpty()) {
+        close(session_);
         return;
     }
     if (introduced_) {
@@ -125,10 +127,10 @@ void PortalSession::createSession() {
             {{QStringLiteral("session_handle_token"), QStringLiteral("nerlo%1").arg(++tokens_)}},
             [this](const QVariantMap &results) {
                 const auto handle = results.value(QStringLiteral("session_handle"));
-                session_ = handle.metaType() == QMetaType::fromType<QDBusObjectPath>()
-                               ? handle.value<QDBusObjectPath>().path()
-                               : handle.toString();
-                if (session_.isEmpty()) {
+                next_ = handle.metaType() == QMetaType::fromType<QDBusObjectPath>()
+                            ? handle.value<QDBusObjectPath>().path()
+                            : handle.toString();
+                if (next_.isEmpty()) {
                     fail(QStringLiteral("the desktop portal gave no session"));
                 } else {
                     bindShortcuts();
@@ -137,17 +139,19 @@ void PortalSession::createSession() {
 }
 
 void PortalSession::bindShortcuts() {
-    request(QStringLiteral("BindShortcuts"),
-            {QVariant::fromValue(QDBusObjectPath(session_)), QVariant::fromValue(shortcuts_),
-             QString()},
-            {}, [this](const QVariantMap &results) {
-                const auto triggers = triggersOf(results.value(QStringLiteral("shortcuts")));
-                if (triggers) {
-                    emit bound(*triggers);
-                } else {
-                    fail(QStringLiteral("the desktop bound no shortcut"));
-                }
-            });
+    request(
+        QStringLiteral("BindShortcuts"),
+        {QVariant::fromValue(QDBusObjectPath(next_)), QVariant::fromValue(shortcuts_), QString()},
+        {}, [this](const QVariantMap &results) {
+            const auto triggers = triggersOf(results.value(QStringLiteral("shortcuts")));
+            if (triggers) {
+                close(session_);
+                session_ = std::exchange(next_, QString());
+                emit bound(*triggers);
+            } else {
+                fail(QStringLiteral("the desktop bound no shortcut"));
+            }
+        });
 }
 
 void PortalSession::request(const QString &method, QVariantList arguments, QVariantMap options,
@@ -206,9 +210,14 @@ void PortalSession::onShortcutsChanged(const QDBusMessage &message) {
 }
 
 void PortalSession::onClosed(const QDBusMessage &message) {
-    if (!session_.isEmpty() && message.path() == session_) {
+    if (!next_.isEmpty() && message.path() == next_) {
+        next_.clear();
+        fail(QStringLiteral("the desktop portal refused it"));
+    } else if (!session_.isEmpty() && message.path() == session_) {
         session_.clear();
-        fail(QStringLiteral("the desktop has ended the shortcuts of this program"));
+        if (awaitedRequest_.isEmpty()) { // else the next one takes its place, or fails
+            fail(QStringLiteral("the desktop has ended the shortcuts of this program"));
+        }
     }
 }
 
@@ -226,15 +235,20 @@ void PortalSession::failCall(const QDBusMessage &error) {
 }
 
 void PortalSession::fail(const QString &why) {
-    end();
+    abandon();
     emit refused(why);
 }
 
-void PortalSession::end() {
+// Whatever is under way comes to nothing.
+void PortalSession::abandon() {
     awaitedRequest_.clear();
     answer_ = nullptr;
-    if (!session_.isEmpty()) {
-        bus_.send(QDBusMessage::createMethodCall(service, std::exchange(session_, QString()),
+    close(next_);
+}
+
+void PortalSession::close(QString &session) {
+    if (!session.isEmpty()) {
+        bus_.send(QDBusMessage::createMethodCall(service, std::exchange(session, QString()),
                                                  sessionInterface, QStringLiteral("Close")));
     }
 }
@@ -244,8 +258,9 @@ void PortalSession::nameOwnerChanged(bool there) {
     introduced_ = false;
     if (there && session_.isEmpty() && awaitedRequest_.isEmpty() && !available_) {
         bind(std::exchange(shortcuts_, {}));
-    } else if (!there && !shortcuts_.isEmpty() && !session_.isEmpty()) {
+    } else if (!there && !shortcuts_.isEmpty() && !(session_.isEmpty() && next_.isEmpty())) {
         session_.clear();
+        next_.clear();
         available_ = false;
         fail(QStringLiteral("the desktop portal has ended"));
     }

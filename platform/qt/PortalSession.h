@@ -1,4 +1,5 @@
-// The conversation with the portal's GlobalShortcuts: one session at a time. For PortalHotKeys.
+// The conversation with the portal's GlobalShortcuts: one session at a time, and while the user is
+// asked for the next one, that beside it. For PortalHotKeys.
 #pragma once
 
 #include <QDBusArgument>
@@ -27,19 +28,23 @@ class PortalSession : public QObject {
     PortalSession(QDBusConnection bus, QString applicationId);
     ~PortalSession() override;
 
-    // Ends the session, and begins another if there are shortcuts. An answer to an earlier call
-    // does not come any more.
+    // Begins another session if there are shortcuts; the present one lasts until that has bound
+    // them, so that it stays if the user declines. An answer to an earlier call does not come any
+    // more.
     void bind(QList<PortalShortcut> shortcuts);
 
     // Whether the desktop is believed to have the portal.
     bool available() const { return available_; }
+    // Whether there is a session that has bound what it was asked to.
+    bool isBound() const { return !session_.isEmpty(); }
 
   signals:
     void activated(const QString &id);
     // What the session has bound, now or since the user changed it, with the keys in the desktop's
     // words.
     void bound(const QMap<QString, QString> &triggers);
-    // No shortcut of the session is bound; one English line says why.
+    // Nothing new is bound; one English line says why. What a session has bound before stays as
+    // long as isBound().
     void refused(const QString &why);
 
   private slots:
@@ -58,13 +63,15 @@ class PortalSession : public QObject {
     void request(const QString &method, QVariantList arguments, QVariantMap options, Answer answer);
     void fail(const QString &why);
     void failCall(const QDBusMessage &error);
-    void end();
+    void abandon();
+    void close(QString &session);
     void nameOwnerChanged(bool there);
 
     QDBusConnection bus_;
     QString applicationId_;
     QList<PortalShortcut> shortcuts_;
     QString session_;        // its object path; empty for none
+    QString next_;           // the one that has not bound anything yet
     QString awaitedRequest_; // the object path whose Response counts
     Answer answer_;
     quint64 generation_ = 0; // of bind(); late answers belong to an earlier one
