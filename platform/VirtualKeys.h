@@ -10,17 +10,25 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string_view>
 
 namespace nerlo::platform {
 
 struct VirtualKey {
     std::uint16_t code;  // macOS virtual key code
     std::uint16_t evdev; // Linux input event code
+    // What a shortcut shows for the key; empty where that is what the layout writes.
+    std::u16string_view text = {};
+    // The name that stands on the key here, in English; empty where the text or the layout says it.
+    std::u16string_view name = {};
+    int functionKey = 0; // 1 for F1 to 20 for F20, else 0
 };
 
 // In the order of the virtual key codes; each code of either kind at most once.
 std::span<const VirtualKey> virtualKeys();
 
+// Null for a code that is not in the table.
+const VirtualKey *findVirtualKey(std::uint64_t code);
 std::optional<std::uint16_t> evdevOfVirtualKey(std::uint64_t code);
 std::optional<std::uint16_t> virtualKeyOfEvdev(std::uint32_t evdev);
 

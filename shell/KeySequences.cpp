@@ -1,46 +1,29 @@
 #include "shell/KeySequences.h"
 
-#include <array>
+#include "platform/VirtualKeys.h"
+
+#include <string_view>
 #include <utility>
 
 namespace nerlo::shell {
 
 namespace {
 
-constexpr char16_t firstFunctionKey = 0xf704; // F1, as menus write it
-constexpr char16_t lastFunctionKey = 0xf716;  // F19
-
-// Glyphs of the keys without a letter.
-constexpr std::array<std::pair<char16_t, Qt::Key>, 17> glyphs{{
-    {u'\u21a9', Qt::Key_Return},
-    {u'\u21e5', Qt::Key_Tab},
-    {u'\u232b', Qt::Key_Backspace},
-    {u'\u238b', Qt::Key_Escape},
-    {u'\u2327', Qt::Key_Clear},
-    {u'\u2305', Qt::Key_Enter},
-    {u'\u2196', Qt::Key_Home},
-    {u'\u21de', Qt::Key_PageUp},
-    {u'\u2326', Qt::Key_Delete},
-    {u'\u2198', Qt::Key_End},
-    {u'\u21df', Qt::Key_PageDown},
-    {u'\u2190', Qt::Key_Left},
-    {u'\u2192', Qt::Key_Right},
-    {u'\u2193', Qt::Key_Down},
-    {u'\u2191', Qt::Key_Up},
-    {u' ', Qt::Key_Space},
-    {u'\u2013', Qt::Key_Minus},
-}};
-
-int keyOf(char16_t unit) {
-    if (unit >= firstFunctionKey && unit <= lastFunctionKey) {
-        return Qt::Key_F1 + (unit - firstFunctionKey);
+// The key that a menu shows: by its name, for the glyphs of shortcuts mean nothing to the toolkit.
+int keyOf(const shortcuts::nrShortcut &shortcut, char16_t equivalent) {
+    const auto *key = platform::findVirtualKey(shortcut.keyCode());
+    std::u16string_view name;
+    if (key) {
+        name = key->name.empty() ? key->text : key->name;
     }
-    for (const auto &[glyph, key] : glyphs) {
-        if (glyph == unit) {
-            return key;
-        }
+    constexpr std::u16string_view keypad = u"Keypad ";
+    if (name.starts_with(keypad)) {
+        name.remove_prefix(keypad.size());
     }
-    return QChar(unit).toUpper().unicode();
+    if (name.empty()) {
+        return QChar(equivalent).toUpper().unicode();
+    }
+    return QKeySequence(QStringView(name).toString(), QKeySequence::PortableText)[0].key();
 }
 
 } // namespace
@@ -51,7 +34,7 @@ QKeySequence keySequence(const shortcuts::nrShortcut &shortcut,
     if (equivalent.size() != 1) {
         return {};
     }
-    int keys = keyOf(equivalent.front());
+    int keys = keyOf(shortcut, equivalent.front());
     // The toolkit's names: its Control is our Command, its Meta our Control.
     const std::pair<std::uint64_t, int> modifiers[] = {
         {shortcuts::commandModifier, Qt::CTRL},

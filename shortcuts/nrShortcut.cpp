@@ -26,58 +26,12 @@ using storage::PropertyValue;
 
 std::atomic<bool> anyWithOption = false;
 
-constexpr std::uint64_t returnKey = 36;
 constexpr std::uint64_t spaceKey = 49;
 constexpr std::uint64_t escapeKey = 53;
 
-// F1 to F20, in that order.
-constexpr std::array<std::uint64_t, 20> functionKeys{
-    122, 120, 99, 118, 96, 97, 98, 100, 101, 109, 103, 111, 105, 107, 113, 106, 64, 79, 80, 90};
 // F20 has neither a text nor a character of its own.
-constexpr std::ptrdiff_t shownFunctionKeys = 19;
+constexpr int shownFunctionKeys = 19;
 constexpr char16_t firstFunctionKeyCharacter = 0xf704;
-
-struct KeyText {
-    std::uint64_t keyCode;
-    std::u16string_view text;
-    std::u16string_view name; // spelled out; empty where the text says it
-};
-
-// Keys whose text does not follow the layout, but for Space and the function keys.
-constexpr std::array keyTexts{
-    KeyText{returnKey, u"\u21a9", u"Return"},
-    KeyText{48, u"\u21e5", u"Tab"},
-    KeyText{51, u"\u232b", u"Backspace"},
-    KeyText{escapeKey, u"\u238b", u"Escape"},
-    KeyText{65, u".", u"Keypad ."},
-    KeyText{67, u"*", u"Keypad *"},
-    KeyText{69, u"+", u"Keypad +"},
-    KeyText{71, u"\u2327", u"Num Lock"},
-    KeyText{75, u"/", u"Keypad /"},
-    KeyText{76, u"\u2305", u"Keypad Enter"},
-    KeyText{78, u"\u2013", u"Keypad -"},
-    KeyText{81, u"=", u"Keypad ="},
-    KeyText{82, u"0", u"Keypad 0"},
-    KeyText{83, u"1", u"Keypad 1"},
-    KeyText{84, u"2", u"Keypad 2"},
-    KeyText{85, u"3", u"Keypad 3"},
-    KeyText{86, u"4", u"Keypad 4"},
-    KeyText{87, u"5", u"Keypad 5"},
-    KeyText{88, u"6", u"Keypad 6"},
-    KeyText{89, u"7", u"Keypad 7"},
-    KeyText{91, u"8", u"Keypad 8"},
-    KeyText{92, u"9", u"Keypad 9"},
-    KeyText{114, u"?", u"Insert"},
-    KeyText{115, u"\u2196", u"Home"},
-    KeyText{116, u"\u21de", u"Page Up"},
-    KeyText{117, u"\u2326", u"Delete"},
-    KeyText{119, u"\u2198", u"End"},
-    KeyText{121, u"\u21df", u"Page Down"},
-    KeyText{123, u"\u2190", u"Left"},
-    KeyText{124, u"\u2192", u"Right"},
-    KeyText{125, u"\u2193", u"Down"},
-    KeyText{126, u"\u2191", u"Up"},
-};
 
 struct Modifier {
     std::uint64_t flag;
@@ -103,20 +57,10 @@ constexpr std::u16string_view takenBySystem =
 constexpr std::u16string_view takenByMenuItem =
     u"The key combination \"%@\" can't be used because it's already used by the menu item \"%@\".";
 
-// The place among the function keys, or none.
-std::optional<std::ptrdiff_t> functionKeyIndex(std::uint64_t keyCode) {
-    const auto *at = std::ranges::find(functionKeys, keyCode);
-    return at == functionKeys.end() ? std::nullopt : std::optional(at - functionKeys.begin());
-}
-
-std::u16string functionKeyName(std::ptrdiff_t index) {
-    const std::ptrdiff_t number = index + 1;
-    std::u16string name = u"F";
-    if (number >= 10) {
-        name += static_cast<char16_t>(u'0' + number / 10);
-    }
-    name += static_cast<char16_t>(u'0' + number % 10);
-    return name;
+// 1 for F1 to 20 for F20, else 0.
+int functionKey(std::uint64_t keyCode) {
+    const auto *key = platform::findVirtualKey(keyCode);
+    return key ? key->functionKey : 0;
 }
 
 std::u16string textByLayout(std::uint64_t keyCode, const platform::KeyboardLayout &layout) {
@@ -230,15 +174,12 @@ std::u16string nrShortcut::keyCodeString(const ShortcutTexts &texts) const {
     if (keyCode_ == absentKey) {
         return {};
     }
-    if (keyCode_ == spaceKey) {
-        return texts.localized(u"Space");
+    const auto *key = platform::findVirtualKey(keyCode_);
+    if (key && !key->text.empty()) {
+        return texts.localized(key->text); // "Space" alone is a word
     }
-    if (const auto *row = std::ranges::find(keyTexts, keyCode_, &KeyText::keyCode);
-        row != keyTexts.end()) {
-        return std::u16string(row->text);
-    }
-    if (const auto index = functionKeyIndex(keyCode_); index && *index < shownFunctionKeys) {
-        return functionKeyName(*index);
+    if (key && key->functionKey != 0) {
+        return {}; // F20
     }
     return textByLayout(keyCode_, texts.layout());
 }
@@ -265,11 +206,8 @@ std::u16string nrShortcut::spelledOutName(const ShortcutTexts &texts) const {
             name += u'+';
         }
     }
-    const auto *row = std::ranges::find(keyTexts, keyCode_, &KeyText::keyCode);
-    if (row != keyTexts.end()) {
-        return name + texts.localized(row->name);
-    }
-    return name + keyCodeString(texts);
+    const auto *key = platform::findVirtualKey(keyCode_);
+    return name + (key && !key->name.empty() ? texts.localized(key->name) : keyCodeString(texts));
 }
 
 std::optional<nrShortcut> nrShortcut::shortcutWithSpelledOutName(std::u16string_view name,
@@ -310,8 +248,9 @@ std::u16string nrShortcut::keyCodeStringForKeyEquivalent(const ShortcutTexts &te
     if (keyCode_ == spaceKey) {
         return u" ";
     }
-    if (const auto index = functionKeyIndex(keyCode_); index && *index < shownFunctionKeys) {
-        return {static_cast<char16_t>(firstFunctionKeyCharacter + *index)};
+    const int number = functionKey(keyCode_);
+    if (number != 0 && number <= shownFunctionKeys) {
+        return {static_cast<char16_t>(firstFunctionKeyCharacter + number - 1)};
     }
     return {};
 }
@@ -331,7 +270,7 @@ std::uint32_t nrShortcut::carbonFlags() const {
 }
 
 bool nrShortcut::isValid() const {
-    if (functionKeyIndex(keyCode_)) {
+    if (functionKey(keyCode_) != 0) {
         return true;
     }
     if ((modifierFlags_ & (controlModifier | commandModifier)) != 0) {

@@ -1,8 +1,10 @@
 #include "shell/PreferencesWindow.h"
 
 #include "engine/Operations.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
 #include "shell/Alerts.h"
 #include "shell/FindReplaceTable.h"
+#include "shell/KeySequences.h"
 #include "shell/Mnemonics.h"
 #include "shell/StatusMenu.h"
 #include "shell/Strings.h"
@@ -420,6 +422,28 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     const auto items = menu.mainMenu();
     EXPECT_EQ(items[1].keyEquivalent, u"q");
     EXPECT_EQ(items[1].modifierMask, 0x100000u);
+}
+
+TEST(StatusMenu, ShowsAShortcutAsTheToolkitNamesIt) {
+    const platform::XkbKeyboardLayout german(platform::xkb::Keymap::fromNames("de"));
+    const shortcuts::ShortcutTexts texts(german);
+    const auto shown = [&](std::uint64_t key, std::uint64_t modifiers) {
+        return keySequence({key, modifiers}, texts).toString(QKeySequence::PortableText);
+    };
+    EXPECT_EQ(shown(9, shortcuts::controlModifier), "Meta+V");
+    EXPECT_EQ(shown(9, shortcuts::allModifiers), "Meta+Ctrl+Alt+Shift+V");
+    const QString keys =
+        "6=Y 33=\u00dc 122=F1 80=F19 49=Space 36=Return 48=Tab 51=Backspace 53=Esc 71=NumLock "
+        "76=Enter 78=- 84=2 65=. 114=Ins 115=Home 116=PgUp 117=Del 119=End 121=PgDown 123=Left "
+        "124=Right 125=Down 126=Up";
+    for (const QString &key : keys.split(' ')) {
+        EXPECT_EQ(shown(key.section('=', 0, 0).toULongLong(), shortcuts::commandModifier),
+                  "Ctrl+" + key.section('=', 1))
+            << key.toStdString();
+    }
+    for (const std::uint64_t none : {90, 27, 56}) { // F20, a sharp s, a modifier
+        EXPECT_EQ(shown(none, shortcuts::commandModifier), "");
+    }
 }
 
 TEST(Tips, PagesTurnAndEnd) {

@@ -1,11 +1,16 @@
 #include "platform/VirtualKeys.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
+#include "text/Utf.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
 #include <set>
 #include <sstream>
 #include <string>
+
+#include <xkbcommon/xkbcommon.h>
 
 namespace nerlo::platform {
 namespace {
@@ -27,36 +32,50 @@ TEST(VirtualKeys, EveryKeyOnceAndBack) {
     EXPECT_EQ(evdevOfVirtualKey(~std::uint64_t{0}), std::nullopt);
 }
 
-// The symbols that xkb's own data gives to each place say that the two columns belong together.
-TEST(VirtualKeys, AgreeWithTheSymbolsOfXkb) {
-    const struct {
-        const char *layout;
-        const char *keys; // codes and their symbols
-    } rows[] = {
-        {"us", "0=a 1=s 2=d 3=f 4=h 5=g 6=z 7=x 8=c 9=v 11=b 12=q 13=w 14=e 15=r 16=y 17=t "
-               "31=o 32=u 34=i 35=p 37=l 38=j 40=k 45=n 46=m 18=1 19=2 20=3 21=4 22=6 23=5 "
-               "25=9 26=7 28=8 29=0 24=equal 27=minus 30=bracketright 33=bracketleft "
-               "39=apostrophe 41=semicolon 42=backslash 43=comma 44=slash 47=period 50=grave "
-               "49=space 65=KP_Delete 67=KP_Multiply 69=KP_Add 71=Num_Lock 75=KP_Divide "
-               "76=KP_Enter 78=KP_Subtract 81=KP_Equal 82=KP_Insert 83=KP_End 84=KP_Down "
-               "85=KP_Next 86=KP_Left 87=KP_Begin 88=KP_Right 89=KP_Home 91=KP_Up "
-               "92=KP_Prior 122=F1 120=F2 99=F3 118=F4 96=F5 97=F6 98=F7 100=F8 101=F9 "
-               "109=F10 103=F11 111=F12 36=Return 48=Tab 51=BackSpace 53=Escape 114=Insert "
-               "115=Home 116=Prior 117=Delete 119=End 121=Next 123=Left 124=Right 125=Down "
-               "126=Up 110=Menu 72=XF86AudioRaiseVolume 73=XF86AudioLowerVolume "
-               "74=XF86AudioMute 54=Control_R 55=Control_L 56=Shift_L 57=Caps_Lock 58=Alt_L "
-               "59=Super_L 60=Shift_R 61=Alt_R 62=Super_R"},
-        {"jp", "93=backslash 94=backslash 95=KP_Decimal 102=Hangul_Hanja 104=Hangul"},
-        {"de", "10=less 50=dead_circumflex 24=dead_acute"},
-    };
-    for (const auto &row : rows) {
-        const XkbKeyboardLayout layout(xkb::Keymap::fromNames(row.layout));
-        std::istringstream keys(row.keys);
-        for (std::string key; keys >> key;) {
-            EXPECT_EQ(layout.symbolOfKey(std::stoull(key)), key.substr(key.find('=') + 1))
-                << row.layout << ' ' << key;
+// xkb's own names of the places on the keyboard say that the columns belong together.
+TEST(VirtualKeys, AgreeWithTheNamesOfXkb) {
+    const std::unique_ptr<xkb_context, void (*)(xkb_context *)> context(
+        xkb_context_new(XKB_CONTEXT_NO_FLAGS), xkb_context_unref);
+    const xkb_rule_names names{"evdev", "pc105", "us", "", ""};
+    const std::unique_ptr<xkb_keymap, void (*)(xkb_keymap *)> keymap(
+        xkb_keymap_new_from_names(context.get(), &names, XKB_KEYMAP_COMPILE_NO_FLAGS),
+        xkb_keymap_unref);
+    ASSERT_TRUE(keymap);
+    // Place, code, text, name; a text that says it all is the end.
+    std::istringstream rows(
+        "AC01:0 AC02:1 AC03:2 AC04:3 AC06:4 AC05:5 AB01:6 AB02:7 AB03:8 AB04:9 LSGT:10 AB05:11 "
+        "AD01:12 AD02:13 AD03:14 AD04:15 AD06:16 AD05:17 AE01:18 AE02:19 AE03:20 AE04:21 AE06:22 "
+        "AE05:23 AE12:24 AE09:25 AE07:26 AE11:27 AE08:28 AE10:29 AD12:30 AD09:31 AD07:32 AD11:33 "
+        "AD08:34 AD10:35 AC09:37 AC07:38 AC11:39 AC08:40 AC10:41 BKSL:42 AB08:43 AB10:44 AB06:45 "
+        "AB07:46 AB09:47 TLDE:50 RCTL:54 LCTL:55 LFSH:56 CAPS:57 LALT:58 LWIN:59 RTSH:60 RALT:61 "
+        "RWIN:62 VOL+:72 VOL-:73 MUTE:74 AE13:93 AB11:94 KPPT:95 HJCV:102 HNGL:104 COMP:110 "
+        "SPCE:49:Space RTRN:36:↩:Return TAB:48:⇥:Tab BKSP:51:⌫:Backspace ESC:53:⎋:Escape "
+        "KPDL:65:.:Keypad_. KPMU:67:*:Keypad_* KPAD:69:+:Keypad_+ NMLK:71:⌧:Num_Lock "
+        "KPDV:75:/:Keypad_/ KPEN:76:⌅:Keypad_Enter KPSU:78:–:Keypad_- KPEQ:81:=:Keypad_= "
+        "KP0:82:0:Keypad_0 KP1:83:1:Keypad_1 KP2:84:2:Keypad_2 KP3:85:3:Keypad_3 "
+        "KP4:86:4:Keypad_4 KP5:87:5:Keypad_5 KP6:88:6:Keypad_6 KP7:89:7:Keypad_7 "
+        "KP8:91:8:Keypad_8 KP9:92:9:Keypad_9 INS:114:?:Insert HOME:115:↖:Home PGUP:116:⇞:Page_Up "
+        "DELE:117:⌦:Delete END:119:↘:End PGDN:121:⇟:Page_Down LEFT:123:←:Left RGHT:124:→:Right "
+        "DOWN:125:↓:Down UP:126:↑:Up FK01:122:F1 FK02:120:F2 FK03:99:F3 FK04:118:F4 FK05:96:F5 "
+        "FK06:97:F6 FK07:98:F7 FK08:100:F8 FK09:101:F9 FK10:109:F10 FK11:103:F11 FK12:111:F12 "
+        "FK13:105:F13 FK14:107:F14 FK15:113:F15 FK16:106:F16 FK17:64:F17 FK18:79:F18 FK19:80:F19 "
+        "FK20:90");
+    std::size_t count = 0;
+    for (std::string row; rows >> row; ++count) {
+        const std::string place = row.substr(0, row.find(':'));
+        const auto code =
+            virtualKeyOfX11Key(xkb_keymap_key_by_name(keymap.get(), place.c_str())).value_or(999);
+        const auto *key = findVirtualKey(code);
+        ASSERT_TRUE(key) << place;
+        std::string found = place + ":" + std::to_string(key->code);
+        for (const auto text : {key->text, key->name}) {
+            found += text.empty() ? "" : ":" + text::utf16ToUtf8(text);
         }
+        std::ranges::replace(found, ' ', '_');
+        EXPECT_EQ(found, row);
+        EXPECT_EQ(key->functionKey, place.starts_with("FK") ? std::stoi(place.substr(2)) : 0);
     }
+    EXPECT_EQ(count + 1, virtualKeys().size()); // xkb has no Fn
 }
 
 TEST(KeyboardLayout, FollowsItsKeymap) {
