@@ -1,7 +1,7 @@
 #include "shell/FindReplaceTable.h"
 
 #include "engine/FindReplace.h"
-#include "shell/OptionRows.h"
+#include "shell/Controls.h"
 #include "shell/Strings.h"
 #include "shortcuts/view/WarningMark.h"
 
@@ -17,13 +17,6 @@
 namespace nerlo::shell {
 
 namespace {
-
-void describe(QWidget &widget, const char *name, const char *nameKey, const char *tipKey) {
-    widget.setObjectName(name);
-    widget.setAccessibleName(localized(nameKey));
-    widget.setAccessibleDescription(localized(tipKey));
-    widget.setToolTip(plainTooltip(localized(tipKey)));
-}
 
 constexpr int replacementRole = Qt::UserRole;
 constexpr auto textBefore = "textBefore"; // property of an editor

@@ -2,6 +2,7 @@
 
 #include "engine/FindReplace.h"
 #include "settings/SettingsKeys.h"
+#include "shell/Controls.h"
 #include "shell/FindReplaceTable.h"
 #include "shell/Strings.h"
 #include "shortcuts/view/WarningMark.h"
@@ -11,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
 #include <QSpinBox>
-#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -39,23 +39,16 @@ constexpr SeparatorField separatorFields[] = {
     {"udRemoveDuplicateLinesSeparator", "udDuplicatesCustomSeparator"},
 };
 
-void describe(QWidget &widget, const std::string &key, const QString &name,
-              const QString &problem = {}) {
+void describeOption(QWidget &widget, const std::string &key, const QString &name,
+                    const QString &problem = {}) {
     QString tip = localized(tooltipKey(key));
     if (!problem.isEmpty()) {
         tip.prepend(problem + '\n');
     }
-    widget.setObjectName(QString::fromStdString(key));
-    widget.setAccessibleName(name);
-    widget.setAccessibleDescription(tip);
-    widget.setToolTip(plainTooltip(tip));
+    describeAs(widget, QString::fromStdString(key), name, tip);
 }
 
 } // namespace
-
-QString plainTooltip(const QString &text) {
-    return Qt::convertFromPlainText(text, Qt::WhiteSpacePre);
-}
 
 QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey,
                       const QString &command) {
@@ -95,7 +88,7 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
     grid->setColumnMinimumWidth(0, indent - grid->horizontalSpacing());
     grid->setColumnStretch(2, 1);
 
-    QCheckBox *box = makeCheckBox(row.key);
+    QCheckBox *box = makeCheckBox(row.key, localized(titleKey(row)));
     QString texts =
         localized(page_.title) + ' ' + box->text() + ' ' + localized(tooltipKey(row.key));
     grid->addWidget(box, 0, 0, 1, 3);
@@ -148,7 +141,7 @@ QWidget *OptionPage::makeControl(const std::string &key, QString &texts) {
     const settings::SettingsKey *row = settings::findKey(key, settings::SettingScope::Profile);
     switch (row ? row->kind : settings::SettingKind::Text) {
     case settings::SettingKind::Switch:
-        return makeCheckBox(key);
+        return makeCheckBox(key, localized(labelKey(key)));
     case settings::SettingKind::Index:
         return makeChoice(key, texts);
     default:
@@ -156,9 +149,9 @@ QWidget *OptionPage::makeControl(const std::string &key, QString &texts) {
     }
 }
 
-QCheckBox *OptionPage::makeCheckBox(const std::string &key) {
-    auto *box = new QCheckBox(localized(labelKey(key)));
-    describe(*box, key, box->text());
+QCheckBox *OptionPage::makeCheckBox(const std::string &key, const QString &title) {
+    auto *box = new QCheckBox(title);
+    describeOption(*box, key, box->text());
     connect(box, &QCheckBox::toggled, this, [this, key](bool on) {
         if (!loading_) {
             preferences_.checkBoxChanged(key, on);
@@ -171,7 +164,7 @@ QCheckBox *OptionPage::makeCheckBox(const std::string &key) {
 
 QComboBox *OptionPage::makeChoice(const std::string &key, QString &texts) {
     auto *choice = new QComboBox;
-    describe(*choice, key, localized(labelKey(key)));
+    describeOption(*choice, key, localized(labelKey(key)));
     const auto &lists = preferences_.optionLists();
     const auto list = std::ranges::find(lists, key, &settings::OptionList::key);
     if (list != lists.end()) {
@@ -195,7 +188,7 @@ QWidget *OptionPage::makeText(const std::string &key) {
         auto *number = new QSpinBox;
         number->setRange(1, longestDelay);
         number->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        describe(*number, key, localized(labelKey(key)));
+        describeOption(*number, key, localized(labelKey(key)));
         connect(number, &QSpinBox::valueChanged, this, [this](int seconds) {
             if (!loading_) {
                 preferences_.sUpdateStatisticksValue(QString::number(seconds).toStdU16String());
@@ -205,7 +198,7 @@ QWidget *OptionPage::makeText(const std::string &key) {
         return number;
     }
     auto *field = new QLineEdit;
-    describe(*field, key, localized(labelKey(key)));
+    describeOption(*field, key, localized(labelKey(key)));
     if (key == patternKey) {
         auto *mark = field->addAction(shortcuts::warningIcon(), QLineEdit::TrailingPosition);
         mark->setText(localized("sPatternUnusable"));
@@ -214,7 +207,8 @@ QWidget *OptionPage::makeText(const std::string &key) {
             const bool usable = engine::patternIsUsable(text.toStdU16String());
             if (mark->isVisible() == usable) {
                 mark->setVisible(!usable);
-                describe(*field, key, field->accessibleName(), usable ? QString() : mark->text());
+                describeOption(*field, key, field->accessibleName(),
+                               usable ? QString() : mark->text());
             }
         });
     }

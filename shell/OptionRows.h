@@ -27,9 +27,6 @@ namespace nerlo::shell {
 // Makes the control that records the shortcut of a settings key; null where there is none.
 using RecorderMaker = std::function<QWidget *(const std::string &hotKey)>;
 
-// A plain text as a tooltip, whatever is in it; line breaks and runs of spaces are kept.
-QString plainTooltip(const QString &text);
-
 // A recorder with its name, for the row of a command.
 QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey, const QString &command);
 
@@ -63,7 +60,7 @@ class OptionPage final : public QWidget {
 
     void addRow(const OptionRow &row, const RecorderMaker &makeRecorder);
     QWidget *makeControl(const std::string &key, QString &texts);
-    QCheckBox *makeCheckBox(const std::string &key);
+    QCheckBox *makeCheckBox(const std::string &key, const QString &title);
     QComboBox *makeChoice(const std::string &key, QString &texts);
     QWidget *makeText(const std::string &key);
     void addRules(QString &texts);

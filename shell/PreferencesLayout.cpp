@@ -102,6 +102,10 @@ const std::vector<PreferencesPage> &preferencesPages() {
     return pages;
 }
 
+std::string titleKey(const OptionRow &row) {
+    return row.hotKey.empty() ? labelKey(row.key) : row.hotKey;
+}
+
 std::string labelKey(std::string_view settingsKey) {
     std::string key = stringKey(settingsKey);
     // The ten check boxes are numbered; the fields beside them need not be.

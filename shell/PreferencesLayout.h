@@ -28,6 +28,9 @@ struct PreferencesPage {
 // among them.
 const std::vector<PreferencesPage> &preferencesPages();
 
+// The key of a check box's title: for an operation the one that its shortcut has.
+std::string titleKey(const OptionRow &row);
+
 // The keys of an option's texts in the standard string table. Options that come in tens share their
 // tooltips, and the names of their text fields.
 std::string labelKey(std::string_view settingsKey);

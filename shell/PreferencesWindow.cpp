@@ -2,6 +2,7 @@
 
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
+#include "shell/Controls.h"
 #include "shell/Mnemonics.h"
 #include "shell/Program.h"
 #include "shell/ScreenRoom.h"
@@ -38,13 +39,14 @@ struct GeneralBox {
     const char *tipKey;
     bool (nrAppDelegate::*checked)() const;
     void (*change)(nrAppDelegate &delegate, bool on);
-    bool aboutCleaning; // else about the window
+    bool aboutCleaning; // then the menu has it too, under the same title; else about the window
 };
 using Delegate = nrAppDelegate;
 constexpr GeneralBox generalBoxes[] = {
-    {"automatic", "sAutomatic", "sAutomaticTip", &Delegate::automatic,
+    {"automatic", "Automatically clear formatting", "sAutomaticTip", &Delegate::automatic,
      [](Delegate &delegate, bool) { delegate.automaticallyClearFormatting(); }, true},
-    {"excelException", "sExceptSpreadsheet", "sExceptSpreadsheetTip", &Delegate::excelException,
+    {"excelException", "Except copies from Excel", "sExceptSpreadsheetTip",
+     &Delegate::excelException,
      [](Delegate &delegate, bool) { delegate.disableAutomaticallyClearFormatting(); }, true},
     {"showInMenuBar", "sShowInMenuBar", "sShowInMenuBarTip", &Delegate::showInMenuBarChecked,
      [](Delegate &delegate, bool on) { delegate.setShowInMenuBar(on); }, false},
@@ -59,12 +61,9 @@ constexpr GeneralBox generalBoxes[] = {
 };
 constexpr std::size_t showInMenuBarBox = 2; // dimmed while the program runs in the background
 
-QCheckBox *makeBox(const char *name, const char *titleKey, const char *tipKey) {
-    auto *box = new QCheckBox(localized(titleKey));
-    box->setObjectName(name);
-    box->setAccessibleName(box->text());
-    box->setAccessibleDescription(localized(tipKey));
-    box->setToolTip(plainTooltip(localized(tipKey)));
+QCheckBox *makeBox(const char *name, const QString &title, const char *tipKey) {
+    auto *box = new QCheckBox(title);
+    describeAs(*box, name, title, localized(tipKey));
     return box;
 }
 
@@ -230,10 +229,8 @@ QWidget *PreferencesWindow::makeTop() {
     auto *layout = new QHBoxLayout(top);
     layout->setContentsMargins(0, 0, 0, 0);
     search_ = new QLineEdit;
-    search_->setObjectName("search");
+    describe(*search_, "search", "sSearch", "sSearchTip");
     search_->setPlaceholderText(localized("sSearch"));
-    search_->setAccessibleName(localized("sSearch"));
-    search_->setToolTip(plainTooltip(localized("sSearchTip")));
     search_->setClearButtonEnabled(true);
     search_->findChild<QToolButton *>()->setAccessibleName(localized(Table::menu, "Delete"));
     connect(search_, &QLineEdit::textChanged, this, &PreferencesWindow::search);
@@ -242,18 +239,14 @@ QWidget *PreferencesWindow::makeTop() {
 
     auto *label = new QLabel(localized("sProfile"));
     profilesPopupButton_ = new QComboBox;
-    profilesPopupButton_->setObjectName("profilesPopupButton");
-    profilesPopupButton_->setAccessibleName(label->text());
-    profilesPopupButton_->setToolTip(plainTooltip(localized("sProfileTip")));
+    describe(*profilesPopupButton_, "profilesPopupButton", "sProfile", "sProfileTip");
     profilesPopupButton_->setMinimumContentsLength(14);
     label->setBuddy(profilesPopupButton_);
     connect(profilesPopupButton_, &QComboBox::activated, this,
             [this](int index) { preferences_.profilesSwitch(index); });
     const auto makeButton = [](const char *name, const char *titleKey, const char *tipKey) {
         auto *button = new QPushButton(localized(titleKey));
-        button->setObjectName(name);
-        button->setAccessibleName(button->text());
-        button->setToolTip(plainTooltip(localized(tipKey)));
+        describe(*button, name, titleKey, tipKey);
         return button;
     };
     addProfile_ = makeButton("addProfile", "sProfileAdd", "sProfileAddTip");
@@ -295,7 +288,8 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     cleaning->addWidget(generalProblem_);
     QVBoxLayout *window = addGroup("sGroupWindow");
     for (const GeneralBox &row : generalBoxes) {
-        auto *box = makeBox(row.name, row.titleKey, row.tipKey);
+        const Table table = row.aboutCleaning ? Table::menu : Table::standard;
+        auto *box = makeBox(row.name, localized(table, row.titleKey), row.tipKey);
         (row.aboutCleaning ? cleaning : window)->addWidget(box);
         general_.push_back(box);
         connect(box, &QCheckBox::toggled, this, [this, change = row.change](bool on) {

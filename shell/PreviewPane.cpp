@@ -2,7 +2,7 @@
 
 #include "engine/CleaningOptions.h"
 #include "engine/Operations.h"
-#include "shell/OptionRows.h"
+#include "shell/Controls.h"
 #include "shell/Program.h"
 #include "shell/Strings.h"
 
@@ -41,10 +41,7 @@ QString textOf(const QPlainTextEdit &edit) {
 
 QPlainTextEdit *makeEditor(const char *name, const char *titleKey, const char *tipKey) {
     auto *edit = new QPlainTextEdit;
-    edit->setObjectName(name);
-    edit->setAccessibleName(localized(titleKey));
-    edit->setAccessibleDescription(localized(tipKey));
-    edit->setToolTip(plainTooltip(localized(tipKey)));
+    describe(*edit, name, titleKey, tipKey);
     edit->setTabChangesFocus(true);
     QTextOption option = edit->document()->defaultTextOption();
     option.setAlignment(QStyle::visualAlignment(edit->layoutDirection(), Qt::AlignLeft));
@@ -93,14 +90,8 @@ PreviewPane::PreviewPane(Program &program)
     note_->setObjectName("previewNote");
     note_->setWordWrap(true);
     note_->hide();
-    const auto describe = [](QPushButton &button, const char *name, const char *tipKey) {
-        button.setObjectName(name);
-        button.setAccessibleName(button.text());
-        button.setToolTip(plainTooltip(localized(tipKey)));
-        button.setAccessibleDescription(localized(tipKey));
-    };
-    describe(*take_, "previewTake", "sPreviewTakeTip");
-    describe(*apply_, "previewApply", "sPreviewApplyTip");
+    describe(*take_, "previewTake", "sPreviewTake", "sPreviewTakeTip");
+    describe(*apply_, "previewApply", "sPreviewApply", "sPreviewApplyTip");
 
     halves_->setContentsMargins(0, 0, 0, 0);
     const auto addHalf = [this](const char *key, QWidget *text) {

@@ -1,7 +1,7 @@
 #include "shell/TipsWindow.h"
 
+#include "shell/Controls.h"
 #include "shell/Mnemonics.h"
-#include "shell/OptionRows.h"
 #include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 

@@ -5,21 +5,14 @@
 // given, from any thread. Nothing here throws except std::bad_alloc.
 #pragma once
 
+#include "storage/PropertyListLimits.h"
 #include "storage/PropertyValue.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace nerlo::storage {
-
-struct PropertyListLimits {
-    static constexpr std::size_t bytes = std::size_t{64}
-                                         << 20;      // of a file, and of its texts and data
-    static constexpr std::size_t values = 1'000'000; // shared ones counted at every use
-    static constexpr int depth = 128;                // containers within containers
-};
 
 struct ParsedPropertyList {
     std::optional<PropertyValue> value;

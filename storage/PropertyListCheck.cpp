@@ -1,6 +1,6 @@
 #include "storage/PropertyListCheck.h"
 
-#include "storage/PropertyList.h"
+#include "storage/PropertyListLimits.h"
 #include "text/Utf.h"
 
 #include <algorithm>

@@ -198,17 +198,9 @@
 بعد: تبقى هذه النافذة فوقها.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>محو التنسيق تلقائيًا</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>قبل: أنت من يقرر متى تُنظَّف الحافظة.
 بعد: كل ما تنسخه يُنظَّف تلقائيًا.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>ما عدا النسخ من Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>قبل: a⇥b⇥c
 بعد: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>المسافات والجدولة وفواصل الأسطر إلى مسافة واحدة</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@ Nachher: Keines von beiden. Ein erneuter Start von Nerlo Pro öffnet dieses Fens
 Nachher: Dieses Fenster bleibt über ihnen.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Formatierung automatisch entfernen</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Vorher: Sie bestimmen, wann die Zwischenablage bereinigt wird.
 Nachher: Jede Kopie wird von selbst bereinigt.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Außer bei Kopien aus Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Nachher: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Vorher: a⇥b⇥c
 Nachher: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Leerzeichen, Tabs und Umbrüche zu einem Leerzeichen</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

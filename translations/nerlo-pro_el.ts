@@ -198,17 +198,9 @@
 Μετά: αυτό το παράθυρο μένει πάνω από τα άλλα.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Αυτόματη εκκαθάριση μορφοποίησης</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Πριν: εσείς επιλέγετε πότε καθαρίζεται το πρόχειρο.
 Μετά: κάθε αντίγραφο καθαρίζεται μόνο του.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Εκτός από αντίγραφα του Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>Πριν: a⇥b⇥c
 Μετά: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Κενά, στηλοθέτες και αλλαγές γραμμής σε ένα κενό</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

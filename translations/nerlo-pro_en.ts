@@ -198,17 +198,9 @@ After: neither. Starting Nerlo Pro again opens this window.</translation>
 After: this window stays above them.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Automatically clear formatting</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Before: you choose when the clipboard is cleaned.
 After: every copy is cleaned by itself.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Except copies from Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ After: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Before: a⇥b⇥c
 After: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>All spaces, tabs and line breaks to one space</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@ Después: ninguno de los dos. Iniciar Nerlo Pro otra vez abre esta ventana.</tra
 Después: esta ventana queda por encima de ellas.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Quitar el formato automáticamente</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Antes: usted decide cuándo se limpia el portapapeles.
 Después: cada copia se limpia sola.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Excepto las copias de Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Después: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Antes: a⇥b⇥c
 Después: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Espacios, tabuladores y saltos de línea en un espacio</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

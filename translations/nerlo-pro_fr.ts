@@ -198,17 +198,9 @@ Après : ni l’une ni l’autre. Relancer Nerlo Pro ouvre cette fenêtre.</tra
 Après : cette fenêtre reste au-dessus des autres.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Effacer la mise en forme automatiquement</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Avant : vous choisissez quand nettoyer le presse-papiers.
 Après : chaque copie est nettoyée toute seule.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Sauf les copies depuis Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Après : abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Avant : a⇥b⇥c
 Après : abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Espaces, tabulations et sauts de ligne en une espace</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

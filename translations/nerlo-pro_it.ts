@@ -198,17 +198,9 @@ Dopo: né l’una né l’altra. Riavviando Nerlo Pro si apre questa finestra.</
 Dopo: questa finestra resta sopra le altre.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Rimuovi automaticamente la formattazione</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Prima: si sceglie quando ripulire gli appunti.
 Dopo: ogni copia viene ripulita da sola.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Tranne le copie da Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Dopo: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Prima: a⇥b⇥c
 Dopo: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Spazi, tabulazioni e a capo in uno spazio</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@
 後：このウィンドウは常に手前にあります。</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>書式を自動的に消去</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>前：クリップボードの整形は自分で実行します。
 後：コピーするたびに自動で整形されます。</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Excel からのコピーを除く</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>前：a⇥b⇥c
 後：abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>空白・タブ・改行を空白 1 つに</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@ Po: ani jedno, ani drugie. Ponowne uruchomienie Nerlo Pro otwiera to okno.</tran
 Po: to okno pozostaje nad nimi.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Automatycznie usuwaj formatowanie</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Przed: decydujesz, kiedy oczyścić schowek.
 Po: każda kopia jest czyszczona sama.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Z wyjątkiem kopii z Excela</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Po: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Przed: a⇥b⇥c
 Po: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Spacje, tabulatory i końce wiersza w jedną spację</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@ Depois: nenhum dos dois. Iniciar o Nerlo Pro de novo abre esta janela.</translat
 Depois: esta janela fica acima delas.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Limpar a formatação automaticamente</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Antes: você decide quando limpar a área de transferência.
 Depois: cada cópia é limpa sozinha.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Exceto cópias do Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Depois: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Antes: a⇥b⇥c
 Depois: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Espaços, tabulações e quebras de linha em um espaço</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

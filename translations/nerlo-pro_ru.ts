@@ -198,17 +198,9 @@
 После: это окно остаётся поверх них.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Автоматически очищать форматирование</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>До: вы сами решаете, когда очищать буфер обмена.
 После: всё скопированное очищается само.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Кроме копий из Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>До: a⇥b⇥c
 После: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Пробелы, табуляции и переводы строки в один пробел</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@ Efter: ingetdera. Startas Nerlo Pro igen öppnas det här fönstret.</translatio
 Efter: det här fönstret ligger ovanför dem.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Rensa formatering automatiskt</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>Före: du väljer när urklipp ska rensas.
 Efter: varje kopia rensas av sig själv.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Utom kopior från Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@ Efter: abc</translation>
         <source>sRemoveAllTabsTip</source>
         <translation>Före: a⇥b⇥c
 Efter: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Blanksteg, tabbar och radbrytningar till ett blanksteg</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

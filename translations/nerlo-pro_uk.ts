@@ -198,17 +198,9 @@
 Після: це вікно лишається поверх них.</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>Автоматично очищати форматування</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>До: ви самі вирішуєте, коли очищати буфер обміну.
 Після: усе скопійоване очищається саме.</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>Крім копій з Excel</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>До: a⇥b⇥c
 Після: abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>Пробіли, табуляції й розриви рядка в один пробіл</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

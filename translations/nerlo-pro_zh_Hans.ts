@@ -198,17 +198,9 @@
 之后：此窗口始终在其他窗口之上。</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>自动清除格式</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>之前：由您决定何时清理剪贴板。
 之后：每次复制都会自动清理。</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>从 Excel 复制的除外</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>之前：a⇥b⇥c
 之后：abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>空格、制表符和换行合为一个空格</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

@@ -198,17 +198,9 @@
 之後：此視窗一直在其他視窗之上。</translation>
     </message>
     <message>
-        <source>sAutomatic</source>
-        <translation>自動清除格式</translation>
-    </message>
-    <message>
         <source>sAutomaticTip</source>
         <translation>之前：由您決定何時清理剪貼簿。
 之後：每次複製都會自動清理。</translation>
-    </message>
-    <message>
-        <source>sExceptSpreadsheet</source>
-        <translation>從 Excel 複製的除外</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -430,10 +422,6 @@
         <source>sRemoveAllTabsTip</source>
         <translation>之前：a⇥b⇥c
 之後：abc</translation>
-    </message>
-    <message>
-        <source>sRemoveSpacesTabsAndNewLines</source>
-        <translation>空格、定位字元和換行合為一個空格</translation>
     </message>
     <message>
         <source>sRemoveSpacesTabsAndNewLinesTip</source>

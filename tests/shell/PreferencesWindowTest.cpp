@@ -346,7 +346,7 @@ TEST(Strings, EveryOptionAndOperationHasItsTexts) {
     for (const PreferencesPage &page : preferencesPages()) {
         expectText(page.title);
         for (const OptionRow &row : page.rows) {
-            expectText(labelKey(row.key));
+            expectText(titleKey(row));
             expectText(tooltipKey(row.key));
             for (const std::string &key : row.dependents) {
                 expectText(labelKey(key));

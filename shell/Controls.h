@@ -1,0 +1,22 @@
+// What every control has besides its title: a name for tests and style sheets, and what a screen
+// reader and a tooltip say. Main thread only.
+#pragma once
+
+#include <QString>
+#include <string_view>
+
+class QWidget;
+
+namespace nerlo::shell {
+
+// A plain text as a tooltip, whatever is in it; line breaks and runs of spaces are kept.
+QString plainTooltip(const QString &text);
+
+// `name` is what a screen reader calls the widget; `tip` is its description and its tooltip.
+void describeAs(QWidget &widget, const QString &objectName, const QString &name,
+                const QString &tip);
+// The same by the keys of the texts.
+void describe(QWidget &widget, const char *objectName, std::string_view nameKey,
+              std::string_view tipKey);
+
+} // namespace nerlo::shell
