@@ -57,6 +57,17 @@ bool isShown(char32_t character) {
             (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK | U_GC_P_MASK | U_GC_S_MASK)) != 0;
 }
 
+std::size_t columnsOf(char32_t character) {
+    if (character < 0x300) {
+        return 1;
+    }
+    if (extends(character)) {
+        return 0;
+    }
+    const int width = u_getIntPropertyValue(code(character), UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
 bool isLineEnd(char16_t unit) {
     return (unit >= u'\n' && unit <= u'\r') || unit == u'\u0085' || unit == u'\u2028' ||
            unit == u'\u2029';

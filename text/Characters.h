@@ -17,7 +17,10 @@ bool isWhiteSpace(char32_t character);    // "\s"
 bool isWordCharacter(char32_t character); // "\w"
 bool isPunctuation(char32_t character);   // "[:PUNCT:]"
 bool isShown(char32_t character);         // a letter, mark, number, punctuation mark or symbol
-bool isLineEnd(char16_t unit);            // what "." does not match
+// How many columns of a terminal it takes: 0, 1 or 2. As Unicode's East Asian widths say; what is
+// ambiguous there takes one.
+std::size_t columnsOf(char32_t character);
+bool isLineEnd(char16_t unit); // what "." does not match
 
 // "\b": combining and format characters belong to the character before them.
 bool isWordBoundary(std::u16string_view text, std::size_t at);

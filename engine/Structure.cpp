@@ -1,0 +1,552 @@
+#include "engine/Structure.h"
+
+#include "text/Ascii.h"
+#include "text/UnitScan.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace nerlo::engine {
+
+namespace {
+
+using View = std::u16string_view;
+using Lines = std::span<StructuredLine>;
+
+constexpr text::UnitSet breaks(u"\r\n");
+
+bool isDigit(char16_t unit) {
+    return unit >= u'0' && unit <= u'9';
+}
+
+bool isLetter(char16_t unit) {
+    return static_cast<char16_t>((unit | 0x20) - u'a') < 26;
+}
+
+bool isBlank(char16_t unit) {
+    return unit == u' ' || unit == u'\t' || unit == u'\u00A0';
+}
+
+std::size_t firstInk(View line, std::size_t from = 0) {
+    while (from < line.size() && isBlank(line[from])) {
+        ++from;
+    }
+    return from;
+}
+
+View trimmed(View line) {
+    line.remove_prefix(firstInk(line));
+    while (!line.empty() && isBlank(line.back())) {
+        line.remove_suffix(1);
+    }
+    return line;
+}
+
+// Columns in front of `at`; a tab goes to the next multiple of four.
+std::size_t columnOf(View line, std::size_t at) {
+    std::size_t column = 0;
+    for (const char16_t unit : line.substr(0, at)) {
+        column = unit == u'\t' ? column / 4 * 4 + 4 : column + 1;
+    }
+    return column;
+}
+
+std::size_t runOf(View text, char16_t unit) {
+    return std::min(text.find_first_not_of(unit), text.size());
+}
+
+std::vector<StructuredLine> splitLines(View text) {
+    std::vector<StructuredLine> lines;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = text::findUnit(text, begin, breaks);
+        const bool pair = text.substr(end).starts_with(u"\r\n");
+        const std::size_t next = std::min(text.size(), end + (pair ? 2 : 1));
+        lines.push_back({begin, end, next, LineKind::blank, end});
+        begin = next;
+    }
+    return lines;
+}
+
+// A line of three or more of one sign, blanks between them allowed: "---", "* * *".
+bool isRule(View words) {
+    if (words.empty() || View(u"-*_=~#+\u2500\u2501\u2550\u2014").find(words[0]) == View::npos) {
+        return false;
+    }
+    std::size_t signs = 0;
+    for (const char16_t unit : words) {
+        if (unit == words[0]) {
+            ++signs;
+        } else if (!isBlank(unit)) {
+            return false;
+        }
+    }
+    return signs >= 3;
+}
+
+bool isHeading(View words) {
+    const std::size_t marks = runOf(words, u'#');
+    return marks >= 1 && marks <= 6 && (marks == words.size() || isBlank(words[marks]));
+}
+
+// The size of a list mark with the blanks behind it, or 0: "- ", "12. ", "(a) ", "[x] ", "• ".
+std::size_t listMark(View words) {
+    std::size_t size = 0;
+    if (!words.empty() && View(u"-*+\u2022\u2023\u25E6\u2043\u2219\u00B7\u25AA\u25CF\u25CB\u25A0"
+                               u"\u25B8\u25BA\u2013\u2014\u23FA")
+                                  .find(words[0]) != View::npos) {
+        size = 1;
+    } else {
+        const std::size_t open = words.starts_with(u'(') ? 1 : 0;
+        std::size_t at = open;
+        while (at < words.size() && at < open + 9 && isDigit(words[at])) {
+            ++at;
+        }
+        if (at == open && at < words.size() && isLetter(words[at])) {
+            ++at;
+        }
+        const bool closed = at > open && at < words.size() &&
+                            (words[at] == u')' || (words[at] == u'.' && open == 0));
+        size = closed ? at + 1 : 0;
+    }
+    // Alone on its line, a letter with a dot is the end of a sentence rather than an empty item.
+    const bool alone = size == words.size();
+    if (size == 0 || (alone ? isLetter(words[0]) : !isBlank(words[size]))) {
+        return 0;
+    }
+    return firstInk(words, size);
+}
+
+// "$ make", "user@host:~/dir$ ls", ">>> x", "PS C:\> dir".
+bool isPrompt(View words) {
+    for (const View sign : {View(u"$ "), View(u"% "), View(u">>> "), View(u"... "),
+                            View(u"\u276F "), View(u"\u279C "), View(u"PS ")}) {
+        if (words.starts_with(sign)) {
+            return sign != u"PS " || words.find(u"> ") != View::npos;
+        }
+    }
+    const std::size_t sign = words.find_first_of(u"$#%");
+    if (sign == View::npos || sign < 3 || (sign + 1 < words.size() && words[sign + 1] != u' ')) {
+        return false;
+    }
+    const View host = words.substr(0, sign);
+    return host.find(u'@') != View::npos && host.find(u' ') == View::npos;
+}
+
+constexpr std::array<View, 34> blockTags{
+    u"address", u"article", u"aside", u"blockquote", u"body",   u"center", u"details",
+    u"dialog",  u"div",     u"dl",    u"fieldset",   u"figure", u"footer", u"form",
+    u"h1",      u"h2",      u"h3",    u"head",       u"header", u"hr",     u"html",
+    u"iframe",  u"li",      u"link",  u"main",       u"nav",    u"ol",     u"p",
+    u"section", u"table",   u"td",    u"tr",         u"ul",     u"summary"};
+constexpr std::array<View, 4> rawTags{u"script", u"pre", u"style", u"textarea"};
+
+bool isTag(View words, std::span<const View> names) {
+    std::size_t at = words.starts_with(u"</") ? 2 : 1;
+    std::u16string name;
+    for (; at < words.size() && name.size() < 12 && (isLetter(words[at]) || isDigit(words[at]));
+         ++at) {
+        name.push_back(static_cast<char16_t>(isLetter(words[at]) ? words[at] | 0x20 : words[at]));
+    }
+    return std::ranges::find(names, View(name)) != names.end();
+}
+
+// What ends a block of HTML that begins with these words: a text, "" for a blank line.
+const char16_t *endOfMarkup(View words) {
+    if (!words.starts_with(u'<')) {
+        return nullptr;
+    }
+    if (words.starts_with(u"<!--")) {
+        return u"-->";
+    }
+    if (words.starts_with(u"<?")) {
+        return u"?>";
+    }
+    if (words.starts_with(u"<!")) {
+        return u">";
+    }
+    if (!words.starts_with(u"</") && isTag(words, rawTags)) {
+        return u"</";
+    }
+    const bool alone = words.size() > 2 && (isLetter(words[1]) || words[1] == u'/') &&
+                       words.find(u'>') == words.size() - 1 && words.find(u"://") == View::npos &&
+                       words.find(u'@') == View::npos;
+    return isTag(words, blockTags) || alone ? u"" : nullptr;
+}
+
+// "[name]: address"
+bool isLinkDefinition(View words) {
+    const std::size_t close = words.starts_with(u'[') ? words.find(u"]:") : View::npos;
+    return close != View::npos && close > 1 && words.substr(0, close).find(u'[', 1) == View::npos;
+}
+
+bool isPatchHead(View line) {
+    return line.starts_with(u"diff --git ") || line.starts_with(u"@@ -") ||
+           line.starts_with(u"Index: ");
+}
+
+bool goesOnInPatch(View line) {
+    if (line.empty()) {
+        return false;
+    }
+    return View(u" +-@\\").find(line[0]) != View::npos || line.starts_with(u"index ") ||
+           line.starts_with(u"diff ") || line.starts_with(u"new file") ||
+           line.starts_with(u"deleted file") || line.starts_with(u"similarity ") ||
+           line.starts_with(u"rename ") || line.starts_with(u"Binary ");
+}
+
+// The first pass: what a line says by itself and by the lines above it.
+class MarkedStructure {
+  public:
+    MarkedStructure(View text, Lines lines)
+        : text_(text)
+        , lines_(lines) {}
+
+    void run() {
+        at_ = frontMatter();
+        for (; at_ < lines_.size(); ++at_) {
+            line_ = text_.substr(lines_[at_].begin, lines_[at_].end - lines_[at_].begin);
+            lines_[at_].kind = next();
+            above_ = lines_[at_].kind;
+        }
+    }
+
+  private:
+    View lineAt(std::size_t at) const {
+        return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
+    }
+
+    // YAML between two "---" at the very top. Returns the line below it.
+    std::size_t frontMatter() {
+        if (lines_.size() < 3 || lineAt(0) != u"---" || lineAt(1).find(u':') == View::npos) {
+            return 0;
+        }
+        for (std::size_t at = 1; at < lines_.size() && !trimmed(lineAt(at)).empty(); ++at) {
+            if (lineAt(at) == u"---" || lineAt(at) == u"...") {
+                std::ranges::for_each(lines_.first(at + 1),
+                                      [](auto &line) { line.kind = LineKind::markup; });
+                return at + 1;
+            }
+        }
+        return 0;
+    }
+
+    LineKind next() {
+        auto &line = lines_[at_];
+        std::size_t words = firstInk(line_);
+        line.words = line.begin + words;
+        if (fenceSize_ > 0) {
+            return insideFence();
+        }
+        if (signature_) {
+            return LineKind::signature;
+        }
+        if (markupEnd_) {
+            return insideMarkup();
+        }
+        if (words == line_.size()) {
+            patch_ = patch_ && !line_.empty();
+            blankAbove_ = true;
+            return LineKind::blank;
+        }
+        const bool blankAbove = blankAbove_ || at_ == 0;
+        blankAbove_ = false;
+        if (line_ == u"-- ") {
+            signature_ = true;
+            return LineKind::signature;
+        }
+        patch_ = isPatchHead(line_) || (patch_ && goesOnInPatch(line_));
+        if (patch_) {
+            return LineKind::diff;
+        }
+        return withoutQuote(words, blankAbove);
+    }
+
+    LineKind withoutQuote(std::size_t words, bool blankAbove) {
+        auto &line = lines_[at_];
+        const std::size_t quote = words;
+        while (words < line_.size() && line_[words] == u'>' &&
+               !line_.substr(words).starts_with(u">>> ")) {
+            words = firstInk(line_, words + 1);
+            // Behind the mark and one blank begins the quotation, whose own indent counts.
+        }
+        line.words = line.begin + words;
+        const std::size_t column =
+            columnOf(line_, words) - (words > quote ? columnOf(line_, quote) : 0);
+        if (words == line_.size()) {
+            return LineKind::prose; // "> " alone: a blank line of the quotation
+        }
+        const std::size_t indent = words > quote ? std::min<std::size_t>(column, 3) : column;
+        return inside(line_.substr(words), indent, blankAbove);
+    }
+
+    LineKind inside(View words, std::size_t column, bool blankAbove) {
+        auto &line = lines_[at_];
+        if (opensFence(words)) {
+            return LineKind::fence;
+        }
+        // Four columns more than the list item or the text that it stands in.
+        const bool apart = blankAbove || above_ == LineKind::code || above_ == LineKind::heading;
+        if (column >= content_ + 4 && apart) {
+            return LineKind::code;
+        }
+        if (column < content_ && (apart || above_ != LineKind::prose)) {
+            content_ = 0;
+        }
+        if (isRule(trimmed(words))) {
+            content_ = 0;
+            const bool underlines = words[0] == u'=' || words[0] == u'-';
+            if (underlines && above_ == LineKind::prose && !blankAbove) {
+                lines_[at_ - 1].kind = LineKind::heading;
+            }
+            return LineKind::rule;
+        }
+        if (isHeading(words)) {
+            return LineKind::heading;
+        }
+        if (isLinkDefinition(words)) {
+            return LineKind::markup;
+        }
+        if ((markupEnd_ = endOfMarkup(words))) {
+            return insideMarkup();
+        }
+        if (isPrompt(words)) {
+            return LineKind::prompt;
+        }
+        if (const std::size_t mark = listMark(words)) {
+            line.item = true;
+            line.words += mark;
+            content_ = column + mark;
+            const View rest = words.substr(mark);
+            return opensFence(rest) ? LineKind::fence : LineKind::prose;
+        }
+        return LineKind::prose;
+    }
+
+    bool opensFence(View words) {
+        const char16_t sign = words.empty() ? u'\0' : words[0];
+        const std::size_t size = sign == u'`' || sign == u'~' ? runOf(words, sign) : 0;
+        if (size < 3 || (sign == u'`' && words.find(sign, size) != View::npos)) {
+            return false;
+        }
+        fenceSize_ = size;
+        fenceSign_ = sign;
+        return true;
+    }
+
+    LineKind insideFence() {
+        View words = line_.substr(firstInk(line_));
+        while (words.starts_with(u'>')) {
+            words = words.substr(firstInk(words, 1));
+        }
+        words = trimmed(words);
+        if (words.size() >= fenceSize_ && runOf(words, fenceSign_) == words.size()) {
+            fenceSize_ = 0;
+        }
+        return LineKind::fence;
+    }
+
+    LineKind insideMarkup() {
+        const View end(markupEnd_);
+        const bool ends =
+            end.empty() ? firstInk(line_) == line_.size() : line_.find(end) != View::npos;
+        if (ends) {
+            markupEnd_ = nullptr;
+            if (end.empty()) {
+                blankAbove_ = true;
+                return LineKind::blank;
+            }
+        }
+        return LineKind::markup;
+    }
+
+    const View text_;
+    const Lines lines_;
+    std::size_t at_ = 0;
+    View line_;
+    LineKind above_ = LineKind::blank;
+    bool blankAbove_ = false;
+    std::size_t content_ = 0; // the column at which the words of the present list item begin
+    std::size_t fenceSize_ = 0;
+    char16_t fenceSign_ = 0;
+    const char16_t *markupEnd_ = nullptr;
+    bool signature_ = false;
+    bool patch_ = false;
+};
+
+// "|---|:-:|": below the head of a table of Markdown.
+bool isTableRule(View words) {
+    return words.find(u'|') != View::npos && words.find(u'-') != View::npos &&
+           words.find_first_not_of(u"|-: \t") == View::npos;
+}
+
+bool isDrawn(View words) {
+    return std::ranges::any_of(
+        words, [](char16_t unit) { return unit >= u'\u2500' && unit <= u'\u257F'; });
+}
+
+// "-rw-r--r-- 1 root": a line of a list of files.
+bool isFileMode(View words) {
+    return words.size() > 10 && View(u"-dlbcps").find(words[0]) != View::npos &&
+           words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
+}
+
+bool isPipeRow(View words) {
+    words = trimmed(words);
+    return words.size() > 2 && words.starts_with(u'|') && words.ends_with(u'|');
+}
+
+std::size_t innerTabs(View words) {
+    return static_cast<std::size_t>(std::ranges::count(trimmed(words), u'\t'));
+}
+
+// The columns at which ink begins behind a gap of two or more blanks. A gap behind the end of a
+// sentence is how some people type.
+std::vector<std::size_t> columnStarts(View line) {
+    std::vector<std::size_t> starts;
+    for (std::size_t at = firstInk(line); at < line.size();) {
+        const std::size_t gap = line.find(u"  ", at);
+        if (gap == View::npos) {
+            break;
+        }
+        at = firstInk(line, gap);
+        if (at < line.size() && View(u".!?:").find(line[gap - 1]) == View::npos) {
+            starts.push_back(at);
+        }
+    }
+    return starts;
+}
+
+bool shareColumn(const std::vector<std::size_t> &a, const std::vector<std::size_t> &b) {
+    return std::ranges::any_of(
+        a, [&](std::size_t column) { return std::ranges::binary_search(b, column); });
+}
+
+constexpr std::array<View, 40> codeStarts{
+    u"#include", u"#define",  u"#if",    u"#!",      u"//",      u"/*",      u"*/",     u"def ",
+    u"class ",   u"import ",  u"return", u"if (",    u"if(",     u"for (",   u"for(",   u"while (",
+    u"else:",    u"else {",   u"elif ",  u"} ",      u"}",       u"{",       u"]",      u"const ",
+    u"let ",     u"var ",     u"fn ",    u"func ",   u"pub ",    u"static ", u"using ", u"package ",
+    u"public ",  u"private ", u"void ",  u"SELECT ", u"export ", u"@",       u"\"",     u"<"};
+
+// Most of its words are letters alone, as in a sentence.
+bool isWordy(View words) {
+    std::size_t plain = 0;
+    std::size_t all = 0;
+    for (std::size_t at = firstInk(words); at < words.size(); ++all) {
+        const std::size_t end = std::min(words.find(u' ', at), words.size());
+        View word = words.substr(at, end - at);
+        while (!word.empty() && View(u".,;:!?").find(word.back()) != View::npos) {
+            word.remove_suffix(1);
+        }
+        plain += !word.empty() && std::ranges::all_of(word, isLetter);
+        at = firstInk(words, end);
+    }
+    return plain > 5 && plain * 5 >= all * 3;
+}
+
+bool looksLikeCode(View words) {
+    words = trimmed(words);
+    if (words.empty()) {
+        return false;
+    }
+    if (isLetter(words.front()) && isWordy(words)) {
+        return false;
+    }
+    const View ends = u"{};[(";
+    const char16_t last = words.back();
+    if (ends.find(last) != View::npos || words.ends_with(u"),") || words.ends_with(u"],") ||
+        words.ends_with(u"\",") || words.ends_with(u"):")) {
+        return true;
+    }
+    if (last != u'.' && (words.find(u" = ") != View::npos || words.find(u"();") != View::npos ||
+                         words.find(u"->") != View::npos || words.find(u"::") != View::npos)) {
+        return true;
+    }
+    return std::ranges::any_of(codeStarts, [&](View start) { return words.starts_with(start); }) &&
+           last != u'.';
+}
+
+// The second pass: what lines say together. Takes each run of lines that the first pass left as
+// prose.
+class Paragraphs {
+  public:
+    Paragraphs(View text, Lines lines)
+        : text_(text)
+        , lines_(lines) {}
+
+    void run() {
+        for (std::size_t begin = 0; begin < lines_.size();) {
+            std::size_t end = begin;
+            while (end < lines_.size() && lines_[end].kind == LineKind::prose) {
+                ++end;
+            }
+            if (end > begin) {
+                paragraph(begin, end);
+            }
+            begin = std::max(end, begin + 1);
+        }
+    }
+
+  private:
+    View wordsAt(std::size_t at) const {
+        return text_.substr(lines_[at].words, lines_[at].end - lines_[at].words);
+    }
+    View lineAt(std::size_t at) const {
+        return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
+    }
+
+    void paragraph(std::size_t begin, std::size_t end) {
+        tables(begin, end);
+        std::size_t code = 0;
+        std::size_t counted = 0;
+        for (std::size_t at = begin; at < end; ++at) {
+            counted += lines_[at].kind == LineKind::prose;
+            code += lines_[at].kind == LineKind::prose && looksLikeCode(wordsAt(at));
+        }
+        if (code * 2 >= counted) {
+            for (std::size_t at = begin; at < end && code > 0; ++at) {
+                if (lines_[at].kind == LineKind::prose) {
+                    lines_[at].kind = LineKind::code;
+                }
+            }
+        }
+    }
+
+    void tables(std::size_t begin, std::size_t end) {
+        bool below = false; // the rule of a table of Markdown
+        std::vector<std::size_t> starts;
+        std::size_t tabs = 0;
+        for (std::size_t at = begin; at < end; ++at) {
+            const View words = wordsAt(at);
+            below = (below && words.find(u'|') != View::npos) || isTableRule(words);
+            auto own = columnStarts(lineAt(at));
+            const std::size_t ownTabs = innerTabs(words);
+            const bool aligned =
+                at > begin && (shareColumn(starts, own) || (ownTabs > 0 && ownTabs == tabs));
+            if (aligned || (below && at > begin && isTableRule(words))) {
+                lines_[at - 1].kind = LineKind::table;
+            }
+            if (aligned || below || ownTabs > 1 || isPipeRow(words) || isDrawn(words) ||
+                isFileMode(words)) {
+                lines_[at].kind = LineKind::table;
+            }
+            starts = std::move(own);
+            tabs = ownTabs;
+        }
+    }
+
+    const View text_;
+    const Lines lines_;
+};
+
+} // namespace
+
+std::vector<StructuredLine> scanStructure(View text) {
+    auto lines = splitLines(text);
+    MarkedStructure(text, lines).run();
+    Paragraphs(text, lines).run();
+    return lines;
+}
+
+} // namespace nerlo::engine

@@ -1,0 +1,41 @@
+// What the lines of a text are: prose, or something whose layout carries meaning.
+//
+// Told from the text alone, line by line, in time in proportion to it. What is unsure is called
+// something else than prose: a caller that leaves alone all that is not prose does no harm. Texts
+// are UTF-16, places count units. Pure, any thread.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace nerlo::engine {
+
+enum class LineKind : std::uint8_t {
+    blank,
+    prose,     // also the words of a list item or of a quotation
+    heading,   // "# ...", or the line above a line of "=" or "-"
+    rule,      // a line of such signs
+    fence,     // "```" and all up to the line that closes it
+    code,      // indented, or code by its looks
+    table,     // columns between "|", between tabs, or below each other
+    prompt,    // a shell's prompt with its command
+    diff,      // a patch
+    markup,    // blocks of HTML, front matter, definitions of links
+    signature, // below the "-- " of a mail
+};
+
+struct StructuredLine {
+    std::size_t begin = 0;
+    std::size_t end = 0;  // of the line without its break
+    std::size_t next = 0; // begin of the line below; the text's size for the last
+    LineKind kind = LineKind::blank;
+    std::size_t words = 0; // where the words begin: behind indent, quotation and list marks
+    bool item = false;     // a list mark stands before the words
+};
+
+// A break is CR LF, CR or LF. The text "" has no line, "a\n" has one.
+std::vector<StructuredLine> scanStructure(std::u16string_view text);
+
+} // namespace nerlo::engine

@@ -1,0 +1,18 @@
+// Text that was copied out of a terminal or one of its full-screen programs, as it was before the
+// terminal laid it out.
+//
+// Texts are UTF-16. Pure, any thread, never fails, takes time in proportion to the text.
+#pragma once
+
+#include <string>
+
+namespace nerlo::engine {
+
+// Takes out control sequences, frames of box-drawing characters, the gutter on the left and the
+// padding on the right, and joins the lines of prose that were wrapped at a width. The width is
+// found in the text itself: a line goes on below where the next word would not have fitted. Code,
+// tables, list items, prompts, headings and indented blocks are never joined with anything. A text
+// that shows no sign of a terminal comes back as it was given.
+std::u16string unwrapTerminal(std::u16string text);
+
+} // namespace nerlo::engine

@@ -1,0 +1,146 @@
+#include "engine/TerminalText.h"
+#include "engine/Structure.h"
+#include "tests/engine/Rows.h"
+
+#include <random>
+#include <vector>
+
+namespace nerlo::engine {
+namespace {
+
+TEST(TerminalText, TakesTheTerminalsOwnMarksOut) {
+    expectRows(
+        {{"colours", u"\x1B[1;31merror\x1B[0m: no \u009B1mfile", u"error: no file"},
+         {"links and titles", u"\x1B]8;;https://a.org\x1B\\here\x1B]8;;\a, \x1B]0;title\awords",
+          u"here, words"},
+         {"an end that never comes", u"a\x1B]8;;b\nc", u"a8;;b\nc"},
+         {"letters struck over by pagers", u"N\bNA\bAM\bME\bE _\bx", u"NAME x"},
+         {"a frame, with its title",
+          u"\u256D\u2500 Note \u2500\u2500\u256E\n\u2502 two    \u2502\n\u2502   rows \u2502\n"
+          u"\u2570\u2500\u2500\u2500\u2500\u2500\u2500\u2500\u2500\u256F\nbehind",
+          u"Note\ntwo\n  rows\nbehind"},
+         {"the lower half of one",
+          u"\u2502 > ask \u2502\n\u2570\u2500\u2500\u2500\u2500\u2500\u2500\u256F\n", u"> ask\n"},
+         {"a bar in front of each row", u"\u2502 one\n\u2502\n\u2502 two", u"one\n\ntwo"},
+         {"padding up to one column", u"one     \nthree   \n\nx", u"one\nthree\n\nx"},
+         {"blanks in front of everything", u"  Two sentences.\n\n  In all.\n",
+          u"Two sentences.\n\nIn all.\n"}},
+        unwrapTerminal);
+}
+
+TEST(TerminalText, JoinsWhatWasWrapped) {
+    expectRows(
+        {{"at the width that fills the rows",
+          u"The quick brown fox jumps over the lazy dog\nand then it sleeps under the old oak "
+          u"tree\n"
+          u"until the morning.\n\nA second one.",
+          u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak tree "
+          u"until the morning.\n\nA second one."},
+         {"the words of an item below each other",
+          u"- The quick brown fox jumps over the dogs\n  and sleeps under the old oak tree until "
+          u"a\n"
+          u"  morning.\n- Next.",
+          u"- The quick brown fox jumps over the dogs and sleeps under the old oak tree until a "
+          u"morning.\n- Next."},
+         {"an address that was cut",
+          u"All of the documentation of it is found "
+          u"at\nhttps://example.org/a/long/path/to/somewhere/"
+          u"in\n/the/manual.html#top and in the printed copy\nof the book.",
+          u"All of the documentation of it is found at "
+          u"https://example.org/a/long/path/to/somewhere/"
+          u"in/the/manual.html#top and in the printed copy of the book."},
+         {"scripts without blanks, by their double width",
+          u"\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57"
+          u"\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\n\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57"
+          u"\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\n\u6F22",
+          u"\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57"
+          u"\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57"
+          u"\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22\u5B57\u6F22"}},
+        unwrapTerminal);
+}
+
+TEST(TerminalText, LeavesAloneWhatMeansItsLines) {
+    for (const std::u16string_view text : {
+             u"{\n  \"name\": \"nerlo\",\n  \"list\": [\n    1,\n    2\n  ]\n}\n",
+             u"    def f(x):\n        return x\n\n    print(f(1))\n",
+             u"- one\n- two\n  - three\n1. four\n2. five\n",
+             u"John Smith\n123 Main Street\nSpringfield, IL 62704\nUSA\n",
+             u"$ make install\n$ make clean\nuser@host:~$ ls -l /usr/share/doc/somewhere\n",
+             u"-rw-r--r-- 1 root root  4096 Nov 22 03:00 README.md\n"
+             u"-rw-r--r-- 1 root root 12096 Nov 22 03:00 CHANGELOG.md\n",
+             u"| a | b |\n|---|---|\n| 1 | 2 |\n",
+             u"name   size   owner\nsrc    10     root\nlib    2      root\n",
+             u"\u250C\u2500\u2500\u2500\u252C\u2500\u2500\u2500\u2510\n\u2502 a \u2502 b \u2502\n"
+             u"\u2514\u2500\u2500\u2500\u2534\u2500\u2500\u2500\u2518\n",
+             u"diff --git a/f b/f\n--- a/f\n+++ b/f\n@@ -1,2 +1,2 @@\n-old\n+new\n",
+             u"```\nSome words that are long enough to look wrapped\nhere and further words that "
+             u"do "
+             u"so as well\nbut stand in a fence\n```\n",
+             u"A line with two blanks at its end  \nmeans a break.\n",
+         }) {
+        EXPECT_EQ(reference::escaped(unwrapTerminal(std::u16string(text))),
+                  reference::escaped(std::u16string(text)));
+    }
+}
+
+std::u16string randomParagraph(std::mt19937 &random, std::size_t words) {
+    std::u16string text = u"The";
+    for (std::size_t word = 0; word < words; ++word) {
+        text += u' ';
+        for (std::size_t size = 1 + random() % 9; size > 0; --size) {
+            text += static_cast<char16_t>(u'a' + random() % 26);
+        }
+    }
+    return text + u'.';
+}
+
+std::u16string wrapped(std::u16string_view words, std::size_t width, std::u16string_view indent) {
+    std::u16string text;
+    std::size_t column = 0;
+    for (std::size_t at = 0; at < words.size();) {
+        const std::size_t end = std::min(words.find(u' ', at), words.size());
+        if (column > 0 && column + 1 + end - at > width) {
+            text.append(u"\n").append(indent);
+            column = indent.size();
+        } else if (column > 0) {
+            text += u' ';
+            ++column;
+        }
+        text.append(words.substr(at, end - at));
+        column += end - at;
+        at = end + 1;
+    }
+    return text;
+}
+
+// A page of prose, items and a fence, shown at any width in a frame, with a gutter or bare.
+TEST(TerminalText, GivesBackWhatWasShownAtAnyWidth) {
+    std::mt19937 random(20);
+    for (std::size_t width = 40; width <= 200; ++width) {
+        std::u16string page;
+        std::u16string shown;
+        for (int paragraph = 0; paragraph < 6; ++paragraph) {
+            const bool item = paragraph % 3 == 2;
+            const auto words = (item ? u"- " : u"") + randomParagraph(random, 40 + random() % 60);
+            page += words + u"\n\n";
+            shown += wrapped(words, width, item ? u"  " : u"") + u"\n\n";
+        }
+        constexpr std::u16string_view fence = u"```\nint main() {\n    return 0;\n}\n```\n";
+        page += fence;
+        shown += fence;
+        ASSERT_EQ(reference::escaped(unwrapTerminal(shown)), reference::escaped(page)) << width;
+        std::u16string framed = u"\u256D" + std::u16string(width + 2, u'\u2500') + u"\u256E\n";
+        for (std::size_t begin = 0; begin < shown.size();) {
+            const std::size_t end = shown.find(u'\n', begin);
+            const auto row = shown.substr(begin, end - begin);
+            framed += u"\u2502 " + row + std::u16string(width - row.size(), u' ') + u" \u2502\n";
+            begin = end + 1;
+        }
+        framed += u"\u2570" + std::u16string(width + 2, u'\u2500') + u"\u256F\n";
+        ASSERT_EQ(reference::escaped(unwrapTerminal(framed)), reference::escaped(page)) << width;
+        ASSERT_EQ(unwrapTerminal(page), page) << width;
+    }
+}
+
+} // namespace
+} // namespace nerlo::engine
