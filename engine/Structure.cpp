@@ -476,6 +476,12 @@ class Paragraphs {
         , lines_(lines) {}
 
     void run() {
+        if (isSourceCode()) {
+            std::ranges::for_each(lines_, [](auto &line) {
+                line.kind = line.kind == LineKind::blank ? line.kind : LineKind::code;
+            });
+            return;
+        }
         for (std::size_t begin = 0; begin < lines_.size();) {
             std::size_t end = begin;
             while (end < lines_.size() && lines_[end].kind == LineKind::prose) {
@@ -494,6 +500,20 @@ class Paragraphs {
     }
     View lineAt(std::size_t at) const {
         return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
+    }
+
+    // A file of a program: what is prose in it are comments.
+    bool isSourceCode() const {
+        std::size_t inked = 0;
+        std::size_t code = 0;
+        for (std::size_t at = 0; at < lines_.size(); ++at) {
+            const LineKind kind = lines_[at].kind;
+            if (kind == LineKind::prose || kind == LineKind::code) {
+                ++inked;
+                code += looksLikeCode(wordsAt(at));
+            }
+        }
+        return inked > 3 && code * 4 > inked;
     }
 
     void paragraph(std::size_t begin, std::size_t end) {

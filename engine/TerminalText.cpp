@@ -26,6 +26,8 @@ constexpr std::size_t mostWidth = 400;
 // Up to here a text must fill all its lines to be taken for wrapped: addresses and verses have
 // lines of that length too.
 constexpr std::size_t doubtfulWidth = 36;
+// Blanks that set a block apart from the text around it.
+constexpr std::size_t codeIndent = 4;
 
 bool isOneOf(char16_t unit, View units) {
     return units.find(unit) != View::npos;
@@ -337,8 +339,10 @@ class Unwrapping {
     explicit Unwrapping(std::u16string text)
         : text_(std::move(text))
         , lines_(scanStructure(text_)) {
-        findPairs();
-        findWidth();
+        if (!lines_.empty()) {
+            findPairs();
+            findWidth();
+        }
     }
 
     // Whether most lines with words are prose.
@@ -400,37 +404,65 @@ class Unwrapping {
         if (prefix.find_first_not_of(u' ') != View::npos) {
             return prefix == prefixOf(above); // the marks of a quotation
         }
+        if (prefix.size() >= codeIndent && !first.item) {
+            return false;
+        }
         // Below the words of a list item, where the paragraph begins, or at the edge of the screen.
         return prefix.empty() || prefix.size() == first.words - first.begin ||
                prefix.size() == indentOf(View(text_).substr(first.begin, first.end - first.begin));
     }
 
     void findPairs() {
-        std::size_t first = 0;
-        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
-            if (lines_[at].kind != LineKind::prose) {
-                first = at + 1;
-                continue;
+        std::size_t first = 0;  // row of the paragraph
+        std::size_t paired = 0; // pairs of the paragraphs above
+        const auto endParagraph = [&](std::size_t end) {
+            if (isList(paired, end)) {
+                pairs_.resize(paired);
             }
-            if (lines_[at].item) {
+            paired = pairs_.size();
+        };
+        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
+            const bool prose = lines_[at].kind == LineKind::prose;
+            if (prose && lines_[at].item) {
                 first = at;
             }
-            if (!fits(lines_[first], lines_[at], lines_[at + 1])) {
+            if (prose && fits(lines_[first], lines_[at], lines_[at + 1])) {
+                pairs_.push_back(pairOf(at));
+            } else {
+                endParagraph(at);
                 first = at + 1;
-                continue;
             }
-            const View above = wordsOf(lines_[at].begin, lines_[at].end);
-            const View below = wordsOf(lines_[at + 1].words, lines_[at + 1].end);
-            Pair pair{at, columnsOf(above), 0, 0, false};
-            // A word alone may be longer than the screen is wide. Some tools count the blank behind
-            // a word, so that only the end of a cut word reaches the last column.
-            const bool oneWord = wordsOf(lines_[at].words, lines_[at].end).find(u' ') == View::npos;
-            pair.least = oneWord ? 0 : pair.width - 1;
-            pair.wide = isIdeographic(lastOf(above)) && isIdeographic(text::characterAt(below, 0));
-            const View word = below.substr(0, std::min(below.find(u' '), below.size()));
-            pair.fitting = pair.width + (pair.wide ? 2 : 1 + columnsOf(word));
-            pairs_.push_back(pair);
         }
+        endParagraph(lines_.size() - 1);
+    }
+
+    // Most lines of the paragraph with the last line `end` are a word each: nobody writes so.
+    bool isList(std::size_t firstPair, std::size_t end) const {
+        if (firstPair == pairs_.size() || pairs_[firstPair].wide) {
+            return false;
+        }
+        const std::size_t begin = pairs_[firstPair].row;
+        std::ptrdiff_t blanks = 0;
+        for (std::size_t at = begin; at <= end; ++at) {
+            blanks += std::ranges::count(wordsOf(lines_[at].words, lines_[at].end), u' ');
+        }
+        return blanks < static_cast<std::ptrdiff_t>(end - begin + 1);
+    }
+
+    Pair pairOf(std::size_t at) const {
+        const View above = wordsOf(lines_[at].begin, lines_[at].end);
+        const View below = wordsOf(lines_[at + 1].words, lines_[at + 1].end);
+        Pair pair;
+        pair.row = at;
+        pair.width = columnsOf(above);
+        pair.wide = isIdeographic(lastOf(above)) && isIdeographic(text::characterAt(below, 0));
+        // A word alone may be longer than the screen is wide. Some tools count the blank behind a
+        // word, so that only the end of a cut word reaches the last column.
+        const bool oneWord = wordsOf(lines_[at].words, lines_[at].end).find(u' ') == View::npos;
+        pair.least = oneWord ? 0 : pair.width - 1;
+        const View word = below.substr(0, std::min(below.find(u' '), below.size()));
+        pair.fitting = pair.width + (pair.wide ? 2 : 1 + columnsOf(word));
+        return pair;
     }
 
     static char32_t lastOf(View words) {

@@ -76,6 +76,11 @@ TEST(TerminalText, LeavesAloneWhatMeansItsLines) {
              u"```\nSome words that are long enough to look wrapped\nhere and further words that "
              u"do "
              u"so as well\nbut stand in a fence\n```\n",
+             u"Checks:\n  - bugprone-use-after-move,\n    bugprone-dangling-handle,\n    "
+             u"bugprone-infinite-loop,\n"
+             u"    bugprone-integer-division\n",
+             u"SYNOPSIS\n       A few words that are set apart from their heading by blanks\n"
+             u"       and then go on below, like code would and stay as they\n       are.\n",
              u"A line with two blanks at its end  \nmeans a break.\n",
          }) {
         EXPECT_EQ(reference::escaped(unwrapTerminal(std::u16string(text))),
