@@ -97,6 +97,7 @@ constexpr OptionField fields[] = {
      "this profile's own list"},
     {"sFindAndReplaceItems", &O::udFindAndReplaceItems, "find and replace",
      "copy of the list for all profiles"},
+    {"udUnwrapTerminal", &O::udUnwrapTerminal, "lines", "undo a terminal's wrapping and frames"},
 };
 
 void read(const storage::PropertyValue *value, bool &field) {

@@ -58,6 +58,7 @@ struct CleaningOptions {
     bool udRemoveHTMLTags = false;
     bool udRemoveHTMLTagsJS = false;
     bool udInsertYourPattern = false;
+    bool udUnwrapTerminal = false;
     PerSlot<bool> udChangeProperty{};
 
     Text udSortCustomSeparatorTextField = u"";

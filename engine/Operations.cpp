@@ -6,6 +6,7 @@
 #include "engine/Markup.h"
 #include "engine/Quotes.h"
 #include "engine/Sorting.h"
+#include "engine/TerminalText.h"
 #include "engine/Whitespace.h"
 
 #include <algorithm>
@@ -225,6 +226,8 @@ constexpr Operation table[] = {
     {36, "add-suffix", "sAddSuffix", "put the suffix after the text", suffix},
     {37, "find-replace-list", "sFindReplaceBool", "apply the find-and-replace list",
      findReplaceList},
+    {38, "unwrap-terminal", "sUnwrapTerminal",
+     "undo what a terminal did to its text: wrapping, frames, padding", plain<unwrapTerminal>},
 };
 
 constexpr bool rowsStandAtTheirIndex() {
@@ -257,6 +260,8 @@ bool spacesBecomeTabs(const Options &options) {
 }
 
 constexpr Step pipeline[] = {
+    // Later steps see the lines as they were before the terminal broke them.
+    {on<&Options::udUnwrapTerminal>, 38},
     {on<&Options::udChangeMultipleTabsToSingleTab>, 0},
     {on<&Options::udRemoveAllSpaces>, 1},
     {on<&Options::udRemoveAllTabs>, 2},

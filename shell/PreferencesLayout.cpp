@@ -37,6 +37,7 @@ std::vector<PreferencesPage> makePages() {
          {{"udChangeWrongInsertedReturnsTo",
            "sChangeWrongInsertedReturnsTo",
            {"udChangeWrongInsertedReturnsOption"}},
+          {"udUnwrapTerminal", "sUnwrapTerminal", {}},
           {"udChangeReturnsTo",
            "sChangeReturnsTo",
            {"udChangeReturnsOption", "udChangeReturnsCustom1", "udChangeReturnsCustom2"}},

@@ -492,6 +492,15 @@
 بعد: هذا السطر·انكسر في وسطه.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>استعادة نص منسوخ من طرفية</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>قبل: │ جملة واحدة↵│ على سطرين. │
+بعد: جملة واحدة·على سطرين.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>توصَل الأسطر بـ</translation>
     </message>

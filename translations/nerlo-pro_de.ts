@@ -492,6 +492,15 @@ Nachher, mit „!“: Text!</translation>
 Nachher: Diese Zeile wurde·mittendrin umbrochen.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Text aus einem Terminal entpacken</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Vorher: │ Ein Satz auf↵│ zwei Zeilen. │
+Nachher: Ein Satz auf·zwei Zeilen.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Zeilen werden verbunden mit</translation>
     </message>

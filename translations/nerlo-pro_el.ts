@@ -492,6 +492,15 @@
 Μετά: Αυτή η γραμμή·κόπηκε στη μέση.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Αποκατάσταση κειμένου τερματικού</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Πριν: │ Μία πρόταση↵│ σε δύο γραμμές. │
+Μετά: Μία πρόταση·σε δύο γραμμές.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Οι γραμμές ενώνονται με</translation>
     </message>

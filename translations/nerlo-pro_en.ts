@@ -492,6 +492,15 @@ After, with “!”: text!</translation>
 After: This line was·broken in the middle.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Unwrap text from a terminal</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Before: │ One sentence↵│ on two rows. │
+After: One sentence·on two rows.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Broken lines are joined with</translation>
     </message>

@@ -492,6 +492,15 @@ Después, con «!»: texto!</translation>
 Después: Esta línea se·cortó por la mitad.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Recomponer texto de un terminal</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Antes: │ Una frase↵│ en dos líneas. │
+Después: Una frase·en dos líneas.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Las líneas se unen con</translation>
     </message>

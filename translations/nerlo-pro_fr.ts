@@ -492,6 +492,15 @@ Après, avec « ! » : texte!</translation>
 Après : Cette ligne a été·coupée au milieu.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Remettre en forme le texte d’un terminal</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Avant : │ Une phrase↵│ sur deux lignes. │
+Après : Une phrase·sur deux lignes.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Les lignes sont jointes par</translation>
     </message>

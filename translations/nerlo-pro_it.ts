@@ -492,6 +492,15 @@ Dopo, con «!»: testo!</translation>
 Dopo: Questa riga è stata·spezzata a metà.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Ricomporre il testo di un terminale</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Prima: │ Una frase↵│ su due righe. │
+Dopo: Una frase·su due righe.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Le righe si uniscono con</translation>
     </message>

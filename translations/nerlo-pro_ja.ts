@@ -492,6 +492,15 @@
 後：この行は途中で·改行されています。</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>端末の折り返しを元に戻す</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>前：│ 一つの文が↵│ 二行になる。 │
+後：一つの文が二行になる。</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>行のつなぎ方</translation>
     </message>

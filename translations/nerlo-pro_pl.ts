@@ -492,6 +492,15 @@ Po, z „!”: tekst!</translation>
 Po: Ten wiersz został·złamany w środku.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Scal tekst z terminala</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Przed: │ Jedno zdanie↵│ w dwóch wierszach. │
+Po: Jedno zdanie·w dwóch wierszach.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Wiersze są łączone przez</translation>
     </message>

@@ -492,6 +492,15 @@ Depois, com “!”: texto!</translation>
 Depois: Esta linha foi·quebrada no meio.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Recompor texto de um terminal</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Antes: │ Uma frase↵│ em duas linhas. │
+Depois: Uma frase·em duas linhas.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>As linhas são unidas com</translation>
     </message>

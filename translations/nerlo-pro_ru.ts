@@ -492,6 +492,15 @@
 После: Эта строка была·разорвана посередине.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Восстановить текст из терминала</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>До: │ Одно предложение↵│ в двух строках. │
+После: Одно предложение·в двух строках.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Строки соединяются через</translation>
     </message>

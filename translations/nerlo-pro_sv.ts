@@ -492,6 +492,15 @@ Efter, med ”!”: text!</translation>
 Efter: Den här raden blev·bruten på mitten.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Återställ text från en terminal</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>Före: │ En mening↵│ på två rader. │
+Efter: En mening·på två rader.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Raderna fogas ihop med</translation>
     </message>

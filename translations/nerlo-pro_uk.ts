@@ -492,6 +492,15 @@
 Після: Цей рядок було·розірвано посередині.</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>Відновити текст із термінала</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>До: │ Одне речення↵│ у двох рядках. │
+Після: Одне речення·у двох рядках.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Рядки з’єднуються через</translation>
     </message>

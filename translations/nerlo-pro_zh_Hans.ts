@@ -492,6 +492,15 @@
 之后：这一行在·中间断开了。</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>还原终端中折行的文本</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>之前：│ 一个句子↵│ 分成两行。 │
+之后：一个句子分成两行。</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>断行连接方式</translation>
     </message>

@@ -492,6 +492,15 @@
 之後：這一行在·中間斷開了。</translation>
     </message>
     <message>
+        <source>sUnwrapTerminal</source>
+        <translation>還原終端機中折行的文字</translation>
+    </message>
+    <message>
+        <source>sUnwrapTerminalTip</source>
+        <translation>之前：│ 一個句子↵│ 分成兩行。 │
+之後：一個句子分成兩行。</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>斷行的連接方式</translation>
     </message>

@@ -413,7 +413,7 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
         finishWork();
         return pasteboard.bytes("UTF8_STRING");
     };
-    auto &sort = *operations->actions()[1]->menu()->actions()[3];
+    auto &sort = *operations->findChild<QAction *>("operation23");
     EXPECT_EQ(sort.text(), "Sort lines");
     EXPECT_EQ(result(sort), "a\nb  b");
     EXPECT_EQ(result(*menu.menu().actions()[0]), "b b a");
