@@ -11,12 +11,13 @@ namespace nerlo::shell {
 
 Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &workerQueue) {
     Desktop desktop;
-    desktop.clipboard = platform::openPasteboard(mainQueue);
-    desktop.activeApplication = platform::openActiveApplication(mainQueue);
-    desktop.keyboardLayout = platform::openKeyboardLayout(mainQueue);
+    desktop.backends = std::make_unique<platform::Backends>(mainQueue);
+    desktop.clipboard = desktop.backends->openPasteboard();
+    desktop.activeApplication = desktop.backends->openActiveApplication();
+    desktop.keyboardLayout = desktop.backends->openKeyboardLayout();
     const auto &layout = *desktop.keyboardLayout.backend;
-    desktop.hotKeys = platform::openHotKeys(mainQueue, layout, applicationId);
-    desktop.popupLayer = platform::openPopupLayer(mainQueue);
+    desktop.hotKeys = desktop.backends->openHotKeys(layout, applicationId);
+    desktop.popupLayer = desktop.backends->openPopupLayer();
     desktop.systemHotKeys =
         platform::createDesktopHotKeys(layout, workerQueue, platform::DesktopSources::system());
     const auto configFolder = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);

@@ -14,6 +14,7 @@ namespace nerlo::shell {
 inline constexpr auto applicationId = "org.nerlo.NerloPro";
 
 struct Desktop {
+    std::unique_ptr<platform::Backends> backends;     // of what follows
     platform::Chosen<platform::Pasteboard> clipboard; // null without a display
     platform::Chosen<platform::ActiveApplication> activeApplication;
     platform::Chosen<platform::KeyboardLayout> keyboardLayout;

@@ -48,7 +48,7 @@ DesktopShell::DesktopShell(Program &program)
                  platform::keyboardCanBeGrabbed()}
     , menu_(std::make_unique<StatusMenu>(program))
     , tray_(std::make_unique<TrayIcon>(menu_->menu()))
-    , taskbar_(platform::openTaskbarHint()) {
+    , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
     QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(),
                      [this] { setProblem(Problem::tray, {}); });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
@@ -146,8 +146,7 @@ void DesktopShell::updateHotKeys() {
 }
 
 void DesktopShell::start() {
-    xembed_ =
-        platform::openTrayWatch(program_.parts().mainQueue, [this] { tray_->trayAppeared(); });
+    xembed_ = program_.parts().desktop.backends->openTrayWatch([this] { tray_->trayAppeared(); });
     settle_ = program_.parts().mainQueue.postAfter(trayExpectedWithin, [this] {
         settle_ = 0;
         if (tray_->wanted() && !tray_->shown()) {

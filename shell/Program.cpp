@@ -43,7 +43,8 @@ Program::Program(Parts parts)
           store_, parts_.mainQueue, parts_.paths,
           [](std::u16string_view key) { return localizedUtf16(Table::standard, key); },
           settings::firstLanguage(store_))
-    , windows_(*this) {
+    , windows_(*this)
+    , folders_(parts_.desktop.backends->io(), parts_.mainQueue) {
     connect();
     delegate_.emplace(nrAppDelegate::Parts{store_, parts_.mainQueue, preferences_, engine_,
                                            watcher_, *parts_.desktop.loginItem, windows_,
@@ -126,10 +127,8 @@ void Program::registerHotKeys() {
 }
 
 void Program::followOtherProcesses() {
-    storeWatch_.emplace(folderOf(parts_.paths.store), parts_.mainQueue,
-                        [this] { store_.fileChanged(); });
-    profilesWatch_.emplace(folderOf(parts_.paths.profiles), parts_.mainQueue,
-                           [this] { preferences_.profilesFileChanged(); });
+    folders_.add(folderOf(parts_.paths.store), [this] { store_.fileChanged(); });
+    folders_.add(folderOf(parts_.paths.profiles), [this] { preferences_.profilesFileChanged(); });
     automaticMode_ = store_.observe(automaticKey, [this] {
         setAutomatic(store_.boolForKey(automaticKey) ? AutomaticMode::on : AutomaticMode::off);
     });

@@ -117,8 +117,7 @@ class Program final {
     settings::nrPreferences preferences_;
     DesktopShell windows_;
     std::optional<nrAppDelegate> delegate_;
-    std::optional<platform::FolderWatch> storeWatch_;
-    std::optional<platform::FolderWatch> profilesWatch_;
+    platform::FolderWatch folders_;
     storage::SettingsStore::Observation automaticMode_;
     std::shared_ptr<void> refusals_;
 };

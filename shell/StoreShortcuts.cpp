@@ -24,7 +24,8 @@ class HereQueue final : public platform::WorkerQueue {
 
 int storeShortcuts(const std::vector<std::string> &wanted) {
     platform::QtMainQueue mainQueue;
-    const auto layout = platform::openKeyboardLayout(mainQueue);
+    platform::Backends backends(mainQueue);
+    const auto layout = backends.openKeyboardLayout();
     std::vector<ShortcutChange> changes;
     for (const auto &text : wanted) {
         changes.push_back(parseShortcutChange(text, *layout.backend));

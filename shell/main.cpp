@@ -47,7 +47,8 @@ std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
         return desktop.clipboard.backend ? succeeded : failed;
     }
     // Without a display the toolkit's application object would abort the process.
-    const auto clipboard = platform::openPasteboard(mainQueue);
+    platform::Backends backends(mainQueue);
+    const auto clipboard = backends.openPasteboard();
     if (!clipboard.backend) {
         for (const auto &why : clipboard.declined) {
             complain(why);

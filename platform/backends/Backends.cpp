@@ -8,6 +8,7 @@
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandPasteboard.h"
 #include "platform/wayland/WaylandPopupLayer.h"
+#include "platform/x11/SharedConnection.h"
 #include "platform/x11/X11ActiveApplication.h"
 #include "platform/x11/X11Desktop.h"
 #include "platform/x11/X11HotKeys.h"
@@ -44,12 +45,13 @@ class NoHotKeys final : public HotKeyService {
     }
 };
 
+// Each of `create` gives a Created<Interface>.
 template <class Interface, class... Create>
-Chosen<Interface> firstOf(MainQueue &mainQueue, Create... create) {
+Chosen<Interface> firstOf(Create... create) {
     Chosen<Interface> chosen;
     const auto ask = [&](auto &createOne) {
         if (!chosen.backend) {
-            Created<Interface> created = createOne(mainQueue);
+            Created<Interface> created = createOne();
             chosen.backend = std::move(created.backend);
             if (!chosen.backend) {
                 chosen.declined.push_back(std::move(created.declined));
@@ -60,63 +62,72 @@ Chosen<Interface> firstOf(MainQueue &mainQueue, Create... create) {
     return chosen;
 }
 
+// The last resort, which never declines.
+template <class Interface, class Backend, class... Arguments>
+Created<Interface> always(Arguments... arguments) {
+    return {std::make_unique<Backend>(std::move(arguments)...), {}};
+}
+
 } // namespace
 
-Chosen<Pasteboard> openPasteboard(MainQueue &mainQueue) {
-    return firstOf<Pasteboard>(
-        mainQueue, [](MainQueue &queue) { return createWaylandPasteboard(queue); },
-        createX11Pasteboard);
+Backends::Backends(MainQueue &mainQueue)
+    : mainQueue_(mainQueue) {}
+
+Backends::~Backends() = default;
+
+std::shared_ptr<x11::SharedConnection> Backends::x11() {
+    auto connection = x11_.lock();
+    if (!connection) {
+        connection = x11::SharedConnection::open(io_);
+        x11_ = connection;
+    }
+    return connection;
 }
 
-Chosen<ActiveApplication> openActiveApplication(MainQueue &mainQueue) {
+Chosen<Pasteboard> Backends::openPasteboard() {
+    return firstOf<Pasteboard>([&] { return createWaylandPasteboard(mainQueue_, io_); },
+                               [&] { return createX11Pasteboard(mainQueue_, io_); });
+}
+
+Chosen<ActiveApplication> Backends::openActiveApplication() {
     return firstOf<ActiveApplication>(
-        mainQueue, [](MainQueue &queue) { return createWaylandActiveApplication(queue); },
-        createX11ActiveApplication,
-        [](MainQueue &) {
-            return Created<ActiveApplication>{std::make_unique<NoActiveApplication>(), {}};
-        });
+        [&] { return createWaylandActiveApplication(mainQueue_, io_); },
+        [&] { return createX11ActiveApplication(mainQueue_, x11()); },
+        [] { return always<ActiveApplication, NoActiveApplication>(); });
 }
 
-Chosen<KeyboardLayout> openKeyboardLayout(MainQueue &mainQueue) {
+Chosen<KeyboardLayout> Backends::openKeyboardLayout() {
     return firstOf<KeyboardLayout>(
-        mainQueue, [](MainQueue &queue) { return createWaylandKeyboardLayout(queue); },
-        createX11KeyboardLayout,
-        [](MainQueue &) {
-            return Created<KeyboardLayout>{
-                std::make_unique<XkbKeyboardLayout>(xkb::Keymap::fromNames("us")), {}};
-        });
+        [&] { return createWaylandKeyboardLayout(mainQueue_, io_); },
+        [&] { return createX11KeyboardLayout(mainQueue_, x11()); },
+        [] { return always<KeyboardLayout, XkbKeyboardLayout>(xkb::Keymap::fromNames("us")); });
 }
 
-Chosen<HotKeyService> openHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout,
-                                  const std::string &applicationId) {
+Chosen<HotKeyService> Backends::openHotKeys(const KeyboardLayout &layout,
+                                            const std::string &applicationId) {
     return firstOf<HotKeyService>(
-        mainQueue,
-        [&](MainQueue &queue) -> Created<HotKeyService> {
+        [&]() -> Created<HotKeyService> {
             // Keys grabbed in Xwayland would be missed whenever a Wayland window has the focus.
-            if (!wayland::EventLoop::connect(wayland::EventLoop::defaultDisplay())) {
+            if (!wayland::EventLoop::connect(io_, wayland::EventLoop::defaultDisplay())) {
                 return {nullptr, "there is no Wayland compositor"};
             }
-            auto portal = createPortalHotKeys(queue, layout, applicationId);
-            return portal.backend ? std::move(portal)
-                                  : Created<HotKeyService>{std::make_unique<NoHotKeys>(), {}};
+            auto portal = createPortalHotKeys(mainQueue_, layout, applicationId);
+            return portal.backend ? std::move(portal) : always<HotKeyService, NoHotKeys>();
         },
-        createX11HotKeys,
-        [](MainQueue &) {
-            return Created<HotKeyService>{std::make_unique<NoHotKeys>(), {}};
-        });
+        [&] { return createX11HotKeys(mainQueue_, x11()); },
+        [] { return always<HotKeyService, NoHotKeys>(); });
 }
 
-Chosen<PopupLayer> openPopupLayer(MainQueue &mainQueue) {
-    return firstOf<PopupLayer>(mainQueue,
-                               [](MainQueue &queue) { return createWaylandPopupLayer(queue); });
+Chosen<PopupLayer> Backends::openPopupLayer() {
+    return firstOf<PopupLayer>([&] { return createWaylandPopupLayer(mainQueue_, io_); });
 }
 
-std::unique_ptr<TaskbarHint> openTaskbarHint() {
-    return qtIsOnX11() ? createX11TaskbarHint() : nullptr;
+std::unique_ptr<TaskbarHint> Backends::openTaskbarHint() {
+    return qtIsOnX11() ? createX11TaskbarHint(x11()) : nullptr;
 }
 
-std::unique_ptr<TrayWatch> openTrayWatch(MainQueue &mainQueue, std::function<void()> appeared) {
-    return qtIsOnX11() ? createX11TrayWatch(mainQueue, std::move(appeared)) : nullptr;
+std::unique_ptr<TrayWatch> Backends::openTrayWatch(std::function<void()> appeared) {
+    return qtIsOnX11() ? createX11TrayWatch(mainQueue_, x11(), std::move(appeared)) : nullptr;
 }
 
 bool keyboardCanBeGrabbed() {

@@ -10,6 +10,7 @@
 #include "platform/PopupLayer.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
+#include "platform/linux/IoThread.h"
 
 #include <functional>
 #include <memory>
@@ -18,6 +19,10 @@
 
 namespace nerlo::platform {
 
+namespace x11 {
+class SharedConnection;
+}
+
 template <class Interface>
 struct Chosen {
     std::unique_ptr<Interface> backend;
@@ -25,33 +30,56 @@ struct Chosen {
     std::vector<std::string> declined;
 };
 
-// Wayland, then X11 (under a Wayland compositor: its Xwayland). Null without any display. The main
-// queue must outlive the result.
-Chosen<Pasteboard> openPasteboard(MainQueue &mainQueue);
+// What is opened shares one thread and, but for the clipboard, one connection to the X server.
+class Backends {
+  public:
+    // Main thread; throws std::system_error if the system has no threads or descriptors left. The
+    // main queue must outlive it, and it must outlive all that it opened.
+    explicit Backends(MainQueue &mainQueue);
+    ~Backends();
+    Backends(const Backends &) = delete;
+    Backends &operator=(const Backends &) = delete;
 
-// In the same order; the last never declines and never learns of an application.
-Chosen<ActiveApplication> openActiveApplication(MainQueue &mainQueue);
+    // For others that wait for the system.
+    IoThread &io() { return io_; }
 
-// In the same order; the last never declines and is the us layout.
-Chosen<KeyboardLayout> openKeyboardLayout(MainQueue &mainQueue);
+    // Wayland, then X11 (under a Wayland compositor: its Xwayland). Null without any display.
+    Chosen<Pasteboard> openPasteboard();
 
-// On Wayland the desktop portal, else X11; the last never declines and refuses every hot key. Both
-// references must outlive the result. `applicationId` is that of the desktop file.
-Chosen<HotKeyService> openHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout,
-                                  const std::string &applicationId);
+    // In the same order; the last never declines and never learns of an application.
+    Chosen<ActiveApplication> openActiveApplication();
 
-// Null where the toolkit's own windows are the best there is. The main queue must outlive the
-// result.
-Chosen<PopupLayer> openPopupLayer(MainQueue &mainQueue);
+    // In the same order; the last never declines and is the us layout.
+    Chosen<KeyboardLayout> openKeyboardLayout();
+
+    // On Wayland the desktop portal, else X11; the last never declines and refuses every hot key.
+    // `layout` must outlive the result. `applicationId` is that of the desktop file.
+    Chosen<HotKeyService> openHotKeys(const KeyboardLayout &layout,
+                                      const std::string &applicationId);
+
+    // Null where the toolkit's own windows are the best there is.
+    Chosen<PopupLayer> openPopupLayer();
+
+    // The rest needs the toolkit's application object.
+
+    // Null where programs cannot keep a window out of the taskbar.
+    std::unique_ptr<TaskbarHint> openTaskbarHint();
+
+    // `appeared` runs on the main queue, at most once: soon if there is a tray already, else when
+    // one comes. Null where there are no trays of this kind.
+    std::unique_ptr<TrayWatch> openTrayWatch(std::function<void()> appeared);
+
+  private:
+    // Opened when it is first needed, and closed with the last that uses it. Null without a
+    // display.
+    std::shared_ptr<x11::SharedConnection> x11();
+
+    MainQueue &mainQueue_;
+    IoThread io_;
+    std::weak_ptr<x11::SharedConnection> x11_;
+};
 
 // The rest is for the main thread, once the toolkit's application object is there.
-
-// Null where programs cannot keep a window out of the taskbar.
-std::unique_ptr<TaskbarHint> openTaskbarHint();
-
-// `appeared` runs on the main queue, at most once: soon if there is a tray already, else when one
-// comes. Null where there are no trays of this kind.
-std::unique_ptr<TrayWatch> openTrayWatch(MainQueue &mainQueue, std::function<void()> appeared);
 
 // Whether a window of the toolkit can take the whole keyboard for a while.
 bool keyboardCanBeGrabbed();

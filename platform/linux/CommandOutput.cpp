@@ -27,12 +27,23 @@ pid_t start(const std::vector<std::string> &command, int output) {
     if (posix_spawn_file_actions_init(&actions) != 0) {
         return -1;
     }
+    posix_spawnattr_t attributes;
+    if (posix_spawnattr_init(&attributes) != 0) {
+        posix_spawn_file_actions_destroy(&actions);
+        return -1;
+    }
+    // Signals are blocked in the thread that this runs on, which is no business of the command's.
+    sigset_t none;
+    sigemptyset(&none);
     pid_t pid = -1;
     const bool started =
+        posix_spawnattr_setsigmask(&attributes, &none) == 0 &&
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK) == 0 &&
         posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0) == 0 &&
         posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO) == 0 &&
         posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0) == 0 &&
-        posix_spawnp(&pid, arguments[0], &actions, nullptr, arguments.data(), environ) == 0;
+        posix_spawnp(&pid, arguments[0], &actions, &attributes, arguments.data(), environ) == 0;
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     return started ? pid : -1;
 }

@@ -2,58 +2,70 @@
 
 #include "storage/SafeFile.h"
 
-#include <poll.h>
-#include <sys/eventfd.h>
+#include <array>
+#include <atomic>
+#include <cstring>
+#include <memory>
+#include <set>
+#include <utility>
+
+#include <sys/epoll.h>
 #include <sys/inotify.h>
 #include <unistd.h>
 
 namespace nerlo::platform {
 
-FolderWatch::FolderWatch(const std::string &folder, MainQueue &queue, std::function<void()> changed)
-    : shared_(std::make_shared<Shared>()) {
-    shared_->changed = std::move(changed);
-    storage::makeFolder(folder);
-    events_ = ::inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
-    stop_ = ::eventfd(0, EFD_CLOEXEC);
-    constexpr std::uint32_t mask = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE;
-    if (events_ >= 0 && stop_ >= 0 && ::inotify_add_watch(events_, folder.c_str(), mask) >= 0) {
-        thread_ = std::thread([this, &queue, shared = std::weak_ptr(shared_)] {
-            run(events_, stop_, queue, shared);
-        });
-    }
+FolderWatch::FolderWatch(IoThread &io, MainQueue &queue)
+    : io_(io)
+    , queue_(queue)
+    , events_(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {
+    io_.run([this] { watch_ = io_.watch(events_, EPOLLIN, [this](auto) { read(); }); });
 }
 
 FolderWatch::~FolderWatch() {
-    if (thread_.joinable()) {
-        ::eventfd_write(stop_, 1);
-        thread_.join();
-    }
-    for (const int file : {events_, stop_}) {
-        if (file >= 0) {
-            ::close(file);
-        }
+    io_.run([this] { watch_ = {}; });
+    if (events_ >= 0) {
+        close(events_);
     }
 }
 
-void FolderWatch::run(int events, int stop, MainQueue &queue, const std::weak_ptr<Shared> &shared) {
-    for (;;) {
-        pollfd files[] = {{events, POLLIN, 0}, {stop, POLLIN, 0}};
-        ::poll(files, 2, -1);
-        if (files[1].revents != 0) {
-            return;
-        }
-        char buffer[4096];
-        if (::read(events, buffer, sizeof buffer) <= 0) {
-            continue;
-        }
-        const auto alive = shared.lock();
-        if (alive && !alive->posted.exchange(true)) {
-            queue.post([shared] {
-                if (const auto told = shared.lock()) {
-                    told->posted = false;
-                    told->changed();
+bool FolderWatch::add(const std::string &folder, std::function<void()> changed) {
+    storage::makeFolder(folder);
+    const auto posted = std::make_shared<std::atomic<bool>>(false); // a call is on its way
+    const auto call = alive_.guardOn(queue_, [posted, changed = std::move(changed)] {
+        *posted = false;
+        changed();
+    });
+    bool watched = false;
+    io_.run([&] {
+        constexpr std::uint32_t mask = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE;
+        const int number = inotify_add_watch(events_, folder.c_str(), mask);
+        watched = watch_ && number >= 0;
+        if (watched) {
+            folders_.emplace(number, [posted, call] {
+                if (!posted->exchange(true)) {
+                    call();
                 }
             });
+        }
+    });
+    return watched;
+}
+
+void FolderWatch::read() {
+    alignas(inotify_event) std::array<char, 4096> buffer;
+    const ssize_t got = ::read(events_, buffer.data(), buffer.size());
+    std::set<int> changed;
+    for (ssize_t at = 0; at < got;) {
+        inotify_event event;
+        std::memcpy(&event, buffer.data() + at, sizeof event);
+        changed.insert(event.wd);
+        at += static_cast<ssize_t>(sizeof event + event.len);
+    }
+    for (const auto &[number, tell] : folders_) {
+        // After an overflow, which has the number -1, it may be any of them.
+        if (changed.contains(number) || changed.contains(-1)) {
+            tell();
         }
     }
 }

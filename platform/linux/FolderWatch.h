@@ -1,40 +1,41 @@
 // Tells when something in a folder was written, made, renamed or removed, by any process.
 #pragma once
 
+#include "platform/Alive.h"
 #include "platform/MainQueue.h"
+#include "platform/linux/IoThread.h"
 
-#include <atomic>
 #include <functional>
-#include <memory>
+#include <map>
 #include <string>
-#include <thread>
 
 namespace nerlo::platform {
 
+// For any number of folders. Main thread.
 class FolderWatch {
   public:
-    // Calls `changed` on the main queue, some time after each change; several changes may give one
-    // call. The folder is made if it is not there. Where the system grants no watch, nothing is
-    // ever told. Main thread.
-    FolderWatch(const std::string &folder, MainQueue &queue, std::function<void()> changed);
-    // No call comes after this. The queue must still be there.
+    // Both must outlive this.
+    FolderWatch(IoThread &io, MainQueue &queue);
+    // No call comes after this.
     ~FolderWatch();
     FolderWatch(const FolderWatch &) = delete;
     FolderWatch &operator=(const FolderWatch &) = delete;
 
-    bool watching() const { return thread_.joinable(); }
+    // Calls `changed` on the main queue, some time after each change; several changes may give one
+    // call. The folder, an absolute path, is made if it is not there. False where the system grants
+    // no watch; then nothing is ever told.
+    bool add(const std::string &folder, std::function<void()> changed);
 
   private:
-    struct Shared {
-        std::function<void()> changed;
-        std::atomic<bool> posted = false; // a call is on its way
-    };
-    static void run(int events, int stop, MainQueue &queue, const std::weak_ptr<Shared> &shared);
+    // On the I/O thread, as are the members below it.
+    void read();
 
-    std::shared_ptr<Shared> shared_;
-    int events_ = -1;
-    int stop_ = -1;
-    std::thread thread_;
+    IoThread &io_;
+    MainQueue &queue_;
+    const int events_; // inotify
+    Alive alive_;
+    std::multimap<int, std::function<void()>> folders_; // what tells, by the number of the watch
+    IoThread::Watch watch_;
 };
 
 } // namespace nerlo::platform

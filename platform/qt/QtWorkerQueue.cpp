@@ -1,5 +1,7 @@
 #include "platform/qt/QtWorkerQueue.h"
 
+#include "platform/linux/NamedThread.h"
+
 #include <utility>
 
 namespace nerlo::platform {
@@ -15,7 +17,11 @@ QtWorkerQueue::~QtWorkerQueue() {
 }
 
 void QtWorkerQueue::post(std::function<void()> task) {
-    pool_.start(std::move(task));
+    const SignalsBlocked inherited; // by a thread that this may start
+    pool_.start([task = std::move(task)] {
+        nameThisThread("nerlo-worker");
+        task();
+    });
 }
 
 } // namespace nerlo::platform

@@ -4,15 +4,11 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
-#include <cstdint>
-#include <optional>
+#include <future>
 #include <utility>
 
 #include <poll.h>
-#include <pthread.h>
-#include <sys/eventfd.h>
-#include <unistd.h>
+#include <sys/epoll.h>
 #include <wayland-client.h>
 
 namespace nerlo::platform::wayland {
@@ -64,23 +60,18 @@ std::string EventLoop::defaultDisplay() {
     return name.empty() && session ? "wayland-0" : name;
 }
 
-std::unique_ptr<EventLoop> EventLoop::connect(const std::string &displayName) {
+std::unique_ptr<EventLoop> EventLoop::connect(IoThread &io, const std::string &displayName) {
     // An empty name would mean the default one to libwayland.
     wl_display *display = displayName.empty() ? nullptr : wl_display_connect(displayName.c_str());
-    if (!display) {
-        return nullptr;
-    }
-    std::unique_ptr<EventLoop> loop(new EventLoop(displayName, display));
-    return loop->wake_ ? std::move(loop) : nullptr;
+    return display ? std::unique_ptr<EventLoop>(new EventLoop(io, displayName, display)) : nullptr;
 }
 
-EventLoop::EventLoop(std::string displayName, wl_display *display)
-    : displayName_(std::move(displayName))
-    , display_(display)
-    , wake_(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
+EventLoop::EventLoop(IoThread &io, std::string displayName, wl_display *display)
+    : io_(io)
+    , displayName_(std::move(displayName))
+    , display_(display) {}
 
 EventLoop::~EventLoop() {
-    transfers_.clear();
     roundTrips_.clear();
     wl_display_disconnect(display_);
 }
@@ -88,75 +79,138 @@ EventLoop::~EventLoop() {
 bool EventLoop::roundTrip(Clock::duration limit) {
     std::optional<bool> result;
     afterRoundTrip(limit, [&result](bool answered) { result = answered; });
+    const auto end = Clock::now() + limit;
     while (!result) {
-        turn();
+        if (connected_) {
+            flush();
+        }
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+        // poll() passes over a negative descriptor.
+        pollfd waiting{connected_ ? wl_display_get_fd(display_) : -1,
+                       static_cast<short>(flushBlocked_ ? POLLIN | POLLOUT : POLLIN), 0};
+        const bool ready =
+            poll(&waiting, 1, connected_ ? static_cast<int>(std::max<std::int64_t>(left, 0)) : 0) >
+            0;
+        if (ready && (waiting.revents & ~POLLOUT) != 0) {
+            read();
+        }
+        expireRoundTrips(Clock::now());
     }
     return *result;
 }
 
 void EventLoop::start(Watcher watcher) {
     watcher_ = std::move(watcher);
-    if (!connected_) {
-        post([this] { lose(); });
-    }
-    // Signals are the main thread's; and with SIGPIPE blocked here, a reader that closes its pipe
-    // is an error of write().
-    sigset_t all;
-    sigset_t before;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before);
-    thread_ = std::thread([this] { run(); });
-    pthread_setname_np(thread_.native_handle(), "wayland");
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    started_ = true;
+    post([this] {
+        if (connected_) {
+            watchDisplay();
+        } else {
+            lose();
+        }
+    });
 }
 
 void EventLoop::stop(Clock::time_point atLeast, Clock::time_point atMost) {
-    if (!thread_.joinable()) {
+    if (!started_) {
         return;
     }
-    post([this, atLeast, atMost] {
-        endAtLeast_ = std::min(atLeast, atMost);
-        endAtMost_ = atMost;
+    const auto reached = std::make_shared<std::promise<void>>();
+    const auto end = reached->get_future();
+    post([this, atLeast, atMost, reached] {
+        end_ = End{std::min(atLeast, atMost), atMost, [reached] { reached->set_value(); }};
         abandonIncoming();
     });
-    thread_.join();
+    end.wait();
 }
 
 void EventLoop::post(Task task) {
-    const std::lock_guard lock(mutex_);
-    tasks_.push_back(std::move(task));
-    const std::uint64_t one = 1;
-    // Cannot fail: the counter would have to overflow.
-    [[maybe_unused]] const ssize_t written = write(wake_.get(), &one, sizeof one);
+    io_.post([this, task = std::move(task)] {
+        task();
+        settle();
+    });
+}
+
+void EventLoop::watchDisplay() {
+    watch_ = io_.watch(wl_display_get_fd(display_), EPOLLIN, [this](std::uint32_t events) {
+        if ((events & ~EPOLLOUT) != 0) {
+            read();
+        }
+        settle();
+    });
+}
+
+void EventLoop::settle() {
+    if (connected_) {
+        const bool wasBlocked = flushBlocked_;
+        flush();
+        if (flushBlocked_ != wasBlocked) {
+            io_.setEvents(watch_, flushBlocked_ ? EPOLLIN | EPOLLOUT : EPOLLIN);
+        }
+    }
+    if (!endReached()) {
+        const auto next = nextDeadline();
+        timer_ = next == Clock::time_point::max() ? IoThread::Timer()
+                                                  : io_.at(next, [this] { expire(); });
+        return;
+    }
+    abandonIncoming();
+    transfers_.clear();
+    watch_ = {};
+    timer_ = {};
+    // The loop may be gone as soon as this is told.
+    const auto reached = std::move(end_->reached);
+    reached();
 }
 
 void EventLoop::add(std::unique_ptr<Transfer> transfer) {
-    transfers_.push_back(std::move(transfer));
+    auto &running = transfers_.emplace_back();
+    running.transfer = std::move(transfer);
+    const auto &added = *running.transfer;
+    running.watch =
+        io_.watch(added.fd(), static_cast<std::uint32_t>(added.events()), [this, &added](auto) {
+            advance(added);
+            settle();
+        });
+}
+
+// A transfer that ends may start another one, or end others.
+void EventLoop::advance(const Transfer &transfer) {
+    std::list<Running> served;
+    served.splice(served.end(), transfers_,
+                  std::ranges::find_if(transfers_, [&](const Running &running) {
+                      return running.transfer.get() == &transfer;
+                  }));
+    if (served.front().transfer->advance()) {
+        transfers_.splice(transfers_.end(), served);
+    }
 }
 
 void EventLoop::limitOutgoing(std::size_t most) {
-    const auto outgoing = [](const auto &transfer) { return transfer->events() == POLLOUT; };
+    const auto outgoing = [](const Running &running) {
+        return running.transfer->events() == POLLOUT;
+    };
     while (static_cast<std::size_t>(std::ranges::count_if(transfers_, outgoing)) > most) {
         // The deadline is counted from the last byte.
-        const auto stillest = std::ranges::min_element(transfers_, {}, [&](const auto &transfer) {
-            return outgoing(transfer) ? transfer->deadline() : Clock::time_point::max();
+        const auto stillest = std::ranges::min_element(transfers_, {}, [&](const auto &running) {
+            return outgoing(running) ? running.deadline() : Clock::time_point::max();
         });
-        (*stillest)->abandon();
+        stillest->transfer->abandon();
         transfers_.erase(stillest);
     }
 }
 
 void EventLoop::abandonIncoming() {
     // Taken out of the list first: what they call may start new ones.
-    std::vector<std::unique_ptr<Transfer>> abandoned;
-    for (auto &transfer : transfers_) {
-        if (transfer->events() == POLLIN) {
-            abandoned.push_back(std::move(transfer));
+    std::list<Running> abandoned;
+    for (auto next = transfers_.begin(); next != transfers_.end();) {
+        const auto running = next++;
+        if (running->transfer->events() == POLLIN) {
+            abandoned.splice(abandoned.end(), transfers_, running);
         }
     }
-    std::erase(transfers_, nullptr);
-    for (const auto &transfer : abandoned) {
-        transfer->abandon();
+    for (const auto &running : abandoned) {
+        running.transfer->abandon();
     }
 }
 
@@ -183,138 +237,75 @@ void EventLoop::expireRoundTrips(Clock::time_point until) {
     }
 }
 
-void EventLoop::run() {
-    while (runTasks()) {
-        turn();
-        if (!connected_ && retryAt_ <= Clock::now()) {
-            reconnect();
-        }
-    }
-    abandonIncoming();
-}
-
-bool EventLoop::runTasks() {
-    std::vector<Task> tasks;
-    {
-        const std::lock_guard lock(mutex_);
-        tasks.swap(tasks_);
-    }
-    for (const Task &task : tasks) {
-        task();
-    }
+void EventLoop::expire() {
     const auto now = Clock::now();
-    return now < endAtLeast_ || (now < endAtMost_ && !transfers_.empty());
+    expireTransfers(now);
+    expireRoundTrips(now);
+    if (!connected_ && retryAt_ <= now) {
+        reconnect();
+    }
+    settle();
 }
 
-void EventLoop::turn() {
-    if (connected_) {
-        prepareRead();
-    }
-    std::vector<pollfd> waits;
-    waits.push_back({wake_.get(), POLLIN, 0});
-    // poll() passes over a negative descriptor.
-    const short compositorEvents = flushBlocked_ ? POLLIN | POLLOUT : POLLIN;
-    waits.push_back({connected_ ? wl_display_get_fd(display_) : -1, compositorEvents, 0});
-    for (const auto &transfer : transfers_) {
-        waits.push_back({transfer->fd(), transfer->events(), 0});
-    }
-    if (poll(waits.data(), waits.size(), pollTimeout()) < 0) {
-        for (pollfd &wait : waits) {
-            wait.revents = 0;
+void EventLoop::expireTransfers(Clock::time_point until) {
+    std::list<Running> expired;
+    for (auto next = transfers_.begin(); next != transfers_.end();) {
+        const auto running = next++;
+        if (running->deadline() <= until) {
+            expired.splice(expired.end(), transfers_, running);
         }
     }
-    if (waits[0].revents) {
-        std::uint64_t count = 0;
-        [[maybe_unused]] const ssize_t taken = read(wake_.get(), &count, sizeof count);
+    for (const auto &running : expired) {
+        running.transfer->abandon();
     }
-    std::vector<short> results;
-    for (auto wait = waits.begin() + 2; wait != waits.end(); ++wait) {
-        results.push_back(wait->revents);
-    }
-    advanceTransfers(results);
-    if (connected_) {
-        finishRead(waits[1].revents);
-    }
-    expireRoundTrips(Clock::now());
 }
 
-void EventLoop::prepareRead() {
+void EventLoop::flush() {
+    flushBlocked_ = false;
+    if (wl_display_flush(display_) < 0) {
+        if (errno == EAGAIN) {
+            flushBlocked_ = true;
+        } else if (errno != EPIPE) { // after EPIPE the compositor's last words are still to be read
+            lose();
+        }
+    }
+}
+
+void EventLoop::read() {
     while (wl_display_prepare_read(display_) != 0) {
         if (wl_display_dispatch_pending(display_) < 0) {
             lose();
             return;
         }
     }
-    flushBlocked_ = false;
-    if (wl_display_flush(display_) < 0) {
-        if (errno == EAGAIN) {
-            flushBlocked_ = true;
-        } else if (errno != EPIPE) { // after EPIPE the compositor's last words are still to be read
-            wl_display_cancel_read(display_);
-            lose();
-        }
-    }
-}
-
-void EventLoop::finishRead(short results) {
-    if (results & (POLLIN | POLLHUP | POLLERR | POLLNVAL)) {
-        if (wl_display_read_events(display_) < 0) {
-            lose();
-            return;
-        }
-    } else {
-        wl_display_cancel_read(display_);
-    }
-    if (wl_display_dispatch_pending(display_) < 0) {
+    if (wl_display_read_events(display_) < 0 || wl_display_dispatch_pending(display_) < 0) {
         lose();
     }
 }
 
-// A transfer may start another one when it ends, and so change the list.
-void EventLoop::advanceTransfers(const std::vector<short> &results) {
-    const auto now = Clock::now();
-    std::vector<std::unique_ptr<Transfer>> served;
-    served.swap(transfers_);
-    for (std::size_t i = 0; i < served.size(); ++i) {
-        if (results[i] != 0 && !served[i]->advance()) {
-            served[i] = nullptr;
-        } else if (served[i]->deadline() <= now) {
-            served[i]->abandon();
-            served[i] = nullptr;
-        }
+Clock::time_point EventLoop::nextDeadline() const {
+    auto next = retryAt_;
+    if (end_) {
+        next = std::min(next, Clock::now() < end_->atLeast ? end_->atLeast : end_->atMost);
     }
-    std::erase(served, nullptr);
-    served.insert(served.end(), std::make_move_iterator(transfers_.begin()),
-                  std::make_move_iterator(transfers_.end()));
-    transfers_ = std::move(served);
-}
-
-int EventLoop::pollTimeout() const {
-    auto next = endAtLeast_;
-    if (endAtMost_ != Clock::time_point::max()) {
-        next = Clock::now() < endAtLeast_ ? endAtLeast_ : endAtMost_;
-    }
-    for (const auto &transfer : transfers_) {
-        next = std::min(next, transfer->deadline());
+    for (const auto &running : transfers_) {
+        next = std::min(next, running.deadline());
     }
     for (const auto &trip : roundTrips_) {
         next = std::min(next, trip->deadline);
     }
-    next = std::min(next, retryAt_);
-    if (next == Clock::time_point::max()) {
-        return -1;
-    }
+    return next;
+}
+
+bool EventLoop::endReached() const {
     const auto now = Clock::now();
-    if (next <= now) {
-        return 0;
-    }
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(next - now).count();
-    return static_cast<int>(std::min<std::int64_t>(left, 60'000));
+    return end_ && now >= end_->atLeast && (now >= end_->atMost || transfers_.empty());
 }
 
 void EventLoop::lose() {
     connected_ = false;
     flushBlocked_ = false;
+    watch_ = {};
     for (const auto &trip : roundTrips_) {
         trip->deadline = Clock::time_point::min();
     }
@@ -341,6 +332,7 @@ void EventLoop::reconnect() {
     wl_display_disconnect(std::exchange(display_, display));
     connected_ = true;
     connectedSince_ = Clock::now();
+    watchDisplay();
     if (!watcher_.restored() && connected_) {
         lose();
     }

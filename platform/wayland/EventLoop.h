@@ -1,20 +1,21 @@
-// A thread that serves one connection to a compositor, and the transfers that belong to it.
+// Serves one connection to a compositor, and the transfers that belong to it, on the I/O thread.
 //
-// The thread sleeps without a time limit until the compositor, a transfer or a posted task has
-// something; only a running transfer gives it a deadline. A compositor ends the connection of a
-// client that does not keep pace with it, which one program with an absurd number of formats can
-// bring about; so a lost connection is taken up again, at growing intervals, as long as there is a
-// compositor.
+// A compositor ends the connection of a client that does not keep pace with it, which one program
+// with an absurd number of formats can bring about; so a lost connection is taken up again, at
+// growing intervals, as long as there is a compositor.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <mutex>
-#include <string>
-#include <thread>
-#include <vector>
-
+#include "platform/linux/IoThread.h"
 #include "platform/wayland/Transfer.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <list>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 struct wl_display;
 
@@ -24,7 +25,7 @@ class EventLoop {
   public:
     using Task = std::function<void()>;
 
-    // What becomes of the connection; all on the loop's thread.
+    // What becomes of the connection; all on the I/O thread.
     struct Watcher {
         // It ended: the objects on it are dead and have to be destroyed.
         Task lost;
@@ -35,7 +36,8 @@ class EventLoop {
     };
 
     // Null when there is no compositor at `displayName` (a name below XDG_RUNTIME_DIR or a path).
-    static std::unique_ptr<EventLoop> connect(const std::string &displayName);
+    // `io` must outlive it.
+    static std::unique_ptr<EventLoop> connect(IoThread &io, const std::string &displayName);
     // The display that the environment names; empty for none. A compositor under the default name
     // counts only in a Wayland session: in another it is some nested one, and not the desktop.
     static std::string defaultDisplay();
@@ -47,16 +49,19 @@ class EventLoop {
     // the compositor has handled every request made so far. False if it has not after `limit` or is
     // gone.
     bool roundTrip(Clock::duration limit);
-    // Without `watcher.restored` a lost connection stays lost. Called once, before posts.
+    // From now on the I/O thread serves the connection. Without `watcher.restored` a lost
+    // connection stays lost. Called once, before posts.
     void start(Watcher watcher);
-    // Serves on until `atLeast`, then gives outgoing transfers until `atMost` to finish, and joins
-    // the thread. The connection still exists after it, for the caller to destroy its objects.
+    // Serves on until `atLeast`, then gives outgoing transfers until `atMost` to finish, and waits
+    // for the end of it; nothing runs on the I/O thread any more then. The connection still exists,
+    // for the caller to destroy its objects.
     void stop(Clock::time_point atLeast, Clock::time_point atMost);
 
-    // Any thread, and also after the connection was lost; tasks run in order on the thread.
+    // Runs `task` on the I/O thread. Any thread, also after the connection was lost, but not after
+    // stop().
     void post(Task task);
 
-    // The rest is for the thread alone.
+    // The rest is for the I/O thread alone.
 
     wl_display *display() const { return display_; }
     bool connected() const { return connected_; }
@@ -70,43 +75,55 @@ class EventLoop {
     void afterRoundTrip(Clock::duration limit, std::function<void(bool answered)> task);
 
   private:
-    EventLoop(std::string displayName, wl_display *display);
-
     struct RoundTrip;
+    struct Running {
+        std::unique_ptr<Transfer> transfer;
+        IoThread::Watch watch; // none if the system has no more of them
 
-    void run();
-    // Runs posted tasks; false when the thread is to end.
-    bool runTasks();
-    // One sleep, and then everything that is ready.
-    void turn();
-    void prepareRead();
-    void finishRead(short results);
-    void advanceTransfers(const std::vector<short> &results);
-    void finish(RoundTrip &trip, bool answered);
+        Clock::time_point deadline() const {
+            return watch ? transfer->deadline() : Clock::time_point::min();
+        }
+    };
+    // What stop() asks for.
+    struct End {
+        Clock::time_point atLeast;
+        Clock::time_point atMost;
+        std::function<void()> reached;
+    };
+
+    EventLoop(IoThread &io, std::string displayName, wl_display *display);
+
+    void watchDisplay();
+    // After everything that runs on the I/O thread: sends what was asked for, and sees to it that
+    // what is to come wakes the thread. At the end that was asked for, nothing may follow it.
+    void settle();
+    void flush();
+    void read();
+    void advance(const Transfer &transfer);
+    void expire();
+    void expireTransfers(Clock::time_point until);
     void expireRoundTrips(Clock::time_point until);
-    int pollTimeout() const;
+    void finish(RoundTrip &trip, bool answered);
+    Clock::time_point nextDeadline() const;
+    bool endReached() const;
     void lose();
     void reconnect();
 
+    IoThread &io_;
     const std::string displayName_;
     wl_display *display_;
-    FileDescriptor wake_;
+    bool started_ = false;
     bool connected_ = true;
     bool flushBlocked_ = false;
-    std::vector<std::unique_ptr<Transfer>> transfers_;
+    IoThread::Watch watch_;
+    IoThread::Timer timer_;
+    std::list<Running> transfers_;
     std::vector<std::unique_ptr<RoundTrip>> roundTrips_;
     Watcher watcher_;
     Clock::time_point connectedSince_ = Clock::now();
     Clock::duration retryDelay_{};
     Clock::time_point retryAt_ = Clock::time_point::max();
-    // Set once the thread was asked to end; nothing else waits for a time.
-    Clock::time_point endAtLeast_ = Clock::time_point::max();
-    Clock::time_point endAtMost_ = Clock::time_point::max();
-
-    std::mutex mutex_;
-    std::vector<Task> tasks_;
-
-    std::thread thread_;
+    std::optional<End> end_;
 };
 
 } // namespace nerlo::platform::wayland

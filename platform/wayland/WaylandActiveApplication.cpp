@@ -22,8 +22,9 @@ using wayland::Toplevels;
 class Tracking {
   public:
     // Null, and why in `declined`, without a compositor that can do it.
-    static std::unique_ptr<Tracking> begin(const std::string &display, std::string &declined) {
-        auto loop = EventLoop::connect(display);
+    static std::unique_ptr<Tracking> begin(IoThread &io, const std::string &display,
+                                           std::string &declined) {
+        auto loop = EventLoop::connect(io, display);
         if (!loop) {
             declined = "there is no Wayland compositor";
             return nullptr;
@@ -47,7 +48,7 @@ class Tracking {
         toplevels_.reset();
     }
 
-    // `activated` runs on a thread of its own.
+    // `activated` runs on the I/O thread.
     void report(Toplevels::Activated activated) {
         toplevels_->report(std::move(activated));
         loop_->start({});
@@ -64,8 +65,9 @@ class Tracking {
 
 class WaylandActiveApplication final : public ActiveApplication {
   public:
-    WaylandActiveApplication(MainQueue &mainQueue, std::string display)
+    WaylandActiveApplication(MainQueue &mainQueue, IoThread &io, std::string display)
         : mainQueue_(mainQueue)
+        , io_(io)
         , display_(std::move(display)) {}
 
     void setActivatedHandler(Handler activated) override {
@@ -75,7 +77,7 @@ class WaylandActiveApplication final : public ActiveApplication {
             return;
         }
         std::string declined;
-        tracking_ = Tracking::begin(display_, declined);
+        tracking_ = Tracking::begin(io_, display_, declined);
         if (!tracking_) {
             return;
         }
@@ -90,6 +92,7 @@ class WaylandActiveApplication final : public ActiveApplication {
 
   private:
     MainQueue &mainQueue_;
+    IoThread &io_;
     std::string display_;
     Alive alive_; // of one handler after the other
     std::unique_ptr<Tracking> tracking_;
@@ -97,14 +100,14 @@ class WaylandActiveApplication final : public ActiveApplication {
 
 } // namespace
 
-Created<ActiveApplication> createWaylandActiveApplication(MainQueue &mainQueue,
+Created<ActiveApplication> createWaylandActiveApplication(MainQueue &mainQueue, IoThread &io,
                                                           const std::string &display) {
     const std::string name = display.empty() ? EventLoop::defaultDisplay() : display;
     std::string declined;
-    if (!Tracking::begin(name, declined)) {
+    if (!Tracking::begin(io, name, declined)) {
         return {nullptr, std::move(declined)};
     }
-    return {std::make_unique<WaylandActiveApplication>(mainQueue, name), {}};
+    return {std::make_unique<WaylandActiveApplication>(mainQueue, io, name), {}};
 }
 
 } // namespace nerlo::platform

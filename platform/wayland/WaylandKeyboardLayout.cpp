@@ -39,7 +39,7 @@ std::shared_ptr<const xkb::Keymap> readKeymap(int fd, std::uint32_t size) {
     return xkb::Keymap::fromText(text);
 }
 
-// The keyboard of the first seat; lives on the thread of its connection.
+// The keyboard of the first seat; lives on the I/O thread once its connection is served there.
 class Keyboard {
   public:
     explicit Keyboard(wl_display *display)
@@ -177,9 +177,9 @@ class WaylandKeyboardLayout final : public KeyboardLayout {
 
 } // namespace
 
-Created<KeyboardLayout> createWaylandKeyboardLayout(MainQueue &mainQueue,
+Created<KeyboardLayout> createWaylandKeyboardLayout(MainQueue &mainQueue, IoThread &io,
                                                     const std::string &display) {
-    auto loop = EventLoop::connect(display.empty() ? EventLoop::defaultDisplay() : display);
+    auto loop = EventLoop::connect(io, display.empty() ? EventLoop::defaultDisplay() : display);
     if (!loop) {
         return {nullptr, "there is no Wayland compositor"};
     }

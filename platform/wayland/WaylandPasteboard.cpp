@@ -110,7 +110,7 @@ class WaylandPasteboard final : public Pasteboard {
         }
     }
 
-    // On the loop's thread.
+    // On the I/O thread.
     void report(ChangeCount count) {
         raise(count);
         if (!changeReported_.exchange(true)) {
@@ -136,9 +136,10 @@ class WaylandPasteboard final : public Pasteboard {
 
 } // namespace
 
-Created<Pasteboard> createWaylandPasteboard(MainQueue &mainQueue, const std::string &display) {
+Created<Pasteboard> createWaylandPasteboard(MainQueue &mainQueue, IoThread &io,
+                                            const std::string &display) {
     const std::string name = display.empty() ? EventLoop::defaultDisplay() : display;
-    auto loop = EventLoop::connect(name);
+    auto loop = EventLoop::connect(io, name);
     if (!loop) {
         return {nullptr, "there is no Wayland compositor"};
     }

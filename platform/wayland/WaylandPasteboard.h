@@ -6,13 +6,16 @@
 #include "platform/Created.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
+#include "platform/linux/IoThread.h"
 
 #include <string>
 
 namespace nerlo::platform {
 
 // Waits for the compositor's first answers, for at most twice the stall limit. `display` is the
-// name of a compositor's socket; empty for the one that the environment names.
-Created<Pasteboard> createWaylandPasteboard(MainQueue &mainQueue, const std::string &display = {});
+// name of a compositor's socket; empty for the one that the environment names. Both references must
+// outlive the result.
+Created<Pasteboard> createWaylandPasteboard(MainQueue &mainQueue, IoThread &io,
+                                            const std::string &display = {});
 
 } // namespace nerlo::platform

@@ -20,8 +20,8 @@ using wayland::LayerPopup;
 // Who waits longer for the popup has looked away.
 constexpr auto pointerWithin = 200ms;
 
-// A connection and a thread that live only while the popup is shown: nothing of it can wake an idle
-// program, or be left over when a compositor misbehaves.
+// A connection that lives only while the popup is shown: nothing of it can wake an idle program, or
+// be left over when a compositor misbehaves.
 class WaylandShownPopup final : public ShownPopup {
   public:
     WaylandShownPopup(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop, Popup popup)
@@ -64,12 +64,13 @@ class WaylandShownPopup final : public ShownPopup {
 
 class WaylandPopupLayer final : public PopupLayer {
   public:
-    WaylandPopupLayer(MainQueue &mainQueue, std::string display)
+    WaylandPopupLayer(MainQueue &mainQueue, IoThread &io, std::string display)
         : mainQueue_(mainQueue)
+        , io_(io)
         , display_(std::move(display)) {}
 
     std::unique_ptr<ShownPopup> show(Popup popup) override {
-        auto loop = EventLoop::connect(display_);
+        auto loop = EventLoop::connect(io_, display_);
         return loop ? std::make_unique<WaylandShownPopup>(mainQueue_, std::move(loop),
                                                           std::move(popup))
                     : nullptr;
@@ -78,14 +79,16 @@ class WaylandPopupLayer final : public PopupLayer {
 
   private:
     MainQueue &mainQueue_;
+    IoThread &io_;
     const std::string display_;
 };
 
 } // namespace
 
-Created<PopupLayer> createWaylandPopupLayer(MainQueue &mainQueue, const std::string &display) {
+Created<PopupLayer> createWaylandPopupLayer(MainQueue &mainQueue, IoThread &io,
+                                            const std::string &display) {
     const std::string name = display.empty() ? EventLoop::defaultDisplay() : display;
-    const auto loop = EventLoop::connect(name);
+    const auto loop = EventLoop::connect(io, name);
     if (!loop) {
         return {nullptr, "there is no Wayland compositor"};
     }
@@ -97,7 +100,7 @@ Created<PopupLayer> createWaylandPopupLayer(MainQueue &mainQueue, const std::str
     if (!surface.available()) {
         return {nullptr, "the Wayland compositor has no layer shell"};
     }
-    return {std::make_unique<WaylandPopupLayer>(mainQueue, name), {}};
+    return {std::make_unique<WaylandPopupLayer>(mainQueue, io, name), {}};
 }
 
 } // namespace nerlo::platform

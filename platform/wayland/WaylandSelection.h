@@ -1,7 +1,7 @@
 // The clipboard of one seat, spoken to through data-control: what it holds, reading it, replacing
 // it.
 //
-// Everything but the constructor, prepare() and the destructor runs on the event loop's thread, and
+// Everything but the constructor, prepare() and the destructor runs on the I/O thread, and
 // so do all handlers.
 #pragma once
 
@@ -27,7 +27,7 @@ class WaylandSelection final : private DeviceEvents, private OfferEvents, privat
     // `replaced` gets the new count when another program replaced the content. The count of an own
     // write goes to that write's handler instead.
     WaylandSelection(EventLoop &loop, std::function<void(ChangeCount)> replaced);
-    // The loop's thread must not be running.
+    // The loop must have been stopped if it was started.
     ~WaylandSelection();
 
     // Where the loop allows round trips: takes up the protocol, and learns what the clipboard

@@ -33,6 +33,9 @@ struct Property {
     std::vector<std::uint32_t> words() const;
 };
 
+// Why a backend declines without one.
+inline constexpr const char *noDisplay = "no X display";
+
 class Connection {
   public:
     // The display in $DISPLAY; null if there is none that answers.

@@ -2,8 +2,7 @@
 
 #include "platform/Alive.h"
 #include "platform/SpreadsheetLinks.h"
-#include "platform/x11/Connection.h"
-#include "platform/x11/EventThread.h"
+#include "platform/x11/SharedConnection.h"
 
 #include <cstdint>
 #include <string_view>
@@ -14,41 +13,43 @@ namespace nerlo::platform {
 namespace {
 
 using x11::Connection;
+using x11::SharedConnection;
 
 // Two names of a program are longer than this only by malice, in bytes.
 constexpr std::size_t longestClass = 1024;
 
-// Watches the root window; lives on the event thread once that has started.
-class ActiveWindow final : public x11::EventSource {
+// Watches the root window; lives on the I/O thread. There only while somebody listens: every change
+// of the root window's properties wakes it.
+class ActiveWindow final : public SharedConnection::Listener {
   public:
-    ActiveWindow(std::unique_ptr<Connection> connection, ActiveApplication::Handler activated)
-        : connection_(std::move(connection))
+    ActiveWindow(SharedConnection &shared, ActiveApplication::Handler activated)
+        : shared_(shared)
+        , connection_(shared.connection())
         , activated_(std::move(activated))
-        , activeWindow_(connection_->atom("_NET_ACTIVE_WINDOW")) {
-        const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-        xcb_change_window_attributes(connection_->get(), connection_->screen().root,
-                                     XCB_CW_EVENT_MASK, &mask);
+        , activeWindow_(connection_.atom("_NET_ACTIVE_WINDOW")) {
+        shared_.add(*this);
         window_ = inFront();
     }
+    ~ActiveWindow() { shared_.remove(*this); }
+    ActiveWindow(const ActiveWindow &) = delete;
+    ActiveWindow &operator=(const ActiveWindow &) = delete;
 
-    int fileDescriptor() const override {
-        return connection_->broken() ? -1 : xcb_get_file_descriptor(connection_->get());
+    std::uint32_t rootEvents() const override { return XCB_EVENT_MASK_PROPERTY_CHANGE; }
+    void handle(const xcb_generic_event_t &event) override {
+        moved_ |=
+            (event.response_type & 0x7f) == XCB_PROPERTY_NOTIFY &&
+            reinterpret_cast<const xcb_property_notify_event_t &>(event).atom == activeWindow_;
     }
-    std::optional<Clock::time_point> deadline() const override { return std::nullopt; }
-    void process() override {
-        while (const auto event = x11::Event(xcb_poll_for_event(connection_->get()))) {
-            if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY &&
-                reinterpret_cast<const xcb_property_notify_event_t &>(*event).atom ==
-                    activeWindow_) {
-                look();
-            }
+    void settle() override {
+        if (std::exchange(moved_, false)) {
+            look();
         }
     }
 
   private:
     xcb_window_t inFront() {
         const auto property =
-            connection_->property(connection_->screen().root, activeWindow_, 64, false);
+            connection_.property(connection_.screen().root, activeWindow_, 64, false);
         const auto words = property ? property->words() : std::vector<std::uint32_t>();
         return words.empty() ? xcb_window_t{XCB_NONE} : words[0];
     }
@@ -64,7 +65,7 @@ class ActiveWindow final : public x11::EventSource {
     }
 
     std::string identifierOf(xcb_window_t window) {
-        const auto property = connection_->property(window, XCB_ATOM_WM_CLASS, longestClass, false);
+        const auto property = connection_.property(window, XCB_ATOM_WM_CLASS, longestClass, false);
         if (!property) {
             return {};
         }
@@ -81,50 +82,52 @@ class ActiveWindow final : public x11::EventSource {
         return std::string(name);
     }
 
-    std::unique_ptr<Connection> connection_;
+    SharedConnection &shared_;
+    Connection &connection_;
     ActiveApplication::Handler activated_;
     xcb_atom_t activeWindow_;
-    xcb_window_t window_;
+    xcb_window_t window_ = XCB_NONE;
+    bool moved_ = false;
 };
 
 class X11ActiveApplication final : public ActiveApplication {
   public:
-    explicit X11ActiveApplication(MainQueue &mainQueue)
-        : mainQueue_(mainQueue) {}
+    X11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared)
+        : mainQueue_(mainQueue)
+        , shared_(std::move(shared)) {}
+    ~X11ActiveApplication() override { setActivatedHandler(nullptr); }
 
     void setActivatedHandler(Handler activated) override {
-        thread_.reset();
-        source_.reset();
         alive_ = {};
-        if (!activated) {
-            return;
+        std::function<void(std::string)> tell;
+        if (activated) {
+            tell = alive_.guardOn(mainQueue_, std::move(activated));
         }
-        auto connection = Connection::open();
-        if (!connection) {
-            return;
-        }
-        source_ = std::make_unique<ActiveWindow>(std::move(connection),
-                                                 alive_.guardOn(mainQueue_, std::move(activated)));
-        thread_ = std::make_unique<x11::EventThread>(*source_);
+        shared_->run([&] {
+            window_.reset();
+            if (tell) {
+                window_ = std::make_unique<ActiveWindow>(*shared_, std::move(tell));
+            }
+        });
     }
 
     std::string description() const override { return "X11, _NET_ACTIVE_WINDOW"; }
 
   private:
     MainQueue &mainQueue_;
-    Alive alive_; // of one handler after the other
-    std::unique_ptr<ActiveWindow> source_;
-    std::unique_ptr<x11::EventThread> thread_;
+    std::shared_ptr<SharedConnection> shared_;
+    Alive alive_;                          // of one handler after the other
+    std::unique_ptr<ActiveWindow> window_; // on the I/O thread; null: nobody listens
 };
 
 } // namespace
 
-Created<ActiveApplication> createX11ActiveApplication(MainQueue &mainQueue) {
-    const auto connection = Connection::open();
+Created<ActiveApplication>
+createX11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> connection) {
     if (!connection) {
-        return {nullptr, "no X display"};
+        return {nullptr, x11::noDisplay};
     }
-    return {std::make_unique<X11ActiveApplication>(mainQueue), {}};
+    return {std::make_unique<X11ActiveApplication>(mainQueue, std::move(connection)), {}};
 }
 
 } // namespace nerlo::platform

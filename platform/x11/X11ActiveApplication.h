@@ -5,10 +5,17 @@
 #include "platform/Created.h"
 #include "platform/MainQueue.h"
 
+#include <memory>
+
 namespace nerlo::platform {
 
-// For the display in $DISPLAY; under Xwayland only X windows are seen. The connection lasts only as
-// long as a handler is set. The main queue must outlive the result.
-Created<ActiveApplication> createX11ActiveApplication(MainQueue &mainQueue);
+namespace x11 {
+class SharedConnection;
+}
+
+// Declines a null connection; under Xwayland only X windows are seen. The main queue must outlive
+// the result.
+Created<ActiveApplication>
+createX11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<x11::SharedConnection> connection);
 
 } // namespace nerlo::platform

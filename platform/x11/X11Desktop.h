@@ -10,10 +10,17 @@
 
 namespace nerlo::platform {
 
-// Null where $DISPLAY names no X server that answers. Main thread.
-std::unique_ptr<TaskbarHint> createX11TaskbarHint();
+namespace x11 {
+class SharedConnection;
+}
+
+// Null for a null connection. Main thread.
+std::unique_ptr<TaskbarHint>
+createX11TaskbarHint(std::shared_ptr<x11::SharedConnection> connection);
 // `appeared` runs on the main queue, at most once: soon if there is a tray already, else when one
 // comes. Null as above.
-std::unique_ptr<TrayWatch> createX11TrayWatch(MainQueue &mainQueue, std::function<void()> appeared);
+std::unique_ptr<TrayWatch> createX11TrayWatch(MainQueue &mainQueue,
+                                              std::shared_ptr<x11::SharedConnection> connection,
+                                              std::function<void()> appeared);
 
 } // namespace nerlo::platform

@@ -2,8 +2,7 @@
 
 #include "platform/Alive.h"
 #include "platform/VirtualKeys.h"
-#include "platform/x11/EventThread.h"
-#include "platform/x11/XkbEvents.h"
+#include "platform/x11/SharedConnection.h"
 
 #include <algorithm>
 #include <array>
@@ -22,6 +21,7 @@ namespace nerlo::platform {
 namespace {
 
 using x11::Connection;
+using x11::SharedConnection;
 using x11::XkbEvents;
 using Handle = HotKeyService::Handle;
 
@@ -120,36 +120,33 @@ struct Grab {
     std::string refusal;
 };
 
-// Lives on the event thread once that has started.
-class Grabs final : public x11::EventSource {
+// Lives on the I/O thread.
+class Grabs final : public SharedConnection::Listener {
   public:
     using Pressed = std::function<void(HotKeyId)>;
     using Changed = std::function<void(Handle, HotKeyId, HotKeyStatus)>;
 
-    Grabs(std::unique_ptr<Connection> connection, XkbEvents events, Pressed pressed,
-          Changed changed)
-        : connection_(std::move(connection))
+    Grabs(SharedConnection &shared, XkbEvents events, Pressed pressed, Changed changed)
+        : shared_(shared)
+        , connection_(&shared.connection())
         , events_(events)
         , masks_(readMasks(*connection_))
         , pressed_(std::move(pressed))
         , changed_(std::move(changed)) {
         events_.detectAutoRepeat(*connection_);
+        shared_.add(*this);
     }
+    ~Grabs() {
+        shared_.remove(*this);
+        for (auto &[handle, grab] : grabs_) {
+            release(grab);
+        }
+    }
+    Grabs(const Grabs &) = delete;
+    Grabs &operator=(const Grabs &) = delete;
 
-    int fileDescriptor() const override {
-        return connection_->broken() ? -1 : xcb_get_file_descriptor(connection_->get());
-    }
-    std::optional<Clock::time_point> deadline() const override { return std::nullopt; }
-    void process() override {
-        for (;;) {
-            bool otherMap = false;
-            while (const auto event = x11::Event(xcb_poll_for_event(connection_->get()))) {
-                otherMap |= events_.isMapChange(*event);
-                handle(*event);
-            }
-            if (!otherMap) {
-                return;
-            }
+    void settle() override {
+        if (std::exchange(otherMap_, false)) {
             followMap();
         }
     }
@@ -199,8 +196,8 @@ class Grabs final : public x11::EventSource {
         xcb_flush(connection_->get());
     }
 
-  private:
-    void handle(const xcb_generic_event_t &event) {
+    void handle(const xcb_generic_event_t &event) override {
+        otherMap_ |= events_.isMapChange(event);
         const auto type = event.response_type & 0x7f;
         const auto &key = reinterpret_cast<const xcb_key_press_event_t &>(event);
         if (type == XCB_KEY_RELEASE) {
@@ -218,6 +215,7 @@ class Grabs final : public x11::EventSource {
         }
     }
 
+  private:
     void press(const xcb_key_press_event_t &key) {
         const auto modifiers = static_cast<std::uint16_t>(key.state & 0xff & ~masks_.locks());
         for (const auto &[handle, grab] : grabs_) {
@@ -315,8 +313,10 @@ class Grabs final : public x11::EventSource {
         }
     }
 
-    std::unique_ptr<Connection> connection_;
+    SharedConnection &shared_;
+    Connection *connection_;
     XkbEvents events_;
+    bool otherMap_ = false;
     ModifierMasks masks_;
     Pressed pressed_;
     Changed changed_;
@@ -331,15 +331,18 @@ class Grabs final : public x11::EventSource {
 
 class X11HotKeys final : public HotKeyService {
   public:
-    X11HotKeys(MainQueue &mainQueue, std::unique_ptr<Connection> connection, XkbEvents events)
-        : grabs_(std::make_unique<Grabs>(
-              std::move(connection), events,
-              alive_.guardOn(mainQueue, [this](HotKeyId id) { press(id); }),
-              alive_.guardOn(mainQueue,
-                             [this](Handle handle, HotKeyId id, const HotKeyStatus &status) {
-                                 change(handle, id, status);
-                             })))
-        , thread_(std::make_unique<x11::EventThread>(*grabs_)) {}
+    X11HotKeys(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared, XkbEvents events)
+        : shared_(std::move(shared)) {
+        const auto pressed = alive_.guardOn(mainQueue, [this](HotKeyId id) { press(id); });
+        const auto changed = alive_.guardOn(
+            mainQueue, [this](Handle handle, HotKeyId id, const HotKeyStatus &status) {
+                change(handle, id, status);
+            });
+        shared_->run([&] { grabs_ = std::make_unique<Grabs>(*shared_, events, pressed, changed); });
+    }
+    ~X11HotKeys() override {
+        shared_->run([this] { grabs_.reset(); });
+    }
 
     bool installHandler(Pressed pressed) override {
         pressed_ = std::move(pressed);
@@ -351,12 +354,12 @@ class X11HotKeys final : public HotKeyService {
         const Handle handle = ++last_;
         auto answer = std::make_shared<std::promise<std::string>>();
         auto answered = answer->get_future();
-        thread_->submit([grabs = grabs_.get(), handle, request, answer] {
+        shared_->submit([grabs = grabs_.get(), handle, request, answer] {
             answer->set_value(grabs->add(handle, request));
         });
         if (answered.wait_for(answerLimit) != std::future_status::ready) {
             // The grab may still succeed later; it is given back then.
-            thread_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
+            shared_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
             return {0, "the X server does not answer"};
         }
         if (auto refusal = answered.get(); !refusal.empty()) {
@@ -368,7 +371,7 @@ class X11HotKeys final : public HotKeyService {
 
     void unregisterHotKey(Handle handle) override {
         if (statuses_.erase(handle) != 0) {
-            thread_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
+            shared_->submit([grabs = grabs_.get(), handle] { grabs->remove(handle); });
         }
     }
 
@@ -380,11 +383,11 @@ class X11HotKeys final : public HotKeyService {
 
     void setSuspended(bool suspended) override {
         suspended_ = suspended;
-        thread_->submit([grabs = grabs_.get(), suspended] { grabs->setSuspended(suspended); });
+        shared_->submit([grabs = grabs_.get(), suspended] { grabs->setSuspended(suspended); });
     }
 
     void retryRefused() override {
-        thread_->submit([grabs = grabs_.get()] { grabs->takeAgain(); });
+        shared_->submit([grabs = grabs_.get()] { grabs->takeAgain(); });
     }
 
     std::string description() const override { return "X11, grabbed keys"; }
@@ -414,21 +417,19 @@ class X11HotKeys final : public HotKeyService {
     std::map<Handle, HotKeyStatus> statuses_;
     bool suspended_ = false;
     Alive alive_;
-    std::unique_ptr<Grabs> grabs_;
-    std::unique_ptr<x11::EventThread> thread_;
+    std::shared_ptr<SharedConnection> shared_;
+    std::unique_ptr<Grabs> grabs_; // on the I/O thread
     Handle last_ = 0;
 };
 
 } // namespace
 
-Created<HotKeyService> createX11HotKeys(MainQueue &mainQueue) {
-    auto connection = Connection::open();
-    if (!connection) {
-        return {nullptr, "no X display"};
-    }
-    const auto events = XkbEvents::select(*connection);
+Created<HotKeyService> createX11HotKeys(MainQueue &mainQueue,
+                                        std::shared_ptr<SharedConnection> connection) {
+    std::string declined;
+    const auto events = SharedConnection::keyboardOf(connection, declined);
     if (!events) {
-        return {nullptr, "the X server has no keyboard extension"};
+        return {nullptr, std::move(declined)};
     }
     return {std::make_unique<X11HotKeys>(mainQueue, std::move(connection), *events), {}};
 }

@@ -9,9 +9,16 @@
 #include "platform/HotKeyService.h"
 #include "platform/MainQueue.h"
 
+#include <memory>
+
 namespace nerlo::platform {
 
-// On the display in $DISPLAY. The main queue must outlive the result.
-Created<HotKeyService> createX11HotKeys(MainQueue &mainQueue);
+namespace x11 {
+class SharedConnection;
+}
+
+// Declines a null connection. The main queue must outlive the result.
+Created<HotKeyService> createX11HotKeys(MainQueue &mainQueue,
+                                        std::shared_ptr<x11::SharedConnection> connection);
 
 } // namespace nerlo::platform

@@ -1,8 +1,7 @@
 #include "platform/x11/X11KeyboardLayout.h"
 
 #include "platform/Alive.h"
-#include "platform/x11/EventThread.h"
-#include "platform/x11/XkbEvents.h"
+#include "platform/x11/SharedConnection.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 
 #include <functional>
@@ -15,6 +14,7 @@ namespace nerlo::platform {
 namespace {
 
 using x11::Connection;
+using x11::SharedConnection;
 using x11::XkbEvents;
 
 struct Layout {
@@ -33,60 +33,60 @@ std::shared_ptr<const xkb::Keymap> readKeymap(Connection &connection, const XkbE
     return keymap;
 }
 
-// Lives on the event thread once that has started.
-class LayoutSource final : public x11::EventSource {
+// Lives on the I/O thread.
+class LayoutListener final : public SharedConnection::Listener {
   public:
-    LayoutSource(std::unique_ptr<Connection> connection, XkbEvents events,
-                 std::function<void(Layout)> changed)
-        : connection_(std::move(connection))
+    LayoutListener(SharedConnection &shared, XkbEvents events, std::function<void(Layout)> changed)
+        : shared_(shared)
         , events_(events)
-        , changed_(std::move(changed)) {}
-
-    int fileDescriptor() const override {
-        return connection_->broken() ? -1 : xcb_get_file_descriptor(connection_->get());
+        , changed_(std::move(changed)) {
+        shared_.add(*this);
     }
-    std::optional<Clock::time_point> deadline() const override { return std::nullopt; }
-    void process() override {
-        // Reading the new layout may bring further events along.
-        for (;;) {
-            bool otherMap = false;
-            bool otherGroup = false;
-            while (const auto event = x11::Event(xcb_poll_for_event(connection_->get()))) {
-                otherMap |= events_.isMapChange(*event);
-                otherGroup |= events_.isGroupChange(*event);
-            }
-            if (!otherMap && !otherGroup) {
-                return;
-            }
-            Layout layout;
-            if (otherMap) {
-                layout.keymap = readKeymap(*connection_, events_);
-            }
-            layout.group = events_.group(*connection_);
-            changed_(std::move(layout));
+    ~LayoutListener() { shared_.remove(*this); }
+    LayoutListener(const LayoutListener &) = delete;
+    LayoutListener &operator=(const LayoutListener &) = delete;
+
+    Layout read() const {
+        return {readKeymap(shared_.connection(), events_), events_.group(shared_.connection())};
+    }
+
+    void handle(const xcb_generic_event_t &event) override {
+        otherMap_ |= events_.isMapChange(event);
+        otherGroup_ |= events_.isGroupChange(event);
+    }
+    void settle() override {
+        const bool otherMap = std::exchange(otherMap_, false);
+        const bool otherGroup = std::exchange(otherGroup_, false);
+        if (otherMap) {
+            changed_(read());
+        } else if (otherGroup) {
+            changed_({nullptr, events_.group(shared_.connection())});
         }
     }
 
   private:
-    std::unique_ptr<Connection> connection_;
+    SharedConnection &shared_;
     XkbEvents events_;
     std::function<void(Layout)> changed_;
+    bool otherMap_ = false;
+    bool otherGroup_ = false;
 };
 
 class X11KeyboardLayout final : public KeyboardLayout {
   public:
-    X11KeyboardLayout(MainQueue &mainQueue, std::unique_ptr<Connection> connection,
+    X11KeyboardLayout(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared,
                       XkbEvents events)
-        : keymap_(readKeymap(*connection, events))
-        , layout_(keymap_, events.group(*connection)) {
-        source_ = std::make_unique<LayoutSource>(
-            std::move(connection), events, alive_.guardOn(mainQueue, [this](const Layout &layout) {
-                if (layout.keymap) {
-                    keymap_ = layout.keymap;
-                }
-                layout_.replace(keymap_, layout.group);
-            }));
-        thread_ = std::make_unique<x11::EventThread>(*source_);
+        : shared_(std::move(shared)) {
+        Layout first;
+        shared_->run(
+            [&, tell = alive_.guardOn(mainQueue, [this](const Layout &layout) { take(layout); })] {
+                listener_ = std::make_unique<LayoutListener>(*shared_, events, tell);
+                first = listener_->read();
+            });
+        take(first);
+    }
+    ~X11KeyboardLayout() override {
+        shared_->run([this] { listener_.reset(); });
     }
 
     std::u16string textOfKey(std::uint64_t virtualKey) const override {
@@ -104,23 +104,28 @@ class X11KeyboardLayout final : public KeyboardLayout {
     std::string description() const override { return "X11, by xkb"; }
 
   private:
+    void take(const Layout &layout) {
+        if (layout.keymap) {
+            keymap_ = layout.keymap;
+        }
+        layout_.replace(keymap_, layout.group);
+    }
+
     std::shared_ptr<const xkb::Keymap> keymap_;
     XkbKeyboardLayout layout_;
     Alive alive_;
-    std::unique_ptr<LayoutSource> source_;
-    std::unique_ptr<x11::EventThread> thread_;
+    std::shared_ptr<SharedConnection> shared_;
+    std::unique_ptr<LayoutListener> listener_; // on the I/O thread
 };
 
 } // namespace
 
-Created<KeyboardLayout> createX11KeyboardLayout(MainQueue &mainQueue) {
-    auto connection = Connection::open();
-    if (!connection) {
-        return {nullptr, "no X display"};
-    }
-    const auto events = XkbEvents::select(*connection);
+Created<KeyboardLayout> createX11KeyboardLayout(MainQueue &mainQueue,
+                                                std::shared_ptr<SharedConnection> connection) {
+    std::string declined;
+    const auto events = SharedConnection::keyboardOf(connection, declined);
     if (!events) {
-        return {nullptr, "the X server has no keyboard extension"};
+        return {nullptr, std::move(declined)};
     }
     return {std::make_unique<X11KeyboardLayout>(mainQueue, std::move(connection), *events), {}};
 }

@@ -5,9 +5,16 @@
 #include "platform/KeyboardLayout.h"
 #include "platform/MainQueue.h"
 
+#include <memory>
+
 namespace nerlo::platform {
 
-// On the display in $DISPLAY. The main queue must outlive the result.
-Created<KeyboardLayout> createX11KeyboardLayout(MainQueue &mainQueue);
+namespace x11 {
+class SharedConnection;
+}
+
+// Declines a null connection. The main queue must outlive the result.
+Created<KeyboardLayout> createX11KeyboardLayout(MainQueue &mainQueue,
+                                                std::shared_ptr<x11::SharedConnection> connection);
 
 } // namespace nerlo::platform

@@ -1,7 +1,7 @@
 #include "platform/x11/X11Pasteboard.h"
 
 #include "platform/Alive.h"
-#include "platform/x11/EventThread.h"
+#include "platform/x11/EventPump.h"
 #include "platform/x11/X11Selection.h"
 
 #include <atomic>
@@ -14,7 +14,7 @@ namespace {
 
 class X11Pasteboard final : public Pasteboard {
   public:
-    X11Pasteboard(MainQueue &mainQueue, std::unique_ptr<x11::X11Selection> peer)
+    X11Pasteboard(MainQueue &mainQueue, IoThread &io, std::unique_ptr<x11::X11Selection> peer)
         : mainQueue_(mainQueue)
         , peer_(std::move(peer)) {
         peer_->changed = [this] {
@@ -27,12 +27,12 @@ class X11Pasteboard final : public Pasteboard {
                 lost();
             }
         });
-        thread_ = std::make_unique<x11::EventThread>(*peer_);
+        pump_ = std::make_unique<x11::EventPump>(io, *peer_);
     }
 
     ~X11Pasteboard() override {
-        thread_->submit([this] { peer_->handOver(); });
-        thread_.reset();
+        pump_->submit([this] { peer_->handOver(); });
+        pump_.reset();
     }
 
     ChangeCount changeCount() const override { return peer_->changeCount(); }
@@ -44,21 +44,21 @@ class X11Pasteboard final : public Pasteboard {
     void setLostHandler(std::function<void()> lost) override { lost_ = std::move(lost); }
 
     void readFormats(FormatsHandler handler) override {
-        thread_->submit([this, handler = alive_.guardOn(mainQueue_, std::move(handler))] {
+        pump_->submit([this, handler = alive_.guardOn(mainQueue_, std::move(handler))] {
             peer_->readFormats(handler);
         });
     }
     void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
               ReadHandler handler) override {
-        thread_->submit([this, of, formats = std::move(formats), limit,
-                         handler = alive_.guardOn(mainQueue_, std::move(handler))] {
+        pump_->submit([this, of, formats = std::move(formats), limit,
+                       handler = alive_.guardOn(mainQueue_, std::move(handler))] {
             peer_->read(of, formats, limit, handler);
         });
     }
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                WriteHandler handler) override {
-        thread_->submit([this, content = std::move(content), onlyOver,
-                         handler = alive_.guardOn(mainQueue_, std::move(handler))] {
+        pump_->submit([this, content = std::move(content), onlyOver,
+                       handler = alive_.guardOn(mainQueue_, std::move(handler))] {
             peer_->write(content, onlyOver, handler);
         });
     }
@@ -81,16 +81,16 @@ class X11Pasteboard final : public Pasteboard {
         }
     });
     std::unique_ptr<x11::X11Selection> peer_;
-    std::unique_ptr<x11::EventThread> thread_;
+    std::unique_ptr<x11::EventPump> pump_;
 };
 
 } // namespace
 
-Created<Pasteboard> createX11Pasteboard(MainQueue &mainQueue) {
+Created<Pasteboard> createX11Pasteboard(MainQueue &mainQueue, IoThread &io) {
     Created<Pasteboard> result;
     try {
         if (auto peer = x11::X11Selection::open(result.declined)) {
-            result.backend = std::make_unique<X11Pasteboard>(mainQueue, std::move(peer));
+            result.backend = std::make_unique<X11Pasteboard>(mainQueue, io, std::move(peer));
         }
     } catch (const std::system_error &error) {
         result.declined = error.what();

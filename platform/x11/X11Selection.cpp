@@ -85,6 +85,9 @@ int X11Selection::fileDescriptor() const {
 }
 
 std::optional<EventSource::Clock::time_point> X11Selection::deadline() const {
+    if (more_) {
+        return Clock::time_point::min();
+    }
     std::optional<Clock::time_point> first;
     const auto consider = [&](Clock::time_point time) {
         first = std::min(first.value_or(time), time);
@@ -102,22 +105,27 @@ void X11Selection::process() {
     if (lost_) {
         return;
     }
-    do {
-        while (auto *event = xcb_poll_for_event(connection_->get())) {
-            take(Event(event));
+    int left = eventsAtOnce;
+    for (; left > 0; --left) {
+        Event event(xcb_poll_for_event(connection_->get()));
+        if (!event) {
+            break;
         }
-        while (!waiting_.empty()) {
-            const auto event = std::move(waiting_.front());
-            waiting_.pop_front();
-            dispatch(*event);
-        }
-        answerOverdueAndStale();
-        xcb_flush(connection_->get());
-        // Waiting for a reply may have read further events.
-        if (auto *event = xcb_poll_for_queued_event(connection_->get())) {
-            take(Event(event));
-        }
-    } while (!waiting_.empty());
+        take(std::move(event));
+    }
+    for (int served = 0; served < eventsAtOnce && !waiting_.empty(); ++served) {
+        const auto event = std::move(waiting_.front());
+        waiting_.pop_front();
+        dispatch(*event);
+    }
+    answerOverdueAndStale();
+    xcb_flush(connection_->get());
+    // Waiting for a reply may have read further events.
+    if (auto *event = xcb_poll_for_queued_event(connection_->get())) {
+        take(Event(event));
+        left = 0;
+    }
+    more_ = left == 0 || !waiting_.empty();
     if (connection_->broken()) {
         lost_ = true;
         while (!questions_.empty()) {
@@ -623,7 +631,7 @@ void X11Selection::handOver() {
     while (handingOver_ && !lost_ && owned()) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
         pollfd waiting{fileDescriptor(), POLLIN, 0};
-        if (left <= 0 || poll(&waiting, 1, static_cast<int>(left)) == 0) {
+        if (left <= 0 || (!more_ && poll(&waiting, 1, static_cast<int>(left)) == 0)) {
             return;
         }
         process();

@@ -1,13 +1,13 @@
 // Our end of the CLIPBOARD selection of X11: asks its owner, and is its owner after a write of
 // ours.
 //
-// Everything here happens on one thread, which only ever waits for the X server itself. Other
+// Everything here happens on the I/O thread, and only ever waits for the X server itself. Other
 // clients are answered and listened to as their events come, each with a time limit.
 #pragma once
 
 #include "platform/Pasteboard.h"
 #include "platform/x11/Connection.h"
-#include "platform/x11/EventThread.h"
+#include "platform/x11/EventPump.h"
 
 #include <atomic>
 #include <deque>
@@ -27,11 +27,11 @@ class X11Selection final : public EventSource {
 
     // Any thread. Owner notifications counted since the start.
     ChangeCount changeCount() const { return changeCount_; }
-    // Run on the peer's thread; to be set before it starts.
+    // Run on the I/O thread; to be set before the peer is run there.
     std::function<void()> changed;
     std::function<void()> lost;
 
-    // As in Pasteboard; the handlers run on the peer's thread, some before the function returns.
+    // As in Pasteboard; the handlers run on the I/O thread, some before the function returns.
     void readFormats(Pasteboard::FormatsHandler handler);
     void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
               Pasteboard::ReadHandler handler);
@@ -147,6 +147,7 @@ class X11Selection final : public EventSource {
     std::vector<Offer> offers_; // what we own; empty: nothing
     std::list<Sending> sendings_;
     bool handingOver_ = false;
+    bool more_ = false; // events that the connection will not tell of again
 };
 
 } // namespace nerlo::platform::x11

@@ -1,5 +1,6 @@
 // The control that records shortcuts, in a window on a real X server; xdotool is the user.
 #include "platform/qt/QtMainQueue.h"
+#include "platform/x11/SharedConnection.h"
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "shortcuts/ShortcutTexts.h"
@@ -44,8 +45,9 @@ class ShortcutView : public testing::Test {
   protected:
     void SetUp() override {
         QApplication::setStyle(QStringLiteral("Fusion"));
-        layout = platform::createX11KeyboardLayout(queue).backend;
-        service = platform::createX11HotKeys(queue).backend;
+        const auto connection = platform::x11::SharedConnection::open(io);
+        layout = platform::createX11KeyboardLayout(queue, connection).backend;
+        service = platform::createX11HotKeys(queue, connection).backend;
         ASSERT_TRUE(layout && service);
         texts = std::make_unique<ShortcutTexts>(*layout);
         hotKeys = std::make_unique<GlobalHotKeys>(*service);
@@ -125,6 +127,7 @@ class ShortcutView : public testing::Test {
     std::optional<nrShortcut> stored(const char *key) { return storedShortcut(store, key); }
 
     platform::QtMainQueue queue;
+    platform::IoThread io;
     test::MemorySettingsStore store;
     FixedHotKeys desktop;
     std::unique_ptr<platform::KeyboardLayout> layout;
@@ -286,7 +289,8 @@ TEST_F(ShortcutView, OnlyOneRecordsAndOnlyInTheWindowInFront) {
 }
 
 TEST_F(ShortcutView, TakesTheKeyboardAndGivesItBack) {
-    const auto other = platform::createX11HotKeys(queue).backend;
+    const auto other =
+        platform::createX11HotKeys(queue, platform::x11::SharedConnection::open(io)).backend;
     int theirs = 0;
     other->installHandler([&](platform::HotKeyId) { ++theirs; });
     const auto taken = other->registerHotKey({v, platform::hotKeyControl, {1, 1}, {}, {}});

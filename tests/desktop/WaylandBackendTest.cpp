@@ -25,7 +25,8 @@ const std::string ownerProgram =
 // only a moment later, but no write in its place gets through.
 TEST(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
     test::MemoryMainQueue queue;
-    const test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue).backend};
+    IoThread io;
+    const test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue, io).backend};
     ASSERT_TRUE(clipboard.pasteboard);
     const auto start = clipboard.pasteboard->changeCount();
     Process owner({ownerProgram, "--die-after", "70000", "text/plain;charset=utf-8=*1000000"});
@@ -40,7 +41,8 @@ TEST(WaylandBackend, AnOwnerThatDiesInTheMiddleTakesItsContentAlong) {
 // A manager takes a copy of each content as soon as it comes, which may be after the program's end.
 TEST(WaylandBackend, AManagerHasTheTextWhenTheProgramEndsRightAfterItsWrite) {
     test::MemoryMainQueue queue;
-    test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue).backend};
+    IoThread io;
+    test::PasteboardUser clipboard{queue, createWaylandPasteboard(queue, io).backend};
     ASSERT_TRUE(clipboard.pasteboard);
     const test::TemporaryFolder folder;
     const std::string kept = folder / "kept";
@@ -55,7 +57,8 @@ TEST(WaylandBackend, AManagerHasTheTextWhenTheProgramEndsRightAfterItsWrite) {
 
 TEST(WaylandApplications, NamesTheOneThatComesToTheFront) {
     test::MemoryMainQueue queue;
-    const auto created = createWaylandActiveApplication(queue);
+    IoThread io;
+    const auto created = createWaylandActiveApplication(queue, io);
     ASSERT_TRUE(created.backend) << created.declined;
     std::vector<std::string> seen;
     const auto until = [&](const std::vector<std::string> &expected) {

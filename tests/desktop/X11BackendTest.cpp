@@ -4,6 +4,7 @@
 
 #include "clipboard/PasteboardFormats.h"
 #include "platform/x11/Connection.h"
+#include "platform/x11/SharedConnection.h"
 #include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/PasteboardUser.h"
 
@@ -26,8 +27,9 @@ class X11Backend : public testing::Test {
     bool until(const std::function<bool()> &done) { return ours.until(done); }
 
     test::MemoryMainQueue queue;
-    PasteboardUser ours{queue, createX11Pasteboard(queue).backend};
-    PasteboardUser theirs{queue, createX11Pasteboard(queue).backend};
+    IoThread io;
+    PasteboardUser ours{queue, createX11Pasteboard(queue, io).backend};
+    PasteboardUser theirs{queue, createX11Pasteboard(queue, io).backend};
 };
 
 TEST_F(X11Backend, CountsEachReplacementOnceAndOwnWritesAtOnce) {
@@ -134,7 +136,8 @@ xcb_window_t mapWindow(x11::Connection &connection, const std::string &names) {
 
 TEST_F(X11Backend, NamesTheApplicationThatComesToTheFront) {
     using namespace std::string_literals;
-    const auto application = createX11ActiveApplication(queue).backend;
+    const auto application =
+        createX11ActiveApplication(queue, x11::SharedConnection::open(io)).backend;
     const auto connection = x11::Connection::open();
     Strings activated;
     application->setActivatedHandler([&](const std::string &name) { activated.push_back(name); });

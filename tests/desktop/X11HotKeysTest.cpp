@@ -1,6 +1,7 @@
 // Hot keys and the keyboard layout on a real X server: xdotool is the user.
 #include "platform/x11/X11HotKeys.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
+#include "platform/x11/SharedConnection.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/XkbEvents.h"
 #include "platform/x11/XkbProtocol.h"
@@ -30,7 +31,10 @@ class X11HotKeys : public testing::Test {
         service->installHandler([this](HotKeyId id) { ++runs[id.id]; });
     }
 
-    std::unique_ptr<HotKeyService> create() { return createX11HotKeys(queue).backend; }
+    // As another program would.
+    std::unique_ptr<HotKeyService> create() {
+        return createX11HotKeys(queue, x11::SharedConnection::open(io)).backend;
+    }
 
     HotKeyService::Registration take(HotKeyService &from, std::uint32_t key,
                                      std::uint32_t modifiers) {
@@ -53,6 +57,7 @@ class X11HotKeys : public testing::Test {
     }
 
     test::MemoryMainQueue queue;
+    IoThread io;
     std::unique_ptr<HotKeyService> service = create();
     std::map<std::uint32_t, int> runs;
     std::uint32_t lastId = 0;
@@ -129,7 +134,7 @@ TEST_F(X11HotKeys, FollowModifiersThatMove) {
 }
 
 TEST_F(X11HotKeys, TheLayoutIsFollowedAsItChanges) {
-    const auto layout = createX11KeyboardLayout(queue).backend;
+    const auto layout = createX11KeyboardLayout(queue, x11::SharedConnection::open(io)).backend;
     ASSERT_TRUE(layout);
     int changes = 0;
     layout->setChangedHandler([&] { ++changes; });
@@ -169,7 +174,8 @@ TEST(WaylandKeyboard, TheKeymapOfTheCompositorIsFollowed) {
     ASSERT_TRUE(test::until([&] { return !!(std::ifstream(folder + "/wayland") >> display); }));
 
     test::MemoryMainQueue queue;
-    const auto created = createWaylandKeyboardLayout(queue, display);
+    IoThread io;
+    const auto created = createWaylandKeyboardLayout(queue, io, display);
     ASSERT_TRUE(created.backend) << created.declined;
     const auto &layout = *created.backend;
     EXPECT_EQ(layout.textOfKey(16), u"z");

@@ -29,6 +29,7 @@ class ProgramFixture : public testing::Test {
     // Where it has what to clean.
     Desktop makeDesktop() {
         return {
+            std::make_unique<platform::Backends>(queue),
             {std::make_unique<test::MemoryPasteboard>(queue), {}},
             {std::make_unique<test::MemoryActiveApplication>(), {}},
             {std::make_unique<platform::XkbKeyboardLayout>(platform::xkb::Keymap::fromNames("us")),

@@ -236,13 +236,19 @@ TEST(FolderWatch, TellsOfAnotherStoresWriteOnTheMainQueue) {
     const TemporaryFolder folder;
     test::MemoryMainQueue queue;
     FileSettingsStore mine(folder / "defaults.plist");
-    const platform::FolderWatch watch(folder.path(), queue, [&] { mine.fileChanged(); });
-    ASSERT_TRUE(watch.watching());
+    platform::IoThread io;
+    platform::FolderWatch watch(io, queue);
+    int others = 0;
+    ASSERT_TRUE(watch.add(folder / "new", [&] { ++others; }));
+    ASSERT_TRUE(watch.add(folder.path(), [&] { mine.fileChanged(); }));
     {
         FileSettingsStore other(folder / "defaults.plist");
         other.set("a", 1);
     }
     EXPECT_TRUE(test::until(queue, [&] { return mine.integerForKey("a") == 1; }));
+    EXPECT_EQ(others, 0);
+    putBytes(folder / "new/file", "x");
+    EXPECT_TRUE(test::until(queue, [&] { return others > 0; }));
 }
 
 } // namespace

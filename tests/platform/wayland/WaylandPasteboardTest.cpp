@@ -35,14 +35,15 @@ using wayland::FileDescriptor;
 // Before the program's clipboard, and longer.
 struct Around {
     test::MemoryMainQueue queue;
+    IoThread io;
     FakeCompositor compositor;
 };
 
 struct Desktop : Around, test::PasteboardUser {
     explicit Desktop(const wl_interface *manager = dataControls[0].manager, int seats = 1)
-        : Around{{}, FakeCompositor(manager, seats)}
+        : Around{{}, {}, FakeCompositor(manager, seats)}
         , PasteboardUser{Around::queue, {}} {
-        auto created = createWaylandPasteboard(queue, compositor.display());
+        auto created = createWaylandPasteboard(queue, io, compositor.display());
         pasteboard = std::move(created.backend);
         declined = created.declined;
     }
@@ -52,6 +53,7 @@ struct Desktop : Around, test::PasteboardUser {
                          [&](PasteboardRead got) { startedRead = std::move(got); });
     }
 
+    using Around::io;
     using Around::queue;
     std::string declined;
     std::optional<PasteboardRead> startedRead;
@@ -96,7 +98,8 @@ TEST(WaylandPasteboard, WhatStandsThereBeforeItIsNotAChange) {
     FakeCompositor compositor(dataControls[1].manager);
     compositor.copyText("old");
     test::MemoryMainQueue queue;
-    const auto pasteboard = createWaylandPasteboard(queue, compositor.display()).backend;
+    IoThread io;
+    const auto pasteboard = createWaylandPasteboard(queue, io, compositor.display()).backend;
     const auto start = pasteboard->changeCount();
     std::optional<PasteboardFormats> formats;
     pasteboard->readFormats([&](PasteboardFormats got) { formats = std::move(got); });
@@ -415,7 +418,8 @@ TEST(WaylandPasteboard, ACompositorThatStopsAnsweringIsWaitedForOnlySoLong) {
     desktop.compositor.freeze();
     EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::timedOut);
     test::MemoryMainQueue queue;
-    const auto second = createWaylandPasteboard(queue, desktop.compositor.display());
+    IoThread io;
+    const auto second = createWaylandPasteboard(queue, io, desktop.compositor.display());
     EXPECT_FALSE(second.backend);
     EXPECT_EQ(second.declined, "the Wayland compositor does not answer");
 }
@@ -423,7 +427,8 @@ TEST(WaylandPasteboard, ACompositorThatStopsAnsweringIsWaitedForOnlySoLong) {
 TEST(WaylandPasteboard, DeclinesWhereThereIsNothingToTalkTo) {
     EXPECT_EQ(Desktop(nullptr).declined, "the Wayland compositor has no data-control protocol");
     test::MemoryMainQueue queue;
-    EXPECT_EQ(createWaylandPasteboard(queue, "/nonexistent/socket").declined,
+    IoThread io;
+    EXPECT_EQ(createWaylandPasteboard(queue, io, "/nonexistent/socket").declined,
               "there is no Wayland compositor");
 }
 

@@ -80,7 +80,8 @@ TEST(WaylandPopupLayer, IsShownOrSaysThatItIsGoneWhateverTheCompositorAnswers) {
         shell.answer = row.answer;
         const test::FakeCompositor compositor(nullptr, 1, shell.offer());
         test::MemoryMainQueue queue;
-        const auto created = createWaylandPopupLayer(queue, compositor.display());
+        IoThread io;
+        const auto created = createWaylandPopupLayer(queue, io, compositor.display());
         ASSERT_TRUE(created.backend) << created.declined;
         int gone = 0;
         Popup popup;
@@ -111,7 +112,8 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
         shell.pointer = true;
         const test::FakeCompositor compositor(nullptr, 1, shell.offer());
         test::MemoryMainQueue queue;
-        const auto created = createWaylandPopupLayer(queue, compositor.display());
+        IoThread io;
+        const auto created = createWaylandPopupLayer(queue, io, compositor.display());
         std::atomic<bool> placed = false;
         Popup popup;
         popup.atPointer = true;
@@ -132,13 +134,14 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
 
 TEST(WaylandPopupLayer, DeclinesWhereThereIsNoLayerShellOrNoAnswer) {
     test::MemoryMainQueue queue;
-    EXPECT_EQ(createWaylandPopupLayer(queue, "/no/such").declined,
+    IoThread io;
+    EXPECT_EQ(createWaylandPopupLayer(queue, io, "/no/such").declined,
               "there is no Wayland compositor");
     test::FakeCompositor compositor(nullptr);
-    EXPECT_EQ(createWaylandPopupLayer(queue, compositor.display()).declined,
+    EXPECT_EQ(createWaylandPopupLayer(queue, io, compositor.display()).declined,
               "the Wayland compositor has no layer shell");
     compositor.freeze();
-    EXPECT_EQ(createWaylandPopupLayer(queue, compositor.display()).declined,
+    EXPECT_EQ(createWaylandPopupLayer(queue, io, compositor.display()).declined,
               "the Wayland compositor does not answer");
 }
 
