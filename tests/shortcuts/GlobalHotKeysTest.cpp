@@ -68,7 +68,11 @@ TEST_F(HotKeys, ACombinationIsRegisteredOnceUnderANewId) {
     for (const std::uint64_t key : {nrShortcut::absentKey, (std::uint64_t{1} << 32) + v}) {
         EXPECT_FALSE(hotKeys.addGlobalHotkeyMonitorWithShortcut({key, controlModifier}, {}).token);
     }
+    int told = 0;
+    const auto observation = bound.observeStatus([&] { ++told; });
     settings.reset();
+    service.answer(service.registered.begin()->first, {HotKeyState::refused, "no"});
+    EXPECT_EQ(told, 0);
     registry.reset();
     EXPECT_FALSE(service.hasHandlers());
     EXPECT_TRUE(service.registered.empty());
