@@ -76,11 +76,7 @@ void nrShortcutUserDefaultsHotKey::installHotKeyFromUserDefaults() {
 UserDefaultsHotKeys::UserDefaultsHotKeys(storage::SettingsStore &store, GlobalHotKeys &hotKeys)
     : store_(store)
     , hotKeys_(hotKeys) {
-    hotKeys_.setStatusHandler([this](const GlobalHotKeys::Token &) { tell(); });
-}
-
-UserDefaultsHotKeys::~UserDefaultsHotKeys() {
-    hotKeys_.setStatusHandler(nullptr);
+    hotKeys_.setStatusHandler(alive_.guard([this](const GlobalHotKeys::Token &) { tell(); }));
 }
 
 void UserDefaultsHotKeys::registerGlobalShortcutWithUserDefaultsKey(std::string_view key,

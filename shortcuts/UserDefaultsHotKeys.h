@@ -3,6 +3,7 @@
 // Main thread only.
 #pragma once
 
+#include "platform/Alive.h"
 #include "shortcuts/GlobalHotKeys.h"
 #include "storage/SettingsStore.h"
 
@@ -63,7 +64,6 @@ class UserDefaultsHotKeys {
 
     // Both must outlive this.
     UserDefaultsHotKeys(storage::SettingsStore &store, GlobalHotKeys &hotKeys);
-    ~UserDefaultsHotKeys();
 
     // Replaces an earlier binding of the key. `title` says what the hot key does, in UTF-8, where a
     // desktop shows it to the user.
@@ -96,6 +96,7 @@ class UserDefaultsHotKeys {
     GlobalHotKeys &hotKeys_;
     std::vector<std::weak_ptr<std::function<void()>>> observers_;
     Registered registered_;
+    platform::Alive alive_;
 };
 
 } // namespace nerlo::shortcuts

@@ -91,7 +91,7 @@ bool isText(const PropertyValue *value, std::u16string_view text) {
 // The object that a reference in `value` leads to, or null.
 const PropertyValue *follow(const PropertyArray &objects, const PropertyValue *value) {
     const auto *uid = value ? value->as<PropertyUid>() : nullptr;
-    return uid && uid->index < objects.size() ? &objects[uid->index] : nullptr;
+    return uid && uid->index < objects.size() ? &objects.at(uid->index) : nullptr;
 }
 
 bool isOurClass(const PropertyValue *value) {

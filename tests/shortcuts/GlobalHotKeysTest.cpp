@@ -93,9 +93,9 @@ TEST_F(HotKeys, FollowTheStoredShortcut) {
     const struct {
         storage::PropertyValue stored;
         HotKeyState state;
-    } rows[] = {{storage::PropertyData(7), HotKeyState::none},
+    } rows[] = {{nrShortcut(v, 0).data(), HotKeyState::refused},
+                {storage::PropertyData(7), HotKeyState::none},
                 {u"⌃V", HotKeyState::none},
-                {nrShortcut(v, 0).data(), HotKeyState::refused},
                 {nrShortcut(v, optionModifier | shiftModifier).data(), HotKeyState::refused},
                 {superC.data(), HotKeyState::active}};
     for (const auto &row : rows) {
