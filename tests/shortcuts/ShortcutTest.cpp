@@ -58,19 +58,19 @@ TEST(Shortcut, ArchiveGoesRoundForEveryKeyAndModifierSet) {
     const auto data = nrShortcut(nrShortcut::absentKey, controlModifier).data();
     const auto archive =
         storage::parsePropertyList({reinterpret_cast<const char *>(data.data()), data.size()});
-    EXPECT_EQ(archive.value,
-              storage::PropertyValue(PropertyDictionary{
-                  {"$version", 100000},
-                  {"$archiver", u"NSKeyedArchiver"},
-                  {"$top", PropertyDictionary{{"root", PropertyUid{1}}}},
-                  {"$objects",
-                   PropertyArray{
-                       u"$null",
-                       PropertyDictionary{
-                           {"$class", PropertyUid{2}}, {"KeyCode", -1}, {"ModifierFlags", 0x40000}},
-                       PropertyDictionary{
-                           {"$classname", u"nrShortcut"},
-                           {"$classes", PropertyArray{u"nrShortcut", u"NSObject"}}}}}}));
+    EXPECT_EQ(
+        archive.value,
+        storage::PropertyValue(PropertyDictionary{
+            {"$version", 100000},
+            {"$archiver", u"NSKeyedArchiver"},
+            {"$top", PropertyDictionary{{"root", PropertyUid{1}}}},
+            {"$objects",
+             PropertyArray{
+                 u"$null",
+                 PropertyDictionary{
+                     {"$class", PropertyUid{2}}, {"KeyCode", -1}, {"ModifierFlags", 0x40000}},
+                 PropertyDictionary{{"$classname", u"nrShortcut"},
+                                    {"$classes", PropertyArray{u"nrShortcut", u"NSObject"}}}}}}));
     EXPECT_EQ(nrShortcut::initWithCoder({{"KeyCode", -7}, {"ModifierFlags", 0}})->keyCode(),
               nrShortcut::absentKey);
 }
