@@ -51,8 +51,12 @@ DesktopShell::DesktopShell(Program &program)
     , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
     QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(),
                      [this] { setProblem(Problem::tray, {}); });
+    const auto asTheTrayShowsIt = [this] { menu_->setShownOverBus(tray_->overBus()); };
+    QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(), asTheTrayShowsIt);
+    QObject::connect(&menu_->menu(), &QMenu::aboutToHide, tray_.get(), asTheTrayShowsIt);
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
         if (platform::pointerPositionKnown()) {
+            menu_->setShownOverBus(false);
             menu_->menu().popup(QCursor::pos());
         } else {
             program_.showPreferences();

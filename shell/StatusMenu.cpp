@@ -28,6 +28,14 @@ QString escaped(QString text) {
     return text.replace('&', "&&");
 }
 
+// As escaped(), for a panel: there "_" marks a letter, and the toolkit makes one of the first "&"
+// and leaves the others.
+QString escapedForBus(QString text) {
+    text.replace('_', "__");
+    const auto first = text.indexOf('&');
+    return first < 0 ? text : text.insert(first, '&');
+}
+
 struct EditCommand {
     const char *title;
     const char *slot; // of the toolkit's text fields; null for the Delete key
@@ -86,6 +94,7 @@ StatusMenu::StatusMenu(Program &program)
     , statusMenu_(std::make_unique<QMenu>())
     , operations_(std::make_unique<QMenu>(title("Single operations")))
     , profiles_(std::make_unique<QMenu>(title("Profiles")))
+    , trayProfiles_(std::make_unique<QMenu>(title("Profiles")))
     , clean_(add("clean", "Clear formating from clipboard", [](Program &p) { p.clean(); }))
     , automatic_(add("automatic", "Automatically clear formatting",
                      [](Program &p) { p.setAutomatic(AutomaticMode::toggle); }))
@@ -113,14 +122,14 @@ StatusMenu::StatusMenu(Program &program)
 
     statusMenu_->setObjectName("statusMenu");
     operations_->setObjectName("operationsMenu");
-    profiles_->setObjectName("profilesMenu");
+    trayProfiles_->setObjectName("profilesMenu");
     makeOperations();
     makeEditActions();
 
     statusMenu_->addActions({clean_, automatic_, excelException_, restore_});
     statusMenu_->addSeparator();
     statusMenu_->addMenu(operations_.get());
-    statusMenu_->addMenu(profiles_.get());
+    statusMenu_->addMenu(trayProfiles_.get());
     statusMenu_->addSeparator();
     statusMenu_->addActions({preferences_, tips_, whatsNew_});
     statusMenu_->addSeparator();
@@ -201,9 +210,25 @@ void StatusMenu::setExcelException(bool on) {
 }
 
 void StatusMenu::setProfiles(const QStringList &names, int selected) {
-    profiles_->clear();
-    for (int place = 0; place < names.size(); ++place) {
-        auto *action = profiles_->addAction(escaped(names[place]));
+    profileNames_ = names;
+    fillProfiles(*profiles_, selected);
+    fillProfiles(*trayProfiles_, selected);
+    setShownOverBus(overBus_);
+}
+
+void StatusMenu::setShownOverBus(bool overBus) {
+    overBus_ = overBus;
+    const auto actions = trayProfiles_->actions();
+    for (int place = 0; place < actions.size(); ++place) {
+        const QString &name = profileNames_[place];
+        actions[place]->setText(overBus ? escapedForBus(name) : escaped(name));
+    }
+}
+
+void StatusMenu::fillProfiles(QMenu &menu, int selected) {
+    menu.clear();
+    for (int place = 0; place < profileNames_.size(); ++place) {
+        auto *action = menu.addAction(escaped(profileNames_[place]));
         action->setCheckable(true);
         action->setChecked(place == selected);
         connect(action, &QAction::triggered, this,

@@ -32,6 +32,8 @@ class StatusMenu final : public QObject {
     void setExcelException(bool on);
     // `selected` is -1 for none.
     void setProfiles(const QStringList &names, int selected);
+    // Whether menu() is shown by a panel over the bus, which reads a title in its own way.
+    void setShownOverBus(bool overBus);
     // Shown beside "Clear formating from clipboard".
     void setCleanShortcut(const QKeySequence &keys);
 
@@ -42,11 +44,15 @@ class StatusMenu final : public QObject {
     QAction *add(const char *name, const char *title, void (*run)(Program &));
     void makeOperations();
     void makeEditActions();
+    void fillProfiles(QMenu &menu, int selected);
 
     Program &program_;
     std::unique_ptr<QMenu> statusMenu_;
     std::unique_ptr<QMenu> operations_;
-    std::unique_ptr<QMenu> profiles_;
+    std::unique_ptr<QMenu> profiles_;     // of the menu bar
+    std::unique_ptr<QMenu> trayProfiles_; // of menu()
+    QStringList profileNames_;
+    bool overBus_ = false;
     QAction *clean_;
     QAction *automatic_;
     QAction *excelException_;

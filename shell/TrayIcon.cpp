@@ -74,6 +74,7 @@ void TrayIcon::lookForHost() {
         waiting->deleteLater();
         const QDBusPendingReply<QVariant> reply = *waiting;
         if (!reply.isError() && reply.value().toBool()) {
+            overBus_ = !statusItem_ || overBus_;
             trayAppeared();
         }
     });

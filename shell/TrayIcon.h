@@ -33,6 +33,8 @@ class TrayIcon final : public QObject {
     bool shown() const;
     void setState(TrayState state);
     TrayState state() const { return state_; }
+    // Whether the tray shows the menu over the session bus; else it is a window of this program.
+    bool overBus() const { return overBus_; }
 
     static QIcon iconOf(TrayState state);
     static QString tooltipOf(TrayState state);
@@ -58,6 +60,7 @@ class TrayIcon final : public QObject {
     bool wanted_ = false;
     bool hostSeen_ = false;
     bool hostGone_ = false; // it was there
+    bool overBus_ = false;
     TrayState state_ = TrayState::idle;
     std::unique_ptr<QSystemTrayIcon> statusItem_;
 };

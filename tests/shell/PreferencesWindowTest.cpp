@@ -398,12 +398,16 @@ using Menu = ProgramFixture;
 
 TEST_F(Menu, ItemsProfilesAndKeys) {
     StatusMenu menu(program);
-    menu.setProfiles({"A", "A", "R&D"}, 1);
+    menu.setProfiles({"A", "A", "R&D", "a_b & c & d"}, 1);
     auto *profiles = menu.menu().actions()[6]->menu();
     ASSERT_TRUE(profiles);
-    ASSERT_EQ(profiles->actions().size(), 3);
+    ASSERT_EQ(profiles->actions().size(), 4);
     EXPECT_TRUE(profiles->actions()[1]->isChecked());
     EXPECT_EQ(profiles->actions()[2]->text(), "R&&D");
+    EXPECT_EQ(profiles->actions()[3]->text(), "a_b && c && d");
+    menu.setShownOverBus(true);
+    EXPECT_EQ(profiles->actions()[2]->text(), "R&&D");
+    EXPECT_EQ(profiles->actions()[3]->text(), "a__b && c & d");
     auto *operations = menu.menu().actions()[5]->menu();
     EXPECT_EQ(operations->findChildren<QAction *>(QRegularExpression("^operation")).size(),
               static_cast<qsizetype>(engine::operations().size()));
