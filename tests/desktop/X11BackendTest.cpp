@@ -3,14 +3,21 @@
 #include "platform/x11/X11Pasteboard.h"
 
 #include "clipboard/PasteboardFormats.h"
+#include "platform/linux/FolderWatch.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/SharedConnection.h"
+#include "tests/Process.h"
+#include "tests/TemporaryFolder.h"
 #include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/PasteboardUser.h"
 
+#include <atomic>
+#include <chrono>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -21,6 +28,9 @@ namespace {
 using test::content;
 using test::PasteboardUser;
 using test::Strings;
+
+const std::string ownerProgram =
+    std::filesystem::read_symlink("/proc/self/exe").parent_path() / "x11-owner";
 
 class X11Backend : public testing::Test {
   protected:
@@ -96,6 +106,57 @@ TEST_F(X11Backend, CarriesLargeContentWithinTheLimit) {
         EXPECT_EQ(one.status, PasteboardStatus::done);
         EXPECT_EQ(one.content.size(), 1u);
     }
+}
+
+// One thread serves them all: an owner that hangs, and a program that asks for our text faster than
+// it can be sent, cost nobody else his time.
+TEST_F(X11Backend, APeerThatHangsOrFloodsHoldsUpNothingElse) {
+    const test::TemporaryFolder folder;
+    FolderWatch watch(io, queue);
+    int written = 0;
+    ASSERT_TRUE(watch.add(folder.path(), [&] { ++written; }));
+    const auto seesTheNextFile = [&] {
+        const int before = written;
+        test::putBytes(folder / std::to_string(before), "x");
+        return until([&] { return written > before; });
+    };
+    {
+        test::Process owner({ownerProgram, "--hang", "UTF8_STRING=text"});
+        ASSERT_TRUE(owner.waitForLine("owned"));
+        const auto count = ours.pasteboard->changeCount();
+        std::optional<PasteboardRead> result;
+        const auto start = std::chrono::steady_clock::now();
+        ours.pasteboard->read(count, {"UTF8_STRING"}, 1000,
+                              [&](auto got) { result = std::move(got); });
+        EXPECT_TRUE(seesTheNextFile());
+        EXPECT_FALSE(result);
+        ASSERT_TRUE(until([&] { return result.has_value(); }));
+        EXPECT_EQ(result->status, PasteboardStatus::timedOut);
+        const auto took = std::chrono::steady_clock::now() - start;
+        EXPECT_GE(took, pasteboardStallLimit);
+        EXPECT_LT(took, pasteboardStallLimit + std::chrono::seconds(2));
+    }
+    ours.write(content({"UTF8_STRING"}, std::string(200'000, 'x')));
+    std::atomic<bool> flooding = true;
+    std::thread flood([&] {
+        const auto connection = x11::Connection::open();
+        const auto window = connection->makeWindow(0);
+        while (flooding) {
+            for (int i = 0; i < 100; ++i) {
+                xcb_convert_selection(connection->get(), window, connection->atom("CLIPBOARD"),
+                                      connection->atom("UTF8_STRING"), connection->atom("TO"),
+                                      XCB_CURRENT_TIME);
+            }
+            xcb_flush(connection->get());
+            while (x11::Event(xcb_poll_for_event(connection->get()))) {
+            }
+        }
+    });
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_TRUE(seesTheNextFile());
+    }
+    flooding = false;
+    flood.join();
 }
 
 TEST_F(X11Backend, KeepsTheTypeThatAnOwnerDelivers) {
