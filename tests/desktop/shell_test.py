@@ -27,7 +27,7 @@ PORTAL = os.path.join(os.path.dirname(os.path.abspath(__file__)), "portal-backen
 CONTROLS = (BUTTON, CHECK_BOX, LIST_ITEM, TEXT)
 WATCHER = "org.kde.StatusNotifierWatcher"
 PROFILE = "m_a&b&c"
-PROFILE_KEYS = ("m", "underscore", "a", "ampersand", "b", "ampersand", "c")
+PROFILE_KEYS = ("m", "shift+minus", "a", "shift+7", "b", "shift+7", "c")
 
 
 def stored(path):
