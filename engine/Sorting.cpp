@@ -3,7 +3,6 @@
 #include "engine/Whitespace.h"
 #include "text/Collation.h"
 #include "text/Distinct.h"
-#include "text/UnitScan.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +13,7 @@ namespace nerlo::engine {
 
 namespace {
 
-using Items = std::vector<std::u16string_view>;
+using text::Items;
 
 constexpr std::int64_t lineSeparator = 0;
 constexpr std::int64_t customSeparatorIndex = 8;
@@ -26,17 +25,50 @@ constexpr std::array<std::u16string_view, 9> separators{
 
 struct SortOption {
     std::int64_t option;
-    void (*order)(Items &items, const std::string &locale);
+    std::u16string (*order)(const Items &items, const std::string &locale);
 };
 
 template <text::Strength strength, bool descending>
-void byLocale(Items &items, const std::string &locale) {
-    text::sortByLocale(items, locale, strength, descending);
+std::u16string byLocale(const Items &items, const std::string &locale) {
+    return text::sortedByLocale(items, locale, strength, descending);
 }
 
 template <bool descending>
-void byCodeUnits(Items &items, const std::string &) {
-    text::sortByCodeUnits(items, descending);
+std::u16string byCodeUnits(const Items &items, const std::string &) {
+    return text::sortedByCodeUnits(items, descending);
+}
+
+std::u16string reversed(const Items &items, const std::string &) {
+    std::u16string result(items.text().size(), u'\0');
+    std::size_t at = result.size();
+    const auto put = [&](std::u16string_view units) {
+        at -= units.size();
+        units.copy(result.data() + at, units.size());
+    };
+    items.forEach([&](std::size_t, std::u16string_view item) {
+        put(item);
+        if (at > 0) {
+            put(items.separator());
+        }
+    });
+    return result;
+}
+
+std::u16string shuffled(const Items &items, const std::string &) {
+    std::vector<std::size_t> begins;
+    std::size_t count = 0;
+    items.forEach([&](std::size_t, std::u16string_view) { ++count; });
+    begins.reserve(count);
+    items.forEach([&](std::size_t begin, std::u16string_view) { begins.push_back(begin); });
+    text::Joiner joiner(items);
+    for (const std::size_t begin : shuffleArray(std::move(begins))) {
+        joiner.add(items.at(begin));
+    }
+    return joiner.take();
+}
+
+std::u16string withoutDuplicates(const Items &items, const std::string &) {
+    return removeDuplicates(items);
 }
 
 // Any other option orders like the first.
@@ -47,37 +79,10 @@ constexpr SortOption sortOptions[] = {
     {3, byLocale<text::Strength::Full, true>},        // Z-A (Zz-Aa)
     {4, byCodeUnits<false>},                          // A-Za-z
     {5, byCodeUnits<true>},                           // z-aZ-A
-    {6, [](Items &items, const std::string &) { std::ranges::reverse(items); }},
-    {7, [](Items &items, const std::string &) { items = shuffleArray(std::move(items)); }},
-    {removeDuplicatesOption,
-     [](Items &items, const std::string &) { items = removeDuplicates(items); }},
+    {6, reversed},
+    {7, shuffled},
+    {removeDuplicatesOption, withoutDuplicates},
 };
-
-Items split(std::u16string_view text, std::u16string_view separator) {
-    Items items;
-    std::size_t begin = 0;
-    for (std::size_t at = text::findUnit(text, 0, separator.front()); at < text.size();) {
-        if (text.substr(at).starts_with(separator)) {
-            items.push_back(text.substr(begin, at - begin));
-            begin = at + separator.size();
-            at = text::findUnit(text, begin, separator.front());
-        } else {
-            at = text::findUnit(text, at + 1, separator.front());
-        }
-    }
-    items.push_back(text.substr(begin));
-    return items;
-}
-
-std::u16string join(const Items &items, std::u16string_view separator, std::size_t sizeHint) {
-    std::u16string text;
-    text.reserve(sizeHint);
-    for (const std::u16string_view item : items) {
-        text.append(item).append(separator);
-    }
-    text.resize(text.size() - separator.size());
-    return text;
-}
 
 } // namespace
 
@@ -96,13 +101,12 @@ std::u16string sortLines(std::u16string text, std::int64_t option, std::int64_t 
     if (between.empty()) {
         return text;
     }
-    Items items = split(text, between);
     const auto row = std::ranges::find(sortOptions, option, &SortOption::option);
-    (row == std::end(sortOptions) ? sortOptions[0] : *row).order(items, locale);
-    return join(items, between, text.size() + between.size());
+    return (row == std::end(sortOptions) ? sortOptions[0] : *row)
+        .order(Items(text, between), locale);
 }
 
-std::vector<std::u16string_view> shuffleArray(std::vector<std::u16string_view> items) {
+std::vector<std::size_t> shuffleArray(std::vector<std::size_t> items) {
     std::random_device source;
     std::seed_seq seed{source(), source(), source(), source()};
     std::mt19937_64 random(seed);
@@ -113,7 +117,7 @@ std::vector<std::u16string_view> shuffleArray(std::vector<std::u16string_view> i
     return items;
 }
 
-std::vector<std::u16string_view> removeDuplicates(const std::vector<std::u16string_view> &items) {
+std::u16string removeDuplicates(const text::Items &items) {
     return text::distinct(items);
 }
 

@@ -3,6 +3,9 @@
 // Texts are UTF-16. Every function may run on any thread and never fails.
 #pragma once
 
+#include "text/Items.h"
+
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -17,10 +20,10 @@ inline constexpr std::int64_t removeDuplicatesOption = 10;
 std::u16string sortLines(std::u16string text, std::int64_t option, std::int64_t separator,
                          std::u16string_view customSeparator, const std::string &locale);
 
-// The same items in random order; the source needs no seed.
-std::vector<std::u16string_view> shuffleArray(std::vector<std::u16string_view> items);
+// The same items, by their places, in random order; the source needs no seed.
+std::vector<std::size_t> shuffleArray(std::vector<std::size_t> items);
 
-// The first of every item, compared unit by unit, in the order of the input.
-std::vector<std::u16string_view> removeDuplicates(const std::vector<std::u16string_view> &items);
+// The first of every item, compared unit by unit, in the order of the input, joined again.
+std::u16string removeDuplicates(const text::Items &items);
 
 } // namespace nerlo::engine

@@ -1,9 +1,9 @@
-// Ordering of texts by a locale's rules.
+// Ordering of items by a locale's rules.
 #pragma once
 
+#include "text/Items.h"
+
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace nerlo::text {
 
@@ -12,12 +12,12 @@ enum class Strength {
     Full,       // the locale's order as it comes
 };
 
-// Puts the items in the locale's order; items that compare equal keep theirs. `locale` is an ICU
-// locale id; unknown locales have the root's order. The texts behind the items must stay alive.
-void sortByLocale(std::vector<std::u16string_view> &items, const std::string &locale,
-                  Strength strength, bool descending);
+// The items in the locale's order, joined again; those that compare equal keep theirs. `locale` is
+// an ICU locale id; unknown locales have the root's order. Any thread.
+std::u16string sortedByLocale(const Items &items, const std::string &locale, Strength strength,
+                              bool descending);
 
-// Puts the items in the order of their code units.
-void sortByCodeUnits(std::vector<std::u16string_view> &items, bool descending);
+// The items in the order of their code units, joined again. Any thread.
+std::u16string sortedByCodeUnits(const Items &items, bool descending);
 
 } // namespace nerlo::text

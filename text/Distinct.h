@@ -1,13 +1,14 @@
 // Telling equal texts apart from new ones.
 #pragma once
 
-#include <string_view>
-#include <vector>
+#include "text/Items.h"
+
+#include <string>
 
 namespace nerlo::text {
 
-// The first of every text, compared unit by unit, in the order of the input. Linear in the number
-// of units also on texts chosen to collide: the hash is keyed anew in every process.
-std::vector<std::u16string_view> distinct(const std::vector<std::u16string_view> &texts);
+// The first of every item, compared unit by unit, joined again in their order. Linear in the number
+// of units also on items chosen to collide: the hash is keyed anew in every process. Any thread.
+std::u16string distinct(const Items &items);
 
 } // namespace nerlo::text

@@ -71,13 +71,13 @@ TEST(Sorting, OrdersItems) {
 }
 
 TEST(Sorting, ShufflesEveryItemToEveryPlace) {
-    const std::vector<std::u16string_view> items{u"a", u"b", u"c"};
+    const std::vector<std::size_t> items{0, 1, 2};
     std::array<std::array<int, 3>, 3> seen{};
     for (int round = 0; round < 3000; ++round) {
         const auto shuffled = shuffleArray(items);
         ASSERT_TRUE(std::ranges::is_permutation(shuffled, items));
         for (std::size_t place = 0; place < 3; ++place) {
-            ++seen[place][static_cast<std::size_t>(shuffled[place].front() - u'a')];
+            ++seen[place][shuffled[place]];
         }
     }
     for (const auto &place : seen) {
