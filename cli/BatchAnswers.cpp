@@ -1,6 +1,7 @@
 #include "cli/BatchAnswers.h"
 
 #include "cli/JsonOptions.h"
+#include "cli/JsonText.h"
 #include "cli/PatternFailures.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
@@ -95,7 +96,7 @@ std::string rawId(std::string_view object) {
         walker.skipMark();
         const std::string_view value = walker.value();
         if (name == "\"id\"" || (name.find('\\') != std::string_view::npos &&
-                                 json::parse(name).get_ref<const std::string &>() == "id")) {
+                                 json::parse(name, nullptr, false) == "id")) {
             id = value;
         }
         if (walker.peek() == ',') {
@@ -106,8 +107,9 @@ std::string rawId(std::string_view object) {
 }
 
 json parseRequest(std::string_view request) {
+    std::string room;
     try {
-        return json::parse(request);
+        return json::parse(withMarkedSurrogates(request, room));
     } catch (const json::parse_error &error) {
         if (const auto at = text::utf8ToUtf16(request).invalidAt) {
             throw BadRequest("invalid UTF-8 at byte " + std::to_string(*at));
@@ -167,7 +169,7 @@ void checkMembers(const json &request) {
     constexpr std::string_view known[] = {"id", "text", "options", "operation", "locale"};
     for (const auto &[name, value] : request.items()) {
         if (std::find(std::begin(known), std::end(known), name) == std::end(known)) {
-            throw BadRequest("unknown field " + json(name).dump());
+            throw BadRequest("unknown field " + jsonOfText(textOfJson(name)));
         }
     }
 }
@@ -198,7 +200,7 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     if (!text) {
         throw BadRequest("no \"text\"");
     }
-    std::u16string content = text::utf8ToUtf16(stringOf(*text, "text")).text;
+    std::u16string content = textOfJson(stringOf(*text, "text"));
     const engine::Operation *operation = operationOf(memberOf(parsed, "operation"));
     const json *locale = memberOf(parsed, "locale");
     const std::string localeId = locale ? localeOf(*locale) : locale_;
@@ -220,7 +222,7 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     if (!report.empty()) {
         throw BadRequest(messageOf(report));
     }
-    return "\"text\":" + json(text::utf16ToUtf8(content)).dump();
+    return "\"text\":" + jsonOfText(content);
 }
 
 Answer BatchAnswers::answer(std::string_view request) const {
@@ -241,11 +243,14 @@ Answers BatchAnswers::answerAll(std::string_view requests) const {
     Answers answers;
     while (!requests.empty()) {
         const std::size_t end = std::min(requests.find('\n'), requests.size());
-        const Answer one = answer(requests.substr(0, end));
-        answers.lines += one.line;
+        const std::string_view request = requests.substr(0, end);
         ++answers.count;
-        if (one.failed && ++answers.failed == 1) {
-            answers.firstFailed = answers.count;
+        if (request.find_first_not_of(" \t\r") != std::string_view::npos) {
+            const Answer one = answer(request);
+            answers.lines += one.line;
+            if (one.failed && ++answers.failed == 1) {
+                answers.firstFailed = answers.count;
+            }
         }
         requests.remove_prefix(std::min(end + 1, requests.size()));
     }

@@ -16,7 +16,7 @@ struct Answer {
 
 struct Answers {
     std::string lines;
-    std::size_t count = 0;
+    std::size_t count = 0; // of the requests' lines
     std::size_t failed = 0;
     std::size_t firstFailed = 0; // counted from 1
 };
@@ -28,7 +28,8 @@ class BatchAnswers {
 
     // `request` comes without its line break and may be any bytes. Any thread; never throws.
     Answer answer(std::string_view request) const;
-    // The same for several lines, of which only the last may lack its line break.
+    // The same for several lines, of which only the last may lack its line break. Blank ones get no
+    // answer, but count.
     Answers answerAll(std::string_view requests) const;
 
   private:

@@ -27,14 +27,18 @@ constexpr unsigned mostJobs = 256;
 
 struct BatchArguments {
     unsigned jobs = 1;
+    OptionArguments options;
     std::string locale;
+    std::string file = "-";
 };
 
-// Whole lines of standard input; the last one may lack its line break.
+// Whole lines of an input; the last one may lack its line break.
 class LineReader {
   public:
-    explicit LineReader(Progress &progress)
-        : progress_(progress) {}
+    LineReader(const std::string &file, Progress &progress)
+        : name_(nameOf(file))
+        , input_(file)
+        , progress_(progress) {}
 
     // Calls `take` for all complete lines at hand, some at a time, and `idle` before it waits for
     // more.
@@ -43,7 +47,7 @@ class LineReader {
             const std::size_t kept = buffer_.size();
             buffer_.resize(kept + readAtMost);
             const std::size_t count =
-                readSome(STDIN_FILENO, buffer_.data() + kept, readAtMost, nameOf("-"));
+                readSome(input_.descriptor(), buffer_.data() + kept, readAtMost, name_);
             buffer_.resize(kept + count);
             progress_.addRead(count);
             if (count == 0) {
@@ -75,6 +79,8 @@ class LineReader {
         buffer_.erase(0, end);
     }
 
+    const std::string name_;
+    const InputFile input_;
     Progress &progress_;
     std::string buffer_;
 };
@@ -82,8 +88,9 @@ class LineReader {
 // Writes answers and remembers which of them tell of an error.
 class AnswerWriter {
   public:
-    explicit AnswerWriter(Progress &progress)
-        : progress_(progress) {}
+    AnswerWriter(const std::string &file, Progress &progress)
+        : name_(nameOf(file))
+        , progress_(progress) {}
 
     void add(const Answers &answers) {
         if (answers.failed != 0 && failed_ == 0) {
@@ -107,12 +114,13 @@ class AnswerWriter {
         if (failed_ == 0) {
             return ExitStatus::done;
         }
-        report("standard input: " + std::to_string(failed_) + " of " + std::to_string(lines_) +
+        report(name_ + ": " + std::to_string(failed_) + " of " + std::to_string(lines_) +
                " lines answered with an error, the first is line " + std::to_string(firstFailed_));
         return ExitStatus::ioFailed;
     }
 
   private:
+    const std::string name_;
     Progress &progress_;
     std::string pending_;
     std::size_t lines_ = 0;
@@ -128,11 +136,11 @@ class AnswerWriter {
 
 ExitStatus runBatch(const BatchArguments &arguments) {
     engine::CleaningOptions options;
-    options.setAllBools(defaultOptions());
+    options.setAllBools(chosenOptions(arguments.options));
     const BatchAnswers answers(std::move(options), arguments.locale);
     Progress progress;
-    LineReader reader(progress);
-    AnswerWriter writer(progress);
+    LineReader reader(arguments.file, progress);
+    AnswerWriter writer(arguments.file, progress);
     if (arguments.jobs <= 1) {
         reader.run([&](std::string_view lines) { writer.add(answers.answerAll(lines)); },
                    [&] { writer.flush(); });
@@ -164,7 +172,8 @@ ExitStatus runBatch(const BatchArguments &arguments) {
 void addBatch(CLI::App &app, ExitStatus &status) {
     CLI::App *command = app.add_subcommand("batch", "Answer requests, one JSON object a line");
     command->footer(
-        "Reads one request a line and writes one answer a line, in the same order:\n"
+        "Reads one request a line, from the file or standard input, and writes one answer a line,\n"
+        "in the same order:\n"
         "\n"
         "  {\"id\": 1, \"text\": \"a  b\"}            ->  {\"id\":1,\"text\":\"a b\"}\n"
         "  {\"text\": \"a b\", \"operation\": 25}     ->  {\"id\":null,\"statistics\":{...}}\n"
@@ -175,11 +184,10 @@ void addBatch(CLI::App &app, ExitStatus &status) {
         "or name; the full pipeline when missing), \"options\" (an object of settings keys that\n"
         "stands for a whole profile: a key that is missing is off, 0 or empty; without the "
         "object,\n"
-        "the same options hold as for `nerlo clean`) and \"locale\". Operation 25 answers with "
-        "the\n"
-        "four counts. A line that cannot be answered gets an error, the rest goes on, and the "
-        "exit\n"
-        "status is 1 at the end. The answers do not depend on the number of jobs.\n" +
+        "--options, --profile and --set say which options hold, as for `nerlo clean`) and\n"
+        "\"locale\". Operation 25 answers with the four counts. A line that cannot be answered\n"
+        "gets an error, the rest goes on, and the exit status is 1 at the end; a blank line is\n"
+        "skipped. The answers do not depend on the number of jobs.\n" +
         std::string(localeHelp) +
         "\n"
         "Example:\n"
@@ -188,7 +196,10 @@ void addBatch(CLI::App &app, ExitStatus &status) {
     command->add_option("--jobs", arguments->jobs, "Work on so many requests at a time (1)")
         ->check(CLI::Range(1u, mostJobs))
         ->option_text("N");
+    addOptions(*command, arguments->options);
     addLocale(*command, arguments->locale);
+    command->add_option("file", arguments->file, "The requests; none or \"-\" is standard input")
+        ->option_text("FILE");
     command->callback([arguments, &status] { status = runBatch(*arguments); });
 }
 

@@ -3,6 +3,7 @@
 #include "cli/Failure.h"
 #include "cli/Input.h"
 #include "cli/JsonOptions.h"
+#include "cli/JsonText.h"
 #include "cli/Progress.h"
 #include "settings/ProfilesFile.h"
 #include "settings/SettingsKeys.h"
@@ -45,8 +46,12 @@ PropertyDictionary readOptions(const std::string &file) {
         throw Failure(ExitStatus::ioFailed,
                       nameOf(file) + ": the property list is not a dictionary of settings keys");
     }
+    // A newer version may have written it.
     for (const auto &[key, value] : *dictionary) {
-        knownKey(key, nameOf(file));
+        if (!settings::findKey(key)) {
+            progress.stop();
+            report("warning: " + nameOf(file) + ": unknown key \"" + key + "\" has no effect");
+        }
     }
     return *dictionary;
 }
@@ -80,12 +85,13 @@ PropertyDictionary profileOptions(const std::string &nameOrIndex) {
     return options;
 }
 
-storage::PropertyValue readRules(const std::string &key, std::string_view text) {
-    const nlohmann::json value = nlohmann::json::parse(text, nullptr, false);
+storage::PropertyValue readRules(const settings::SettingsKey &row, std::string_view text) {
+    std::string room;
+    const auto value = nlohmann::json::parse(withMarkedSurrogates(text, room), nullptr, false);
     if (!value.is_array()) {
-        refuse("--set " + key + ": not a JSON array of rules");
+        refuse("--set " + row.key + ": not a JSON array of rules");
     }
-    return settingFromJson(key, value);
+    return settingFromJson(row, value);
 }
 
 void applySetting(const std::string &setting, PropertyDictionary &options) {
@@ -97,7 +103,7 @@ void applySetting(const std::string &setting, PropertyDictionary &options) {
     const std::string_view text = std::string_view(setting).substr(equals + 1);
     const settings::SettingsKey &row = knownKey(key, "--set");
     if (row.kind == settings::SettingKind::List) {
-        options.set(key, readRules(key, text));
+        options.set(key, readRules(row, text));
         return;
     }
     settings::ParsedSetting parsed = settings::parseSetting(row, text);

@@ -1,8 +1,8 @@
 #include "cli/JsonOptions.h"
 
 #include "cli/Failure.h"
+#include "cli/JsonText.h"
 #include "settings/SettingsKeys.h"
-#include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,55 +13,117 @@ namespace nerlo::cli {
 namespace {
 
 using nlohmann::json;
+using settings::SettingKind;
+using settings::SettingsKey;
 using storage::PropertyArray;
 using storage::PropertyDictionary;
 using storage::PropertyValue;
 
-constexpr int deepest = 4; // a list of rules has two levels
-
-[[noreturn]] void refuse(const std::string &key, const char *why) {
+[[noreturn]] void refuse(const std::string &key, const std::string &why) {
     throw Failure(ExitStatus::unusableArguments, "key " + json(key).dump() + ": " + why);
 }
 
-PropertyValue valueFromJson(const std::string &key, const json &value, int depth) {
-    if (depth > deepest) {
-        refuse(key, "nested too deep");
-    }
-    switch (value.type()) {
-    case json::value_t::boolean:
+// Each of these returns nothing for a value of another kind.
+std::optional<PropertyValue> switchOf(const json &value) {
+    if (value.is_boolean()) {
         return value.get<bool>();
-    case json::value_t::number_integer:
-        return value.get<std::int64_t>();
-    case json::value_t::number_unsigned:
-        if (value.get<std::uint64_t>() > INT64_MAX) {
-            refuse(key, "number out of range");
-        }
-        return value.get<std::int64_t>();
-    case json::value_t::string:
-        return text::utf8ToUtf16(value.get_ref<const std::string &>()).text;
-    case json::value_t::array: {
-        PropertyArray array;
-        for (const json &item : value) {
-            array.push_back(valueFromJson(key, item, depth + 1));
-        }
-        return array;
     }
-    case json::value_t::object: {
-        PropertyDictionary dictionary;
-        for (const auto &[name, item] : value.items()) {
-            dictionary.set(name, valueFromJson(key, item, depth + 1));
+    return value == 0 || value == 1 ? std::optional<PropertyValue>(value == 1) : std::nullopt;
+}
+
+std::optional<PropertyValue> integerOf(const json &value) {
+    const bool fits = value.is_number_integer() &&
+                      (!value.is_number_unsigned() || value.get<std::uint64_t>() <= INT64_MAX);
+    return fits ? std::optional<PropertyValue>(value.get<std::int64_t>()) : std::nullopt;
+}
+
+std::optional<PropertyValue> textOf(const json &value) {
+    return value.is_string()
+               ? std::optional<PropertyValue>(textOfJson(value.get_ref<const std::string &>()))
+               : std::nullopt;
+}
+
+PropertyDictionary ruleOf(const std::string &key, const json &rule, std::size_t number) {
+    const std::string place = " of rule " + std::to_string(number);
+    if (!rule.is_object()) {
+        refuse(key, "rule " + std::to_string(number) + " is not an object");
+    }
+    PropertyDictionary result;
+    for (const auto &[name, value] : rule.items()) {
+        const bool isText = name == "find" || name == "replace";
+        if (!isText && name != "checkbox") {
+            refuse(key, "unknown member " + jsonOfText(textOfJson(name)) + place);
         }
-        return dictionary;
+        const auto member = isText ? textOf(value) : switchOf(value);
+        if (!member) {
+            refuse(key, json(name).dump() + place +
+                            (isText ? " is not a string" : " is neither true nor false"));
+        }
+        result.set(name, *member);
     }
-    default:
-        refuse(key, "null and fractions are no settings");
+    return result;
+}
+
+PropertyArray rulesOf(const std::string &key, const json &value) {
+    if (!value.is_array()) {
+        refuse(key, "not an array of rules");
     }
+    PropertyArray rules;
+    for (const json &rule : value) {
+        rules.push_back(ruleOf(key, rule, rules.size() + 1));
+    }
+    return rules;
+}
+
+std::optional<PropertyValue> textsOf(const json &value) {
+    PropertyArray texts;
+    for (const json &item : value) {
+        const auto text = textOf(item);
+        if (!text) {
+            return std::nullopt;
+        }
+        texts.push_back(*text);
+    }
+    return value.is_array() ? std::optional<PropertyValue>(std::move(texts)) : std::nullopt;
+}
+
+struct Converted {
+    std::optional<PropertyValue> value;
+    const char *otherwise; // why there is none
+};
+
+Converted convert(const SettingsKey &key, const json &value) {
+    switch (key.kind) {
+    case SettingKind::Switch:
+    case SettingKind::Boolean:
+        return {switchOf(value), "neither true nor false"};
+    case SettingKind::Index:
+    case SettingKind::Integer:
+        return {integerOf(value), "not a whole number"};
+    case SettingKind::Text:
+        // Some texts hold a number, and a first start writes them as one.
+        if (key.firstStart && key.firstStart->as<std::int64_t>() && value.is_number()) {
+            return {integerOf(value), "not a whole number"};
+        }
+        return {textOf(value), "not a string"};
+    case SettingKind::List:
+        return {rulesOf(key.key, value), ""};
+    case SettingKind::TextList:
+        return {textsOf(value), "not an array of strings"};
+    case SettingKind::HotKey:
+        break;
+    }
+    return {std::nullopt, "a hot key can only be recorded in the preferences"};
 }
 
 } // namespace
 
-storage::PropertyValue settingFromJson(const std::string &key, const json &value) {
-    return valueFromJson(key, value, 0);
+PropertyValue settingFromJson(const SettingsKey &key, const json &value) {
+    auto [converted, otherwise] = convert(key, value);
+    if (!converted) {
+        refuse(key.key, otherwise);
+    }
+    return std::move(*converted);
 }
 
 PropertyDictionary optionsFromJson(const json &object) {
@@ -70,10 +132,12 @@ PropertyDictionary optionsFromJson(const json &object) {
     }
     PropertyDictionary options;
     for (const auto &[key, value] : object.items()) {
-        if (!settings::findKey(key)) {
-            throw Failure(ExitStatus::unusableArguments, "unknown key " + json(key).dump());
+        const SettingsKey *row = settings::findKey(key);
+        if (!row) {
+            throw Failure(ExitStatus::unusableArguments,
+                          "unknown key " + jsonOfText(textOfJson(key)));
         }
-        options.set(key, settingFromJson(key, value));
+        options.set(key, settingFromJson(*row, value));
     }
     return options;
 }

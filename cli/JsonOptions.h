@@ -5,13 +5,17 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include <string>
+namespace nerlo::settings {
+struct SettingsKey;
+}
 
 namespace nerlo::cli {
 
-// Booleans, integers, strings, arrays and objects become what they are in a property list. Throws
-// Failure for null, fractions, integers above 63 bits and values nested deeper than any setting.
-storage::PropertyValue settingFromJson(const std::string &key, const nlohmann::json &value);
+// Takes what suits the key: true, false, 1 or 0 for a switch, a whole number for an index, a string
+// for a text, an array of objects with "checkbox", "find" and "replace" for rules. Throws Failure,
+// with the key and what is wrong, for anything else.
+storage::PropertyValue settingFromJson(const settings::SettingsKey &key,
+                                       const nlohmann::json &value);
 
 // Also throws Failure for anything but an object, and for a key that is no settings key.
 storage::PropertyDictionary optionsFromJson(const nlohmann::json &object);

@@ -1,5 +1,6 @@
 // The batch command: many requests, hostile lines, any number of jobs.
 #include "cli/BatchAnswers.h"
+#include "cli/JsonText.h"
 #include "cli/OrderedWorkers.h"
 #include "engine/Operations.h"
 #include "settings/SettingsKeys.h"
@@ -9,6 +10,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdio>
 #include <future>
 #include <limits>
 
@@ -85,7 +87,7 @@ TEST(Batch, HugeAndDeepLines) {
               "{\"id\":" + deep + ",\"text\":\"a\"}\n");
     EXPECT_EQ(
         answers.answer("{\"id\":1,\"text\":\"a\",\"options\":{\"udSort\":" + deep + "}}").line,
-        "{\"id\":1,\"error\":\"key \\\"udSort\\\": nested too deep\"}\n");
+        "{\"id\":1,\"error\":\"key \\\"udSort\\\": neither true nor false\"}\n");
     EXPECT_EQ(answers.answer("{\"id\":1,\"text\":" + deep + "}").line,
               "{\"id\":1,\"error\":\"\\\"text\\\" is not a string\"}\n");
     EXPECT_EQ(answers.answer(std::string(200000, '[')).line,
@@ -96,6 +98,38 @@ TEST(Batch, HugeAndDeepLines) {
         NerloRun{{"batch", "--jobs", "2"}, "{\"text\":\"" + huge + "\"}\n", {}, {}}.toEnd();
     EXPECT_EQ(ended.status, 0);
     EXPECT_TRUE(ended.out == "{\"id\":null,\"text\":\"" + huge + "\"}\n");
+}
+
+// Any units, also half pairs, which UTF-8 does not have, and what stands in for them on the way.
+TEST(Batch, AnyUnitsComeBack) {
+    const cli::BatchAnswers answers({}, "en_US");
+    const char16_t halves[] = {0xD800, 0xDBFF, 0xDC00, 0xDFFF};
+    std::vector<std::u16string_view> units{u"\uFFFE", u"---", u"000", u"7ff", u"\\", u"\"", u"u"};
+    for (const char16_t &half : halves) {
+        units.emplace_back(&half, 1);
+    }
+    Random random(7);
+    for (int round = 0; round < 2000; ++round) {
+        const std::u16string text = random.text(units);
+        const std::string quoted = cli::jsonOfText(text);
+        std::string escaped; // the same with every unit escaped
+        for (const char16_t unit : text) {
+            char digits[8];
+            std::snprintf(digits, sizeof digits, "\\u%04X", unsigned{unit});
+            escaped += digits;
+        }
+        const std::string expected = "{\"id\":" + quoted + ",\"text\":" + quoted + "}\n";
+        EXPECT_EQ(answers.answer("{\"id\":" + quoted + ",\"text\":\"" + escaped + "\"}").line,
+                  expected);
+        EXPECT_EQ(answers.answer("{\"text\":" + quoted + ",\"id\":" + quoted + "}").line, expected);
+        EXPECT_EQ(answers
+                      .answer("{\"id\":" + quoted +
+                              ",\"text\":\"a\",\"operation\":\"add-suffix\","
+                              "\"options\":{\"udSuffixTextField\":" +
+                              quoted + "}}")
+                      .line,
+                  "{\"id\":" + quoted + ",\"text\":" + cli::jsonOfText(u"a" + text) + "}\n");
+    }
 }
 
 // Any byte at any place gives one line of JSON back.
