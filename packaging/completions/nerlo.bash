@@ -68,13 +68,17 @@ _nerlo() {
         fi
         ;;
     batch)
-        COMPREPLY=($(compgen -W "--jobs --locale --help" -- "$cur"))
+        if [[ $cur == -* ]]; then
+            COMPREPLY=($(compgen -W "--jobs --profile --options --set --locale --help" -- "$cur"))
+        else
+            _filedir
+        fi
         ;;
     operations | keys)
         COMPREPLY=($(compgen -W "--json --help" -- "$cur"))
         ;;
     profiles)
-        if [ "$cword" -eq 2 ]; then
+        if [ "$cword" -eq 2 ] || [[ $cur == -* ]]; then
             COMPREPLY=($(compgen -W "show export import --json --help" -- "$cur"))
         else
             _filedir

@@ -22,13 +22,13 @@ complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a keys -d 'Lis
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a profiles -d 'List, show, import and export profiles'
 
 complete -c nerlo -n '__fish_seen_subcommand_from clean' -l operation -x -a '(__nerlo_operations)' -d 'Run only this operation'
-complete -c nerlo -n '__fish_seen_subcommand_from clean' -l profile -x -a '(__nerlo_profiles)' -d 'Take the options from a profile'
-complete -c nerlo -n '__fish_seen_subcommand_from clean' -l options -r -d 'Take the options from a property list'
-complete -c nerlo -n '__fish_seen_subcommand_from clean' -l set -x -a '(__nerlo_keys)' -d 'Change one key'
-complete -c nerlo -n '__fish_seen_subcommand_from clean' -l in-place -d 'Rewrite each file'
+complete -c nerlo -n '__fish_seen_subcommand_from clean batch' -l profile -x -a '(__nerlo_profiles)' -d 'Take the options from a profile'
+complete -c nerlo -n '__fish_seen_subcommand_from clean batch' -l options -r -d 'Take the options from a property list'
+complete -c nerlo -n '__fish_seen_subcommand_from clean batch' -l set -x -a '(__nerlo_keys)' -d 'Change one key'
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l in-place -s i -d 'Rewrite each file that changes'
 complete -c nerlo -n '__fish_seen_subcommand_from clean count batch' -l locale -x -d 'Rules for letter case, words and sorting'
 complete -c nerlo -n '__fish_seen_subcommand_from batch' -l jobs -x -d 'Requests at a time'
-complete -c nerlo -n '__fish_seen_subcommand_from batch operations keys' -f
+complete -c nerlo -n '__fish_seen_subcommand_from operations keys' -f
 complete -c nerlo -n '__fish_seen_subcommand_from count operations keys profiles' -l json -d 'Write JSON'
 complete -c nerlo -n '__fish_seen_subcommand_from profiles; and not __fish_seen_subcommand_from show export import' -f -a 'show export import'
 complete -c nerlo -n '__fish_seen_subcommand_from show export' -a '(__nerlo_profiles)'
