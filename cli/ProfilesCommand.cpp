@@ -6,7 +6,6 @@
 #include "settings/ProfilesFile.h"
 #include "settings/SettingsKeys.h"
 #include "storage/PropertyList.h"
-#include "storage/SafeFile.h"
 #include "text/Utf.h"
 
 #include <CLI/App.hpp>
@@ -152,10 +151,9 @@ void importFile(const std::string &file) {
 
 void exportTo(const std::string &nameOrIndex, const std::string &file) {
     const Profiles profiles;
-    const std::string bytes =
-        storage::writePropertyList(PropertyValue(profiles.find(nameOrIndex).record));
+    const PropertyValue profile(profiles.find(nameOrIndex).record);
     if (file == "-") {
-        writeOutput(bytes);
+        writeOutput(storage::writePropertyList(profile));
         return;
     }
     std::error_code ignored;
@@ -163,7 +161,7 @@ void exportTo(const std::string &nameOrIndex, const std::string &file) {
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         throw Failure(ExitStatus::ioFailed, file + ": not a regular file");
     }
-    if (const std::string error = storage::replaceFile(file, bytes); !error.empty()) {
+    if (const std::string error = storage::replaceWithPropertyList(file, profile); !error.empty()) {
         throw Failure(ExitStatus::ioFailed, error);
     }
 }

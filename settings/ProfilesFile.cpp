@@ -218,7 +218,13 @@ RecordsFile::OnDisk RecordsFile::read() {
     OnDisk disk;
     disk.there = file.there;
     disk.usable = file.array.has_value();
-    disk.error = std::move(file.error);
+    // It stays: a later reading finds what was put in the place of the damaged file.
+    if (!file.error.empty() && file.error != loadError_) {
+        loadError_ = std::move(file.error);
+        if (damaged_) {
+            damaged_();
+        }
+    }
     PropertyArray elements = std::move(file.array).value_or(PropertyArray());
     for (PropertyValue &element : elements) {
         if (auto *record = element.as<PropertyDictionary>()) {
@@ -258,17 +264,13 @@ void RecordsFile::identify(RecordItems &items) {
 
 RecordItems RecordsFile::load() {
     OnDisk disk = read();
-    if (disk.there && loadError_.empty()) {
-        loadError_ =
-            std::move(disk.error); // stays: who loads again finds what was put in its place
-    }
     base_ = std::move(disk.items);
     return base_;
 }
 
 std::string RecordsFile::write(const RecordItems &items, const PropertyArray &others) {
     const PropertyValue array(arrayOf(items, others));
-    std::string error = storage::replaceFile(path_, storage::writePropertyList(array), calls_);
+    std::string error = storage::replaceWithPropertyList(path_, array, calls_);
     seen_ = storage::stampOf(path_);
     return error;
 }

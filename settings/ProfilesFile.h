@@ -11,6 +11,7 @@
 #include "storage/SafeFile.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -49,8 +50,10 @@ class RecordsFile {
 
     // The file's records; none where it is missing or unusable. Changes no file.
     RecordItems load();
-    // Why the file was unusable when load() first found it so; empty if it never did.
+    // Why the file was unusable when it was last found so; empty if it never was.
     const std::string &loadError() const { return loadError_; }
+    // Runs when loadError() changes.
+    void setDamageHandler(std::function<void()> damaged) { damaged_ = std::move(damaged); }
 
     std::uint64_t newId() { return ++lastId_; }
     RecordItem newItem(storage::PropertyDictionary record) { return {newId(), std::move(record)}; }
@@ -75,7 +78,6 @@ class RecordsFile {
     struct OnDisk {
         bool usable = false;
         bool there = false;
-        std::string error;
         RecordItems items;
         storage::PropertyArray others; // elements that are no records; kept at the end
     };
@@ -92,6 +94,7 @@ class RecordsFile {
     RecordItems base_;                       // the file's records as last seen
     std::uint64_t lastId_ = 0;
     std::string loadError_;
+    std::function<void()> damaged_;
 };
 
 class ProfilesFile : public RecordsFile {

@@ -50,6 +50,14 @@ nrPreferences::nrPreferences(storage::SettingsStore &store, platform::MainQueue 
     if (!instance) {
         instance = this;
     }
+    for (RecordsFile *file :
+         {static_cast<RecordsFile *>(&file_), static_cast<RecordsFile *>(&sharedFile_)}) {
+        file->setDamageHandler([this] {
+            if (hooks_.damaged) {
+                hooks_.damaged();
+            }
+        });
+    }
     createDir();
 }
 

@@ -36,6 +36,7 @@ struct PreferencesHooks {
     std::function<void(int mode)> updateUI; // of the rules' table, see nrPreferences::updateUI
     // Goes with the next save that succeeds, which is told by an empty error.
     std::function<void(const std::string &error)> saveFailed;
+    std::function<void()> damaged; // loadErrors() has changed
 };
 
 class nrPreferences {
@@ -64,7 +65,7 @@ class nrPreferences {
     // Profiles.
     void initProfilesItems(); // once, when everything is to be loaded
     const ProfileItems &profilesItems() const { return profilesItems_; }
-    // Which of the two files could not be read at the start, and why.
+    // Which of the two files could not be read, at the start or since, and why.
     std::vector<std::string> loadErrors() const;
     const ProfileRecord &profileSelected() const { return edited_.record(); }
     std::u16string profileName() const { return edited_.name(); }

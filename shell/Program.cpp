@@ -51,6 +51,8 @@ Program::Program(Parts parts)
                                            parts_.links});
     preferences_.initProfilesItems();
     tellDamages();
+    store_.setDamageHandler([this] { tellDamages(); });
+    preferences_.hooks().damaged = [this] { tellDamages(); };
 }
 
 Program::~Program() {
@@ -63,6 +65,8 @@ Program::~Program() {
     }
     // The windows, which it tells, go before it.
     store_.setErrorHandler(nullptr);
+    store_.setDamageHandler(nullptr);
+    preferences_.hooks().damaged = nullptr;
     parts_.desktop.keyboardLayout.backend->setChangedHandler(nullptr);
     parts_.desktop.clipboard.backend->setLostHandler(nullptr);
 }
@@ -100,7 +104,9 @@ void Program::tellDamages() {
     QStringList lines;
     for (const auto &damage : damages) {
         lines << QString::fromStdString(damage) + "\n" + localized("sFileDamaged");
-        complain(damage);
+        if (toldDamages_.insert(damage).second) {
+            complain(damage);
+        }
     }
     // Users who miss a setting look at this notice.
     windows_.setProblem(ShellWindows::Problem::damage, lines.join('\n').toStdString());

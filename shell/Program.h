@@ -24,6 +24,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace nerlo::shell {
@@ -101,7 +102,7 @@ class Program final {
 
   private:
     void connect();
-    void tellDamages();
+    void tellDamages(); // those of the start, and again when there is a new one
     void registerHotKeys();
     void followOtherProcesses();
 
@@ -120,6 +121,7 @@ class Program final {
     platform::FolderWatch folders_;
     storage::SettingsStore::Observation automaticMode_;
     std::shared_ptr<void> refusals_;
+    std::set<std::string> toldDamages_; // on the terminal
 };
 
 } // namespace nerlo::shell

@@ -35,6 +35,15 @@ std::optional<PropertyDictionary> FileSettingsStore::read(std::string &unusable)
     return std::move(*dictionary);
 }
 
+void FileSettingsStore::noticeDamage(const std::string &why) {
+    if (!why.empty() && why != loadError_) {
+        loadError_ = why;
+        if (damaged_) {
+            damaged_();
+        }
+    }
+}
+
 // A file that has gone or become unusable says nothing about our values: they all stay.
 PropertyDictionary FileSettingsStore::withOwnChanges(PropertyDictionary theirs) const {
     for (const std::string &key : dirty_) {
@@ -50,9 +59,9 @@ PropertyDictionary FileSettingsStore::withOwnChanges(PropertyDictionary theirs) 
 bool FileSettingsStore::synchronize() {
     PropertyDictionary merged;
     std::string before;
+    std::string unusable;
     {
         const FolderLock lock(folderOf(path_), calls_);
-        std::string unusable;
         const auto theirs = read(unusable);
         merged = theirs ? withOwnChanges(*theirs) : values();
         before = std::exchange(error_, {});
@@ -63,7 +72,7 @@ bool FileSettingsStore::synchronize() {
                 error_ = path_ + " cannot be read and cannot be moved aside";
             }
             if (error_.empty()) {
-                error_ = replaceFile(path_, writePropertyList(merged), calls_);
+                error_ = replaceWithPropertyList(path_, merged, calls_);
                 seen_ = stampOf(path_);
             }
         }
@@ -72,6 +81,7 @@ bool FileSettingsStore::synchronize() {
         }
     }
     replaceAll(std::move(merged));
+    noticeDamage(unusable);
     if (error_ != before && errorChanged_) {
         errorChanged_(error_);
     }
@@ -87,6 +97,7 @@ void FileSettingsStore::fileChanged() {
     if (auto theirs = read(unusable)) {
         replaceAll(withOwnChanges(std::move(*theirs)));
     }
+    noticeDamage(unusable);
 }
 
 void FileSettingsStore::changed(std::string_view key) {

@@ -37,7 +37,7 @@ class FileSettingsStore final : public SettingsStore {
     void fileChanged();
 
     const std::string &path() const { return path_; }
-    // Why the file could not be read at the start; empty if it could, or was not there.
+    // Why the file could not be used when it was last found so; empty if it never was.
     const std::string &loadError() const { return loadError_; }
     // Why the last write failed; empty when it did not.
     const std::string &error() const { return error_; }
@@ -46,7 +46,11 @@ class FileSettingsStore final : public SettingsStore {
         errorChanged_ = std::move(changed);
     }
 
+    // Runs when loadError() changes after the start.
+    void setDamageHandler(std::function<void()> damaged) { damaged_ = std::move(damaged); }
+
   private:
+    void noticeDamage(const std::string &why);
     void changed(std::string_view key) override;
     // The file's dictionary. Nothing when it is not there, or for what `unusable` says.
     std::optional<PropertyDictionary> read(std::string &unusable) const;
@@ -61,6 +65,7 @@ class FileSettingsStore final : public SettingsStore {
     std::string loadError_;
     std::string error_;
     std::function<void(const std::string &error)> errorChanged_;
+    std::function<void()> damaged_;
 };
 
 } // namespace nerlo::storage

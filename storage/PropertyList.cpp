@@ -2,6 +2,7 @@
 
 #include "storage/Overloaded.h"
 #include "storage/PropertyListCheck.h"
+#include "storage/SafeFile.h"
 #include "text/Utf.h"
 
 #include <plist/plist.h>
@@ -273,30 +274,37 @@ bool xmlCanHold(const PropertyValue &value) {
     return true;
 }
 
-} // namespace
-
-ParsedPropertyList parsePropertyList(std::string_view bytes) {
+std::string whatIsWrong(std::string_view bytes) {
     const bool binary = bytes.starts_with("bplist");
     if (bytes.starts_with(byteOrderMark)) {
         bytes.remove_prefix(byteOrderMark.size());
     }
     if (bytes.empty()) {
-        return {std::nullopt, "the property list is empty"};
+        return "the property list is empty";
     }
     if (bytes.size() > PropertyListLimits::bytes) {
-        return {std::nullopt, "the property list is larger than 64 MiB"};
+        return "the property list is larger than 64 MiB";
     }
     if (binary && !bytes.starts_with(binaryMagic)) {
-        return {std::nullopt, "a binary property list of an unknown version"};
+        return "a binary property list of an unknown version";
     }
-    if (std::string error = binary ? whatIsWrongWithBinary(bytes) : whatIsWrongWithXml(bytes);
-        !error.empty()) {
-        return {std::nullopt, "not a valid property list: " + error};
+    std::string error = binary ? whatIsWrongWithBinary(bytes) : whatIsWrongWithXml(bytes);
+    return error.empty() ? error : "not a valid property list: " + error;
+}
+
+} // namespace
+
+ParsedPropertyList parsePropertyList(std::string_view bytes) {
+    if (std::string error = whatIsWrong(bytes); !error.empty()) {
+        return {std::nullopt, std::move(error)};
+    }
+    if (bytes.starts_with(byteOrderMark)) {
+        bytes.remove_prefix(byteOrderMark.size());
     }
     const PlainLocale locale;
     const auto size = static_cast<std::uint32_t>(bytes.size());
     plist_t root = nullptr;
-    if (binary) {
+    if (bytes.starts_with(binaryMagic)) {
         plist_from_bin(bytes.data(), size, &root);
     } else {
         plist_from_xml(bytes.data(), size, &root);
@@ -326,6 +334,14 @@ std::string writeBinary(const PropertyValue &value) {
 
 std::string writePropertyList(const PropertyValue &value) {
     return xmlCanHold(value) ? writeXml(value) : writeBinary(value);
+}
+
+std::string replaceWithPropertyList(const std::string &path, const PropertyValue &value,
+                                    FileCalls &calls) {
+    const std::string bytes = writePropertyList(value);
+    const std::string error = whatIsWrong(bytes);
+    return error.empty() ? replaceFile(path, bytes, calls)
+                         : path + " is not written, it could not be read back: " + error;
 }
 
 } // namespace nerlo::storage

@@ -5,6 +5,7 @@
 // given, from any thread. Nothing here throws except std::bad_alloc.
 #pragma once
 
+#include "storage/FileCalls.h"
 #include "storage/PropertyListLimits.h"
 #include "storage/PropertyValue.h"
 
@@ -32,5 +33,10 @@ std::string writeBinary(const PropertyValue &value);
 // XML, unless a text holds a control character that an XML reader would refuse or change (all below
 // U+0020 but tab and line feed): then binary.
 std::string writePropertyList(const PropertyValue &value);
+
+// replaceFile() with that. What could not be read back, because of PropertyListLimits, is not
+// written.
+std::string replaceWithPropertyList(const std::string &path, const PropertyValue &value,
+                                    FileCalls &calls = FileCalls::system());
 
 } // namespace nerlo::storage

@@ -62,15 +62,16 @@ bool writeAll(FileCalls &calls, int file, std::string_view bytes) {
     return true;
 }
 
-// The file that a symbolic link leads to; the path itself where there is no link.
-std::string target(const std::string &path) {
+// The file that a symbolic link leads to; the path itself where there is no link, nothing for a
+// link that leads nowhere.
+std::optional<std::string> target(const std::string &path) {
     struct stat status {};
     if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) {
         return path;
     }
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
                                                            &std::free);
-    return real ? std::string(real.get()) : path;
+    return real ? std::optional<std::string>(real.get()) : std::nullopt;
 }
 
 std::string temporaryFor(const std::string &path) {
@@ -141,7 +142,11 @@ FileContent readFile(const std::string &path, std::size_t limit, FileCalls &call
 }
 
 std::string replaceFile(const std::string &path, std::string_view bytes, FileCalls &calls) {
-    const std::string real = target(path);
+    const std::optional<std::string> followed = target(path);
+    if (!followed) {
+        return failure("follow the link", path);
+    }
+    const std::string &real = *followed;
     const std::string temporary = temporaryFor(real);
     // One writer at a time has this name, so what stands there was left by a save that was ended.
     calls.unlink(temporary);

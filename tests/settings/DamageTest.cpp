@@ -71,6 +71,54 @@ TEST(Files, DamagedAnywhereGiveAUsableStartAndAreNotLost) {
     EXPECT_GT(damaged, 1000);
 }
 
+TEST(Files, DamagedWhileTheProgramRunsAreToldAndReplacedByTheNextSave) {
+    for (auto path :
+         {&SettingsPaths::store, &SettingsPaths::profiles, &SettingsPaths::sharedFindReplace}) {
+        const TemporaryFolder folder;
+        Program program(folder);
+        program.start();
+        program.preferences.onlyOneProfileChanged(true);
+        program.queue.advance(5s);
+        int told = 0;
+        program.store.setDamageHandler([&] { ++told; });
+        program.preferences.hooks().damaged = [&] { ++told; };
+        const std::string file = program.paths.*path;
+        putBytes(file, "damaged");
+        program.store.fileChanged();
+        program.preferences.profilesFileChanged();
+        EXPECT_EQ(told, 1) << file;
+        auto errors = program.preferences.loadErrors();
+        errors.push_back(program.store.loadError());
+        EXPECT_TRUE(std::ranges::any_of(
+            errors, [&](const std::string &error) { return error.starts_with(file); }));
+        program.store.set("showInMenubar", false);
+        program.preferences.checkBoxChanged("udSort", true);
+        program.preferences.addNewFindReplace();
+        program.queue.advance(5s);
+        program.store.synchronize();
+        EXPECT_TRUE(parsePropertyList(bytesOf(file)).value) << file;
+        EXPECT_EQ(told, 1) << file;
+    }
+}
+
+// What a later start could not read is not written over what it can.
+TEST(Files, BeyondTheLimitsAreNotWritten) {
+    const TemporaryFolder folder;
+    const std::string file = folder / "file";
+    PropertyValue deep(1);
+    for (int i = 0; i <= storage::PropertyListLimits::depth; ++i) {
+        deep = PropertyArray{deep};
+    }
+    FileSettingsStore store(file);
+    store.set("good", 1);
+    EXPECT_TRUE(store.synchronize());
+    const std::string before = bytesOf(file);
+    store.set("deep", deep);
+    EXPECT_FALSE(store.synchronize());
+    EXPECT_TRUE(store.error().starts_with(file)) << store.error();
+    EXPECT_EQ(bytesOf(file), before);
+}
+
 // Two profiles, large enough for a save to take several writes.
 PropertyArray twoProfiles(int count) {
     PropertyArray profiles = named({u"first", u"second"});

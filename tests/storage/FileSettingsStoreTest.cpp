@@ -218,6 +218,9 @@ TEST(SafeFile, ASymbolicLinkStaysOne) {
     EXPECT_EQ(replaceFile(folder / "link", "new"), "");
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
     EXPECT_EQ(bytesOf(folder / "real/file"), "new");
+    std::filesystem::remove(folder / "real/file");
+    EXPECT_NE(replaceFile(folder / "link", "new").find(folder / "link"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
 }
 
 TEST(SafeFile, SaysWhatFailedAndWhere) {
