@@ -32,6 +32,7 @@ struct nrChangePasterboard::Clean {
     PasteboardFormats offered{};
     platform::PasteboardData text{};
     std::shared_ptr<const platform::PasteboardContent> original{};
+    engine::CleaningReport report{};
 
     bool writes() const { return operation != engine::statisticsOperation; }
 };
@@ -152,10 +153,15 @@ void nrChangePasterboard::readOriginal(std::shared_ptr<Clean> clean) {
 }
 
 void nrChangePasterboard::runOnWorker(std::shared_ptr<Clean> clean) {
-    const auto show =
-        whileAlive([this](const engine::TextStatistics &counts) { showCounts(counts); });
+    const auto show = whileAlive(
+        [this, clean](const engine::TextStatistics &counts) { showCounts(counts, clean->report); });
+    const auto tell = whileAlive([this](const engine::CleaningReport &report) {
+        if (reportHandler_) {
+            reportHandler_(report);
+        }
+    });
     const auto write = whileAlive([this](WriteBack result) { queueWriteBack(std::move(result)); });
-    workerQueue.post([clean, show, write, &queue = mainQueue, context_locale = locale] {
+    workerQueue.post([clean, show, tell, write, &queue = mainQueue, context_locale = locale] {
         const auto post = [&queue](auto handler, auto value) {
             queue.post(
                 [handler, value = std::move(value)]() mutable { handler(std::move(value)); });
@@ -166,11 +172,15 @@ void nrChangePasterboard::runOnWorker(std::shared_ptr<Clean> clean) {
                 return;
             }
             clean->text.bytes = nullptr;
-            const engine::CleaningContext context{*clean->options, context_locale};
+            const engine::CleaningContext context{
+                .options = *clean->options, .locale = context_locale, .report = &clean->report};
             if (!clean->operation) {
                 text = engine::runPipeline(std::move(*text), context);
             } else if (clean->writes()) {
                 text = engine::runOperation(*clean->operation, std::move(*text), context);
+            }
+            if (clean->writes()) {
+                post(tell, clean->report);
             }
             if (!clean->writes() || (!clean->operation && clean->options->udStatistics)) {
                 post(show, engine::countAll(*text, context.locale));
@@ -188,13 +198,14 @@ void nrChangePasterboard::runOnWorker(std::shared_ptr<Clean> clean) {
 
 void nrChangePasterboard::newCountWindow(std::u16string text) {
     const auto show =
-        whileAlive([this](const engine::TextStatistics &counts) { showCounts(counts); });
+        whileAlive([this](const engine::TextStatistics &counts) { showCounts(counts, {}); });
     workerQueue.post([show, text = std::move(text), &queue = mainQueue, counted_locale = locale] {
         queue.post([show, counts = engine::countAll(text, counted_locale)] { show(counts); });
     });
 }
 
-void nrChangePasterboard::showCounts(const engine::TextStatistics &counts) {
+void nrChangePasterboard::showCounts(const engine::TextStatistics &counts,
+                                     const engine::CleaningReport &report) {
     countController = nullptr;
     if (!makeCountWindow) {
         return;
@@ -204,6 +215,9 @@ void nrChangePasterboard::showCounts(const engine::TextStatistics &counts) {
                                        engine::integerToString(counts.spaces, locale),
                                        engine::integerToString(counts.words, locale),
                                        engine::integerToString(counts.paragraphs, locale));
+    if (!report.empty()) {
+        countController->tellReport(report);
+    }
     countController->showWindow();
 }
 

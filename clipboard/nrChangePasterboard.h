@@ -11,6 +11,7 @@
 #pragma once
 
 #include "engine/CleaningOptions.h"
+#include "engine/CleaningReport.h"
 #include "engine/Statistics.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
@@ -41,6 +42,8 @@ class CountWindow {
     virtual ~CountWindow() = default;
     virtual void countToTextFields(std::u16string characters, std::u16string spaces,
                                    std::u16string words, std::u16string paragraphs) = 0;
+    // What the clean that it is shown for could not do. Not called if that is nothing.
+    virtual void tellReport(const engine::CleaningReport &) {}
     virtual void showWindow() = 0;
 };
 
@@ -72,6 +75,10 @@ class nrChangePasterboard {
 
     // Runs after each clean whose result reached the clipboard.
     void setCleanedHandler(std::function<void()> cleaned) { cleanedHandler = std::move(cleaned); }
+
+    // Runs after each clean, with the patterns that could not be used; mostly there is none.
+    using ReportHandler = std::function<void(const engine::CleaningReport &)>;
+    void setReportHandler(ReportHandler handler) { reportHandler_ = std::move(handler); }
 
     // Replaces the snapshot. A clean under way keeps the one that it started with.
     void setAllBools(const storage::PropertyDictionary &dictionary);
@@ -113,7 +120,7 @@ class nrChangePasterboard {
     void readText(std::shared_ptr<Clean> clean, const std::string &format);
     void readOriginal(std::shared_ptr<Clean> clean);
     void runOnWorker(std::shared_ptr<Clean> clean);
-    void showCounts(const engine::TextStatistics &counts);
+    void showCounts(const engine::TextStatistics &counts, const engine::CleaningReport &report);
     void queueWriteBack(WriteBack writeBack);
     void startNextWrite();
 
@@ -136,6 +143,7 @@ class nrChangePasterboard {
     WriteListener *writeListener = nullptr;
     std::function<void()> cleanedHandler;
     CountWindowMaker makeCountWindow;
+    ReportHandler reportHandler_;
     std::unique_ptr<CountWindow> countController;
     std::size_t originalLimit = keptOriginalLimit;
     std::shared_ptr<const engine::CleaningOptions> options =

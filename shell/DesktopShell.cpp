@@ -4,6 +4,7 @@
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/KeySequences.h"
+#include "shell/LeftOutRules.h"
 #include "shell/PreferencesWindow.h"
 #include "shell/Program.h"
 #include "shell/Strings.h"
@@ -66,10 +67,12 @@ DesktopShell::DesktopShell(Program &program)
         program_.store().observe(settings::cleanHotKey, [this] { updateCleanShortcut(); });
     hotKeyStatus_ = program_.hotKeys().observeStatus([this] { updateHotKeys(); });
     connectPreferences();
+    program_.engine().setReportHandler([this](const auto &report) { showReport(report); });
 }
 
 DesktopShell::~DesktopShell() {
     program_.parts().mainQueue.cancel(settle_);
+    program_.engine().setReportHandler(nullptr);
     auto &hooks = program_.preferences().hooks();
     hooks.profilesChanged = nullptr;
     hooks.controlsLoaded = nullptr;
@@ -207,6 +210,7 @@ void DesktopShell::makePreferencesWindow() {
     window_->assignLetters();
     window_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
     updateNotice();
+    window_->setReport(report_);
     updateHotKeys();
 }
 
@@ -326,6 +330,15 @@ void DesktopShell::setProblem(Problem problem, const std::string &text) {
     }
     updateNotice();
     stateChanged();
+}
+
+// Holds until the next clean, which may be of a text on which the rules work.
+void DesktopShell::showReport(const engine::CleaningReport &report) {
+    report_ = report;
+    setProblem(Problem::leftOutRules, leftOutText(report).toStdString());
+    if (window_) {
+        window_->setReport(report);
+    }
 }
 
 void DesktopShell::updateNotice() {

@@ -67,6 +67,7 @@ class DesktopShell final : public ShellWindows {
     void updateCleanShortcut();
     void updateHotKeys();
     void updateNotice();
+    void showReport(const engine::CleaningReport &report);
     void applyTaskbarEntry();
 
     Program &program_;
@@ -76,6 +77,7 @@ class DesktopShell final : public ShellWindows {
     const std::unique_ptr<platform::TaskbarHint> taskbar_; // null where there is none
     std::unique_ptr<platform::TrayWatch> xembed_;
     std::map<Problem, std::string> problems_; // none is empty
+    engine::CleaningReport report_;           // of the last clean
     std::unique_ptr<PreferencesWindow> window_;
     std::unique_ptr<TipsWindow> tipsController_;
     std::unique_ptr<WhatsNewWindow> whatsNewController_;

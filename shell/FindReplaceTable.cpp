@@ -2,6 +2,7 @@
 
 #include "engine/FindReplace.h"
 #include "shell/Controls.h"
+#include "shell/LeftOutRules.h"
 #include "shell/Strings.h"
 #include "shortcuts/view/WarningMark.h"
 
@@ -21,20 +22,12 @@ namespace {
 constexpr int replacementRole = Qt::UserRole;
 constexpr auto textBefore = "textBefore"; // property of an editor
 
-// What the row shows beside its text; a screen reader gets it as the description.
-void describeRow(QListWidgetItem &item) {
-    const QString replacement = item.data(replacementRole).toString();
-    const bool usable =
-        engine::ruleIsUsable(item.text().toStdU16String(), replacement.toStdU16String());
-    const QString problem = usable ? QString() : localized("sPatternUnusable");
-    item.setIcon(usable ? QIcon() : shortcuts::warningIcon());
-    item.setToolTip(problem);
-    QStringList description{problem};
-    if (!replacement.isEmpty()) {
-        description << localized("sFindReplaceWith") + ": " + replacement;
+// Why a rule does nothing; empty for one that works.
+QString problemOf(const QString &find, const QString &replacement, const QStringList &leftOut) {
+    if (!engine::ruleIsUsable(find.toStdU16String(), replacement.toStdU16String())) {
+        return localized("sPatternUnusable");
     }
-    description.removeAll(QString());
-    item.setData(Qt::AccessibleDescriptionRole, description.join('\n'));
+    return leftOut.contains(find) ? localized("sRuleLeftOut") : QString();
 }
 
 // What is sought in the first half of the row, and behind an arrow what takes its place.
@@ -141,6 +134,36 @@ void RuleList::keyPressEvent(QKeyEvent *event) {
         emit removeAsked();
     } else {
         QListWidget::keyPressEvent(event);
+    }
+}
+
+// What the row shows beside its text; a screen reader gets it as the description.
+void FindReplaceTable::describeRow(QListWidgetItem &item) {
+    const QString replacement = item.data(replacementRole).toString();
+    const QString problem = problemOf(item.text(), replacement, leftOut_);
+    item.setIcon(problem.isEmpty() ? QIcon() : shortcuts::warningIcon());
+    item.setToolTip(problem);
+    QStringList description{problem};
+    if (!replacement.isEmpty()) {
+        description << localized("sFindReplaceWith") + ": " + replacement;
+    }
+    description.removeAll(QString());
+    item.setData(Qt::AccessibleDescriptionRole, description.join('\n'));
+}
+
+void FindReplaceTable::setReport(const engine::CleaningReport &report) {
+    leftOut_.clear();
+    for (const std::size_t rule : leftOutRules(report)) {
+        const auto *item = rule == engine::PatternFailure::ownPattern
+                               ? nullptr
+                               : findTableView->item(static_cast<int>(rule) - 1);
+        if (item) {
+            leftOut_ << item->text();
+        }
+    }
+    const QScopedValueRollback loading(loading_, true);
+    for (int row = 0; row < findTableView->count(); ++row) {
+        describeRow(*findTableView->item(row));
     }
 }
 

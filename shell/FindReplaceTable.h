@@ -3,6 +3,7 @@
 // It shows the list in nrPreferences and reports edits to it. Main thread only.
 #pragma once
 
+#include "engine/CleaningReport.h"
 #include "settings/nrPreferences.h"
 
 #include <QCheckBox>
@@ -41,12 +42,15 @@ class FindReplaceTable final : public QWidget {
     void load();
     // See nrPreferences.
     void updateUI(int mode);
+    // Marks the rules that the last clean left out, until their patterns change.
+    void setReport(const engine::CleaningReport &report);
     QString searchTexts() const;
 
   private:
     void reload();
     void showField();
     void addItem(const storage::PropertyValue &rule);
+    void describeRow(QListWidgetItem &item);
     void moveSelected(int by);
 
     settings::nrPreferences &preferences_;
@@ -57,6 +61,7 @@ class FindReplaceTable final : public QWidget {
     QPushButton *remove_;
     QPushButton *up_;
     QPushButton *down_;
+    QStringList leftOut_;  // patterns
     bool loading_ = false; // changes come from the preferences, not from the user
 };
 

@@ -4,6 +4,7 @@
 #include "settings/SettingsKeys.h"
 #include "shell/Controls.h"
 #include "shell/FindReplaceTable.h"
+#include "shell/LeftOutRules.h"
 #include "shell/Strings.h"
 #include "shortcuts/view/WarningMark.h"
 
@@ -200,17 +201,7 @@ QWidget *OptionPage::makeText(const std::string &key) {
     auto *field = new QLineEdit;
     describeOption(*field, key, localized(labelKey(key)));
     if (key == patternKey) {
-        auto *mark = field->addAction(shortcuts::warningIcon(), QLineEdit::TrailingPosition);
-        mark->setText(localized("sPatternUnusable"));
-        mark->setVisible(false);
-        connect(field, &QLineEdit::textChanged, this, [field, mark, key](const QString &text) {
-            const bool usable = engine::patternIsUsable(text.toStdU16String());
-            if (mark->isVisible() == usable) {
-                mark->setVisible(!usable);
-                describeOption(*field, key, field->accessibleName(),
-                               usable ? QString() : mark->text());
-            }
-        });
+        addPatternMark(*field);
     }
     // Not textEdited(), which is silent when an accessibility tool sets the text.
     connect(field, &QLineEdit::textChanged, this, [this, key](const QString &text) {
@@ -220,6 +211,34 @@ QWidget *OptionPage::makeText(const std::string &key) {
     });
     controls_.emplace(key, field);
     return field;
+}
+
+void OptionPage::addPatternMark(QLineEdit &field) {
+    auto *mark = field.addAction(shortcuts::warningIcon(), QLineEdit::TrailingPosition);
+    mark->setVisible(false);
+    markPattern_ = [&field, mark](const QString &problem) {
+        if (problem != (mark->isVisible() ? mark->text() : QString())) {
+            mark->setText(problem);
+            mark->setVisible(!problem.isEmpty());
+            describeOption(field, patternKey, field.accessibleName(), problem);
+        }
+    };
+    connect(&field, &QLineEdit::textChanged, this, [this](const QString &text) {
+        const bool usable = engine::patternIsUsable(text.toStdU16String());
+        markPattern_(usable ? QString() : localized("sPatternUnusable"));
+    });
+}
+
+void OptionPage::setReport(const engine::CleaningReport &report) {
+    if (rules_) {
+        rules_->setReport(report);
+    }
+    const auto *pattern = qobject_cast<QLineEdit *>(control(patternKey));
+    if (pattern && engine::patternIsUsable(pattern->text().toStdU16String())) {
+        const bool leftOut =
+            std::ranges::count(leftOutRules(report), engine::PatternFailure::ownPattern) > 0;
+        markPattern_(leftOut ? localized("sRuleLeftOut") : QString());
+    }
 }
 
 void OptionPage::addRules(QString &texts) {

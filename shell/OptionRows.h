@@ -3,6 +3,7 @@
 // The controls show the state in nrPreferences and report edits to it. Main thread only.
 #pragma once
 
+#include "engine/CleaningReport.h"
 #include "settings/nrPreferences.h"
 #include "shell/PreferencesLayout.h"
 
@@ -43,6 +44,8 @@ class OptionPage final : public QWidget {
     void load();
     // Of the find-and-replace table; see nrPreferences. Nothing on pages without it.
     void updateRules(int mode);
+    // Marks what the last clean left out.
+    void setReport(const engine::CleaningReport &report);
     // The fields stand below each other, whatever their labels say.
     void alignFields();
     // Shows only the options whose texts have all the words (in lower case); whether there are any.
@@ -63,6 +66,7 @@ class OptionPage final : public QWidget {
     QCheckBox *makeCheckBox(const std::string &key, const QString &title);
     QComboBox *makeChoice(const std::string &key, QString &texts);
     QWidget *makeText(const std::string &key);
+    void addPatternMark(QLineEdit &field);
     void addRules(QString &texts);
     void updateDependents();
     QWidget *control(std::string_view key) const;
@@ -76,6 +80,7 @@ class OptionPage final : public QWidget {
     std::map<std::string, QLabel *, std::less<>> labels_;
     std::array<std::vector<QLabel *>, 2> columns_;
     FindReplaceTable *rules_ = nullptr;
+    std::function<void(const QString &problem)> markPattern_; // none on pages without the pattern
     bool loading_ = false; // changes come from load(), not from the user
 };
 

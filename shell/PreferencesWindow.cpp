@@ -372,6 +372,12 @@ void PreferencesWindow::setNotice(const QString &notice) {
     notice_->setVisible(!notice.isEmpty());
 }
 
+void PreferencesWindow::setReport(const engine::CleaningReport &report) {
+    for (OptionPage *page : optionPages_) {
+        page->setReport(report);
+    }
+}
+
 void PreferencesWindow::profilesChanged() {
     const QSignalBlocker blocker(profilesPopupButton_);
     profilesPopupButton_->clear();

@@ -41,6 +41,8 @@ class PreferencesWindow final : public QMainWindow {
     void setHotKeyProblem(std::string_view hotKey, const QString &problem);
     // A line below the pages; hidden when empty.
     void setNotice(const QString &notice);
+    // Marks what the last clean left out.
+    void setReport(const engine::CleaningReport &report);
 
     // For the hooks of nrPreferences.
     void profilesChanged();

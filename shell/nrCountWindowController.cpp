@@ -1,5 +1,6 @@
 #include "shell/nrCountWindowController.h"
 
+#include "shell/LeftOutRules.h"
 #include "shell/Strings.h"
 
 #include <QCursor>
@@ -221,6 +222,13 @@ nrCountWindowController::nrCountWindowController(const storage::SettingsStore &s
     addRow(spacesTextField, countSpacesTextField, "countSpaces");
     addRow(wordsTextField, countWordsTextField, "countWords");
     addRow(paragraphsTextField, countParagraphsTextField, "countParagraphs");
+    leftOut_ = new QLabel;
+    leftOut_->setObjectName("leftOut");
+    leftOut_->setPalette(palette);
+    leftOut_->setTextFormat(Qt::PlainText);
+    leftOut_->setWordWrap(true);
+    leftOut_->hide();
+    layout->addWidget(leftOut_, row, 0, 1, 2);
     localizations();
 }
 
@@ -236,6 +244,11 @@ void nrCountWindowController::countToTextFields(std::u16string characters, std::
     set(spacesTextField, countSpacesTextField, spaces);
     set(wordsTextField, countWordsTextField, words);
     set(paragraphsTextField, countParagraphsTextField, paragraphs);
+}
+
+void nrCountWindowController::tellReport(const engine::CleaningReport &report) {
+    leftOut_->setText(leftOutText(report));
+    leftOut_->setVisible(!leftOut_->text().isEmpty());
 }
 
 void nrCountWindowController::showWindow() {

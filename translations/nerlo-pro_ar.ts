@@ -713,6 +713,14 @@
         <translation>هذا ليس تعبيرًا نمطيًا صالحًا، لذلك لا يجد شيئًا.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>تُركت في آخر تنظيف: تتطلب عملاً كثيراً جداً لذلك النص.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>قواعد تُركت لأنها تتطلب عملاً كثيراً جداً لهذا النص: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>التطابقات</translation>
     </message>

@@ -713,6 +713,14 @@ Nachher (löschen): ab</translation>
         <translation>Das ist kein gültiger regulärer Ausdruck, er findet also nichts.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Beim letzten Bereinigen ausgelassen: zu aufwendig für diesen Text.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Ausgelassene Regeln, weil zu aufwendig für diesen Text: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Treffer</translation>
     </message>

@@ -713,6 +713,14 @@
         <translation>Δεν είναι έγκυρη κανονική έκφραση, γι’ αυτό δεν βρίσκει τίποτα.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Παραλείφθηκε στον τελευταίο καθαρισμό: απαιτεί υπερβολική εργασία για αυτό το κείμενο.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Κανόνες που παραλείφθηκαν, επειδή απαιτούν υπερβολική εργασία για αυτό το κείμενο: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Αντιστοιχίες</translation>
     </message>

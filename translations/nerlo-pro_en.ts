@@ -713,6 +713,14 @@ After (delete): ab</translation>
         <translation>This is no valid regular expression, so it finds nothing.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Left out of the last clean: it takes too much work on that text.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Rules left out, as they take too much work on this text: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Matches</translation>
     </message>

@@ -713,6 +713,14 @@ Después (eliminar): ab</translation>
         <translation>No es una expresión regular válida, así que no encuentra nada.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Omitida en la última limpieza: exige demasiado trabajo con ese texto.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Reglas omitidas porque exigen demasiado trabajo con este texto: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Coincidencias</translation>
     </message>

@@ -713,6 +713,14 @@ Après (supprimer) : ab</translation>
         <translation>Ce n’est pas une expression rationnelle valide : elle ne trouve rien.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Ignorée lors du dernier nettoyage : trop de travail pour ce texte.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Règles ignorées, car elles demandent trop de travail pour ce texte : %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Correspondances</translation>
     </message>

@@ -713,6 +713,14 @@ Dopo (elimina): ab</translation>
         <translation>Non è un’espressione regolare valida, quindi non trova nulla.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Tralasciata nell’ultima pulizia: richiede troppo lavoro per quel testo.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Regole tralasciate perché richiedono troppo lavoro per questo testo: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Corrispondenze</translation>
     </message>

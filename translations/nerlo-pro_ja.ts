@@ -713,6 +713,14 @@
         <translation>正しい正規表現ではないため、何も見つかりません。</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>直前のクリーンアップでは省かれました。そのテキストには処理が重すぎます。</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>このテキストには処理が重すぎるため省かれたルール: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>一致した部分</translation>
     </message>

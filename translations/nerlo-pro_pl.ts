@@ -713,6 +713,14 @@ Po (usuń): ab</translation>
         <translation>To nie jest poprawne wyrażenie regularne, więc niczego nie znajduje.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Pominięta przy ostatnim czyszczeniu: wymaga zbyt wiele pracy dla tego tekstu.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Pominięte reguły, bo wymagają zbyt wiele pracy dla tego tekstu: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Dopasowania</translation>
     </message>

@@ -713,6 +713,14 @@ Depois (excluir): ab</translation>
         <translation>Não é uma expressão regular válida, por isso não encontra nada.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Omitida na última limpeza: exige demasiado trabalho nesse texto.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Regras omitidas por exigirem demasiado trabalho neste texto: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Ocorrências</translation>
     </message>

@@ -713,6 +713,14 @@
         <translation>Это неверное регулярное выражение, поэтому оно ничего не находит.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Пропущено при последней очистке: слишком трудоёмко для этого текста.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Правила пропущены, так как слишком трудоёмки для этого текста: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Совпадения</translation>
     </message>

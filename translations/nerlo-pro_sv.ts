@@ -713,6 +713,14 @@ Efter (ta bort): ab</translation>
         <translation>Det här är inget giltigt reguljärt uttryck, så det hittar ingenting.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Utelämnad vid den senaste rensningen: den kräver för mycket arbete för texten.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Utelämnade regler, som kräver för mycket arbete för den här texten: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Träffar</translation>
     </message>

@@ -713,6 +713,14 @@
         <translation>Це неправильний формальний вираз, тому він нічого не знаходить.</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>Пропущено під час останнього очищення: надто трудомістко для цього тексту.</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>Правила пропущено, бо вони надто трудомісткі для цього тексту: %@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>Збіги</translation>
     </message>

@@ -713,6 +713,14 @@
         <translation>这不是有效的正则表达式，因此什么也找不到。</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>上次清理时已跳过：对该文本而言工作量过大。</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>因对此文本工作量过大而跳过的规则：%@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>匹配项</translation>
     </message>

@@ -713,6 +713,14 @@
         <translation>這不是有效的正規表示式，因此什麼也找不到。</translation>
     </message>
     <message>
+        <source>sRuleLeftOut</source>
+        <translation>上次清理時已略過：對該文字而言工作量過大。</translation>
+    </message>
+    <message>
+        <source>sRulesLeftOut</source>
+        <translation>因對此文字工作量過大而略過的規則：%@</translation>
+    </message>
+    <message>
         <source>sInsertYourPatternOption</source>
         <translation>符合項目</translation>
     </message>

@@ -215,6 +215,7 @@ class RecordingWindow final : public CountWindow {
                            std::u16string) override {
         log.emplace_back("filled");
     }
+    void tellReport(const engine::CleaningReport &) override { log.emplace_back("told"); }
     void showWindow() override { log.emplace_back("shown"); }
 
   private:
@@ -243,6 +244,25 @@ TEST_F(ClipboardCleanTest, StatisticsReplaceThePopupAndWriteNothing) {
     engine.newCountWindow(u"x");
     finish();
     EXPECT_EQ(windows.back(), "closed");
+}
+
+TEST_F(ClipboardCleanTest, ARuleThatIsGivenUpIsToldAndTheRestIsDone) {
+    Log windows;
+    engine.setCountWindowMaker([&] { return std::make_unique<RecordingWindow>(windows); });
+    std::vector<engine::CleaningReport> reports;
+    engine.setReportHandler([&](const auto &report) { reports.push_back(report); });
+    setOptions({{"udRemoveAllSpaces", true},
+                {"udStatistics", true},
+                {"udInsertYourPattern", true},
+                {"udInsertYourPatternTextField", u"(a+)+$"}});
+    const std::string letters(40, 'a');
+    pasteboard.copyText(letters + " !");
+    clean();
+    EXPECT_EQ(text(), letters + "!");
+    EXPECT_EQ(windows, Log({"made", "filled", "told", "shown"}));
+    pasteboard.copyText("b");
+    clean();
+    EXPECT_EQ(reports, (std::vector<engine::CleaningReport>{{engine::PatternFailure{}}, {}}));
 }
 
 class RestoreTest : public ClipboardCleanTest {

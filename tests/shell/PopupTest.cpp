@@ -69,6 +69,10 @@ TEST_F(Popup, ShowsTheTextsInTheCorner) {
     EXPECT_EQ(text("countSpaces"), "56");
     EXPECT_EQ(text("countWords"), "<b>7");
     EXPECT_EQ(text("countParagraphs"), "8");
+    EXPECT_EQ(text("leftOut"), "");
+    controller.tellReport({{3}, {7, engine::PatternFailure::Why::DoesNotCompile}, {9}});
+    EXPECT_TRUE(text("leftOut").endsWith("3, 9"));
+    controller.tellReport({});
     auto &window = controller.window();
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(window.isActiveWindow());

@@ -212,6 +212,15 @@ TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     EXPECT_TRUE(told());
     list.item(1)->setText("c");
     EXPECT_FALSE(told());
+    // So does a rule that the last clean left out, until it is changed.
+    window->setReport({{2}});
+    EXPECT_TRUE(told());
+    EXPECT_TRUE(list.item(0)->icon().isNull());
+    list.item(1)->setText("cc");
+    EXPECT_FALSE(told());
+    list.item(1)->setText("c");
+    window->setReport({});
+    EXPECT_FALSE(told());
     list.item(0)->setCheckState(Qt::Unchecked);
     EXPECT_FALSE(settings::FindReplaceList::isOn(preferences.findReplaceList().items()[0]));
     emit list.dropped(0, 3);
@@ -232,6 +241,10 @@ TEST_F(Preferences, APatternThatIsNoneIsToldWhereItIsTyped) {
     EXPECT_TRUE(field.actions().front()->isVisible());
     field.setText("[0-9]");
     EXPECT_EQ(field.accessibleDescription(), description);
+    EXPECT_FALSE(field.actions().front()->isVisible());
+    window->setReport({{engine::PatternFailure::ownPattern}});
+    EXPECT_TRUE(field.actions().front()->isVisible());
+    window->setReport({});
     EXPECT_FALSE(field.actions().front()->isVisible());
 }
 
