@@ -3,6 +3,7 @@
 // Windows are made when they are first shown. Main thread only.
 #pragma once
 
+#include "engine/CleaningReport.h"
 #include "platform/MainQueue.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"

@@ -2,6 +2,7 @@
 // decided once, when the program is loaded. Sanitizers instrument the chooser too early for that.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -13,6 +14,11 @@
 #endif
 
 namespace nerlo::text {
+
+// Several units are read into one word, where the first has to come out as the lowest: in the other
+// order, masks would be mirrored in groups of eight and texts mangled in silence.
+static_assert(std::endian::native == std::endian::little,
+              "packFlags() and the scans of ASCII read words of a little-endian machine");
 
 // 64 bytes of 0 or 1, to one bit each.
 inline std::uint64_t packFlags(const std::uint8_t *flags) {

@@ -70,7 +70,9 @@ TEST_F(Popup, ShowsTheTextsInTheCorner) {
     EXPECT_EQ(text("countWords"), "<b>7");
     EXPECT_EQ(text("countParagraphs"), "8");
     EXPECT_EQ(text("leftOut"), "");
-    controller.tellReport({{3}, {7, engine::PatternFailure::Why::DoesNotCompile}, {9}});
+    using Why = engine::PatternFailure::Why;
+    controller.tellReport(
+        {{3, Why::GivenUp, {}}, {7, Why::DoesNotCompile, {}}, {9, Why::GivenUp, {}}});
     EXPECT_TRUE(text("leftOut").endsWith("3, 9"));
     controller.tellReport({});
     auto &window = controller.window();

@@ -213,7 +213,8 @@ TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     list.item(1)->setText("c");
     EXPECT_FALSE(told());
     // So does a rule that the last clean left out, until it is changed.
-    window->setReport({{2}});
+    using engine::PatternFailure;
+    window->setReport({{2, PatternFailure::Why::GivenUp, {}}});
     EXPECT_TRUE(told());
     EXPECT_TRUE(list.item(0)->icon().isNull());
     list.item(1)->setText("cc");
@@ -242,7 +243,7 @@ TEST_F(Preferences, APatternThatIsNoneIsToldWhereItIsTyped) {
     field.setText("[0-9]");
     EXPECT_EQ(field.accessibleDescription(), description);
     EXPECT_FALSE(field.actions().front()->isVisible());
-    window->setReport({{engine::PatternFailure::ownPattern}});
+    window->setReport({engine::PatternFailure{}}); // of the pattern of one's own
     EXPECT_TRUE(field.actions().front()->isVisible());
     window->setReport({});
     EXPECT_FALSE(field.actions().front()->isVisible());

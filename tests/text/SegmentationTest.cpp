@@ -17,7 +17,8 @@
 namespace nerlo::text {
 namespace {
 
-// ICU's versions differ in their rules, so every unit is asked for, in all company that matters.
+// Our own rules are asked here whatever ICU there is, also where the program would not trust them.
+// ICU's versions differ in theirs, so every unit is asked for, in all company that matters.
 TEST(Words, AreCountedByTheRulesForEveryUnit) {
     constexpr std::u16string_view contexts[][2] = {
         {u"", u""},    {u"a", u"b"},   {u"1", u"2"},           {u"a", u"2"},
@@ -32,7 +33,7 @@ TEST(Words, AreCountedByTheRulesForEveryUnit) {
             text.append(before).push_back(static_cast<char16_t>(unit));
             text.append(after).append(u" x \n");
         }
-        const auto words = countWordSegments(text, "en_US");
+        const auto words = countWordSegments(text, "en_US", SegmentRules::Own);
         const auto expected = reference::count(text, "en_US").words;
         if (words == expected) {
             continue;
@@ -41,7 +42,8 @@ TEST(Words, AreCountedByTheRulesForEveryUnit) {
         for (const auto &[before, after] : contexts) {
             const std::u16string one =
                 std::u16string(before) + static_cast<char16_t>(unit) + std::u16string(after);
-            EXPECT_EQ(countWordSegments(one, "en_US"), reference::count(one, "en_US").words)
+            EXPECT_EQ(countWordSegments(one, "en_US", SegmentRules::Own),
+                      reference::count(one, "en_US").words)
                 << reference::escaped(one);
         }
     }
@@ -49,9 +51,13 @@ TEST(Words, AreCountedByTheRulesForEveryUnit) {
 
 std::vector<std::size_t> sentenceEnds(const std::u16string &text) {
     std::vector<std::size_t> ends;
-    forEachSentence(text, "en_US", [&](std::u16string_view sentence) {
-        ends.push_back(static_cast<std::size_t>(sentence.data() + sentence.size() - text.data()));
-    });
+    forEachSentence(
+        text, "en_US",
+        [&](std::u16string_view sentence) {
+            ends.push_back(
+                static_cast<std::size_t>(sentence.data() + sentence.size() - text.data()));
+        },
+        SegmentRules::Own);
     return ends;
 }
 
@@ -131,6 +137,12 @@ TEST(Segmentation, FollowsOtherRulesInTheLocalesThatHaveThem) {
     const std::u16string greek = u"\u03B1; \u0391.";
     forEachSentence(greek, "el_GR", [&](auto sentence) { sentences.push_back(sentence); });
     EXPECT_EQ(sentences.size(), 2u) << "a Greek question mark";
+    sentences.clear();
+    const std::u16string text = u"One. Two, 3.5 a.b? Three";
+    forEachSentence(
+        text, "en_US", [&](auto sentence) { sentences.push_back(sentence); }, SegmentRules::Icu);
+    EXPECT_EQ(sentences.size(), 3u) << "where our own rules are not trusted";
+    EXPECT_EQ(countWordSegments(text, "en_US", SegmentRules::Icu), 5u);
 }
 
 } // namespace
