@@ -27,13 +27,16 @@ constexpr std::uint64_t stepsBetweenReports = 10'000;
 
 // Runaway patterns are given up after half a second or so on a short text. Sound ones take up to
 // some ten steps a unit, and more where each place may begin with any of many words.
+constexpr std::uint64_t stepsPerUnit = 128;
 std::uint64_t stepsAllowed(std::size_t units, std::size_t patternSize) {
-    return 50'000'000 + std::uint64_t{units} * (128 + patternSize);
+    return 50'000'000 + std::uint64_t{units} * (stepsPerUnit + patternSize);
 }
 
-// A find that does not go on where the last one ended starts ICU's count again, so the steps since
-// the last report are charged as a whole. A jump over so many units can afford that.
-constexpr std::size_t worthJumping = 128;
+// A find that does not go on where the last one ended starts ICU's count again, and the steps since
+// the last report are lost. What a jump over this many units can afford is charged for them, so
+// that jumps alone never spend the budget.
+constexpr std::size_t worthJumping = 32;
+constexpr std::uint64_t stepsForJump = worthJumping * stepsPerUnit;
 
 // A saved state holds every group and loop of the pattern, and copying it is what takes long.
 std::uint64_t weightOfStep(std::u16string_view pattern, std::int32_t groups) {
@@ -137,7 +140,7 @@ class Regex::Walk {
                 return false;
             }
             if (at - end_ >= worthJumping) {
-                matcher_.budget.done += stepsBetweenReports;
+                matcher_.budget.done += stepsForJump;
                 return uregex_find64(matcher_.expression, static_cast<std::int64_t>(at),
                                      &status_) != 0;
             }
