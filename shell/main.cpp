@@ -1,5 +1,6 @@
 // nerlo-pro: makes the program, connects it with the session, and runs it.
 
+#include "platform/linux/DisplayLock.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtWindowSystem.h"
 #include "platform/qt/QtWorkerQueue.h"
@@ -16,10 +17,12 @@
 
 #include <iostream>
 #include <optional>
+#include <string>
 
 #include <QApplication>
 #include <QDBusConnection>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QSysInfo>
 
 namespace {
@@ -30,10 +33,18 @@ using shell::complain;
 using shell::failed;
 using shell::succeeded;
 
+constexpr auto unreachable = "a nerlo-pro runs on this display, but not on this session bus, so it "
+                             "cannot be told anything; end it from its menu, or with kill";
+
+std::string runtimeFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toStdString();
+}
+
 // What is asked of a program that does not run. Nothing when it is to start.
 std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
     if (commandLine.asksFor(Command::quit)) {
-        return succeeded;
+        const platform::DisplayLock display(runtimeFolder());
+        return display.heldByAnother() ? complain(unreachable) : succeeded;
     }
     if (commandLine.asksFor(Command::restore)) {
         return complain("not restored: the program was not running");
@@ -86,15 +97,22 @@ std::optional<int> withoutWindows(int argc, char **argv, shell::CommandLine &com
     return withoutProgram(commandLine);
 }
 
-// Makes this the one program of the session. The exit status if another one is quicker.
-std::optional<int> takeName(shell::BusService &bus, shell::CommandLine &commandLine) {
+// Makes this the one program of the session, and where there is no bus the one of the display. The
+// exit status if another one is quicker.
+std::optional<int> becomeTheOne(shell::BusService &bus, platform::DisplayLock &display,
+                                shell::CommandLine &commandLine) {
     auto name = bus.takeName();
     for (; name == shell::BusService::Name::taken; name = bus.takeName()) {
         if (const auto status = shell::handOver(commandLine)) {
             return status;
         }
     }
-    if (name == shell::BusService::Name::noBus) {
+    using Kind = platform::DisplayLock::Kind;
+    const bool reachable = name == shell::BusService::Name::ours;
+    if (!display.take(reachable ? Kind::shared : Kind::alone)) {
+        return complain(unreachable);
+    }
+    if (!reachable) {
         complain("there is no session bus, so no other start of the program will find this one");
     }
     return std::nullopt;
@@ -122,7 +140,8 @@ int main(int argc, char **argv) {
     shell::installTranslations(*QCoreApplication::instance(), QLocale::system());
 
     shell::BusService bus;
-    if (const auto status = takeName(bus, commandLine)) {
+    platform::DisplayLock display(runtimeFolder());
+    if (const auto status = becomeTheOne(bus, display, commandLine)) {
         return *status;
     }
     platform::QtMainQueue mainQueue;
