@@ -34,6 +34,12 @@ QMessageBox::Icon iconOf(Alert::Style style) {
 
 } // namespace
 
+void giveBackTheKeyboard(QWidget *parent) {
+    if (parent && parent->window()->isVisible()) {
+        parent->window()->activateWindow();
+    }
+}
+
 void setAlertAnswers(AlertAnswers newAnswers) {
     answers() = std::move(newAnswers);
 }
@@ -53,10 +59,11 @@ int runAlert(const Alert &alert, QWidget *parent) {
                                                                  : QMessageBox::RejectRole));
     }
     if (!buttons.isEmpty()) {
-        box.setDefaultButton(static_cast<QPushButton *>(buttons.first()));
+        box.setDefaultButton(static_cast<QPushButton *>(buttons[alert.focused]));
         box.setEscapeButton(buttons.last());
     }
     box.exec();
+    giveBackTheKeyboard(parent);
     return static_cast<int>(buttons.indexOf(box.clickedButton()));
 }
 
@@ -83,7 +90,9 @@ std::optional<QString> askForText(const QString &title, const QString &label, QW
     layout->addWidget(field);
     layout->addWidget(buttons);
     field->setFocus();
-    return dialog.exec() == QDialog::Accepted ? std::optional(field->text()) : std::nullopt;
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    giveBackTheKeyboard(parent);
+    return accepted ? std::optional(field->text()) : std::nullopt;
 }
 
 } // namespace nerlo::shell

@@ -16,7 +16,8 @@ struct Alert {
     Style style = Style::informational;
     QString message;
     QString informative;
-    QStringList buttons; // the first is the default one
+    QStringList buttons;
+    int focused = 0; // the place of the button that Return and Space press
 };
 
 // Shows the alert and waits; the place of the button that was pressed, or -1 when it was closed
@@ -25,6 +26,10 @@ int runAlert(const Alert &alert, QWidget *parent);
 
 // Asks for a line of text; nothing when cancelled.
 std::optional<QString> askForText(const QString &title, const QString &label, QWidget *parent);
+
+// Once a dialog of `parent`, which may be null, is closed: some window managers give the keyboard
+// to no window then.
+void giveBackTheKeyboard(QWidget *parent);
 
 // In place of a person, until it is set to nothing again.
 struct AlertAnswers {

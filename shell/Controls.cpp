@@ -7,16 +7,17 @@
 
 namespace nerlo::shell {
 
-QString plainTooltip(const QString &text) {
-    return Qt::convertFromPlainText(text, Qt::WhiteSpacePre);
+void setTip(QWidget &widget, const QString &tip) {
+    widget.setToolTip(Qt::convertFromPlainText(tip, Qt::WhiteSpacePre));
+    // Without one of its own, the description would be the tooltip with its markup.
+    widget.setAccessibleDescription(tip);
 }
 
 void describeAs(QWidget &widget, const QString &objectName, const QString &name,
                 const QString &tip) {
     widget.setObjectName(objectName);
     widget.setAccessibleName(name);
-    widget.setAccessibleDescription(tip);
-    widget.setToolTip(plainTooltip(tip));
+    setTip(widget, tip);
 }
 
 void describe(QWidget &widget, const char *objectName, std::string_view nameKey,

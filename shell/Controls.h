@@ -9,8 +9,9 @@ class QWidget;
 
 namespace nerlo::shell {
 
-// A plain text as a tooltip, whatever is in it; line breaks and runs of spaces are kept.
-QString plainTooltip(const QString &text);
+// Gives the widget a plain text as its tooltip, whatever is in it, and the same as its description.
+// Line breaks and runs of spaces are kept.
+void setTip(QWidget &widget, const QString &tip);
 
 // `name` is what a screen reader calls the widget; `tip` is its description and its tooltip.
 void describeAs(QWidget &widget, const QString &objectName, const QString &name,

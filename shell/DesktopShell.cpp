@@ -11,6 +11,7 @@
 #include "shell/TipsWindow.h"
 #include "shell/WhatsNewWindow.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QGuiApplication>
@@ -50,11 +51,13 @@ DesktopShell::DesktopShell(Program &program)
     , menu_(std::make_unique<StatusMenu>(program))
     , tray_(std::make_unique<TrayIcon>(menu_->menu()))
     , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
-    QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(),
-                     [this] { setProblem(Problem::tray, {}); });
-    const auto asTheTrayShowsIt = [this] { menu_->setShownOverBus(tray_->overBus()); };
-    QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(), asTheTrayShowsIt);
-    QObject::connect(&menu_->menu(), &QMenu::aboutToHide, tray_.get(), asTheTrayShowsIt);
+    QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(), [this] {
+        menu_->setShownOverBus(tray_->overBus());
+        setProblem(Problem::tray, {});
+        stateChanged(); // also of the taskbar, to which windows no longer need to have an entry
+    });
+    QObject::connect(&menu_->menu(), &QMenu::aboutToHide, tray_.get(),
+                     [this] { menu_->setShownOverBus(tray_->overBus()); });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
         if (platform::pointerPositionKnown()) {
             menu_->setShownOverBus(false);
@@ -177,13 +180,15 @@ bool DesktopShell::statusItemReachable() const {
 
 void DesktopShell::setTaskbarEntry(bool shown) {
     taskbarEntry_ = shown;
-    applyTaskbarEntry();
+    for (QWidget *window : windows()) {
+        applyTaskbarEntry(*window);
+    }
 }
 
-void DesktopShell::applyTaskbarEntry() {
-    if (taskbar_ && window_ && window_->isVisible()) {
-        // Without an icon to click, the taskbar is the way back to a minimized window_.
-        taskbar_->setShownInTaskbar(window_->winId(), taskbarEntry_ || !tray_->shown());
+void DesktopShell::applyTaskbarEntry(QWidget &window) {
+    if (taskbar_) {
+        // Without an icon to click, the taskbar is the way back to a minimized window.
+        taskbar_->setShownInTaskbar(window.winId(), taskbarEntry_ || !tray_->shown());
     }
 }
 
@@ -222,10 +227,7 @@ void DesktopShell::showPreferencesWindow() {
     if (window_->isMinimized()) {
         window_->showNormal();
     }
-    window_->show();
-    window_->raise();
-    window_->activateWindow();
-    applyTaskbarEntry();
+    present(*window_);
     program_.hotKeys().retryRefused();
 }
 
@@ -238,9 +240,36 @@ bool DesktopShell::hasVisibleWindow() const {
     });
 }
 
+std::vector<QWidget *> DesktopShell::windows() const {
+    std::vector<QWidget *> made{tipsController_.get(), whatsNewController_.get(), window_.get()};
+    std::erase(made, nullptr);
+    return made;
+}
+
+void DesktopShell::bringToFront() {
+    for (QWidget *window : windows()) {
+        if (window->isVisible() && !window->isMinimized()) {
+            present(*window);
+        }
+    }
+    if (QWidget *dialog = QApplication::activeModalWidget()) {
+        present(*dialog);
+    }
+}
+
+// The taskbar is told before the window appears, and then again: only some desktops look at what is
+// there when it does.
+void DesktopShell::present(QWidget &window) {
+    applyTaskbarEntry(window);
+    window.show();
+    window.raise();
+    window.activateWindow();
+    applyTaskbarEntry(window);
+}
+
 void DesktopShell::setFloating(bool floating) {
     if (window_ && window_->windowHandle()) {
-        // Of the widget, the flag would hide the window_.
+        // Of the widget, the flag would hide the window.
         window_->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, floating);
     }
 }
@@ -252,11 +281,11 @@ void DesktopShell::showTips() {
             program_.store().boolForKey(atEachStartKey),
             [this](bool on) { program_.store().set(atEachStartKey, on); });
         tipsController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
+        QObject::connect(tipsController_.get(), &QDialog::finished, tipsController_.get(),
+                         [this] { giveBackTheKeyboard(window_.get()); });
     }
     tipsController_->setPage(0);
-    tipsController_->show();
-    tipsController_->raise();
-    tipsController_->activateWindow();
+    present(*tipsController_);
 }
 
 void DesktopShell::showWhatsNew() {
@@ -264,11 +293,12 @@ void DesktopShell::showWhatsNew() {
         whatsNewController_ = std::make_unique<WhatsNewWindow>([this] { showTips(); });
         whatsNewController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
         QObject::connect(whatsNewController_.get(), &QDialog::finished, whatsNewController_.get(),
-                         [this] { program_.store().set("updateReleaseNotes3_1", true); });
+                         [this] {
+                             program_.store().set("updateReleaseNotes3_1", true);
+                             giveBackTheKeyboard(window_.get());
+                         });
     }
-    whatsNewController_->show();
-    whatsNewController_->raise();
-    whatsNewController_->activateWindow();
+    present(*whatsNewController_);
 }
 
 void DesktopShell::showAbout() {
@@ -280,9 +310,8 @@ void DesktopShell::showAbout() {
     box->setInformativeText(localized("sAboutText").arg(QCoreApplication::applicationVersion()));
     box->setIconPixmap(QIcon(":/icons/org.nerlo.NerloPro.svg").pixmap(64, 64));
     box->addButton(localized("sClose"), QMessageBox::RejectRole);
-    box->show();
-    box->raise();
-    box->activateWindow();
+    QObject::connect(box, &QDialog::finished, box, [this] { giveBackTheKeyboard(window_.get()); });
+    present(*box);
 }
 
 void DesktopShell::showAlert(const char *messageKey, const char *informativeKey) {
@@ -309,13 +338,16 @@ void DesktopShell::stateChanged() {
                                            : TrayState::idle);
     if (window_) {
         window_->updateGeneral();
-        applyTaskbarEntry();
+    }
+    for (QWidget *window : windows()) {
+        applyTaskbarEntry(*window);
     }
     program_.stateChanged();
 }
 
 void DesktopShell::quit() {
-    program_.parts().mainQueue.post([] { QCoreApplication::quit(); });
+    // Not quit(), which a window that is minimized when it is closed would refuse.
+    program_.parts().mainQueue.post([] { QCoreApplication::exit(); });
 }
 
 void DesktopShell::setProblem(Problem problem, const std::string &text) {

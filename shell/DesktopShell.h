@@ -17,6 +17,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace nerlo::shell {
 
@@ -51,6 +52,7 @@ class DesktopShell final : public ShellWindows {
     void setTaskbarEntry(bool shown) override;
     void showPreferencesWindow() override;
     bool hasVisibleWindow() const override;
+    void bringToFront() override;
     void setFloating(bool floating) override;
     void showTips() override;
     void showWhatsNew() override;
@@ -69,7 +71,10 @@ class DesktopShell final : public ShellWindows {
     void updateHotKeys();
     void updateNotice();
     void showReport(const engine::CleaningReport &report);
-    void applyTaskbarEntry();
+    void present(QWidget &window);
+    void applyTaskbarEntry(QWidget &window);
+    // Those that are made, the preferences last.
+    std::vector<QWidget *> windows() const;
 
     Program &program_;
     const shortcuts::ShortcutViewContext recording_;

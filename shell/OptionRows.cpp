@@ -59,7 +59,7 @@ QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey,
         recorder->setAccessibleName(filled(localized("sShortcutOf"), {command}));
         recorder->setFixedWidth(std::max(recorderWidth, recorder->sizeHint().width()));
         if (recorder->toolTip().isEmpty()) {
-            recorder->setToolTip(localized("sShortcutTip"));
+            setTip(*recorder, localized("sShortcutTip"));
         }
     }
     return recorder;
@@ -119,6 +119,9 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
         auto *label = new QLabel(name);
         label->setBuddy(control);
         labels_.emplace(key, label);
+        if (labelIsShared(name)) {
+            control->setAccessibleName(box->text() + ": " + name);
+        }
         if (pair) {
             columns_[pair->count() > 0 ? 1 : 0].push_back(label);
             pair->addWidget(label);
@@ -136,6 +139,17 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
         grid->setRowStretch(line, 1);
     }
     rows_.push_back({widget, texts.toLower(), row.hotKey, problem});
+}
+
+// With another control of the page.
+bool OptionPage::labelIsShared(const QString &label) const {
+    qsizetype found = 0;
+    for (const OptionRow &row : page_.rows) {
+        found += std::ranges::count_if(row.dependents, [&](const std::string &key) {
+            return localized(labelKey(key)) == label;
+        });
+    }
+    return found > 1;
 }
 
 QWidget *OptionPage::makeControl(const std::string &key, QString &texts) {

@@ -62,6 +62,7 @@ class OptionPage final : public QWidget {
     };
 
     void addRow(const OptionRow &row, const RecorderMaker &makeRecorder);
+    bool labelIsShared(const QString &label) const;
     QWidget *makeControl(const std::string &key, QString &texts);
     QCheckBox *makeCheckBox(const std::string &key, const QString &title);
     QComboBox *makeChoice(const std::string &key, QString &texts);

@@ -275,7 +275,7 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     auto *clean = new QHBoxLayout;
     const QString command = localized(cleanHotKey);
     auto *label = new QLabel(command);
-    label->setToolTip(plainTooltip(localized("sClearFormatingFromClipboardTip")));
+    setTip(*label, localized("sClearFormatingFromClipboardTip"));
     clean->addWidget(label, 1);
     if (QWidget *recorder = shell::makeRecorder(makeRecorder, std::string(cleanHotKey), command)) {
         label->setBuddy(recorder);
@@ -420,7 +420,8 @@ bool PreferencesWindow::confirmRemoval(const std::u16string &name) {
     return runAlert({Alert::Style::warning,
                      localized("Do you want remove this profile?"),
                      filled(localized("Profile: %@"), {QString::fromStdU16String(name)}),
-                     {localized("Yes"), localized("No")}},
+                     {localized("Yes"), localized("No")},
+                     1},
                     this) == 0;
 }
 

@@ -23,6 +23,8 @@ class ShellWindows {
     // Shows the preferences window above the others and gives it the focus.
     virtual void showPreferencesWindow() = 0;
     virtual bool hasVisibleWindow() const = 0;
+    // Brings the windows that can be seen before those of other programs.
+    virtual void bringToFront() = 0;
     // Keeps the preferences window above the windows of other programs.
     virtual void setFloating(bool floating) = 0;
 

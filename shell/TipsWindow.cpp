@@ -94,7 +94,7 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     dots_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     atEachStart_->setObjectName("tipsAtStart");
     atEachStart_->setAccessibleName(atEachStart_->text());
-    atEachStart_->setToolTip(plainTooltip(localized("sTipsAtStartTip")));
+    setTip(*atEachStart_, localized("sTipsAtStartTip"));
     atEachStart_->setChecked(atEachStart);
 
     // As much room as the longest tip needs, so that nothing moves when the page is turned.

@@ -72,6 +72,8 @@ bool nrAppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows) {
     // Without an item to click, this is the one way to the program.
     if (!hasVisibleWindows || !windows_.statusItemReachable()) {
         newPreferencesWindow();
+    } else {
+        windows_.bringToFront();
     }
     return true;
 }

@@ -82,19 +82,48 @@ class X11TrayWatch final : public TrayWatch {
     std::unique_ptr<TrayListener> listener_; // on the I/O thread
 };
 
+constexpr const char *skipTaskbar = "_NET_WM_STATE_SKIP_TASKBAR";
+
 class X11TaskbarHint final : public TaskbarHint {
   public:
     explicit X11TaskbarHint(std::shared_ptr<SharedConnection> shared)
         : shared_(std::move(shared)) {}
 
-    void setShownInTaskbar(std::uint64_t window, bool shown) override {
-        shared_->submit([shared = shared_.get(), window, shown] {
-            tellWindowManager(shared->connection(), window, shown);
+    // Waits, because the window must not appear before.
+    void setShownInTaskbar(std::uint64_t id, bool shown) override {
+        shared_->run([&connection = shared_->connection(), id, shown] {
+            const auto window = static_cast<xcb_window_t>(id);
+            if (!isMapped(connection, window)) {
+                setProperty(connection, window, shown);
+            }
+            tellWindowManager(connection, window, shown);
         });
     }
 
   private:
-    static void tellWindowManager(Connection &connection, std::uint64_t window, bool shown) {
+    static bool isMapped(Connection &connection, xcb_window_t window) {
+        const auto cookie = xcb_get_window_attributes(connection.get(), window);
+        const x11::Reply<xcb_get_window_attributes_reply_t> attributes(
+            xcb_get_window_attributes_reply(connection.get(), cookie, nullptr));
+        return attributes && attributes->map_state != XCB_MAP_STATE_UNMAPPED;
+    }
+
+    // Where the window manager looks when the window appears. From then on the property is its own,
+    // and it is told.
+    static void setProperty(Connection &connection, xcb_window_t window, bool shown) {
+        constexpr std::size_t limit = 1024;
+        const auto state = connection.atom("_NET_WM_STATE");
+        const auto property = connection.property(window, state, limit, false);
+        auto atoms = property ? property->words() : std::vector<std::uint32_t>();
+        std::erase(atoms, connection.atom(skipTaskbar));
+        if (!shown) {
+            atoms.push_back(connection.atom(skipTaskbar));
+        }
+        xcb_change_property(connection.get(), XCB_PROP_MODE_REPLACE, window, state, XCB_ATOM_ATOM,
+                            32, static_cast<std::uint32_t>(atoms.size()), atoms.data());
+    }
+
+    static void tellWindowManager(Connection &connection, xcb_window_t window, bool shown) {
         constexpr std::uint32_t remove = 0;
         constexpr std::uint32_t add = 1;
         constexpr std::uint32_t fromApplication = 1;
@@ -102,14 +131,15 @@ class X11TaskbarHint final : public TaskbarHint {
         std::memset(&message, 0, sizeof message);
         message.response_type = XCB_CLIENT_MESSAGE;
         message.format = 32;
-        message.window = static_cast<xcb_window_t>(window);
+        message.window = window;
         message.type = connection.atom("_NET_WM_STATE");
         message.data.data32[0] = shown ? remove : add;
-        message.data.data32[1] = connection.atom("_NET_WM_STATE_SKIP_TASKBAR");
+        message.data.data32[1] = connection.atom(skipTaskbar);
         message.data.data32[3] = fromApplication;
         xcb_send_event(connection.get(), 0, connection.screen().root,
                        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                        reinterpret_cast<const char *>(&message));
+        xcb_flush(connection.get());
     }
 
     std::shared_ptr<SharedConnection> shared_;

@@ -5,12 +5,13 @@ Runs inside x11-session; NERLO_PRO names the program under test.
 """
 import os
 import plistlib
+import subprocess
 import unittest
 
 import dbus
 
-from desktop_session import CHECK_BOX, CHECKED, Eyes, Program, desktop, wait_until
-from shell_test import BUS_NAME, PROFILES, TrayHost, stored
+from desktop_session import CHECK_BOX, CHECKED, Eyes, Program, desktop, output_of, wait_until
+from shell_test import BUS_NAME, PROFILES, PROGRAM, TrayHost, stored
 
 AUTOSTART = os.environ["XDG_CONFIG_HOME"] + "/autostart"
 LABEL = 29
@@ -33,6 +34,9 @@ class StatusTest(unittest.TestCase):
             return str(tray.call("/StatusNotifierItem", dbus.PROPERTIES_IFACE, "Get",
                                  "org.kde.StatusNotifierItem", "ToolTip")[0][2])
         self.assertEqual(tooltip(), "Nerlo Pro")
+        wait_until(lambda: "SKIP_TASKBAR" in output_of(
+            "xprop", "-id", *hands.windows("Preferences"), "_NET_WM_STATE"),
+                   "beside the item there is no entry in the taskbar, from the first opening on")
         program.call("Automatic", "on")
         wait_until(lambda: tooltip() not in ("Nerlo Pro", WRONG), "the item shows the mode")
         automatic = tooltip()
@@ -64,6 +68,36 @@ class StatusTest(unittest.TestCase):
         wait_until(lambda: eyes.state(box, CHECKED) and not notice(), "now it is right")
         self.assertTrue(os.listdir(AUTOSTART))
         self.assertEqual(tooltip(), automatic)
+
+        # After a dialog the window has the keyboard again, also without an entry in the taskbar; a
+        # second start brings it to the front, and Ctrl+Q ends the program.
+        hands.activate("Preferences")
+        hands.keys("alt+a")
+        wait_until(lambda: hands.windows("Nerlo Pro"), "the prompt is open")
+        hands.keys("Escape")
+        wait_until(lambda: hands.active() in hands.windows("Preferences"), "the window is active")
+        hands.activate("Tips")
+        self.assertEqual(subprocess.run([PROGRAM], timeout=60, check=False).returncode, 0)
+        wait_until(lambda: hands.active() in hands.windows("Preferences"), "the window is in front")
+        hands.keys("ctrl+q")
+        self.assertEqual(program.process.wait(timeout=20), 0)
+
+    def test_without_a_bus_there_is_one_program_for_a_display(self):
+        nowhere = os.environ | {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
+
+        def ask(environment, *arguments):
+            done = subprocess.run([PROGRAM, *arguments], env=environment, timeout=60, check=False,
+                                  stderr=subprocess.PIPE, text=True)
+            return done.returncode, "runs on this display" in done.stderr
+        self.assertEqual(ask(nowhere, "--quit"), (0, False))
+        with subprocess.Popen([PROGRAM], env=nowhere, stderr=subprocess.PIPE) as program:
+            self.addCleanup(program.kill)
+            self.assertIn(b"no session bus", program.stderr.readline())
+            for environment in (nowhere, os.environ):
+                self.assertEqual(ask(environment, "--quit"), (1, True))
+                self.assertEqual(ask(environment), (1, True))
+            program.kill()
+        self.assertEqual(ask(nowhere, "--quit"), (0, False))
 
 
 if __name__ == "__main__":

@@ -21,6 +21,7 @@
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 #include <set>
 
 namespace nerlo::shell {
@@ -115,6 +116,7 @@ TEST_F(Preferences, ProfilesAreAddedSwitchedAndRemoved) {
     EXPECT_EQ(popup.count(), 2);
     EXPECT_EQ(asked.informative, "Profile: Mail & more");
     EXPECT_EQ(asked.buttons, (QStringList{"Yes", "No"}));
+    EXPECT_EQ(asked.buttons[asked.focused], "No");
     answer = 0;
     control<QPushButton>("removeProfile").click();
     EXPECT_EQ(popup.count(), 1);
@@ -303,8 +305,9 @@ TEST_F(Preferences, HeightAndPageAreRemembered) {
     EXPECT_EQ(control<QListWidget>("pageList").currentRow(), 0);
 }
 
-// Each object of the accessibility tree that a person can act on has a name.
-void expectNames(QAccessibleInterface *object, int &checked) {
+// Each object of the accessibility tree that a person can act on has a name, fields one of their
+// own, and no description has markup.
+void expectNames(QAccessibleInterface *object, std::multiset<QString> &fields, int &checked) {
     ASSERT_NE(object, nullptr);
     const auto state = object->state();
     const auto role = object->role();
@@ -318,11 +321,17 @@ void expectNames(QAccessibleInterface *object, int &checked) {
                                  parent->role() == QAccessible::EditableText);
     if (control && !part && !state.invisible) {
         ++checked;
-        EXPECT_FALSE(object->text(QAccessible::Name).isEmpty())
+        const QString name = object->text(QAccessible::Name);
+        if (role == QAccessible::EditableText) {
+            fields.insert(name);
+            EXPECT_EQ(fields.count(name), 1u) << name.toStdString();
+        }
+        EXPECT_FALSE(object->text(QAccessible::Description).contains("</p>")) << name.toStdString();
+        EXPECT_FALSE(name.isEmpty())
             << (object->object() ? object->object()->objectName().toStdString() : "?");
     }
     for (int i = 0; i < object->childCount(); ++i) {
-        expectNames(object->child(i), checked);
+        expectNames(object->child(i), fields, checked);
     }
 }
 
@@ -333,7 +342,8 @@ TEST_F(Preferences, EveryControlHasANameAToolTipAndNoTwoALetter) {
     for (int page = 0; page < control<QListWidget>("pageList").count(); ++page) {
         showPage(page);
         int checked = 0;
-        expectNames(QAccessible::queryAccessibleInterface(window.get()), checked);
+        std::multiset<QString> fields;
+        expectNames(QAccessible::queryAccessibleInterface(window.get()), fields, checked);
         EXPECT_GT(checked, 10);
         std::set<QChar> letters;
         for (const QAction *action : window->menuBar()->actions()) {
@@ -462,6 +472,19 @@ TEST(StatusMenu, ShowsAShortcutAsTheToolkitNamesIt) {
     for (const std::uint64_t none : {90, 27, 56}) { // F20, a sharp s, a modifier
         EXPECT_EQ(shown(none, shortcuts::commandModifier), "");
     }
+}
+
+TEST_F(Menu, QuitsWithAWindowThatWouldStayInTheTaskbar) {
+    program.delegate().setShowInMenuBar(false);
+    program.showPreferences();
+    EXPECT_TRUE(program.windows().closingMinimizes());
+    constexpr int inVain = 2;
+    QTimer::singleShot(10s, [] { QCoreApplication::exit(inVain); });
+    QTimer::singleShot(0, [this] {
+        program.quit();
+        queue.runPosted();
+    });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
 TEST(Tips, PagesTurnAndEnd) {
