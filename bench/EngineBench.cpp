@@ -36,7 +36,7 @@ const std::u16string &textOf(Kind kind, std::size_t bytes) {
     return text;
 }
 
-// Times run(text) without the making of the copy that it consumes.
+// Measures run(text) without the copying of the text that it consumes.
 template <class Run>
 void measure(benchmark::State &state, const std::u16string &text, Run run) {
     using Clock = std::chrono::steady_clock;
@@ -72,8 +72,8 @@ struct Case {
 std::vector<Case> cases() {
     std::vector<Case> rows;
     for (const engine::Operation &operation : engine::operations()) {
-        // Of the replacement pairs one is enough, and neither the rules' list nor the statistics
-        // have anything to do here.
+        // One of the replacement pairs is enough. The list of rules is empty here, and the
+        // statistics change nothing.
         const bool idle = operation.name.starts_with("replace-") && operation.name != "replace-1";
         if (idle || operation.index == engine::statisticsOperation ||
             operation.name == "find-replace-list") {

@@ -34,7 +34,7 @@ class Bench:
         self.cache = arguments.cache
         self.full = self.corpus(arguments.mb)
         self.sixteenth = self.corpus(arguments.mb / 16)
-        home = self.folder("home")  # no profile of the user's has a say
+        home = self.folder("home")  # so that no profile of the user's changes the options
         self.environment = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8"}
         self.tools = dict(self.environment, LC_ALL="C")
         self.utf8_tools = dict(self.tools, LC_ALL="en_US.UTF-8", LOCPATH=self.locales())
@@ -45,10 +45,11 @@ class Bench:
         return path
 
     def corpus(self, megabytes, *flags):
-        with open(make_corpus.__file__, "rb") as file:  # another maker, other texts
+        with open(make_corpus.__file__, "rb") as file:  # texts of another version of that script are made anew
             maker_sum = zlib.crc32(file.read())
         folder = self.folder("%s%g-%08x" % ("hostile-" if flags else "text-", megabytes, maker_sum))
-        # In a process of its own: the memory of this one is the floor of the peaks that it can see.
+        # In a process of its own, because a child's peak is never reported below what its parent
+        # used.
         maker = [sys.executable, make_corpus.__file__, *flags, folder, str(megabytes)]
         subprocess.run(maker, check=True)
         return folder
@@ -135,7 +136,7 @@ class Bench:
         times = {name: [] for name in names}
         for result in json.loads(done.stdout)["benchmarks"]:
             if result["run_type"] == "iteration":
-                # Processor time: it holds the making of the copies too, which is next to nothing.
+                # Processor time. It includes making the copies, which is next to nothing.
                 times[result["name"].rpartition("/")[0]].append(result["cpu_time"])
         ratio = statistics.median(times[names[0]]) / statistics.median(times[names[1]])
         table = Table("clip", "CPU", "goal", "stretch", "verdict")
@@ -148,7 +149,7 @@ class Bench:
         table = Table("operation", "wall", "CPU", "goal", "verdict", "memory", "goal", "verdict")
         for row in self.rows:
             ours, text = self.ours(row), self.text(row)
-            self.run(ours, text)  # so that no run is the first one
+            self.run(ours, text)  # warms up, so that no measured run is the first one
             ratio, runs = self.pairs(lambda: self.run(ours, text),
                                      lambda: self.run(ours, self.text(row, self.sixteenth)))
             size = utf16_size(text)
@@ -173,7 +174,7 @@ class Bench:
                 ours = self.ours(row)
                 pair = [lambda path=path: self.run(ours, path) for path in paths]
                 ratio, runs = self.pairs(*pair, 1)
-                if ratio.cpu > 5:  # again, as short runs waver
+                if ratio.cpu > 5:  # measured again, as short runs vary much
                     ratio, runs = self.pairs(*pair, 5)
                 growths.append((ratio.cpu, row.name))
                 large_run = statistics.median(run.cpu for run, _ in runs)

@@ -164,7 +164,7 @@ def write_text(file, kind, size):
             paragraph = pool[-1]
         else:
             paragraph = writer.random.choice(pool)
-        if kind != "html":  # where an element left open at the end would be read in many ways
+        if kind != "html":  # an element cut off at the end would be read differently by each tool
             paragraph = paragraph[:size - made].decode(errors="ignore").encode() or b"."
         file.write(paragraph)
         made += len(paragraph)

@@ -115,7 +115,7 @@ FIRST_START = ("t = t.strip()\n" + python_literals(bullet_rows) + JOIN +
                "t = re.sub('\\n+', '\\n', t.replace('\\r\\n', '\\n').replace('\\r', '\\n'))\n")
 COUNTS = (r"counts = (len(t.encode('utf-16-le')) // 2, t.count(' ') + t.count('\u00a0'), "
           r"len(re.findall(r'\w+(?:[\'’.]\w+)*', t)), len(t.splitlines()))" "\n")
-# Lines are not joined, nothing is counted.
+# The other tools do less here: they join no lines and count nothing.
 FIRST_START_SED = sed(
     "s/(%s) ?//g;s/\\r$//;s/‘/“/g;s/’/”/g;s/>//g;s/  +/ /g;s/ (\\.|%s)/\\1/g;s/ ?\\t ?/\\t/g;s/^ //;"
     "s/ $//;/^$/d" % ("|".join(BULLETS), "|".join(DOTS[1:])))

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::size_t readAtMost = 64 * 1024;
 constexpr std::size_t pieceSize = 8 * 1024;     // of requests for one thread
-constexpr std::size_t writeAtLeast = 64 * 1024; // while more requests are at hand
+constexpr std::size_t writeAtLeast = 64 * 1024; // as long as more requests are waiting
 constexpr unsigned mostJobs = 256;
 
 struct BatchArguments {
@@ -128,8 +128,8 @@ class AnswerWriter {
     std::size_t firstFailed_ = 0; // counted from 1
 };
 
-// Ends the program from a thread that cannot write any more: the main thread may be waiting for
-// input that never comes.
+// Called by a thread whose write has failed. It ends the whole program, because the main thread may
+// be waiting for input that never comes.
 [[noreturn]] void endNow(ExitStatus status) {
     std::_Exit(static_cast<int>(status));
 }

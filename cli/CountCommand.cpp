@@ -61,7 +61,7 @@ std::string row(const TextStatistics &counts, const std::string &file) {
     return line + (file.empty() ? "" : "  " + withoutControls(file)) + "\n";
 }
 
-// `file` is empty for standard input that nobody named.
+// `file` is empty for standard input that was not asked for by "-".
 std::string jsonLine(const TextStatistics &counts, const std::string &file) {
     nlohmann::ordered_json object;
     if (!file.empty()) {
@@ -70,7 +70,7 @@ std::string jsonLine(const TextStatistics &counts, const std::string &file) {
     for (const Column &column : columns) {
         object[column.name] = counts.*column.count;
     }
-    // A file name may be any bytes.
+    // A file name may be invalid UTF-8, which JSON cannot hold.
     return object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
 }
 

@@ -32,19 +32,19 @@ std::size_t sizeHint(int descriptor) {
 
 template <class String>
 void reserveIn(String &text, std::size_t size) {
-    constexpr std::size_t slack = 64; // a few more, which a step may need on the way
+    constexpr std::size_t slack = 64; // an operation may need a few more than its result
     constexpr std::size_t large = 4 << 20;
     try {
         text.reserve(size + slack);
     } catch (const std::exception &) {
-        return; // a file may say that it has any size
+        return; // the size that a file reports may be nonsense; reading will tell
     }
     const std::size_t bytes = text.capacity() * sizeof(typename String::value_type);
     if (bytes >= large) {
         const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
         const auto address = reinterpret_cast<std::uintptr_t>(text.data());
         const std::uintptr_t begin = (address + page - 1) / page * page;
-        // Only advice: where it is not taken, nothing is lost.
+        // This is only a hint to the system, so failure does not matter.
         madvise(reinterpret_cast<void *>(begin), address + bytes - begin, MADV_HUGEPAGE);
     }
 }

@@ -64,7 +64,8 @@ class TextReader {
     // "-" is standard input.
     TextReader(const std::string &file, Progress &progress);
 
-    // What the whole has, as far as that is known, in bytes and so at most in units.
+    // The size of the whole input in bytes, as far as it is known; the text has at most as many
+    // units.
     std::size_t sizeHint() const;
     // The whole text.
     std::u16string readAll();
@@ -75,8 +76,8 @@ class TextReader {
                     const std::function<void(std::u16string &piece)> &take);
     // Bytes read so far.
     std::size_t bytes() const { return bytes_; }
-    // Of what has been read so far: whether a byte order mark was in front, and the line break at
-    // the end ("\n", "\r\n", "\r"), empty where there is none.
+    // About what has been read so far: whether a byte order mark was in front, and the line break
+    // at the end ("\n", "\r\n", "\r"), empty where there is none.
     bool byteOrderMark() const { return byteOrderMark_; }
     std::string_view finalBreak() const;
 
@@ -95,8 +96,8 @@ class TextReader {
     std::string ending_; // the last two bytes
 };
 
-// Room for so many bytes, in large pages if it is much: that makes the first use several
-// times cheaper.
+// Memory for so many bytes; a large block is in large pages, whose first use is several times
+// cheaper.
 void reserve(std::string &text, std::size_t bytes);
 
 } // namespace nerlo::cli

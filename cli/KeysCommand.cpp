@@ -21,7 +21,7 @@ namespace {
 using settings::SettingsKey;
 using storage::PropertyDictionary;
 
-// A key's first-start value here and now: the quote styles follow the user's language.
+// The value that a first start would give the key now: the quote styles follow the user's language.
 const storage::PropertyValue *firstStart(const SettingsKey &row,
                                          const PropertyDictionary &profile) {
     if (row.scope == settings::SettingScope::Profile) {

@@ -61,7 +61,8 @@ void OrderedWorkers::run() {
     }
 }
 
-// Whoever answers the oldest piece delivers it and what follows it; the others go on working.
+// The thread that answers the oldest piece delivers it, and the answered pieces that follow it; the
+// others go on working.
 void OrderedWorkers::deliverReady(std::unique_lock<std::mutex> &lock) {
     while (!delivering_ && !slots_.empty() && slots_.front().answered) {
         std::vector<Answers> ready;

@@ -36,7 +36,7 @@ int writeAll(int descriptor, std::string_view bytes) {
     return 0;
 }
 
-// Takes bytes in order; returns 0, or what is to end the giving.
+// Is given bytes in order; returns 0 to go on, or the error that stops it.
 using Sink = std::function<int(std::string_view bytes)>;
 
 int giveEncoded(std::u16string_view text, const Sink &sink) {
@@ -91,7 +91,7 @@ void checkOutput(int error) {
     }
 }
 
-// Ctrl-C and the like wait until the temporary file is gone.
+// Holds back Ctrl-C and the like until the temporary file is gone.
 class SignalsHeld {
   public:
     SignalsHeld() {
@@ -205,7 +205,8 @@ std::string_view lastBreak(const CleanText &text) {
 }
 
 void closeOutput() {
-    // A closed standard output matters only to those who wrote, and they have been told.
+    // A standard output that was closed from the start matters only if something was written, and
+    // then the write has failed.
     if (close(STDOUT_FILENO) != 0 && errno != EBADF) {
         checkOutput(errno);
     }
@@ -240,7 +241,8 @@ void replaceFile(const std::string &file, std::span<const CleanText> parts) {
         check(give(part, writerTo(temporary.descriptor())));
     }
     check(copyOwnerAndMode(status, temporary.descriptor()));
-    // On the disk before it takes the name: a power cut must not leave an empty file.
+    // Flushed to the disk before the rename: after a power cut the name must not stand for an empty
+    // file.
     check(fsync(temporary.descriptor()) == 0 ? 0 : errno);
     check(temporary.closeNow());
     check(temporary.renameTo(target));

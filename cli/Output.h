@@ -11,8 +11,8 @@ namespace nerlo::cli {
 // A text, or the same as UTF-8.
 using CleanText = std::variant<std::u16string, std::string>;
 
-// The reader of standard output has gone away: nobody waits for the rest, so the program ends
-// without a word.
+// Thrown when the reader of standard output has closed it: nobody wants the rest, so the program
+// ends without a message.
 struct ClosedPipe {};
 
 // All of it to standard output. Throws ClosedPipe or Failure.

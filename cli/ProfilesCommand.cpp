@@ -90,7 +90,7 @@ void list(bool asJson) {
     ordered_json array = ordered_json::array();
     for (int place = 0; const ProfileItem &item : profiles.items) {
         const bool isSelected = place == selected;
-        // One line each, whatever it is named.
+        // One line for each, even if its name has line breaks.
         text += std::string(isSelected ? "* " : "  ") + std::to_string(place) + "  " +
                 withoutControls(nameIn(item)) + '\n';
         array.push_back({{"index", place}, {"name", nameIn(item)}, {"selected", isSelected}});

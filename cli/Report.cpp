@@ -27,8 +27,8 @@ void report(const std::string &message, const std::string &hint) {
     if (!hint.empty()) {
         line += hint + '\n';
     }
-    // In one piece, so that the lines of several threads or programs do not mix. Nobody is left to
-    // be told when this fails.
+    // In one piece, so that the lines of several threads or programs do not mix. If this fails
+    // there is nowhere to report it.
     [[maybe_unused]] const auto written = write(STDERR_FILENO, line.data(), line.size());
 }
 

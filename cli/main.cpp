@@ -25,8 +25,9 @@ namespace {
 
 constexpr std::array commands{addClean, addCount, addBatch, addOperations, addKeys, addProfiles};
 
-// A descriptor that was closed by the caller would be given to the next file that is opened, and
-// what is meant for the terminal would land in it. Opened the wrong way round, it only fails.
+// If the caller closed one of the standard descriptors, the next file opened would get its number,
+// and messages would be written into that file. So it is opened here, in the wrong direction: using
+// it then just fails.
 void occupyStandardDescriptors() {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) < 0) {
@@ -35,7 +36,7 @@ void occupyStandardDescriptors() {
     }
 }
 
-// Arguments that make no sense; the help tells which do.
+// An error in the arguments, with a hint at the help.
 struct Misuse : Failure {
     explicit Misuse(const std::string &message)
         : Failure(ExitStatus::unusableArguments, message) {}
@@ -91,7 +92,7 @@ ExitStatus run(std::span<char *const> arguments) {
                  "nerlo");
     app.set_version_flag("--version", "nerlo " NERLO_VERSION, "Print the version and end");
     app.set_help_flag("--help,-h", "Print this help and end");
-    app.require_subcommand(0, 1); // none at all gets a message of ours
+    app.require_subcommand(0, 1); // having none is told in our own words
     app.footer("`nerlo COMMAND --help` tells more, with examples.");
     ExitStatus status = ExitStatus::done;
     for (const auto add : commands) {
@@ -115,7 +116,7 @@ int main(int argc, char **argv) {
     try {
         status = run({argv, static_cast<std::size_t>(argc)});
     } catch (const ClosedPipe &) {
-        // Whoever read has enough.
+        // The reader closed the pipe: nothing is left to do.
     } catch (const Misuse &misuse) {
         report(misuse.what(), "Try `nerlo --help`.");
         status = misuse.status;

@@ -36,15 +36,16 @@ void findPieces(std::u16string_view sentence, std::u16string_view separator,
     }
 }
 
-// Upper-cases single units of a text. Most stay single units and are changed in place; the others
-// ("ß") are put in at the end.
+// Upper-cases single units of a text. Most of them stay one unit and are changed in place; those
+// that become longer ("ß") are inserted at the end, all together.
 class UnitCapitalizer {
   public:
     UnitCapitalizer(std::u16string &text, const std::string &locale)
         : text_(text)
         , locale_(locale) {}
 
-    // In ascending order; a position at the end is that of an empty piece.
+    // To be called in ascending order. The position may be the end of the text, where the piece is
+    // empty.
     void capitalize(std::size_t at) {
         if (at >= text_.size()) {
             return;
@@ -132,7 +133,7 @@ std::u16string changeToCapitalizedFirstWordOfSentence(std::u16string text,
     std::size_t separatorBegin = cursor.next(); // at or after the sentence
     text::forEachSentence(whole, locale, [&](std::u16string_view sentence) {
         const auto offset = static_cast<std::size_t>(sentence.data() - whole.data());
-        // Most sentences hold none but the one that ends them.
+        // Most sentences hold no separator but the one that ends them.
         while (separatorBegin < offset) {
             separatorBegin = cursor.next();
         }

@@ -19,7 +19,7 @@ namespace nerlo::engine {
 inline constexpr std::size_t replaceSlots = 10;
 
 struct CleaningOptions {
-    using Text = storage::PropertyValue; // a string, unless somebody stored something else
+    using Text = storage::PropertyValue; // a string, but the settings may hold any other type
     using List = std::optional<storage::PropertyValue>;
     template <class T>
     using PerSlot = std::array<T, replaceSlots>;

@@ -31,13 +31,15 @@ std::u16string insertYourPattern(std::u16string text, std::u16string_view patter
 std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options,
                                           CleaningReport *report = nullptr);
 
-// Whether a pattern of the user's can be used; the empty one is none yet, and no mistake.
+// Whether a pattern of the user's compiles. The empty pattern is not an error: the user has not
+// typed one yet.
 bool patternIsUsable(std::u16string_view pattern);
-// Of what a rule seeks, where its replacement makes that a pattern; else true.
+// The same for what a rule searches for, if its replacement makes that a pattern; true for a
+// literal rule.
 bool ruleIsUsable(std::u16string_view find, std::u16string_view replace);
 
 // Text, match, text, ..., text. A text that holds the marker "%%%%%%SPLIT-ME%%%%%%" is split there
-// too, which puts the turns out by one from there on.
+// too; from there on text and match have swapped places.
 std::vector<std::u16string> splitByMatchesInString(std::u16string_view text,
                                                    std::span<const text::Range> matches);
 // Whether the marker may play a part in splitting this text.

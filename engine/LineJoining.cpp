@@ -17,9 +17,9 @@ constexpr std::u16string_view sentenceMarks = u".?!\u2026\u00B7\u3002\u22C5\u30F
 constexpr text::UnitSet lineBreaks(u"\r\n");
 
 // One pass over the lines of a text, in the text's own memory: a line is copied down to its place
-// at once, and what can still change is only what stands between it and the next one. Joining
-// never lengthens: each line gives up its break and gets at most one unit for it, except the last,
-// whose break may be new.
+// at once, and what can still change is only what stands between it and the next one. The result is
+// never longer: each line break gives way to one unit at most. Only the last line may get a break
+// that it did not have.
 class JoiningPass {
   public:
     JoiningPass(std::u16string &text, bool withSpace, bool inputHasSpace)
@@ -113,8 +113,8 @@ class JoiningPass {
     std::u16string &text_;
     const bool withSpace_;
     const bool inputHasSpace_;
-    bool pending_ = false; // the last lines may still go on; they begin at pendingBegin_
-    bool open_ = false;    // they were last added to by a line that does not end a sentence
+    bool pending_ = false; // the lines from pendingBegin_ on may get another one joined
+    bool open_ = false;    // the last of these lines does not end a sentence
     std::size_t pendingBegin_ = 0;
     std::size_t to_ = 0;
 };
@@ -164,7 +164,8 @@ std::u16string changeWrongInsertedReturnsTo(std::u16string text, std::int32_t op
     }
     const bool withSpace = option == 1;
     const bool inputHasSpace = text::findUnit(text, 0, u' ') < text.size();
-    // CR LF, CR and LF all end a line, and the empty line inside a CR LF is as good as none.
+    // CR and LF each end a line. A CR LF so gives an empty line, which is dropped like every blank
+    // line.
     for (int pass = 0; pass < 2; ++pass) {
         JoiningPass(text, withSpace, inputHasSpace).run();
     }

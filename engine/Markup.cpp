@@ -30,13 +30,13 @@ bool isNameUnit(char16_t unit) {
            unit == u'\u212A'; // long s and Kelvin fold to s and k
 }
 
-// Of the units of names, those that are not word characters.
+// The units that may stand in a name although they are not word characters.
 bool isSign(char16_t unit) {
     return unit == u'-' || unit == u':';
 }
 
-// Finds what begins at a "<" and where that ends. Asked for ever later places, it takes linear time
-// in all: it remembers what it has learned about the text ahead.
+// Tells what begins at a "<" and where it ends. Places must be asked for in ascending order: it
+// remembers what it has seen of the text ahead, and so needs linear time for all of them together.
 class TagScanner {
   public:
     explicit TagScanner(std::u16string_view text)
@@ -110,7 +110,7 @@ class TagScanner {
             ++name;
         }
         std::size_t nameEnd = name;
-        bool hasBoundary = false; // a name may be cut short there; what is cut off is attributes
+        bool hasBoundary = false; // the name may also end there; the rest is then attributes
         while (nameEnd < text_.size() && isNameUnit(text_[nameEnd])) {
             hasBoundary = hasBoundary ||
                           (nameEnd > name && isSign(text_[nameEnd]) != isSign(text_[nameEnd - 1]));
@@ -144,7 +144,8 @@ class TagScanner {
         return std::nullopt;
     }
 
-    // One walk from the end, so that no further failure costs more than a look.
+    // One walk from the end answers this for every place, so that many unfinished tags cost no more
+    // than one.
     void learnWhatNeverEnds(std::size_t from) {
         neverEndsFrom_ = from;
         neverEnds_.resize(text_.size() - from + 1);
@@ -174,8 +175,8 @@ class TagScanner {
 
     std::u16string_view text_;
     text::UnitCursor cursor_;
-    std::size_t commentClose_ = 0;     // the next "-->"; the places asked for are never 0
-    std::size_t lineEnd_ = 0;          // of the line that an instruction began in last
+    std::size_t commentClose_ = 0;     // the next "-->"; 0: not looked for yet
+    std::size_t lineEnd_ = 0;          // end of the line in which the last instruction began
     std::size_t instructionClose_ = 0; // the last "?>" before lineEnd_
     std::size_t neverEndsFrom_ = 0;
     std::vector<bool> neverEnds_;
@@ -190,7 +191,7 @@ bool beginsWithMarker(std::u16string_view text, std::u16string_view marker) {
            });
 }
 
-// Takes the pieces of a text in order, texts and tags in turn, and says which to keep.
+// Is given the pieces of a text in order, alternately text and tag, and says which to keep.
 class ScriptFilter {
   public:
     bool keeps(std::u16string_view piece, bool isTag) {
@@ -254,7 +255,7 @@ void forEachTag(std::u16string_view text, Visit visit) {
     }
 }
 
-// A text that holds the split marker is taken apart wherever the marker is.
+// A text that holds the split marker is split at the marker too: see splitByMatchesInString().
 std::u16string removeTagsPieceByPiece(const std::u16string &text) {
     std::u16string result;
     ScriptFilter filter;

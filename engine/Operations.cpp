@@ -164,7 +164,8 @@ bool whereQuotesAreTakenAlike(const Options &options) {
                                                              options.udChangeQuotesDoubleOption);
 }
 
-// The replacement slots 1 to 3 and 4 to 10 stand apart for historical reasons.
+// The indices are stored in settings: slots 4 to 10 came later than slots 1 to 3, so theirs are
+// higher.
 constexpr Operation table[] = {
     {0, "collapse-tabs", "sChangeMultipleTabsToSingleTab", "runs of tabs to one tab",
      plain<removeMultipleTabs>, always},
@@ -349,7 +350,7 @@ std::size_t lastCut(std::u16string_view text, std::size_t from) {
 
 namespace {
 
-// Where the piece that begins at `from` ends: at a place to cut, or at the end of the text.
+// The end of the piece that begins at `from`: the next place to cut, or the end of the text.
 std::size_t endOfPiece(std::u16string_view text, std::size_t from, std::size_t size) {
     const std::u16string_view rest = text.substr(from);
     for (std::size_t searched = 0; size < rest.size(); searched = size, size *= 2) {
@@ -372,7 +373,7 @@ std::u16string runInPieces(std::u16string text, std::span<const Operation *const
         return text;
     }
     std::u16string piece;
-    std::u16string longer; // the result, once it does not fit in front of what is still to do
+    std::u16string longer; // takes the result over when it grows into text that is not cleaned yet
     std::size_t to = 0;
     for (std::size_t from = 0, end = 0; from < text.size(); from = end) {
         end = endOfPiece(text, from, pieceSize);

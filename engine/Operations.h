@@ -34,9 +34,9 @@ struct Operation {
     std::string_view hotKey;  // settings key of the global shortcut, also the key of its title
     std::string_view summary; // one English line for listings
     std::u16string (*run)(std::u16string text, const CleaningContext &context);
-    // Whether a text may be cut wherever lastCut() says, each piece run alone and the results
-    // joined, and the letters at the cut stay letters, so that the next one may too; null for
-    // never.
+    // Whether the operation may run on a text piece by piece, cut wherever lastCut() says, with the
+    // same result as on the whole. It must also leave letters at the cuts, so that the next
+    // operation can run on the same pieces. Null for never.
     bool (*inPieces)(const CleaningOptions &options) = nullptr;
 };
 

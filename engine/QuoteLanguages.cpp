@@ -13,7 +13,7 @@ struct Row {
     std::int64_t twofold;
 };
 
-// "ca", "nl" and "da" keep the styles that they have always had here, not their own typography's.
+// "ca", "nl" and "da" follow the fixed table, although the typography of these languages differs.
 constexpr Row table[] = {
     {"en", 0, 0}, {"es", 0, 0}, {"it", 0, 4},      {"ru", 2, 2},      {"fr", 5, 5},
     {"pt", 0, 0}, {"de", 2, 2}, {"zh-Hant", 7, 7}, {"zh-Hans", 0, 0}, {"ja", 7, 7},

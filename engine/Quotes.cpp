@@ -14,13 +14,13 @@ namespace {
 
 using Styles = std::span<const QuoteStyle>;
 
-// What may stand before an opening mark besides the start of the text and white space. Letters
-// match in either case, and s also as the long s.
+// Before an opening mark there may be the start of the text, white space or one of these. Letters
+// match in either case, and "s" also matches the long s.
 constexpr std::u16string_view openers[] = {
     u"--", u"&nbsp;", u"&mdash;", u"&ndash;", u"&#8211;", u"&#8212;", u"&#x2013;", u"&#x2014;",
 };
 
-// What does not go together with a closing mark after it.
+// Characters that are not taken together with a closing mark behind them.
 constexpr std::u16string_view notBeforeClosing = u" \t\r\n[{(-";
 
 char16_t foldedLetter(char16_t unit) {
@@ -73,7 +73,8 @@ std::u16string replaceWhere(std::u16string text, std::u16string_view find,
         return whole.size();
     };
     if (find.size() == replacement.size()) {
-        // In place: a new mark tells accept() the same about its neighbours as the old one did.
+        // In place, because a new mark means the same to accept() as the old one when it looks at
+        // neighbours.
         for (std::size_t at = next(0); at < whole.size(); at = next(at + find.size())) {
             if (accept(whole, at)) {
                 text.replace(at, find.size(), replacement);
@@ -123,18 +124,18 @@ std::u16string replaceOpening(std::u16string text, std::u16string_view find,
     return replaceWhere(std::move(text), find, replacement, opens);
 }
 
-// Closing marks, each taken together with the character before it if that can be. Of two marks
-// side by side the first may so serve as the character before the second; it then stays.
+// Closing marks, each taken together with the character before it if that can be. Of two marks side
+// by side the first may be taken as the character before the second; it then stays as it is.
 std::u16string replaceClosing(std::u16string text, std::u16string_view find,
                               std::u16string_view replacement) {
     const auto closes = [find, free = std::size_t{0}](std::u16string_view whole,
                                                       std::size_t at) mutable {
-        // What is not yet taken begins at `free`.
+        // Everything before `free` is part of an earlier match.
         const bool hasBefore =
             at > free && notBeforeClosing.find(whole[at - 1]) == std::u16string_view::npos;
         if (!hasBefore && find.size() == 1 && at + 1 < whole.size() &&
             whole[at + 1] == find.front()) {
-            return false; // the next one takes this one along
+            return false; // the next mark takes this one as the character before it
         }
         free = at + find.size();
         return true;
@@ -142,8 +143,8 @@ std::u16string replaceClosing(std::u16string text, std::u16string_view find,
     return replaceWhere(std::move(text), find, replacement, closes);
 }
 
-// Which units of the marks a text holds. Conversions are many and marks are few: a step whose mark
-// is not there is not worth a pass.
+// Which units of quotation marks a text holds. There are many conversion steps, but a text has few
+// kinds of marks; a step whose mark does not occur is left out.
 class MarkPresence {
   public:
     explicit MarkPresence(std::u16string_view text) {
@@ -177,7 +178,7 @@ class MarkPresence {
         u"'\"\u00AB\u00BB\u2018\u2019\u201A\u201C\u201D\u201E\u2039\u203A\u300C\u300D\u300E\u300F";
     static constexpr std::uint32_t everything = (1u << allUnits.size()) - 1;
 
-    // No bit for the space of a spaced mark.
+    // The space of a spaced mark has no bit: almost every text holds one.
     static std::uint32_t bitOf(char16_t unit) {
         const std::size_t at = allUnits.find(unit);
         return at == std::u16string_view::npos ? 0 : 1u << at;
@@ -230,8 +231,8 @@ const QuoteStyle *styleAt(Styles styles, std::int64_t index) {
 }
 
 // With two different marks of one unit each, neither of which is put in, every step turns opening
-// marks into opening ones and closing marks into closing ones, and the last ones turn all that are
-// left: where the marks stand makes no difference.
+// marks into opening ones and closing marks into closing ones, and the last steps convert all that
+// are left. So where a mark stands makes no difference.
 bool isTranslation(const QuoteStyle &find, const QuoteStyle &replace) {
     const auto holds = [](std::u16string_view mark, const QuoteStyle &style) {
         return style.left.find(mark) != std::u16string_view::npos ||

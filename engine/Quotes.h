@@ -28,7 +28,8 @@ std::u16string replaceDoubleQuotesToSingleQuotes(std::u16string text,
                                                  std::int64_t changeQuotesDoubleOption,
                                                  bool changeAll);
 
-// Whether the conversion, without `changeAll`, gives each mark the same whatever stands around it.
+// Whether the conversion, without `changeAll`, converts each mark in the same way wherever it
+// stands.
 bool convertsQuotesAlike(bool doublesToSingles, std::int64_t changeQuotesSingleOption,
                          std::int64_t changeQuotesDoubleOption);
 

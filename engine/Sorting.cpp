@@ -18,7 +18,8 @@ using text::Items;
 constexpr std::int64_t lineSeparator = 0;
 constexpr std::int64_t customSeparatorIndex = 8;
 
-// Entries 0 and 8 are stand-ins: lines are split at LF, and the custom separator is the user's.
+// Entry 0 stands for line breaks, which are all LF by then; entry 8 is replaced by the user's own
+// separator.
 constexpr std::array<std::u16string_view, 9> separators{
     u"return", u".", u". ", u",", u", ", u";", u"; ", u"\t", u"Custom",
 };

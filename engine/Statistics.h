@@ -22,7 +22,8 @@ std::uint64_t countCharacters(std::u16string_view text);
 std::uint64_t countSpaces(std::u16string_view text);
 // Segments of `locale`'s word rules that hold letters, numbers, kana or ideographs.
 std::uint64_t countWords(std::u16string_view text, const std::string &locale);
-// Lines; one line break at the end of the text is forgiven, and the empty text has none.
+// Lines. One line break at the end of the text does not begin another line; the empty text has no
+// line.
 std::uint64_t countParagraphs(std::u16string_view text);
 
 TextStatistics countAll(std::u16string_view text, const std::string &locale);

@@ -40,7 +40,7 @@ struct ReturnsOption {
     std::u16string_view text;
 };
 
-// What a run of line breaks becomes. Option 6 has the user's own text behind it.
+// What a run of line breaks becomes. In option 6 the user's own text follows.
 constexpr ReturnsOption runReplacements[] = {
     {0, u""},     // none: lines joined with nothing
     {1, u"\n"},   // single return

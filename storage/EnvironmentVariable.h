@@ -6,8 +6,8 @@
 
 namespace nerlo::storage {
 
-// As bytes; empty if the variable is not set. Valid until something changes this variable, which
-// no part of the programs does once there are threads.
+// As bytes; empty if the variable is not set. Valid until this variable is changed; the programs
+// change none once they have threads.
 inline std::string_view environmentVariable(const char *name) {
     const char *value = std::getenv(name);
     return value ? value : "";

@@ -29,7 +29,7 @@ class FileSettingsStore final : public SettingsStore {
     // writes it if that makes a difference.
     bool synchronize() override;
 
-    // Nothing that was changed here and not yet written will be written.
+    // Drops the changes that have not been written yet.
     void forgetChanges() { dirty_.clear(); }
 
     // Takes over what other processes have written; to be called when the folder has changed. Does
@@ -41,7 +41,7 @@ class FileSettingsStore final : public SettingsStore {
     const std::string &loadError() const { return loadError_; }
     // Why the last write failed; empty when it did not.
     const std::string &error() const { return error_; }
-    // Runs after each write by which that has changed.
+    // Runs after each write that fails when the last one did not, or the other way round.
     void setErrorHandler(std::function<void(const std::string &error)> changed) {
         errorChanged_ = std::move(changed);
     }
@@ -52,7 +52,8 @@ class FileSettingsStore final : public SettingsStore {
   private:
     void noticeDamage(const std::string &why);
     void changed(std::string_view key) override;
-    // The file's dictionary. Nothing when it is not there, or for what `unusable` says.
+    // The file's dictionary. Nothing when there is no file, or when it cannot be used; `unusable`
+    // then says why.
     std::optional<PropertyDictionary> read(std::string &unusable) const;
     PropertyDictionary withOwnChanges(PropertyDictionary theirs) const;
 

@@ -36,7 +36,8 @@ struct FreeBytes {
 };
 using Bytes = std::unique_ptr<char, FreeBytes>;
 
-// libplist reads and writes real numbers with the thread's locale, decimal comma and all.
+// libplist reads and writes real numbers by the locale of the thread, with a decimal comma where
+// the locale has one. So the C locale is set around each call.
 class PlainLocale {
   public:
     PlainLocale()
@@ -67,8 +68,8 @@ Node nodeOfXml(const std::string &xml) {
     return Node(node);
 }
 
-// Some values pass only through libplist's texts: it has no call that tells -1 from 2^64 - 1, and
-// its dates end in 2069.
+// Some values are handed to libplist as XML: it has no function that tells -1 from 2^64 - 1, and
+// its functions for dates end in 2069.
 std::string elementText(plist_t node, const std::string &name) {
     const std::string xml = xmlOf(node);
     const auto start = xml.find("<" + name + ">");

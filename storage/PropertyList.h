@@ -1,8 +1,8 @@
 // Property lists as bytes: read in XML or binary form, written in either.
 //
-// libplist does the reading and writing; what it takes on trust (well-formed UTF-8, digits that are
-// digits, nesting, sizes, balanced elements) is checked before it sees a byte. Any bytes may be
-// given, from any thread. Nothing here throws except std::bad_alloc.
+// libplist does the reading and writing; it does not check its input for well-formed UTF-8, valid
+// numbers, nesting, sizes or balanced elements, so that is done here before libplist is given the
+// bytes. Any bytes may be given, from any thread. Nothing here throws except std::bad_alloc.
 #pragma once
 
 #include "storage/FileCalls.h"
@@ -21,12 +21,14 @@ struct ParsedPropertyList {
 };
 
 // Kinds are kept: an integer stays an integer, a boolean a boolean. Dates are read to the whole
-// second. In XML a dictionary with the one key "CF$UID" is the reference that it stands for.
+// second. In XML a dictionary with the single key "CF$UID" is how a reference is written, and is
+// read as one.
 ParsedPropertyList parsePropertyList(std::string_view bytes);
 
-// Laid out as macOS's own writer does, keys in the dictionary's order. In both forms, what a
-// property list cannot hold (an unpaired surrogate, U+0000) becomes U+FFFD, a reference above 32
-// bits is cut to them, and a date is written to the whole second.
+// Laid out like the files of the edition for macOS, so that a file does not change by being saved;
+// keys in the dictionary's order. In both forms, what a property list cannot hold (an unpaired
+// surrogate, U+0000) becomes U+FFFD, a reference above 32 bits is cut to them, and a date is
+// written to the whole second.
 std::string writeXml(const PropertyValue &value);
 std::string writeBinary(const PropertyValue &value);
 

@@ -15,7 +15,7 @@ namespace {
 
 using Limits = PropertyListLimits;
 
-// Thrown and caught within this file: the walks below are recursive.
+// Thrown and caught within this file only, to leave the recursive walks below.
 struct Wrong : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -137,7 +137,7 @@ class XmlCheck {
         return there;
     }
 
-    // Moves behind the next `end`, which must come.
+    // Moves behind the next `end`; there must be one.
     std::string_view upTo(std::string_view end) {
         const auto found = bytes_.find(end, at_);
         if (found == std::string_view::npos) {
@@ -445,7 +445,8 @@ class BinaryCheck {
             wrong("an object of no known kind", start);
         }
         need(at, count * unit);
-        // A large text that is referred to many times grows with every use.
+        // A large text that is referred to many times is copied for each use, so it is counted each
+        // time.
         expanded_ += count * unit;
         if (expanded_ > Limits::bytes) {
             wrong("too much text and data", start);

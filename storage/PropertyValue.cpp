@@ -40,7 +40,7 @@ std::int64_t integerOfText(std::u16string_view text) {
     if (!text.empty() && (text.front() == u'-' || text.front() == u'+')) {
         text.remove_prefix(1);
     }
-    std::int64_t value = 0; // counted downwards, where there is one number more
+    std::int64_t value = 0; // negative: the lowest number has no positive counterpart
     for (const char16_t unit : text) {
         if (!isDigit(unit)) {
             break;

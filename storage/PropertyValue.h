@@ -104,9 +104,10 @@ class PropertyValue {
         return std::get_if<T>(&value_);
     }
 
-    // The platform's conversions, which never fail. A number is true when it is not zero; a string
-    // when it begins, after white space, with Y, y, T, t or a digit 1-9. The integer of a string is
-    // its leading decimal integer, clamped to 64 bits. Everything else reads as false and 0.
+    // How the settings of both editions convert values; this never fails. A number is true when it
+    // is not zero; a string when it begins, after white space, with Y, y, T, t or a digit 1-9. The
+    // integer of a string is its leading decimal integer, clamped to 64 bits. Everything else reads
+    // as false and 0.
     bool boolValue() const;
     std::int64_t integerValue() const;
     // A string as it is, a number in decimal digits, anything else as the empty string.

@@ -113,7 +113,7 @@ int FileCalls::flock(int file, int operation) {
 }
 
 FileContent readFile(const std::string &path, std::size_t limit, FileCalls &calls) {
-    // O_NONBLOCK: a pipe in the file's place must not hold us up.
+    // O_NONBLOCK: opening a pipe in the file's place would wait for a writer.
     const OpenFile file(calls, path, O_RDONLY | O_NONBLOCK);
     if (!file) {
         if (errno == ENOENT || errno == ENOTDIR) {
@@ -148,7 +148,8 @@ std::string replaceFile(const std::string &path, std::string_view bytes, FileCal
     }
     const std::string &real = *followed;
     const std::string temporary = temporaryFor(real);
-    // One writer at a time has this name, so what stands there was left by a save that was ended.
+    // The lock allows one writer at a time, so a file of this name was left behind by a process
+    // that ended.
     calls.unlink(temporary);
     OpenFile file(calls, temporary, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0600);
     if (!file) {
@@ -168,7 +169,8 @@ std::string replaceFile(const std::string &path, std::string_view bytes, FileCal
         calls.unlink(temporary);
         return error;
     }
-    // From here on the new file stands; flushing the folder only makes it last sooner.
+    // The new file is in place from here on. Flushing the folder makes that survive a power cut,
+    // and failing to is no failure of the save.
     const OpenFile folder(calls, folderOf(real), O_RDONLY | O_DIRECTORY);
     if (folder) {
         calls.fsync(folder.get());

@@ -81,8 +81,8 @@ void SettingsStore::replaceAll(PropertyDictionary values) {
     }
 }
 
-// Observers may set values, and may come and go, while they are told: the list is walked as a copy,
-// and each is looked at again before its turn.
+// While observers are called they may set values, and add or remove observers. So this walks a copy
+// of the list and checks before each call that the observer is still there.
 void SettingsStore::tell(const std::vector<std::string> &keys) {
     const auto observers = observers_;
     for (const auto &weak : observers) {

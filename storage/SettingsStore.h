@@ -1,7 +1,8 @@
 // The settings store: values by key, with observers.
 //
-// Main thread only. Values are whatever property lists hold; the typed readers convert as the
-// platform does and never fail. Changes are seen by readers at once; synchronize() makes them last.
+// Main thread only. Values are whatever property lists hold; the typed readers convert as
+// PropertyValue does and never fail. Changes are seen by readers at once; synchronize() makes them
+// last.
 #pragma once
 
 #include "storage/PropertyValue.h"
@@ -47,7 +48,8 @@ class SettingsStore {
     // not be written; they are kept and go with the next call.
     virtual bool synchronize() = 0;
 
-    // Calls `observer` now, and after each change of the value under `key`, by whomever.
+    // Calls `observer` now, and after each change of the value under `key`, by this program or
+    // another.
     Observation observe(std::string_view key, Observer observer);
     // Calls `observer` after each change of any value; not now.
     Observation observeAll(Observer observer);

@@ -15,8 +15,8 @@ namespace nerlo::test {
 
 using Arguments = std::vector<std::string>;
 
-// A running program; its output goes to a file, so that children which it leaves behind do not
-// matter. Killed with the object if it still runs.
+// A running program, killed with the object if it still runs. Its output goes to a file: with a
+// pipe, a child that it leaves behind would keep the reader waiting.
 class Process {
   public:
     // `input` is its standard input, whole. The test fails if the program cannot be started.

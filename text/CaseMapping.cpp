@@ -85,12 +85,12 @@ std::int32_t titled(char16_t *to, std::int32_t room, const char16_t *from, std::
     return u_strToTitle(to, room, from, size, breakIterator(UBRK_WORD, locale), locale, status);
 }
 
-// What a unit is mapped to wherever it stands, or `special`.
+// The mapping of a unit that does not depend on its neighbours, or `special` where it does.
 constexpr char16_t special = 0xFFFF;
 
 template <Mapping mapping>
 char16_t mappedAlone(char16_t unit) {
-    constexpr char16_t capitalSigma = u'\u03A3'; // which small sigma depends on its neighbours
+    constexpr char16_t capitalSigma = u'\u03A3'; // its neighbours say which small sigma it becomes
     if (U16_IS_SURROGATE(unit) || (mapping != upper && unit == capitalSigma)) {
         return special;
     }
@@ -109,7 +109,7 @@ bool computedPlainInTitles(char16_t unit) {
         mappedAlone<lower>(unit) == special) {
         return false;
     }
-    // ICU passes over signs at the beginning of a word.
+    // ICU skips signs at the beginning of a word and gives the first letter behind them title case.
     constexpr std::uint32_t taken =
         (U_GC_L_MASK & ~U_GC_LM_MASK) | U_GC_N_MASK | U_GC_S_MASK | U_GC_CO_MASK;
     const bool inWords =
@@ -119,7 +119,7 @@ bool computedPlainInTitles(char16_t unit) {
 
 UnitPages<bool, computedPlainInTitles> plainInTitles;
 
-// Languages whose letters are not mapped one by one like the others'.
+// Languages with letters of their own rules: the dotless i, accents that stay, "ij".
 bool hasMappingsOfItsOwn(std::string_view locale, std::initializer_list<std::string_view> others) {
     const std::string_view language = locale.substr(0, locale.find_first_of("_-@"));
     constexpr std::string_view languages[] = {"tr", "tur", "az", "aze", "lt", "lit"};
@@ -154,7 +154,7 @@ class Rewriting {
     std::size_t size() const { return text_.size(); }
     std::u16string_view view() const { return text_; }
 
-    // Not before the part replaced last.
+    // Parts must be given in order: none before the part that was replaced last.
     void replace(std::size_t begin, std::size_t end, std::u16string_view with) {
         if (with.size() == end - begin) {
             std::ranges::copy(with, text_.begin() + static_cast<std::ptrdiff_t>(begin));
@@ -265,8 +265,8 @@ class Titling {
         for (std::size_t at = 0; at < text_.size();) {
             AsciiWordBits bits;
             if (text_.size() - at >= scanBlock && scanAsciiWords(text_.data() + at, bits)) {
-                // The rest of a token may still need ICU, which maps these letters as if they had
-                // not been touched.
+                // If the rest of the token turns out to need ICU, the whole token is mapped again.
+                // Letters that are mapped here already do not disturb that.
                 char16_t *const units = text_.data() + at;
                 flipCase(units, u'A');
                 for (std::uint64_t begins = words_.add(bits) & bits.letters; begins != 0;
@@ -296,7 +296,8 @@ class Titling {
                 units[at] = begins ? titleCase[units[at]] : lowerCase[units[at]];
             }
         } else {
-            // With the tokens behind it that need ICU as well.
+            // Tokens behind it that need ICU as well are taken along, as a call costs more than a
+            // token.
             for (;;) {
                 const std::size_t next = blanksEnd(end);
                 const std::size_t nextEnd = tokenEnd(text, next);
@@ -361,7 +362,7 @@ UnitPages<LetterCase, computedCase> letterCases;
 } // namespace
 
 LetterCase letterCase(char16_t unit) {
-    if (unit < 0x80) { // needs no page, and so no ICU
+    if (unit < 0x80) { // ASCII needs no table, and so no call of ICU
         if (unit >= u'A' && unit <= u'Z') {
             return LetterCase::Upper;
         }

@@ -104,7 +104,8 @@ void forEachOccurrence(std::u16string_view text, std::u16string_view find, Found
     }
 }
 
-// Parts of a text replaced from front to back by nothing longer, in its own memory.
+// Replaces parts of a text from front to back, in its own memory; no replacement may be longer than
+// its part.
 class Compaction {
   public:
     explicit Compaction(std::u16string &text)
@@ -280,7 +281,8 @@ std::u16string replaceRuns(std::u16string text, const UnitSet &set,
 
 namespace {
 
-// Results of the clusters of up to four units that were met last; texts hold few different ones.
+// A cache of results for clusters of up to four units. A text holds few different ones, again and
+// again.
 class ClusterMemory {
   public:
     static constexpr std::size_t longest = 4;

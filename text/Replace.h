@@ -46,11 +46,12 @@ struct Replacement {
     std::u16string_view replace;
 };
 
-// An ordered list of literal replacements, each over the whole result of the one before.
+// An ordered list of literal replacements; each row works on the whole result of the row before.
 //
-// The rows are read as such a list; apply() works them off in one scan. A maximal run of units that
-// occur in some row (a cluster) is all that a match can touch, at any step, so each cluster can
-// take all the steps by itself; and only a cluster that holds a pivot can have a match.
+// apply() gives the result of all rows in one scan. It looks at clusters: the longest runs of units
+// that occur in some row. No match, of any row, can reach beyond a cluster, because the unit beside
+// it occurs in no row; so the rows can be applied to each cluster by itself. A cluster without a
+// pivot holds no match and is passed over.
 class ReplacementTable {
   public:
     // Each row's `find` must hold a unit of `pivots`, and no row may lengthen the text; a constant

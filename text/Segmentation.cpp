@@ -112,8 +112,9 @@ class WordTally {
     WordBegins begins_;
 };
 
-// No rule reaches across a blank, except that a mark behind a blank belongs to it. So what lies
-// between two blanks can be counted by itself, by the rules where it holds anything special.
+// No word rule looks across a blank, except that a combining mark right behind a blank belongs to
+// it. So each token between two blanks is counted by itself, and only tokens with something special
+// are given to ICU.
 class WordCounter {
   public:
     WordCounter(std::u16string_view text, const std::string &locale)
@@ -146,8 +147,8 @@ class WordCounter {
     }
 
   private:
-    // Counts what stands between the blanks around `at` by the rules, together with neighbours that
-    // need them as well. Returns where it ends.
+    // Has ICU count the token around `at`, together with neighbouring tokens that need ICU as well.
+    // Returns where they end.
     std::size_t countByRules(std::size_t at) {
         std::size_t begin = at;
         while (begin > 0 && !isBlank(text_[begin - 1])) {
@@ -168,8 +169,8 @@ class WordCounter {
         return end;
     }
 
-    // The end of the next token behind `from`, with the blanks before it, if it needs the rules;
-    // else `from`.
+    // The end of the next token behind `from`, the blanks before it included, if that token needs
+    // ICU; else `from`.
     std::size_t endOfSpecialToken(std::size_t from) const {
         std::size_t at = from;
         while (at < text_.size() && isBlank(text_[at])) {

@@ -10,7 +10,7 @@ namespace nerlo::text {
 
 namespace {
 
-// Stops and breaks are among these.
+// Every stop and every break is one of these units; some of them are neither.
 constexpr UnitSet noticed = [] {
     UnitSet set(u"\n\r.!?");
     set.add(u'\u0080', u'\uFFFF');
@@ -102,7 +102,7 @@ SentenceEnds::Character SentenceEnds::at(std::size_t at) const {
     return {classOf(character), at + sizeOf(character)};
 }
 
-// Behind all of that class at `from`, each with its marks.
+// The place behind all characters of that class at `from`, each with its combining marks.
 std::size_t SentenceEnds::skip(SentenceClass which, std::size_t from) const {
     for (Character next = at(from);
          from < text_.size() && (next.is == which || next.is == SentenceClass::Extend);
@@ -112,7 +112,7 @@ std::size_t SentenceEnds::skip(SentenceClass which, std::size_t from) const {
     return from;
 }
 
-// Of the last character before `at` that is no mark.
+// The class of the last character before `at` that is not a combining mark.
 SentenceClass SentenceEnds::classBefore(std::size_t at) const {
     SentenceClass is = SentenceClass::Extend;
     while (at > 0 && is == SentenceClass::Extend) {
@@ -136,7 +136,7 @@ bool SentenceEnds::endsBehind(const Character &stop, std::size_t begin, std::siz
         const SentenceClass next = at(end).is;
         if (next == SentenceClass::Digit ||
             (next == SentenceClass::Upper && isCased(classBefore(begin)))) {
-            return false; // 3.4, U.S.A
+            return false; // as in 3.4 or U.S.A
         }
     }
     end = skip(SentenceClass::Space, skip(SentenceClass::Close, end));
@@ -154,7 +154,7 @@ bool SentenceEnds::endsBehind(const Character &stop, std::size_t begin, std::siz
     if (!isFullStop) {
         return true;
     }
-    // A small letter goes on with the sentence, whatever stands before it.
+    // If a small letter is the next letter, the sentence goes on.
     std::size_t ahead = end;
     Character character = at(ahead);
     while (ahead < text_.size() && !isCased(character.is) && !isStop(character.is) &&
@@ -171,7 +171,8 @@ bool SentenceEnds::endsBehind(const Character &stop, std::size_t begin, std::siz
 }
 
 bool hasRootSentenceRules(std::string_view locale) {
-    // Greek has a question mark of its own; keywords can ask for abbreviations to be known.
+    // Greek ends questions with a semicolon, and a locale with keywords may ask for a list of
+    // abbreviations.
     const std::string_view language = locale.substr(0, locale.find_first_of("_-@"));
     return language != "el" && locale.find_first_of("-@") == std::string_view::npos;
 }

@@ -13,7 +13,7 @@ namespace nerlo::text {
 // What a character is to the rules. The classes come from ICU's property Sentence_Break.
 enum class SentenceClass : std::uint8_t {
     Other,
-    Extend, // and format characters: part of what stands before them
+    Extend, // and format characters: part of the character before them
     Space,
     Lower,
     Upper,
@@ -37,7 +37,7 @@ class SentenceEnds {
 
   private:
     struct Character {
-        SentenceClass is = SentenceClass::Other; // also behind the end
+        SentenceClass is = SentenceClass::Other; // also the class of the place behind the end
         std::size_t end = 0;
     };
 
@@ -48,7 +48,7 @@ class SentenceEnds {
     bool endsBehind(const Character &stop, std::size_t begin, std::size_t &end) const;
 
     std::u16string_view text_;
-    UnitCursor cursor_; // of what may be a stop or a break
+    UnitCursor cursor_; // stops at units that may be a stop or a break
 };
 
 // Whether the locale's sentence rules are the root's.

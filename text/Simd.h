@@ -1,5 +1,6 @@
 // NERLO_CLONES before a function compiles it for several instruction sets; which one runs is
-// decided once, when the program is loaded. Sanitizers instrument the chooser too early for that.
+// decided once, when the program is loaded. Not under a sanitizer: the function that chooses would
+// be instrumented too, and runs before the sanitizer is ready.
 #pragma once
 
 #include <bit>

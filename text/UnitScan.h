@@ -136,7 +136,7 @@ class UnitCursor {
     const UnitSet &set_;
     std::size_t block_ = 0;
     std::uint64_t all_ = 0;  // of the block
-    std::uint64_t mask_ = 0; // what is left of it
+    std::uint64_t mask_ = 0; // those of its bits that have not been given yet
 };
 
 } // namespace nerlo::text

@@ -27,8 +27,8 @@ bool isDictionaryScript(UChar32 character) {
 }
 
 WordClass classify(char16_t unit) {
-    // What ICU's rules do with the ideographic closing mark and the colons is not in their
-    // properties.
+    // ICU's word rules treat the ideographic closing mark and two colons differently from what
+    // their properties say.
     if (unit == u'\u3006' || isDictionaryScript(unit)) {
         return WordClass::Ask;
     }

@@ -12,9 +12,9 @@ enum class WordClass : std::uint8_t {
     Letter,    //
     Digit,     //
     MidLetter, // joins a letter before it to a letter behind it
-    MidDigit,  // joins digits so
+    MidDigit,  // joins a digit before it to a digit behind it
     MidBoth,   // joins either
-    Ask,       // marks, scripts without spaces and all that needs the whole of the rules
+    Ask,       // marks, scripts without spaces, and whatever else only ICU can decide
 };
 
 // By the root's word rules, of the units that are not ASCII.
@@ -40,7 +40,7 @@ inline WordClass wordClass(char16_t unit) {
     return unit < 0x80 ? asciiWordClasses[unit] : wordClassBeyondAscii(unit);
 }
 
-// What each of 64 units is, one bit a unit; what is in none of the masks breaks words.
+// What each of 64 units is, one bit a unit; a unit that is in no mask separates words.
 struct AsciiWordBits {
     std::uint64_t letters = 0;
     std::uint64_t digits = 0;

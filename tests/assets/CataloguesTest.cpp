@@ -57,7 +57,7 @@ std::string nameOf(const QString &language, const Key &key) {
     return (language + ": " + key.first + " / " + key.second).toStdString();
 }
 
-// What the program fills in, or understands: "%@", "%1", "{search}".
+// What the program fills in or reads: "%@", "%1", "{search}". A translation must keep it.
 QStringList placeholders(const QString &text) {
     static const QRegularExpression pattern("%@|%[0-9]|\\{[a-z]+\\}|<[a-z]+>");
     QStringList found;
@@ -110,7 +110,7 @@ TEST(Catalogues, TheProgramHoldsEachAsItStands) {
     EXPECT_EQ(QDir(":/i18n").entryList(QDir::Files, QDir::Name), files);
 }
 
-// What QTranslator makes of the user's locale.
+// Which catalogue QTranslator chooses for the user's locale.
 TEST(Catalogues, ALocaleFindsItsLanguage) {
     struct Row {
         const char *locale;

@@ -27,7 +27,7 @@ std::string randomText(Random &random) {
     return text::utf16ToUtf8(random.text(tokens[random.below(std::size(tokens))]));
 }
 
-// Switches alone: with 7, the order of sorting is a shuffle.
+// Switches only: the value 7 as an option of sorting would shuffle the lines.
 json randomOptions(Random &random) {
     json options = json::object();
     for (const settings::SettingsKey &row : settings::profileKeys()) {

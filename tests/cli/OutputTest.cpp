@@ -39,7 +39,7 @@ std::vector<Command> commands() {
 }
 
 TEST(Output, AClosedPipeEndsQuietlyAndAFullDiskIsReported) {
-    // The other end of the pipe has been there, and is gone.
+    // The pipe had a reader, which has closed it.
     const std::string closedPipe =
         "mkfifo $0.pipe && exec 3<>$0.pipe && exec >$0.pipe && exec 3<&-";
     for (const auto &[arguments, input] : commands()) {
@@ -139,7 +139,7 @@ TEST(InPlace, KeepsTheEndTheMarkAndAFileThatStaysTheSame) {
     }
 }
 
-// No name is a list, an end of a list or an option in disguise.
+// A file name is taken as it is, even if the parser of the arguments has a use for such words.
 TEST(Arguments, AreTakenAsTheyAre) {
     const TemporaryFolder folder;
     const std::vector<std::string> names{"[a]", "[a,b]", "[]", "{}", "++", "\1x", "--x=[q]", "--"};

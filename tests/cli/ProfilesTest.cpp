@@ -26,7 +26,8 @@ class Profiles : public testing::Test {
     }
 
     const TemporaryFolder folder;
-    // Upper case for one, lower case for the other; a key that is nobody's.
+    // One profile makes upper case, the other lower case. "future" is a key that this version does
+    // not know.
     const PropertyDictionary upper{{"profileName", u"Größe"},
                                    {"udChangeCaseTo", 1},
                                    {"udChangeCaseOption", 3},
@@ -104,7 +105,7 @@ TEST_F(Profiles, WhatCannotBeUsedIsNamedAndNothingIsChanged) {
     EXPECT_EQ(bytesOf(folder / "data/nerlo-pro/Data/profiles.nrp"), writeXml(PropertyArray{upper}));
 }
 
-// Other options than those that were asked for are worse than none.
+// Cleaning with other options than those asked for is worse than not cleaning.
 TEST_F(Profiles, DamagedFilesThatAreNeededAreNamedAndStay) {
     const std::string profiles = folder / "data/nerlo-pro/Data/profiles.nrp";
     const std::string shared = folder / "data/nerlo-pro/Data/profilesFR.nrp";

@@ -51,7 +51,7 @@ class MemoryHotKeys final : public platform::HotKeyService {
     void setSuspended(bool nowSuspended) override { suspended = nowSuspended; }
     std::string description() const override { return "hot keys in memory"; }
 
-    // The user's press; false when no one is told.
+    // The user presses it; false when nobody has registered it.
     bool press(std::uint32_t keyCode, std::uint32_t modifiers) {
         for (const auto &[handle, request] : registered) {
             if (request.keyCode == keyCode && request.modifiers == modifiers) {

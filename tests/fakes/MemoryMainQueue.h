@@ -18,7 +18,8 @@ class MemoryMainQueue final : public platform::MainQueue {
     void cancel(TaskId id) override;
     Clock::time_point now() const override;
 
-    // Runs what was posted, and what that posts in turn, until nothing is left. The clock stands.
+    // Runs what was posted, and what that posts in turn, until nothing is left. The clock does not
+    // move.
     void runPosted();
     // Moves the clock on, running each delayed task at its time, and what was posted before and
     // after each.

@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     if (parsed.value) {
         const auto again = parsePropertyList(writeXml(*parsed.value));
-        // Bytes instead of values: a real that is not a number differs from itself.
+        // Bytes are compared and not values, because a real number that is NaN differs from itself.
         if (!again.value || writeXml(*again.value) != writeXml(*parsed.value)) {
             std::abort();
         }

@@ -20,14 +20,14 @@ TEST(AutostartEntry, IsThereWhileTheProgramStartsAtLogin) {
     EXPECT_NE(bytes.find("\nExec=\"/opt/my \\\\\"own\\\\\" \\\\$dir/50%%/back\\\\\\\\slash\"\n"),
               std::string::npos)
         << bytes;
-    // A desktop's own settings hide an entry rather than remove it.
+    // The settings of a desktop switch an entry off by hiding it, not by removing it.
     test::putBytes(path, bytes + "Hidden=true\n");
     EXPECT_FALSE(entry.enabled());
     EXPECT_EQ(entry.setEnabled(true), "");
     EXPECT_TRUE(entry.enabled());
     EXPECT_EQ(entry.setEnabled(false), "");
     EXPECT_FALSE(std::filesystem::exists(path));
-    // Where the folder cannot be made, it is said.
+    // If the folder cannot be made, the error says so.
     test::putBytes(folder / "file", "");
     EXPECT_NE(AutostartEntry(folder / "file/autostart", "/bin/true").setEnabled(true), "");
 }

@@ -53,7 +53,7 @@ struct PasteboardUser {
     }
 
   private:
-    // What the handler gets that `call` is given.
+    // Makes the call, and waits for what its handler is given.
     template <class Result>
     Result answer(const std::function<void(std::function<void(Result)>)> &call) const {
         std::optional<Result> result;

@@ -64,7 +64,8 @@ Tokens tagTokens() {
 }
 
 std::u16string Random::text(Tokens tokens) {
-    // With few kinds of tokens at once, what has to meet for a rule to act does meet.
+    // Few kinds of tokens at a time, so that those that a rule wants side by side do come side by
+    // side.
     std::array<std::u16string_view, 12> some;
     const std::size_t kinds = 1 + below(some.size());
     for (std::size_t i = 0; i < kinds; ++i) {
@@ -98,7 +99,8 @@ engine::CleaningOptions Random::options() {
             }
         }
     }
-    // In search mode a pattern that does not occur empties the text, and hides all else.
+    // In search mode a pattern that does not occur empties the text, so that nothing else could be
+    // seen.
     dictionary.set("udInsertYourPattern", false);
     dictionary.set("sFindReplaceBool", false);
     // A random order cannot be compared.

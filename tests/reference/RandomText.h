@@ -12,7 +12,7 @@
 
 namespace nerlo::reference {
 
-// Building blocks: what a family of operations looks at, and what may stand around it.
+// Building blocks of texts: what a family of operations looks at, and what may stand beside it.
 using Tokens = std::span<const std::u16string_view>;
 std::vector<std::u16string_view> tokensOf(std::u16string_view row, char16_t separator);
 Tokens plainTokens();

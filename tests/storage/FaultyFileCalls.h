@@ -1,5 +1,4 @@
-// System calls of which one, counted from 1, does not come back (the process ends before it is
-// made) or fails.
+// System calls of which one, counted from 1, fails or is never made because the process ends first.
 #pragma once
 
 #include "storage/FileCalls.h"
@@ -30,13 +29,13 @@ class FaultyFileCalls final : public storage::FileCalls {
     ssize_t read(int file, void *bytes, std::size_t size) override {
         return next() ? FileCalls::read(file, bytes, size) : -1;
     }
-    // In small pieces, so that a write has a middle.
+    // In small pieces, so that a write can stop in the middle.
     ssize_t write(int file, const void *bytes, std::size_t size) override {
         return next() ? FileCalls::write(file, bytes, std::min<std::size_t>(size, 500)) : -1;
     }
     int fsync(int file) override { return next() ? FileCalls::fsync(file) : -1; }
     int close(int file) override {
-        // Also a close that fails has closed.
+        // Even a close() that fails has closed the file.
         const bool works = next();
         const int result = FileCalls::close(file);
         return works ? result : failed();
@@ -74,9 +73,9 @@ class FaultyFileCalls final : public storage::FileCalls {
     int count_ = 0;
 };
 
-// Runs `save` again and again, each time in a process that ends before one system call more than
-// the last, until one comes through. `check` is told how often it has run and whether that was the
-// last time. Returns how many processes have ended early.
+// Runs `save` again and again, each time in a new process that ends one system call later than the
+// one before, until one gets to the end. `check` is told how often it has run and whether that was
+// the last time. Returns how many processes have ended early.
 inline int endAtEachCall(const std::function<bool(storage::FileCalls &calls, int at)> &save,
                          const std::function<void(int at, bool last)> &check) {
     for (int at = 1;; ++at) {

@@ -203,7 +203,7 @@ TEST(FileSettingsStore, EndedAtAnySystemCallOfASaveTheFileIsOldOrNew) {
             const auto count = after.integerForKey("count");
             EXPECT_TRUE(count == at || (count == at - 1 && !last)) << at;
             EXPECT_EQ(folder.count("defaults.plist.unreadable-"), 0);
-            // What was left behind does not stop the next save.
+            // Files left behind by the failed save do not stop the next one.
             FileSettingsStore next(path);
             next.set("count", at);
             EXPECT_TRUE(next.synchronize()) << at;

@@ -229,7 +229,7 @@ TEST(PropertyList, SurvivesEveryTruncationAndEveryFlippedByte) {
     for (const std::string &whole : {writeXml(everyKind()), writeBinary(everyKind())}) {
         for (std::size_t size = 0; size < whole.size(); ++size) {
             const auto parsed = parsePropertyList(std::string_view(whole).substr(0, size));
-            // What XML loses at its very end is white space.
+            // The only thing that XML can lose at its end is white space.
             EXPECT_TRUE(!parsed.value || whole.size() - size == 1) << size;
         }
         for (std::size_t place = 0; place < whole.size(); ++place) {

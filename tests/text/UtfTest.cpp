@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// One character after the other, by ICU, whose macro narrows.
+// One character after the other, by ICU's macro, which narrows integers.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion"
 Utf16Result decodedSlowly(std::string_view bytes) {

@@ -48,7 +48,8 @@ FakeCompositor::~FakeCompositor() {
 }
 
 void FakeCompositor::serve() {
-    // The program may close a pipe that an owner writes to, and a socket that is served.
+    // SIGPIPE would end the test: the program may close a pipe while an owner writes to it, or its
+    // socket.
     sigset_t pipes;
     sigemptyset(&pipes);
     sigaddset(&pipes, SIGPIPE);
@@ -90,7 +91,7 @@ void FakeCompositor::run(const std::function<void()> &task) {
 
 wl_global *FakeCompositor::offer(const wl_interface *interface) {
     globals_.push_back({this, interface});
-    // The compositor's third has a buffer scale.
+    // Version 3 is the first with a buffer scale.
     const int version = interface == manager_                   ? manager_->version
                         : interface == &wl_compositor_interface ? 3
                                                                 : 1;
@@ -116,7 +117,8 @@ wl_resource *FakeCompositor::make(wl_client *client, const wl_interface *interfa
     return made;
 }
 
-// Each request of each object: what it is to make is made, and what it is to destroy is destroyed.
+// Handles any request of any object: makes the object that the request makes, and destroys what it
+// destroys.
 int FakeCompositor::dispatch(const void *, void *target, std::uint32_t, const wl_message *message,
                              wl_argument *arguments) {
     auto *object = static_cast<wl_resource *>(target);
@@ -138,7 +140,7 @@ int FakeCompositor::dispatch(const void *, void *target, std::uint32_t, const wl
     return 0;
 }
 
-// The two names of the data-control protocol differ in nothing else.
+// The two data-control protocols differ in their names only.
 void FakeCompositor::answer(const std::string &request, wl_resource *object,
                             const wl_argument *arguments, wl_resource *made) {
     const auto is = [&](const char *end) { return request.ends_with(end); };
@@ -193,7 +195,7 @@ void FakeCompositor::announce() {
     offer_ = offer;
 }
 
-// By another program's copy, or by the program's `source`.
+// Replaces the content, by another program's copy or by the `source` of the program under test.
 void FakeCompositor::replace(std::vector<std::string> formats, Owner owner, wl_resource *source) {
     if (wl_resource *old = std::exchange(source_, source)) {
         zwlr_data_control_source_v1_send_cancelled(old);
@@ -211,7 +213,7 @@ void FakeCompositor::copy(std::vector<std::string> formats, Owner owner) {
 
 void FakeCompositor::copyText(const std::string &text) {
     copy({"text/plain;charset=utf-8"}, [text](const std::string &, int fd) {
-        // Short enough for the pipe.
+        // The text fits into the pipe, so write() does not block.
         [[maybe_unused]] const auto written = write(fd, text.data(), text.size());
         close(fd);
     });
@@ -265,7 +267,8 @@ void FakeCompositor::addSeat() {
 void FakeCompositor::removeSeat() {
     run([this] {
         if (!seats_.empty()) {
-            // Withdrawn, not destroyed: a bind may be on its way, and is no fault of the program's.
+            // The global is withdrawn but not destroyed: the program may just have asked to bind
+            // it, which is no fault of the program's.
             wl_global_remove(seats_.back());
             seats_.pop_back();
         }

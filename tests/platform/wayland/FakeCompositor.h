@@ -27,11 +27,10 @@ namespace nerlo::test {
 
 class FakeCompositor {
   public:
-    // Plays the owner of the content, on the compositor's thread: has to close `fd`, sooner or
-    // later.
+    // Plays the owner of the content, on the compositor's thread. It must close `fd` at some time.
     using Owner = std::function<void(const std::string &format, int fd)>;
 
-    // What else it offers. Each object is made that the program asks for; `answer` is told, on the
+    // What else it offers. Every object that the program asks for is made; `answer` is told, on the
     // compositor's thread, of each request ("wl_surface.commit", and "wl_seat.bind" for a bind)
     // with its object and with the one that it made.
     struct More {
@@ -44,7 +43,7 @@ class FakeCompositor {
     explicit FakeCompositor(const wl_interface *manager, int seats = 1, More more = {});
     ~FakeCompositor();
 
-    // Of data-control, as the program has asked for it.
+    // The version of data-control that the program has bound.
     int version() const { return version_; }
     // The path of the socket.
     std::string display() const { return folder_ / "socket"; }

@@ -32,7 +32,7 @@ using test::Strings;
 using wayland::dataControls;
 using wayland::FileDescriptor;
 
-// Before the program's clipboard, and longer.
+// Made before the clipboard under test and destroyed after it.
 struct Around {
     test::MemoryMainQueue queue;
     IoThread io;
@@ -115,7 +115,8 @@ TEST(WaylandPasteboard, AnOwnWriteDoesNotShowInTheCountBeforeItsHandlerHasRun) {
     desktop.pasteboard->write(content({"text/plain"}, "own"), {},
                               [&](PasteboardWrite result) { inHandler = result.changeCount; });
     ASSERT_TRUE(test::until([&] { return !desktop.compositor.programFormats().empty(); }));
-    // The compositor has it; the news must not look like another program's copy.
+    // The compositor has the write, but its handler has not run yet; until then the count must not
+    // change, or it would look like another program's copy.
     EXPECT_EQ(desktop.compositor.paste("text/plain"), "own");
     EXPECT_EQ(desktop.pasteboard->changeCount(), start);
     ASSERT_TRUE(desktop.until([&] { return inHandler != 0; }));
@@ -147,7 +148,7 @@ void say(int fd, const std::string &text) {
     [[maybe_unused]] const auto written = write(fd, text.data(), text.size());
 }
 
-// Owners that end their turn at once, each with what is read of {"broken", "good"} from them.
+// Owners that fail at once, each with what is read from it when {"broken", "good"} is asked for.
 TEST(WaylandPasteboard, OwnersThatMisbehave) {
     const auto endless = [](int fd) {
         std::thread([fd] {
@@ -236,7 +237,7 @@ TEST(WaylandPasteboard, FormatListsOutOfAllProportion) {
     EXPECT_EQ(known[1], formats[3]);
     EXPECT_EQ(known[2], "x/0");
 
-    // And names that no compositor takes, on the way out.
+    // In the other direction: we are asked to offer names that no compositor takes.
     EXPECT_EQ(desktop
                   .write(content({"a", "", std::string(1 << 20, 'n'), std::string("b\0c", 3), "d"},
                                  "out"))
@@ -253,7 +254,8 @@ TEST(WaylandPasteboard, ReceiversThatDoNotReadHoldUpNothing) {
     for (int i = 0; i < 200; ++i) {
         stuck.push_back(wayland::makePipe());
         desktop.compositor.requestFrom("text/plain", stuck.back().writer.get());
-        // The flags of this description are the receiver's to change; it blocks.
+        // The receiver may change the flags of the file description that we write to, and makes it
+        // blocking.
         fcntl(stuck.back().writer.get(), F_SETFL, 0);
     }
     const FileDescriptor folder(open("/", O_RDONLY | O_CLOEXEC));
@@ -263,7 +265,7 @@ TEST(WaylandPasteboard, ReceiversThatDoNotReadHoldUpNothing) {
     desktop.compositor.requestFrom("text/plain", gone.writer.get());
     EXPECT_EQ(desktop.compositor.paste("never offered"), "");
     EXPECT_EQ(desktop.compositor.paste("text/plain"), large);
-    // A pipe whose program was cut off ends after what was in it.
+    // When the program is cut off, the receiver can still read what was in the pipe.
     std::string rest;
     char buffer[4096];
     stuck.front().writer = {};
@@ -298,7 +300,7 @@ TEST(WaylandPasteboard, SeatsThatComeLateAndGo) {
     EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::unavailable);
 }
 
-// A compositor throws a client out that does not keep pace with it.
+// A compositor disconnects a client that does not read its messages fast enough.
 TEST(WaylandPasteboard, ComesBackAfterItWasThrownOut) {
     Desktop desktop;
     bool lost = false;
@@ -316,7 +318,7 @@ TEST(WaylandPasteboard, ComesBackAfterItWasThrownOut) {
     EXPECT_FALSE(lost);
 }
 
-// Whatever comes in whatever order, each handler runs once and the next copy gets through.
+// Random events in random order: each handler runs once, and the next copy gets through.
 TEST(WaylandPasteboard, AnyOrderOfEvents) {
     for (unsigned seed = 1; seed <= 3; ++seed) {
         SCOPED_TRACE(seed);
@@ -366,7 +368,7 @@ TEST(WaylandPasteboard, AnyOrderOfEvents) {
             [&] { desktop.compositor.finishDevice(); },
             [&] { desktop.compositor.throwOut(); },
         };
-        // The last three are rare, or there would hardly be anything else.
+        // The last three end everything else, so they are rare.
         std::discrete_distribution<std::size_t> pick(
             {20, 20, 10, 5, 20, 20, 5, 40, 20, 20, 10, 40, 4, 2, 1, 1});
         for (int step = 0; step < 600; ++step) {
@@ -408,7 +410,7 @@ TEST(WaylandPasteboard, TheCompositorDiesInTheMiddleOfEverything) {
     EXPECT_EQ(desktop.read({"text/plain"}).status, PasteboardStatus::unavailable);
     EXPECT_EQ(desktop.write(content({"text/plain"}, "x")).status, PasteboardStatus::unavailable);
     EXPECT_EQ(lost, 1);
-    const auto worked = std::clock(); // of all threads
+    const auto worked = std::clock(); // processor time of all threads
     std::this_thread::sleep_for(500ms);
     EXPECT_LT(std::clock() - worked, CLOCKS_PER_SEC / 4) << "it spins";
 }
@@ -443,7 +445,7 @@ TEST(WaylandPasteboard, HandlersEndWithIt) {
     EXPECT_FALSE(ran);
 }
 
-// A trickle is as bad as silence, and the time limit of the whole holds for it.
+// An owner that sends a little now and then is ended by the time limit of the whole transfer.
 TEST(WaylandTransfer, EndsAtItsLimits) {
     auto pipe = wayland::makePipe();
     std::optional<wayland::IncomingTransfer::Outcome> outcome;

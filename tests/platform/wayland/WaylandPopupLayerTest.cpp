@@ -19,10 +19,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// What the compositor does; on its thread.
+// How the compositor behaves. Used on its thread.
 struct LayerShell {
     std::function<void(wl_resource *role)> answer; // to the first commit of a surface
-    bool pointer = false;                          // there is one, but it is nowhere
+    bool pointer = false;                          // there is a pointer, but over no surface
     std::atomic<bool> shown = false;
     wl_resource *role = nullptr; // of the surface made last
 
@@ -124,7 +124,7 @@ TEST(WaylandPopupLayer, APointerThatIsNotFoundInTimeIsDoneWithout) {
         };
         popup.draw = [](int) { return PopupPicture(); };
         const auto shown = created.backend->show(std::move(popup));
-        if (searched) { // by what covers the screen
+        if (searched) { // by a surface that covers the screen
             ASSERT_TRUE(test::until(queue, [&] { return shell.shown.load(); }));
         }
         queue.advance(1s);
