@@ -34,7 +34,7 @@ void EditedProfile::load(ProfileRecord record) {
     if (!(state(onlyOneKey) == onlyOne)) {
         record_.set(onlyOneKey, onlyOne);
     }
-    // The delay's field shows a number, however it is stored.
+    // The field of the delay shows a number, whether a number or a text is stored.
     if (const PropertyValue *delay = record_.find(delayKey)) {
         record_.set(delayKey, PropertyValue(delay->integerValue()).stringValue());
     }

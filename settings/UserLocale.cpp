@@ -10,7 +10,7 @@ namespace nerlo::settings {
 namespace {
 
 constexpr std::string_view neutralLocale = "en_US";
-constexpr std::size_t longestName = 100; // ICU gives up at 157
+constexpr std::size_t longestName = 100; // ICU takes at most 156
 
 constexpr std::pair<std::string_view, std::string_view> scripts[] = {
     {"latin", "_Latn"},

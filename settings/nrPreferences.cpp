@@ -72,7 +72,7 @@ void nrPreferences::createDir() {
     storage::makeFolder(storage::folderOf(paths_.profiles), calls_);
 }
 
-// Tells of a failed save, and of the first that succeeds after one.
+// Reports a failed save, and the first successful one after it.
 std::string nrPreferences::report(std::string error) {
     const bool failedBefore = std::exchange(saveFailed_, !error.empty());
     if ((saveFailed_ || failedBefore) && hooks_.saveFailed) {
@@ -97,7 +97,7 @@ void nrPreferences::firstRunPreferences() {
         try {
             hooks_.setDefaultShortcut();
         } catch (...) {
-            // The profile is made all the same; the hot key can be recorded by hand.
+            // The profile is made in any case: the user can still record the hot key.
         }
     }
     firstRunCombobox();
@@ -109,7 +109,7 @@ void nrPreferences::firstRunCombobox() {
     const ProfileRecord first = firstStartProfile(language_);
     profilesItems_ = file_.load();
     if (std::ranges::find(profilesItems_, first, &ProfileItem::record) != profilesItems_.end()) {
-        return; // a first start that was ended before it was through has made it
+        return; // a first start that was interrupted has made it already
     }
     profilesItems_.insert(profilesItems_.begin(), file_.newItem(first));
     if (profilesItems_.size() == 1) {
@@ -131,14 +131,14 @@ void nrPreferences::initProfilesItems() {
     if (auto items = file_.load(); !items.empty()) {
         profilesItems_ = std::move(items);
     } else if (!profilesItems_.empty()) {
-        saveProfilesWithArray(); // of the first start or the update, which could not save them
+        saveProfilesWithArray(); // the first start or the update may have failed to save them
     } else {
         profilesItems_ = {file_.newItem(firstProfile())};
         saveProfilesWithArray();
     }
     sharedRules_ = sharedFile_.load();
     if (sharedRules_.empty()) {
-        showSharedRules(); // which gives it a rule
+        showSharedRules(); // which adds a first rule if there is none
     }
     const std::int64_t stored = store_.integerForKey(selectedItemKey);
     selectedItem_ = static_cast<int>(
@@ -254,7 +254,8 @@ std::string nrPreferences::writeProfiles() {
     } else {
         createDir();
         if (auto others = file_.refreshed(profilesItems_)) {
-            adopt(std::move(*others)); // what other processes have saved is there all the same
+            // Our save failed, but what other processes have saved is taken over.
+            adopt(std::move(*others));
         }
     }
     return error;
@@ -288,7 +289,7 @@ void nrPreferences::adopt(ProfileItems items) {
 
 void nrPreferences::profilesFileChanged() {
     if (pending_ != 0) {
-        return; // the save that is on its way takes over what others wrote
+        return; // the save that is scheduled takes over what others wrote
     }
     if (auto items = file_.refreshed(profilesItems_)) {
         adopt(std::move(*items));
@@ -326,7 +327,7 @@ void nrPreferences::profilesRemove() {
     if (hooks_.confirmRemoval && !hooks_.confirmRemoval(profileNameOf(record))) {
         return;
     }
-    // While the question stood, the list may have taken over what other processes wrote.
+    // While the question was shown, the list may have changed: other processes may have written.
     if (std::erase_if(profilesItems_, [id = id](const auto &item) { return item.id == id; }) == 0) {
         return;
     }
@@ -451,7 +452,7 @@ void nrPreferences::showSharedRules() {
     }
 }
 
-// What was edited belongs to the edited profile; the shared list is copied into it.
+// The edits belong to the edited profile, so the shared list is copied into it.
 void nrPreferences::keepRules() {
     const PropertyArray &items = findReplace_.items();
     edited_.set(onlyOneProfile() ? sharedListKey : ownListKey, items);

@@ -19,7 +19,8 @@ BusService::Name BusService::takeName() {
     if (!bus.isConnected()) {
         return Name::noBus;
     }
-    // The object first: whoever finds the name finds it too.
+    // The object is registered before the name, so that a caller who finds the name finds the
+    // object.
     bus.registerObject(busObjectPath, this);
     named_ = bus.registerService(applicationId);
     return named_ ? Name::ours : Name::taken;

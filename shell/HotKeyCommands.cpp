@@ -19,7 +19,8 @@ using settings::cleanHotKey;
 
 constexpr std::uint64_t keyV = 9;
 
-// What the operations' table calls by names, for the one hot key that is not in it.
+// Name and key of cleaning with everything that is on: the one hot key that the table of operations
+// does not have.
 constexpr std::string_view cleanName = "clean";
 
 std::string_view nameOfCommand(std::string_view key) {

@@ -47,8 +47,8 @@ std::vector<qsizetype> placesIn(const QString &text) {
     return places;
 }
 
-// Shares letters out so that as many texts as possible get one of their own: who finds all of its
-// letters taken asks their holders to take another.
+// Gives out letters so that as many texts as possible get one of their own. A text whose letters
+// are all taken makes one of their holders move to another letter.
 class Sharing {
   public:
     Sharing(const QStringList &texts, const std::set<QChar> &used)
@@ -120,7 +120,8 @@ QStringList withMnemonics(const QStringList &texts, std::set<QChar> &used) {
 }
 
 void assignMnemonics(QWidget &parent, std::set<QChar> &used) {
-    // What is pressed comes before what is only reached, should the letters not be enough.
+    // Buttons and boxes come before labels, in case there are not enough letters: their letter
+    // presses them, a label's only moves the focus.
     std::vector<std::function<void(const QString &)>> setters;
     QStringList texts;
     for (auto *button : parent.findChildren<QAbstractButton *>()) {

@@ -34,7 +34,7 @@ ScreenPoint popupOrigin(std::int64_t position, const MainScreen &screen, double 
     case 3:
         return {right, top};
     case 4: {
-        // Above the true centre, where a message is looked for.
+        // A little above the centre, where people expect a message.
         const double sum = visible.x + visible.width;
         return {((sum == 0 ? visible.x : sum) - width) * 0.5,
                 (visible.y + visible.height + height) * 0.5};

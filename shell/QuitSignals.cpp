@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array quitting{SIGTERM, SIGINT, SIGHUP};
 
-// A handler may do little more than write a byte; this is the pipe that it writes to.
+// A signal handler may do little more than write a byte, so it writes one to this pipe.
 std::array<int, 2> wakeUp{-1, -1};
 
 void handle(int) {

@@ -32,7 +32,7 @@ QString install(QCoreApplication &application, const QLocale &locale, const QStr
     return translator->language();
 }
 
-// The toolkit writes the name that the key had on another system's keyboards.
+// The toolkit's own name for this key is the one on another system's keyboards.
 class KeyNames final : public QTranslator {
   public:
     using QTranslator::QTranslator;

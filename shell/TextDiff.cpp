@@ -81,7 +81,7 @@ TextDifferences differences(std::u16string_view before, std::u16string_view afte
         };
         for (std::size_t r = rows; r-- > 0;) {
             for (std::size_t c = columns; c-- > 0;) {
-                // At most mostCells tokens, the smaller side at most 1000: it fits.
+                // Fits into 16 bits: the shorter side has at most 1000 tokens.
                 at(r, c) = old[first + r] == now[first + c]
                                ? static_cast<std::uint16_t>(at(r + 1, c + 1) + 1)
                                : std::max(at(r + 1, c), at(r, c + 1));

@@ -72,7 +72,7 @@ class nrAppDelegate {
     void quitApp();
     void supportWebsite();
     void openEmailToDev();
-    void openRateApp() {} // there is no shop to rate it in
+    void openRateApp() {} // nothing to open: no shop has it
     void aOpenTips();
     void openReleaseNotesNerloPro();
     void aStayOnTop(bool on);

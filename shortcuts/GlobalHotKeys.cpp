@@ -44,7 +44,7 @@ GlobalHotKeys::~GlobalHotKeys() {
 GlobalHotKeys::Added
 GlobalHotKeys::addGlobalHotkeyMonitorWithShortcut(const nrShortcut &shortcut, HotKeyHandler handler,
                                                   const HotKeyCommand &command) {
-    // The service would be given another code, that of the A key for none.
+    // Without a key the service would be given code 0, which is the A key.
     if (shortcut.keyCode() != shortcut.carbonKeyCode()) {
         return {std::nullopt, "the shortcut has no key"};
     }

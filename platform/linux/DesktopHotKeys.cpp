@@ -18,7 +18,7 @@ namespace nerlo::platform {
 
 namespace {
 
-// More than any desktop has; what a broken file says beyond it is left out.
+// More than any desktop has. A broken file may hold more, which is ignored.
 constexpr std::size_t mostHotKeys = 4096;
 constexpr std::size_t mostCustomBindings = 64;
 constexpr auto longestReading = std::chrono::seconds(2);
@@ -57,7 +57,8 @@ std::string symbolOfQtName(std::string_view name) {
     return row == std::end(rows) ? std::string(name) : std::string(row->xkb);
 }
 
-// By the name of the symbol: which key has it, the layout says, and only on the main thread.
+// Keys are still names here. The keyboard layout tells which key has a name, but only on the main
+// thread.
 struct NamedHotKey {
     std::string symbol;
     std::uint32_t modifiers = 0;
@@ -77,7 +78,7 @@ class Collector {
             modifiers |= *modifier;
             text.remove_prefix(end + 1);
         }
-        // The window manager's name for the key over Tab, whatever it writes.
+        // The window manager's name for the key above Tab, which differs between layouts.
         add(text == "Above_Tab" ? std::string("grave") : std::string(text), modifiers);
     }
 
@@ -168,9 +169,9 @@ void collectGnome(const DesktopSources &sources, Collector &collector) {
     }
 }
 
-// Lines such as "/xfwm4/custom/<Alt>Tab    cycle_windows_key". What stands under "default" is the
-// template that "custom" is made from, and counts where nothing is custom yet: of the commands and
-// of the window manager each on its own.
+// Lines such as "/xfwm4/custom/<Alt>Tab cycle_windows_key". "default" is the template from which
+// "custom" is made. It counts until something is custom, separately for the commands and for the
+// window manager.
 void collectXfce(const DesktopSources &sources, Collector &collector) {
     const std::string list =
         sources.output({"xfconf-query", "-c", "xfce4-keyboard-shortcuts", "-l", "-v"});
@@ -274,7 +275,7 @@ class DesktopHotKeys final : public SystemHotKeys {
     }
 
   private:
-    // With the worker, which may end after us.
+    // Owned together with the worker, which may outlive this object.
     struct Shared {
         explicit Shared(DesktopSources from)
             : sources(std::move(from)) {}

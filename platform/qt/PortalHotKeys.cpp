@@ -51,7 +51,7 @@ class PortalHotKeys final : public HotKeyService {
     }
     void setStatusHandler(StatusChanged changed) override { statusChanged_ = std::move(changed); }
 
-    // The desktop keeps the keys; what they would run waits.
+    // The desktop keeps the keys while we are suspended; pressing them runs nothing.
     void setSuspended(bool suspended) override { suspended_ = suspended; }
 
     std::string description() const override {
@@ -69,7 +69,8 @@ class PortalHotKeys final : public HotKeyService {
                                     : QString::fromStdString(request.name);
     }
 
-    // Many come and go in one task, at the program's start above all; the user is asked once.
+    // Many shortcuts may come and go within one task, above all at the start; binding after that
+    // task asks the user once for all of them.
     void bindSoon() {
         if (std::exchange(bindPosted_, true)) {
             return;
@@ -162,8 +163,8 @@ class PortalHotKeys final : public HotKeyService {
 
 Created<HotKeyService> createPortalHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout,
                                            std::string applicationId) {
-    // A connection of its own: the portal knows an application by its connection, and wants to be
-    // told its name before anything else is asked over it.
+    // A D-Bus connection of its own, because the portal identifies applications by connection, and
+    // the name must be registered before the first request.
     auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus,
                                              QStringLiteral("nerlo-hot-keys"));
     if (!bus.isConnected()) {

@@ -12,7 +12,7 @@
 
 namespace nerlo::platform {
 
-// Found by the meta type system where the type lives.
+// Must be in the namespace of the type, or the meta type system does not find it.
 QDBusArgument &operator<<(QDBusArgument &argument, const PortalShortcut &shortcut) {
     argument.beginStructure();
     argument << shortcut.id << shortcut.properties;
@@ -36,7 +36,8 @@ const QString sessionInterface = QStringLiteral("org.freedesktop.portal.Session"
 const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
 const QString registryInterface = QStringLiteral("org.freedesktop.host.portal.Registry");
 
-// A trigger's text is for one line of a tooltip.
+// The text of a trigger comes from the portal and is shown in one line of a tooltip, so its length
+// is limited.
 constexpr qsizetype longestTrigger = 200;
 
 QString shown(const QVariant &text) {
@@ -159,7 +160,7 @@ void PortalSession::request(const QString &method, QVariantList arguments, QVari
     const QString token = QStringLiteral("nerlo%1").arg(++tokens_);
     options.insert(QStringLiteral("handle_token"), token);
     arguments.append(options);
-    // Known beforehand, as the answer may be faster than the call's own return.
+    // The path is computed beforehand, because the answer may arrive before the call returns.
     const QString sender = bus_.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
     awaitedRequest_ = desktopPath + QStringLiteral("/request/") + sender + QLatin1Char('/') + token;
     answer_ = std::move(answer);
@@ -254,7 +255,7 @@ void PortalSession::close(QString &session) {
 }
 
 void PortalSession::nameOwnerChanged(bool there) {
-    // Another portal knows nothing of us.
+    // A portal that has been started anew does not know our session.
     introduced_ = false;
     if (there && session_.isEmpty() && awaitedRequest_.isEmpty() && !available_) {
         bind(std::exchange(shortcuts_, {}));

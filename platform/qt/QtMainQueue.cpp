@@ -16,8 +16,8 @@ MainQueue::TaskId QtMainQueue::postAfter(Clock::duration delay, Task task,
     timer->setTimerType(tolerance > tolerance.zero() ? Qt::CoarseTimer : Qt::PreciseTimer);
     QObject::connect(timer.get(), &QTimer::timeout, &receiver_,
                      [this, id, task = std::move(task)]() mutable {
-                         // The timer that runs this must outlive it, and the task may cancel
-                         // others.
+                         // The timer must not be deleted while its own handler runs, and the task
+                         // may cancel other timers.
                          const auto running = std::move(task);
                          timers_.extract(id).mapped().release()->deleteLater();
                          running();

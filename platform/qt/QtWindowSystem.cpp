@@ -4,8 +4,8 @@
 
 namespace nerlo::platform {
 
-// Windows that a Wayland compositor places where it likes can be neither a menu at the status item
-// nor the statistics popup; those of an X11 program can.
+// A Wayland compositor places windows where it likes, so they can be neither a menu at the status
+// item nor the statistics popup. Windows of an X11 program can be placed.
 void chooseQtWindowSystem() {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");

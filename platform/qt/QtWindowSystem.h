@@ -3,7 +3,7 @@
 
 namespace nerlo::platform {
 
-// Before the application object is made. Whoever sets $QT_QPA_PLATFORM decides.
+// Before the application object is made. If $QT_QPA_PLATFORM is set, it decides.
 void chooseQtWindowSystem();
 
 // Once it is made: whether its windows have ids of X11, and places that the program gives them.

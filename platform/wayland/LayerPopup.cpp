@@ -23,10 +23,10 @@ constexpr auto scope = "nerlo-pro";
 constexpr std::uint32_t allEdges =
     ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_BOTTOM |
     ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
-// What an exclusive zone says about panels.
+// Values of an exclusive zone: how the surface relates to panels.
 constexpr std::int32_t besidePanels = 0;
 constexpr std::int32_t wholeScreen = -1;
-// A compositor may say anything; no screen is larger, nor needs a finer picture.
+// Limits on what a compositor says: no real screen is larger or has a higher scale.
 constexpr int largestScreen = 1 << 16;
 constexpr int largestScale = 8;
 
@@ -92,7 +92,7 @@ struct LayerPopup::Layer {
             [](void *self, zwlr_layer_surface_v1 *configuredRole, std::uint32_t serial,
                std::uint32_t width, std::uint32_t height) {
                 zwlr_layer_surface_v1_ack_configure(configuredRole, serial);
-                // May end this.
+                // Deletes this object, perhaps.
                 const auto then = static_cast<Layer *>(self)->configured;
                 if (then) {
                     then(bounded(width), bounded(height));
@@ -166,7 +166,7 @@ struct LayerPopup::Menu {
         static constexpr xdg_popup_listener listener{
             [](void *self, xdg_popup *, std::int32_t x, std::int32_t y, std::int32_t,
                std::int32_t) {
-                // Ends this.
+                // Deletes this object.
                 const auto then = static_cast<Menu *>(self)->moved;
                 then(x, y);
             },
@@ -375,7 +375,7 @@ void LayerPopup::pointerEntered(wl_surface *surface, int x, int y) {
     if (surface && probe != probes_.end()) {
         pointerAt_ = PopupPoint{x, y};
         wl_output *output = (*probe)->output;
-        under_ = nullptr; // it goes with the others
+        under_ = nullptr; // destroyed with the other surfaces
         probes_.clear();
         measureScreen(output);
     }
@@ -418,7 +418,7 @@ void LayerPopup::measureFreeArea(wl_output *output) {
 
 void LayerPopup::measurePanels() {
     const PopupPoint panels{screen_.width - screen_.freeWidth, screen_.height - screen_.freeHeight};
-    screen_.free = {0, panels.y}; // where nothing better is known, a panel is at the top
+    screen_.free = {0, panels.y}; // without better knowledge: assume a panel at the top
     if (!windows_ || (panels.x == 0 && panels.y == 0)) {
         place();
         return;
@@ -427,7 +427,7 @@ void LayerPopup::measurePanels() {
         screen_.free = {-std::clamp(x, -panels.x, 0), -std::clamp(y, -panels.y, 0)};
         place();
     });
-    // The answer may come a moment after that to the request itself.
+    // The compositor may send this event a moment after it has answered the round trip.
     loop_.afterRoundTrip(pasteboardStallLimit, [this](bool) {
         loop_.afterRoundTrip(pasteboardStallLimit, [this](bool) {
             if (menu_) {
@@ -448,7 +448,7 @@ void LayerPopup::place() {
                                                ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
     zwlr_layer_surface_v1_set_margin(role, at.y, 0, 0, at.x);
     wl_surface_commit(shown_->surface.get());
-    // Which screen it is shows only once there is a picture.
+    // The compositor tells which screen the popup is on only after a picture was attached.
     for (const auto &[output, known] : outputs_) {
         scale_ = std::max(scale_, known.scale);
     }

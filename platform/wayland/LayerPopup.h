@@ -50,7 +50,7 @@ class LayerPopup {
     // After one round trip: whether the compositor has what it takes.
     bool available() const { return compositor_ && shm_ && shell_; }
     void open();
-    // The time to look for the pointer is over, also if the search has not begun.
+    // Ends the search for the pointer, or prevents it if it has not begun.
     void pointerUnknown();
     void setPicture(const PopupPicture &picture);
     void close();

@@ -40,7 +40,8 @@ struct ContextUnref {
 std::unique_ptr<xkb_context, ContextUnref> makeContext() {
     std::unique_ptr<xkb_context, ContextUnref> context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     if (context) {
-        // A keymap that does not compile is answered with null; its text is nobody's log.
+        // libxkbcommon must not write to standard error: a keymap that does not compile is reported
+        // by a null result.
         xkb_context_set_log_fn(context.get(),
                                [](xkb_context *, xkb_log_level, const char *, va_list) {});
     }

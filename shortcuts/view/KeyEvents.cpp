@@ -29,7 +29,7 @@ constexpr ModifierKey modifierKeys[] = {
     {59, 62, controlModifier, Qt::MetaModifier},
 };
 
-// For events that did not come from a keyboard: those of input methods and of programs.
+// For events that do not come from a keyboard but from an input method or a program.
 std::optional<std::uint16_t> keyByMeaning(int key, const platform::KeyboardLayout &layout) {
     const struct {
         int key;
@@ -66,7 +66,8 @@ KeyEvent keyEventOf(const QKeyEvent &event, const platform::KeyboardLayout &layo
     KeyEvent result{code.value_or(unknownKey), 0};
     for (const auto &key : modifierKeys) {
         bool held = event.modifiers().testFlag(key.modifier);
-        // Of the key itself, systems tell the state before or after.
+        // For the modifier key itself, some systems tell the state before the press and some the
+        // state after it.
         if (result.keyCode == key.left || result.keyCode == key.right) {
             held = event.type() != QEvent::KeyRelease;
         }

@@ -1,4 +1,4 @@
-// The sign beside what is not as the user wants it.
+// The warning sign beside a control whose setting does not work.
 #pragma once
 
 #include <QColor>
@@ -13,7 +13,7 @@ namespace nerlo::shortcuts {
 // Amber that can be read on the palette's base.
 QColor warningColor(const QPalette &palette);
 
-// In the middle of `area`. Drawn, for not every font has the sign.
+// In the middle of `area`. Drawn, because not every font has the sign.
 void drawWarningMark(QPainter &painter, const QRectF &area, const QColor &color);
 
 // The same, in the colours that the program has when it is shown.

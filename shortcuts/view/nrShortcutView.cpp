@@ -37,11 +37,11 @@ constexpr auto cannotBeUsed = u"Cannot be used";
 // At most one control records.
 QPointer<nrShortcutView> recordingView;
 
-// As a shape, for fonts give these glyphs very different sizes.
+// Drawn as a shape, because fonts give these glyphs very different sizes.
 void drawGlyph(QPainter &painter, const QRectF &area, const QString &glyph, const QColor &color) {
     QPainterPath shape;
     shape.addText({}, painter.font(), glyph);
-    if (shape.isEmpty()) { // a font of pixels
+    if (shape.isEmpty()) { // a bitmap font has no outlines
         painter.setPen(color);
         painter.drawText(area, Qt::AlignCenter, glyph);
         return;
@@ -135,7 +135,8 @@ void nrShortcutView::setRecording(bool recording) {
     resetToolTips();
     activateEventMonitoring(recording);
     activateResignObserver(recording);
-    // Out of the way, so that a combination in use reaches us.
+    // Suspends our own hot keys, so that a combination that is already one of them reaches the
+    // recorder.
     suspension_.reset();
     if (recording) {
         context_.systemHotKeys.refresh();
@@ -221,7 +222,7 @@ QRect nrShortcutView::shortcutRect() const {
 
 QSize nrShortcutView::sizeHint() const {
     const int line = fontMetrics().height() + 2 * margin;
-    // The first has no button beside it.
+    // The first state has no button.
     int widest = fontMetrics().horizontalAdvance(fromTable(clickToRecord));
     for (const auto *text : {u"Type shortcut", u"Use old shortcut", u"Cancel", cannotBeUsed}) {
         widest = std::max(widest, fontMetrics().horizontalAdvance(fromTable(text)) + line + 6);
@@ -230,7 +231,8 @@ QSize nrShortcutView::sizeHint() const {
 }
 
 void nrShortcutView::announce() {
-    // The value is part of the name: changes of a value are for numbers only.
+    // The value is part of the accessible name, because changes of accessible values are announced
+    // for numbers only.
     QAccessibleEvent name(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&name);
     update();
@@ -281,7 +283,7 @@ void nrShortcutView::activateEventMonitoring(bool active) {
     monitoring_ = active;
     if (active) {
         QCoreApplication::instance()->installEventFilter(this);
-        // Only from the window in front: no other would notice that it has to let go again.
+        // Only in the active window: another would not be told when it has to release the keyboard.
         if (context_.grabsKeyboard && window()->isActiveWindow()) {
             grabKeyboard();
         }
@@ -315,7 +317,8 @@ bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
         return false;
     case QEvent::ShortcutOverride:
         if (monitoring_) {
-            // Taken before the window's own shortcuts see it, but for those that we let through.
+            // Accepted here, so that the window's own shortcuts do not get the key; keys that the
+            // recorder lets through are not accepted.
             const auto key = keyEventOf(static_cast<QKeyEvent &>(*event), context_.texts.layout());
             if (nrShortcut::shortcutWithEvent(key).shouldBypass(context_.texts)) {
                 setRecording(false);
