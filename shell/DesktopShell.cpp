@@ -346,8 +346,13 @@ void DesktopShell::stateChanged() {
 }
 
 void DesktopShell::quit() {
-    // Not quit(), which a window that is minimized when it is closed would refuse.
-    program_.parts().mainQueue.post([] { QCoreApplication::exit(); });
+    program_.parts().mainQueue.post([this] {
+        if (window_) {
+            window_->hide(); // remembers its page and height
+        }
+        // Not quit(), which a window that is minimized when it is closed would refuse.
+        QCoreApplication::exit();
+    });
 }
 
 void DesktopShell::setProblem(Problem problem, const std::string &text) {

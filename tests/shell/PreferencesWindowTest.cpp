@@ -485,6 +485,7 @@ TEST_F(Menu, QuitsWithAWindowThatWouldStayInTheTaskbar) {
         queue.runPosted();
     });
     EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_GT(store.integerForKey(PreferencesWindow::heightKey), 0);
 }
 
 TEST(Tips, PagesTurnAndEnd) {
