@@ -1,10 +1,14 @@
 #include "clipboard/PasteboardFormats.h"
 
 #include "text/Ascii.h"
+#include "text/Characters.h"
+#include "text/Charset.h"
 #include "text/Utf.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <span>
 #include <utility>
 
 namespace nerlo::clipboard {
@@ -12,31 +16,130 @@ namespace nerlo::clipboard {
 namespace {
 
 constexpr std::string_view latin1Format = "STRING";
+constexpr std::string_view utf8Format = "UTF8_STRING";
+constexpr std::string_view compoundFormat = "COMPOUND_TEXT";
+constexpr std::string_view anyTextFormat = "TEXT"; // in the encoding of the declared type
+constexpr std::string_view plainText = "text/plain";
 
-// Best first. The parameter of the first one counts.
-constexpr std::array<std::string_view, 4> textFormats{"text/plain;charset=utf-8", "UTF8_STRING",
-                                                      "text/plain", latin1Format};
+// What a clean offers, best first.
+constexpr std::array<std::string_view, 4> ourFormats{"text/plain;charset=utf-8", utf8Format,
+                                                     plainText, latin1Format};
 
 // Browsers put text/x-moz-url-priv beside ordinary text, so only the whole name counts.
 constexpr std::array<std::string_view, 5> urlFormats{
     "text/uri-list", "text/x-moz-url", "x-special/gnome-copied-files",
     "x-special/mate-copied-files", "application/x-kde-cutselection"};
 
-constexpr std::string_view passwordManagerHint = "x-kde-passwordManagerHint";
+// Set by password managers; the last two come from other systems through shared clipboards.
+constexpr std::array<std::string_view, 3> secretFormats{
+    "x-kde-passwordManagerHint", "Clipboard Viewer Ignore",
+    "ExcludeClipboardContentFromMonitorProcessing"};
 constexpr std::string_view clipboardState = "CLIPBOARD_STATE";
 
-std::string_view withoutParameters(std::string_view format) {
-    const auto bare = format.substr(0, format.find(';'));
-    return bare.substr(0, bare.find_last_not_of(' ') + 1);
+constexpr std::array<std::string_view, 6> textLike{"html", "rtf",  "richtext",
+                                                   "xml",  "json", "STRING"};
+constexpr std::array<std::string_view, 12> pictureLike{"image/", "video/",     "audio/", "bitmap",
+                                                       "pixmap", "metafile",   "emf",    "wmf",
+                                                       "pdf",    "postscript", "png",    "svg"};
+
+std::string_view trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    return first == text.npos ? std::string_view()
+                              : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-const std::string *find(const std::vector<std::string> &formats, std::string_view name,
-                        bool parametersCount = false) {
-    const auto found = std::ranges::find_if(formats, [&](const std::string &format) {
-        return text::equalIgnoringAsciiCase(parametersCount ? format : withoutParameters(format),
-                                            name);
-    });
+std::string_view withoutParameters(std::string_view format) {
+    return trimmed(format.substr(0, format.find(';')));
+}
+
+bool same(std::string_view a, std::string_view b) {
+    return text::equalIgnoringAsciiCase(a, b);
+}
+
+const std::string *find(const std::vector<std::string> &formats, std::string_view name) {
+    const auto found = std::ranges::find_if(
+        formats, [&](const std::string &format) { return same(withoutParameters(format), name); });
     return found == formats.end() ? nullptr : &*found;
+}
+
+// Formats of other systems may come by name, or as a parameter of a MIME type.
+bool isForeign(std::string_view format, std::string_view name) {
+    return same(format, name) ||
+           text::asciiLower(std::string(format))
+                   .find('"' + text::asciiLower(std::string(name)) + '"') != std::string::npos;
+}
+
+// The charset that a MIME type names, in lower case; empty if it names none.
+std::string charsetOf(std::string_view format) {
+    for (auto at = format.find(';'); at != format.npos; at = format.find(';')) {
+        format = format.substr(at + 1);
+        const auto parameter = format.substr(0, format.find(';'));
+        const auto equals = parameter.find('=');
+        if (equals != parameter.npos && same(trimmed(parameter.substr(0, equals)), "charset")) {
+            auto value = trimmed(parameter.substr(equals + 1));
+            if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
+                value = trimmed(value.substr(1, value.size() - 2));
+            }
+            return text::asciiLower(std::string(value));
+        }
+    }
+    return {};
+}
+
+bool isPlainMime(std::string_view format) {
+    return same(withoutParameters(format), plainText);
+}
+
+bool isUtf8(std::string_view charset) {
+    return charset == "utf-8" || charset == "utf8";
+}
+
+// 0 is best; nothing for a format in which no text is read.
+std::optional<int> textRank(const std::string &format) {
+    if (isPlainMime(format)) {
+        const auto charset = charsetOf(format);
+        return charset.empty()            ? std::optional(2)
+               : isUtf8(charset)          ? std::optional(0)
+               : text::isCharset(charset) ? std::optional(3)
+                                          : std::nullopt;
+    }
+    return same(format, utf8Format)       ? std::optional(1)
+           : same(format, compoundFormat) ? std::optional(4)
+           : same(format, latin1Format)   ? std::optional(5)
+           : same(format, anyTextFormat)  ? std::optional(6)
+                                          : std::nullopt;
+}
+
+// The encoding that a format or a declared type stands for; empty if it says nothing about that.
+std::string encodingOf(const std::string &name) {
+    return same(name, latin1Format)     ? "iso-8859-1"
+           : same(name, utf8Format)     ? "utf-8"
+           : same(name, compoundFormat) ? std::string(compoundFormat)
+           : isPlainMime(name)          ? charsetOf(name)
+                                        : std::string();
+}
+
+bool containsAny(const std::string &format, std::span<const std::string_view> words) {
+    const auto lower = text::asciiLower(format);
+    return std::ranges::any_of(words, [&](std::string_view word) {
+        return lower.find(text::asciiLower(std::string(word))) != std::string::npos;
+    });
+}
+
+int readingRank(const std::string &format) {
+    return format.starts_with("text/") || textRank(format) ? 0
+           : containsAny(format, pictureLike)              ? 2
+           : containsAny(format, textLike)                 ? 0
+                                                           : 1;
+}
+
+bool isSchemeLetter(char16_t unit) {
+    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
+bool isSchemeUnit(char16_t unit) {
+    return isSchemeLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'+' || unit == u'-' ||
+           unit == u'.';
 }
 
 } // namespace
@@ -46,8 +149,22 @@ bool offersUrl(const std::vector<std::string> &formats) {
                                [&](std::string_view name) { return find(formats, name); });
 }
 
+bool isUrl(std::u16string_view text) {
+    constexpr std::u16string_view separator = u"://";
+    const auto end = std::ranges::find_if_not(text, isSchemeUnit);
+    const auto scheme = text.substr(0, static_cast<std::size_t>(end - text.begin()));
+    return !scheme.empty() && isSchemeLetter(scheme.front()) &&
+           text.substr(scheme.size()).starts_with(separator) &&
+           text.size() > scheme.size() + separator.size() &&
+           // All white space is in the basic plane.
+           std::ranges::none_of(text, [](char16_t unit) { return text::isWhiteSpace(unit); });
+}
+
 bool marksSecret(const std::vector<std::string> &formats) {
-    return find(formats, passwordManagerHint) != nullptr;
+    return std::ranges::any_of(formats, [](const std::string &format) {
+        return std::ranges::any_of(secretFormats,
+                                   [&](std::string_view name) { return isForeign(format, name); });
+    });
 }
 
 const std::string *secrecyFormat(const std::vector<std::string> &formats) {
@@ -58,28 +175,40 @@ bool saysSecret(std::string_view value) {
     return value.starts_with("sensitive");
 }
 
-const std::string *bestTextFormat(const std::vector<std::string> &formats) {
-    for (const auto name : textFormats) {
-        if (const auto *format = find(formats, name, true)) {
-            return format;
+std::vector<std::string> textFormats(const std::vector<std::string> &formats) {
+    std::vector<std::pair<int, std::string>> ranked;
+    for (const auto &format : formats) {
+        if (const auto rank = textRank(format)) {
+            ranked.emplace_back(*rank, format);
         }
     }
-    return nullptr;
+    std::ranges::stable_sort(ranked, {}, &std::pair<int, std::string>::first);
+    std::vector<std::string> readable;
+    std::ranges::transform(ranked, std::back_inserter(readable),
+                           &std::pair<int, std::string>::second);
+    return readable;
+}
+
+bool onlyPlainText(const std::vector<std::string> &formats) {
+    return std::ranges::all_of(
+        formats, [](const std::string &format) { return isPlainMime(format) || textRank(format); });
+}
+
+std::vector<std::string> readingOrder(std::vector<std::string> formats) {
+    std::ranges::stable_sort(formats, {}, readingRank);
+    return formats;
 }
 
 std::optional<std::u16string> decodeText(const PasteboardData &data) {
-    if (text::equalIgnoringAsciiCase(data.format, latin1Format)) {
-        std::u16string text(data.bytes->size(), u'\0');
-        std::ranges::transform(*data.bytes, text.begin(), [](char c) {
-            return static_cast<char16_t>(static_cast<unsigned char>(c));
-        });
-        return text;
+    auto encoding = encodingOf(data.type);
+    if (encoding.empty()) {
+        encoding = encodingOf(data.format);
+    }
+    if (!encoding.empty() && !isUtf8(encoding)) {
+        return text::decode(*data.bytes, encoding);
     }
     auto decoded = text::utf8ToUtf16(*data.bytes);
-    if (decoded.invalidAt) {
-        return std::nullopt;
-    }
-    return std::move(decoded.text);
+    return decoded.invalidAt ? std::nullopt : std::optional(std::move(decoded.text));
 }
 
 PasteboardContent plainTextContent(std::string utf8) {
@@ -87,12 +216,12 @@ PasteboardContent plainTextContent(std::string utf8) {
         std::ranges::all_of(utf8, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
     const auto bytes = std::make_shared<const std::string>(std::move(utf8));
     PasteboardContent content;
-    for (const auto name : textFormats) {
+    for (const auto name : ourFormats) {
         if (name != latin1Format || ascii) {
             content.push_back({std::string(name), {}, bytes});
         }
     }
-    content.push_back({"TEXT", "UTF8_STRING", bytes});
+    content.push_back({std::string(anyTextFormat), std::string(utf8Format), bytes});
     return content;
 }
 

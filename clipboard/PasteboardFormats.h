@@ -17,19 +17,26 @@ using platform::PasteboardData;
 
 // A link or files were copied, whatever text comes with them.
 bool offersUrl(const std::vector<std::string> &formats);
+// The text is an address and nothing else: "scheme://" and more, without white space. Browsers
+// offer a copied link in this way.
+bool isUrl(std::u16string_view text);
 
-// A password manager marked the content as a secret by the mere presence of a format.
+// The content was marked as a secret by the mere presence of a format.
 bool marksSecret(const std::vector<std::string> &formats);
 // The format, if offered, whose value tells whether the content is a secret; null otherwise.
 const std::string *secrecyFormat(const std::vector<std::string> &formats);
 // Whether that value says secret.
 bool saysSecret(std::string_view value);
 
-// The best plain-text format among `formats`, as it is spelt there; null if there is none.
-const std::string *bestTextFormat(const std::vector<std::string> &formats);
+// Those of `formats` in which the plain text can be read, best first, as they are spelt there.
+std::vector<std::string> textFormats(const std::vector<std::string> &formats);
+// Whether all of them are plain text, in an encoding that is known here or not.
+bool onlyPlainText(const std::vector<std::string> &formats);
+// The order in which they are worth reading: text and its like, other data, pictures.
+std::vector<std::string> readingOrder(std::vector<std::string> formats);
 
-// The text of plain-text `data`, as UTF-16. Nothing if the bytes are not in the encoding that the
-// format stands for.
+// The text of plain-text `data`, as UTF-16. The type that the owner has declared counts for more
+// than the format that it was asked for. Nothing if the bytes are not in that encoding.
 std::optional<std::u16string> decodeText(const PasteboardData &data);
 
 // Content that offers `utf8` in every common plain-text format and in no other.

@@ -2,17 +2,21 @@
 
 #include "clipboard/PasteboardFormats.h"
 #include "engine/Operations.h"
+#include "platform/SpreadsheetLinks.h"
+#include "text/Characters.h"
 #include "text/Utf.h"
 
 #include <algorithm>
 #include <cassert>
 #include <exception>
+#include <iterator>
 #include <vector>
 
 namespace nerlo::clipboard {
 
 using platform::PasteboardFormats;
 using platform::PasteboardRead;
+using platform::PasteboardRequest;
 using platform::PasteboardStatus;
 using platform::PasteboardWrite;
 
@@ -23,31 +27,80 @@ nrChangePasterboard *shared = nullptr;
 // What says whether content is a secret takes a few letters.
 constexpr std::size_t secrecyLimit = 256;
 
+// In a menu; a longer text is cut.
+constexpr std::size_t wordsLimit = 24;
+
+// The beginning of a text in one line.
+std::u16string firstWords(std::u16string_view text) {
+    std::u16string words;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto character = text::characterAt(text, at);
+        const auto size = text::sizeOf(character);
+        if (text::isWhiteSpace(character) || character < u' ') {
+            if (!words.empty() && words.back() != u' ') {
+                words += u' ';
+            }
+        } else if (words.size() + size > wordsLimit) {
+            return words + u'…';
+        } else {
+            words += text.substr(at, size);
+        }
+        at += size;
+    }
+    return words.substr(0, words.find_last_not_of(u' ') + 1);
+}
+
+std::size_t hashOf(std::u16string_view text) {
+    return std::hash<std::u16string_view>()(text);
+}
+
 } // namespace
 
-// One clean on its way from the clipboard to the worker thread.
-struct nrChangePasterboard::Clean {
-    std::shared_ptr<const engine::CleaningOptions> options;
-    std::optional<std::int32_t> operation; // none: the whole pipeline
-    PasteboardFormats offered{};
-    platform::PasteboardData text{};
-    std::shared_ptr<const platform::PasteboardContent> original{};
-    engine::CleaningReport report{};
+// One text on its way from the clipboard to the worker thread.
+struct nrChangePasterboard::Reading {
+    bool keepsOriginal = false;
+    std::string sparedLink{};
+    // The worker thread, with the text.
+    std::function<void(Reading &, std::u16string)> work{};
+    // The main thread, if there is no text to work on.
+    std::function<void()> nothing = [] {};
 
-    bool writes() const { return operation != engine::statisticsOperation; }
+    PasteboardFormats offered{};
+    bool ofOurs = false;              // the content is
+    std::vector<std::string> texts{}; // formats in which the text may still be found, best first
+    platform::PasteboardData text{};
+    std::shared_ptr<Kept> original{};
+    Restored whyNotKept = Restored::nothingKept;
 };
 
-nrChangePasterboard::nrChangePasterboard(platform::Pasteboard &pasteboard_,
-                                         platform::MainQueue &mainQueue_,
-                                         platform::WorkerQueue &workerQueue_, std::string locale_)
-    : pasteboard(pasteboard_)
-    , mainQueue(mainQueue_)
-    , workerQueue(workerQueue_)
-    , locale(std::move(locale_)) {
+struct nrChangePasterboard::Clean {
+    std::shared_ptr<const engine::CleaningOptions> options;
+    std::string locale;
+    std::optional<std::int32_t> operation; // none: the whole pipeline
+    std::optional<std::size_t> spared;     // hash of a plain text that is not cleaned
+    std::function<void(engine::TextStatistics, engine::CleaningReport)> show;
+    std::function<void(engine::CleaningReport)> tell;
+    std::function<void(platform::ChangeCount)> leave;
+    std::function<void(WriteBack)> write;
+
+    bool writes() const { return operation != engine::statisticsOperation; }
+    bool counts() const { return !writes() || (!operation && options->udStatistics); }
+    void run(Reading &reading, std::u16string text) const;
+};
+
+nrChangePasterboard::nrChangePasterboard(platform::Pasteboard &pasteboard,
+                                         platform::MainQueue &mainQueue,
+                                         platform::WorkerQueue &workerQueue, std::string locale)
+    : pasteboard_(pasteboard)
+    , mainQueue_(mainQueue)
+    , workerQueue_(workerQueue)
+    , locale_(std::move(locale)) {
     shared = this;
+    pasteboard_.setChangeHandler(alive_.guard([this] { clipboardChanged(); }));
 }
 
 nrChangePasterboard::~nrChangePasterboard() {
+    pasteboard_.setChangeHandler(nullptr);
     if (shared == this) {
         shared = nullptr;
     }
@@ -61,242 +114,365 @@ nrChangePasterboard &nrChangePasterboard::sharedInstance() {
 void nrChangePasterboard::setAllBools(const storage::PropertyDictionary &dictionary) {
     auto filled = std::make_shared<engine::CleaningOptions>();
     filled->setAllBools(dictionary);
-    options = std::move(filled);
+    options_ = std::move(filled);
 }
 
 void nrChangePasterboard::changePasteboard() {
-    start(std::nullopt);
+    start(std::nullopt, false, {});
+}
+
+void nrChangePasterboard::changePasteboard(std::string_view sparedLink) {
+    start(std::nullopt, true, sparedLink);
 }
 
 void nrChangePasterboard::changePasteboardWithKeys(std::int32_t index) {
-    start(index);
+    start(index, false, {});
 }
 
-void nrChangePasterboard::start(std::optional<std::int32_t> operation) {
-    auto clean = std::make_shared<Clean>(Clean{options, operation});
-    readHarmlessFormats([this, clean](std::optional<PasteboardFormats> offered) {
-        if (!offered || clipboard::offersUrl(offered->formats)) {
+void nrChangePasterboard::start(std::optional<std::int32_t> operation, bool automatic,
+                                std::string_view sparedLink) {
+    const Clean clean{
+        options_,
+        locale_,
+        operation,
+        automatic ? lastResult_ : std::nullopt,
+        onMain([this](const engine::TextStatistics &counts, const engine::CleaningReport &report) {
+            showCounts(counts, report);
+        }),
+        onMain([this](const engine::CleaningReport &report) {
+            if (reportHandler_) {
+                reportHandler_(report);
+            }
+        }),
+        onMain([this](platform::ChangeCount source) { leftAsItIs(source); }),
+        onMain([this](WriteBack result) { queueWriteBack(std::move(result)); })};
+    auto reading = std::make_shared<Reading>();
+    reading->keepsOriginal = clean.writes();
+    reading->sparedLink = sparedLink;
+    reading->work = [clean](Reading &source, std::u16string text) {
+        clean.run(source, std::move(text));
+    };
+    readContent(std::move(reading));
+}
+
+void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) const {
+    const bool plain = reading.offered.complete && onlyPlainText(reading.offered.formats);
+    if (plain && spared == hashOf(text)) {
+        return;
+    }
+    if (!plain) {
+        reading.text.bytes = nullptr; // the memory is wanted
+    }
+    engine::CleaningReport report;
+    const engine::CleaningContext context{.options = *options, .locale = locale, .report = &report};
+    if (reading.original) {
+        reading.original->firstWords = firstWords(text);
+    }
+    if (!operation) {
+        text = engine::runPipeline(std::move(text), context);
+    } else if (writes()) {
+        text = engine::runOperation(*operation, std::move(text), context);
+    }
+    if (writes()) {
+        tell(report);
+    }
+    if (counts()) {
+        show(engine::countAll(text, locale), report);
+    }
+    const auto source = reading.offered.changeCount;
+    if (!writes()) {
+        return;
+    }
+    // Nobody could tell the difference, but for the clipboard's owner, who keeps it.
+    if (plain && decodeText(reading.text) == text) {
+        leave(source);
+        return;
+    }
+    reading.text.bytes = nullptr;
+    write({source, reading.ofOurs,
+           Kept{plainTextContent(text::utf16ToUtf8(text)), true, firstWords(text)},
+           std::move(reading.original), reading.whyNotKept, hashOf(text)});
+}
+
+void nrChangePasterboard::readContent(std::shared_ptr<Reading> reading) {
+    readHarmlessFormats([this, reading](std::optional<PasteboardFormats> offered) {
+        if (!offered || offersUrl(offered->formats)) {
+            reading->nothing();
             return;
         }
-        clean->offered = std::move(*offered);
-        if (const auto *format = clipboard::bestTextFormat(clean->offered.formats)) {
-            readText(clean, *format);
+        if (!reading->sparedLink.empty() &&
+            platform::offersLink(offered->formats, reading->sparedLink)) {
+            // They may be the formats of a copy that came after the one that was announced.
+            if (listener_) {
+                listener_->addOneCount(offered->changeCount);
+            }
+            reading->nothing();
+            return;
         }
+        reading->texts = textFormats(offered->formats);
+        reading->ofOurs = offered->changeCount == ownCount_;
+        reading->offered = std::move(*offered);
+        readText(reading);
     });
 }
 
 void nrChangePasterboard::readHarmlessFormats(
     std::function<void(std::optional<PasteboardFormats>)> next) {
-    pasteboard.readFormats(whileAlive([this, next = std::move(next)](PasteboardFormats offered) {
+    pasteboard_.readFormats(alive_.guard([this, next = std::move(next)](PasteboardFormats offered) {
         if (offered.status != PasteboardStatus::done || offered.formats.empty() ||
-            clipboard::marksSecret(offered.formats)) {
+            marksSecret(offered.formats)) {
             next(std::nullopt);
             return;
         }
-        const auto *format = clipboard::secrecyFormat(offered.formats);
+        const auto *format = secrecyFormat(offered.formats);
         if (!format) {
             next(std::move(offered));
             return;
         }
+        const PasteboardRequest request{{*format}, secrecyLimit, {}, secrecyLimit};
         const auto count = offered.changeCount;
-        std::vector<std::string> wanted{*format};
-        pasteboard.read(count, std::move(wanted), secrecyLimit,
-                        whileAlive([next, offered = std::move(offered)](PasteboardRead state) {
-                            // What cannot be read may be a secret.
-                            const bool harmless = !state.content.empty() &&
-                                                  !clipboard::saysSecret(*state.content[0].bytes);
-                            next(harmless ? std::optional(offered) : std::nullopt);
-                        }));
+        pasteboard_.read(count, request,
+                         alive_.guard([next, offered = std::move(offered)](PasteboardRead state) {
+                             // What cannot be read may be a secret.
+                             const bool harmless =
+                                 !state.content.empty() && !saysSecret(*state.content[0].bytes);
+                             next(harmless ? std::optional(offered) : std::nullopt);
+                         }));
     }));
 }
 
-void nrChangePasterboard::readText(std::shared_ptr<Clean> clean, const std::string &format) {
-    pasteboard.read(clean->offered.changeCount, {format}, cleanedTextLimit,
-                    whileAlive([this, clean](PasteboardRead read) {
-                        if (read.content.empty() || read.content[0].bytes->empty()) {
-                            return;
-                        }
-                        clean->text = std::move(read.content[0]);
-                        const bool kept = clean->writes() &&
-                                          clean->offered.changeCount != ownCount &&
-                                          clean->text.bytes->size() <= originalLimit;
-                        if (kept) {
-                            readOriginal(clean);
-                        } else {
-                            runOnWorker(clean);
-                        }
-                    }));
+// With one question, for the text and for what `restore` needs: the other formats go when the text
+// is written back.
+void nrChangePasterboard::readText(std::shared_ptr<Reading> reading) {
+    if (reading->texts.empty()) {
+        reading->nothing();
+        return;
+    }
+    PasteboardRequest request{reading->texts, cleanedTextLimit, {}, originalLimit_};
+    if (reading->keepsOriginal && !reading->ofOurs && originalLimit_ > 0) {
+        request.others = readingOrder(reading->offered.formats);
+    }
+    pasteboard_.read(reading->offered.changeCount, std::move(request),
+                     alive_.guard([this, reading](PasteboardRead read) {
+                         textArrived(reading, std::move(read));
+                     }));
 }
 
-// The other formats go when the text is written back, so they are read before. What the owner does
-// not deliver in time is lost to `restore`, but does not keep the text from being cleaned.
-void nrChangePasterboard::readOriginal(std::shared_ptr<Clean> clean) {
-    auto others = clean->offered.formats;
-    std::erase(others, clean->text.format);
-    const auto left = originalLimit - clean->text.bytes->size();
-    pasteboard.read(clean->offered.changeCount, std::move(others), left,
-                    whileAlive([this, clean](PasteboardRead read) {
-                        if (read.status == PasteboardStatus::changed ||
-                            read.status == PasteboardStatus::unavailable) {
-                            return;
-                        }
-                        auto original = std::move(read.content);
-                        original.push_back(clean->text);
-                        const auto &order = clean->offered.formats;
-                        std::ranges::sort(original, {}, [&](const auto &data) {
-                            return std::ranges::find(order, data.format) - order.begin();
-                        });
-                        clean->original = std::make_shared<const platform::PasteboardContent>(
-                            std::move(original));
-                        runOnWorker(clean);
-                    }));
-}
-
-void nrChangePasterboard::runOnWorker(std::shared_ptr<Clean> clean) {
-    const auto show = whileAlive(
-        [this, clean](const engine::TextStatistics &counts) { showCounts(counts, clean->report); });
-    const auto tell = whileAlive([this](const engine::CleaningReport &report) {
-        if (reportHandler_) {
-            reportHandler_(report);
+void nrChangePasterboard::textArrived(const std::shared_ptr<Reading> &reading,
+                                      PasteboardRead read) {
+    if (read.content.empty()) {
+        if (read.tooLarge && tooLarge_) {
+            tooLarge_();
         }
+        reading->nothing();
+        return;
+    }
+    reading->text = read.content[0];
+    if (reading->keepsOriginal && !reading->ofOurs && originalLimit_ > 0) {
+        keepOriginal(*reading, read);
+    }
+    decodeOnWorker(reading);
+}
+
+// What the owner has not delivered is lost to `restore`, but does not keep the text from being
+// cleaned.
+void nrChangePasterboard::keepOriginal(Reading &reading, const PasteboardRead &read) const {
+    if (reading.text.bytes->size() > originalLimit_) {
+        reading.whyNotKept = Restored::tooLarge;
+        return;
+    }
+    const auto &order = reading.offered.formats;
+    reading.original = std::make_shared<Kept>();
+    reading.original->content = read.content;
+    std::ranges::sort(reading.original->content, {}, [&](const auto &data) {
+        return std::ranges::find(order, data.format) - order.begin();
     });
-    const auto write = whileAlive([this](WriteBack result) { queueWriteBack(std::move(result)); });
-    workerQueue.post([clean, show, tell, write, &queue = mainQueue, context_locale = locale] {
-        const auto post = [&queue](auto handler, auto value) {
-            queue.post(
-                [handler, value = std::move(value)]() mutable { handler(std::move(value)); });
-        };
+    reading.original->complete = reading.offered.complete && read.content.size() == order.size();
+}
+
+void nrChangePasterboard::decodeOnWorker(std::shared_ptr<Reading> reading) {
+    workerQueue_.post([reading, nothing = onMain([reading] { reading->nothing(); }),
+                       next = onMain([this, reading] {
+                           // Those before it were refused.
+                           auto &texts = reading->texts;
+                           const auto broken = std::ranges::find(texts, reading->text.format);
+                           texts.erase(texts.begin(), std::next(broken, broken != texts.end()));
+                           readText(reading);
+                       })] {
         try {
-            auto text = clipboard::decodeText(clean->text);
+            auto text = decodeText(reading->text);
             if (!text) {
-                return;
-            }
-            clean->text.bytes = nullptr;
-            const engine::CleaningContext context{
-                .options = *clean->options, .locale = context_locale, .report = &clean->report};
-            if (!clean->operation) {
-                text = engine::runPipeline(std::move(*text), context);
-            } else if (clean->writes()) {
-                text = engine::runOperation(*clean->operation, std::move(*text), context);
-            }
-            if (clean->writes()) {
-                post(tell, clean->report);
-            }
-            if (!clean->writes() || (!clean->operation && clean->options->udStatistics)) {
-                post(show, engine::countAll(*text, context.locale));
-            }
-            if (clean->writes()) {
-                auto content = clipboard::plainTextContent(text::utf16ToUtf8(*text));
-                post(write, WriteBack{clean->offered.changeCount, std::move(content),
-                                      std::move(clean->original)});
+                next();
+            } else if (isUrl(*text)) {
+                nothing();
+            } else {
+                reading->work(*reading, std::move(*text));
             }
         } catch (const std::exception &) {
-            // Out of memory, in practice. The clipboard stays as it is.
+            nothing(); // out of memory, in practice; the clipboard stays as it is
         }
     });
 }
 
 void nrChangePasterboard::newCountWindow(std::u16string text) {
-    const auto show =
-        whileAlive([this](const engine::TextStatistics &counts) { showCounts(counts, {}); });
-    workerQueue.post([show, text = std::move(text), &queue = mainQueue, counted_locale = locale] {
-        queue.post([show, counts = engine::countAll(text, counted_locale)] { show(counts); });
-    });
+    workerQueue_.post([text = std::move(text), locale = locale_,
+                       show = onMain([this](const engine::TextStatistics &counts) {
+                           showCounts(counts, {});
+                       })] { show(engine::countAll(text, locale)); });
 }
 
 void nrChangePasterboard::showCounts(const engine::TextStatistics &counts,
                                      const engine::CleaningReport &report) {
-    countController = nullptr;
-    if (!makeCountWindow) {
+    countController_ = nullptr;
+    if (!makeCountWindow_) {
         return;
     }
-    countController = makeCountWindow();
-    countController->countToTextFields(engine::integerToString(counts.characters, locale),
-                                       engine::integerToString(counts.spaces, locale),
-                                       engine::integerToString(counts.words, locale),
-                                       engine::integerToString(counts.paragraphs, locale));
+    countController_ = makeCountWindow_();
+    countController_->countToTextFields(engine::integerToString(counts.characters, locale_),
+                                        engine::integerToString(counts.spaces, locale_),
+                                        engine::integerToString(counts.words, locale_),
+                                        engine::integerToString(counts.paragraphs, locale_));
     if (!report.empty()) {
-        countController->tellReport(report);
+        countController_->tellReport(report);
     }
-    countController->showWindow();
+    countController_->showWindow();
 }
 
 void nrChangePasterboard::readClipboardText(
     std::function<void(std::optional<std::u16string>)> handler) {
-    readHarmlessFormats([this, handler = std::move(handler)](
-                            const std::optional<PasteboardFormats> &offered) {
-        const auto *format = offered && !clipboard::offersUrl(offered->formats)
-                                 ? clipboard::bestTextFormat(offered->formats)
-                                 : nullptr;
-        if (!format) {
-            handler(std::nullopt);
-            return;
-        }
-        pasteboard.read(offered->changeCount, {*format}, cleanedTextLimit,
-                        whileAlive([handler](const PasteboardRead &read) {
-                            handler(read.content.empty() ? std::nullopt
-                                                         : clipboard::decodeText(read.content[0]));
-                        }));
-    });
+    auto reading = std::make_shared<Reading>();
+    reading->nothing = [handler] { handler(std::nullopt); };
+    reading->work = [show = onMain(std::move(handler))](Reading &, std::u16string text) {
+        show(std::optional(std::move(text)));
+    };
+    readContent(std::move(reading));
+}
+
+// A clean that has nothing to write is over all the same.
+void nrChangePasterboard::leftAsItIs(platform::ChangeCount source) {
+    if (listener_ && pasteboard_.changeCount() == source) {
+        listener_->addOneCount(source);
+    }
+    if (cleaned_) {
+        cleaned_();
+    }
 }
 
 void nrChangePasterboard::queueWriteBack(WriteBack writeBack) {
-    writeBacks.push_back(std::move(writeBack));
-    if (writeBacks.size() == 1) {
+    writeBacks_.push_back(std::move(writeBack));
+    if (writeBacks_.size() == 1) {
         startNextWrite();
     }
 }
 
 void nrChangePasterboard::startNextWrite() {
-    const auto &next = writeBacks.front();
-    const auto replaced = ownSource == next.source ? ownCount : next.source;
-    pasteboard.write(next.content, replaced, whileAlive([this](PasteboardWrite result) {
-                         auto written = std::move(writeBacks.front());
-                         writeBacks.pop_front();
-                         if (result.status == PasteboardStatus::done) {
-                             if (written.source != ownCount) {
-                                 lastOriginal = std::move(written.original);
-                             }
-                             ownSource = written.source;
-                             ownCount = result.changeCount;
-                             if (writeListener) {
-                                 writeListener->addOneCount(result.changeCount);
-                             }
-                             if (cleanedHandler) {
-                                 cleanedHandler();
-                             }
-                         }
-                         if (!writeBacks.empty()) {
-                             startNextWrite();
-                         }
-                     }));
+    const auto &next = writeBacks_.front();
+    const auto replaced = ownSource_ == next.source ? ownCount_ : next.source;
+    pasteboard_.write(next.cleaned.content, replaced,
+                      alive_.guard([this](const PasteboardWrite &result) {
+                          auto ended = std::move(writeBacks_.front());
+                          writeBacks_.pop_front();
+                          if (result.status == PasteboardStatus::done) {
+                              written(std::move(ended), result.changeCount);
+                          }
+                          if (!writeBacks_.empty()) {
+                              startNextWrite();
+                          }
+                          clipboardChanged();
+                      }));
+}
+
+void nrChangePasterboard::written(WriteBack writeBack, platform::ChangeCount count) {
+    if (!writeBack.ofOurs) {
+        original_ = std::move(writeBack.original);
+        whyNot_ = writeBack.whyNotKept;
+    }
+    result_ = std::make_shared<const Kept>(std::move(writeBack.cleaned));
+    originalShown_ = false;
+    lastResult_ = writeBack.hash;
+    ownSource_ = writeBack.source;
+    ownCount_ = count;
+    if (listener_) {
+        listener_->addOneCount(count);
+    }
+    tellRestorable();
+    if (cleaned_) {
+        cleaned_();
+    }
+}
+
+// What a newer copy has replaced cannot come back, so its memory is given back too.
+void nrChangePasterboard::clipboardChanged() {
+    if (writing()) {
+        return; // the end of the write comes here again
+    }
+    if (ownCount_ && pasteboard_.changeCount() != *ownCount_ && (original_ || result_)) {
+        original_ = nullptr;
+        result_ = nullptr;
+        tellRestorable();
+    }
+    if (listener_) {
+        listener_->clipboardChanged();
+    }
+}
+
+void nrChangePasterboard::tellRestorable() const {
+    if (restorableChanged_) {
+        restorableChanged_();
+    }
+}
+
+const nrChangePasterboard::Kept *nrChangePasterboard::otherSide() const {
+    return originalShown_ ? result_.get() : original_.get();
+}
+
+nrChangePasterboard::Restored nrChangePasterboard::restorable() const {
+    if (!ownCount_) {
+        return Restored::nothingKept;
+    }
+    if (pasteboard_.changeCount() != *ownCount_) {
+        return Restored::newerCopy;
+    }
+    const auto *other = otherSide();
+    return !other ? whyNot_ : other->complete ? Restored::done : Restored::incomplete;
+}
+
+std::u16string nrChangePasterboard::restorableWords() const {
+    const auto outcome = restorable();
+    const bool restores = outcome == Restored::done || outcome == Restored::incomplete;
+    return restores ? otherSide()->firstWords : std::u16string();
 }
 
 void nrChangePasterboard::restore(std::function<void(Restored)> handler) {
-    if (!lastOriginal) {
-        handler(Restored::nothingKept);
+    const auto outcome = restorable();
+    if (outcome != Restored::done && outcome != Restored::incomplete) {
+        handler(outcome);
         return;
     }
-    readHarmlessFormats([this, handler = std::move(handler),
-                         original = lastOriginal](std::optional<PasteboardFormats> offered) {
-        if (!offered) {
-            handler(Restored::refused);
-            return;
+    restoring_ = true;
+    pasteboard_.write(
+        otherSide()->content, ownCount_,
+        alive_.guard([this, outcome, handler = std::move(handler)](const PasteboardWrite &result) {
+            restored(result, outcome, handler);
+        }));
+}
+
+void nrChangePasterboard::restored(const PasteboardWrite &result, Restored outcome,
+                                   const std::function<void(Restored)> &handler) {
+    restoring_ = false;
+    if (result.status == PasteboardStatus::done) {
+        originalShown_ = !originalShown_;
+        ownSource_ = std::nullopt;
+        ownCount_ = result.changeCount;
+        if (listener_) {
+            listener_->addOneCount(result.changeCount);
         }
-        pasteboard.write(*original, offered->changeCount,
-                         whileAlive([this, handler](PasteboardWrite result) {
-                             if (result.status != PasteboardStatus::done) {
-                                 handler(Restored::refused);
-                                 return;
-                             }
-                             ownSource = std::nullopt;
-                             ownCount = result.changeCount;
-                             if (writeListener) {
-                                 writeListener->addOneCount(result.changeCount);
-                             }
-                             handler(Restored::done);
-                         }));
-    });
+        tellRestorable();
+    }
+    handler(result.status == PasteboardStatus::done      ? outcome
+            : result.status == PasteboardStatus::changed ? Restored::newerCopy
+                                                         : Restored::failed);
+    clipboardChanged();
 }
 
 } // namespace nerlo::clipboard

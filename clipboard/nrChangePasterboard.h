@@ -1,10 +1,11 @@
 // Cleans what is on the clipboard: reads its plain text, rewrites it on a worker thread with the
 // options of the moment, and puts the result back as plain text only.
 //
-// Left alone are links, files, secrets, content without plain text, and an empty clipboard; that is
-// told from the offered formats, before any text is read. A result never replaces a copy that is
-// newer than the text it was made from. Nothing here reports a failure: what cannot be cleaned
-// stays as it is.
+// Left alone are links, files, secrets, content without plain text, and an empty clipboard. Most of
+// that is told from the offered formats, before any text is read. A result never replaces a copy
+// that is newer than the text it was made from, and what would stay exactly as it is is not
+// written. Nothing here reports a failure, but for what the handlers below are told: what cannot be
+// cleaned stays as it is.
 //
 // All functions are called on the main thread. The main queue and the worker queue must outlive the
 // engine, and the worker queue must end before the main queue does.
@@ -13,6 +14,7 @@
 #include "engine/CleaningOptions.h"
 #include "engine/CleaningReport.h"
 #include "engine/Statistics.h"
+#include "platform/Alive.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 #include "platform/WorkerQueue.h"
@@ -24,16 +26,19 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace nerlo::clipboard {
 
-// Learns that a write of ours reached the clipboard, so that it is not taken for a copy.
-class WriteListener {
+// Learns what becomes of the clipboard. Main thread.
+class ClipboardListener {
   public:
-    virtual ~WriteListener() = default;
-    // `written` is the count that the write gave the clipboard. Main thread.
+    virtual ~ClipboardListener() = default;
+    // The content with this count is ours, or has been dealt with: it is no copy to be cleaned.
     virtual void addOneCount(platform::ChangeCount written) = 0;
+    // The change count may have moved. Not called while a write of ours is under way.
+    virtual void clipboardChanged() {}
 };
 
 // The statistics popup.
@@ -66,15 +71,21 @@ class nrChangePasterboard {
     static nrChangePasterboard &sharedInstance();
 
     // Not owned; null for none.
-    void setWriteListener(WriteListener *listener) { writeListener = listener; }
+    void setListener(ClipboardListener *listener) { listener_ = listener; }
     // In bytes, for the originals from now on. With 0 none is kept.
-    void keepOriginalsUpTo(std::size_t limit) { originalLimit = limit; }
+    void keepOriginalsUpTo(std::size_t limit) { originalLimit_ = limit; }
     // Makes a popup for each showing; without it there is none.
     using CountWindowMaker = std::function<std::unique_ptr<CountWindow>()>;
-    void setCountWindowMaker(CountWindowMaker maker) { makeCountWindow = std::move(maker); }
+    void setCountWindowMaker(CountWindowMaker maker) { makeCountWindow_ = std::move(maker); }
 
-    // Runs after each clean whose result reached the clipboard.
-    void setCleanedHandler(std::function<void()> cleaned) { cleanedHandler = std::move(cleaned); }
+    // Runs after each clean whose result is on the clipboard.
+    void setCleanedHandler(std::function<void()> cleaned) { cleaned_ = std::move(cleaned); }
+    // Runs when a text is left alone because it is larger than `cleanedTextLimit`.
+    void setTooLargeHandler(std::function<void()> tooLarge) { tooLarge_ = std::move(tooLarge); }
+    // Runs when `restorable` or `restorableWords` may have changed.
+    void setRestorableHandler(std::function<void()> changed) {
+        restorableChanged_ = std::move(changed);
+    }
 
     // Runs after each clean, with the patterns that could not be used; mostly there is none.
     using ReportHandler = std::function<void(const engine::CleaningReport &)>;
@@ -82,14 +93,21 @@ class nrChangePasterboard {
 
     // Replaces the snapshot. A clean under way keeps the one that it started with.
     void setAllBools(const storage::PropertyDictionary &dictionary);
-    std::shared_ptr<const engine::CleaningOptions> snapshot() const { return options; }
+    std::shared_ptr<const engine::CleaningOptions> snapshot() const { return options_; }
 
     // Every operation that is switched on, on the current content.
     void changePasteboard();
+    // The same for a copy, which nobody has asked for: content with link data of the type
+    // `sparedLink` (see SpreadsheetLinks; empty for none) is left alone, and so is plain text that
+    // equals our last result. Two programs that clean each other's results come to rest by this.
+    void changePasteboard(std::string_view sparedLink);
     // The one operation with this index, switched on or not; an index outside the table leaves the
     // text as it is, which still is put back as plain text only. The index of the statistics shows
     // the popup and writes nothing.
     void changePasteboardWithKeys(std::int32_t index);
+
+    // Whether a write of ours is under way, whose count could be taken for another program's.
+    bool writing() const { return !writeBacks_.empty() || restoring_; }
 
     // Shows the popup with the counts of `text`, in place of the one that is shown.
     void newCountWindow(std::u16string text);
@@ -99,65 +117,95 @@ class nrChangePasterboard {
 
     enum class Restored {
         done,
-        nothingKept, // there was no clean, or the original was too large
-        refused,     // the clipboard is empty by now, or holds a secret
+        incomplete,  // done, but some formats of the original had not been read in time, or at all
+        nothingKept, // there was no clean, or it has kept nothing
+        tooLarge,    // the original was too large to be kept
+        newerCopy,   // the clipboard does not hold our result any more
+        failed,      // the desktop did not take it
     };
-    // Puts the last original back: all formats that stood on the clipboard before the last clean of
-    // content that was not ours. The restored content counts as ours.
+    // Swaps our last result for the original, with all formats that stood on the clipboard before
+    // the last clean of content that was not ours; and back again, the next time. Both count as
+    // ours. Only while the clipboard holds what we wrote last.
     void restore(std::function<void(Restored)> handler);
+    // What that would come to now.
+    Restored restorable() const;
+    // The beginning of the text that it would put back, in one line, for a menu; empty if it would
+    // put none back. UTF-16.
+    std::u16string restorableWords() const;
 
   private:
-    struct Clean;
+    struct Reading;
+    // One side of a swap.
+    struct Kept {
+        platform::PasteboardContent content;
+        bool complete = true;
+        std::u16string firstWords;
+    };
     struct WriteBack {
         platform::ChangeCount source; // of the content that the text came from
-        platform::PasteboardContent content;
-        std::shared_ptr<const platform::PasteboardContent> original; // null if it is not to be kept
+        bool ofOurs;                  // that was our own, and keeps its original
+        Kept cleaned;
+        std::shared_ptr<Kept> original; // null if it is not kept
+        Restored whyNotKept;
+        std::size_t hash; // of the result
     };
+    struct Clean;
 
-    void start(std::optional<std::int32_t> operation);
+    void start(std::optional<std::int32_t> operation, bool automatic, std::string_view sparedLink);
+    void readContent(std::shared_ptr<Reading> reading);
+    void readText(std::shared_ptr<Reading> reading);
+    void textArrived(const std::shared_ptr<Reading> &reading, platform::PasteboardRead read);
+    void keepOriginal(Reading &reading, const platform::PasteboardRead &read) const;
+    void decodeOnWorker(std::shared_ptr<Reading> reading);
     // Hands the formats on, or nothing if the clipboard is empty, unreadable or holds a secret.
     void readHarmlessFormats(std::function<void(std::optional<platform::PasteboardFormats>)> next);
-    void readText(std::shared_ptr<Clean> clean, const std::string &format);
-    void readOriginal(std::shared_ptr<Clean> clean);
-    void runOnWorker(std::shared_ptr<Clean> clean);
     void showCounts(const engine::TextStatistics &counts, const engine::CleaningReport &report);
+    void leftAsItIs(platform::ChangeCount source);
     void queueWriteBack(WriteBack writeBack);
     void startNextWrite();
+    void written(WriteBack writeBack, platform::ChangeCount count);
+    void restored(const platform::PasteboardWrite &result, Restored outcome,
+                  const std::function<void(Restored)> &handler);
+    void clipboardChanged();
+    void tellRestorable() const;
+    const Kept *otherSide() const;
 
-    // A handler that does nothing once the engine is gone.
+    // Carries a value from the worker thread to a function that runs here, if it still can.
     template <class Function>
-    auto whileAlive(Function function) {
-        return [function = std::move(function),
-                alive = std::weak_ptr<const bool>(alive_)]<class... Arguments>(
-                   Arguments &&...arguments) {
-            if (!alive.expired()) {
-                function(std::forward<Arguments>(arguments)...);
-            }
-        };
+    auto onMain(Function function) {
+        return alive_.guardOn(mainQueue_, std::move(function));
     }
 
-    platform::Pasteboard &pasteboard;
-    platform::MainQueue &mainQueue;
-    platform::WorkerQueue &workerQueue;
-    const std::string locale;
-    WriteListener *writeListener = nullptr;
-    std::function<void()> cleanedHandler;
-    CountWindowMaker makeCountWindow;
+    platform::Pasteboard &pasteboard_;
+    platform::MainQueue &mainQueue_;
+    platform::WorkerQueue &workerQueue_;
+    const std::string locale_;
+    ClipboardListener *listener_ = nullptr;
+    std::function<void()> cleaned_;
+    std::function<void()> tooLarge_;
+    std::function<void()> restorableChanged_;
+    CountWindowMaker makeCountWindow_;
     ReportHandler reportHandler_;
-    std::unique_ptr<CountWindow> countController;
-    std::size_t originalLimit = keptOriginalLimit;
-    std::shared_ptr<const engine::CleaningOptions> options =
+    std::unique_ptr<CountWindow> countController_;
+    std::size_t originalLimit_ = keptOriginalLimit;
+    std::shared_ptr<const engine::CleaningOptions> options_ =
         std::make_shared<engine::CleaningOptions>();
 
-    std::deque<WriteBack>
-        writeBacks; // in the order in which the cleans ended; the first is written
+    // In the order in which the cleans ended; the first is being written.
+    std::deque<WriteBack> writeBacks_;
+    bool restoring_ = false;
     // Our last write: its count, and the content that it replaced. A slower clean of that same
     // content may replace our write, but no other program's.
-    std::optional<platform::ChangeCount> ownCount;
-    std::optional<platform::ChangeCount> ownSource;
-    std::shared_ptr<const platform::PasteboardContent> lastOriginal;
+    std::optional<platform::ChangeCount> ownCount_;
+    std::optional<platform::ChangeCount> ownSource_;
+    std::optional<std::size_t> lastResult_; // a hash; it outlives the content
+    // The sides of the swap, as long as the clipboard holds one of them.
+    std::shared_ptr<const Kept> original_;
+    std::shared_ptr<const Kept> result_;
+    bool originalShown_ = false;
+    Restored whyNot_ = Restored::nothingKept;
 
-    std::shared_ptr<const bool> alive_ = std::make_shared<bool>(true);
+    platform::Alive alive_;
 };
 
 } // namespace nerlo::clipboard

@@ -25,25 +25,25 @@ nrPasteboardWatcher *shared = nullptr;
 
 } // namespace
 
-nrPasteboardWatcher::nrPasteboardWatcher(platform::Pasteboard &pasteboard_,
-                                         platform::MainQueue &mainQueue_,
-                                         platform::ActiveApplication &activeApplication_,
-                                         clipboard::nrChangePasterboard &engine_)
-    : pasteboard(pasteboard_)
-    , mainQueue(mainQueue_)
-    , activeApplication(activeApplication_)
-    , engine(engine_)
-    , changeCount(pasteboard_.changeCount()) {
-    engine.setWriteListener(this);
+nrPasteboardWatcher::nrPasteboardWatcher(platform::Pasteboard &pasteboard,
+                                         platform::MainQueue &mainQueue,
+                                         platform::ActiveApplication &activeApplication,
+                                         nrChangePasterboard &engine)
+    : pasteboard_(pasteboard)
+    , mainQueue_(mainQueue)
+    , activeApplication_(activeApplication)
+    , engine_(engine)
+    , changeCount_(pasteboard.changeCount()) {
+    engine_.setListener(this);
     shared = this;
 }
 
 nrPasteboardWatcher::~nrPasteboardWatcher() {
     stop();
-    if (disableAppsState) {
+    if (disableAppsState_) {
         stopEngine();
     }
-    engine.setWriteListener(nullptr);
+    engine_.setListener(nullptr);
     if (shared == this) {
         shared = nullptr;
     }
@@ -61,38 +61,34 @@ std::int64_t nrPasteboardWatcher::checkVersion(double toolkitVersion) {
 
 void nrPasteboardWatcher::start() {
     stop();
-    started = mainQueue.now();
-    if (pasteboard.notifiesChanges()) {
-        pasteboard.setChangeHandler([this] { scheduleNextTick(); });
-    }
+    started_ = mainQueue_.now();
     scheduleNextTick();
 }
 
 void nrPasteboardWatcher::stop() {
-    if (!started) {
+    if (!started_) {
         return;
     }
-    started.reset();
-    pasteboard.setChangeHandler(nullptr);
-    mainQueue.cancel(std::exchange(timer, 0));
+    started_.reset();
+    mainQueue_.cancel(std::exchange(timer_, 0));
 }
 
 void nrPasteboardWatcher::scheduleNextTick() {
-    const bool polls = !pasteboard.notifiesChanges();
-    if (!started || timer != 0 || (!polls && pasteboard.changeCount() == changeCount)) {
+    const bool polls = !pasteboard_.notifiesChanges();
+    if (!started_ || timer_ != 0 || (!polls && pasteboard_.changeCount() == changeCount_)) {
         return;
     }
     // The first tick that lies ahead: one that is missed, in a computer's sleep, is not made up
     // for.
-    const auto now = mainQueue.now();
-    auto due = *started + firstTickAfter;
+    const auto now = mainQueue_.now();
+    auto due = *started_ + firstTickAfter;
     if (due <= now) {
         due += ((now - due) / tickInterval + 1) * tickInterval;
     }
-    timer = mainQueue.postAfter(
+    timer_ = mainQueue_.postAfter(
         due - now,
         [this] {
-            timer = 0;
+            timer_ = 0;
             update();
             scheduleNextTick();
         },
@@ -102,55 +98,44 @@ void nrPasteboardWatcher::scheduleNextTick() {
 void nrPasteboardWatcher::update() {
     // The count is kept as it was seen here: a copy that comes while this one is being looked at is
     // a new one.
-    const auto count = pasteboard.changeCount();
-    if (count == changeCount) {
+    const auto count = pasteboard_.changeCount();
+    // The end of a write of ours comes to clipboardChanged().
+    if (count == changeCount_ || engine_.writing()) {
         return;
     }
-    changeCount = count;
-    if (const auto linkType = sparedLinkType(); !linkType.empty()) {
-        cleanUnlessLink(count, linkType);
-    } else {
-        engine.changePasteboard();
-    }
+    changeCount_ = count;
+    engine_.changePasteboard(sparedLinkType());
 }
 
 std::string_view nrPasteboardWatcher::sparedLinkType() const {
-    if (!disableAppsState || !currentAppBundle) {
+    if (!disableAppsState_ || !currentAppBundle_) {
         return {};
     }
     const auto links = platform::spreadsheetLinks();
     const auto link = std::ranges::find_if(links, [&](const platform::SpreadsheetLink &row) {
-        return text::equalIgnoringAsciiCase(row.identifier, *currentAppBundle);
+        return text::equalIgnoringAsciiCase(row.identifier, *currentAppBundle_);
     });
     return link == links.end() ? std::string_view() : link->type;
 }
 
-void nrPasteboardWatcher::cleanUnlessLink(platform::ChangeCount count, std::string_view linkType) {
-    pasteboard.readFormats([this, count, linkType, still = std::weak_ptr(alive)](
-                               const platform::PasteboardFormats &offered) {
-        if (still.expired() || offered.status != platform::PasteboardStatus::done) {
-            return;
-        }
-        // The formats may be those of a copy that came after the tick.
-        if (changeCount == count) {
-            changeCount = offered.changeCount;
-        }
-        if (!platform::offersLink(offered.formats, linkType)) {
-            engine.changePasteboard();
-        }
-    });
-}
-
 void nrPasteboardWatcher::addOneCount(platform::ChangeCount written) {
-    changeCount = written;
+    changeCount_ = written;
 }
 
 void nrPasteboardWatcher::addOneCount() {
-    changeCount = pasteboard.changeCount();
+    changeCount_ = pasteboard_.changeCount();
+}
+
+void nrPasteboardWatcher::clipboardChanged() {
+    if (atOnce_ && running()) {
+        update();
+    } else {
+        scheduleNextTick();
+    }
 }
 
 void nrPasteboardWatcher::toggleEngine(bool on) {
-    disableAppsState = on;
+    disableAppsState_ = on;
     if (on) {
         startEngine();
     } else {
@@ -159,24 +144,24 @@ void nrPasteboardWatcher::toggleEngine(bool on) {
 }
 
 void nrPasteboardWatcher::startEngine() {
-    if (currentAppBundle) {
+    if (currentAppBundle_) {
         return;
     }
-    activeApplication.setActivatedHandler(
+    activeApplication_.setActivatedHandler(
         [this](std::string identifier) { appActivated(std::move(identifier)); });
     addOneCount();
 }
 
 void nrPasteboardWatcher::stopEngine() {
-    activeApplication.setActivatedHandler(nullptr);
-    currentAppBundle.reset();
+    activeApplication_.setActivatedHandler(nullptr);
+    currentAppBundle_.reset();
 }
 
 void nrPasteboardWatcher::appActivated(std::string identifier) {
     if (identifier.empty()) {
-        currentAppBundle.reset();
+        currentAppBundle_.reset();
     } else {
-        currentAppBundle = std::move(identifier);
+        currentAppBundle_ = std::move(identifier);
     }
 }
 

@@ -3,7 +3,8 @@
 //
 // The change count is looked at in ticks on the main queue, the first 2.0 seconds after the start
 // and one every 0.5 seconds after that. Where the clipboard announces its changes, only those ticks
-// are scheduled in which something can have changed: an idle desktop is not woken.
+// are scheduled in which something can have changed: an idle desktop is not woken. There a copy may
+// also be cleaned at once, without waiting for a tick.
 //
 // All functions are called on the main thread.
 #pragma once
@@ -15,20 +16,19 @@
 
 #include <chrono>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace nerlo::clipboard {
 
-class nrPasteboardWatcher final : public clipboard::WriteListener {
+class nrPasteboardWatcher final : public ClipboardListener {
   public:
     // What is on the clipboard now is never cleaned automatically. The engine is told to report its
     // writes here.
     nrPasteboardWatcher(platform::Pasteboard &pasteboard, platform::MainQueue &mainQueue,
                         platform::ActiveApplication &activeApplication,
-                        clipboard::nrChangePasterboard &engine);
+                        nrChangePasterboard &engine);
     ~nrPasteboardWatcher() override;
     nrPasteboardWatcher(const nrPasteboardWatcher &) = delete;
     nrPasteboardWatcher &operator=(const nrPasteboardWatcher &) = delete;
@@ -44,13 +44,16 @@ class nrPasteboardWatcher final : public clipboard::WriteListener {
     void start();
     // Nothing happens if it does not run. A read under way still ends.
     void stop();
-    bool running() const { return started.has_value(); }
+    bool running() const { return started_.has_value(); }
+    // Whether copies are cleaned at once; off at first.
+    void setAtOnce(bool on) { atOnce_ = on; }
 
     // One tick.
     void update();
 
     // Takes the content with this count for handled, and nothing newer.
     void addOneCount(platform::ChangeCount written) override;
+    void clipboardChanged() override;
     // Takes what is on the clipboard now for handled.
     void addOneCount();
 
@@ -64,20 +67,18 @@ class nrPasteboardWatcher final : public clipboard::WriteListener {
     void scheduleNextTick();
     // The type of link data that is spared in the application in front; empty for none.
     std::string_view sparedLinkType() const;
-    void cleanUnlessLink(platform::ChangeCount count, std::string_view linkType);
 
-    platform::Pasteboard &pasteboard;
-    platform::MainQueue &mainQueue;
-    platform::ActiveApplication &activeApplication;
-    clipboard::nrChangePasterboard &engine;
+    platform::Pasteboard &pasteboard_;
+    platform::MainQueue &mainQueue_;
+    platform::ActiveApplication &activeApplication_;
+    nrChangePasterboard &engine_;
 
-    platform::ChangeCount changeCount; // last accepted as handled
-    std::optional<platform::MainQueue::Clock::time_point> started;
-    platform::MainQueue::TaskId timer = 0; // 0: no tick is scheduled
-    std::optional<std::string> currentAppBundle;
-    bool disableAppsState = false;
-
-    std::shared_ptr<const bool> alive = std::make_shared<bool>(true);
+    platform::ChangeCount changeCount_; // last accepted as handled
+    std::optional<platform::MainQueue::Clock::time_point> started_;
+    platform::MainQueue::TaskId timer_ = 0; // 0: no tick is scheduled
+    bool atOnce_ = false;
+    std::optional<std::string> currentAppBundle_;
+    bool disableAppsState_ = false;
 };
 
 } // namespace nerlo::clipboard

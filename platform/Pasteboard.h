@@ -25,15 +25,16 @@ namespace nerlo::platform {
 // content went with its owner. Compared for equality only.
 using ChangeCount = std::int64_t;
 
-// A read is given up when nothing arrives for this long,
+// The wait for the first format of a read is given up when nothing arrives for this long,
 inline constexpr std::chrono::milliseconds pasteboardStallLimit{2000};
 // or when it takes this long altogether, however busy the owner looks.
 inline constexpr std::chrono::milliseconds pasteboardReadLimit{15000};
+// All the others have this long together: a spreadsheet may need many seconds for its pictures.
+inline constexpr std::chrono::milliseconds pasteboardOthersLimit{1000};
 inline constexpr std::chrono::milliseconds pasteboardHandOverLimit{2000};
-// More formats than this, or longer names (in bytes), are nonsense; the rest of the list is
-// ignored.
+// More formats than this, or longer names (in bytes), are nonsense; they are left off the list.
 inline constexpr std::size_t pasteboardFormatLimit = 256;
-inline constexpr std::size_t pasteboardFormatNameLimit = 255;
+inline constexpr std::size_t pasteboardFormatNameLimit = 1024;
 
 // One format of the content, with its bytes.
 struct PasteboardData {
@@ -58,14 +59,29 @@ struct PasteboardFormats {
     PasteboardStatus status = PasteboardStatus::unavailable;
     ChangeCount changeCount = 0;      // of the content that offers the formats
     std::vector<std::string> formats; // empty: the clipboard is empty
+    bool complete = true;             // false: some that are offered are left off the list
+};
+
+// What is wanted of the content: one of several formats, and then more of them.
+struct PasteboardRequest {
+    // The first of these of which the owner delivers at least one byte. If it delivers none of
+    // them, nothing else is asked for; an empty list asks for `others` alone.
+    std::vector<std::string> firstOf;
+    std::size_t firstLimit = 0; // bytes; a larger format counts as not delivered
+    // Then all of these, a few of them at a time: one that is refused, late or too large keeps no
+    // other from being read.
+    std::vector<std::string> others;
+    // Bytes of everything together. A format that does not fit is left out, and where the first
+    // alone is larger, the others are not asked for.
+    std::size_t limit = 0;
 };
 
 struct PasteboardRead {
     PasteboardStatus status = PasteboardStatus::unavailable;
-    // What has arrived, in the order in which it was asked for. With status `done` a format is
-    // missing because the owner refused it or because it was too large; with `timedOut` also
-    // because the owner was given up before; with `changed` and `unavailable` there is nothing.
+    // With `done` and `timedOut` what has arrived: the one of `firstOf`, then the others in the
+    // order in which they were asked for. With `timedOut` the owner was given up at `firstOf`.
     PasteboardContent content;
+    bool tooLarge = false; // something was left out for its size
 };
 
 struct PasteboardWrite {
@@ -97,11 +113,9 @@ class Pasteboard {
     // the content (TARGETS, TIMESTAMP, SAVE_TARGETS and their like) are not among them.
     virtual void readFormats(FormatsHandler handler) = 0;
 
-    // The bytes of `formats`, one after the other, as long as the clipboard still holds the content
-    // that had the count `of`. A format that would bring the sum above `limit` bytes is left out,
-    // without more than `limit` bytes ever being kept.
-    virtual void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-                      ReadHandler handler) = 0;
+    // The bytes that `request` asks for, as long as the clipboard still holds the content that had
+    // the count `of`. No more than the limits allow is ever kept.
+    virtual void read(ChangeCount of, PasteboardRequest request, ReadHandler handler) = 0;
 
     // Replaces the content. With `onlyOver`, only if the clipboard still holds the content that had
     // that count; else the status is `changed` and nothing is written. On Wayland a copy that

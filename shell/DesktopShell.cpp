@@ -394,8 +394,11 @@ void DesktopShell::restore() {
         using Restored = clipboard::nrChangePasterboard::Restored;
         if (outcome != Restored::done) {
             runAlert({Alert::Style::informational,
-                      localized(outcome == Restored::nothingKept ? "sRestoreNothing"
-                                                                 : "sRestoreRefused"),
+                      outcome == Restored::incomplete    ? localized("sRestoreIncomplete")
+                      : outcome == Restored::nothingKept ? localized("sRestoreNothing")
+                      : outcome == Restored::tooLarge
+                          ? localized("sRestoreTooLarge").arg(clipboard::keptOriginalLimit >> 20)
+                          : localized("sRestoreRefused"),
                       {},
                       {localized("OK")}},
                      window_ && window_->isVisible() ? window_.get() : nullptr);

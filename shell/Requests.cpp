@@ -37,7 +37,10 @@ std::optional<AutomaticMode> parseAutomaticMode(std::string_view word) {
 QString nameOf(clipboard::nrChangePasterboard::Restored outcome) {
     using Restored = clipboard::nrChangePasterboard::Restored;
     return outcome == Restored::done          ? "done"
+           : outcome == Restored::incomplete  ? "incomplete"
            : outcome == Restored::nothingKept ? "nothing kept"
+           : outcome == Restored::tooLarge    ? "too large"
+           : outcome == Restored::newerCopy   ? "newer copy"
                                               : "refused";
 }
 

@@ -16,7 +16,8 @@ enum class AutomaticMode { on, off, toggle };
 // "on", "off" or "toggle"; nothing for any other word.
 std::optional<AutomaticMode> parseAutomaticMode(std::string_view word);
 
-// "done", "nothing kept" or "refused".
+// What the bus says: "done", "incomplete" (done, but without some formats), and for what was not
+// done "nothing kept", "too large", "newer copy" or "refused".
 QString nameOf(clipboard::nrChangePasterboard::Restored outcome);
 
 enum class Command {

@@ -90,9 +90,12 @@ Answer ask(const Request &request) {
 
 // The exit status for an answer.
 int tell(Command command, const QString &answer) {
+    using Restored = clipboard::nrChangePasterboard::Restored;
     switch (command) {
     case Command::restore:
-        if (answer != nameOf(clipboard::nrChangePasterboard::Restored::done)) {
+        if (answer == nameOf(Restored::incomplete)) {
+            complain("restored, but some formats of the original could not be read in time");
+        } else if (answer != nameOf(Restored::done)) {
             return complain("not restored: " + answer.toStdString());
         }
         break;

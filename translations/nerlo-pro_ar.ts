@@ -203,6 +203,15 @@
 بعد: كل ما تنسخه يُنظَّف تلقائيًا.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>التنظيف فور النسخ</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>قبل: تُنظَّف النسخة خلال نصف ثانية.
+بعد: تُنظَّف النسخة فورًا.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>قبل: الخلايا المنسوخة تصبح نصًا عاديًا.
 بعد: خلايا الجداول تبقى كما هي.</translation>
@@ -1167,6 +1176,18 @@
         <source>sRestoreRefused</source>
         <translation>تغيّرت الحافظة، لذا لم يُستعَد الأصل.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>عاد الأصل، لكن تعذّرت قراءة بعض صيغه في الوقت المناسب.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>كان الأصل أكبر من %1 م.ب، لذا لم يُحتفَظ به.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>النص في الحافظة أكبر من %1 م.ب، لذا لم يُنظَّف.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>استعادة الأصل</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>استعادة «%1»</translation>
     </message>
     <message>
         <source>Single operations</source>

@@ -203,6 +203,15 @@ Nachher: Dieses Fenster bleibt über ihnen.</translation>
 Nachher: Jede Kopie wird von selbst bereinigt.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Gleich nach dem Kopieren bereinigen</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Vorher: Eine Kopie wird innerhalb einer halben Sekunde bereinigt.
+Nachher: Eine Kopie wird sofort bereinigt.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Vorher: Kopierte Zellen werden zu einfachem Text.
 Nachher: Zellen aus einer Tabelle bleiben, wie sie sind.</translation>
@@ -1167,6 +1176,18 @@ MIT-Lizenz</translation>
         <source>sRestoreRefused</source>
         <translation>Die Zwischenablage hat sich geändert, darum wurde das Original nicht zurückgeholt.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>Das Original ist zurück, aber einige seiner Formate konnten nicht rechtzeitig gelesen werden.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>Das Original war größer als %1 MB und wurde darum nicht aufgehoben.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Der Text in der Zwischenablage ist größer als %1 MB und wurde darum nicht bereinigt.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ MIT-Lizenz</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Original zurückholen</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>„%1“ zurückholen</translation>
     </message>
     <message>
         <source>Single operations</source>

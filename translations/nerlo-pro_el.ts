@@ -203,6 +203,15 @@
 Μετά: κάθε αντίγραφο καθαρίζεται μόνο του.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Καθαρισμός αμέσως μετά την αντιγραφή</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Πριν: ένα αντίγραφο καθαρίζεται μέσα σε μισό δευτερόλεπτο.
+Μετά: ένα αντίγραφο καθαρίζεται αμέσως.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Πριν: τα κελιά που αντιγράφετε γίνονται απλό κείμενο.
 Μετά: τα κελιά λογιστικού φύλλου μένουν όπως είναι.</translation>
@@ -1167,6 +1176,18 @@
         <source>sRestoreRefused</source>
         <translation>Το πρόχειρο άλλαξε, γι’ αυτό το πρωτότυπο δεν επαναφέρθηκε.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>Το πρωτότυπο επανήλθε, αλλά ορισμένες μορφές του δεν διαβάστηκαν εγκαίρως.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>Το πρωτότυπο ήταν μεγαλύτερο από %1 MB, γι’ αυτό δεν κρατήθηκε.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Το κείμενο στο πρόχειρο είναι μεγαλύτερο από %1 MB, γι’ αυτό δεν καθαρίστηκε.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Επαναφορά του πρωτοτύπου</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Επαναφορά «%1»</translation>
     </message>
     <message>
         <source>Single operations</source>

@@ -203,6 +203,15 @@ After: this window stays above them.</translation>
 After: every copy is cleaned by itself.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Clean right after the copy</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Before: a copy is cleaned within half a second.
+After: a copy is cleaned at once.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Before: cells that you copy become plain text.
 After: cells from a spreadsheet stay as they are.</translation>
@@ -1167,6 +1176,20 @@ MIT licence</translation>
         <source>sRestoreRefused</source>
         <translation>The clipboard has changed, so the original was not put back.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>The original is back, but some of its formats could not be read in time.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>The original was larger than %1 MB, so it was not kept.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>The text on the clipboard is larger than %1 MB, so it was not cleaned.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1214,11 @@ MIT licence</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Restore the original</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <extracomment>%1 is the beginning of the text that comes back.</extracomment>
+        <translation>Restore “%1”</translation>
     </message>
     <message>
         <source>Single operations</source>

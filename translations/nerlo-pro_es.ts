@@ -203,6 +203,15 @@ Después: esta ventana queda por encima de ellas.</translation>
 Después: cada copia se limpia sola.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Limpiar justo después de copiar</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Antes: una copia se limpia en medio segundo.
+Después: una copia se limpia al instante.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Antes: las celdas copiadas se convierten en texto sin formato.
 Después: las celdas de una hoja de cálculo quedan como están.</translation>
@@ -1167,6 +1176,18 @@ Licencia MIT</translation>
         <source>sRestoreRefused</source>
         <translation>El portapapeles ha cambiado, así que no se restauró el original.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>El original ha vuelto, pero algunos de sus formatos no se pudieron leer a tiempo.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>El original ocupaba más de %1 MB, así que no se conservó.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>El texto del portapapeles ocupa más de %1 MB, así que no se limpió.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ Licencia MIT</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Restaurar el original</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurar «%1»</translation>
     </message>
     <message>
         <source>Single operations</source>

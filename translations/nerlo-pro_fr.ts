@@ -203,6 +203,15 @@ Après : cette fenêtre reste au-dessus des autres.</translation>
 Après : chaque copie est nettoyée toute seule.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Nettoyer dès la copie</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Avant : une copie est nettoyée en moins d’une demi-seconde.
+Après : une copie est nettoyée aussitôt.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Avant : les cellules copiées deviennent du texte brut.
 Après : les cellules d’un tableur restent telles quelles.</translation>
@@ -1167,6 +1176,18 @@ Licence MIT</translation>
         <source>sRestoreRefused</source>
         <translation>Le presse-papiers a changé ; l’original n’a pas été remis.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>L’original est de retour, mais certains de ses formats n’ont pas pu être lus à temps.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>L’original dépassait %1 Mo et n’a donc pas été conservé.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Le texte du presse-papiers dépasse %1 Mo et n’a donc pas été nettoyé.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ Licence MIT</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Restaurer l’original</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurer « %1 »</translation>
     </message>
     <message>
         <source>Single operations</source>

@@ -203,6 +203,15 @@ Dopo: questa finestra resta sopra le altre.</translation>
 Dopo: ogni copia viene ripulita da sola.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Ripulisci subito dopo la copia</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Prima: una copia viene ripulita entro mezzo secondo.
+Dopo: una copia viene ripulita subito.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Prima: le celle copiate diventano testo semplice.
 Dopo: le celle di un foglio di calcolo restano come sono.</translation>
@@ -1167,6 +1176,18 @@ Licenza MIT</translation>
         <source>sRestoreRefused</source>
         <translation>Gli appunti sono cambiati, perciò l’originale non è stato ripristinato.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>L’originale è tornato, ma alcuni dei suoi formati non sono stati letti in tempo.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>L’originale superava %1 MB, perciò non è stato conservato.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Il testo negli appunti supera %1 MB, perciò non è stato ripulito.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ Licenza MIT</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Ripristina l’originale</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Ripristina «%1»</translation>
     </message>
     <message>
         <source>Single operations</source>

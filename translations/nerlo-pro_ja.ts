@@ -203,6 +203,15 @@
 後：コピーするたびに自動で整形されます。</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>コピー直後に整形</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>前：コピーは半秒以内に整形されます。
+後：コピーはすぐに整形されます。</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>前：コピーしたセルはプレーンテキストになります。
 後：表計算のセルはそのまま残ります。</translation>
@@ -1167,6 +1176,18 @@ MIT ライセンス</translation>
         <source>sRestoreRefused</source>
         <translation>クリップボードが変わったため、元の内容には戻しませんでした。</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>元の内容に戻しましたが、一部の形式は時間内に読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>元の内容は %1 MB を超えていたため、保持されませんでした。</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>クリップボードのテキストは %1 MB を超えているため、整形しませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ MIT ライセンス</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>元の内容に戻す</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>「%1」に戻す</translation>
     </message>
     <message>
         <source>Single operations</source>

@@ -203,6 +203,15 @@ Po: to okno pozostaje nad nimi.</translation>
 Po: każda kopia jest czyszczona sama.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Czyść zaraz po skopiowaniu</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Przed: kopia jest czyszczona w ciągu pół sekundy.
+Po: kopia jest czyszczona od razu.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Przed: skopiowane komórki stają się zwykłym tekstem.
 Po: komórki arkusza pozostają bez zmian.</translation>
@@ -1167,6 +1176,18 @@ Licencja MIT</translation>
         <source>sRestoreRefused</source>
         <translation>Schowek się zmienił, więc oryginału nie przywrócono.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>Oryginał wrócił, ale niektórych jego formatów nie udało się odczytać na czas.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>Oryginał był większy niż %1 MB, więc go nie zachowano.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Tekst w schowku jest większy niż %1 MB, więc go nie oczyszczono.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ Licencja MIT</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Przywróć oryginał</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Przywróć „%1”</translation>
     </message>
     <message>
         <source>Single operations</source>

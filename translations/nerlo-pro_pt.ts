@@ -203,6 +203,15 @@ Depois: esta janela fica acima delas.</translation>
 Depois: cada cópia é limpa sozinha.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Limpar logo depois de copiar</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Antes: uma cópia é limpa em meio segundo.
+Depois: uma cópia é limpa na hora.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Antes: as células copiadas viram texto simples.
 Depois: as células de uma planilha ficam como estão.</translation>
@@ -1167,6 +1176,18 @@ Licença MIT</translation>
         <source>sRestoreRefused</source>
         <translation>A área de transferência mudou, por isso o original não foi restaurado.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>O original voltou, mas alguns dos seus formatos não puderam ser lidos a tempo.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>O original tinha mais de %1 MB, por isso não foi guardado.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>O texto na área de transferência tem mais de %1 MB, por isso não foi limpo.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ Licença MIT</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Restaurar o original</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurar “%1”</translation>
     </message>
     <message>
         <source>Single operations</source>

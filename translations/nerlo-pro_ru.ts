@@ -203,6 +203,15 @@
 После: всё скопированное очищается само.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Очищать сразу после копирования</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>До: скопированное очищается в течение полусекунды.
+После: скопированное очищается сразу.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>До: скопированные ячейки становятся простым текстом.
 После: ячейки электронной таблицы остаются как есть.</translation>
@@ -1167,6 +1176,18 @@
         <source>sRestoreRefused</source>
         <translation>Буфер обмена изменился, поэтому оригинал не возвращён.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>Оригинал возвращён, но некоторые его форматы не удалось прочитать вовремя.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>Оригинал был больше %1 МБ, поэтому он не сохранён.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Текст в буфере обмена больше %1 МБ, поэтому он не очищен.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Вернуть оригинал</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Вернуть «%1»</translation>
     </message>
     <message>
         <source>Single operations</source>

@@ -203,6 +203,15 @@ Efter: det här fönstret ligger ovanför dem.</translation>
 Efter: varje kopia rensas av sig själv.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Rensa direkt efter kopieringen</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>Före: en kopia rensas inom en halv sekund.
+Efter: en kopia rensas genast.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>Före: celler som du kopierar blir oformaterad text.
 Efter: celler från ett kalkylblad förblir som de är.</translation>
@@ -1167,6 +1176,18 @@ MIT-licens</translation>
         <source>sRestoreRefused</source>
         <translation>Urklipp har ändrats, så originalet återställdes inte.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>Originalet är tillbaka, men några av dess format kunde inte läsas i tid.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>Originalet var större än %1 MB, så det sparades inte.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Texten i urklipp är större än %1 MB, så den rensades inte.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ MIT-licens</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Återställ originalet</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Återställ ”%1”</translation>
     </message>
     <message>
         <source>Single operations</source>

@@ -203,6 +203,15 @@
 Після: усе скопійоване очищається саме.</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>Очищати одразу після копіювання</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>До: скопійоване очищається протягом пів секунди.
+Після: скопійоване очищається одразу.</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>До: скопійовані комірки стають простим текстом.
 Після: комірки електронної таблиці лишаються як є.</translation>
@@ -1167,6 +1176,18 @@
         <source>sRestoreRefused</source>
         <translation>Буфер обміну змінився, тому оригінал не повернуто.</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>Оригінал повернуто, але деякі його формати не вдалося прочитати вчасно.</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>Оригінал був більший за %1 МБ, тому його не збережено.</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>Текст у буфері обміну більший за %1 МБ, тому його не очищено.</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>Повернути оригінал</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Повернути «%1»</translation>
     </message>
     <message>
         <source>Single operations</source>

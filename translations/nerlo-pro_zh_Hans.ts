@@ -203,6 +203,15 @@
 之后：每次复制都会自动清理。</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>复制后立即清理</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>之前：复制的内容会在半秒内清理。
+之后：复制的内容会立即清理。</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>之前：复制的单元格变成纯文本。
 之后：电子表格的单元格保持不变。</translation>
@@ -1167,6 +1176,18 @@ MIT 许可证</translation>
         <source>sRestoreRefused</source>
         <translation>剪贴板已改变，因此未恢复原内容。</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>已恢复原内容，但部分格式未能及时读取。</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>原内容超过 %1 MB，因此未保留。</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>剪贴板中的文本超过 %1 MB，因此未清理。</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ MIT 许可证</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>恢复原内容</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>恢复“%1”</translation>
     </message>
     <message>
         <source>Single operations</source>

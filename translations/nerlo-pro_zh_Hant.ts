@@ -203,6 +203,15 @@
 之後：每次複製都會自動清理。</translation>
     </message>
     <message>
+        <source>sCleanAtOnce</source>
+        <translation>複製後立即清理</translation>
+    </message>
+    <message>
+        <source>sCleanAtOnceTip</source>
+        <translation>之前：複製的內容會在半秒內清理。
+之後：複製的內容會立即清理。</translation>
+    </message>
+    <message>
         <source>sExceptSpreadsheetTip</source>
         <translation>之前：複製的儲存格變成純文字。
 之後：試算表的儲存格保持不變。</translation>
@@ -1167,6 +1176,18 @@ MIT 授權</translation>
         <source>sRestoreRefused</source>
         <translation>剪貼簿已改變，因此未還原原內容。</translation>
     </message>
+    <message>
+        <source>sRestoreIncomplete</source>
+        <translation>已還原原內容，但部分格式未能及時讀取。</translation>
+    </message>
+    <message>
+        <source>sRestoreTooLarge</source>
+        <translation>原內容超過 %1 MB，因此未保留。</translation>
+    </message>
+    <message>
+        <source>sTextTooLarge</source>
+        <translation>剪貼簿中的文字超過 %1 MB，因此未清理。</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1191,6 +1212,10 @@ MIT 授權</translation>
         <source>Restore the original</source>
         <extracomment>Puts back what stood on the clipboard before the last clean.</extracomment>
         <translation>還原原內容</translation>
+    </message>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>還原「%1」</translation>
     </message>
     <message>
         <source>Single operations</source>

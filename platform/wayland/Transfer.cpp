@@ -54,7 +54,7 @@ int FileDescriptor::release() {
 
 IncomingTransfer::IncomingTransfer(FileDescriptor pipe, TransferLimits limits, Done done)
     : Transfer(std::move(pipe))
-    , limits_(limits)
+    , limits_(std::move(limits))
     , done_(std::move(done)) {
     touched();
 }
@@ -65,6 +65,7 @@ void IncomingTransfer::touched() {
 
 void IncomingTransfer::finish(Outcome outcome) {
     if (outcome != Outcome::complete) {
+        *limits_.room += data_.size();
         data_ = {};
     }
     if (done_) {
@@ -88,10 +89,11 @@ bool IncomingTransfer::advance() {
             return false;
         }
         const auto bytes = static_cast<std::size_t>(count);
-        if (bytes > limits_.bytes - data_.size()) {
+        if (bytes > *limits_.room) {
             finish(Outcome::tooLarge);
             return false;
         }
+        *limits_.room -= bytes;
         data_.append(buffer.data(), bytes);
         moved += bytes;
         touched();

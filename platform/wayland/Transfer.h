@@ -50,7 +50,9 @@ class Transfer {
 };
 
 struct TransferLimits {
-    std::size_t bytes;
+    // Bytes that still may come, by this transfer or others; those of one that fails are given
+    // back.
+    std::shared_ptr<std::size_t> room;
     Clock::duration silence; // the longest wait for the next byte
     Clock::time_point end;   // of the whole transfer
 };

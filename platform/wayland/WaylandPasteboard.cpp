@@ -65,11 +65,10 @@ class WaylandPasteboard final : public Pasteboard {
             })] { peer_->readFormats(answer); });
     }
 
-    void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-              ReadHandler handler) override {
-        loop_->post([this, of, formats = std::move(formats), limit,
+    void read(ChangeCount of, PasteboardRequest request, ReadHandler handler) override {
+        loop_->post([this, of, request = std::move(request),
                      answer = alive_.guardOn(mainQueue_, std::move(handler))]() mutable {
-            peer_->read(of, std::move(formats), limit, answer);
+            peer_->read(of, std::move(request), answer);
         });
     }
 

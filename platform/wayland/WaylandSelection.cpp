@@ -1,5 +1,7 @@
 #include "platform/wayland/WaylandSelection.h"
 
+#include "platform/PasteboardReading.h"
+
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -33,19 +35,13 @@ bool usableName(const std::string &name) {
 } // namespace
 
 struct WaylandSelection::ReadJob {
-    std::vector<std::string> formats;
-    std::size_t next = 0;
-    std::size_t bytesLeft;
-    Clock::time_point end;
-    PasteboardContent content;
+    PasteboardReading reading;
     Pasteboard::ReadHandler handler; // null once the job has ended
 
     void finish(PasteboardStatus status) {
         if (handler) {
-            const bool partial =
-                status == PasteboardStatus::done || status == PasteboardStatus::timedOut;
-            std::exchange(handler,
-                          nullptr)({status, partial ? std::move(content) : PasteboardContent()});
+            std::exchange(handler, nullptr)(
+                status == PasteboardStatus::timedOut ? reading.late() : reading.result(status));
         }
     }
 };
@@ -160,15 +156,19 @@ void WaylandSelection::newOffer(wl_proxy *offer) {
         destroyOffer(announced_.front().proxy);
         announced_.erase(announced_.begin());
     }
-    announced_.push_back({offer, {}});
+    announced_.push_back({.proxy = offer, .formats = {}});
     listen(offer, *this);
 }
 
 void WaylandSelection::offeredFormat(wl_proxy *offer, const char *format) {
     const auto found = std::ranges::find(announced_, offer, &Offer::proxy);
-    if (found != announced_.end() && found->formats.size() < pasteboardFormatLimit &&
-        std::strlen(format) <= pasteboardFormatNameLimit && !contains(found->formats, format)) {
+    if (found == announced_.end() || contains(found->formats, format)) {
+        return;
+    }
+    if (found->formats.size() < pasteboardFormatLimit && usableName(format)) {
         found->formats.emplace_back(format);
+    } else {
+        found->complete = false;
     }
 }
 
@@ -222,66 +222,81 @@ void WaylandSelection::readFormats(const Pasteboard::FormatsHandler &handler) {
         handler({});
         return;
     }
-    handler({PasteboardStatus::done, count_, current_.formats});
+    handler({PasteboardStatus::done, count_, current_.formats, current_.complete});
 }
 
-void WaylandSelection::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+void WaylandSelection::read(ChangeCount of, PasteboardRequest request,
                             Pasteboard::ReadHandler handler) {
-    const auto job = std::make_shared<ReadJob>(ReadJob{.formats = std::move(formats),
-                                                       .bytesLeft = limit,
-                                                       .end = Clock::now() + pasteboardReadLimit,
-                                                       .content = {},
-                                                       .handler = std::move(handler)});
+    const auto job = std::make_shared<ReadJob>(
+        ReadJob{PasteboardReading(std::move(request)), std::move(handler)});
     if (!loop_.connected()) {
         job->finish(PasteboardStatus::unavailable);
     } else if (of != count_) {
         job->finish(PasteboardStatus::changed);
     } else {
         reads_.push_back(job);
-        readNext(job);
+        readOn(job);
     }
 }
 
-void WaylandSelection::readNext(const std::shared_ptr<ReadJob> &job) {
-    const auto end = [this, job](PasteboardStatus status) {
-        std::erase(reads_, job);
-        job->finish(status);
-    };
-    while (job->next < job->formats.size() &&
-           !contains(current_.formats, job->formats[job->next])) {
-        ++job->next;
+// Asks for as many formats as may be asked for now.
+void WaylandSelection::readOn(const std::shared_ptr<ReadJob> &job) {
+    while (const auto place = job->reading.next()) {
+        if (!contains(current_.formats, job->reading.format(*place))) {
+            job->reading.failed(PasteboardReading::Failure::refused);
+        } else if (!startTransfer(job, *place)) {
+            endRead(job, PasteboardStatus::unavailable);
+            return;
+        }
     }
-    if (job->next == job->formats.size()) {
+    if (job->reading.finished()) {
         // A compositor closes the pipe at once when the content is replaced; the news of that may
         // come a moment later, and ends the job otherwise.
-        loop_.afterRoundTrip(pasteboardStallLimit, [end](bool) { end(PasteboardStatus::done); });
-        return;
+        loop_.afterRoundTrip(pasteboardStallLimit,
+                             [this, job](bool) { endRead(job, PasteboardStatus::done); });
     }
+}
+
+bool WaylandSelection::startTransfer(const std::shared_ptr<ReadJob> &job, std::size_t place) {
     Pipe pipe = makePipe();
     if (!pipe.reader) {
-        end(PasteboardStatus::unavailable);
+        return false;
+    }
+    receive(current_.proxy, job->reading.format(place).c_str(), pipe.writer.get());
+    // Of the others none is waited for longer than for all of them.
+    const auto silence = job->reading.first() ? pasteboardStallLimit : pasteboardReadLimit;
+    loop_.add(std::make_unique<IncomingTransfer>(
+        std::move(pipe.reader), TransferLimits{job->reading.room(), silence, job->reading.end()},
+        [this, job, place](IncomingTransfer::Outcome outcome, std::string bytes) {
+            if (job->handler) {
+                transferEnded(job, place, outcome, std::move(bytes));
+            }
+        }));
+    return true;
+}
+
+void WaylandSelection::transferEnded(const std::shared_ptr<ReadJob> &job, std::size_t place,
+                                     IncomingTransfer::Outcome outcome, std::string bytes) {
+    using Outcome = IncomingTransfer::Outcome;
+    auto &reading = job->reading;
+    if (outcome == Outcome::abandoned) {
+        endRead(job, PasteboardStatus::timedOut);
         return;
     }
-    const std::string &format = job->formats[job->next++];
-    receive(current_.proxy, format.c_str(), pipe.writer.get());
-    loop_.add(std::make_unique<IncomingTransfer>(
-        std::move(pipe.reader), TransferLimits{job->bytesLeft, pasteboardStallLimit, job->end},
-        [this, job, format, end](IncomingTransfer::Outcome outcome, std::string bytes) {
-            if (!job->handler) {
-                return;
-            }
-            if (outcome == IncomingTransfer::Outcome::abandoned) {
-                end(PasteboardStatus::timedOut);
-                return;
-            }
-            // An owner that has nothing to say closes the pipe: that is how it refuses a format.
-            if (!bytes.empty()) {
-                job->bytesLeft -= bytes.size();
-                job->content.push_back(
-                    {format, {}, std::make_shared<const std::string>(std::move(bytes))});
-            }
-            readNext(job);
-        }));
+    if (outcome == Outcome::complete) {
+        reading.arrived(
+            place,
+            {reading.format(place), {}, std::make_shared<const std::string>(std::move(bytes))});
+    } else {
+        reading.failed(outcome == Outcome::tooLarge ? PasteboardReading::Failure::tooLarge
+                                                    : PasteboardReading::Failure::refused);
+    }
+    readOn(job);
+}
+
+void WaylandSelection::endRead(const std::shared_ptr<ReadJob> &job, PasteboardStatus status) {
+    std::erase(reads_, job);
+    job->finish(status);
 }
 
 void WaylandSelection::write(PasteboardContent content, std::optional<ChangeCount> onlyOver,

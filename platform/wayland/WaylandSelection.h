@@ -9,6 +9,7 @@
 #include "platform/wayland/DataControl.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/Registry.h"
+#include "platform/wayland/Transfer.h"
 
 #include <cstdint>
 #include <deque>
@@ -38,8 +39,7 @@ class WaylandSelection final : private DeviceEvents, private OfferEvents, privat
 
     // As in Pasteboard.
     void readFormats(const Pasteboard::FormatsHandler &handler);
-    void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-              Pasteboard::ReadHandler handler);
+    void read(ChangeCount of, PasteboardRequest request, Pasteboard::ReadHandler handler);
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                Pasteboard::WriteHandler handler);
 
@@ -50,6 +50,7 @@ class WaylandSelection final : private DeviceEvents, private OfferEvents, privat
     struct Offer {
         wl_proxy *proxy = nullptr; // null: the clipboard is empty
         std::vector<std::string> formats;
+        bool complete = true; // false: some are left off
     };
     struct OwnSource {
         wl_proxy *proxy;
@@ -85,7 +86,12 @@ class WaylandSelection final : private DeviceEvents, private OfferEvents, privat
     Offer takeAnnounced(wl_proxy *offer);
     void replaceContent(Offer offer);
     void endReads(PasteboardStatus status);
-    void readNext(const std::shared_ptr<ReadJob> &job);
+    void readOn(const std::shared_ptr<ReadJob> &job);
+    // False if no pipe can be had.
+    bool startTransfer(const std::shared_ptr<ReadJob> &job, std::size_t place);
+    void transferEnded(const std::shared_ptr<ReadJob> &job, std::size_t place,
+                       IncomingTransfer::Outcome outcome, std::string bytes);
+    void endRead(const std::shared_ptr<ReadJob> &job, PasteboardStatus status);
     void startWrite();
     void setContent();
     void confirmWrite();

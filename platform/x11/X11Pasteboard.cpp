@@ -48,11 +48,10 @@ class X11Pasteboard final : public Pasteboard {
             peer_->readFormats(handler);
         });
     }
-    void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-              ReadHandler handler) override {
-        pump_->submit([this, of, formats = std::move(formats), limit,
+    void read(ChangeCount of, PasteboardRequest request, ReadHandler handler) override {
+        pump_->submit([this, of, request = std::move(request),
                        handler = alive_.guardOn(mainQueue_, std::move(handler))] {
-            peer_->read(of, formats, limit, handler);
+            peer_->read(of, request, handler);
         });
     }
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,

@@ -18,6 +18,8 @@ constexpr std::array<std::string_view, 7> protocolTargets{
     "DELETE",  "INSERT_SELECTION", "INSERT_PROPERTY"};
 
 constexpr std::size_t largestPiece = 256 * 1024;
+// Of the list of formats, before those without a name or twice in it are left off.
+constexpr std::size_t mostAtoms = 4 * pasteboardFormatLimit;
 // Other clients that take large formats from us at the same time, and pairs in one MULTIPLE.
 constexpr std::size_t mostSendings = 64;
 constexpr std::size_t mostPairs = 64;
@@ -225,6 +227,14 @@ void X11Selection::setProperty(xcb_window_t window, xcb_atom_t name, xcb_atom_t 
 
 // Asking
 
+X11Selection::Clock::time_point X11Selection::Question::due() const {
+    auto first = end;
+    for (const auto &transfer : transfers) {
+        first = std::min(first, transfer.stalled);
+    }
+    return first;
+}
+
 void X11Selection::readFormats(Pasteboard::FormatsHandler handler) {
     if (lost_) {
         handler({});
@@ -236,7 +246,7 @@ void X11Selection::readFormats(Pasteboard::FormatsHandler handler) {
     begin(std::prev(questions_.end()));
 }
 
-void X11Selection::read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+void X11Selection::read(ChangeCount of, PasteboardRequest request,
                         Pasteboard::ReadHandler handler) {
     if (lost_) {
         handler({});
@@ -244,61 +254,96 @@ void X11Selection::read(ChangeCount of, std::vector<std::string> formats, std::s
     }
     auto &question = questions_.emplace_back();
     question.of = of;
-    question.wanted = std::move(formats);
-    question.left = limit;
+    question.reading.emplace(std::move(request));
+    question.room = question.reading->room();
     question.readHandler = std::move(handler);
-    question.end = Clock::now() + pasteboardReadLimit;
     begin(std::prev(questions_.end()));
 }
 
-// Asks for the formats, or for the next one of those that are wanted.
 void X11Selection::begin(Questions::iterator question) {
     synchronize();
-    if (question->formatsHandler) {
-        question->of = changeCount_;
-        if (owner_ == XCB_NONE || owned()) {
-            answerFormats(question);
-            return;
-        }
-        question->left = pasteboardFormatLimit * sizeof(xcb_atom_t) * 4;
-        convert(*question, atoms_.targets);
+    if (!question->wantsAtoms()) {
+        readOn(question);
         return;
     }
+    question->of = changeCount_;
+    if (owner_ == XCB_NONE || owned()) {
+        answerFormats(question, {});
+        return;
+    }
+    question->room = std::make_shared<std::size_t>(mostAtoms * sizeof(xcb_atom_t));
+    convert(*question, atoms_.targets, 0);
+}
+
+// Asks for as many formats as may be asked for now.
+void X11Selection::readOn(Questions::iterator question) {
     if (question->of != changeCount_ || owner_ == XCB_NONE) {
         answer(question, PasteboardStatus::changed);
         return;
     }
-    for (; owned() && question->next < question->wanted.size(); ++question->next) {
-        const auto offer = std::ranges::find(offers_, question->wanted[question->next],
-                                             [](const Offer &o) { return o.data.format; });
-        if (offer != offers_.end() && offer->data.bytes->size() <= question->left) {
-            question->left -= offer->data.bytes->size();
-            question->result.content.push_back(offer->data);
+    auto &reading = *question->reading;
+    while (const auto place = reading.next()) {
+        if (!owned()) {
+            convert(*question, connection_->atom(reading.format(*place)), *place);
+        } else if (!answerFromOffers(reading, *place)) {
+            reading.failed(PasteboardReading::Failure::refused);
         }
     }
-    if (question->next == question->wanted.size()) {
+    question->end = reading.end();
+    if (reading.finished()) {
         answer(question, PasteboardStatus::done);
-        return;
     }
-    convert(*question, connection_->atom(question->wanted[question->next]));
 }
 
-void X11Selection::convert(Question &question, xcb_atom_t target) {
-    endTransfer(question);
-    auto &transfer = question.transfer;
-    transfer.window = connection_->makeWindow(XCB_EVENT_MASK_PROPERTY_CHANGE);
+bool X11Selection::answerFromOffers(PasteboardReading &reading, std::size_t place) const {
+    const auto offer = std::ranges::find(offers_, reading.format(place),
+                                         [](const Offer &o) { return o.data.format; });
+    if (offer == offers_.end()) {
+        return false;
+    }
+    const auto size = offer->data.bytes->size();
+    if (size > *reading.room()) {
+        reading.failed(PasteboardReading::Failure::tooLarge);
+    } else {
+        *reading.room() -= size;
+        reading.arrived(place, offer->data);
+    }
+    return true;
+}
+
+void X11Selection::convert(Question &question, xcb_atom_t target, std::size_t place) {
+    auto &transfer = question.transfers.emplace_back();
     transfer.target = target;
+    transfer.place = place;
+    startTransfer(transfer);
+    // Of the others none is waited for longer than for all of them.
+    if (question.reading && !question.reading->first()) {
+        transfer.stalled = question.reading->end();
+    }
+}
+
+void X11Selection::startTransfer(Transfer &transfer) {
+    transfer.window = connection_->makeWindow(XCB_EVENT_MASK_PROPERTY_CHANGE);
     transfer.stalled = Clock::now() + pasteboardStallLimit;
-    xcb_convert_selection(connection_->get(), transfer.window, atoms_.clipboard, target,
+    xcb_convert_selection(connection_->get(), transfer.window, atoms_.clipboard, transfer.target,
                           atoms_.data, XCB_CURRENT_TIME);
     xcb_flush(connection_->get());
 }
 
-void X11Selection::endTransfer(Question &question) {
-    if (question.transfer.window != XCB_NONE) {
-        xcb_destroy_window(connection_->get(), question.transfer.window);
+void X11Selection::endTransfer(Question &question, Transfers::iterator transfer) {
+    xcb_destroy_window(connection_->get(), transfer->window);
+    question.transfers.erase(transfer);
+}
+
+std::optional<std::pair<X11Selection::Questions::iterator, X11Selection::Transfers::iterator>>
+X11Selection::find(xcb_window_t window) {
+    for (auto question = questions_.begin(); question != questions_.end(); ++question) {
+        const auto transfer = std::ranges::find(question->transfers, window, &Transfer::window);
+        if (transfer != question->transfers.end()) {
+            return std::pair(question, transfer);
+        }
     }
-    question.transfer = {};
+    return std::nullopt;
 }
 
 void X11Selection::arrived(const xcb_selection_notify_event_t &event) {
@@ -306,117 +351,134 @@ void X11Selection::arrived(const xcb_selection_notify_event_t &event) {
         handingOver_ = false;
         return;
     }
-    const auto question = std::ranges::find(questions_, event.requestor,
-                                            [](const Question &q) { return q.transfer.window; });
-    if (question == questions_.end() || event.target != question->transfer.target ||
-        question->transfer.incremental) {
+    const auto found = find(event.requestor);
+    if (!found || event.target != found->second->target || found->second->incremental) {
         return;
     }
-    auto &transfer = question->transfer;
-    auto property = event.property == atoms_.data
-                        ? connection_->property(transfer.window, atoms_.data, question->left, true)
-                        : std::nullopt;
-    if (!property) { // refused, or too large
-        skipped(question);
+    const auto [question, transfer] = *found;
+    if (event.property != atoms_.data) {
+        failed(question, transfer, PasteboardReading::Failure::refused);
+        return;
+    }
+    auto property = connection_->property(transfer->window, atoms_.data, *question->room, true);
+    if (!property) {
+        failed(question, transfer, PasteboardReading::Failure::tooLarge);
     } else if (property->type == atoms_.incremental) {
-        transfer.incremental = true;
-        transfer.stalled = Clock::now() + pasteboardStallLimit;
+        transfer->incremental = true;
+        transfer->stalled = std::max(transfer->stalled, Clock::now() + pasteboardStallLimit);
+    } else if (property->unit != (question->wantsAtoms() ? 32 : 8)) {
+        failed(question, transfer, PasteboardReading::Failure::refused);
     } else {
-        transfer.type = property->type;
-        transfer.bytes = std::move(property->bytes);
-        if (property->unit == (question->formatsHandler ? 32 : 8)) {
-            transferred(question);
-        } else {
-            skipped(question);
-        }
+        *question->room -= property->bytes.size();
+        transfer->type = property->type;
+        transfer->bytes = std::move(property->bytes);
+        transferred(question, transfer);
     }
 }
 
 void X11Selection::pieceArrived(const xcb_property_notify_event_t &event) {
-    const auto question = std::ranges::find(questions_, event.window,
-                                            [](const Question &q) { return q.transfer.window; });
-    if (event.atom != atoms_.data || question == questions_.end() ||
-        !question->transfer.incremental) {
+    const auto found = find(event.window);
+    if (event.atom != atoms_.data || !found || !found->second->incremental) {
         return;
     }
-    auto &transfer = question->transfer;
-    const auto piece = connection_->property(transfer.window, atoms_.data,
-                                             question->left - transfer.bytes.size(), true);
-    if (!piece || (!piece->bytes.empty() && piece->unit != (question->formatsHandler ? 32 : 8))) {
-        skipped(question);
-        return;
+    const auto [question, transfer] = *found;
+    const auto piece = connection_->property(transfer->window, atoms_.data, *question->room, true);
+    if (!piece) {
+        failed(question, transfer, PasteboardReading::Failure::tooLarge);
+    } else if (piece->bytes.empty()) {
+        transferred(question, transfer);
+    } else if (piece->unit != (question->wantsAtoms() ? 32 : 8)) {
+        failed(question, transfer, PasteboardReading::Failure::refused);
+    } else {
+        *question->room -= piece->bytes.size();
+        transfer->type = piece->type;
+        transfer->bytes += piece->bytes;
+        transfer->stalled = std::max(transfer->stalled, Clock::now() + pasteboardStallLimit);
     }
-    if (piece->bytes.empty()) {
-        transferred(question);
-        return;
-    }
-    transfer.type = piece->type;
-    transfer.bytes += piece->bytes;
-    transfer.stalled = Clock::now() + pasteboardStallLimit;
 }
 
-void X11Selection::transferred(Questions::iterator question) {
-    if (question->formatsHandler) {
-        answerFormats(question);
+void X11Selection::transferred(Questions::iterator question, Transfers::iterator transfer) {
+    auto ended = std::move(*transfer);
+    endTransfer(*question, transfer);
+    if (question->wantsAtoms()) {
+        answerFormats(question, std::move(ended.bytes));
         return;
     }
-    auto &transfer = question->transfer;
-    question->left -= transfer.bytes.size();
-    const auto &format = question->wanted[question->next];
     std::string type;
-    if (transfer.type != transfer.target) {
-        type = connection_->names(std::span(&transfer.type, 1), pasteboardFormatNameLimit).front();
+    if (ended.type != ended.target) {
+        type = connection_->names(std::span(&ended.type, 1), pasteboardFormatNameLimit).front();
     }
-    question->result.content.push_back(
-        {format, std::move(type), std::make_shared<const std::string>(std::move(transfer.bytes))});
-    ++question->next;
-    endTransfer(*question);
+    auto &reading = *question->reading;
+    reading.arrived(ended.place, {reading.format(ended.place), std::move(type),
+                                  std::make_shared<const std::string>(std::move(ended.bytes))});
     begin(question);
 }
 
-void X11Selection::skipped(Questions::iterator question) {
-    endTransfer(*question);
-    if (question->formatsHandler) {
+void X11Selection::failed(Questions::iterator question, Transfers::iterator transfer,
+                          PasteboardReading::Failure failure) {
+    *question->room += transfer->bytes.size();
+    endTransfer(*question, transfer);
+    if (question->wantsAtoms()) {
         answer(question, PasteboardStatus::unavailable);
         return;
     }
-    ++question->next;
+    question->reading->failed(failure);
     begin(question);
 }
 
-void X11Selection::answerFormats(Questions::iterator question) {
+void X11Selection::answerFormats(Questions::iterator question, std::string bytes) {
     PasteboardFormats result{PasteboardStatus::done, question->of, {}};
     if (owned()) {
         for (const auto &offer : offers_) {
             result.formats.push_back(offer.data.format);
         }
     } else if (owner_ != XCB_NONE) {
-        auto atoms = Property{XCB_ATOM_ATOM, 32, std::move(question->transfer.bytes)}.words();
+        auto atoms = Property{XCB_ATOM_ATOM, 32, std::move(bytes)}.words();
+        result.complete = atoms.size() <= pasteboardFormatLimit;
         atoms.resize(std::min(atoms.size(), pasteboardFormatLimit));
         for (auto &name : connection_->names(atoms, pasteboardFormatNameLimit)) {
-            if (!name.empty() &&
-                std::ranges::find(protocolTargets, name) == protocolTargets.end() &&
-                std::ranges::find(result.formats, name) == result.formats.end()) {
+            if (name.empty()) {
+                result.complete = false;
+            } else if (std::ranges::find(protocolTargets, name) == protocolTargets.end() &&
+                       std::ranges::find(result.formats, name) == result.formats.end()) {
                 result.formats.push_back(std::move(name));
             }
         }
     }
-    endTransfer(*question);
     const auto handler = std::move(question->formatsHandler);
     questions_.erase(question);
     handler(std::move(result));
 }
 
 void X11Selection::answer(Questions::iterator question, PasteboardStatus status) {
-    endTransfer(*question);
-    const auto answered = std::move(*question);
-    questions_.erase(question);
-    if (answered.formatsHandler) {
-        answered.formatsHandler({status, answered.of, {}});
-        return;
+    while (!question->transfers.empty()) {
+        endTransfer(*question, question->transfers.begin());
     }
-    const bool useful = status == PasteboardStatus::done || status == PasteboardStatus::timedOut;
-    answered.readHandler({status, useful ? answered.result.content : PasteboardContent()});
+    auto answered = std::move(*question);
+    questions_.erase(question);
+    if (answered.wantsAtoms()) {
+        answered.formatsHandler({status, answered.of, {}});
+    } else {
+        answered.readHandler(status == PasteboardStatus::timedOut
+                                 ? answered.reading->late()
+                                 : answered.reading->result(status));
+    }
+}
+
+void X11Selection::overdue(Questions::iterator question, Clock::time_point now) {
+    // Only the first transfer of a question stalls before the question ends.
+    auto &transfer = question->transfers.front();
+    if (transfer.incremental && !transfer.repeated && now < question->end) {
+        // Some owners forget one reader of a large content over another.
+        *question->room += transfer.bytes.size();
+        xcb_destroy_window(connection_->get(), transfer.window);
+        transfer.incremental = false;
+        transfer.repeated = true;
+        transfer.bytes.clear();
+        startTransfer(transfer);
+    } else {
+        answer(question, PasteboardStatus::timedOut);
+    }
 }
 
 void X11Selection::answerOverdueAndStale() {
@@ -424,15 +486,11 @@ void X11Selection::answerOverdueAndStale() {
     for (auto next = questions_.begin(); next != questions_.end();) {
         const auto question = next++;
         if (question->due() <= now) {
-            // Some owners forget one reader of a large content over another.
-            if (question->transfer.incremental && !question->repeated && now < question->end) {
-                question->repeated = true;
-                convert(*question, question->transfer.target);
-            } else {
-                answer(question, PasteboardStatus::timedOut);
-            }
+            overdue(question, now);
         } else if (question->of != changeCount_) {
-            endTransfer(*question);
+            while (!question->transfers.empty()) {
+                endTransfer(*question, question->transfers.begin());
+            }
             begin(question); // the formats are asked for again, the rest is answered
         }
     }

@@ -6,15 +6,18 @@
 #pragma once
 
 #include "platform/Pasteboard.h"
+#include "platform/PasteboardReading.h"
 #include "platform/x11/Connection.h"
 #include "platform/x11/EventPump.h"
 
 #include <atomic>
 #include <deque>
+#include <functional>
 #include <list>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace nerlo::platform::x11 {
@@ -33,8 +36,7 @@ class X11Selection final : public EventSource {
 
     // As in Pasteboard; the handlers run on the I/O thread, some before the function returns.
     void readFormats(Pasteboard::FormatsHandler handler);
-    void read(ChangeCount of, std::vector<std::string> formats, std::size_t limit,
-              Pasteboard::ReadHandler handler);
+    void read(ChangeCount of, PasteboardRequest request, Pasteboard::ReadHandler handler);
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                Pasteboard::WriteHandler handler);
     // Offers content of ours to the clipboard manager, if there is one, and serves it until it has
@@ -53,27 +55,27 @@ class X11Selection final : public EventSource {
     struct Transfer {
         xcb_window_t window = XCB_NONE;
         xcb_atom_t target = XCB_NONE;
+        std::size_t place = 0;    // in the reading
         bool incremental = false; // the owner sends in pieces
+        bool repeated = false;    // asked for again, after it stalled
         xcb_atom_t type = XCB_NONE;
         std::string bytes;
         Clock::time_point stalled; // given up unless something arrives before
     };
-    // A question of our program: for the formats, or for some of them.
+    using Transfers = std::list<Transfer>;
+    // A question of our program: for the formats, or for the bytes of some.
     struct Question {
         ChangeCount of = 0;
         Clock::time_point end;
-        Transfer transfer;
-        std::size_t left = 0; // bytes that may still come
+        std::shared_ptr<std::size_t> room; // for bytes that may still come
+        Transfers transfers;
 
         Pasteboard::FormatsHandler formatsHandler; // null: formats are being read
-
-        std::vector<std::string> wanted;
-        std::size_t next = 0;  // into wanted
-        bool repeated = false; // the transfer, after it stalled
-        PasteboardRead result;
+        std::optional<PasteboardReading> reading;
         Pasteboard::ReadHandler readHandler;
 
-        Clock::time_point due() const { return std::min(end, transfer.stalled); }
+        bool wantsAtoms() const { return formatsHandler != nullptr; }
+        Clock::time_point due() const;
     };
     // A large format on its way from us to another client.
     struct Sending {
@@ -103,14 +105,21 @@ class X11Selection final : public EventSource {
 
     // Asking.
     void begin(Questions::iterator question);
-    void convert(Question &question, xcb_atom_t target);
-    void endTransfer(Question &question);
+    void readOn(Questions::iterator question);
+    bool answerFromOffers(PasteboardReading &reading, std::size_t place) const;
+    void convert(Question &question, xcb_atom_t target, std::size_t place);
+    void startTransfer(Transfer &transfer);
+    void endTransfer(Question &question, Transfers::iterator transfer);
+    // The question and the transfer whose window this is; nothing for a window of old.
+    std::optional<std::pair<Questions::iterator, Transfers::iterator>> find(xcb_window_t window);
     void arrived(const xcb_selection_notify_event_t &event);
     void pieceArrived(const xcb_property_notify_event_t &event);
-    void transferred(Questions::iterator question);
-    void skipped(Questions::iterator question);
-    void answerFormats(Questions::iterator question);
+    void transferred(Questions::iterator question, Transfers::iterator transfer);
+    void failed(Questions::iterator question, Transfers::iterator transfer,
+                PasteboardReading::Failure failure);
+    void answerFormats(Questions::iterator question, std::string atoms);
     void answer(Questions::iterator question, PasteboardStatus status);
+    void overdue(Questions::iterator question, Clock::time_point now);
     void answerOverdueAndStale();
 
     // Serving.

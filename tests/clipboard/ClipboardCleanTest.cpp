@@ -38,10 +38,10 @@ std::vector<std::pair<std::string, std::string>> plain(const PasteboardContent &
     return result;
 }
 
-class ClipboardCleanTest : public testing::Test, public WriteListener {
+class ClipboardCleanTest : public testing::Test, public ClipboardListener {
   protected:
     ClipboardCleanTest() {
-        engine.setWriteListener(this);
+        engine.setListener(this);
         setOptions({{"udRemoveAllSpaces", true}});
     }
     void addOneCount(ChangeCount written) override { acknowledged.push_back(written); }
@@ -114,7 +114,10 @@ TEST_F(ClipboardCleanTest, LeavesAloneWhatIsNotOursToTouch) {
         {"text without a letter", content({{"text/plain", ""}}), {"formats", "read text/plain"}},
         {"bytes that are no text",
          content({{"text/plain", "caf\xe9 x"}}),
-         {"formats", "read text/plain", "read "}},
+         {"formats", "read text/plain"}},
+        {"a link as text",
+         content({{"text/plain", "a+1.b-c://x/y?z=\xc3\xa9"}}),
+         {"formats", "read text/plain"}},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -129,6 +132,63 @@ TEST_F(ClipboardCleanTest, LeavesAloneWhatIsNotOursToTouch) {
         }
     }
     EXPECT_TRUE(acknowledged.empty());
+}
+
+// Nobody can tell the difference, but that the copy stays its owner's.
+TEST_F(ClipboardCleanTest, PlainTextThatWouldStayAsItIsIsNotWritten) {
+    int cleaned = 0;
+    engine.setCleanedHandler([&] { ++cleaned; });
+    for (const char *format : {"STRING", "text/plain; charset=iso-8859-15"}) {
+        pasteboard.copy(content({{format, "caf\xe9"}, {"COMPOUND_TEXT", "?"}}));
+        const auto copied = pasteboard.changeCount();
+        clean();
+        EXPECT_EQ(pasteboard.changeCount(), copied);
+        EXPECT_EQ(acknowledged.back(), copied) << "it has been dealt with";
+    }
+    EXPECT_EQ(cleaned, 2);
+    pasteboard.copy(content({{"text/html", "<b>ab</b>"}, {"UTF8_STRING", "ab"}}));
+    clean();
+    EXPECT_EQ(count("written"), 1u);
+}
+
+TEST_F(ClipboardCleanTest, OurLastResultAsAnothersPlainTextIsNotCleanedByItself) {
+    setOptions({{"udAddPrefix", true}, {"udPrefixTextField", u">"}});
+    pasteboard.copyText("a");
+    clean();
+    const auto cleanByItself = [&] {
+        engine.changePasteboard(std::string_view());
+        finish();
+    };
+    pasteboard.copyText(">a");
+    cleanByItself();
+    EXPECT_EQ(text(), ">a");
+    clean();
+    EXPECT_EQ(text(), ">>a") << "but it is when somebody asks for it";
+    pasteboard.copy(content({{"text/html", "x"}, {"text/plain", ">>a"}}));
+    cleanByItself();
+    EXPECT_EQ(text(), ">>>a");
+}
+
+TEST_F(ClipboardCleanTest, TheNextFormatIsTakenWhereOneIsRefusedOrBroken) {
+    pasteboard.copy(content(
+        {{"text/html", "x"}, {"STRING", "a \xe9"}, {"UTF8_STRING", "\xff"}, {"text/plain", ""}}));
+    clean();
+    EXPECT_EQ(text(), "a\xc3\xa9");
+    std::optional<std::u16string> read;
+    pasteboard.copy(content({{"TEXT", "\xff"}}));
+    engine.readClipboardText([&](auto got) { read = got.value_or(u"none"); });
+    finish();
+    EXPECT_EQ(read, u"none");
+}
+
+TEST_F(ClipboardCleanTest, ATextBeyondTheLimitIsTold) {
+    int told = 0;
+    engine.setTooLargeHandler([&] { ++told; });
+    const auto large = std::make_shared<const std::string>(cleanedTextLimit + 1, ' ');
+    pasteboard.copy({{"text/plain", {}, large}});
+    clean();
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(pasteboard.content()[0].bytes, large);
 }
 
 TEST_F(ClipboardCleanTest, SurvivesBadOwnersAndCleansTheNextCopy) {
@@ -280,55 +340,105 @@ class RestoreTest : public ClipboardCleanTest {
     using Restored = nrChangePasterboard::Restored;
 };
 
-TEST_F(RestoreTest, PutsAllFormatsBackAndIsNotACopy) {
+TEST_F(RestoreTest, SwapsTheOriginalAndTheResult) {
     EXPECT_EQ(restore(), Restored::nothingKept);
+    int told = 0;
+    engine.setRestorableHandler([&] { ++told; });
     pasteboard.copy(rich);
     clean();
+    EXPECT_EQ(engine.restorableWords(), u"a b");
     // Cleaning our own result again does not make it the original.
+    setOptions({{"udPrefixTextField", u" \n\ta quite long prefix, line\u2028by line, "}});
     cleanWith(addPrefix);
-    EXPECT_EQ(restore(), Restored::done);
-    EXPECT_EQ(plain(pasteboard.content()), plain(rich));
-    EXPECT_EQ(acknowledged.back(), pasteboard.changeCount());
-    clean();
+    const auto result = text();
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(engine.restorableWords(), u"a b");
+        EXPECT_EQ(restore(), Restored::done);
+        EXPECT_EQ(plain(pasteboard.content()), plain(rich));
+        EXPECT_EQ(acknowledged.back(), pasteboard.changeCount());
+        EXPECT_EQ(engine.restorableWords(), u"a quite long prefix, lin…");
+        EXPECT_EQ(restore(), Restored::done);
+        EXPECT_EQ(text(), result);
+        EXPECT_EQ(pasteboard.bytes("text/html"), "");
+    }
+    EXPECT_EQ(told, 2 + 4);
+    // Of the restored original too, which still is the original.
+    restore();
+    cleanWith(removeAllSpaces);
     EXPECT_EQ(text(), "ab");
     EXPECT_EQ(restore(), Restored::done);
     EXPECT_EQ(plain(pasteboard.content()), plain(rich));
 }
 
-TEST_F(RestoreTest, DoesNotTouchAnEmptiedClipboardOrASecret) {
-    pasteboard.copy(rich);
-    clean();
-    pasteboard.empty();
-    EXPECT_EQ(restore(), Restored::refused);
-    EXPECT_TRUE(pasteboard.content().empty());
-    pasteboard.copy(content({{"x-kde-passwordManagerHint", "secret"}, {"text/plain", "p"}}));
-    EXPECT_EQ(restore(), Restored::refused);
-    EXPECT_EQ(text(), "p");
+TEST_F(RestoreTest, NeverTouchesWhatCameAfterTheResult) {
+    const std::pair<const char *, std::function<void()>> rows[] = {
+        {"text", [&] { pasteboard.copyText("n e w"); }},
+        {"rich text", [&] { pasteboard.copy(rich); }},
+        {"emptied", [&] { pasteboard.empty(); }},
+        {"secret",
+         [&] {
+             pasteboard.copy(
+                 content({{"x-kde-passwordManagerHint", "secret"}, {"text/plain", "p"}}));
+         }},
+    };
+    for (const auto &[name, replace] : rows) {
+        SCOPED_TRACE(name);
+        for (const bool original : {false, true}) {
+            pasteboard.copy(rich);
+            clean();
+            if (original) {
+                restore();
+            }
+            replace();
+            const auto newer = pasteboard.content();
+            EXPECT_EQ(restore(), Restored::newerCopy);
+            // It may also come while we write.
+            pasteboard.copy(rich);
+            clean();
+            std::optional<Restored> outcome;
+            engine.restore([&](Restored result) { outcome = result; });
+            replace();
+            finish();
+            EXPECT_EQ(outcome, Restored::newerCopy);
+            EXPECT_EQ(plain(pasteboard.content()), plain(newer));
+            EXPECT_EQ(engine.restorableWords(), u"");
+        }
+    }
 }
 
-TEST_F(RestoreTest, KeepsNothingAboveTheLimitAndNoOlderOriginalInstead) {
-    pasteboard.copy(rich);
-    clean();
+TEST_F(RestoreTest, TellsWhatItDoesNotHave) {
     engine.keepOriginalsUpTo(100);
-    pasteboard.copyText(std::string(101, 'x'));
+    pasteboard.copy(content({{"text/html", "x"}, {"text/plain", std::string(101, 'x')}}));
     clean();
-    EXPECT_EQ(restore(), Restored::nothingKept);
+    EXPECT_EQ(restore(), Restored::tooLarge);
 
-    // A format that does not fit is left out; the text is kept first.
+    // Formats that do not fit, that are late, or that have no usable name; pictures are read last.
     pasteboard.copy(content({{"image/png", std::string(98, 'x')},
+                             {"application/x-own", "own"},
                              {"text/html", "<b>a b</b>"},
                              {"UTF8_STRING", "a b"}}));
+    pasteboard.log.clear();
     clean();
-    EXPECT_EQ(restore(), Restored::done);
-    EXPECT_EQ(pasteboard.formatNames(), Log({"text/html", "UTF8_STRING"}));
+    EXPECT_EQ(pasteboard.log[1], "read UTF8_STRING,text/html,application/x-own,image/png");
+    EXPECT_EQ(restore(), Restored::incomplete);
+    EXPECT_EQ(pasteboard.formatNames(), Log({"application/x-own", "text/html", "UTF8_STRING"}));
+    EXPECT_EQ(restore(), Restored::done) << "the result is whole";
+
+    pasteboard.copy(rich, {.silent = {"text/html"}});
+    engine.changePasteboard();
+    mainQueue.advance(platform::pasteboardOthersLimit);
+    finish();
+    EXPECT_EQ(text(), "ab");
+    EXPECT_EQ(restore(), Restored::incomplete);
+    EXPECT_EQ(pasteboard.formatNames(), Log({"UTF8_STRING", "image/png"}));
 }
 
-TEST_F(RestoreTest, ADroppedCleanLeavesTheOriginalBefore) {
+TEST_F(RestoreTest, OfTwoCleansOfOurResultTheOriginalStays) {
+    setOptions({{"udRemoveAllSpaces", true}, {"udPrefixTextField", u">"}});
     pasteboard.copy(rich);
     clean();
-    pasteboard.copyText("dropped");
-    begin();
-    pasteboard.copyText("newer");
+    engine.changePasteboardWithKeys(addPrefix);
+    engine.changePasteboardWithKeys(addPrefix);
     finish();
     EXPECT_EQ(restore(), Restored::done);
     EXPECT_EQ(plain(pasteboard.content()), plain(rich));

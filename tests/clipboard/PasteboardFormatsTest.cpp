@@ -8,19 +8,36 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-TEST(PasteboardFormats, TheBestTextIsKnownByName) {
-    const std::pair<Names, const char *> rows[] = {
-        {{"STRING", "UTF8_STRING"}, "UTF8_STRING"},
+TEST(PasteboardFormats, TextsAreKnownByName) {
+    const std::pair<Names, Names> rows[] = {
+        {{"STRING", "UTF8_STRING"}, {"UTF8_STRING", "STRING"}},
         {{"text/html", "TEXT", "text/plain", "text/plain;charset=utf-8"},
-         "text/plain;charset=utf-8"},
-        {{"STRING", "Text/Plain;Charset=UTF-8"}, "Text/Plain;Charset=UTF-8"},
-        {{"text/plain;charset=utf-16"}, nullptr}, // is not read as UTF-8
-        {{"image/png", "text/html"}, nullptr},
-        {{}, nullptr},
+         {"text/plain;charset=utf-8", "text/plain", "TEXT"}},
+        {{"STRING", R"(Text/Plain ; x=y; Charset = "UTF-8")"},
+         {R"(Text/Plain ; x=y; Charset = "UTF-8")", "STRING"}},
+        {{"STRING", "text/plain;charset=utf-16", "text/plain;charset=nonsense",
+          "text/plain;charset=utf-16,swaplfnl"},
+         {"text/plain;charset=utf-16", "STRING"}},
+        {{"image/png", "text/html", "text/plainer", "C_STRING"}, {}},
     };
     for (const auto &[names, expected] : rows) {
-        const auto *text = bestTextFormat(names);
-        EXPECT_EQ(text ? *text : "(none)", expected ? expected : "(none)");
+        EXPECT_EQ(textFormats(names), expected);
+    }
+    EXPECT_TRUE(onlyPlainText({"COMPOUND_TEXT", "text/plain;charset=nonsense", "TEXT"}));
+    EXPECT_FALSE(onlyPlainText({"text/plain", "x-own"}));
+    EXPECT_EQ(readingOrder({"image/png", "x-own", "application/x-openoffice-emf", "TEXT",
+                            "application/rtf", "text/html"}),
+              Names({"TEXT", "application/rtf", "text/html", "x-own", "image/png",
+                     "application/x-openoffice-emf"}));
+}
+
+TEST(PasteboardFormats, AnAddressAloneIsALink) {
+    for (const auto *link : {u"https://example.org/a?b=c#d", u"a+1.b-c://x", u"file:///a%20b"}) {
+        EXPECT_TRUE(isUrl(link));
+    }
+    for (const auto *other : {u"https://", u"://x", u"1a://x", u"see https://x", u"https://x y",
+                              u"https://x\n", u"https://x\u2003", u"mailto:a@b", u"a b://c", u""}) {
+        EXPECT_FALSE(isUrl(other));
     }
 }
 
@@ -33,17 +50,41 @@ TEST(PasteboardFormats, AddressesAndSecretsAreKnownByName) {
     // As Firefox offers ordinary text, and KeePassXC a password.
     EXPECT_FALSE(offersUrl(Names{"text/html", "text/x-moz-url-priv", "UTF8_STRING"}));
     EXPECT_FALSE(offersUrl(Names{}));
-    EXPECT_TRUE(marksSecret(Names{"text/plain", "x-kde-passwordManagerHint"}));
+    for (const char *hint : {"x-kde-passwordManagerHint", "Clipboard Viewer Ignore",
+                             "ExcludeClipboardContentFromMonitorProcessing",
+                             R"(application/x-own;name="Clipboard Viewer Ignore")"}) {
+        EXPECT_TRUE(marksSecret(Names{"text/plain", hint})) << hint;
+    }
 }
 
-TEST(PasteboardFormats, DecodeByTheFormatsEncoding) {
-    const auto decoded = [](std::string format, std::string bytes) {
-        return decodeText({std::move(format), {}, std::make_shared<const std::string>(bytes)});
+TEST(PasteboardFormats, DecodeByTheDeclaredTypeOrElseTheFormat) {
+    const struct {
+        const char *format;
+        const char *type;
+        std::string bytes;
+        std::optional<std::u16string> text;
+    } rows[] = {
+        {"UTF8_STRING", "", "\xc3\xa9\xf0\x9f\x99\x82", u"é🙂"},
+        {"STRING", "", "\xe9", u"é"},
+        {"text/plain", "", "caf\xe9", std::nullopt},
+        {"text/plain", "", "", u""},
+        {"text/plain; charset=\"ISO-8859-15\"", "", "\xa4", u"€"},
+        {"text/plain;charset=utf-16le", "", std::string("a\0=\xd8", 4), std::nullopt},
+        {"text/plain;charset=utf-16", "", std::string("\xff\xfe\xac\x20", 4), u"€"},
+        {"text/plain;charset=shift_jis", "", "\x82\xa0", u"あ"},
+        // What owners say of an X11 property.
+        {"UTF8_STRING", "STRING", "\xe9", u"é"},
+        {"STRING", "UTF8_STRING", "\xc3\xa9", u"é"},
+        {"TEXT", "text/plain;charset=koi8-r", "\xc1", u"а"},
+        {"TEXT", "COMPOUND_TEXT", "\x1b-L\xd6", u"ж"},
+        {"UTF8_STRING", "x-own", "\xc3\xa9", u"é"},
     };
-    EXPECT_EQ(decoded("UTF8_STRING", "\xc3\xa9\xf0\x9f\x99\x82"), u"é🙂");
-    EXPECT_EQ(decoded("STRING", "\xe9"), u"é");
-    EXPECT_EQ(decoded("text/plain", "caf\xe9"), std::nullopt);
-    EXPECT_EQ(decoded("text/plain", ""), u"");
+    for (const auto &row : rows) {
+        EXPECT_EQ(
+            decodeText({row.format, row.type, std::make_shared<const std::string>(row.bytes)}),
+            row.text)
+            << row.format << " as " << row.type;
+    }
 }
 
 TEST(PasteboardFormats, OurTextIsOfferedAsPlainTextOnly) {

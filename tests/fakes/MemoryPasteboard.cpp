@@ -26,11 +26,11 @@ std::vector<std::string> namesOf(const platform::PasteboardContent &content) {
 
 } // namespace
 
-void MemoryPasteboard::copy(platform::PasteboardContent content, MemoryOwner owner) {
+void MemoryPasteboard::copy(platform::PasteboardContent content, const MemoryOwner &owner) {
     replace(std::move(content), owner);
 }
 
-void MemoryPasteboard::copyText(std::string utf8, MemoryOwner owner) {
+void MemoryPasteboard::copyText(std::string utf8, const MemoryOwner &owner) {
     replace(clipboard::plainTextContent(std::move(utf8)), owner);
 }
 
@@ -54,7 +54,7 @@ std::vector<std::string> MemoryPasteboard::formatNames() const {
     return namesOf(content_);
 }
 
-void MemoryPasteboard::replace(platform::PasteboardContent content, MemoryOwner owner) {
+void MemoryPasteboard::replace(platform::PasteboardContent content, const MemoryOwner &owner) {
     content_ = std::move(content);
     owner_ = owner;
     ++changeCount_;
@@ -94,27 +94,39 @@ void MemoryPasteboard::readFormats(FormatsHandler handler) {
     });
 }
 
-void MemoryPasteboard::read(platform::ChangeCount of, std::vector<std::string> formats,
-                            std::size_t limit, ReadHandler handler) {
-    log.push_back("read " + joined(formats));
-    ask([this, of, formats = std::move(formats), limit,
+void MemoryPasteboard::read(platform::ChangeCount of, platform::PasteboardRequest request,
+                            ReadHandler handler) {
+    ask([this, of, request = std::move(request),
          handler = std::move(handler)](platform::PasteboardStatus status) {
         if (status == platform::PasteboardStatus::done && of != changeCount_) {
             status = platform::PasteboardStatus::changed;
         }
-        platform::PasteboardRead result{status, {}};
-        std::size_t left = limit;
-        for (const auto &format : formats) {
-            const auto found =
-                std::ranges::find(content_, format, &platform::PasteboardData::format);
-            if (status == platform::PasteboardStatus::done && !owner_.deliversNothing &&
-                found != content_.end() && found->bytes->size() <= left) {
-                left -= found->bytes->size();
-                result.content.push_back(*found);
-            }
+        const auto reading = std::make_shared<platform::PasteboardReading>(request);
+        if (status != platform::PasteboardStatus::done || deliver(*reading)) {
+            handler(reading->result(status));
+        } else {
+            mainQueue_.postAfter(platform::pasteboardOthersLimit,
+                                 [reading, handler] { handler(reading->late()); });
         }
-        handler(std::move(result));
     });
+}
+
+bool MemoryPasteboard::deliver(platform::PasteboardReading &reading) {
+    std::vector<std::string> asked;
+    while (const auto place = reading.next()) {
+        const auto &format = asked.emplace_back(reading.format(*place));
+        const auto found = std::ranges::find(content_, format, &platform::PasteboardData::format);
+        if (owner_.deliversNothing || found == content_.end()) {
+            reading.failed(platform::PasteboardReading::Failure::refused);
+        } else if (found->bytes->size() > *reading.room()) {
+            reading.failed(platform::PasteboardReading::Failure::tooLarge);
+        } else if (std::ranges::find(owner_.silent, format) == owner_.silent.end()) {
+            *reading.room() -= found->bytes->size();
+            reading.arrived(*place, *found);
+        }
+    }
+    log.push_back("read " + joined(asked));
+    return reading.finished();
 }
 
 void MemoryPasteboard::write(platform::PasteboardContent content,

@@ -4,6 +4,7 @@
 
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
+#include "platform/PasteboardReading.h"
 
 #include <memory>
 #include <string>
@@ -16,9 +17,10 @@ namespace nerlo::test {
 // How the owner of the content behaves. An own write brings an obedient owner back.
 struct MemoryOwner {
     platform::MainQueue::Clock::duration
-        delay{};                  // before each answer; above the stall limit: given up
-    bool deliversNothing = false; // offers formats and has bytes for none
-    bool gone = false;            // there is no answer at all, and no connection
+        delay{};                       // before each answer; above the stall limit: given up
+    bool deliversNothing = false;      // offers formats and has bytes for none
+    std::vector<std::string> silent{}; // formats that it is asked for and never answers
+    bool gone = false;                 // there is no answer at all, and no connection
 };
 
 class MemoryPasteboard final : public platform::Pasteboard {
@@ -28,8 +30,8 @@ class MemoryPasteboard final : public platform::Pasteboard {
         , notifies_(notifies) {}
 
     // Another program's copy, with the owner's behaviour.
-    void copy(platform::PasteboardContent content, MemoryOwner owner = {});
-    void copyText(std::string utf8, MemoryOwner owner = {});
+    void copy(platform::PasteboardContent content, const MemoryOwner &owner = {});
+    void copyText(std::string utf8, const MemoryOwner &owner = {});
     // The content goes, by its owner's end or by hand.
     void empty();
 
@@ -38,8 +40,9 @@ class MemoryPasteboard final : public platform::Pasteboard {
     std::string bytes(std::string_view format) const;
     std::vector<std::string> formatNames() const;
 
-    // One line for each call in order: "formats", "read text/plain,STRING", "write
-    // text/plain,STRING", and "written" or "refused" once a write has been decided.
+    // One line for each call in order: "formats", "read text/plain,STRING" (what the owner was
+    // asked for), "write text/plain,STRING", and "written" or "refused" once a write has been
+    // decided.
     std::vector<std::string> log;
 
     platform::ChangeCount changeCount() const override { return changeCount_; }
@@ -47,7 +50,7 @@ class MemoryPasteboard final : public platform::Pasteboard {
     void setChangeHandler(std::function<void()> changed) override { changed_ = std::move(changed); }
     void setLostHandler(std::function<void()> lost) override { lost_ = std::move(lost); }
     void readFormats(FormatsHandler handler) override;
-    void read(platform::ChangeCount of, std::vector<std::string> formats, std::size_t limit,
+    void read(platform::ChangeCount of, platform::PasteboardRequest request,
               ReadHandler handler) override;
     void write(platform::PasteboardContent content, std::optional<platform::ChangeCount> onlyOver,
                WriteHandler handler) override;
@@ -58,7 +61,9 @@ class MemoryPasteboard final : public platform::Pasteboard {
     void lose();
 
   private:
-    void replace(platform::PasteboardContent content, MemoryOwner owner);
+    void replace(platform::PasteboardContent content, const MemoryOwner &owner);
+    // False while the owner is silent about a format.
+    bool deliver(platform::PasteboardReading &reading);
     // Runs `answer` when the owner answers or is given up; it gets the status so far.
     void ask(std::function<void(platform::PasteboardStatus)> answer);
 

@@ -37,10 +37,13 @@ struct PasteboardUser {
         return answer<platform::PasteboardFormats>(
             [&](auto handler) { pasteboard->readFormats(handler); });
     }
-    platform::PasteboardRead read(const Strings &wanted, std::size_t limit = 200 << 20) const {
+    platform::PasteboardRead read(const platform::PasteboardRequest &request) const {
         const auto count = formats().changeCount;
         return answer<platform::PasteboardRead>(
-            [&](auto handler) { pasteboard->read(count, wanted, limit, handler); });
+            [&](auto handler) { pasteboard->read(count, request, handler); });
+    }
+    platform::PasteboardRead read(const Strings &wanted, std::size_t limit = 200 << 20) const {
+        return read({{}, 0, wanted, limit});
     }
     std::string text(const std::string &format = "text/plain;charset=utf-8") const {
         const auto result = read({format});
