@@ -52,6 +52,8 @@ constexpr StoreKey storeKeys[] = {
     {"lunchOnStartup", SettingKind::Boolean, "application", "start at login", false},
     {"automaticallyClearFormatting", SettingKind::Boolean, "application",
      "clean on every change of the clipboard", false},
+    {"cleanAtOnce", SettingKind::Boolean, "application",
+     "automatic cleaning follows a copy without a delay"},
     {"showInMenubar", SettingKind::Boolean, "application", "show the status-bar item", true},
     {"runInTheBackground", SettingKind::Boolean, "application",
      "neither a status-bar item nor an entry in the taskbar"},

@@ -71,6 +71,7 @@ DesktopShell::DesktopShell(Program &program)
     hotKeyStatus_ = program_.hotKeys().observeStatus([this] { updateHotKeys(); });
     connectPreferences();
     program_.engine().setReportHandler([this](const auto &report) { showReport(report); });
+    updateRestorable();
 }
 
 DesktopShell::~DesktopShell() {
@@ -387,6 +388,15 @@ void DesktopShell::updateNotice() {
         lines.push_back(QString::fromStdString(text));
     }
     window_->setNotice(lines.join('\n'));
+}
+
+void DesktopShell::updateRestorable() {
+    using Restored = clipboard::nrChangePasterboard::Restored;
+    const auto outcome = program_.engine().restorable();
+    const bool restores = outcome == Restored::done || outcome == Restored::incomplete;
+    menu_->setRestorable(
+        restores ? std::optional(QString::fromStdU16String(program_.engine().restorableWords()))
+                 : std::nullopt);
 }
 
 void DesktopShell::restore() {

@@ -38,6 +38,8 @@ class DesktopShell final : public ShellWindows {
     QWidget *makeRecorder(const std::string &hotKey);
     // Puts the original back, and says so when that cannot be.
     void restore();
+    // Names in the menu what a restore would bring back.
+    void updateRestorable();
     void hidePreferences();
     // Whether the preferences, when they are closed, must stay as an entry in the taskbar, because
     // there is no other way back to them.

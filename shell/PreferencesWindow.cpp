@@ -45,6 +45,8 @@ using Delegate = nrAppDelegate;
 constexpr GeneralBox generalBoxes[] = {
     {"automatic", "Automatically clear formatting", "sAutomaticTip", &Delegate::automatic,
      [](Delegate &delegate, bool) { delegate.automaticallyClearFormatting(); }, true},
+    {"cleanAtOnce", "Clean right after the copy", "sCleanAtOnceTip", &Delegate::cleanAtOnceChecked,
+     [](Delegate &delegate, bool on) { delegate.cleanAtOnce(on); }, true},
     {"excelException", "Except copies from Excel", "sExceptSpreadsheetTip",
      &Delegate::excelException,
      [](Delegate &delegate, bool) { delegate.disableAutomaticallyClearFormatting(); }, true},
@@ -59,7 +61,7 @@ constexpr GeneralBox generalBoxes[] = {
     {"stayOnTop", "sStayOnTop", "sStayOnTopTip", &Delegate::stayOnTopChecked,
      [](Delegate &delegate, bool on) { delegate.aStayOnTop(on); }, false},
 };
-constexpr std::size_t showInMenuBarBox = 2; // dimmed while the program runs in the background
+constexpr std::size_t showInMenuBarBox = 3; // dimmed while the program runs in the background
 
 QCheckBox *makeBox(const char *name, const QString &title, const char *tipKey) {
     auto *box = new QCheckBox(title);

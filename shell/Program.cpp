@@ -76,7 +76,14 @@ void Program::connect() {
         return std::make_unique<nrCountWindowController>(store_, parts_.mainQueue,
                                                          parts_.desktop.popupLayer.backend.get());
     });
+    engine_.setTooLargeHandler([this] {
+        windows_.setProblem(
+            ShellWindows::Problem::largeText,
+            localized("sTextTooLarge").arg(clipboard::cleanedTextLimit >> 20).toStdString());
+    });
+    engine_.setRestorableHandler([this] { windows_.updateRestorable(); });
     engine_.setCleanedHandler([this] {
+        windows_.setProblem(ShellWindows::Problem::largeText, {});
         if (listener_) {
             listener_->cleaned();
         }

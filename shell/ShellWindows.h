@@ -40,7 +40,16 @@ class ShellWindows {
     virtual void quit() = 0;
 
     // What is not as the user wants it, told for as long as it lasts.
-    enum class Problem { tray, shortcuts, settings, damage, profiles, loginItem, leftOutRules };
+    enum class Problem {
+        tray,
+        shortcuts,
+        settings,
+        damage,
+        profiles,
+        loginItem,
+        leftOutRules,
+        largeText,
+    };
     // Each of them replaces the one of its kind; an empty text ends it. One line or more, UTF-8.
     virtual void setProblem(Problem problem, const std::string &text) = 0;
 

@@ -209,6 +209,19 @@ void StatusMenu::setExcelException(bool on) {
     excelException_->setChecked(on);
 }
 
+void StatusMenu::setRestorable(const std::optional<QString> &words) {
+    restore_->setEnabled(words.has_value());
+    restorable_ = words.value_or(QString());
+    nameRestorable();
+}
+
+// The menu bar of the preferences has the same item; what is right in the tray counts more.
+void StatusMenu::nameRestorable() {
+    const auto words = overBus_ ? escapedForBus(restorable_) : escaped(restorable_);
+    restore_->setText(words.isEmpty() ? title("Restore the original")
+                                      : title("Restore “%1”").arg(words));
+}
+
 void StatusMenu::setProfiles(const QStringList &names, int selected) {
     profileNames_ = names;
     fillProfiles(*profiles_, selected);
@@ -218,6 +231,7 @@ void StatusMenu::setProfiles(const QStringList &names, int selected) {
 
 void StatusMenu::setShownOverBus(bool overBus) {
     overBus_ = overBus;
+    nameRestorable();
     const auto actions = trayProfiles_->actions();
     for (int place = 0; place < actions.size(); ++place) {
         const QString &name = profileNames_[place];

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QMenuBar;
@@ -30,6 +31,8 @@ class StatusMenu final : public QObject {
 
     void setAutomatic(bool on);
     void setExcelException(bool on);
+    // The beginning of the text that a restore would bring back; nothing if there is none.
+    void setRestorable(const std::optional<QString> &words);
     // `selected` is -1 for none.
     void setProfiles(const QStringList &names, int selected);
     // Whether menu() is shown by a panel over the bus, which reads a title in its own way.
@@ -43,6 +46,7 @@ class StatusMenu final : public QObject {
   private:
     QAction *add(const char *name, const char *title, void (*run)(Program &));
     void makeOperations();
+    void nameRestorable();
     void makeEditActions();
     void fillProfiles(QMenu &menu, int selected);
 
@@ -57,6 +61,7 @@ class StatusMenu final : public QObject {
     QAction *automatic_;
     QAction *excelException_;
     QAction *restore_;
+    QString restorable_;
     QAction *preferences_;
     QAction *tips_;
     QAction *whatsNew_;

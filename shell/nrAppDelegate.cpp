@@ -13,6 +13,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto automaticKey = "automaticallyClearFormatting";
+constexpr auto cleanAtOnceKey = "cleanAtOnce";
 constexpr auto showInMenuBarKey = "showInMenubar";
 constexpr auto stayOnTopKey = "stayOnTop";
 constexpr auto launchOnStartupKey = "lunchOnStartup"; // the misspelling is the key
@@ -55,6 +56,7 @@ void nrAppDelegate::applicationWillFinishLaunching() {
 
 void nrAppDelegate::applicationDidFinishLaunching() {
     excelException_ = userDef_.boolForKey(disableAutomaticKey);
+    watcher_.setAtOnce(cleanAtOnceChecked());
     if (userDef_.boolForKey(automaticKey)) {
         watchPasteboard();
         automatic_ = true;
@@ -188,6 +190,15 @@ void nrAppDelegate::disableAutomaticallyClearFormatting() {
     if (excelException_) {
         windows_.showAlert("Excel disabled", "With option \"Automatically clear formatting\"");
     }
+}
+
+bool nrAppDelegate::cleanAtOnceChecked() const {
+    return userDef_.boolForKey(cleanAtOnceKey);
+}
+
+void nrAppDelegate::cleanAtOnce(bool on) {
+    userDef_.set(cleanAtOnceKey, on);
+    watcher_.setAtOnce(on);
 }
 
 void nrAppDelegate::showPreferences() {

@@ -58,6 +58,7 @@ class nrAppDelegate {
     // The check marks.
     bool automatic() const { return automatic_; }
     bool excelException() const { return excelException_; }
+    bool cleanAtOnceChecked() const;
     bool showInMenuBarChecked() const;
     bool runInTheBackgroundChecked() const;
     bool launchOnStartupChecked() const;
@@ -67,6 +68,8 @@ class nrAppDelegate {
     void clearFormattingFromClipboard();
     void automaticallyClearFormatting();
     void disableAutomaticallyClearFormatting();
+    // Whether automatic cleaning follows a copy without a delay.
+    void cleanAtOnce(bool on);
     void showPreferences();
     void openAboutApp();
     void quitApp();

@@ -203,10 +203,6 @@
 بعد: كل ما تنسخه يُنظَّف تلقائيًا.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>التنظيف فور النسخ</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>قبل: تُنظَّف النسخة خلال نصف ثانية.
 بعد: تُنظَّف النسخة فورًا.</translation>
@@ -1203,6 +1199,10 @@
     <message>
         <source>Automatically clear formatting</source>
         <translation>محو التنسيق تلقائيًا</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>التنظيف فور النسخ</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@ Nachher: Dieses Fenster bleibt über ihnen.</translation>
 Nachher: Jede Kopie wird von selbst bereinigt.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Gleich nach dem Kopieren bereinigen</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Vorher: Eine Kopie wird innerhalb einer halben Sekunde bereinigt.
 Nachher: Eine Kopie wird sofort bereinigt.</translation>
@@ -1203,6 +1199,10 @@ MIT-Lizenz</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Formatierung automatisch entfernen</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Gleich nach dem Kopieren bereinigen</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@
 Μετά: κάθε αντίγραφο καθαρίζεται μόνο του.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Καθαρισμός αμέσως μετά την αντιγραφή</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Πριν: ένα αντίγραφο καθαρίζεται μέσα σε μισό δευτερόλεπτο.
 Μετά: ένα αντίγραφο καθαρίζεται αμέσως.</translation>
@@ -1203,6 +1199,10 @@
     <message>
         <source>Automatically clear formatting</source>
         <translation>Αυτόματη εκκαθάριση μορφοποίησης</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Καθαρισμός αμέσως μετά την αντιγραφή</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@ After: this window stays above them.</translation>
 After: every copy is cleaned by itself.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Clean right after the copy</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Before: a copy is cleaned within half a second.
 After: a copy is cleaned at once.</translation>
@@ -1205,6 +1201,10 @@ MIT licence</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Automatically clear formatting</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Clean right after the copy</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

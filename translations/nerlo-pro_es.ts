@@ -203,10 +203,6 @@ Después: esta ventana queda por encima de ellas.</translation>
 Después: cada copia se limpia sola.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Limpiar justo después de copiar</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Antes: una copia se limpia en medio segundo.
 Después: una copia se limpia al instante.</translation>
@@ -1203,6 +1199,10 @@ Licencia MIT</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Quitar el formato automáticamente</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Limpiar justo después de copiar</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@ Après : cette fenêtre reste au-dessus des autres.</translation>
 Après : chaque copie est nettoyée toute seule.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Nettoyer dès la copie</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Avant : une copie est nettoyée en moins d’une demi-seconde.
 Après : une copie est nettoyée aussitôt.</translation>
@@ -1203,6 +1199,10 @@ Licence MIT</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Effacer la mise en forme automatiquement</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Nettoyer dès la copie</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@ Dopo: questa finestra resta sopra le altre.</translation>
 Dopo: ogni copia viene ripulita da sola.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Ripulisci subito dopo la copia</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Prima: una copia viene ripulita entro mezzo secondo.
 Dopo: una copia viene ripulita subito.</translation>
@@ -1203,6 +1199,10 @@ Licenza MIT</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Rimuovi automaticamente la formattazione</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Ripulisci subito dopo la copia</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@
 後：コピーするたびに自動で整形されます。</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>コピー直後に整形</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>前：コピーは半秒以内に整形されます。
 後：コピーはすぐに整形されます。</translation>
@@ -1203,6 +1199,10 @@ MIT ライセンス</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>書式を自動的に消去</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>コピー直後に整形</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

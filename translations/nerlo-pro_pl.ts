@@ -203,10 +203,6 @@ Po: to okno pozostaje nad nimi.</translation>
 Po: każda kopia jest czyszczona sama.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Czyść zaraz po skopiowaniu</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Przed: kopia jest czyszczona w ciągu pół sekundy.
 Po: kopia jest czyszczona od razu.</translation>
@@ -1203,6 +1199,10 @@ Licencja MIT</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Automatycznie usuwaj formatowanie</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Czyść zaraz po skopiowaniu</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

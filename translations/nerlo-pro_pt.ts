@@ -203,10 +203,6 @@ Depois: esta janela fica acima delas.</translation>
 Depois: cada cópia é limpa sozinha.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Limpar logo depois de copiar</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Antes: uma cópia é limpa em meio segundo.
 Depois: uma cópia é limpa na hora.</translation>
@@ -1203,6 +1199,10 @@ Licença MIT</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Limpar a formatação automaticamente</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Limpar logo depois de copiar</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

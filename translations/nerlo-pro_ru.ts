@@ -203,10 +203,6 @@
 После: всё скопированное очищается само.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Очищать сразу после копирования</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>До: скопированное очищается в течение полусекунды.
 После: скопированное очищается сразу.</translation>
@@ -1203,6 +1199,10 @@
     <message>
         <source>Automatically clear formatting</source>
         <translation>Автоматически очищать форматирование</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Очищать сразу после копирования</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

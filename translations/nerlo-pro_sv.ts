@@ -203,10 +203,6 @@ Efter: det här fönstret ligger ovanför dem.</translation>
 Efter: varje kopia rensas av sig själv.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Rensa direkt efter kopieringen</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Före: en kopia rensas inom en halv sekund.
 Efter: en kopia rensas genast.</translation>
@@ -1203,6 +1199,10 @@ MIT-licens</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>Rensa formatering automatiskt</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Rensa direkt efter kopieringen</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

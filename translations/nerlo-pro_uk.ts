@@ -203,10 +203,6 @@
 Після: усе скопійоване очищається саме.</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>Очищати одразу після копіювання</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>До: скопійоване очищається протягом пів секунди.
 Після: скопійоване очищається одразу.</translation>
@@ -1203,6 +1199,10 @@
     <message>
         <source>Automatically clear formatting</source>
         <translation>Автоматично очищати форматування</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>Очищати одразу після копіювання</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -203,10 +203,6 @@
 之后：每次复制都会自动清理。</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>复制后立即清理</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>之前：复制的内容会在半秒内清理。
 之后：复制的内容会立即清理。</translation>
@@ -1203,6 +1199,10 @@ MIT 许可证</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>自动清除格式</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>复制后立即清理</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

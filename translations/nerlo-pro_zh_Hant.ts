@@ -203,10 +203,6 @@
 之後：每次複製都會自動清理。</translation>
     </message>
     <message>
-        <source>sCleanAtOnce</source>
-        <translation>複製後立即清理</translation>
-    </message>
-    <message>
         <source>sCleanAtOnceTip</source>
         <translation>之前：複製的內容會在半秒內清理。
 之後：複製的內容會立即清理。</translation>
@@ -1203,6 +1199,10 @@ MIT 授權</translation>
     <message>
         <source>Automatically clear formatting</source>
         <translation>自動清除格式</translation>
+    </message>
+    <message>
+        <source>Clean right after the copy</source>
+        <translation>複製後立即清理</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -118,6 +118,27 @@ TEST_P(PasteboardWatcherTest, AManualCleanIsNotFollowedByAnAutomaticOne) {
     }
 }
 
+TEST_P(PasteboardWatcherTest, CleansAtOnceWhereChangesAreAnnounced) {
+    watcher.setAtOnce(true);
+    pasteboard.copyText("before the start");
+    queue.runPosted();
+    EXPECT_EQ(cleans(), 0u);
+    watcher.start();
+    for (const auto *text : {"1 ", "2 "}) {
+        pasteboard.copy({{"UTF8_STRING", {}, std::make_shared<const std::string>(text)},
+                         {"text/html", {}, std::make_shared<const std::string>(text)}});
+        queue.runPosted();
+        EXPECT_EQ(cleans(), GetParam() ? 1u : 0u);
+        finish();
+        advance(2s);
+        finish();
+        EXPECT_EQ(pasteboard.bytes("text/html"), "") << "it has been cleaned";
+        EXPECT_EQ(pasteboard.bytes("TEXT"), text);
+        advance(10s);
+        EXPECT_EQ(cleans(), 0u) << "our own write is no copy";
+    }
+}
+
 TEST_P(PasteboardWatcherTest, StopsAndStartsAfresh) {
     watcher.stop();
     watcher.start();

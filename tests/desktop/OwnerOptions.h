@@ -7,6 +7,8 @@
 //   --stall-after N    deliver N bytes, and then nothing more
 //   --die-after N      deliver N bytes, and die
 //   --endless          deliver for ever
+//   --mute             never answer for a picture (image/...)
+//   --slow N           take so many milliseconds for each picture, and do nothing else meanwhile
 //   --more-formats N   offer so many formats more, which are never delivered
 //
 // They print "owned" when they own the clipboard, "send FORMAT" for each request, and "replaced"
@@ -15,10 +17,12 @@
 
 #include "tests/TemporaryFolder.h"
 
+#include <chrono>
 #include <limits>
 #include <map>
 #include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace nerlo::test {
@@ -29,6 +33,7 @@ struct OwnerOptions {
     std::size_t deliver = std::numeric_limits<std::size_t>::max(); // bytes, and then
     bool dies = false;
     int moreFormats = 0;
+    unsigned slow = 0; // milliseconds
 
     OwnerOptions(int argc, char **argv) {
         const std::vector<std::string> arguments(argv + 1, argv + argc);
@@ -36,6 +41,8 @@ struct OwnerOptions {
             const std::string &option = arguments[i];
             if (option == "--more-formats") {
                 moreFormats = std::stoi(arguments.at(++i));
+            } else if (option == "--slow") {
+                slow = static_cast<unsigned>(std::stoul(arguments.at(++i)));
             } else if (option == "--stall-after" || option == "--die-after") {
                 deliver = std::stoul(arguments.at(++i));
                 dies = option == "--die-after";
@@ -48,6 +55,14 @@ struct OwnerOptions {
         }
     }
     bool has(const std::string &flag) const { return flags.contains(flag); }
+    // Before an answer; false for none at all.
+    bool mayAnswer(const std::string &format) const {
+        const bool picture = format.starts_with("image/");
+        if (picture) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(slow));
+        }
+        return !has("--hang") && !(picture && has("--mute"));
+    }
 
   private:
     static std::string valueOf(const std::string &value) {

@@ -74,7 +74,9 @@ class Owner final : private SourceEvents, private DeviceEvents {
   private:
     void send(wl_proxy *, const char *format, int fd) override {
         std::cout << "send " << format << std::endl;
-        std::thread([this, name = std::string(format), fd] { answer(name, fd); }).detach();
+        if (options_.mayAnswer(format)) {
+            std::thread([this, name = std::string(format), fd] { answer(name, fd); }).detach();
+        }
     }
     void cancelled(wl_proxy *) override { replaced_ = true; }
     void newOffer(wl_proxy *) override {}
@@ -94,9 +96,7 @@ class Owner final : private SourceEvents, private DeviceEvents {
         }
         const std::string &value = found->second;
         const bool endless = options_.has("--endless");
-        std::size_t left = options_.has("--hang") ? 0
-                           : endless              ? options_.deliver
-                                                  : std::min(options_.deliver, value.size());
+        std::size_t left = endless ? options_.deliver : std::min(options_.deliver, value.size());
         for (std::size_t from = 0; left > 0 && !value.empty();) {
             const auto count = write(fd, value.data() + from, std::min(value.size() - from, left));
             if (count <= 0) {
@@ -108,7 +108,7 @@ class Owner final : private SourceEvents, private DeviceEvents {
         if (options_.dies) {
             _exit(1);
         }
-        if (!options_.has("--hang") && options_.deliver >= value.size()) {
+        if (options_.deliver >= value.size()) {
             close(fd);
         }
     }

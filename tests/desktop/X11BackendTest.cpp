@@ -126,7 +126,7 @@ TEST_F(X11Backend, APeerThatHangsOrFloodsHoldsUpNothingElse) {
         const auto count = ours.pasteboard->changeCount();
         std::optional<PasteboardRead> result;
         const auto start = std::chrono::steady_clock::now();
-        ours.pasteboard->read(count, {"UTF8_STRING"}, 1000,
+        ours.pasteboard->read(count, {{"UTF8_STRING"}, 1000, {}, 1000},
                               [&](auto got) { result = std::move(got); });
         EXPECT_TRUE(seesTheNextFile());
         EXPECT_FALSE(result);

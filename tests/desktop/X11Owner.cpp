@@ -118,7 +118,7 @@ class Owner {
     void answer(const xcb_selection_request_event_t &request) {
         const auto format = x_->names(std::array{request.target}, 255).front();
         std::cout << "send " << format << std::endl;
-        if (options_.has("--hang")) {
+        if (!options_.mayAnswer(format)) {
             return;
         }
         xcb_selection_notify_event_t notify{XCB_SELECTION_NOTIFY,

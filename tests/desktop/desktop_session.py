@@ -63,10 +63,10 @@ def output_of(*command, text=None, seconds=30):
 class Logged:
     """A program in the background, with what it has printed so far."""
 
-    def __init__(self, *command, ready=None, stderr=None):
+    def __init__(self, *command, ready=None, stderr=None, env=None):
         self.log = tempfile.NamedTemporaryFile(dir=os.environ["NERLO_SESSION_DIR"])
         self.process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=self.log,
-                                        stderr=stderr, start_new_session=True)
+                                        stderr=stderr, env=env, start_new_session=True)
         if ready:
             wait_until(lambda: ready in self.lines, f"{command[0]} says {ready}")
 

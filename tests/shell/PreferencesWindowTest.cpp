@@ -445,6 +445,11 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     EXPECT_EQ(sort.text(), "Sort lines");
     EXPECT_EQ(result(sort), "a\nb  b");
     EXPECT_EQ(result(*menu.menu().actions()[0]), "b b a");
+    const auto &restore = *menu.findChild<QAction *>("restore");
+    menu.setRestorable(QString("R&D"));
+    EXPECT_EQ(restore.text(), "Restore “R&&D”");
+    menu.setRestorable({});
+    EXPECT_FALSE(restore.isEnabled());
     menu.setCleanShortcut(QKeySequence("Meta+V"));
     EXPECT_EQ(menu.menu().actions()[0]->shortcut(), QKeySequence("Meta+V"));
     const auto items = menu.mainMenu();
