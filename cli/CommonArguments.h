@@ -33,8 +33,9 @@ struct OptionArguments {
 
 void addOptions(CLI::App &command, OptionArguments &arguments);
 
-// The place of the selected profile in a list of `count`. Throws Failure when the settings cannot be
-// read: with a profile that nobody chose, a text would be cleaned in a way that nobody asked for.
+// The place of the selected profile in a list of `count`. Throws Failure when the settings cannot
+// be read: with a profile that nobody chose, a text would be cleaned in a way that nobody asked
+// for.
 int selectedProfile(const settings::SettingsPaths &paths, std::size_t count);
 
 // The settings that hold when nothing on the command line says otherwise.

@@ -1,4 +1,5 @@
-// Letters and names in ASCII: formats, key names, identifiers. Bytes above 0x7F stand for themselves.
+// Letters and names in ASCII: formats, key names, identifiers. Bytes above 0x7F stand for
+// themselves.
 #pragma once
 
 #include <algorithm>
