@@ -431,8 +431,8 @@ void nrPreferences::OnlyOneProfileAction() {
         findReplace_.setItems(items ? *items : PropertyArray());
     }
     findReplace_.select(-1);
-    updateUI(0);
-    updateUI(3);
+    updateUI(RulesUpdate::reload);
+    updateUI(RulesUpdate::emptyField);
     setAllBoolsInChangePasteboard();
 }
 
@@ -485,27 +485,27 @@ void nrPreferences::adoptRules(RecordItems rules) {
     const auto place = std::ranges::find(ids, id);
     findReplace_.select(place == ids.end() ? -1 : static_cast<int>(place - ids.begin()));
     keepRules();
-    updateUI(4);
+    updateUI(RulesUpdate::changed);
     setAllBoolsInChangePasteboard();
 }
 
-void nrPreferences::updateUI(int mode) {
+void nrPreferences::updateUI(RulesUpdate update) {
     if (hooks_.updateUI) {
-        hooks_.updateUI(mode);
+        hooks_.updateUI(update);
     }
 }
 
 void nrPreferences::addNewFindReplace() {
     findReplace_.append(sharedFile_.newId());
-    updateUI(2);
+    updateUI(RulesUpdate::added);
     saveCurrentFindReplaceList();
 }
 
 void nrPreferences::deleteFindReplace() {
     if (findReplace_.removeSelected()) {
-        updateUI(1);
+        updateUI(RulesUpdate::removed);
         findReplace_.select(-1);
-        updateUI(3);
+        updateUI(RulesUpdate::emptyField);
         saveCurrentFindReplaceList();
     }
 }
@@ -534,7 +534,7 @@ void nrPreferences::saveCurrentFindReplaceCheckbox(int row, bool on) {
 
 void nrPreferences::acceptDrop(const std::vector<int> &rows, int dropRow) {
     findReplace_.move(rows, dropRow);
-    updateUI(4);
+    updateUI(RulesUpdate::changed);
     keepRules();
     setAllBoolsInChangePasteboard();
 }

@@ -22,6 +22,15 @@
 
 namespace nerlo::settings {
 
+// What happened to the list of rules, for the table that shows it.
+enum class RulesUpdate {
+    reload = 0,     // another list; its first row is shown
+    removed = 1,    // the selected row has gone
+    added = 2,      // a row at the end
+    emptyField = 3, // no row is selected
+    changed = 4,    // rows in other places, or other rows
+};
+
 // What the preferences ask of the rest of the program; each may be empty.
 struct PreferencesHooks {
     // Refills the engine's options: once for each change of the selected profile.
@@ -31,9 +40,9 @@ struct PreferencesHooks {
     std::function<void()> setDefaultShortcut;
     // Whether the profile may go. Without a hook, it may.
     std::function<bool(const std::u16string &profileName)> confirmRemoval;
-    std::function<void()> profilesChanged;  // names, their order, or which one is selected
-    std::function<void()> controlsLoaded;   // all controls have new states
-    std::function<void(int mode)> updateUI; // of the rules' table, see nrPreferences::updateUI
+    std::function<void()> profilesChanged; // names, their order, or which one is selected
+    std::function<void()> controlsLoaded;  // all controls have new states
+    std::function<void(RulesUpdate)> updateUI;
     // Goes with the next save that succeeds, which is told by an empty error.
     std::function<void(const std::string &error)> saveFailed;
     std::function<void()> damaged; // loadErrors() has changed
@@ -146,9 +155,7 @@ class nrPreferences {
     void keepRules();
     void sharedFileChanged();
     void adoptRules(RecordItems rules);
-    // 0 reload and show the first row, 1 the selected row goes, 2 a row came at the end, 3 the
-    // field is empty, others reload.
-    void updateUI(int mode);
+    void updateUI(RulesUpdate update);
     std::string save();
     std::string writeSharedList();
     std::string writeProfiles();

@@ -99,9 +99,9 @@ void DesktopShell::connectPreferences() {
             window_->edited();
         }
     };
-    hooks.updateUI = [this](int mode) {
+    hooks.updateUI = [this](settings::RulesUpdate update) {
         if (window_) {
-            window_->updateUI(mode);
+            window_->updateUI(update);
         }
     };
     hooks.confirmRemoval = [this](const std::u16string &name) {

@@ -71,8 +71,13 @@ class RuleDelegate final : public QStyledItemDelegate {
                           const QModelIndex &index) const override {
         QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
         editor->setProperty(textBefore, index.data(Qt::EditRole));
-        connect(qobject_cast<QLineEdit *>(editor), &QLineEdit::textEdited, this,
-                [this, editor] { emit const_cast<RuleDelegate *>(this)->commitData(editor); });
+        // Not textEdited(), which is silent when an accessibility tool sets the text.
+        connect(qobject_cast<QLineEdit *>(editor), &QLineEdit::textChanged, this,
+                [this, editor, rule = QPersistentModelIndex(index)](const QString &text) {
+                    if (text != rule.data(Qt::EditRole)) {
+                        emit const_cast<RuleDelegate *>(this)->commitData(editor);
+                    }
+                });
         return editor;
     }
     void setEditorData(QWidget *editor, const QModelIndex &index) const override {
@@ -86,7 +91,6 @@ class RuleDelegate final : public QStyledItemDelegate {
         if (editor && event->type() == QEvent::KeyPress &&
             static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
             editor->setText(editor->property(textBefore).toString());
-            emit commitData(editor);
         }
         return QStyledItemDelegate::eventFilter(watched, event);
     }
@@ -323,15 +327,15 @@ void FindReplaceTable::showField() {
     down_->setEnabled(row >= 0 && row + 1 < count);
 }
 
-void FindReplaceTable::updateUI(int mode) {
-    if (mode == 3) {
+void FindReplaceTable::updateUI(settings::RulesUpdate update) {
+    if (update == settings::RulesUpdate::emptyField) {
         showField();
     } else {
         reload();
     }
-    if (mode == 0 && findTableView->count() > 0) {
+    if (update == settings::RulesUpdate::reload && findTableView->count() > 0) {
         findTableView->scrollToItem(findTableView->item(0));
-    } else if (mode == 2) {
+    } else if (update == settings::RulesUpdate::added) {
         findTableView->scrollToBottom();
     }
 }

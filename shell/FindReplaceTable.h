@@ -41,7 +41,7 @@ class FindReplaceTable final : public QWidget {
     // Shows the state of the preferences.
     void load();
     // See nrPreferences.
-    void updateUI(int mode);
+    void updateUI(settings::RulesUpdate update);
     // Marks the rules that the last clean left out, until their patterns change.
     void setReport(const engine::CleaningReport &report);
     QString searchTexts() const;

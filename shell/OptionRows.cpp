@@ -292,9 +292,9 @@ void OptionPage::load() {
     updateDependents();
 }
 
-void OptionPage::updateRules(int mode) {
+void OptionPage::updateRules(settings::RulesUpdate update) {
     if (rules_) {
-        rules_->updateUI(mode);
+        rules_->updateUI(update);
     }
 }
 

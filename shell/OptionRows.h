@@ -43,7 +43,7 @@ class OptionPage final : public QWidget {
     // Shows the state of the preferences.
     void load();
     // Of the find-and-replace table; see nrPreferences. Nothing on pages without it.
-    void updateRules(int mode);
+    void updateRules(settings::RulesUpdate update);
     // Marks what the last clean left out.
     void setReport(const engine::CleaningReport &report);
     // The fields stand below each other, whatever their labels say.

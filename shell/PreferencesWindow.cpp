@@ -397,9 +397,9 @@ void PreferencesWindow::controlsLoaded() {
     }
 }
 
-void PreferencesWindow::updateUI(int mode) {
+void PreferencesWindow::updateUI(settings::RulesUpdate update) {
     for (OptionPage *page : optionPages_) {
-        page->updateRules(mode);
+        page->updateRules(update);
     }
 }
 

@@ -47,7 +47,7 @@ class PreferencesWindow final : public QMainWindow {
     // For the hooks of nrPreferences.
     void profilesChanged();
     void controlsLoaded();
-    void updateUI(int mode);
+    void updateUI(settings::RulesUpdate update);
     void edited();
 
     // Asks, and adds or removes.

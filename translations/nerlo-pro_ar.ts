@@ -1146,10 +1146,6 @@
         <translation>«استعادة الأصل» في القائمة يعيد ما كان في الحافظة من قبل مع تنسيقه.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – ينظّف كل ما تنسخه</translation>
     </message>

@@ -1146,10 +1146,6 @@ Nachher: Sie öffnen sich bei jedem Start von Nerlo Pro.</translation>
         <translation>„Original zurückholen“ im Menü bringt zurück, was vorher in der Zwischenablage stand, mitsamt Formatierung.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – jede Kopie wird bereinigt</translation>
     </message>

@@ -1146,10 +1146,6 @@
         <translation>Η «Επαναφορά του πρωτοτύπου» στο μενού επαναφέρει ό,τι υπήρχε πριν στο πρόχειρο, με τη μορφοποίησή του.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – καθαρίζει κάθε αντίγραφο</translation>
     </message>

@@ -1146,10 +1146,6 @@ After: they open each time Nerlo Pro starts.</translation>
         <translation>“Restore the original” in the menu puts back what stood on the clipboard before, with its formatting.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – cleaning every copy</translation>
     </message>

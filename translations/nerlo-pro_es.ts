@@ -1146,10 +1146,6 @@ Después: se abren cada vez que se inicia Nerlo Pro.</translation>
         <translation>«Restaurar el original», en el menú, devuelve al portapapeles lo que había antes, con su formato.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – limpia cada copia</translation>
     </message>

@@ -1146,10 +1146,6 @@ Après : elles s’ouvrent à chaque démarrage de Nerlo Pro.</translation>
         <translation>« Restaurer l’original » dans le menu remet ce qui se trouvait dans le presse-papiers, avec sa mise en forme.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – nettoie chaque copie</translation>
     </message>

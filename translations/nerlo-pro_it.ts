@@ -1146,10 +1146,6 @@ Dopo: si aprono a ogni avvio di Nerlo Pro.</translation>
         <translation>«Ripristina l’originale» nel menu rimette negli appunti ciò che c’era prima, con la sua formattazione.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – ripulisce ogni copia</translation>
     </message>

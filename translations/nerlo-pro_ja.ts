@@ -1146,10 +1146,6 @@
         <translation>メニューの「元の内容に戻す」で、以前クリップボードにあったものが書式ごと戻ります。</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – コピーのたびに整形中</translation>
     </message>

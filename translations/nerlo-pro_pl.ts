@@ -1146,10 +1146,6 @@ Po: otwierają się przy każdym uruchomieniu Nerlo Pro.</translation>
         <translation>„Przywróć oryginał” w menu przywraca to, co było w schowku, razem z formatowaniem.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – każda kopia jest czyszczona</translation>
     </message>

@@ -1146,10 +1146,6 @@ Depois: elas abrem sempre que o Nerlo Pro inicia.</translation>
         <translation>“Restaurar o original”, no menu, devolve à área de transferência o que estava lá antes, com a formatação.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – limpando cada cópia</translation>
     </message>

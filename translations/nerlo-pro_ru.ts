@@ -1146,10 +1146,6 @@
         <translation>«Вернуть оригинал» в меню возвращает в буфер обмена то, что там было, вместе с форматированием.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro — очищается всё скопированное</translation>
     </message>

@@ -1146,10 +1146,6 @@ Efter: de öppnas varje gång Nerlo Pro startar.</translation>
         <translation>”Återställ originalet” i menyn lägger tillbaka det som fanns i urklipp tidigare, med sin formatering.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – rensar varje kopia</translation>
     </message>

@@ -1146,10 +1146,6 @@
         <translation>«Повернути оригінал» у меню повертає до буфера обміну те, що там було, разом із форматуванням.</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro — очищається все скопійоване</translation>
     </message>

@@ -1146,10 +1146,6 @@
         <translation>菜单中的“恢复原内容”会恢复剪贴板之前的内容及其格式。</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – 正在清理每次复制</translation>
     </message>

@@ -1146,10 +1146,6 @@
         <translation>選單中的「還原原內容」會還原剪貼簿之前的內容及其格式。</translation>
     </message>
     <message>
-        <source>sTrayIdle</source>
-        <translation>Nerlo Pro</translation>
-    </message>
-    <message>
         <source>sTrayAutomatic</source>
         <translation>Nerlo Pro – 正在清理每次複製</translation>
     </message>

@@ -338,7 +338,9 @@ TEST_F(Profiles, WhatCannotBeSavedStaysAndWhatOthersHaveSavedAppears) {
 
 TEST_F(FindReplace, TheSharedListAndTheProfilesOwn) {
     std::vector<int> told;
-    preferences.hooks().updateUI = [&](int mode) { told.push_back(mode); };
+    preferences.hooks().updateUI = [&](RulesUpdate update) {
+        told.push_back(static_cast<int>(update));
+    };
     start();
     const auto shared = [&] { return *parsePropertyList(bytesOf(paths.sharedFindReplace)).value; };
     const PropertyDictionary rule{

@@ -42,7 +42,7 @@ class Preferences : public ProgramFixture {
         hooks.profilesChanged = [this] { window->profilesChanged(); };
         hooks.controlsLoaded = [this] { window->controlsLoaded(); };
         hooks.edited = [this] { window->edited(); };
-        hooks.updateUI = [this](int mode) { window->updateUI(mode); };
+        hooks.updateUI = [this](settings::RulesUpdate update) { window->updateUI(update); };
         hooks.confirmRemoval = [this](const auto &name) { return window->confirmRemoval(name); };
         window->show();
     }
@@ -210,7 +210,7 @@ TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
     QTest::keyClicks(&field, "!{delete}");
     EXPECT_TRUE(told());
     EXPECT_TRUE(list.item(1)->data(Qt::AccessibleDescriptionRole).toString().endsWith("{delete}"));
-    preferences.hooks().updateUI(4);
+    preferences.hooks().updateUI(settings::RulesUpdate::changed);
     EXPECT_TRUE(told());
     list.item(1)->setText("c");
     EXPECT_FALSE(told());
