@@ -69,6 +69,7 @@ Program::~Program() {
     preferences_.hooks().damaged = nullptr;
     parts_.desktop.keyboardLayout.backend->setChangedHandler(nullptr);
     parts_.desktop.clipboard.backend->setLostHandler(nullptr);
+    delegate_.reset();
 }
 
 void Program::connect() {

@@ -116,8 +116,10 @@ class Program final {
     shortcuts::GlobalHotKeys globalHotKeys_;
     shortcuts::UserDefaultsHotKeys hotKeys_;
     settings::nrPreferences preferences_;
-    DesktopShell windows_;
+    // Before the windows, which ask in their constructor whether it is there; made last, ended
+    // first.
     std::optional<nrAppDelegate> delegate_;
+    DesktopShell windows_;
     platform::FolderWatch folders_;
     storage::SettingsStore::Observation automaticMode_;
     std::shared_ptr<void> refusals_;
