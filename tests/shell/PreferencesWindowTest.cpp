@@ -474,7 +474,7 @@ TEST(StatusMenu, ShowsAShortcutAsTheToolkitNamesIt) {
                   "Ctrl+" + key.section('=', 1))
             << key.toStdString();
     }
-    for (const std::uint64_t none : {90, 27, 56}) { // F20, a sharp s, a modifier
+    for (const std::uint64_t none : {90U, 27U, 56U}) { // F20, a sharp s, a modifier
         EXPECT_EQ(shown(none, shortcuts::commandModifier), "");
     }
 }
