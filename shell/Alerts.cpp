@@ -84,8 +84,9 @@ std::optional<QString> askForText(const QString &title, const QString &label, QW
     auto *buttons = new QDialogButtonBox;
     QObject::connect(buttons->addButton(localized("OK"), QDialogButtonBox::AcceptRole),
                      &QPushButton::clicked, &dialog, &QDialog::accept);
-    QObject::connect(buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole),
-                     &QPushButton::clicked, &dialog, &QDialog::reject);
+    QObject::connect(
+        buttons->addButton(localized(Table::shortcut, "Cancel"), QDialogButtonBox::RejectRole),
+        &QPushButton::clicked, &dialog, &QDialog::reject);
     layout->addWidget(message);
     layout->addWidget(field);
     layout->addWidget(buttons);

@@ -1,6 +1,7 @@
 #include "shell/StatusMenu.h"
 
 #include "engine/Operations.h"
+#include "settings/SettingsKeys.h"
 #include "shell/Mnemonics.h"
 #include "shell/PreferencesLayout.h"
 #include "shell/Program.h"
@@ -95,23 +96,25 @@ StatusMenu::StatusMenu(Program &program)
     , operations_(std::make_unique<QMenu>(title("Single operations")))
     , profiles_(std::make_unique<QMenu>(title("Profiles")))
     , trayProfiles_(std::make_unique<QMenu>(title("Profiles")))
-    , clean_(add("clean", "Clear formating from clipboard", [](Program &p) { p.clean(); }))
-    , automatic_(add("automatic", "Automatically clear formatting",
+    , clean_(add("clean", localized(settings::cleanHotKey), [](Program &p) { p.clean(); }))
+    , automatic_(add("automatic", title("Automatically clear formatting"),
                      [](Program &p) { p.setAutomatic(AutomaticMode::toggle); }))
-    , excelException_(add("excelException", "Except copies from Excel",
+    , excelException_(add("excelException", title("Except copies from Excel"),
                           [](Program &p) { p.delegate().disableAutomaticallyClearFormatting(); }))
-    , restore_(add("restore", "Restore the original", [](Program &p) { p.windows().restore(); }))
-    , preferences_(add("preferences", "Preferences…", [](Program &p) { p.showPreferences(); }))
-    , tips_(add("tips", "Tips", [](Program &p) { p.delegate().aOpenTips(); }))
-    , whatsNew_(add("whatsNew", "What's new",
+    , restore_(
+          add("restore", title("Restore the original"), [](Program &p) { p.windows().restore(); }))
+    , preferences_(
+          add("preferences", title("Preferences…"), [](Program &p) { p.showPreferences(); }))
+    , tips_(add("tips", title("Tips"), [](Program &p) { p.delegate().aOpenTips(); }))
+    , whatsNew_(add("whatsNew", title("What's new"),
                     [](Program &p) { p.delegate().openReleaseNotesNerloPro(); }))
-    , rate_(add("rate", "Rate Nerlo Pro", [](Program &p) { p.delegate().openRateApp(); }))
-    , support_(add("support", "Support", [](Program &p) { p.delegate().supportWebsite(); }))
-    , email_(add("email", "E-mail to the developer",
+    , rate_(add("rate", title("Rate Nerlo Pro"), [](Program &p) { p.delegate().openRateApp(); }))
+    , support_(add("support", title("Support"), [](Program &p) { p.delegate().supportWebsite(); }))
+    , email_(add("email", title("E-mail to the developer"),
                  [](Program &p) { p.delegate().openEmailToDev(); }))
-    , about_(add("about", "About", [](Program &p) { p.delegate().openAboutApp(); }))
-    , hide_(add("hide", "Hide Nerlo Pro", [](Program &p) { p.windows().hidePreferences(); }))
-    , quit_(add("quit", "Quit Nerlo Pro", [](Program &p) { p.quit(); })) {
+    , about_(add("about", title("About"), [](Program &p) { p.delegate().openAboutApp(); }))
+    , hide_(add("hide", title("Hide Nerlo Pro"), [](Program &p) { p.windows().hidePreferences(); }))
+    , quit_(add("quit", title("Quit Nerlo Pro"), [](Program &p) { p.quit(); })) {
     automatic_->setCheckable(true);
     excelException_->setCheckable(true);
     preferences_->setShortcut(QKeySequence(preferencesKeys));
@@ -140,8 +143,8 @@ StatusMenu::StatusMenu(Program &program)
 
 StatusMenu::~StatusMenu() = default;
 
-QAction *StatusMenu::add(const char *name, const char *titleKey, void (*run)(Program &)) {
-    auto *action = new QAction(title(titleKey), this);
+QAction *StatusMenu::add(const char *name, const QString &text, void (*run)(Program &)) {
+    auto *action = new QAction(text, this);
     action->setObjectName(name);
     connect(action, &QAction::triggered, this, [this, run] { run(program_); });
     return action;

@@ -44,7 +44,7 @@ class StatusMenu final : public QObject {
     static std::vector<shortcuts::MenuItem> mainMenu();
 
   private:
-    QAction *add(const char *name, const char *title, void (*run)(Program &));
+    QAction *add(const char *name, const QString &text, void (*run)(Program &));
     void makeOperations();
     void nameRestorable();
     void makeEditActions();

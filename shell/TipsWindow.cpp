@@ -75,7 +75,7 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     , next_(new QPushButton)
     , atEachStart_(new QCheckBox(localized("sTipsAtStart"))) {
     setObjectName("tipsWindow");
-    setWindowTitle(localized("sTipsWindow"));
+    setWindowTitle(localized(Table::menu, "Tips"));
     picture_->setFixedSize(pictureSize);
     picture_->setAlignment(Qt::AlignCenter);
     QFont font = title_->font();

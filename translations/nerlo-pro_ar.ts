@@ -112,10 +112,6 @@
         <translation>موافق</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>ألغِ</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>أغلق</translation>
     </message>
@@ -1060,10 +1056,6 @@
         <translation>انقر للإغلاق</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>التلميحات</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>السابق</translation>
     </message>
@@ -1186,11 +1178,6 @@
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>محو التنسيق من الحافظة</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@
     <message>
         <source>Delete shortcut</source>
         <translation>احذف الاختصار</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>موافق</translation>
     </message>
     <message>
         <source>Space</source>

@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Schließen</translation>
     </message>
@@ -1060,10 +1056,6 @@ Nachher: 1#2#</translation>
         <translation>Zum Schließen klicken</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Tipps</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Zurück</translation>
     </message>
@@ -1186,11 +1178,6 @@ MIT-Lizenz</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Zwischenablage von Formatierung befreien</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ MIT-Lizenz</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Tastenkürzel löschen</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

@@ -112,10 +112,6 @@
         <translation>Εντάξει</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Ακύρωση</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Κλείσιμο</translation>
     </message>
@@ -1060,10 +1056,6 @@
         <translation>Κάντε κλικ για κλείσιμο</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Συμβουλές</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Προηγούμενη</translation>
     </message>
@@ -1186,11 +1178,6 @@
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Εκκαθάριση μορφοποίησης του προχείρου</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@
     <message>
         <source>Delete shortcut</source>
         <translation>Διαγραφή συντόμευσης</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>Εντάξει</translation>
     </message>
     <message>
         <source>Space</source>

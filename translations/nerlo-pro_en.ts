@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Close</translation>
     </message>
@@ -214,6 +210,7 @@ After: cells from a spreadsheet stay as they are.</translation>
     </message>
     <message>
         <source>sClearFormatingFromClipboard</source>
+        <extracomment>The English spelling is kept on purpose.</extracomment>
         <translation>Clear formating from clipboard</translation>
     </message>
     <message>
@@ -1060,10 +1057,6 @@ After: 1#2#</translation>
         <translation>Click to close</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Tips</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Previous</translation>
     </message>
@@ -1188,11 +1181,6 @@ MIT licence</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Clear formating from clipboard</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1326,10 +1314,6 @@ MIT licence</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Delete shortcut</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

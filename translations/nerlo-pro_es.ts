@@ -112,10 +112,6 @@
         <translation>Aceptar</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Cerrar</translation>
     </message>
@@ -1060,10 +1056,6 @@ Después: 1#2#</translation>
         <translation>Clic para cerrar</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Consejos</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Anterior</translation>
     </message>
@@ -1186,11 +1178,6 @@ Licencia MIT</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Quitar el formato del portapapeles</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ Licencia MIT</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Eliminar el atajo</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Space</source>

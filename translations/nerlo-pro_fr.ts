@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Fermer</translation>
     </message>
@@ -1060,10 +1056,6 @@ Après : 1#2#</translation>
         <translation>Cliquer pour fermer</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Astuces</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Précédent</translation>
     </message>
@@ -1186,11 +1178,6 @@ Licence MIT</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Effacer la mise en forme du presse-papiers</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ Licence MIT</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Supprimer le raccourci</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Chiudi</translation>
     </message>
@@ -1060,10 +1056,6 @@ Dopo: 1#2#</translation>
         <translation>Clic per chiudere</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Suggerimenti</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Indietro</translation>
     </message>
@@ -1186,11 +1178,6 @@ Licenza MIT</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Rimuovi la formattazione dagli appunti</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ Licenza MIT</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Elimina la scorciatoia</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

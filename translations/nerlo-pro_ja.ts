@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>閉じる</translation>
     </message>
@@ -1060,10 +1056,6 @@
         <translation>クリックで閉じる</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>ヒント</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>前へ</translation>
     </message>
@@ -1186,11 +1178,6 @@ MIT ライセンス</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>クリップボードの書式を消去</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ MIT ライセンス</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>ショートカットを削除</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Zamknij</translation>
     </message>
@@ -1060,10 +1056,6 @@ Po: 1#2#</translation>
         <translation>Kliknij, aby zamknąć</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Wskazówki</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Wstecz</translation>
     </message>
@@ -1186,11 +1178,6 @@ Licencja MIT</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Usuń formatowanie ze schowka</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ Licencja MIT</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Usuń skrót</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

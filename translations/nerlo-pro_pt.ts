@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Fechar</translation>
     </message>
@@ -1060,10 +1056,6 @@ Depois: 1#2#</translation>
         <translation>Clique para fechar</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Dicas</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Anterior</translation>
     </message>
@@ -1186,11 +1178,6 @@ Licença MIT</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Limpar a formatação da área de transferência</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ Licença MIT</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Excluir o atalho</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

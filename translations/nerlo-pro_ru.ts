@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Отмена</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Закрыть</translation>
     </message>
@@ -1060,10 +1056,6 @@
         <translation>Щёлкните, чтобы закрыть</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Советы</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Назад</translation>
     </message>
@@ -1186,11 +1178,6 @@
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Очистить форматирование в буфере обмена</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@
     <message>
         <source>Delete shortcut</source>
         <translation>Удалить комбинацию клавиш</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

@@ -112,10 +112,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Avbryt</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>Stäng</translation>
     </message>
@@ -1060,10 +1056,6 @@ Efter: 1#2#</translation>
         <translation>Klicka för att stänga</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>Tips</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>Föregående</translation>
     </message>
@@ -1186,11 +1178,6 @@ MIT-licens</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>Rensa formatering från urklipp</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ MIT-licens</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>Ta bort genvägen</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>Space</source>

@@ -112,10 +112,6 @@
         <translation>確定</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>sClose</source>
         <translation>關閉</translation>
     </message>
@@ -1060,10 +1056,6 @@
         <translation>點選以關閉</translation>
     </message>
     <message>
-        <source>sTipsWindow</source>
-        <translation>提示</translation>
-    </message>
-    <message>
         <source>sTipsPrevious</source>
         <translation>上一則</translation>
     </message>
@@ -1186,11 +1178,6 @@ MIT 授權</translation>
     <message>
         <source>Nerlo Pro</source>
         <translation>Nerlo Pro</translation>
-    </message>
-    <message>
-        <source>Clear formating from clipboard</source>
-        <extracomment>The English spelling is kept on purpose.</extracomment>
-        <translation>清除剪貼簿的格式</translation>
     </message>
     <message>
         <source>Automatically clear formatting</source>
@@ -1323,10 +1310,6 @@ MIT 授權</translation>
     <message>
         <source>Delete shortcut</source>
         <translation>刪除快捷鍵</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>確定</translation>
     </message>
     <message>
         <source>Space</source>
