@@ -133,13 +133,8 @@ int readingRank(const std::string &format) {
                                                            : 1;
 }
 
-bool isSchemeLetter(char16_t unit) {
-    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
-}
-
 bool isSchemeUnit(char16_t unit) {
-    return isSchemeLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'+' || unit == u'-' ||
-           unit == u'.';
+    return text::isAsciiLetterOrDigit(unit) || unit == u'+' || unit == u'-' || unit == u'.';
 }
 
 } // namespace
@@ -153,7 +148,7 @@ bool isUrl(std::u16string_view text) {
     constexpr std::u16string_view separator = u"://";
     const auto end = std::ranges::find_if_not(text, isSchemeUnit);
     const auto scheme = text.substr(0, static_cast<std::size_t>(end - text.begin()));
-    return !scheme.empty() && isSchemeLetter(scheme.front()) &&
+    return !scheme.empty() && text::isAsciiLetter(scheme.front()) &&
            text.substr(scheme.size()).starts_with(separator) &&
            text.size() > scheme.size() + separator.size() &&
            // All white space is in the basic plane.

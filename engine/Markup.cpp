@@ -2,6 +2,7 @@
 
 #include "engine/FindReplace.h"
 #include "engine/ReplacementRules.h"
+#include "text/Ascii.h"
 #include "text/Characters.h"
 #include "text/Replace.h"
 #include "text/UnitScan.h"
@@ -25,8 +26,7 @@ bool startsWithAt(std::u16string_view text, std::size_t at, std::u16string_view 
 }
 
 bool isNameUnit(char16_t unit) {
-    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') ||
-           (unit >= u'0' && unit <= u'9') || unit == u'-' || unit == u':' || unit == u'\u017F' ||
+    return text::isAsciiLetterOrDigit(unit) || unit == u'-' || unit == u':' || unit == u'\u017F' ||
            unit == u'\u212A'; // long s and Kelvin fold to s and k
 }
 

@@ -1,6 +1,7 @@
 #include "settings/UserLocale.h"
 
 #include "storage/EnvironmentVariable.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,13 +19,10 @@ constexpr std::pair<std::string_view, std::string_view> scripts[] = {
     {"devanagari", "_Deva"},
 };
 
-bool isLetterOrDigit(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-}
-
 bool isName(std::string_view name) {
     return name.size() <= longestName && std::all_of(name.begin(), name.end(), [](char c) {
-               return isLetterOrDigit(c) || std::string_view("_-@.=;").find(c) != std::string::npos;
+               return text::isAsciiLetterOrDigit(c) ||
+                      std::string_view("_-@.=;").find(c) != std::string::npos;
            });
 }
 
@@ -40,7 +38,7 @@ std::optional<std::string> localeId(std::string_view name) {
     if (id.empty() || id == "C" || id == "POSIX") {
         return std::string(neutralLocale);
     }
-    if (!isLetterOrDigit(id.front())) {
+    if (!text::isAsciiLetterOrDigit(id.front())) {
         return std::nullopt;
     }
     if (modifier.find('=') != std::string_view::npos) {

@@ -1,6 +1,7 @@
 #include "shell/PreferencesLayout.h"
 
 #include "engine/CleaningOptions.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 
@@ -76,17 +77,13 @@ std::vector<PreferencesPage> makePages() {
     };
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 constexpr std::string_view slotName = "sChangeProperty";
 
 // "sChangeProperty3ToTextField" as "sChangePropertyToTextField".
 std::string withoutSlot(std::string key) {
     if (key.starts_with(slotName)) {
         const auto first = key.begin() + static_cast<std::ptrdiff_t>(slotName.size());
-        key.erase(first, std::find_if_not(first, key.end(), isDigit));
+        key.erase(first, std::find_if_not(first, key.end(), text::isAsciiDigit<char>));
     }
     return key;
 }

@@ -8,11 +8,11 @@
 #include "shell/Strings.h"
 #include "shell/Terminal.h"
 #include "shell/nrCountWindowController.h"
+#include "storage/SafeFile.h"
 #include "text/Utf.h"
 
 #include <QCoreApplication>
 #include <QStringList>
-#include <filesystem>
 #include <utility>
 
 namespace nerlo::shell {
@@ -20,10 +20,6 @@ namespace nerlo::shell {
 namespace {
 
 constexpr auto automaticKey = "automaticallyClearFormatting";
-
-std::string folderOf(const std::string &file) {
-    return std::filesystem::path(file).parent_path();
-}
 
 } // namespace
 
@@ -141,8 +137,9 @@ void Program::registerHotKeys() {
 }
 
 void Program::followOtherProcesses() {
-    folders_.add(folderOf(parts_.paths.store), [this] { store_.fileChanged(); });
-    folders_.add(folderOf(parts_.paths.profiles), [this] { preferences_.profilesFileChanged(); });
+    folders_.add(storage::folderOf(parts_.paths.store), [this] { store_.fileChanged(); });
+    folders_.add(storage::folderOf(parts_.paths.profiles),
+                 [this] { preferences_.profilesFileChanged(); });
     automaticMode_ = store_.observe(automaticKey, [this] {
         setAutomatic(store_.boolForKey(automaticKey) ? AutomaticMode::on : AutomaticMode::off);
     });

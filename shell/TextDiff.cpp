@@ -1,5 +1,7 @@
 #include "shell/TextDiff.h"
 
+#include "text/Ascii.h"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -19,13 +21,11 @@ Kind kindOf(char16_t unit) {
         return Kind::space;
     }
     const bool ascii = unit < 0x80;
-    const bool letter = (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') ||
-                        (unit >= u'0' && unit <= u'9');
     // Beyond ASCII, the general punctuation and its like stand alone; a character of two units
     // stays whole because both units count as letters.
     const bool punctuation = (unit >= 0x2010 && unit <= 0x206f) || (unit >= 0x80 && unit < 0xc0) ||
                              (unit >= 0x3000 && unit <= 0x303f);
-    return letter || (!ascii && !punctuation) ? Kind::word : Kind::mark;
+    return text::isAsciiLetterOrDigit(unit) || (!ascii && !punctuation) ? Kind::word : Kind::mark;
 }
 
 // Words are whole; spaces and marks come one by one.

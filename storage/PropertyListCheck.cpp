@@ -1,6 +1,7 @@
 #include "storage/PropertyListCheck.h"
 
 #include "storage/PropertyListLimits.h"
+#include "text/Ascii.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -13,6 +14,8 @@ namespace nerlo::storage {
 
 namespace {
 
+using text::isAsciiDigit;
+using text::isAsciiLetterOrDigit;
 using Limits = PropertyListLimits;
 
 // Thrown and caught within this file only, to leave the recursive walks below.
@@ -25,10 +28,6 @@ struct Wrong : std::runtime_error {
 }
 
 constexpr std::string_view xmlSpace = " \t\r\n";
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 std::string_view trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(xmlSpace);
@@ -74,12 +73,13 @@ bool isDate(std::string_view text) {
     constexpr std::string_view shape = "-00-00T00:00:00Z";
     const auto year = std::min(text.find('-'), text.size());
     if (year < 1 || year > 4 || text.size() != year + shape.size() ||
-        !std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(year), isDigit)) {
+        !std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(year),
+                     isAsciiDigit<char>)) {
         return false;
     }
     text.remove_prefix(year);
     for (std::size_t i = 0; i < shape.size(); ++i) {
-        if (shape[i] == '0' ? !isDigit(text[i]) : text[i] != shape[i]) {
+        if (shape[i] == '0' ? !isAsciiDigit(text[i]) : text[i] != shape[i]) {
             return false;
         }
     }
@@ -94,8 +94,7 @@ bool isBase64(std::string_view text) {
     std::size_t letters = 0;
     std::size_t padding = 0;
     for (const char c : text) {
-        const bool letter =
-            isDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '+' || c == '/';
+        const bool letter = isAsciiLetterOrDigit(c) || c == '+' || c == '/';
         if (xmlSpace.find(c) != std::string_view::npos) {
             continue;
         }

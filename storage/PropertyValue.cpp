@@ -1,6 +1,7 @@
 #include "storage/PropertyValue.h"
 
 #include "storage/Overloaded.h"
+#include "text/Ascii.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,10 +14,6 @@ namespace {
 
 bool isSpace(char16_t unit) {
     return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
-}
-
-bool isDigit(char16_t unit) {
-    return unit >= u'0' && unit <= u'9';
 }
 
 std::u16string_view withoutLeadingSpace(std::u16string_view text) {
@@ -42,7 +39,7 @@ std::int64_t integerOfText(std::u16string_view text) {
     }
     std::int64_t value = 0; // negative: the lowest number has no positive counterpart
     for (const char16_t unit : text) {
-        if (!isDigit(unit)) {
+        if (!text::isAsciiDigit(unit)) {
             break;
         }
         const std::int64_t digit = unit - u'0';

@@ -1,5 +1,5 @@
-// Letters and names in ASCII: formats, key names, identifiers. Bytes above 0x7F stand for
-// themselves.
+// Letters, digits and names in ASCII: formats, key names, identifiers. Other characters are neither
+// letters nor digits here, and have no letter case. A unit may be of any width.
 #pragma once
 
 #include <algorithm>
@@ -7,6 +7,21 @@
 #include <string_view>
 
 namespace nerlo::text {
+
+template <class Unit>
+constexpr bool isAsciiDigit(Unit unit) {
+    return unit >= Unit('0') && unit <= Unit('9');
+}
+
+template <class Unit>
+constexpr bool isAsciiLetter(Unit unit) {
+    return (unit >= Unit('a') && unit <= Unit('z')) || (unit >= Unit('A') && unit <= Unit('Z'));
+}
+
+template <class Unit>
+constexpr bool isAsciiLetterOrDigit(Unit unit) {
+    return isAsciiLetter(unit) || isAsciiDigit(unit);
+}
 
 constexpr char asciiLower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;

@@ -1,5 +1,7 @@
 #include "text/Characters.h"
 
+#include "text/Ascii.h"
+
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
 
@@ -38,9 +40,7 @@ bool isWhiteSpace(char32_t character) {
 
 bool isWordCharacter(char32_t character) {
     if (character < 0x80) {
-        return (character >= U'a' && character <= U'z') ||
-               (character >= U'A' && character <= U'Z') ||
-               (character >= U'0' && character <= U'9') || character == U'_';
+        return isAsciiLetterOrDigit(character) || character == U'_';
     }
     constexpr std::uint32_t marksDigitsConnectors = U_GC_M_MASK | U_GC_ND_MASK | U_GC_PC_MASK;
     return u_isUAlphabetic(code(character)) ||
