@@ -6,11 +6,13 @@
 #include "cli/JsonText.h"
 #include "cli/Progress.h"
 #include "settings/ProfilesFile.h"
+#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "settings/UserLanguages.h"
 #include "settings/UserLocale.h"
 #include "storage/FileSettingsStore.h"
 #include "storage/PropertyList.h"
+#include "text/Utf.h"
 
 #include <CLI/App.hpp>
 #include <nlohmann/json.hpp>
@@ -56,8 +58,8 @@ PropertyDictionary readOptions(const std::string &file) {
     return *dictionary;
 }
 
-// The profile with this name or place; for an empty one the selected, and the defaults where no
-// profiles have been made yet.
+// The profile with this name or place, else the ready one with this id; for an empty one the
+// selected, and the defaults where no profiles have been made yet.
 PropertyDictionary profileOptions(const std::string &nameOrIndex) {
     const auto paths = settings::SettingsPaths::standard();
     settings::ProfilesFile file(paths.profiles);
@@ -69,7 +71,7 @@ PropertyDictionary profileOptions(const std::string &nameOrIndex) {
     if (!nameOrIndex.empty()) {
         item = settings::findProfile(items, nameOrIndex);
         if (!item) {
-            refuse("no profile \"" + nameOrIndex + "\"; `nerlo profiles` lists them");
+            return readyProfile(nameOrIndex);
         }
     } else if (!items.empty()) {
         item = &items[static_cast<std::size_t>(selectedProfile(paths, items.size()))];
@@ -160,6 +162,14 @@ void addOptions(CLI::App &command, OptionArguments &arguments) {
     addTexts(command, "--set", arguments.settings, "Change one key; may be given several times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
+}
+
+PropertyDictionary readyProfile(const std::string &id) {
+    const settings::ReadyProfile *ready = settings::findReadyProfile(std::string_view(id));
+    if (!ready) {
+        refuse("no profile \"" + id + "\"; `nerlo profiles` lists them");
+    }
+    return settings::readyRecord(*ready, text::utf8ToUtf16(id).text);
 }
 
 int selectedProfile(const settings::SettingsPaths &paths, std::size_t count) {

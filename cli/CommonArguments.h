@@ -33,6 +33,10 @@ struct OptionArguments {
 
 void addOptions(CLI::App &command, OptionArguments &arguments);
 
+// The ready profile with this id. Throws Failure when there is none, in words that name it as a
+// profile of any kind.
+storage::PropertyDictionary readyProfile(const std::string &id);
+
 // The place of the selected profile in a list of `count`. Throws Failure when the settings cannot
 // be read: with a profile that nobody chose, a text would be cleaned in a way that nobody asked
 // for.

@@ -4,6 +4,7 @@
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "settings/ProfilesFile.h"
+#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "storage/PropertyList.h"
 #include "text/Utf.h"
@@ -73,15 +74,29 @@ struct Profiles {
             throw Failure(ExitStatus::ioFailed, file.loadError());
         }
     }
-    const ProfileItem &find(const std::string &nameOrIndex) const {
+    PropertyDictionary find(const std::string &nameOrIndex) const {
         const ProfileItem *item = settings::findProfile(items, nameOrIndex);
-        if (!item) {
-            throw Failure(ExitStatus::unusableArguments,
-                          "no profile \"" + nameOrIndex + "\"; `nerlo profiles` lists them");
-        }
-        return *item;
+        return item ? item->record : readyProfile(nameOrIndex);
     }
 };
+
+// One line for each.
+std::string readyLines() {
+    std::string text;
+    for (const settings::ReadyProfile &ready : settings::readyProfiles()) {
+        const std::string padding(std::size_t{11} - ready.id.size(), ' ');
+        text += "  " + std::string(ready.id) + padding + std::string(ready.summary) + '\n';
+    }
+    return text;
+}
+
+void listReady(bool asJson) {
+    ordered_json array = ordered_json::array();
+    for (const settings::ReadyProfile &ready : settings::readyProfiles()) {
+        array.push_back({{"name", ready.id}, {"summary", ready.summary}});
+    }
+    writeOutput(asJson ? array.dump(2) + "\n" : readyLines());
+}
 
 void list(bool asJson) {
     const Profiles profiles;
@@ -96,12 +111,13 @@ void list(bool asJson) {
         array.push_back({{"index", place}, {"name", nameIn(item)}, {"selected", isSelected}});
         ++place;
     }
+    text += (text.empty() ? "" : "\n") + ("ready:\n" + readyLines());
     writeOutput(asJson ? array.dump(2) + "\n" : text);
 }
 
 void show(const std::string &nameOrIndex, bool asJson) {
     const Profiles profiles;
-    const ordered_json object = jsonOf(profiles.find(nameOrIndex).record);
+    const ordered_json object = jsonOf(profiles.find(nameOrIndex));
     std::string text;
     for (const auto &[key, value] : object.items()) {
         text += key + " = " + value.dump() + "\n";
@@ -151,7 +167,7 @@ void importFile(const std::string &file) {
 
 void exportTo(const std::string &nameOrIndex, const std::string &file) {
     const Profiles profiles;
-    const PropertyValue profile(profiles.find(nameOrIndex).record);
+    const PropertyValue profile(profiles.find(nameOrIndex));
     if (file == "-") {
         writeOutput(storage::writePropertyList(profile));
         return;
@@ -168,6 +184,7 @@ void exportTo(const std::string &nameOrIndex, const std::string &file) {
 
 struct Arguments {
     bool json = false;
+    bool ready = false;
     std::string name;
     std::string file;
 };
@@ -178,18 +195,21 @@ void addProfiles(CLI::App &app, ExitStatus &) {
     CLI::App *command = app.add_subcommand("profiles", "List, show, import and export profiles");
     command->footer(
         "Without a command of its own, lists them with their places; the selected one is\n"
-        "marked with *. A profile is named by its name, or by its place.\n"
+        "marked with *. A profile is named by its name, or by its place. Ready ones, which come\n"
+        "with the program, are named by their id where no profile has that name.\n"
         "\n"
         "Examples:\n"
+        "  nerlo profiles --ready\n"
         "  nerlo profiles export work work.plist\n"
         "  nerlo profiles import work.plist\n"
         "  nerlo clean --profile work letter.txt");
     const auto arguments = std::make_shared<Arguments>();
     command->require_subcommand(0, 1);
     command->add_flag("--json", arguments->json, "Write JSON");
+    command->add_flag("--ready", arguments->ready, "List the ready profiles alone");
     command->callback([command, arguments] {
         if (command->get_subcommands().empty()) {
-            list(arguments->json);
+            (arguments->ready ? listReady : list)(arguments->json);
         }
     });
 

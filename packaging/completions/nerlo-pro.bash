@@ -5,7 +5,7 @@ _nerlo_pro_operations() {
 }
 
 _nerlo_pro_profiles() {
-    nerlo profiles 2>/dev/null | sed 's/^[* ] *[0-9]* *//'
+    nerlo profiles 2>/dev/null | sed -nE 's/^[* ] *[0-9]+ *//p'
 }
 
 _nerlo_pro_words() { # WORDS: one a line, taken as they are: profiles may be named anything

@@ -4,7 +4,7 @@ function __nerlo_pro_operations
     nerlo operations 2>/dev/null | string replace -r '^ *\d+ +(\S+) +' '$1\t'
 end
 function __nerlo_pro_profiles
-    nerlo profiles 2>/dev/null | string replace -r '^[* ] *\d+ +' ''
+    nerlo profiles 2>/dev/null | string replace -rf '^[* ] *\d+ +' ''
 end
 
 complete -c nerlo-pro -f

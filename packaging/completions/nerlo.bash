@@ -5,7 +5,7 @@ _nerlo_operations() {
 }
 
 _nerlo_profiles() {
-    nerlo profiles 2>/dev/null | sed 's/^[* ] *[0-9]* *//'
+    nerlo profiles 2>/dev/null | sed -nE 's/^[* ] *[0-9]+ *//p; t; s/^  ([a-z]+) .*/\1/p'
 }
 
 _nerlo_words() { # WORDS: one a line, taken as they are: profiles may be named anything
@@ -79,7 +79,7 @@ _nerlo() {
         ;;
     profiles)
         if [ "$cword" -eq 2 ] || [[ $cur == -* ]]; then
-            COMPREPLY=($(compgen -W "show export import --json --help" -- "$cur"))
+            COMPREPLY=($(compgen -W "show export import --json --ready --help" -- "$cur"))
         else
             _filedir
         fi

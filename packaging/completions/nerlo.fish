@@ -4,7 +4,7 @@ function __nerlo_operations
     nerlo operations 2>/dev/null | string replace -r '^ *\d+ +(\S+) +' '$1\t'
 end
 function __nerlo_profiles
-    nerlo profiles 2>/dev/null | string replace -r '^[* ] *\d+ +' ''
+    nerlo profiles 2>/dev/null | string replace -rf '^[* ] *\d+ +|^  (?=[a-z]+ )' '' | string replace -r '^([a-z]+)  +' '$1\t'
 end
 function __nerlo_keys
     nerlo keys 2>/dev/null | string match -r '^  [A-Za-z]\w*' | string trim | string replace -r '$' '='
@@ -30,5 +30,6 @@ complete -c nerlo -n '__fish_seen_subcommand_from clean count batch' -l locale -
 complete -c nerlo -n '__fish_seen_subcommand_from batch' -l jobs -x -d 'Requests at a time'
 complete -c nerlo -n '__fish_seen_subcommand_from operations keys' -f
 complete -c nerlo -n '__fish_seen_subcommand_from count operations keys profiles' -l json -d 'Write JSON'
+complete -c nerlo -n '__fish_seen_subcommand_from profiles' -l ready -d 'The ready ones alone'
 complete -c nerlo -n '__fish_seen_subcommand_from profiles; and not __fish_seen_subcommand_from show export import' -f -a 'show export import'
 complete -c nerlo -n '__fish_seen_subcommand_from show export' -a '(__nerlo_profiles)'

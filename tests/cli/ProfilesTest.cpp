@@ -25,6 +25,12 @@ class Profiles : public testing::Test {
         putBytes(folder / "data/nerlo-pro/Data/profiles.nrp", bytes);
     }
 
+    // What is listed in front of the ready ones.
+    std::string stored() const {
+        const std::string out = nerlo({"profiles"}).out;
+        return out.substr(0, out.find("\nready:\n"));
+    }
+
     const TemporaryFolder folder;
     // One profile makes upper case, the other lower case. "future" is a key that this version does
     // not know.
@@ -37,18 +43,18 @@ class Profiles : public testing::Test {
 };
 
 TEST_F(Profiles, AreImportedListedShownAndExported) {
-    EXPECT_EQ(nerlo({"profiles"}).out, "");
+    EXPECT_TRUE(nerlo({"profiles"}).out.starts_with("ready:\n  gentle  "));
     EXPECT_EQ(nerlo({"profiles", "--json"}).out, "[]\n");
     EXPECT_EQ(nerlo({"profiles", "import", "-"}, writeBinary(upper)).status, 0);
     EXPECT_EQ(nerlo({"profiles", "import", "-"}, writeXml(PropertyArray{lower, upper})).status, 0);
-    EXPECT_EQ(nerlo({"profiles"}).out, "* 0  Größe\n  1  small\n  2  Größe\n");
+    EXPECT_EQ(stored(), "* 0  Größe\n  1  small\n  2  Größe\n");
     EXPECT_EQ(nerlo({"profiles", "show", "small"}).out,
               "profileName = \"small\"\nudChangeCaseTo = 1\nudChangeCaseOption = 2\n");
     EXPECT_EQ(nerlo({"profiles", "export", "Größe", "-"}).out, writeXml(upper));
     EXPECT_EQ(nerlo({"profiles", "export", "1", folder / "out.plist"}).status, 0);
     EXPECT_EQ(bytesOf(folder / "out.plist"), writeXml(lower));
     putProfiles(writeBinary(PropertyArray{PropertyDictionary{{"profileName", u"a\n\x1b[2J"}}}));
-    EXPECT_EQ(nerlo({"profiles"}).out, "* 0  a??[2J\n");
+    EXPECT_EQ(stored(), "* 0  a??[2J\n");
 }
 
 TEST_F(Profiles, ChooseHowTextsAreCleaned) {
@@ -60,6 +66,35 @@ TEST_F(Profiles, ChooseHowTextsAreCleaned) {
     EXPECT_EQ(nerlo({"clean"}, "aB").out, "ab");
     EXPECT_EQ(nerlo({"clean", "--profile", "Größe"}, "aB").out, "AB");
     EXPECT_EQ(nerlo({"clean", "--profile", "0", "--set", "udChangeCaseTo=off"}, "aB").out, "aB");
+}
+
+TEST_F(Profiles, ReadyOnesNeedNoFileAndAStoredOneOfTheSameNameWins) {
+    const struct {
+        const char *id;
+        const char *text;
+        const char *cleaned;
+    } rows[] = {
+        {"gentle", " two  words, broken\nin the middle of ls . ",
+         "two words, broken in the middle of ls ."},
+        {"pdf", "a hyphen-\nated  word\nbroken", "a hyphenated word broken"},
+        {"mail", ">quoted\n>lines", "quoted lines"},
+        {"web", " a  line \nnext", "a line\nnext"},
+        {"terminal", "\x1b[1mbold\x1b[0m", "bold"},
+        {"assistant", "He said\u2014\u201Cwell\u2026 don\u2019t\u201D **now**",
+         "He said - \"well... don't\" **now**"},
+        {"code", "if  (a) {\n\treturn  b ; }\n", "if  (a) {\n\treturn  b ; }\n"},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(nerlo({"clean", "--profile", row.id}, row.text).out, row.cleaned) << row.id;
+        EXPECT_NE(nerlo({"profiles", "--ready"}).out.find(row.id), std::string::npos) << row.id;
+    }
+    EXPECT_EQ(nerlo({"clean", "--profile", "Gentle"}, "x").status, 2);
+    EXPECT_EQ(nerlo({"profiles", "export", "mail", folder / "mail.plist"}).status, 0);
+    EXPECT_EQ(nerlo({"clean", "--options", folder / "mail.plist"}, ">a  b").out, "a b");
+    PropertyDictionary gentle = upper;
+    gentle.set("profileName", u"gentle");
+    putProfiles(writeXml(PropertyArray{gentle}));
+    EXPECT_EQ(nerlo({"clean", "--profile", "gentle"}, "a  b").out, "A  B");
 }
 
 TEST_F(Profiles, ListOfRulesForAllIsReadFromItsFile) {

@@ -16,4 +16,7 @@ for words in _nerlo_words _nerlo_pro_words; do
     expect 'my\ m' 'my\ mail|' "$words"
     expect other '|' "$words"
 done
+nerlo() { printf '* 0  my mail\n  1  b\n\nready:\n  gentle     spaces\n'; }
+[ "$(_nerlo_profiles)" = $'my mail\nb\ngentle' ] || { echo "profiles: $(_nerlo_profiles)" >&2; status=1; }
+[ "$(_nerlo_pro_profiles)" = $'my mail\nb' ] || { echo "profiles: $(_nerlo_pro_profiles)" >&2; status=1; }
 exit $status

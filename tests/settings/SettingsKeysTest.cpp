@@ -2,6 +2,7 @@
 
 #include "engine/Operations.h"
 #include "settings/OptionLists.h"
+#include "settings/ReadyProfiles.h"
 
 #include <gtest/gtest.h>
 
@@ -75,6 +76,20 @@ TEST(SettingsKeys, AFirstStartWritesProfileKeysAndTheQuotesOfItsLanguage) {
     }
     // A region that the language table does not list falls to 0.
     EXPECT_EQ(*firstStartProfile("de-AT").find("udChangeQuotesSingleOption"), PropertyValue(0));
+}
+
+TEST(ReadyProfiles, HoldValuesOfKnownKeysAlone) {
+    for (const ReadyProfile &ready : readyProfiles()) {
+        EXPECT_EQ(findReadyProfile(ready.id), &ready);
+        const ProfileRecord record = readyRecord(ready, u"A name");
+        EXPECT_EQ(profileNameOf(record), u"A name");
+        for (const auto &[key, value] : record) {
+            const SettingsKey *row = findKey(key, SettingScope::Profile);
+            ASSERT_NE(row, nullptr) << key;
+            EXPECT_EQ(row->kind == SettingKind::List, value.as<PropertyArray>() != nullptr) << key;
+        }
+    }
+    EXPECT_EQ(findReadyProfile(u"Gentle"), nullptr);
 }
 
 TEST(SettingsKeys, ReadsValuesFromACommandLine) {

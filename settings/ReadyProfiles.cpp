@@ -1,0 +1,127 @@
+#include "settings/ReadyProfiles.h"
+
+#include "settings/OptionLists.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <variant>
+
+namespace nerlo::settings {
+
+namespace {
+
+using storage::PropertyArray;
+using storage::PropertyDictionary;
+using storage::PropertyValue;
+
+constexpr std::array<ReadyProfile, 7> profiles{{
+    {"gentle", "sReadyGentle", "spaces and broken lines; code, tables and lists stay"},
+    {"pdf", "sReadyPdf", "text out of a PDF: lines and hyphenated words joined"},
+    {"mail", "sReadyMail", "a mail: reply marks out, lines joined"},
+    {"web", "sReadyWeb", "a web page: spaces and empty lines tidied, lists and code stay"},
+    {"terminal", "sReadyTerminal", "text out of a terminal: its wrapping and frames undone"},
+    {"assistant", "sReadyAssistant", "an assistant's answer: plain quotes, dashes and dots"},
+    {"code", "sReadyCode", "plain text and nothing else; code stays as it is"},
+}};
+
+// Sets of profiles: the bit of each is its place above.
+enum Sets : unsigned {
+    gentle = 1U << 0,
+    pdf = 1U << 1,
+    mail = 1U << 2,
+    web = 1U << 3,
+    terminal = 1U << 4,
+    assistant = 1U << 5,
+    code = 1U << 6,
+    all = (1U << 7) - 1,
+};
+
+// What differs from "all off". To switch a new option on, add its row here.
+struct Value {
+    std::string_view key;
+    std::variant<int, std::u16string_view> value;
+    unsigned profiles;
+};
+constexpr Value values[] = {
+    // The popup, as at a first start.
+    {"udStatistics", 1, all},
+    {"udStatisticsDelaySwitcher", 1, all},
+    {"udStatisticsValue", 3, all},
+    {"udStatisticsDefaultPosition", static_cast<int>(popupPositionCount) - 1, all},
+
+    {"udUnwrapTerminal", 1, terminal},
+
+    {"udChangeMultipleSpacesToSingleSpace", 1, gentle | pdf | mail | web},
+    {"udRemoveSpaceBeforeAfterReturn", 1, gentle | pdf | mail | web},
+    {"udRemoveSpacesBeforeAndAfterText", 1, gentle | pdf | mail | web},
+    {"udRemoveHyphens", 1, pdf},
+    {"udChangeWrongInsertedReturnsTo", 1, gentle | pdf | mail},
+    {"udChangeWrongInsertedReturnsOption", 1, gentle | pdf | mail}, // a space
+    {"udRemoveReplyQuotes", 1, mail},
+    {"udChangeEllipsisAndDots", 1, assistant},
+    {"udChangeEllipsisAndDotsOption", 1, assistant}, // to dots
+};
+
+// Rules of find and replace, in their order. Those of a list that is off are there to be switched
+// on.
+struct Rule {
+    std::u16string_view find;
+    std::u16string_view replace;
+    bool on;
+};
+// Quotation marks one by one: the option for quotes would make one kind of the two.
+constexpr Rule assistantRules[] = {
+    {u"[\u201C\u201D\u201E]", u"{delete}\"", true},
+    {u"[\u2018\u2019\u201A]", u"{delete}'", true},
+    {u"(?<=\\S)[ \\u00A0]?\u2014[ \\u00A0]?(?=\\S)", u"{delete} - ", true},
+    {u"[\u2010\u2011\u2013]", u"{delete}-", true},
+    {u"[\\u00A0\\u202F]", u"{delete} ", true},
+    // Markdown's marks stay unless somebody wants them out.
+    {u"(\\*\\*|__)(?=\\S)([^\\r\\n]+?)(?<=\\S)\\1", u"{delete}$2", false},
+    {u"(?<![\\p{L}\\p{N}*])\\*(?=[^\\s*])([^*\\r\\n]+?)(?<=\\S)\\*(?!\\*)", u"{delete}$1", false},
+    {u"(?m)^#{1,6}[ \\t]+", u"{delete}", false},
+    {u"`([^`\\r\\n]+)`", u"{delete}$1", false},
+};
+
+PropertyArray rulesOf(std::span<const Rule> rules) {
+    PropertyArray items;
+    for (const Rule &rule : rules) {
+        items.emplace_back(PropertyDictionary{
+            {"checkbox", rule.on}, {"find", rule.find}, {"replace", rule.replace}});
+    }
+    return items;
+}
+
+} // namespace
+
+std::span<const ReadyProfile> readyProfiles() {
+    return profiles;
+}
+
+const ReadyProfile *findReadyProfile(std::string_view id) {
+    const auto *row = std::ranges::find(profiles, id, &ReadyProfile::id);
+    return row == profiles.end() ? nullptr : row;
+}
+
+const ReadyProfile *findReadyProfile(std::u16string_view id) {
+    return findReadyProfile(text::utf16ToUtf8(id));
+}
+
+ProfileRecord readyRecord(const ReadyProfile &ready, std::u16string name) {
+    const auto set = 1U << (&ready - profiles.data());
+    ProfileRecord record{{"profileName", std::move(name)}};
+    for (const Value &row : values) {
+        if (row.profiles & set) {
+            std::visit([&](auto value) { record.set(row.key, value); }, row.value);
+        }
+    }
+    if (set == assistant) {
+        record.set("sFindReplaceBool", 1);
+        record.set("sFindAndReplaceItemsProfile", rulesOf(assistantRules));
+    }
+    return record;
+}
+
+} // namespace nerlo::settings
