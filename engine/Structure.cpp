@@ -436,7 +436,7 @@ bool isWordy(View words) {
         while (!word.empty() && View(u".,;:!?").find(word.back()) != View::npos) {
             word.remove_suffix(1);
         }
-        plain += !word.empty() && std::ranges::all_of(word, text::isAsciiLetter);
+        plain += !word.empty() && std::ranges::all_of(word, isAsciiLetter<char16_t>);
         at = firstInk(words, end);
     }
     return plain > 5 && plain * 5 >= all * 3;

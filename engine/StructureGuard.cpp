@@ -290,9 +290,7 @@ class Guard {
 
     std::u16string clean(const Signed &breaks) const {
         const Signed words = withoutInlineStructure(breaks.text, tagsGo_);
-        const auto count = [](View text, char16_t sign) {
-            return std::ranges::count(text, sign);
-        };
+        const auto count = [](View text, char16_t sign) { return std::ranges::count(text, sign); };
         const auto hasAllSigns = [&](View text) {
             return count(text, wordSign) == count(words.text, wordSign) &&
                    count(text, breakSign) == count(words.text, breakSign);

@@ -32,14 +32,6 @@ inline std::string asciiLower(std::string name) {
     return name;
 }
 
-constexpr bool isAsciiDigit(char32_t unit) {
-    return unit >= U'0' && unit <= U'9';
-}
-
-constexpr bool isAsciiLetter(char32_t unit) {
-    return (unit >= U'a' && unit <= U'z') || (unit >= U'A' && unit <= U'Z');
-}
-
 constexpr bool equalIgnoringAsciiCase(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, [](char x, char y) { return asciiLower(x) == asciiLower(y); });
 }

@@ -28,7 +28,7 @@ TEST(StructureGuard, TidiesProseAndLeavesStructure) {
          {"indented code", u"Do  this:\n\n    a   =  b\n\nEnd  .",
           u"Do this:\n\n    a   =  b\n\nEnd ."},
          {"the text begins with code", u"\n    a   b\n\nwords  too", u"    a   b\n\nwords too"},
-         {"a list and its indents", u"-   on  e\n-   two\n    -   in side\n",
+         {"a list and its indents", u"-   on e\n-   two\n    -   in side\n",
           u"-   on e\n-   two\n    -   in side"},
          {"an item of two lines", u"* one  a \n  goes  on\n* two", u"* one a\n  goes on\n* two"},
          {"a quotation", u"> one   a\n> b > c\n", u"> one a\n> b > c"},
