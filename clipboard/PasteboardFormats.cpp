@@ -36,6 +36,14 @@ constexpr std::array<std::string_view, 3> secretFormats{
     "ExcludeClipboardContentFromMonitorProcessing"};
 constexpr std::string_view clipboardState = "CLIPBOARD_STATE";
 
+// The page behind a copy: an address in UTF-16 and in UTF-8, and formats whose head has one.
+constexpr std::string_view mozillaPage = "text/x-moz-url-priv";
+constexpr std::string_view chromiumPage = "chromium/x-source-url";
+constexpr std::array<std::string_view, 4> pageNames{mozillaPage, chromiumPage, "HTML Format",
+                                                    "text/html"};
+constexpr std::string_view headLine = "SourceURL:";
+constexpr std::size_t headSize = 4096; // bytes; more than any head of a fragment has
+
 constexpr std::array<std::string_view, 6> textLike{"html", "rtf",  "richtext",
                                                    "xml",  "json", "STRING"};
 constexpr std::array<std::string_view, 12> pictureLike{"image/", "video/",     "audio/", "bitmap",
@@ -46,10 +54,6 @@ std::string_view trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");
     return first == text.npos ? std::string_view()
                               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-std::string_view withoutParameters(std::string_view format) {
-    return trimmed(format.substr(0, format.find(';')));
 }
 
 bool same(std::string_view a, std::string_view b) {
@@ -133,6 +137,21 @@ int readingRank(const std::string &format) {
                                                            : 1;
 }
 
+// Without credentials and port.
+std::string hostOf(std::string_view address) {
+    const auto scheme = address.find("://");
+    if (scheme == address.npos) {
+        return {};
+    }
+    address.remove_prefix(scheme + 3);
+    address = address.substr(0, address.find_first_of("/?#\\ \t\r\n"));
+    if (const auto at = address.rfind('@'); at != address.npos) {
+        address.remove_prefix(at + 1);
+    }
+    const auto port = address.starts_with('[') ? address.find(']') + 1 : address.find(':');
+    return text::asciiLower(std::string(address.substr(0, port)));
+}
+
 bool isSchemeUnit(char16_t unit) {
     return text::isAsciiLetterOrDigit(unit) || unit == u'+' || unit == u'-' || unit == u'.';
 }
@@ -182,6 +201,34 @@ std::vector<std::string> textFormats(const std::vector<std::string> &formats) {
     std::ranges::transform(ranked, std::back_inserter(readable),
                            &std::pair<int, std::string>::second);
     return readable;
+}
+
+std::string_view withoutParameters(std::string_view format) {
+    return trimmed(format.substr(0, format.find(';')));
+}
+
+std::vector<std::string> pageFormats(const std::vector<std::string> &formats) {
+    std::vector<std::string> telling;
+    for (const auto name : pageNames) {
+        if (const auto *format = find(formats, name)) {
+            telling.push_back(*format);
+        }
+    }
+    return telling;
+}
+
+std::string pageHost(const PasteboardData &data) {
+    const auto name = withoutParameters(data.format);
+    const auto head = std::string_view(*data.bytes).substr(0, headSize);
+    if (same(name, mozillaPage)) {
+        const auto address = text::decode(head, "utf-16le");
+        return hostOf(text::utf16ToUtf8(address.value_or(std::u16string())));
+    }
+    if (same(name, chromiumPage)) {
+        return hostOf(head);
+    }
+    const auto line = head.find(headLine);
+    return line == head.npos ? std::string() : hostOf(trimmed(head.substr(line + headLine.size())));
 }
 
 bool onlyPlainText(const std::vector<std::string> &formats) {

@@ -28,6 +28,14 @@ const std::string *secrecyFormat(const std::vector<std::string> &formats);
 // Whether that value says secret.
 bool saysSecret(std::string_view value);
 
+// "text/html" of "text/html;charset=utf-8"; any other name as it is.
+std::string_view withoutParameters(std::string_view format);
+
+// Those of `formats` that tell the page which the content was copied from, best first.
+std::vector<std::string> pageFormats(const std::vector<std::string> &formats);
+// The host of that page, in lower case; empty if `data`, of such a format, does not tell it.
+std::string pageHost(const PasteboardData &data);
+
 // Those of `formats` in which the plain text can be read, best first, as they are spelt there.
 std::vector<std::string> textFormats(const std::vector<std::string> &formats);
 // Whether all of them are plain text, in an encoding that is known here or not.

@@ -2,7 +2,6 @@
 
 #include "clipboard/PasteboardFormats.h"
 #include "engine/Operations.h"
-#include "platform/SpreadsheetLinks.h"
 #include "text/Characters.h"
 #include "text/Utf.h"
 
@@ -23,6 +22,21 @@ using platform::PasteboardWrite;
 namespace {
 
 nrChangePasterboard *shared = nullptr;
+
+// What tells the page of a copy is small but for formats that hold all of it.
+constexpr std::size_t pageLimit = std::size_t{1} << 20;
+
+// Empty for none.
+std::string pageOf(const platform::PasteboardContent &content) {
+    std::vector<std::string> formats;
+    std::ranges::transform(content, std::back_inserter(formats), &platform::PasteboardData::format);
+    std::string host;
+    for (const auto &format : pageFormats(formats)) {
+        const auto data = std::ranges::find(content, format, &platform::PasteboardData::format);
+        host = host.empty() ? pageHost(*data) : host;
+    }
+    return host;
+}
 
 // What says whether content is a secret takes a few letters.
 constexpr std::size_t secrecyLimit = 256;
@@ -59,7 +73,10 @@ std::size_t hashOf(std::u16string_view text) {
 // One text on its way from the clipboard to the worker thread.
 struct nrChangePasterboard::Reading {
     bool keepsOriginal = false;
-    std::string sparedLink{};
+    // For cleans that the table decides; null for all others. Any thread.
+    std::function<void(DecidedCopy)> tellDecision{};
+    CopyTable table{};
+    DecidedCopy decision{};
     // The worker thread, with the text.
     std::function<void(Reading &, std::u16string)> work{};
     // The main thread, if there is no text to work on.
@@ -71,20 +88,81 @@ struct nrChangePasterboard::Reading {
     platform::PasteboardData text{};
     std::shared_ptr<Kept> original{};
     Restored whyNotKept = Restored::nothingKept;
+
+    CopyDecision lookUp() { return decide(table, decision.copy, decision.onDemand); }
+    // Whether the table says so by what is known now.
+    bool isLeftAlone();
+    bool wantsPage() const;
+    // Whether something is to be made of the text; if not, the outcome is told. Worker thread.
+    bool takes(std::u16string_view content);
+    // Main thread.
+    void end(DecidedCopy::Outcome outcome);
+    void tell(DecidedCopy::Outcome outcome);
 };
+
+bool nrChangePasterboard::Reading::isLeftAlone() {
+    const auto place = lookUp().place;
+    if (place && !table[*place].options) {
+        decision.row = table[*place];
+        return true;
+    }
+    return false;
+}
+
+bool nrChangePasterboard::Reading::wantsPage() const {
+    return std::ranges::any_of(
+        table, [](const CopyRow &row) { return row.rule.on && !row.rule.host.empty(); });
+}
+
+bool nrChangePasterboard::Reading::takes(std::u16string_view content) {
+    const bool link = isUrl(content);
+    if (!tellDecision) {
+        return !link;
+    }
+    Copy &copy = decision.copy;
+    copy.host = copy.host.value_or(std::string());
+    auto found = lookUp();
+    if (found.open) {
+        copy.looks = looksOf(content);
+        found = lookUp();
+    }
+    if (found.place) {
+        decision.row = table[*found.place];
+    }
+    // A link stays, unless a row says what becomes of links.
+    const bool spared = link && !(decision.row && decision.row->rule.looks == Looks::link);
+    tell(decision.row && !decision.row->options ? DecidedCopy::Outcome::leftAlone
+         : spared                               ? DecidedCopy::Outcome::link
+                                                : DecidedCopy::Outcome::cleaned);
+    return decision.outcome == DecidedCopy::Outcome::cleaned;
+}
+
+void nrChangePasterboard::Reading::end(DecidedCopy::Outcome outcome) {
+    tell(outcome);
+    nothing();
+}
+
+void nrChangePasterboard::Reading::tell(DecidedCopy::Outcome outcome) {
+    if (tellDecision) {
+        decision.outcome = outcome;
+        tellDecision(decision);
+    }
+}
 
 struct nrChangePasterboard::Clean {
     std::shared_ptr<const engine::CleaningOptions> options;
     std::string locale;
     std::optional<std::int32_t> operation; // none: the whole pipeline
     std::optional<std::size_t> spared;     // hash of a plain text that is not cleaned
-    std::function<void(engine::TextStatistics, engine::CleaningReport)> show;
+    std::function<void(engine::TextStatistics, engine::CleaningReport, std::u16string)> show;
     std::function<void(engine::CleaningReport)> tell;
     std::function<void(platform::ChangeCount)> leave;
     std::function<void(WriteBack)> write;
 
     bool writes() const { return operation != engine::statisticsOperation; }
-    bool counts() const { return !writes() || (!operation && options->udStatistics); }
+    bool counts(const engine::CleaningOptions &used) const {
+        return !writes() || (!operation && used.udStatistics);
+    }
     void run(Reading &reading, std::u16string text) const;
 };
 
@@ -121,8 +199,8 @@ void nrChangePasterboard::changePasteboard() {
     start(std::nullopt, false, {});
 }
 
-void nrChangePasterboard::changePasteboard(std::string_view sparedLink) {
-    start(std::nullopt, true, sparedLink);
+void nrChangePasterboard::changePasteboard(CopyTable exceptions) {
+    start(std::nullopt, true, std::move(exceptions));
 }
 
 void nrChangePasterboard::changePasteboardWithKeys(std::int32_t index) {
@@ -130,15 +208,14 @@ void nrChangePasterboard::changePasteboardWithKeys(std::int32_t index) {
 }
 
 void nrChangePasterboard::start(std::optional<std::int32_t> operation, bool automatic,
-                                std::string_view sparedLink) {
+                                CopyTable exceptions) {
     const Clean clean{
         options_,
         locale_,
         operation,
         automatic ? lastResult_ : std::nullopt,
-        onMain([this](const engine::TextStatistics &counts, const engine::CleaningReport &report) {
-            showCounts(counts, report);
-        }),
+        onMain([this](const engine::TextStatistics &counts, const engine::CleaningReport &report,
+                      const std::u16string &profile) { showCounts(counts, report, profile); }),
         onMain([this](const engine::CleaningReport &report) {
             if (reportHandler_) {
                 reportHandler_(report);
@@ -148,11 +225,25 @@ void nrChangePasterboard::start(std::optional<std::int32_t> operation, bool auto
         onMain([this](WriteBack result) { queueWriteBack(std::move(result)); })};
     auto reading = std::make_shared<Reading>();
     reading->keepsOriginal = clean.writes();
-    reading->sparedLink = sparedLink;
+    if (!operation) {
+        reading->decision.onDemand = !automatic;
+        beginDecision(*reading, std::move(exceptions));
+    }
     reading->work = [clean](Reading &source, std::u16string text) {
         clean.run(source, std::move(text));
     };
     readContent(std::move(reading));
+}
+
+void nrChangePasterboard::beginDecision(Reading &reading, CopyTable exceptions) {
+    reading.table = std::move(exceptions);
+    if (makeTable_) {
+        std::ranges::move(makeTable_(), std::back_inserter(reading.table));
+    }
+    if (listener_) {
+        reading.decision.copy.program = listener_->copiedFrom(pasteboard_.changeCount());
+    }
+    reading.tellDecision = onMain([this](DecidedCopy decided) { decided_ = std::move(decided); });
 }
 
 void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) const {
@@ -163,8 +254,10 @@ void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) cons
     if (!plain) {
         reading.text.bytes = nullptr; // the memory is wanted
     }
+    const CopyRow *row = reading.decision.row ? &*reading.decision.row : nullptr;
+    const auto &used = row ? *row->options : *options;
     engine::CleaningReport report;
-    const engine::CleaningContext context{.options = *options, .locale = locale, .report = &report};
+    const engine::CleaningContext context{.options = used, .locale = locale, .report = &report};
     if (reading.original) {
         reading.original->firstWords = firstWords(text);
     }
@@ -176,8 +269,8 @@ void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) cons
     if (writes()) {
         tell(report);
     }
-    if (counts()) {
-        show(engine::countAll(text, locale), report);
+    if (counts(used)) {
+        show(engine::countAll(text, locale), report, row ? row->title : std::u16string());
     }
     const auto source = reading.offered.changeCount;
     if (!writes()) {
@@ -197,16 +290,16 @@ void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) cons
 void nrChangePasterboard::readContent(std::shared_ptr<Reading> reading) {
     readHarmlessFormats([this, reading](std::optional<PasteboardFormats> offered) {
         if (!offered || offersUrl(offered->formats)) {
-            reading->nothing();
+            reading->end(DecidedCopy::Outcome::noText);
             return;
         }
-        if (!reading->sparedLink.empty() &&
-            platform::offersLink(offered->formats, reading->sparedLink)) {
+        reading->decision.copy.formats = offered->formats;
+        if (reading->isLeftAlone()) {
             // They may be the formats of a copy that came after the one that was announced.
             if (listener_) {
                 listener_->addOneCount(offered->changeCount);
             }
-            reading->nothing();
+            reading->end(DecidedCopy::Outcome::leftAlone);
             return;
         }
         reading->texts = textFormats(offered->formats);
@@ -245,12 +338,15 @@ void nrChangePasterboard::readHarmlessFormats(
 // is written back.
 void nrChangePasterboard::readText(std::shared_ptr<Reading> reading) {
     if (reading->texts.empty()) {
-        reading->nothing();
+        reading->end(DecidedCopy::Outcome::noText);
         return;
     }
     PasteboardRequest request{reading->texts, cleanedTextLimit, {}, originalLimit_};
     if (reading->keepsOriginal && !reading->ofOurs && originalLimit_ > 0) {
         request.others = readingOrder(reading->offered.formats);
+    } else if (reading->wantsPage()) {
+        request.others = pageFormats(reading->offered.formats);
+        request.limit = cleanedTextLimit + pageLimit;
     }
     pasteboard_.read(reading->offered.changeCount, std::move(request),
                      alive_.guard([this, reading](PasteboardRead read) {
@@ -264,10 +360,13 @@ void nrChangePasterboard::textArrived(const std::shared_ptr<Reading> &reading,
         if (read.tooLarge && tooLarge_) {
             tooLarge_();
         }
-        reading->nothing();
+        reading->end(DecidedCopy::Outcome::noText);
         return;
     }
     reading->text = read.content[0];
+    if (reading->wantsPage()) {
+        reading->decision.copy.host = pageOf(read.content);
+    }
     if (reading->keepsOriginal && !reading->ofOurs && originalLimit_ > 0) {
         keepOriginal(*reading, read);
     }
@@ -303,10 +402,10 @@ void nrChangePasterboard::decodeOnWorker(std::shared_ptr<Reading> reading) {
             auto text = decodeText(reading->text);
             if (!text) {
                 next();
-            } else if (isUrl(*text)) {
-                nothing();
-            } else {
+            } else if (reading->takes(*text)) {
                 reading->work(*reading, std::move(*text));
+            } else {
+                nothing();
             }
         } catch (const std::exception &) {
             nothing(); // out of memory, in practice; the clipboard stays as it is
@@ -317,12 +416,13 @@ void nrChangePasterboard::decodeOnWorker(std::shared_ptr<Reading> reading) {
 void nrChangePasterboard::newCountWindow(std::u16string text) {
     workerQueue_.post([text = std::move(text), locale = locale_,
                        show = onMain([this](const engine::TextStatistics &counts) {
-                           showCounts(counts, {});
+                           showCounts(counts, {}, {});
                        })] { show(engine::countAll(text, locale)); });
 }
 
 void nrChangePasterboard::showCounts(const engine::TextStatistics &counts,
-                                     const engine::CleaningReport &report) {
+                                     const engine::CleaningReport &report,
+                                     const std::u16string &profile) {
     countController_ = nullptr;
     if (!makeCountWindow_) {
         return;
@@ -332,6 +432,9 @@ void nrChangePasterboard::showCounts(const engine::TextStatistics &counts,
                                         engine::integerToString(counts.spaces, locale_),
                                         engine::integerToString(counts.words, locale_),
                                         engine::integerToString(counts.paragraphs, locale_));
+    if (!profile.empty()) {
+        countController_->tellProfile(profile);
+    }
     if (!report.empty()) {
         countController_->tellReport(report);
     }

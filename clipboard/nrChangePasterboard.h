@@ -11,6 +11,7 @@
 // engine, and the worker queue must end before the main queue does.
 #pragma once
 
+#include "clipboard/CopyTable.h"
 #include "engine/CleaningOptions.h"
 #include "engine/CleaningReport.h"
 #include "engine/Statistics.h"
@@ -39,6 +40,9 @@ class ClipboardListener {
     virtual void addOneCount(platform::ChangeCount written) = 0;
     // The change count may have moved. Not called while a write of ours is under way.
     virtual void clipboardChanged() {}
+    // The program that was in front when the content of this count was copied; empty where that is
+    // not known.
+    virtual std::string copiedFrom(platform::ChangeCount) { return {}; }
 };
 
 // The statistics popup.
@@ -47,6 +51,9 @@ class CountWindow {
     virtual ~CountWindow() = default;
     virtual void countToTextFields(std::u16string characters, std::u16string spaces,
                                    std::u16string words, std::u16string paragraphs) = 0;
+    // The name of the profile, where the table and not the user has chosen it. Not called
+    // otherwise.
+    virtual void tellProfile(std::u16string) {}
     // What the clean that it is shown for could not do. Not called if that is nothing.
     virtual void tellReport(const engine::CleaningReport &) {}
     virtual void showWindow() = 0;
@@ -95,12 +102,18 @@ class nrChangePasterboard {
     void setAllBools(const storage::PropertyDictionary &dictionary);
     std::shared_ptr<const engine::CleaningOptions> snapshot() const { return options_; }
 
+    // Asked before each clean with all that is on: which content is cleaned with other options than
+    // those of the snapshot. Without it, none is.
+    void setCopyTableMaker(std::function<CopyTable()> maker) { makeTable_ = std::move(maker); }
+    // Of the last such clean.
+    const DecidedCopy &decided() const { return decided_; }
+
     // Every operation that is switched on, on the current content.
     void changePasteboard();
-    // The same for a copy, which nobody has asked for: content with link data of the type
-    // `sparedLink` (see SpreadsheetLinks; empty for none) is left alone, and so is plain text that
-    // equals our last result. Two programs that clean each other's results come to rest by this.
-    void changePasteboard(std::string_view sparedLink);
+    // The same for a copy, which nobody has asked for: it is left alone where a row of `exceptions`
+    // fits, or one of the table that says so, and so is plain text that equals our last result. Two
+    // programs that clean each other's results come to rest by this.
+    void changePasteboard(CopyTable exceptions);
     // The one operation with this index, switched on or not; an index outside the table leaves the
     // text as it is, which still is put back as plain text only. The index of the statistics shows
     // the popup and writes nothing.
@@ -151,7 +164,8 @@ class nrChangePasterboard {
     };
     struct Clean;
 
-    void start(std::optional<std::int32_t> operation, bool automatic, std::string_view sparedLink);
+    void start(std::optional<std::int32_t> operation, bool automatic, CopyTable exceptions);
+    void beginDecision(Reading &reading, CopyTable exceptions);
     void readContent(std::shared_ptr<Reading> reading);
     void readText(std::shared_ptr<Reading> reading);
     void textArrived(const std::shared_ptr<Reading> &reading, platform::PasteboardRead read);
@@ -159,7 +173,8 @@ class nrChangePasterboard {
     void decodeOnWorker(std::shared_ptr<Reading> reading);
     // Hands the formats on, or nothing if the clipboard is empty, unreadable or holds a secret.
     void readHarmlessFormats(std::function<void(std::optional<platform::PasteboardFormats>)> next);
-    void showCounts(const engine::TextStatistics &counts, const engine::CleaningReport &report);
+    void showCounts(const engine::TextStatistics &counts, const engine::CleaningReport &report,
+                    const std::u16string &profile);
     void leftAsItIs(platform::ChangeCount source);
     void queueWriteBack(WriteBack writeBack);
     void startNextWrite();
@@ -186,6 +201,8 @@ class nrChangePasterboard {
     std::function<void()> restorableChanged_;
     CountWindowMaker makeCountWindow_;
     ReportHandler reportHandler_;
+    std::function<CopyTable()> makeTable_;
+    DecidedCopy decided_;
     std::unique_ptr<CountWindow> countController_;
     std::size_t originalLimit_ = keptOriginalLimit;
     std::shared_ptr<const engine::CleaningOptions> options_ =

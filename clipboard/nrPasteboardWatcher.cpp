@@ -1,10 +1,5 @@
 #include "clipboard/nrPasteboardWatcher.h"
 
-#include "clipboard/PasteboardFormats.h"
-#include "platform/SpreadsheetLinks.h"
-#include "text/Ascii.h"
-
-#include <algorithm>
 #include <cassert>
 #include <cmath>
 #include <utility>
@@ -33,16 +28,15 @@ nrPasteboardWatcher::nrPasteboardWatcher(platform::Pasteboard &pasteboard,
     , mainQueue_(mainQueue)
     , activeApplication_(activeApplication)
     , engine_(engine)
-    , changeCount_(pasteboard.changeCount()) {
+    , changeCount_(pasteboard.changeCount())
+    , copied_{changeCount_, {}} {
     engine_.setListener(this);
     shared = this;
 }
 
 nrPasteboardWatcher::~nrPasteboardWatcher() {
     stop();
-    if (disableAppsState_) {
-        stopEngine();
-    }
+    activeApplication_.setActivatedHandler(nullptr);
     engine_.setListener(nullptr);
     if (shared == this) {
         shared = nullptr;
@@ -103,30 +97,38 @@ void nrPasteboardWatcher::update() {
     if (count == changeCount_ || engine_.writing()) {
         return;
     }
+    noteProgram(count);
     changeCount_ = count;
-    engine_.changePasteboard(sparedLinkType());
-}
-
-std::string_view nrPasteboardWatcher::sparedLinkType() const {
-    if (!disableAppsState_ || !currentAppBundle_) {
-        return {};
-    }
-    const auto links = platform::spreadsheetLinks();
-    const auto link = std::ranges::find_if(links, [&](const platform::SpreadsheetLink &row) {
-        return text::equalIgnoringAsciiCase(row.identifier, *currentAppBundle_);
-    });
-    return link == links.end() ? std::string_view() : link->type;
+    engine_.changePasteboard(disableAppsState_ ? spreadsheetRows(currentAppBundle_.value_or(""))
+                                               : CopyTable());
 }
 
 void nrPasteboardWatcher::addOneCount(platform::ChangeCount written) {
     changeCount_ = written;
+    copied_.count = written;
+}
+
+std::string nrPasteboardWatcher::copiedFrom(platform::ChangeCount count) {
+    noteProgram(count);
+    return copied_.program;
+}
+
+void nrPasteboardWatcher::noteProgram(platform::ChangeCount count) {
+    if (copied_.count != count) {
+        copied_ = {count, program_};
+        if (programChanged_) {
+            programChanged_();
+        }
+    }
 }
 
 void nrPasteboardWatcher::addOneCount() {
     changeCount_ = pasteboard_.changeCount();
 }
 
+// The copy is noted now: at the next tick, another program may be in front.
 void nrPasteboardWatcher::clipboardChanged() {
+    noteProgram(pasteboard_.changeCount());
     if (atOnce_ && running()) {
         update();
     } else {
@@ -147,22 +149,32 @@ void nrPasteboardWatcher::startEngine() {
     if (currentAppBundle_) {
         return;
     }
-    activeApplication_.setActivatedHandler(
-        [this](std::string identifier) { appActivated(std::move(identifier)); });
+    subscribe();
     addOneCount();
 }
 
 void nrPasteboardWatcher::stopEngine() {
-    activeApplication_.setActivatedHandler(nullptr);
+    if (!followsPrograms_) {
+        activeApplication_.setActivatedHandler(nullptr);
+    }
     currentAppBundle_.reset();
 }
 
+void nrPasteboardWatcher::followPrograms() {
+    followsPrograms_ = true;
+    subscribe();
+}
+
+void nrPasteboardWatcher::subscribe() {
+    activeApplication_.setActivatedHandler(
+        [this](std::string identifier) { appActivated(std::move(identifier)); });
+}
+
 void nrPasteboardWatcher::appActivated(std::string identifier) {
-    if (identifier.empty()) {
-        currentAppBundle_.reset();
-    } else {
-        currentAppBundle_ = std::move(identifier);
-    }
+    program_ = identifier;
+    currentAppBundle_ = disableAppsState_ && !identifier.empty()
+                            ? std::optional(std::move(identifier))
+                            : std::nullopt;
 }
 
 } // namespace nerlo::clipboard

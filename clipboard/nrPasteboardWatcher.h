@@ -16,9 +16,9 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace nerlo::clipboard {
 
@@ -54,8 +54,17 @@ class nrPasteboardWatcher final : public ClipboardListener {
     // Takes the content with this count for handled, and nothing newer.
     void addOneCount(platform::ChangeCount written) override;
     void clipboardChanged() override;
+    // Ours comes from where the content that we made it of came from.
+    std::string copiedFrom(platform::ChangeCount count) override;
     // Takes what is on the clipboard now for handled.
     void addOneCount();
+
+    // From now on, also without the exception, remembers which program is in front at each copy.
+    void followPrograms();
+    // The one of the last copy; empty where it is not known.
+    const std::string &lastProgram() const { return copied_.program; }
+    // Runs when that may have changed.
+    void setProgramHandler(std::function<void()> changed) { programChanged_ = std::move(changed); }
 
     // Switches the exception: copies of a spreadsheet that carry its link data are left alone.
     void toggleEngine(bool on);
@@ -65,8 +74,9 @@ class nrPasteboardWatcher final : public ClipboardListener {
 
   private:
     void scheduleNextTick();
-    // The type of link data that is spared in the application in front; empty for none.
-    std::string_view sparedLinkType() const;
+    void subscribe();
+    // Remembers where the content of this count came from, if it is new.
+    void noteProgram(platform::ChangeCount count);
 
     platform::Pasteboard &pasteboard_;
     platform::MainQueue &mainQueue_;
@@ -77,8 +87,17 @@ class nrPasteboardWatcher final : public ClipboardListener {
     std::optional<platform::MainQueue::Clock::time_point> started_;
     platform::MainQueue::TaskId timer_ = 0; // 0: no tick is scheduled
     bool atOnce_ = false;
-    std::optional<std::string> currentAppBundle_;
+    std::optional<std::string> currentAppBundle_; // since the exception was switched on
     bool disableAppsState_ = false;
+
+    struct Copied {
+        platform::ChangeCount count;
+        std::string program;
+    };
+    bool followsPrograms_ = false;
+    std::string program_; // in front; empty where it is not known
+    Copied copied_;       // the last copy
+    std::function<void()> programChanged_;
 };
 
 } // namespace nerlo::clipboard

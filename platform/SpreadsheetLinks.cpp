@@ -14,7 +14,7 @@ namespace {
 constexpr std::array<SpreadsheetLink, 3> links{{
     {"com.microsoft.Excel", "com.microsoft.Link"},
     {"org.libreoffice.Calc", "org.libreoffice.Link"},
-    {"org.libreoffice", "org.libreoffice.Cells"},
+    {"org.libreoffice", cellsType},
 }};
 
 struct Name {

@@ -14,6 +14,9 @@ struct SpreadsheetLink {
     std::string_view type;       // of its link data
 };
 
+// What only cells of Calc are offered as.
+inline constexpr std::string_view cellsType = "org.libreoffice.Cells";
+
 // The pairs for which an exception can be made.
 std::span<const SpreadsheetLink> spreadsheetLinks();
 

@@ -17,7 +17,7 @@ enum class SettingKind {
     Switch,   // stored as the integer 0 or 1
     Text,     // string
     Index,    // integer, the place in an option list
-    List,     // array of find-and-replace items
+    List,     // array of rules
     Boolean,  // stored as a boolean
     Integer,  // stored as an integer
     TextList, // array of strings

@@ -1,6 +1,7 @@
 #include "settings/nrPreferences.h"
 
 #include "settings/Migration.h"
+#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "storage/PropertyList.h"
 #include "storage/SafeFile.h"
@@ -302,12 +303,13 @@ void nrPreferences::profilesAdd() {
     profilesAdding_ = true;
 }
 
-void nrPreferences::profilesAddingCloseWindow(const std::u16string &name) {
+void nrPreferences::profilesAddingCloseWindow(const std::u16string &name, ProfileRecord beginning) {
     profilesAdding_ = false;
     if (name.empty()) {
         return;
     }
-    profilesItems_.push_back(file_.newItem({{"profileName", name}}));
+    beginning.set("profileName", name);
+    profilesItems_.push_back(file_.newItem(std::move(beginning)));
     selectedItem_ = static_cast<int>(profilesItems_.size()) - 1;
     refreshProfilesMenu();
     profilesSelect();
@@ -334,6 +336,29 @@ void nrPreferences::profilesRemove() {
     saveProfilesWithArray();
     refreshProfilesMenu();
     profilesSelect();
+}
+
+std::optional<ProfileRecord> nrPreferences::recordNamed(std::u16string_view name) const {
+    const auto item = std::ranges::find_if(profilesItems_, [&](const ProfileItem &candidate) {
+        return profileNameOf(candidate.record) == name;
+    });
+    if (item == profilesItems_.end()) {
+        const ReadyProfile *ready = findReadyProfile(name);
+        return ready ? std::optional(readyRecord(*ready, std::u16string(name))) : std::nullopt;
+    }
+    if (item - profilesItems_.begin() == selectedItem_) {
+        return profileSelected();
+    }
+    ProfileRecord record = item->record;
+    const PropertyValue *onlyOne = record.find(onlyOneKey);
+    if (onlyOne && onlyOne->boolValue()) {
+        PropertyArray rules;
+        for (const RecordItem &rule : sharedRules_) {
+            rules.emplace_back(rule.record);
+        }
+        record.set(sharedListKey, std::move(rules));
+    }
+    return record;
 }
 
 // --- Controls ---

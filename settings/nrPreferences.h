@@ -87,9 +87,13 @@ class nrPreferences {
     // processes, and selects the one that was at `place`.
     void profilesSwitch(int place);
     void profilesAdd();
-    void profilesAddingCloseWindow(const std::u16string &name);
+    // `beginning` is what the new profile holds besides its name.
+    void profilesAddingCloseWindow(const std::u16string &name, ProfileRecord beginning = {});
     void profilesAddingCancelWindow();
     void profilesRemove();
+    // The first profile with this name as it is now, edits and shared rules included; else the
+    // ready one with this id.
+    std::optional<ProfileRecord> recordNamed(std::u16string_view name) const;
     void saveSelectedProfileInDictionary();
     // False when the file could not be written; the changes go with the next save.
     bool saveChangesInProfiles();

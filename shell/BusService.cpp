@@ -98,6 +98,10 @@ void BusService::Profile(const QString &name) {
     }
 }
 
+QString BusService::Why() {
+    return QString::fromStdString(program_->why());
+}
+
 QString BusService::Doctor() {
     return QString::fromStdString(program_->doctor(named_));
 }

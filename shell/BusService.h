@@ -54,6 +54,7 @@ class BusService final : public QObject, public ProgramListener, protected QDBus
     void Activate();
     void Preferences();
     void Profile(const QString &name);
+    QString Why();
     QString Doctor();
     void Quit();
 

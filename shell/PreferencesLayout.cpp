@@ -39,7 +39,6 @@ std::vector<PreferencesPage> makePages() {
            "sChangeWrongInsertedReturnsTo",
            {"udChangeWrongInsertedReturnsOption"}},
           {"udUnwrapTerminal", "sUnwrapTerminal", {}},
-          {"udProtectStructure", "", {}},
           {"udChangeReturnsTo",
            "sChangeReturnsTo",
            {"udChangeReturnsOption", "udChangeReturnsCustom1", "udChangeReturnsCustom2"}},

@@ -1,18 +1,21 @@
 #include "shell/Program.h"
 
 #include "engine/Operations.h"
+#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "settings/UserLocale.h"
 #include "shell/Doctor.h"
 #include "shell/HotKeyCommands.h"
 #include "shell/Strings.h"
 #include "shell/Terminal.h"
+#include "shell/Why.h"
 #include "shell/nrCountWindowController.h"
 #include "storage/SafeFile.h"
 #include "text/Utf.h"
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <algorithm>
 #include <utility>
 
 namespace nerlo::shell {
@@ -78,6 +81,7 @@ void Program::connect() {
             ShellWindows::Problem::largeText,
             localized("sTextTooLarge").arg(clipboard::cleanedTextLimit >> 20).toStdString());
     });
+    engine_.setCopyTableMaker([this] { return copyTable(); });
     engine_.setRestorableHandler([this] { windows_.updateRestorable(); });
     engine_.setCleanedHandler([this] {
         windows_.setProblem(ShellWindows::Problem::largeText, {});
@@ -121,6 +125,7 @@ void Program::start() {
     registerHotKeys();
     delegate_->applicationWillFinishLaunching();
     delegate_->applicationDidFinishLaunching();
+    watcher_.followPrograms();
     windows_.start();
     followOtherProcesses();
 }
@@ -188,6 +193,51 @@ std::string Program::doctor(bool sessionBus) const {
         RunningState{automatic(), hotKeyFindings(hotKeys_, shortcutTexts_.layout())});
 }
 
+std::string Program::why() const {
+    return whyText(engine_.decided(), profileName());
+}
+
+std::vector<clipboard::CopyRule> Program::copyRules() const {
+    const auto *stored = store_.find(clipboard::copyTableKey);
+    return stored ? clipboard::copyRules(stored) : clipboard::offeredRules();
+}
+
+void Program::setCopyRules(const std::vector<clipboard::CopyRule> &rules) {
+    store_.set(clipboard::copyTableKey, clipboard::storedRules(rules));
+}
+
+std::u16string Program::titleOf(const std::u16string &profile) const {
+    const auto &items = preferences_.profilesItems();
+    const bool stored = std::ranges::any_of(items, [&](const settings::ProfileItem &item) {
+        return settings::profileNameOf(item.record) == profile;
+    });
+    const auto *ready = settings::findReadyProfile(profile);
+    return stored || !ready ? profile : localized(ready->titleKey).toStdU16String();
+}
+
+// A row whose profile has gone decides nothing.
+clipboard::CopyTable Program::copyTable() const {
+    clipboard::CopyTable table;
+    std::size_t number = 0;
+    auto rules = copyRules();
+    for (clipboard::CopyRule &rule : rules) {
+        ++number;
+        const auto record = rule.on ? preferences_.recordNamed(rule.profile) : std::nullopt;
+        if (!rule.on || (!rule.leavesAlone() && !record)) {
+            continue;
+        }
+        clipboard::CopyRow row{std::move(rule), number, {}, nullptr};
+        if (!row.rule.leavesAlone()) {
+            auto options = std::make_shared<engine::CleaningOptions>();
+            options->setAllBools(*record);
+            row.options = std::move(options);
+            row.title = titleOf(row.rule.profile);
+        }
+        table.push_back(std::move(row));
+    }
+    return table;
+}
+
 bool Program::perform(const Request &request) {
     switch (request.command) {
     case Command::automatic:
@@ -205,6 +255,7 @@ bool Program::perform(const Request &request) {
         runOperation(request.argument.toInt());
         break;
     case Command::restore:
+    case Command::why:
     case Command::doctor:
     case Command::quit:
     case Command::activate:

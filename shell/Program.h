@@ -26,6 +26,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace nerlo::shell {
 
@@ -76,10 +77,18 @@ class Program final {
     void activate();
     // English, UTF-8. `sessionBus`: others can reach the program over the bus.
     std::string doctor(bool sessionBus) const;
+    // The same; nothing of the copied text.
+    std::string why() const;
     void quit() { delegate_->quitApp(); }
     // One of these, as the command line of this start asks for it; false when there is no such
     // profile. What only a running program is asked for does nothing.
     bool perform(const Request &request);
+
+    // Which profile cleans which copy: what is stored, or else the rows that are offered.
+    std::vector<clipboard::CopyRule> copyRules() const;
+    void setCopyRules(const std::vector<clipboard::CopyRule> &rules);
+    // What a profile's name in a rule is called: a ready one has a name in the user's language.
+    std::u16string titleOf(const std::u16string &profile) const;
 
     bool automatic() const { return delegate_->automatic(); }
     std::string profileName() const; // of the selected one, UTF-8
@@ -102,6 +111,7 @@ class Program final {
 
   private:
     void connect();
+    clipboard::CopyTable copyTable() const;
     void tellDamages(); // those of the start, and again when there is a new one
     void registerHotKeys();
     void followOtherProcesses();

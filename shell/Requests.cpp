@@ -16,6 +16,8 @@ constexpr CommandRow rows[] = {
      "Run one operation on it, by index or name (see: nerlo operations)."},
     {Command::restore, "Restore", "restore", nullptr,
      "Put back what stood there before the last clean."},
+    {Command::why, "Why", "why", nullptr,
+     "Say which profile the last copy was cleaned with, and why."},
     {Command::doctor, "Doctor", "doctor", nullptr,
      "Say what works on this desktop, and what does not."},
     {Command::quit, "Quit", "quit", nullptr, "End the running program."},

@@ -27,6 +27,7 @@ enum class Command {
     clean,
     operation,
     restore,
+    why,
     doctor,
     quit,
     activate, // the program was started again

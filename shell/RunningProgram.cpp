@@ -99,6 +99,7 @@ int tell(Command command, const QString &answer) {
             return complain("not restored: " + answer.toStdString());
         }
         break;
+    case Command::why:
     case Command::doctor:
         std::cout << answer.toStdString();
         break;

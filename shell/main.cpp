@@ -49,6 +49,9 @@ std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
     if (commandLine.asksFor(Command::restore)) {
         return complain("not restored: the program was not running");
     }
+    if (commandLine.asksFor(Command::why)) {
+        return complain("nothing to tell: the program was not running");
+    }
     platform::QtMainQueue mainQueue;
     platform::QtWorkerQueue workerQueue;
     if (commandLine.asksFor(Command::doctor)) {

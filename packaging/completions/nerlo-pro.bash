@@ -28,7 +28,7 @@ _nerlo_pro() {
         compopt -o nospace
         ;;
     --automatic) COMPREPLY=($(compgen -W "on off toggle" -- "$cur")) ;;
-    *) COMPREPLY=($(compgen -W "--clean --operation --restore --preferences --automatic --profile --shortcut --doctor --quit --help --version" -- "$cur")) ;;
+    *) COMPREPLY=($(compgen -W "--clean --operation --restore --preferences --automatic --profile --shortcut --why --doctor --quit --help --version" -- "$cur")) ;;
     esac
 }
 

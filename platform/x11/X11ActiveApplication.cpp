@@ -56,12 +56,12 @@ class ActiveWindow final : public SharedConnection::Listener {
 
     void look() {
         const auto window = inFront();
-        // While the focus moves, no window is in front for a moment.
-        if (window == XCB_NONE || window == window_) {
-            return;
+        // None for a moment while the focus moves, and under a Wayland compositor for as long as a
+        // window of another kind is in front: then nothing is known.
+        if (window != window_) {
+            window_ = window;
+            activated_(window == XCB_NONE ? std::string() : identifierOf(window));
         }
-        window_ = window;
-        activated_(identifierOf(window));
     }
 
     std::string identifierOf(xcb_window_t window) {

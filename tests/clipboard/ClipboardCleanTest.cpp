@@ -156,7 +156,7 @@ TEST_F(ClipboardCleanTest, OurLastResultAsAnothersPlainTextIsNotCleanedByItself)
     pasteboard.copyText("a");
     clean();
     const auto cleanByItself = [&] {
-        engine.changePasteboard(std::string_view());
+        engine.changePasteboard(CopyTable());
         finish();
     };
     pasteboard.copyText(">a");
@@ -167,6 +167,84 @@ TEST_F(ClipboardCleanTest, OurLastResultAsAnothersPlainTextIsNotCleanedByItself)
     pasteboard.copy(content({{"text/html", "x"}, {"text/plain", ">>a"}}));
     cleanByItself();
     EXPECT_EQ(text(), ">>>a");
+}
+
+TEST_F(ClipboardCleanTest, ARowOfTheTableChoosesTheOptions) {
+    const auto upper = [] {
+        auto options = std::make_shared<engine::CleaningOptions>();
+        options->udChangeCaseTo = true;
+        options->udChangeCaseOption = 3;
+        options->udStatistics = true;
+        return options;
+    }();
+    struct Window final : CountWindow {
+        explicit Window(std::u16string &shown)
+            : shown_(shown) {}
+        void countToTextFields(std::u16string, std::u16string, std::u16string,
+                               std::u16string) override {}
+        void tellProfile(std::u16string name) override { shown_ = std::move(name); }
+        void showWindow() override {}
+        std::u16string &shown_;
+    };
+    std::u16string shown;
+    engine.setCountWindowMaker([&] { return std::make_unique<Window>(shown); });
+    engine.setCopyTableMaker([&] {
+        return CopyTable{{{.on = true, .format = "x-secretive"}, 1, {}, nullptr},
+                         {{.on = true, .host = "example.org", .profile = u"u"}, 2, u"Loud", upper},
+                         {{.on = true, .looks = Looks::link, .profile = u"u"}, 3, u"Loud", upper},
+                         {{.on = true, .looks = Looks::code}, 4, {}, nullptr}};
+    });
+    using Outcome = DecidedCopy::Outcome;
+    const auto code = "if (a) {\n  b;\n}\n";
+    const struct {
+        const char *shows;
+        PasteboardContent copied;
+        bool onDemand;
+        std::string text;
+        Outcome outcome;
+        std::size_t row; // 0: none
+    } rows[] = {
+        {"by its page",
+         content({{"chromium/x-source-url", "http://a.example.org/"}, {"UTF8_STRING", "a b"}}),
+         false, "A B", Outcome::cleaned, 2},
+        {"of another page",
+         content({{"chromium/x-source-url", "http://example.net/"}, {"UTF8_STRING", "a b"}}), false,
+         "ab", Outcome::cleaned, 0},
+        {"a link", content({{"UTF8_STRING", "http://a"}}), false, "HTTP://A", Outcome::cleaned, 3},
+        {"left alone by its formats", content({{"x-secretive", ""}, {"UTF8_STRING", "a b"}}), false,
+         "a b", Outcome::leftAlone, 1},
+        {"but not when it is asked for", content({{"x-secretive", ""}, {"UTF8_STRING", "a b"}}),
+         true, "ab", Outcome::cleaned, 0},
+        {"left alone by its looks", content({{"UTF8_STRING", code}}), false, code,
+         Outcome::leftAlone, 4},
+        {"files", content({{"text/uri-list", "a b"}, {"UTF8_STRING", "a b"}}), true, "a b",
+         Outcome::noText, 0},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.shows);
+        shown.clear();
+        pasteboard.log.clear();
+        pasteboard.copy(row.copied);
+        if (row.onDemand) {
+            engine.changePasteboard();
+        } else {
+            engine.changePasteboard(CopyTable());
+        }
+        finish();
+        EXPECT_EQ(pasteboard.bytes("UTF8_STRING"), row.text);
+        const DecidedCopy &decided = engine.decided();
+        EXPECT_EQ(decided.outcome, row.outcome);
+        EXPECT_EQ(decided.onDemand, row.onDemand);
+        EXPECT_EQ(decided.row ? decided.row->number : 0, row.row);
+        EXPECT_EQ(shown, decided.row && decided.row->options ? u"Loud" : u"");
+        EXPECT_EQ(std::ranges::count(pasteboard.log, "formats"), 1);
+        EXPECT_EQ(pasteboard.log.size() == 1, row.row == 1 || row.outcome == Outcome::noText)
+            << "nothing is read in vain";
+    }
+    pasteboard.copy(content({{"UTF8_STRING", "a b"}}));
+    engine.changePasteboardWithKeys(removeAllSpaces);
+    finish();
+    EXPECT_EQ(text(), "ab") << "an operation has the options of the selected profile";
 }
 
 TEST_F(ClipboardCleanTest, TheNextFormatIsTakenWhereOneIsRefusedOrBroken) {
@@ -189,6 +267,20 @@ TEST_F(ClipboardCleanTest, ATextBeyondTheLimitIsTold) {
     clean();
     EXPECT_EQ(told, 1);
     EXPECT_EQ(pasteboard.content()[0].bytes, large);
+}
+
+TEST_F(ClipboardCleanTest, SurvivesBadOwnersAndCleansTheNextCopy) {
+    const test::MemoryOwner owners[] = {{.delay = 1h}, {.deliversNothing = true}, {.gone = true}};
+    for (const auto &owner : owners) {
+        pasteboard.copyText("bad owner", owner);
+        engine.changePasteboard();
+        mainQueue.advance(platform::pasteboardReadLimit);
+        finish();
+        EXPECT_EQ(text(), "bad owner");
+        pasteboard.copyText("a b");
+        clean();
+        EXPECT_EQ(text(), "ab");
+    }
 }
 
 TEST_F(ClipboardCleanTest, NeverReplacesANewerCopyNorRefillsAnEmptiedClipboard) {

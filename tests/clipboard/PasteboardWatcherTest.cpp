@@ -159,6 +159,7 @@ TEST_P(PasteboardWatcherTest, StopsAndStartsAfresh) {
 
 TEST_P(PasteboardWatcherTest, SparesLinkedCellsOnlyWhereTheExceptionHolds) {
     const auto calcLink = R"(application/x-openoffice-link;windows_formatname="Link")";
+    const auto calcCells = R"(application/x-openoffice-sylk;windows_formatname="Sylk")";
     const struct {
         const char *name;
         bool exception;
@@ -176,6 +177,8 @@ TEST_P(PasteboardWatcherTest, SparesLinkedCellsOnlyWhereTheExceptionHolds) {
         {"Calc's link in Excel", true, {"com.microsoft.Excel"}, calcLink, 1},
         {"another program", true, {"com.microsoft.Excel", "xterm"}, "Link", 1},
         {"a program without a name", true, {"com.microsoft.Excel", ""}, "Link", 1},
+        {"cells, where no program is told", true, {}, calcCells, 0},
+        {"and the exception is off", false, {}, calcCells, 1},
     };
     watcher.start();
     advance(2s);
@@ -212,6 +215,37 @@ TEST_P(PasteboardWatcherTest, SwitchingTheExceptionOnSubscribesAndAcceptsWhatIsT
     activeApplication.activate("xterm");
     watcher.toggleEngine(true);
     EXPECT_EQ(activeApplication.subscriptions, 2);
+}
+
+TEST_P(PasteboardWatcherTest, RemembersWhichProgramWasInFrontAtTheCopy) {
+    int told = 0;
+    watcher.setProgramHandler([&] { ++told; });
+    watcher.followPrograms();
+    watcher.start();
+    activeApplication.activate("xterm");
+    EXPECT_EQ(watcher.lastProgram(), "");
+    advance(2s);
+    pasteboard.copyText("a ");
+    queue.runPosted();
+    if (!GetParam()) {
+        advance(500ms); // nothing tells of the copy before the tick
+    }
+    activeApplication.activate("mousepad");
+    advance(500ms);
+    finish();
+    EXPECT_EQ(watcher.lastProgram(), "xterm");
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(engine.decided().copy.program, "xterm");
+    engine.changePasteboard();
+    queue.runPosted();
+    finish();
+    EXPECT_EQ(engine.decided().copy.program, "xterm") << "our own text came from there";
+    watcher.toggleEngine(true);
+    watcher.toggleEngine(false);
+    activeApplication.activate("foot");
+    pasteboard.copyText("b");
+    advance(500ms);
+    EXPECT_EQ(watcher.lastProgram(), "foot") << "also after the exception";
 }
 
 TEST_P(PasteboardWatcherTest, AHungSpreadsheetDelaysNothingElse) {
