@@ -98,6 +98,8 @@ constexpr OptionField fields[] = {
     {"sFindAndReplaceItems", &O::udFindAndReplaceItems, "find and replace",
      "copy of the list for all profiles"},
     {"udUnwrapTerminal", &O::udUnwrapTerminal, "lines", "undo a terminal's wrapping and frames"},
+    {"udProtectStructure", &O::udProtectStructure, "lines",
+     "leave code, tables and lists as they are"},
 };
 
 void read(const storage::PropertyValue *value, bool &field) {

@@ -59,6 +59,7 @@ struct CleaningOptions {
     bool udRemoveHTMLTagsJS = false;
     bool udInsertYourPattern = false;
     bool udUnwrapTerminal = false;
+    bool udProtectStructure = false;
     PerSlot<bool> udChangeProperty{};
 
     Text udSortCustomSeparatorTextField = u"";

@@ -2,9 +2,12 @@
 
 #include "engine/Whitespace.h"
 #include "text/CaseMapping.h"
+#include "text/Range.h"
 #include "text/UnitScan.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace nerlo::engine {
 
@@ -173,6 +176,129 @@ std::u16string changeWrongInsertedReturnsTo(std::u16string text, std::int32_t op
         text.pop_back();
     }
     return changeDash(std::move(text));
+}
+
+namespace {
+
+// Shorter lines may be meant, however even they are.
+constexpr std::size_t leastWrapped = 32;
+constexpr std::size_t leastWrappedIdeographs = 16;
+
+bool isIdeograph(char16_t unit) {
+    return unit >= u'\u2E80' && (unit < u'\uAC00' || unit > u'\uD7A3') &&
+           (unit < 0xD800 || unit > 0xF8FF);
+}
+
+// A paragraph, line by line.
+class WrappedParagraph {
+  public:
+    explicit WrappedParagraph(std::u16string_view text)
+        : text_(text) {}
+
+    // Units of the lines' words; [begin, end) of the text.
+    void addLine(std::size_t begin, std::size_t end) { lines_.push_back({begin, end}); }
+    void clear() { lines_.clear(); }
+
+    bool isWrapped() const {
+        std::size_t width = 0;
+        for (const text::Range &line : lines_) {
+            width = std::max(width, line.end - line.begin);
+        }
+        bool goesOn = false; // some line begins as no sentence and no name does
+        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
+            const bool full = roomOf(at) * 5 > width * 4;
+            if (!full && !staysApart(at)) {
+                return false;
+            }
+            goesOn = goesOn || text::letterCase(firstOf(at + 1)) == LetterCase::Other ||
+                     isIdeograph(firstOf(at + 1));
+        }
+        return goesOn && width >= (isIdeograph(firstOf(0)) ? leastWrappedIdeographs : leastWrapped);
+    }
+
+    void append(std::u16string &result, bool withSpace) const {
+        for (std::size_t at = 0; at < lines_.size(); ++at) {
+            std::u16string_view line = lineAt(at);
+            const bool last = at + 1 == lines_.size();
+            if (last || staysApart(at)) {
+                result.append(line);
+                result.append(last ? u"" : u"\n");
+                continue;
+            }
+            const bool hyphen = isHyphenated(at);
+            const bool apart =
+                withSpace && !hyphen && !(isIdeograph(line.back()) && isIdeograph(firstOf(at + 1)));
+            line.remove_suffix(hyphen ? 1 : 0);
+            result.append(line).append(apart ? u" " : u"");
+        }
+    }
+
+  private:
+    std::u16string_view lineAt(std::size_t at) const {
+        return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
+    }
+    char16_t firstOf(std::size_t at) const { return text_[lines_[at].begin]; }
+
+    // Units that the line would have with the next word behind it.
+    std::size_t roomOf(std::size_t at) const {
+        const std::u16string_view next = lineAt(at + 1);
+        const std::size_t word =
+            isIdeograph(next[0]) ? 1 : std::min(next.find(u' '), next.size()) + 1;
+        return lineAt(at).size() + word;
+    }
+
+    bool staysApart(std::size_t at) const {
+        return checkLineForEndSentenceChar(lineAt(at), false) &&
+               text::letterCase(firstOf(at + 1)) != LetterCase::Other;
+    }
+
+    bool isHyphenated(std::size_t at) const {
+        const std::u16string_view line = lineAt(at);
+        return line.size() > 1 && line.back() == u'-' &&
+               text::letterCase(line[line.size() - 2]) != LetterCase::Caseless &&
+               text::letterCase(firstOf(at + 1)) == LetterCase::Other;
+    }
+
+    const std::u16string_view text_;
+    std::vector<text::Range> lines_;
+};
+
+} // namespace
+
+std::u16string joinWrappedLines(std::u16string text, bool withSpace) {
+    constexpr std::u16string_view blanks = u" \u00A0\t";
+    const std::u16string_view all = text;
+    std::u16string result;
+    result.reserve(text.size());
+    WrappedParagraph paragraph(all);
+    std::size_t begin = 0; // of the paragraph
+    const auto endParagraph = [&](std::size_t end, std::size_t next) {
+        if (paragraph.isWrapped()) {
+            paragraph.append(result, withSpace);
+            result.append(all.substr(end, next - end));
+        } else {
+            result.append(all.substr(begin, next - begin));
+        }
+        paragraph.clear();
+        begin = next;
+    };
+    std::size_t inkedEnd = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = text::findUnit(text, at, lineBreaks);
+        const std::u16string_view line = all.substr(at, end - at);
+        const std::size_t first = line.find_first_not_of(blanks);
+        const bool pair = all.substr(end).starts_with(u"\r\n");
+        const std::size_t next = std::min(text.size(), end + (pair ? 2 : 1));
+        if (first != std::u16string_view::npos) {
+            inkedEnd = at + line.find_last_not_of(blanks) + 1;
+            paragraph.addLine(at + first, inkedEnd);
+        } else {
+            endParagraph(inkedEnd, next);
+        }
+        at = next;
+    }
+    endParagraph(inkedEnd, text.size());
+    return result;
 }
 
 } // namespace nerlo::engine

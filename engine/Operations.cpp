@@ -6,6 +6,7 @@
 #include "engine/Markup.h"
 #include "engine/Quotes.h"
 #include "engine/Sorting.h"
+#include "engine/StructureGuard.h"
 #include "engine/TerminalText.h"
 #include "engine/Whitespace.h"
 
@@ -179,7 +180,7 @@ constexpr Operation table[] = {
     {4, "change-returns", "sChangeReturnsTo", "replace runs of line breaks, or wrap every line",
      changeReturns, unlessEachLineIsWrapped},
     {5, "trim", "sRemoveSpacesBeforeAndAfterText", "trim white space at both ends of the text",
-     plain<removeSpacesStartAndEnd>, always},
+     plain<removeSpacesStartAndEnd>, always, Reach::textEnds},
     {6, "change-case", "sChangeCaseTo", "change letter case", changeCase, withoutWordsAndSentences},
     {7, "change-quotes", "sChangeQuotes", "single quotes to double quotes, or back", changeQuotes,
      whereQuotesAreTakenAlike},
@@ -188,7 +189,7 @@ constexpr Operation table[] = {
     {9, "remove-double-quotes", "sRemoveDoubleQuotes", "remove double quotes", removeDoubles,
      always},
     {10, "remove-reply-marks", "sRemoveReplyQuotes", "remove the > marks of mail replies",
-     plain<removeReplyQuotes>, always},
+     plain<removeReplyQuotes>, always, Reach::quoteMarks},
     {11, "remove-tags", "sRemoveHTMLTags", "remove HTML tags", removeTags},
     {12, "your-pattern", "sInsertYourPattern", "delete or keep the matches of your pattern",
      applyPattern},
@@ -199,19 +200,22 @@ constexpr Operation table[] = {
      plain<removeMultipleSpaces>, always},
     {17, "change-tabs", "sChangeTabsAnd4Spaces", "tabs to four spaces, or back", changeTabs,
      always},
-    {18, "remove-bullets", "sRemoveBullets", "remove list bullets", plain<removeBullets>, always},
+    {18, "remove-bullets", "sRemoveBullets", "remove list bullets", plain<removeBullets>, always,
+     Reach::bullets},
     {19, "remove-space-before-dot", "sRemoveSpaceBeforeDot", "remove a space before a dot",
      plain<removeSpaceBeforeDot>, always},
     {20, "remove-space-around-tab", "sRemoveSpaceBeforeAfterTab", "remove spaces next to tabs",
      plain<removeSpaceBeforeAfterTab>, always},
     {21, "remove-space-around-return", "sRemoveSpaceBeforeAfterReturn",
-     "remove spaces next to line breaks", plain<removeSpaceBeforeAfterReturn>, always},
+     "remove spaces next to line breaks", plain<removeSpaceBeforeAfterReturn>, always,
+     Reach::lineEnds},
     {22, "change-ellipsis", "sChangeEllipsisAndDots", "three dots to an ellipsis, or back",
      changeEllipsis, always},
-    {23, "sort-lines", "sSort", "sort lines or separated items", sort},
+    {23, "sort-lines", "sSort", "sort lines or separated items", sort, nullptr, Reach::whole},
     {24, "remove-duplicate-lines", "sRemoveDuplicateLines", "remove repeated lines or items",
-     removeRepeatedLines},
-    {25, "statistics", "sStatistics", "count characters, spaces, words and paragraphs", unchanged},
+     removeRepeatedLines, nullptr, Reach::whole},
+    {25, "statistics", "sStatistics", "count characters, spaces, words and paragraphs", unchanged,
+     nullptr, Reach::whole},
     {26, "replace-4", "sChangeProperty4", "find and replace, pair 4", replaceSlot<4>},
     {27, "replace-5", "sChangeProperty5", "find and replace, pair 5", replaceSlot<5>},
     {28, "replace-6", "sChangeProperty6", "find and replace, pair 6", replaceSlot<6>},
@@ -220,15 +224,18 @@ constexpr Operation table[] = {
     {31, "replace-9", "sChangeProperty9", "find and replace, pair 9", replaceSlot<9>},
     {32, "replace-10", "sChangeProperty10", "find and replace, pair 10", replaceSlot<10>},
     {33, "join-lines", "sChangeWrongInsertedReturnsTo", "join lines broken inside sentences",
-     joinLines},
+     joinLines, nullptr, Reach::lineJoints},
     {34, "remove-hyphens", "sRemoveHyphens", "remove hyphens, or all dashes too", removeDashes,
      always},
-    {35, "add-prefix", "sAddPrefix", "put the prefix before the text", prefix},
-    {36, "add-suffix", "sAddSuffix", "put the suffix after the text", suffix},
+    {35, "add-prefix", "sAddPrefix", "put the prefix before the text", prefix, nullptr,
+     Reach::whole},
+    {36, "add-suffix", "sAddSuffix", "put the suffix after the text", suffix, nullptr,
+     Reach::whole},
     {37, "find-replace-list", "sFindReplaceBool", "apply the find-and-replace list",
      findReplaceList},
     {38, "unwrap-terminal", "sUnwrapTerminal",
-     "undo what a terminal did to its text: wrapping, frames, padding", plain<unwrapTerminal>},
+     "undo what a terminal did to its text: wrapping, frames, padding", plain<unwrapTerminal>,
+     nullptr, Reach::whole},
 };
 
 constexpr bool rowsStandAtTheirIndex() {
@@ -333,6 +340,9 @@ const Operation *findOperation(std::string_view nameOrIndex) {
 std::u16string runOperation(std::int32_t index, std::u16string text,
                             const CleaningContext &context) {
     const Operation *const operation = findOperation(index);
+    if (operation && context.options.udProtectStructure) {
+        return runGuarded(std::move(text), {&operation, 1}, context, cachedPiece);
+    }
     return operation ? operation->run(std::move(text), context) : text;
 }
 
@@ -412,9 +422,8 @@ std::vector<const Operation *> operationsSwitchedOn(const CleaningOptions &optio
     return operations;
 }
 
-std::u16string runPipeline(std::u16string text, const CleaningContext &context,
-                           std::size_t pieceSize) {
-    const std::vector<const Operation *> steps = operationsSwitchedOn(context.options);
+std::u16string runSteps(std::u16string text, std::span<const Operation *const> steps,
+                        const CleaningContext &context, std::size_t pieceSize) {
     const auto inPieces = [&](const Operation *step) {
         return step->inPieces && step->inPieces(context.options);
     };
@@ -427,6 +436,14 @@ std::u16string runPipeline(std::u16string text, const CleaningContext &context,
         }
     }
     return text;
+}
+
+std::u16string runPipeline(std::u16string text, const CleaningContext &context,
+                           std::size_t pieceSize) {
+    const std::vector<const Operation *> steps = operationsSwitchedOn(context.options);
+    return context.options.udProtectStructure
+               ? runGuarded(std::move(text), steps, context, pieceSize)
+               : runSteps(std::move(text), steps, context, pieceSize);
 }
 
 } // namespace nerlo::engine

@@ -28,6 +28,17 @@ struct CleaningContext {
     CleaningReport *report = nullptr;
 };
 
+// What an operation may change where structure is protected.
+enum class Reach : std::uint8_t {
+    prose,
+    lineJoints, // prose that was wrapped; told apart by the guard
+    lineEnds,   // the blanks at both ends of the lines of prose
+    bullets,    // in front of list items
+    quoteMarks, // in front of quoted lines
+    textEnds,   // up to what is protected
+    whole,      // everything, as if nothing were protected
+};
+
 struct Operation {
     std::int32_t index;
     std::string_view name;    // for the command line: "sort-lines"
@@ -38,6 +49,7 @@ struct Operation {
     // same result as on the whole. It must also leave letters at the cuts, so that the next
     // operation can run on the same pieces. Null for never.
     bool (*inPieces)(const CleaningOptions &options) = nullptr;
+    Reach reach = Reach::prose;
 };
 
 // Rows 0 to 37, each at its index. The row of the statistics operation returns its text unchanged.
@@ -49,6 +61,11 @@ inline constexpr std::int32_t statisticsOperation = 25;
 const Operation *findOperation(std::int32_t index);
 // By name, or by index in decimal digits; null for anything else.
 const Operation *findOperation(std::string_view nameOrIndex);
+
+// These in their order. Operations next to each other that run in pieces go over each piece of
+// about `pieceSize` units before the next piece is looked at.
+std::u16string runSteps(std::u16string text, std::span<const Operation *const> steps,
+                        const CleaningContext &context, std::size_t pieceSize);
 
 // One operation, whether or not its switch is on; an index outside the table changes nothing.
 std::u16string runOperation(std::int32_t index, std::u16string text,
@@ -64,8 +81,7 @@ inline constexpr std::size_t cachedPiece = 32 * 1024;
 // The operations whose switches are on, in the fixed order in which a clean runs them.
 std::vector<const Operation *> operationsSwitchedOn(const CleaningOptions &options);
 
-// All of these. Operations next to each other that run in pieces go over each piece of about
-// `pieceSize` units before the next piece is looked at.
+// All of these; with udProtectStructure on, what is structure in the text stays.
 std::u16string runPipeline(std::u16string text, const CleaningContext &context,
                            std::size_t pieceSize = cachedPiece);
 

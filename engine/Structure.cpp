@@ -13,16 +13,10 @@ namespace {
 
 using View = std::u16string_view;
 using Lines = std::span<StructuredLine>;
+using text::isAsciiDigit;
+using text::isAsciiLetter;
 
 constexpr text::UnitSet breaks(u"\r\n");
-
-bool isDigit(char16_t unit) {
-    return unit >= u'0' && unit <= u'9';
-}
-
-bool isLetter(char16_t unit) {
-    return static_cast<char16_t>((unit | 0x20) - u'a') < 26;
-}
 
 bool isBlank(char16_t unit) {
     return unit == u' ' || unit == u'\t' || unit == u'\u00A0';
@@ -62,7 +56,7 @@ std::vector<StructuredLine> splitLines(View text) {
         const std::size_t end = text::findUnit(text, begin, breaks);
         const bool pair = text.substr(end).starts_with(u"\r\n");
         const std::size_t next = std::min(text.size(), end + (pair ? 2 : 1));
-        lines.push_back({begin, end, next, LineKind::blank, end});
+        lines.push_back({begin, end, next, LineKind::blank, begin, end});
         begin = next;
     }
     return lines;
@@ -99,10 +93,10 @@ std::size_t listMark(View words) {
     } else {
         const std::size_t open = words.starts_with(u'(') ? 1 : 0;
         std::size_t at = open;
-        while (at < words.size() && at < open + 9 && isDigit(words[at])) {
+        while (at < words.size() && at < open + 9 && isAsciiDigit(words[at])) {
             ++at;
         }
-        if (at == open && at < words.size() && isLetter(words[at])) {
+        if (at == open && at < words.size() && isAsciiLetter(words[at])) {
             ++at;
         }
         const bool closed = at > open && at < words.size() &&
@@ -111,7 +105,7 @@ std::size_t listMark(View words) {
     }
     // Alone on its line, a letter with a dot is the end of a sentence rather than an empty item.
     const bool alone = size == words.size();
-    if (size == 0 || (alone ? isLetter(words[0]) : !isBlank(words[size]))) {
+    if (size == 0 || (alone ? isAsciiLetter(words[0]) : !isBlank(words[size]))) {
         return 0;
     }
     return firstInk(words, size);
@@ -144,9 +138,11 @@ constexpr std::array<View, 4> rawTags{u"script", u"pre", u"style", u"textarea"};
 bool isTag(View words, std::span<const View> names) {
     std::size_t at = words.starts_with(u"</") ? 2 : 1;
     std::u16string name;
-    for (; at < words.size() && name.size() < 12 && (isLetter(words[at]) || isDigit(words[at]));
+    for (; at < words.size() && name.size() < 12 &&
+           (isAsciiLetter(words[at]) || isAsciiDigit(words[at]));
          ++at) {
-        name.push_back(static_cast<char16_t>(isLetter(words[at]) ? words[at] | 0x20 : words[at]));
+        name.push_back(
+            static_cast<char16_t>(isAsciiLetter(words[at]) ? words[at] | 0x20 : words[at]));
     }
     return std::ranges::find(names, View(name)) != names.end();
 }
@@ -168,7 +164,7 @@ const char16_t *endOfMarkup(View words) {
     if (!words.starts_with(u"</") && isTag(words, rawTags)) {
         return u"</";
     }
-    const bool alone = words.size() > 2 && (isLetter(words[1]) || words[1] == u'/') &&
+    const bool alone = words.size() > 2 && (isAsciiLetter(words[1]) || words[1] == u'/') &&
                        words.find(u'>') == words.size() - 1 && words.find(u"://") == View::npos &&
                        words.find(u'@') == View::npos;
     return isTag(words, blockTags) || alone ? u"" : nullptr;
@@ -270,6 +266,7 @@ class MarkedStructure {
             words = firstInk(line_, words + 1);
             // Behind the mark and one blank begins the quotation, whose own indent counts.
         }
+        line.quoted = words > quote ? line.begin + words : line.begin;
         line.words = line.begin + words;
         const std::size_t column =
             columnOf(line_, words) - (words > quote ? columnOf(line_, quote) : 0);
@@ -439,7 +436,7 @@ bool isWordy(View words) {
         while (!word.empty() && View(u".,;:!?").find(word.back()) != View::npos) {
             word.remove_suffix(1);
         }
-        plain += !word.empty() && std::ranges::all_of(word, isLetter);
+        plain += !word.empty() && std::ranges::all_of(word, isAsciiLetter<char16_t>);
         at = firstInk(words, end);
     }
     return plain > 5 && plain * 5 >= all * 3;
@@ -450,7 +447,7 @@ bool looksLikeCode(View words) {
     if (words.empty()) {
         return false;
     }
-    if (isLetter(words.front()) && isWordy(words)) {
+    if (isAsciiLetter(words.front()) && isWordy(words)) {
         return false;
     }
     const View ends = u"{};[(";

@@ -31,8 +31,9 @@ struct StructuredLine {
     std::size_t end = 0;  // of the line without its break
     std::size_t next = 0; // begin of the line below; the text's size for the last
     LineKind kind = LineKind::blank;
-    std::size_t words = 0; // where the words begin: behind indent, quotation and list marks
-    bool item = false;     // a list mark stands before the words
+    std::size_t quoted = 0; // behind the marks of a quotation; begin where there are none
+    std::size_t words = 0;  // where the words begin: behind indent, quotation and list marks
+    bool item = false;      // a list mark stands before the words
 };
 
 // A break is CR LF, CR or LF. The text "" has no line, "a\n" has one.

@@ -39,6 +39,7 @@ std::vector<PreferencesPage> makePages() {
            "sChangeWrongInsertedReturnsTo",
            {"udChangeWrongInsertedReturnsOption"}},
           {"udUnwrapTerminal", "sUnwrapTerminal", {}},
+          {"udProtectStructure", "", {}},
           {"udChangeReturnsTo",
            "sChangeReturnsTo",
            {"udChangeReturnsOption", "udChangeReturnsCustom1", "udChangeReturnsCustom2"}},

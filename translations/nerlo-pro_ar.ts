@@ -502,6 +502,15 @@
 بعد: جملة واحدة·على سطرين.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>ترك الشيفرة والجداول والقوائم كما هي</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>قبل: تصبح القائمة سطرًا واحدًا وتفسد الشيفرة.
+بعد: يُرتَّب النص العادي وحده. تبقى علامات القوائم والمسافات البادئة والشيفرة والجداول والعناوين.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>توصَل الأسطر بـ</translation>
     </message>

@@ -502,6 +502,15 @@ Nachher: Diese Zeile wurde·mittendrin umbrochen.</translation>
 Nachher: Ein Satz auf·zwei Zeilen.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Code, Tabellen und Listen so lassen, wie sie sind</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Vorher: Beim Aufräumen wird eine Liste zu einer Zeile und Code beschädigt.
+Nachher: Nur Fließtext wird aufgeräumt. Listenzeichen, Einzüge, Code, Tabellen und Adressen bleiben.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Zeilen werden verbunden mit</translation>
     </message>

@@ -502,6 +502,15 @@
 Μετά: Μία πρόταση·σε δύο γραμμές.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Ο κώδικας, οι πίνακες και οι λίστες μένουν ως έχουν</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Πριν: μια λίστα γίνεται μία γραμμή και ο κώδικας χαλάει.
+Μετά: τακτοποιείται μόνο το απλό κείμενο. Σημεία λίστας, εσοχές, κώδικας, πίνακες και διευθύνσεις μένουν.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Οι γραμμές ενώνονται με</translation>
     </message>

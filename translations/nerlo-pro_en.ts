@@ -503,6 +503,15 @@ After: This line was·broken in the middle.</translation>
 After: One sentence·on two rows.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Leave code, tables and lists as they are</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Before: tidying makes one line of a list and spoils code.
+After: only prose is tidied. Marks and indents, code, tables and addresses stay.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Broken lines are joined with</translation>
     </message>

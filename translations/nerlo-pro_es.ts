@@ -502,6 +502,15 @@ Después: Esta línea se·cortó por la mitad.</translation>
 Después: Una frase·en dos líneas.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Dejar el código, las tablas y las listas como están</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Antes: una lista acaba en una sola línea y el código se estropea.
+Después: solo se limpia el texto corrido. Las marcas, las sangrías, el código, las tablas y las direcciones se quedan.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Las líneas se unen con</translation>
     </message>

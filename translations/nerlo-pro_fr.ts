@@ -502,6 +502,15 @@ Après : Cette ligne a été·coupée au milieu.</translation>
 Après : Une phrase·sur deux lignes.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Laisser le code, les tableaux et les listes tels quels</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Avant : une liste devient une seule ligne et le code est abîmé.
+Après : seul le texte courant est nettoyé. Puces, retraits, code, tableaux et adresses restent.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Les lignes sont jointes par</translation>
     </message>

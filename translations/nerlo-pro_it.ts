@@ -502,6 +502,15 @@ Dopo: Questa riga è stata·spezzata a metà.</translation>
 Dopo: Una frase·su due righe.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Lasciare codice, tabelle ed elenchi come sono</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Prima: un elenco diventa una sola riga e il codice si rovina.
+Dopo: si pulisce solo il testo normale. Segni e rientri, codice, tabelle e indirizzi restano.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Le righe si uniscono con</translation>
     </message>

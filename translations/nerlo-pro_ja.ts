@@ -502,6 +502,15 @@
 後：一つの文が二行になる。</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>コード、表、リストはそのままにする</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>前：リストが1行になり、コードが壊れます。
+後：文章だけを整えます。リストの記号、字下げ、コード、表、アドレスはそのまま残ります。</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>行のつなぎ方</translation>
     </message>

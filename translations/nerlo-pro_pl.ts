@@ -502,6 +502,15 @@ Po: Ten wiersz został·złamany w środku.</translation>
 Po: Jedno zdanie·w dwóch wierszach.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Zostaw kod, tabele i listy bez zmian</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Przed: lista staje się jednym wierszem, a kod się psuje.
+Po: porządkowany jest tylko zwykły tekst. Znaki list, wcięcia, kod, tabele i adresy zostają.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Wiersze są łączone przez</translation>
     </message>

@@ -502,6 +502,15 @@ Depois: Esta linha foi·quebrada no meio.</translation>
 Depois: Uma frase·em duas linhas.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Deixar código, tabelas e listas como estão</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Antes: uma lista vira uma só linha e o código se estraga.
+Depois: só o texto corrido é limpo. Marcas, recuos, código, tabelas e endereços ficam.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>As linhas são unidas com</translation>
     </message>

@@ -502,6 +502,15 @@
 После: Одно предложение·в двух строках.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Оставлять код, таблицы и списки как есть</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>До: список сливается в одну строку, а код портится.
+После: приводится в порядок только обычный текст. Маркеры, отступы, код, таблицы и адреса остаются.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Строки соединяются через</translation>
     </message>

@@ -502,6 +502,15 @@ Efter: Den här raden blev·bruten på mitten.</translation>
 Efter: En mening·på två rader.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Låt kod, tabeller och listor vara som de är</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>Före: en lista blir en enda rad och kod förstörs.
+Efter: bara löpande text städas. Punkter, indrag, kod, tabeller och adresser står kvar.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Raderna fogas ihop med</translation>
     </message>

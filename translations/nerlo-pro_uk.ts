@@ -502,6 +502,15 @@
 Після: Одне речення·у двох рядках.</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>Залишати код, таблиці та списки як є</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>До: список зливається в один рядок, а код псується.
+Після: упорядковується лише звичайний текст. Маркери, відступи, код, таблиці та адреси залишаються.</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>Рядки з’єднуються через</translation>
     </message>

@@ -502,6 +502,15 @@
 之后：一个句子分成两行。</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>代码、表格和列表保持原样</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>之前：列表变成一行，代码被破坏。
+之后：只整理正文。列表标记、缩进、代码、表格和地址保持不变。</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>断行连接方式</translation>
     </message>

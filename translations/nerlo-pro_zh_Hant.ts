@@ -502,6 +502,15 @@
 之後：一個句子分成兩行。</translation>
     </message>
     <message>
+        <source>sProtectStructure</source>
+        <translation>程式碼、表格和清單保持原樣</translation>
+    </message>
+    <message>
+        <source>sProtectStructureTip</source>
+        <translation>之前：清單變成一行，程式碼遭到破壞。
+之後：只整理內文。清單標記、縮排、程式碼、表格和位址保持不變。</translation>
+    </message>
+    <message>
         <source>sChangeWrongInsertedReturnsOption</source>
         <translation>斷行的連接方式</translation>
     </message>

@@ -269,20 +269,6 @@ TEST_F(ClipboardCleanTest, ATextBeyondTheLimitIsTold) {
     EXPECT_EQ(pasteboard.content()[0].bytes, large);
 }
 
-TEST_F(ClipboardCleanTest, SurvivesBadOwnersAndCleansTheNextCopy) {
-    const test::MemoryOwner owners[] = {{.delay = 1h}, {.deliversNothing = true}, {.gone = true}};
-    for (const auto &owner : owners) {
-        pasteboard.copyText("bad owner", owner);
-        engine.changePasteboard();
-        mainQueue.advance(platform::pasteboardReadLimit);
-        finish();
-        EXPECT_EQ(text(), "bad owner");
-        pasteboard.copyText("a b");
-        clean();
-        EXPECT_EQ(text(), "ab");
-    }
-}
-
 TEST_F(ClipboardCleanTest, NeverReplacesANewerCopyNorRefillsAnEmptiedClipboard) {
     const struct {
         const char *name;

@@ -180,6 +180,9 @@ TEST_F(ShortcutView, RecordsReplacesAndDeletes) {
     click(view, view.buttonRect().center());
     ASSERT_TRUE(wait([&] { return !view.shortcutValue(); }));
     EXPECT_EQ(store.find("sSort"), nullptr);
+    bound->setGlobalShortcut(nrShortcut(v, controlModifier), "sSort");
+    store.set("sSort", storage::PropertyData(3)); // no shortcut, but not the control's to remove
+    EXPECT_NE(store.find("sSort"), nullptr);
 }
 
 TEST_F(ShortcutView, LeavesTheOldValueOnEscapeAndCancel) {

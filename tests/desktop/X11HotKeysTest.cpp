@@ -1,10 +1,7 @@
-// Hot keys and the keyboard layout on a real X server: xdotool is the user.
+// Hot keys on a real X server, with xdotool as the user, and the keyboard of a compositor.
 #include "platform/x11/X11HotKeys.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/x11/SharedConnection.h"
-#include "platform/x11/X11KeyboardLayout.h"
-#include "platform/x11/XkbEvents.h"
-#include "platform/x11/XkbProtocol.h"
 #include "tests/Process.h"
 #include "tests/fakes/MemoryMainQueue.h"
 
@@ -131,27 +128,6 @@ TEST_F(X11HotKeys, FollowModifiersThatMove) {
     xdotool({"key", "Num_Lock"});
     press("super+v");
     EXPECT_EQ(runs[1], before + 1);
-}
-
-TEST_F(X11HotKeys, TheLayoutIsFollowedAsItChanges) {
-    const auto layout = createX11KeyboardLayout(queue, x11::SharedConnection::open(io)).backend;
-    ASSERT_TRUE(layout);
-    int changes = 0;
-    layout->setChangedHandler([&] { ++changes; });
-    using Row = std::pair<const char *, const char16_t *>;
-    for (const auto &[name, text] : {Row{"de", u"z"}, Row{"ru", u"н"}, Row{"de", u"z"}}) {
-        ASSERT_TRUE(outputOf({"setxkbmap", name}));
-        EXPECT_TRUE(test::until(queue, [&] { return layout->textOfKey(16) == text; })) << name;
-    }
-    EXPECT_GE(changes, 3);
-    // The second of two layouts, once it is switched to.
-    ASSERT_TRUE(outputOf({"setxkbmap", "us,ru"}));
-    EXPECT_TRUE(test::until(queue, [&] { return layout->textOfKey(16) == u"y"; }));
-    const auto connection = x11::Connection::open();
-    ASSERT_TRUE(x11::XkbEvents::select(*connection));
-    xcb_xkb_latch_lock_state(connection->get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, 1, 0, 0, 0);
-    xcb_flush(connection->get());
-    EXPECT_TRUE(test::until(queue, [&] { return layout->textOfKey(16) == u"н"; }));
 }
 
 // A sway that is itself a window of the X server has a keyboard.

@@ -207,6 +207,11 @@ class HotKeyTest(unittest.TestCase):
         self.store("sort-lines=Super+Z", "works")
         self.finds("remove-all-spaces=Super+Y: works")
         self.cleans_with("super+52")
+        # So does the second of two layouts, once it is switched to.
+        output_of("setxkbmap", "us,ru")
+        self.finds("remove-all-spaces=Super+Z: works")
+        keyboard.lock(0, False, 1)
+        self.finds("remove-all-spaces=Super+\u042f: works")
 
     def portal(self, *command):
         return output_of(PORTAL, *command)

@@ -15,7 +15,6 @@ class MemoryHotKeys final : public platform::HotKeyService {
         if (refusesHandler) {
             return false;
         }
-        ++installations;
         pressed_ = std::move(pressed);
         return true;
     }
@@ -82,7 +81,6 @@ class MemoryHotKeys final : public platform::HotKeyService {
     bool refusesHandler = false;
     std::vector<Combination> takenByOthers;
     bool suspended = false;
-    int installations = 0;
     int removals = 0;
     std::map<Handle, platform::HotKeyRequest> registered;
     std::vector<platform::HotKeyRequest> requests; // all that were ever made

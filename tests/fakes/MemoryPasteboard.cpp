@@ -38,13 +38,6 @@ void MemoryPasteboard::empty() {
     replace({}, {});
 }
 
-void MemoryPasteboard::lose() {
-    owner_.gone = true;
-    if (lost_) {
-        mainQueue_.post(lost_);
-    }
-}
-
 std::string MemoryPasteboard::bytes(std::string_view format) const {
     const auto found = std::ranges::find(content_, format, &platform::PasteboardData::format);
     return found == content_.end() ? std::string() : *found->bytes;
@@ -64,8 +57,7 @@ void MemoryPasteboard::replace(platform::PasteboardContent content, const Memory
 }
 
 void MemoryPasteboard::ask(std::function<void(platform::PasteboardStatus)> answer) {
-    const auto status = owner_.gone ? platform::PasteboardStatus::unavailable
-                        : owner_.delay >= platform::pasteboardStallLimit
+    const auto status = owner_.delay >= platform::pasteboardStallLimit
                             ? platform::PasteboardStatus::timedOut
                             : platform::PasteboardStatus::done;
     const auto delay = std::min<platform::MainQueue::Clock::duration>(
@@ -116,7 +108,7 @@ bool MemoryPasteboard::deliver(platform::PasteboardReading &reading) {
     while (const auto place = reading.next()) {
         const auto &format = asked.emplace_back(reading.format(*place));
         const auto found = std::ranges::find(content_, format, &platform::PasteboardData::format);
-        if (owner_.deliversNothing || found == content_.end()) {
+        if (found == content_.end()) {
             reading.failed(platform::PasteboardReading::Failure::refused);
         } else if (found->bytes->size() > *reading.room()) {
             reading.failed(platform::PasteboardReading::Failure::tooLarge);
@@ -137,9 +129,7 @@ void MemoryPasteboard::write(platform::PasteboardContent content,
         if (!alive.lock()) {
             return;
         }
-        if (owner_.gone) {
-            handler({platform::PasteboardStatus::unavailable, 0});
-        } else if (onlyOver && *onlyOver != changeCount_) {
+        if (onlyOver && *onlyOver != changeCount_) {
             log.emplace_back("refused");
             handler({platform::PasteboardStatus::changed, 0});
         } else {

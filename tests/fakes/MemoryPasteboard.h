@@ -16,11 +16,9 @@ namespace nerlo::test {
 
 // How the owner of the content behaves. An own write brings an obedient owner back.
 struct MemoryOwner {
-    platform::MainQueue::Clock::duration
-        delay{};                       // before each answer; above the stall limit: given up
-    bool deliversNothing = false;      // offers formats and has bytes for none
+    // Before each answer; above the stall limit: given up.
+    platform::MainQueue::Clock::duration delay{};
     std::vector<std::string> silent{}; // formats that it is asked for and never answers
-    bool gone = false;                 // there is no answer at all, and no connection
 };
 
 class MemoryPasteboard final : public platform::Pasteboard {
@@ -48,7 +46,7 @@ class MemoryPasteboard final : public platform::Pasteboard {
     platform::ChangeCount changeCount() const override { return changeCount_; }
     bool notifiesChanges() const override { return notifies_; }
     void setChangeHandler(std::function<void()> changed) override { changed_ = std::move(changed); }
-    void setLostHandler(std::function<void()> lost) override { lost_ = std::move(lost); }
+    void setLostHandler(std::function<void()>) override {}
     void readFormats(FormatsHandler handler) override;
     void read(platform::ChangeCount of, platform::PasteboardRequest request,
               ReadHandler handler) override;
@@ -56,9 +54,6 @@ class MemoryPasteboard final : public platform::Pasteboard {
                WriteHandler handler) override;
     std::string description() const override { return "in memory"; }
     std::vector<std::string> limitations() const override { return {}; }
-
-    // The connection to the desktop breaks.
-    void lose();
 
   private:
     void replace(platform::PasteboardContent content, const MemoryOwner &owner);
@@ -73,7 +68,6 @@ class MemoryPasteboard final : public platform::Pasteboard {
     MemoryOwner owner_;
     platform::ChangeCount changeCount_ = 1;
     std::function<void()> changed_;
-    std::function<void()> lost_;
     // Answers that are under way when the pasteboard goes are dropped.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };

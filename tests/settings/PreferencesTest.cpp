@@ -91,48 +91,23 @@ TEST(Starts, EveryFileThatIsDamagedIsTold) {
 }
 
 TEST(Files, OfTheOtherSystemLoadAndKeepWhatIsNotUnderstood) {
-    // Keys sorted, tabs, as the other system's writer does it; "future" is nobody's key here.
-    const std::string sample = R"(<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE plist PUBLIC "-//Apple//DTD PLIST 1.0//EN" "http://www.apple.com/DTDs/PropertyList-1.0.dtd">
-<plist version="1.0">
-<array>
-	<dict>
-		<key>future</key>
-		<dict>
-			<key>when</key>
-			<date>2031-05-06T07:08:09Z</date>
-		</dict>
-		<key>profileName</key>
-		<string>Büro &amp; E-Mail</string>
-		<key>sFindAndReplaceItemsProfile</key>
-		<array>
-			<dict>
-				<key>checkbox</key>
-				<true/>
-				<key>find</key>
-				<string>&lt;b&gt;</string>
-				<key>note</key>
-				<real>0.25</real>
-				<key>replace</key>
-				<string></string>
-			</dict>
-		</array>
-		<key>udSort</key>
-		<integer>1</integer>
-		<key>udStatisticsValue</key>
-		<string>7</string>
-	</dict>
-</array>
-</plist>
-)";
-    const PropertyArray profiles = *parsePropertyList(sample).value->as<PropertyArray>();
+    // Keys sorted, as the other system's writer does it; "future" and "note" are nobody's keys
+    // here.
+    const PropertyDictionary rule{
+        {"checkbox", true}, {"find", u"<b>"}, {"note", 0.25}, {"replace", u""}};
+    const PropertyArray profiles{
+        PropertyDictionary{{"future", PropertyDictionary{{"when", storage::PropertyDate{5}}}},
+                           {"profileName", u"Büro & E-Mail"},
+                           {"sFindAndReplaceItemsProfile", PropertyArray{rule}},
+                           {"udSort", 1},
+                           {"udStatisticsValue", u"7"}}};
     const PropertyDictionary store{{"NSNavLastRootDirectory", u"~/Desktop"},
                                    {"firstRunPreferences", true},
                                    {"firstRunPreferencesProfiles", true},
                                    {"udSelectedProfileItem", 0}};
     for (const auto write : {writeXml, writeBinary}) {
         const TemporaryFolder folder;
-        putBytes(pathsIn(folder).profiles, write == writeXml ? sample : writeBinary(profiles));
+        putBytes(pathsIn(folder).profiles, write(profiles));
         putBytes(pathsIn(folder).store, write(store));
         Program program(folder);
         program.start();

@@ -182,35 +182,6 @@ TEST(FileSettingsStore, FailedWriteIsReportedAndGoesWithTheNext) {
     EXPECT_GT(failures, 4);
 }
 
-TEST(FileSettingsStore, EndedAtAnySystemCallOfASaveTheFileIsOldOrNew) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "defaults.plist";
-    const std::u16string large(4000, u'x');
-    {
-        FileSettingsStore store(path);
-        store.set("text", large);
-        store.set("count", 0);
-    }
-    const int deaths = test::endAtEachCall(
-        [&](FileCalls &calls, int at) {
-            FileSettingsStore store(path, nullptr, calls);
-            store.set("count", at);
-            return store.synchronize();
-        },
-        [&](int at, bool last) {
-            const FileSettingsStore after(path);
-            EXPECT_EQ(after.stringForKey("text"), large) << at;
-            const auto count = after.integerForKey("count");
-            EXPECT_TRUE(count == at || (count == at - 1 && !last)) << at;
-            EXPECT_EQ(folder.count("defaults.plist.unreadable-"), 0);
-            // Files left behind by the failed save do not stop the next one.
-            FileSettingsStore next(path);
-            next.set("count", at);
-            EXPECT_TRUE(next.synchronize()) << at;
-        });
-    EXPECT_GT(deaths, 15);
-}
-
 TEST(SafeFile, ASymbolicLinkStaysOne) {
     const TemporaryFolder folder;
     putBytes(folder / "real/file", "old");

@@ -1,0 +1,231 @@
+#include "engine/InlineStructure.h"
+
+#include "text/Ascii.h"
+#include "text/UnitScan.h"
+
+#include <algorithm>
+#include <map>
+
+namespace nerlo::engine {
+
+namespace {
+
+using View = std::u16string_view;
+using text::isAsciiDigit;
+using text::isAsciiLetter;
+using text::Range;
+
+bool isOneOf(char16_t unit, View units) {
+    return units.find(unit) != View::npos;
+}
+
+bool isInAddress(char16_t unit) {
+    return unit > u' ' && unit != u'\u00A0' &&
+           !isOneOf(unit, u"<>\"`|\\^{}\u201C\u201D\u2018\u00AB\u00BB");
+}
+
+bool isInMailName(char16_t unit) {
+    return isAsciiLetter(unit) || isAsciiDigit(unit) || isOneOf(unit, u"._%+-");
+}
+
+bool isInHost(char16_t unit) {
+    return isAsciiLetter(unit) || isAsciiDigit(unit) || unit == u'.' || unit == u'-';
+}
+
+// Walks over the places at which something may begin.
+class InlineScan {
+  public:
+    InlineScan(View text, char16_t sign, bool tagsGo)
+        : text_(text)
+        , sign_(sign)
+        , tagsGo_(tagsGo) {}
+
+    std::vector<Range> run() {
+        text::UnitSet marks(u"`\\<@:]");
+        marks.add(sign_, sign_);
+        marks.add(u'w', u'w');
+        text::UnitCursor cursor(text_, marks);
+        for (std::size_t at = cursor.next(); at < text_.size();) {
+            const std::size_t next = std::max(at + 1, after(at));
+            at = next == at + 1 ? cursor.next() : cursor.nextFrom(next);
+        }
+        return std::move(ranges_);
+    }
+
+  private:
+    // Where to go on behind the mark at `at`.
+    std::size_t after(std::size_t at) {
+        switch (text_[at]) {
+        case u'`':
+            return code(at);
+        case u'\\': // a mark behind it is none
+            return at + 1 < text_.size() && text_[at + 1] != sign_ ? at + 2 : at + 1;
+        case u'<':
+            return tag(at);
+        case u'@':
+            return mail(at);
+        case u':':
+            return text_.substr(at).starts_with(u"://") ? address(schemeBefore(at), at) : at;
+        case u']':
+            return text_.substr(at).starts_with(u"](") ? link(at) : at;
+        case u'w':
+            return startsWord(at) && text_.substr(at).starts_with(u"www.") ? address(at, at) : at;
+        default:
+            return text_[at] == sign_ ? add(at, at + 1) : at;
+        }
+    }
+
+    std::size_t add(std::size_t begin, std::size_t end) {
+        while (!ranges_.empty() && ranges_.back().begin >= begin) {
+            ranges_.pop_back();
+        }
+        if (!ranges_.empty() && ranges_.back().end > begin) {
+            begin = ranges_.back().end;
+        }
+        if (begin < end) {
+            ranges_.push_back({begin, end});
+        }
+        return end;
+    }
+
+    std::size_t limit() const { return ranges_.empty() ? 0 : ranges_.back().end; }
+
+    bool startsWord(std::size_t at) const {
+        return at == 0 || (!isAsciiLetter(text_[at - 1]) && !isAsciiDigit(text_[at - 1]));
+    }
+
+    // The end of the paragraph that `at` stands in.
+    std::size_t paragraphEnd(std::size_t at) {
+        if (at >= paragraphEnd_) {
+            closers_.clear();
+            paragraphEnd_ = text_.size();
+            for (std::size_t line = text_.find_first_of(u"\r\n", at); line < text_.size();
+                 line = text_.find_first_of(u"\r\n", line)) {
+                line += text_.substr(line).starts_with(u"\r\n") ? 2 : 1;
+                const std::size_t ink =
+                    std::min(text_.find_first_not_of(u" \t", line), text_.size());
+                if (ink < text_.size() && isOneOf(text_[ink], u"\r\n")) {
+                    paragraphEnd_ = line;
+                    break;
+                }
+            }
+            for (std::size_t run = text_.find(u'`', at); run < paragraphEnd_;) {
+                const std::size_t end = std::min(text_.find_first_not_of(u'`', run), text_.size());
+                closers_[end - run].push_back(run);
+                run = text_.find(u'`', end);
+            }
+            for (auto &[size, places] : closers_) {
+                std::ranges::reverse(places);
+            }
+        }
+        return paragraphEnd_;
+    }
+
+    // "`code`": up to as many marks in the same paragraph.
+    std::size_t code(std::size_t at) {
+        const std::size_t end = std::min(text_.find_first_not_of(u'`', at), text_.size());
+        paragraphEnd(at);
+        auto &places = closers_[end - at];
+        while (!places.empty() && places.back() <= at) {
+            places.pop_back();
+        }
+        return places.empty() ? end : add(at, places.back() + (end - at));
+    }
+
+    std::size_t tag(std::size_t at) {
+        const std::size_t behind = at + 1;
+        if (behind >= text_.size() ||
+            !(isAsciiLetter(text_[behind]) || isOneOf(text_[behind], u"/!?"))) {
+            return at;
+        }
+        const std::size_t end = paragraphEnd(at);
+        if (at >= noTagFrom_ && at < noTagTo_) {
+            return at;
+        }
+        const std::size_t close = text_.substr(0, end).find(u'>', behind);
+        if (close == View::npos) {
+            noTagFrom_ = at;
+            noTagTo_ = end;
+            return at;
+        }
+        const View inside = text_.substr(behind, close - behind);
+        const bool isAddress =
+            inside.find_first_of(u" \n") == View::npos &&
+            (inside.find(u':') != View::npos || inside.find(u'@') != View::npos) &&
+            inside.find(u'=') == View::npos;
+        return tagsGo_ && !isAddress ? close + 1 : add(at, close + 1);
+    }
+
+    std::size_t mail(std::size_t at) {
+        std::size_t begin = at;
+        while (begin > limit() && isInMailName(text_[begin - 1])) {
+            --begin;
+        }
+        std::size_t end = at + 1;
+        while (end < text_.size() && isInHost(text_[end])) {
+            ++end;
+        }
+        while (end > at + 1 && isOneOf(text_[end - 1], u".-")) {
+            --end;
+        }
+        return begin < at && end > at + 1 ? add(begin, end) : at;
+    }
+
+    std::size_t schemeBefore(std::size_t at) const {
+        std::size_t begin = at;
+        while (begin > limit() &&
+               (isAsciiLetter(text_[begin - 1]) || isAsciiDigit(text_[begin - 1]) ||
+                isOneOf(text_[begin - 1], u"+.-"))) {
+            --begin;
+        }
+        return begin;
+    }
+
+    // From `begin` on, over `at`. What ends a sentence does not belong to it.
+    std::size_t address(std::size_t begin, std::size_t at) {
+        std::size_t end = at;
+        while (end < text_.size() && isInAddress(text_[end]) && text_[end] != sign_) {
+            ++end;
+        }
+        while (end > at && isOneOf(text_[end - 1], u".,;:!?'")) {
+            --end;
+        }
+        return end > at + 3 && begin < end ? add(begin, end) : at;
+    }
+
+    // "](address "title")", on one line.
+    std::size_t link(std::size_t at) {
+        std::size_t depth = 0;
+        for (std::size_t end = at + 1; end < text_.size() && end < at + longestLink; ++end) {
+            const char16_t unit = text_[end];
+            if (isOneOf(unit, u"\r\n")) {
+                break;
+            }
+            depth += unit == u'(' ? 1 : 0;
+            depth -= unit == u')' ? 1 : 0;
+            if (depth == 0) {
+                return add(at, end + 1);
+            }
+        }
+        return at;
+    }
+
+    static constexpr std::size_t longestLink = 2048;
+
+    const View text_;
+    const char16_t sign_;
+    const bool tagsGo_;
+    std::vector<Range> ranges_;
+    std::size_t paragraphEnd_ = 0;
+    std::map<std::size_t, std::vector<std::size_t>> closers_; // places of marks by their number
+    std::size_t noTagFrom_ = 0;
+    std::size_t noTagTo_ = 0;
+};
+
+} // namespace
+
+std::vector<Range> findInlineStructure(View text, char16_t sign, bool tagsGo) {
+    return InlineScan(text, sign, tagsGo).run();
+}
+
+} // namespace nerlo::engine

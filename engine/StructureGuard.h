@@ -1,0 +1,21 @@
+// Cleaning that leaves structure alone: code, tables, the marks and indents of lists and of
+// quotations, and addresses inside sentences come out as they went in.
+#pragma once
+
+#include "engine/Operations.h"
+
+#include <span>
+#include <string>
+
+namespace nerlo::engine {
+
+// The steps in their order, on the prose of the text alone. A paragraph, a list item and a
+// quotation are each cleaned as a text of their own, and their lines stay apart; only a paragraph
+// that was wrapped has its lines joined. Steps that take the whole text still see all of it.
+//
+// A ">" or a bullet goes only where it marks the beginning of a line, a ">" only where nothing but
+// prose is quoted. Spaces next to the line breaks of prose go, however many there are.
+std::u16string runGuarded(std::u16string text, std::span<const Operation *const> steps,
+                          const CleaningContext &context, std::size_t pieceSize);
+
+} // namespace nerlo::engine

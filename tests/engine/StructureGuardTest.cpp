@@ -1,0 +1,80 @@
+#include "engine/StructureGuard.h"
+#include "engine/Operations.h"
+#include "tests/engine/Rows.h"
+
+namespace nerlo::engine {
+namespace {
+
+using storage::PropertyDictionary;
+
+std::u16string clean(const std::u16string &text, const PropertyDictionary &settings) {
+    CleaningOptions options;
+    options.setAllBools(settings);
+    options.udProtectStructure = true;
+    return runPipeline(text, {options, "en_US"});
+}
+
+const PropertyDictionary spacesAndBreaks{{"udChangeMultipleSpacesToSingleSpace", 1},
+                                         {"udRemoveSpaceBeforeAfterReturn", 1},
+                                         {"udChangeWrongInsertedReturnsTo", 1},
+                                         {"udChangeWrongInsertedReturnsOption", 1},
+                                         {"udRemoveSpacesBeforeAndAfterText", 1}};
+
+TEST(StructureGuard, TidiesProseAndLeavesStructure) {
+    expectRows(
+        {{"prose", u"  One   two \n three  \n", u"One two\nthree"},
+         {"code in a fence", u"Do  this:\n\n```\na   =  b \n```\n",
+          u"Do this:\n\n```\na   =  b \n```"},
+         {"indented code", u"Do  this:\n\n    a   =  b\n\nEnd  .",
+          u"Do this:\n\n    a   =  b\n\nEnd ."},
+         {"the text begins with code", u"\n    a   b\n\nwords  too", u"    a   b\n\nwords too"},
+         {"a list and its indents", u"-   on e\n-   two\n    -   in side\n",
+          u"-   on e\n-   two\n    -   in side"},
+         {"an item of two lines", u"* one  a \n  goes  on\n* two", u"* one a\n  goes on\n* two"},
+         {"a quotation", u"> one   a\n> b > c\n", u"> one a\n> b > c"},
+         {"code and addresses in prose",
+          u"See  `a  b`, <a  b=\"c\">, https://a.org/b__c  and  me@a.org .",
+          u"See `a  b`, <a  b=\"c\">, https://a.org/b__c and me@a.org ."},
+         {"a break that is meant", u"one  \ntwo \\\nthree", u"one  \ntwo \\\nthree"},
+         {"signs of its own", u"a  \uFDD0  b\n\uA000 c `\uA000\uFDD0`",
+          u"a \uFDD0 b\n\uA000 c `\uA000\uFDD0`"}},
+        [](const std::u16string &text) { return clean(text, spacesAndBreaks); });
+}
+
+TEST(StructureGuard, JoinsOnlyWhatWasWrapped) {
+    expectRows(
+        {{"a paragraph",
+          u"The quick brown fox jumps over the lazy dog and\nthen it sleeps under the old oak tree "
+          u"until morn-\ning comes. It was a long day for all of the\ndogs.\n\nNext",
+          u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak tree "
+          u"until morning comes. It was a long day for all of the dogs.\n\nNext"},
+         {"an address", u"Jane Doe\n12 Long Street\nLondon", u"Jane Doe\n12 Long Street\nLondon"},
+         {"a quotation and a list",
+          u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\n- The quick brown fox "
+          u"jumps "
+          u"over\n- sleeps",
+          u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\n- The quick brown fox "
+          u"jumps "
+          u"over\n- sleeps"}},
+        [](const std::u16string &text) { return clean(text, spacesAndBreaks); });
+}
+
+TEST(StructureGuard, MarksGoByTheirRulesOnly) {
+    expectRows({{"a reply", u"> a > b\n>> c\nnew", u"a > b\nc\nnew"},
+                {"bullets", u"\u2022 one \u2022 a\n  \u25E6 two\n- three",
+                 u"one \u2022 a\n  two\n- three"}},
+               [](const std::u16string &text) {
+                   return clean(text, {{"udRemoveReplyQuotes", 1}, {"udRemoveBullets", 1}});
+               });
+}
+
+TEST(StructureGuard, HoldsForSingleOperationsToo) {
+    CleaningOptions options;
+    options.udProtectStructure = true;
+    EXPECT_EQ(runOperation(16, u"a  b\n\n    c  d", {options, "en_US"}), u"a b\n\n    c  d");
+    EXPECT_EQ(runOperation(5, u" a \n\n    c  d\n", {options, "en_US"}), u"a \n\n    c  d");
+    EXPECT_EQ(runOperation(23, u"- b\n- a", {options, "en_US"}), u"- a\n- b") << "sees the whole";
+}
+
+} // namespace
+} // namespace nerlo::engine
