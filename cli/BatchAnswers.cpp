@@ -2,6 +2,7 @@
 
 #include "cli/JsonOptions.h"
 #include "cli/JsonText.h"
+#include "cli/LinkRules.h"
 #include "cli/PatternFailures.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
@@ -213,9 +214,15 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     if (optionsJson) {
         ownOptions.setAllBools(optionsFromJson(*optionsJson));
     }
+    bool own = optionsJson;
+    if (lacksLinkRules(own ? ownOptions : defaults_, operation)) {
+        ownOptions = own ? std::move(ownOptions) : defaults_;
+        own = true;
+        addLinkRules(ownOptions);
+    }
     engine::CleaningReport report;
     const engine::CleaningContext context{
-        .options = optionsJson ? ownOptions : defaults_, .locale = localeId, .report = &report};
+        .options = own ? ownOptions : defaults_, .locale = localeId, .report = &report};
     parsed = nullptr; // a long text need not be held twice
     content = operation ? engine::runOperation(operation->index, std::move(content), context)
                         : engine::runPipeline(std::move(content), context);

@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
+#include "cli/LinkRules.h"
 #include "cli/Output.h"
 #include "cli/PatternFailures.h"
 #include "cli/Progress.h"
@@ -98,6 +99,9 @@ ExitStatus runClean(const CleanArguments &arguments) {
     engine::CleaningOptions options;
     options.setAllBools(chosenOptions(arguments.options));
     checkPatterns(options, operation);
+    if (lacksLinkRules(options, operation)) {
+        addLinkRules(options);
+    }
     const engine::CleaningContext context{options, arguments.locale};
 
     const std::vector<std::string> files =

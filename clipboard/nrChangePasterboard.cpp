@@ -189,9 +189,11 @@ nrChangePasterboard &nrChangePasterboard::sharedInstance() {
     return *shared;
 }
 
-void nrChangePasterboard::setAllBools(const storage::PropertyDictionary &dictionary) {
+void nrChangePasterboard::setAllBools(const storage::PropertyDictionary &dictionary,
+                                      std::shared_ptr<const engine::LinkRules> linkRules) {
     auto filled = std::make_shared<engine::CleaningOptions>();
     filled->setAllBools(dictionary);
+    filled->linkRules = std::move(linkRules);
     options_ = std::move(filled);
 }
 

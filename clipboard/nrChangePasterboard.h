@@ -99,7 +99,9 @@ class nrChangePasterboard {
     void setReportHandler(ReportHandler handler) { reportHandler_ = std::move(handler); }
 
     // Replaces the snapshot. A clean under way keeps the one that it started with.
-    void setAllBools(const storage::PropertyDictionary &dictionary);
+    // `linkRules` is what the file holds that the options name, if any.
+    void setAllBools(const storage::PropertyDictionary &dictionary,
+                     std::shared_ptr<const engine::LinkRules> linkRules = nullptr);
     std::shared_ptr<const engine::CleaningOptions> snapshot() const { return options_; }
 
     // Asked before each clean with all that is on: which content is cleaned with other options than

@@ -100,6 +100,9 @@ constexpr OptionField fields[] = {
     {"udUnwrapTerminal", &O::udUnwrapTerminal, "lines", "undo a terminal's wrapping and frames"},
     {"udProtectStructure", &O::udProtectStructure, "lines",
      "leave code, tables and lists as they are"},
+    {"udCleanLinks", &O::udCleanLinks, "marks", "take tracking parameters out of addresses"},
+    {"udCleanLinksRules", &O::udCleanLinksRules, "marks",
+     "file with more rules for addresses, as ClearURLs has them"},
 };
 
 void read(const storage::PropertyValue *value, bool &field) {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -15,6 +16,8 @@
 #include <variant>
 
 namespace nerlo::engine {
+
+class LinkRules;
 
 inline constexpr std::size_t replaceSlots = 10;
 
@@ -60,6 +63,7 @@ struct CleaningOptions {
     bool udInsertYourPattern = false;
     bool udUnwrapTerminal = false;
     bool udProtectStructure = false;
+    bool udCleanLinks = false;
     PerSlot<bool> udChangeProperty{};
 
     Text udSortCustomSeparatorTextField = u"";
@@ -69,6 +73,7 @@ struct CleaningOptions {
     Text udInsertYourPatternTextField = u"";
     Text udPrefixTextField = u"";
     Text udSuffixTextField = u"";
+    Text udCleanLinksRules = u"";
     PerSlot<Text> udChangePropertyChangeTextField{u"", u"", u"", u"", u"", u"", u"", u"", u"", u""};
     PerSlot<Text> udChangePropertyToTextField{u"", u"", u"", u"", u"", u"", u"", u"", u"", u""};
 
@@ -90,7 +95,11 @@ struct CleaningOptions {
     bool udOnlyOneProfile = false;     // the shared list is used
     bool udFindReplaceBool = false;
 
-    // Overwrites every field: a key that is missing gives false, "", 0 or no list.
+    // What stands in the file that udCleanLinksRules names, for those who have read it. No key
+    // fills it.
+    std::shared_ptr<const LinkRules> linkRules;
+
+    // Overwrites every field that has a key: one that is missing gives false, "", 0 or no list.
     void setAllBools(const storage::PropertyDictionary &dictionary);
 
     bool operator==(const CleaningOptions &) const = default;

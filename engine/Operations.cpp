@@ -3,6 +3,7 @@
 #include "engine/CaseConversion.h"
 #include "engine/FindReplace.h"
 #include "engine/LineJoining.h"
+#include "engine/Links.h"
 #include "engine/Markup.h"
 #include "engine/Quotes.h"
 #include "engine/Sorting.h"
@@ -147,6 +148,10 @@ std::u16string findReplaceList(std::u16string text, const Context &context) {
     return replaceStringInFindReplace(std::move(text), context.options, context.report);
 }
 
+std::u16string cleanAddresses(std::u16string text, const Context &context) {
+    return cleanLinks(std::move(text), context.options.linkRules.get());
+}
+
 bool always(const Options &) {
     return true;
 }
@@ -236,17 +241,12 @@ constexpr Operation table[] = {
     {38, "unwrap-terminal", "sUnwrapTerminal",
      "undo what a terminal did to its text: wrapping, frames, padding", plain<unwrapTerminal>,
      nullptr, Reach::whole},
+    {42, "clean-links", "sCleanLinks", "take tracking parameters out of web addresses",
+     cleanAddresses, nullptr, Reach::whole},
 };
 
-constexpr bool rowsStandAtTheirIndex() {
-    for (std::size_t at = 0; at < std::size(table); ++at) {
-        if (table[at].index != static_cast<std::int32_t>(at)) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(rowsStandAtTheirIndex());
+static_assert(std::ranges::is_sorted(table, std::ranges::less_equal{}, &Operation::index) &&
+              std::ranges::adjacent_find(table, {}, &Operation::index) == std::end(table));
 
 struct Step {
     bool (*isOn)(const Options &options);
@@ -270,6 +270,7 @@ bool spacesBecomeTabs(const Options &options) {
 constexpr Step pipeline[] = {
     // Later steps see the lines as they were before the terminal broke them.
     {on<&Options::udUnwrapTerminal>, 38},
+    {on<&Options::udCleanLinks>, 42},
     {on<&Options::udChangeMultipleTabsToSingleTab>, 0},
     {on<&Options::udRemoveAllSpaces>, 1},
     {on<&Options::udRemoveAllTabs>, 2},
@@ -321,8 +322,8 @@ std::span<const Operation> operations() {
 }
 
 const Operation *findOperation(std::int32_t index) {
-    return index >= 0 && index < static_cast<std::int32_t>(std::size(table)) ? &table[index]
-                                                                             : nullptr;
+    const auto *const row = std::ranges::lower_bound(table, index, {}, &Operation::index);
+    return row != std::end(table) && row->index == index ? row : nullptr;
 }
 
 const Operation *findOperation(std::string_view nameOrIndex) {
@@ -416,7 +417,7 @@ std::vector<const Operation *> operationsSwitchedOn(const CleaningOptions &optio
     std::vector<const Operation *> operations;
     for (const Step &step : pipeline) {
         if (step.isOn(options)) {
-            operations.push_back(&table[step.operation]);
+            operations.push_back(findOperation(step.operation));
         }
     }
     return operations;

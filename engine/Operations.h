@@ -52,10 +52,11 @@ struct Operation {
     Reach reach = Reach::prose;
 };
 
-// Rows 0 to 37, each at its index. The row of the statistics operation returns its text unchanged.
+// In the order of their indices. The row of the statistics operation returns its text unchanged.
 std::span<const Operation> operations();
 
 inline constexpr std::int32_t statisticsOperation = 25;
+inline constexpr std::int32_t cleanLinksOperation = 42;
 
 // Null for an index outside the table.
 const Operation *findOperation(std::int32_t index);

@@ -52,6 +52,7 @@ constexpr Value values[] = {
     {"udStatisticsDefaultPosition", static_cast<int>(popupPositionCount) - 1, all},
 
     {"udUnwrapTerminal", 1, terminal},
+    {"udCleanLinks", 1, mail | web},
 
     {"udChangeMultipleSpacesToSingleSpace", 1, gentle | pdf | mail | web},
     {"udRemoveSpaceBeforeAfterReturn", 1, gentle | pdf | mail | web},

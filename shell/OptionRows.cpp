@@ -9,10 +9,12 @@
 #include "shortcuts/view/WarningMark.h"
 
 #include <QAction>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
 #include <QSpinBox>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -30,6 +32,7 @@ constexpr auto returnsKey = "udChangeReturnsOption";
 constexpr auto firstCustomKey = "udChangeReturnsCustom1";
 constexpr auto secondCustomKey = "udChangeReturnsCustom2";
 constexpr auto patternKey = "udInsertYourPatternTextField";
+constexpr auto linkRulesKey = "udCleanLinksRules";
 
 struct SeparatorField {
     const char *separator;
@@ -47,6 +50,19 @@ void describeOption(QWidget &widget, const std::string &key, const QString &name
         tip.prepend(problem + '\n');
     }
     describeAs(widget, QString::fromStdString(key), name, tip);
+}
+
+void addFileChooser(QLineEdit &field) {
+    auto *choose = field.addAction(field.style()->standardIcon(QStyle::SP_DirOpenIcon),
+                                   QLineEdit::TrailingPosition);
+    choose->setText(localized("sChooseFile"));
+    QObject::connect(choose, &QAction::triggered, &field, [&field] {
+        const QString file =
+            QFileDialog::getOpenFileName(field.window(), localized("sChooseFile"), field.text());
+        if (!file.isEmpty()) {
+            field.setText(file);
+        }
+    });
 }
 
 } // namespace
@@ -216,6 +232,9 @@ QWidget *OptionPage::makeText(const std::string &key) {
     describeOption(*field, key, localized(labelKey(key)));
     if (key == patternKey) {
         addPatternMark(*field);
+    }
+    if (key == linkRulesKey) {
+        addFileChooser(*field);
     }
     // Not textEdited(), which is silent when an accessibility tool sets the text.
     connect(field, &QLineEdit::textChanged, this, [this, key](const QString &text) {

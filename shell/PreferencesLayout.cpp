@@ -66,6 +66,7 @@ std::vector<PreferencesPage> makePages() {
          {{"udRemoveBullets", "sRemoveBullets", {}},
           {"udRemoveReplyQuotes", "sRemoveReplyQuotes", {}},
           {"udRemoveHTMLTags", "sRemoveHTMLTags", {"udRemoveHTMLTagsJS"}},
+          {"udCleanLinks", "sCleanLinks", {"udCleanLinksRules"}},
           {"udInsertYourPattern",
            "sInsertYourPattern",
            {"udInsertYourPatternTextField", "udInsertYourPatternOption"}}}},

@@ -2,6 +2,7 @@
 
 #include "engine/CleaningOptions.h"
 #include "engine/Operations.h"
+#include "settings/LinkRulesFile.h"
 #include "shell/Controls.h"
 #include "shell/Program.h"
 #include "shell/Strings.h"
@@ -197,6 +198,8 @@ void PreviewPane::run() {
         try {
             engine::CleaningOptions options;
             options.setAllBools(profile);
+            options.linkRules =
+                settings::readLinkRules(options.udCleanLinksRules.stringValue()).rules;
             const QString cleaned = asShown(QString::fromStdU16String(
                 engine::runPipeline(text.toStdU16String(), {options, locale})));
             result =

@@ -1,6 +1,7 @@
 #include "shell/Program.h"
 
 #include "engine/Operations.h"
+#include "settings/LinkRulesFile.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "settings/UserLocale.h"
@@ -92,7 +93,10 @@ void Program::connect() {
     parts_.desktop.keyboardLayout.backend->setChangedHandler(
         [this] { hotKeys_.keyboardLayoutChanged(); });
     preferences_.hooks().setAllBools = [this](const auto &profile) {
-        engine_.setAllBools(profile);
+        const auto *const path = profile.find("udCleanLinksRules");
+        auto [rules, error] = settings::readLinkRules(path ? path->stringValue() : u"");
+        engine_.setAllBools(profile, std::move(rules));
+        windows_.setProblem(ShellWindows::Problem::linkRules, error);
     };
     preferences_.hooks().setDefaultShortcut = [this] { setDefaultShortcut(hotKeys_); };
     store_.setErrorHandler([this](const std::string &error) {

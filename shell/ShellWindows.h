@@ -48,6 +48,7 @@ class ShellWindows {
         profiles,
         loginItem,
         leftOutRules,
+        linkRules,
         largeText,
     };
     // Each of them replaces the one of its kind; an empty text ends it. One line or more, UTF-8.

@@ -23,8 +23,9 @@ constexpr bool isAsciiLetterOrDigit(Unit unit) {
     return isAsciiLetter(unit) || isAsciiDigit(unit);
 }
 
-constexpr char asciiLower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+template <class Unit>
+constexpr Unit asciiLower(Unit unit) {
+    return unit >= Unit('A') && unit <= Unit('Z') ? static_cast<Unit>(unit | 0x20) : unit;
 }
 
 inline std::string asciiLower(std::string name) {

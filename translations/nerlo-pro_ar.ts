@@ -700,6 +700,28 @@
 بعد: يزول مع وسمه.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>تنظيف الروابط</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>قبل: https://example.org/a?id=7&amp;utm_source=mail
+بعد: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>قواعد أخرى</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>ملف فيه قواعد أخرى بصيغة ClearURLs.
+من دونه تُطبَّق قائمة Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>اختيار ملف…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>استخدام نمطك الخاص</translation>
     </message>

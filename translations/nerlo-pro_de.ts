@@ -700,6 +700,28 @@ Nachher: fett</translation>
 Nachher: Er verschwindet mit seinem Tag.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Links säubern</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Vorher: https://example.org/a?id=7&amp;utm_source=mail
+Nachher: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Weitere Regeln</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Eine Datei mit weiteren Regeln, im Format von ClearURLs.
+Ohne sie gilt die eigene Liste von Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Datei wählen…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Eigenes Muster verwenden</translation>
     </message>

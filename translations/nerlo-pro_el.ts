@@ -700,6 +700,28 @@
 Μετά: φεύγει μαζί με την ετικέτα του.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Καθαρισμός συνδέσμων</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Πριν: https://example.org/a?id=7&amp;utm_source=mail
+Μετά: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Άλλοι κανόνες</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Ένα αρχείο με άλλους κανόνες, στη μορφή του ClearURLs.
+Χωρίς αυτό ισχύει η λίστα του Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Επιλογή αρχείου…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Χρήση δικού σας μοτίβου</translation>
     </message>

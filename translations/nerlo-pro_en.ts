@@ -701,6 +701,28 @@ After: bold</translation>
 After: it goes with its tag.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Clean links</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Before: https://example.org/a?id=7&amp;utm_source=mail
+After: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>More rules</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>A file with more rules, in the format of ClearURLs.
+Without it, Nerlo Pro's own list applies.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Choose a file…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Use your own pattern</translation>
     </message>

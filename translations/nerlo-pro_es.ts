@@ -700,6 +700,28 @@ Después: negrita</translation>
 Después: desaparece con su etiqueta.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Limpiar enlaces</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Antes: https://example.org/a?id=7&amp;utm_source=mail
+Después: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Más reglas</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Un archivo con más reglas, en el formato de ClearURLs.
+Sin él vale la lista propia de Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Elegir un archivo…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Usar su propio patrón</translation>
     </message>

@@ -700,6 +700,28 @@ Après : gras</translation>
 Après : il disparaît avec sa balise.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Nettoyer les liens</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Avant : https://example.org/a?id=7&amp;utm_source=mail
+Après : https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Autres règles</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Un fichier avec d’autres règles, au format de ClearURLs.
+Sans lui, la liste de Nerlo Pro s’applique.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Choisir un fichier…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Utiliser votre propre motif</translation>
     </message>

@@ -700,6 +700,28 @@ Dopo: grassetto</translation>
 Dopo: scompare con il suo tag.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Pulisci i link</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Prima: https://example.org/a?id=7&amp;utm_source=mail
+Dopo: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Altre regole</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Un file con altre regole, nel formato di ClearURLs.
+Senza di esso vale la lista di Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Scegli un file…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Usa un modello personale</translation>
     </message>

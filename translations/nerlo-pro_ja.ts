@@ -700,6 +700,28 @@
 後：タグと一緒に消えます。</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>リンクの追跡情報を削除</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>前：https://example.org/a?id=7&amp;utm_source=mail
+後：https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>追加の規則</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>ClearURLs 形式の追加規則のファイル。
+指定しないときは Nerlo Pro の一覧だけを使います。</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>ファイルを選択…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>独自のパターンを使う</translation>
     </message>

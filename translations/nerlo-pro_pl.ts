@@ -700,6 +700,28 @@ Po: pogrubiony</translation>
 Po: znika razem ze znacznikiem.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Oczyść adresy</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Przed: https://example.org/a?id=7&amp;utm_source=mail
+Po: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Więcej reguł</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Plik z dodatkowymi regułami w formacie ClearURLs.
+Bez niego obowiązuje własna lista Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Wybierz plik…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Użyj własnego wzorca</translation>
     </message>

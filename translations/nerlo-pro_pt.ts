@@ -700,6 +700,28 @@ Depois: negrito</translation>
 Depois: ele some com a tag.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Limpar links</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Antes: https://example.org/a?id=7&amp;utm_source=mail
+Depois: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Mais regras</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Um arquivo com mais regras, no formato do ClearURLs.
+Sem ele vale a lista própria do Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Escolher um arquivo…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Usar seu próprio padrão</translation>
     </message>

@@ -700,6 +700,28 @@
 После: он исчезает вместе с тегом.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Очистить ссылки</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>До: https://example.org/a?id=7&amp;utm_source=mail
+После: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Другие правила</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Файл с дополнительными правилами в формате ClearURLs.
+Без него действует собственный список Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Выбрать файл…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Применить свой шаблон</translation>
     </message>

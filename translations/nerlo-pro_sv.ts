@@ -700,6 +700,28 @@ Efter: fet</translation>
 Efter: den försvinner med sin tagg.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Rensa länkar</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>Före: https://example.org/a?id=7&amp;utm_source=mail
+Efter: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Fler regler</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>En fil med fler regler, i formatet från ClearURLs.
+Utan den gäller Nerlo Pros egen lista.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Välj en fil…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Använd ett eget mönster</translation>
     </message>

@@ -700,6 +700,28 @@
 Після: він зникає разом із тегом.</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>Очистити посилання</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>До: https://example.org/a?id=7&amp;utm_source=mail
+Після: https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>Інші правила</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>Файл із додатковими правилами у форматі ClearURLs.
+Без нього діє власний список Nerlo Pro.</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>Вибрати файл…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>Застосувати власний шаблон</translation>
     </message>

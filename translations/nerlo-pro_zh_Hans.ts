@@ -700,6 +700,28 @@
 之后：它随标签一起移除。</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>清理链接</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>之前：https://example.org/a?id=7&amp;utm_source=mail
+之后：https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>更多规则</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>包含更多规则的文件，采用 ClearURLs 的格式。
+没有它时只使用 Nerlo Pro 自己的列表。</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>选择文件…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>使用自己的模式</translation>
     </message>

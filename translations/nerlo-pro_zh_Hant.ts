@@ -700,6 +700,28 @@
 之後：它隨標籤一起移除。</translation>
     </message>
     <message>
+        <source>sCleanLinks</source>
+        <translation>清理連結</translation>
+    </message>
+    <message>
+        <source>sCleanLinksTip</source>
+        <translation>之前：https://example.org/a?id=7&amp;utm_source=mail
+之後：https://example.org/a?id=7</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRules</source>
+        <translation>更多規則</translation>
+    </message>
+    <message>
+        <source>sCleanLinksRulesTip</source>
+        <translation>包含更多規則的檔案，採用 ClearURLs 的格式。
+沒有它時只使用 Nerlo Pro 自己的清單。</translation>
+    </message>
+    <message>
+        <source>sChooseFile</source>
+        <translation>選擇檔案…</translation>
+    </message>
+    <message>
         <source>sInsertYourPattern</source>
         <translation>使用自己的樣式</translation>
     </message>
