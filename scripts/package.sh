@@ -10,10 +10,20 @@ build=$root/build/package
 target=${1:-$root/build/packages}
 
 "$root/scripts/packages.sh" build desktop-build package </dev/null
+# Nothing of the packages may depend on the folder or on the time: the flags map the current folder
+# away, and every file is as old as the release.
+cd "$root"
+release=$(sed -n 's/^## [0-9.]* (\(.*\))$/\1/p' CHANGELOG.md | head -n 1)
+SOURCE_DATE_EPOCH=$(date -u -d "$release 12:00" +%s)
+export SOURCE_DATE_EPOCH DEB_BUILD_MAINT_OPTIONS=hardening=+all
+# Libraries of headers alone: their code becomes part of `nerlo`. ICU does not, unlike in a build of
+# one's own: a fix in it reaches the program, and the package is a tenth of the size.
+notices=$(printf ';/usr/share/doc/%s/copyright' libcli11-dev nlohmann-json3-dev)
 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=None \
     -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS) -DNDEBUG" \
     -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" \
-    -DCMAKE_INSTALL_PREFIX=/usr -DNERLO_TESTS=OFF -DNERLO_BENCH=OFF
+    -DCMAKE_INSTALL_PREFIX=/usr -DNERLO_TESTS=OFF -DNERLO_BENCH=OFF \
+    -DNERLO_STATIC_ICU=OFF -DNERLO_NOTICES_nerlo="${notices#;}"
 cmake --build "$build"
 
 desktop-file-validate "$root/packaging/org.nerlo.NerloPro.desktop"
@@ -25,6 +35,12 @@ done
 
 rm -f "$build"/*.deb
 (umask 022 && cd "$build" && cpack)
+# Unlike CPack, dpkg-deb makes no file newer than SOURCE_DATE_EPOCH.
+for package in "$build"/*.deb; do
+    rm -rf "$build/unpacked"
+    dpkg-deb -R "$package" "$build/unpacked"
+    dpkg-deb --root-owner-group -b "$build/unpacked" "$package" >/dev/null
+done
 lintian --fail-on error --suppress-tags initial-upload-closes-no-bugs "$build"/*.deb
 mkdir -p "$target"
 cp "$build"/*.deb "$target"
