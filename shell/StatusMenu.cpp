@@ -63,6 +63,13 @@ void sendDelete(QWidget *widget) {
     }
 }
 
+void greyWithout(const std::string &address, QAction &action) {
+    if (address.empty()) {
+        action.setEnabled(false);
+        action.setToolTip(localized("sNoAddressTip"));
+    }
+}
+
 shortcuts::MenuItem itemOf(const char *titleKey, const char *keyNames) {
     shortcuts::MenuItem item;
     item.title = title(titleKey).toStdU16String();
@@ -129,6 +136,12 @@ StatusMenu::StatusMenu(Program &program)
     makeOperations();
     makeEditActions();
 
+    const ProductLinks &links = program_.parts().links;
+    greyWithout(links.ratePage, *rate_);
+    greyWithout(links.supportPage, *support_);
+    greyWithout(links.email, *email_);
+
+    statusMenu_->setToolTipsVisible(true);
     statusMenu_->addActions({clean_, automatic_, excelException_, restore_});
     statusMenu_->addSeparator();
     statusMenu_->addMenu(operations_.get());
@@ -194,14 +207,18 @@ void StatusMenu::fillMenuBar(QMenuBar &bar) {
     std::set<QChar> used;
     const QStringList titles =
         withMnemonics({title("Nerlo Pro"), title("Clear"), title("Edit"), title("Help")}, used);
-    bar.addMenu(titles[0])->addActions({about_, preferences_, rate_, hide_, quit_});
+    QMenu *program = bar.addMenu(titles[0]);
+    program->setToolTipsVisible(true);
+    program->addActions({about_, preferences_, rate_, hide_, quit_});
     QMenu *clear = bar.addMenu(titles[1]);
     clear->addActions({clean_, automatic_, excelException_, restore_});
     clear->addSeparator();
     clear->addMenu(operations_.get());
     clear->addMenu(profiles_.get());
     bar.addMenu(titles[2])->addActions(QList<QAction *>(edit_.begin(), edit_.end()));
-    bar.addMenu(titles[3])->addActions({tips_, whatsNew_, support_, email_});
+    QMenu *help = bar.addMenu(titles[3]);
+    help->setToolTipsVisible(true);
+    help->addActions({tips_, whatsNew_, support_, email_});
 }
 
 void StatusMenu::setAutomatic(bool on) {

@@ -122,7 +122,7 @@ std::optional<int> becomeTheOne(shell::BusService &bus, platform::DisplayLock &d
 }
 
 shell::ProductLinks productLinks() {
-    return {NERLO_SUPPORT_PAGE, NERLO_DEVELOPER_EMAIL, NERLO_VERSION,
+    return {NERLO_SUPPORT_PAGE, NERLO_RATE_PAGE, NERLO_EMAIL, NERLO_VERSION,
             QSysInfo::prettyProductName().toStdString()};
 }
 

@@ -220,15 +220,25 @@ void nrAppDelegate::quitApp() {
 }
 
 void nrAppDelegate::supportWebsite() {
-    windows_.openUrl(links_.supportPage);
+    if (!links_.supportPage.empty()) {
+        windows_.openUrl(links_.supportPage);
+    }
+}
+
+void nrAppDelegate::openRateApp() {
+    if (!links_.ratePage.empty()) {
+        windows_.openUrl(links_.ratePage);
+    }
 }
 
 void nrAppDelegate::openEmailToDev() {
-    windows_.openUrl(emailLink(links_));
+    if (!links_.email.empty()) {
+        windows_.openUrl(emailLink(links_));
+    }
 }
 
 std::string nrAppDelegate::emailLink(const ProductLinks &links) {
-    return replaced(links.email + " v" + links.version + " - " +
+    return replaced("mailto:" + links.email + "?subject=Nerlo Pro v" + links.version + " - " +
                         replaced(links.systemName, "Version ", ""),
                     " ", "%20");
 }

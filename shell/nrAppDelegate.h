@@ -17,10 +17,11 @@
 
 namespace nerlo::shell {
 
-// UTF-8.
+// UTF-8. An address that is not known is empty.
 struct ProductLinks {
     std::string supportPage;
-    std::string email; // a mailto link with a subject that names the product
+    std::string ratePage;
+    std::string email; // "name@example.org"
     std::string version;
     std::string systemName; // "Debian GNU/Linux 12 (bookworm)"
 };
@@ -73,9 +74,10 @@ class nrAppDelegate {
     void showPreferences();
     void openAboutApp();
     void quitApp();
+    // These three do nothing when the address is not known; the menus grey them then.
     void supportWebsite();
     void openEmailToDev();
-    void openRateApp() {} // nothing to open: no shop has it
+    void openRateApp();
     void aOpenTips();
     void openReleaseNotesNerloPro();
     void aStayOnTop(bool on);

@@ -199,6 +199,10 @@
 بعد: كل ما تنسخه يُنظَّف تلقائيًا.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>غير متاح: بُنيت هذه النسخة من دون عنوان لهذا العنصر.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>قبل: تُنظَّف النسخة خلال نصف ثانية.
 بعد: تُنظَّف النسخة فورًا.</translation>

@@ -199,6 +199,10 @@ Nachher: Dieses Fenster bleibt über ihnen.</translation>
 Nachher: Jede Kopie wird von selbst bereinigt.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Nicht verfügbar: Dieses Programm wurde ohne eine Adresse dafür gebaut.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Vorher: Eine Kopie wird innerhalb einer halben Sekunde bereinigt.
 Nachher: Eine Kopie wird sofort bereinigt.</translation>

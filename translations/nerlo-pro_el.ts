@@ -199,6 +199,10 @@
 Μετά: κάθε αντίγραφο καθαρίζεται μόνο του.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Μη διαθέσιμο: αυτή η έκδοση δημιουργήθηκε χωρίς διεύθυνση για αυτό.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Πριν: ένα αντίγραφο καθαρίζεται μέσα σε μισό δευτερόλεπτο.
 Μετά: ένα αντίγραφο καθαρίζεται αμέσως.</translation>

@@ -199,6 +199,10 @@ After: this window stays above them.</translation>
 After: every copy is cleaned by itself.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Not available: this build was made without an address for it.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Before: a copy is cleaned within half a second.
 After: a copy is cleaned at once.</translation>
@@ -1356,7 +1360,7 @@ MIT licence</translation>
     </message>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</source>
-        <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the Keyboard panel in System Preferences.</translation>
+        <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by a system-wide keyboard shortcut. If you really want to use this key combination, most shortcuts can be changed in the system settings, under Keyboard.</translation>
     </message>
     <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</source>

@@ -199,6 +199,10 @@ Después: esta ventana queda por encima de ellas.</translation>
 Después: cada copia se limpia sola.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>No disponible: esta versión se creó sin una dirección para ello.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Antes: una copia se limpia en medio segundo.
 Después: una copia se limpia al instante.</translation>

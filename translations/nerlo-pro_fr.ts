@@ -199,6 +199,10 @@ Après : cette fenêtre reste au-dessus des autres.</translation>
 Après : chaque copie est nettoyée toute seule.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Indisponible : cette version a été construite sans adresse pour cela.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Avant : une copie est nettoyée en moins d’une demi-seconde.
 Après : une copie est nettoyée aussitôt.</translation>

@@ -199,6 +199,10 @@ Dopo: questa finestra resta sopra le altre.</translation>
 Dopo: ogni copia viene ripulita da sola.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Non disponibile: questa versione è stata creata senza un indirizzo per questa voce.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Prima: una copia viene ripulita entro mezzo secondo.
 Dopo: una copia viene ripulita subito.</translation>

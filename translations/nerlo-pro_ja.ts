@@ -199,6 +199,10 @@
 後：コピーするたびに自動で整形されます。</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>利用できません：このビルドにはアドレスが設定されていません。</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>前：コピーは半秒以内に整形されます。
 後：コピーはすぐに整形されます。</translation>

@@ -199,6 +199,10 @@ Po: to okno pozostaje nad nimi.</translation>
 Po: każda kopia jest czyszczona sama.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Niedostępne: ten program zbudowano bez adresu dla tej pozycji.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Przed: kopia jest czyszczona w ciągu pół sekundy.
 Po: kopia jest czyszczona od razu.</translation>

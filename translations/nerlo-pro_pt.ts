@@ -199,6 +199,10 @@ Depois: esta janela fica acima delas.</translation>
 Depois: cada cópia é limpa sozinha.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Indisponível: esta versão foi criada sem um endereço para isto.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Antes: uma cópia é limpa em meio segundo.
 Depois: uma cópia é limpa na hora.</translation>

@@ -199,6 +199,10 @@
 После: всё скопированное очищается само.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Недоступно: эта сборка сделана без адреса для этого пункта.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>До: скопированное очищается в течение полусекунды.
 После: скопированное очищается сразу.</translation>

@@ -199,6 +199,10 @@ Efter: det här fönstret ligger ovanför dem.</translation>
 Efter: varje kopia rensas av sig själv.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Inte tillgängligt: programmet byggdes utan en adress för detta.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>Före: en kopia rensas inom en halv sekund.
 Efter: en kopia rensas genast.</translation>

@@ -199,6 +199,10 @@
 Після: усе скопійоване очищається саме.</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>Недоступно: цю збірку зроблено без адреси для цього пункту.</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>До: скопійоване очищається протягом пів секунди.
 Після: скопійоване очищається одразу.</translation>

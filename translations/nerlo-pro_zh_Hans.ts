@@ -199,6 +199,10 @@
 之后：每次复制都会自动清理。</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>不可用：此版本在构建时未设置相应的地址。</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>之前：复制的内容会在半秒内清理。
 之后：复制的内容会立即清理。</translation>

@@ -199,6 +199,10 @@
 之後：每次複製都會自動清理。</translation>
     </message>
     <message>
+        <source>sNoAddressTip</source>
+        <translation>無法使用：此版本在建置時未設定相應的位址。</translation>
+    </message>
+    <message>
         <source>sCleanAtOnceTip</source>
         <translation>之前：複製的內容會在半秒內清理。
 之後：複製的內容會立即清理。</translation>

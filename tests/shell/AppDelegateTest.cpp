@@ -64,15 +64,15 @@ class AppDelegate : public ShellFixture {
     std::unique_ptr<nrAppDelegate> delegate;
 
     void start() {
-        delegate = std::make_unique<nrAppDelegate>(nrAppDelegate::Parts{
-            store,
-            queue,
-            preferences,
-            engine,
-            watcher,
-            loginItem,
-            windows,
-            {"https://page", "mailto:a@b?subject=Nerlo Pro", "1.2", "Debian 12"}});
+        delegate = std::make_unique<nrAppDelegate>(
+            nrAppDelegate::Parts{store,
+                                 queue,
+                                 preferences,
+                                 engine,
+                                 watcher,
+                                 loginItem,
+                                 windows,
+                                 {"https://page", "", "a@b", "1.2", "Debian 12"}});
         delegate->applicationWillFinishLaunching();
         delegate->applicationDidFinishLaunching();
     }
@@ -199,8 +199,8 @@ TEST_F(AppDelegate, TheMailNamesVersionAndSystemAndTheWindowFloatsAsStored) {
     delegate->showPreferences();
     EXPECT_EQ(windows.take(), (Calls{"mailto:a@b?subject=Nerlo%20Pro%20v1.2%20-%20Debian%2012",
                                      "floats", "preferences", "floats"}));
-    EXPECT_EQ(nrAppDelegate::emailLink({"", "m", "1", "Version 14 (Version B)"}),
-              "m%20v1%20-%2014%20(B)");
+    EXPECT_EQ(nrAppDelegate::emailLink({"", "", "m", "1", "Version 14 (Version B)"}),
+              "mailto:m?subject=Nerlo%20Pro%20v1%20-%2014%20(B)");
 }
 
 TEST(PreferencesLayout, EveryOptionHasOnePlaceAndEveryOperationOneShortcut) {
