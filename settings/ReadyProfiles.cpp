@@ -51,6 +51,7 @@ constexpr Value values[] = {
     {"udStatisticsValue", 3, all},
     {"udStatisticsDefaultPosition", static_cast<int>(popupPositionCount) - 1, all},
 
+    {"udProtectStructure", 1, gentle | mail | web | terminal | assistant | code},
     {"udUnwrapTerminal", 1, terminal},
     {"udCleanLinks", 1, mail | web},
 

@@ -2,6 +2,7 @@
 
 #include "shell/Strings.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -67,33 +68,51 @@ int runAlert(const Alert &alert, QWidget *parent) {
     return static_cast<int>(buttons.indexOf(box.clickedButton()));
 }
 
-std::optional<QString> askForText(const QString &title, const QString &label, QWidget *parent) {
-    if (answers().text) {
-        return answers().text();
+std::optional<ChosenName> askForName(const NameQuestion &question, QWidget *parent) {
+    if (answers().name) {
+        return answers().name(question);
     }
     QDialog dialog(parent);
-    dialog.setObjectName("textDialog");
+    dialog.setObjectName("nameDialog");
     dialog.setWindowTitle(localized(Table::menu, "Nerlo Pro"));
     auto *layout = new QVBoxLayout(&dialog);
-    auto *message = new QLabel(title);
+    auto *message = new QLabel(question.message);
     auto *field = new QLineEdit;
-    field->setObjectName("textDialogField");
-    field->setAccessibleName(label);
+    field->setObjectName("nameDialogField");
+    field->setAccessibleName(question.nameLabel);
     field->setMinimumWidth(320);
     message->setBuddy(field);
+    auto *beginning = new QComboBox;
+    beginning->setObjectName("nameDialogBeginning");
+    beginning->setAccessibleName(question.beginningLabel);
+    for (const auto &row : question.beginnings) {
+        beginning->addItem(row.title);
+    }
+    auto *label = new QLabel(question.beginningLabel);
+    label->setBuddy(beginning);
+    // What somebody has typed stays.
+    QObject::connect(beginning, &QComboBox::currentIndexChanged, field,
+                     [&, suggested = QString()](int place) mutable {
+                         if (field->text() == suggested) {
+                             suggested = question.beginnings[place].suggestedName;
+                             field->setText(suggested);
+                         }
+                     });
     auto *buttons = new QDialogButtonBox;
     QObject::connect(buttons->addButton(localized("OK"), QDialogButtonBox::AcceptRole),
                      &QPushButton::clicked, &dialog, &QDialog::accept);
-    QObject::connect(
-        buttons->addButton(localized(Table::shortcut, "Cancel"), QDialogButtonBox::RejectRole),
-        &QPushButton::clicked, &dialog, &QDialog::reject);
-    layout->addWidget(message);
-    layout->addWidget(field);
-    layout->addWidget(buttons);
+    QObject::connect(buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole),
+                     &QPushButton::clicked, &dialog, &QDialog::reject);
+    for (QWidget *widget : {static_cast<QWidget *>(message), static_cast<QWidget *>(field),
+                            static_cast<QWidget *>(label), static_cast<QWidget *>(beginning),
+                            static_cast<QWidget *>(buttons)}) {
+        layout->addWidget(widget);
+    }
     field->setFocus();
     const bool accepted = dialog.exec() == QDialog::Accepted;
     giveBackTheKeyboard(parent);
-    return accepted ? std::optional(field->text()) : std::nullopt;
+    return accepted ? std::optional(ChosenName{field->text(), beginning->currentIndex()})
+                    : std::nullopt;
 }
 
 } // namespace nerlo::shell

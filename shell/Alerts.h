@@ -3,6 +3,7 @@
 // Main thread only.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -24,8 +25,23 @@ struct Alert {
 // otherwise.
 int runAlert(const Alert &alert, QWidget *parent);
 
-// Asks for a line of text; nothing when cancelled.
-std::optional<QString> askForText(const QString &title, const QString &label, QWidget *parent);
+// A name, and what the thing of that name begins with.
+struct NameQuestion {
+    struct Beginning {
+        QString title;
+        QString suggestedName; // may be empty
+    };
+    QString message;
+    QString nameLabel;
+    QString beginningLabel;
+    QList<Beginning> beginnings; // the first one is chosen until somebody chooses another
+};
+struct ChosenName {
+    QString name;
+    int beginning = 0; // its place
+};
+// Nothing when cancelled.
+std::optional<ChosenName> askForName(const NameQuestion &question, QWidget *parent);
 
 // Once a dialog of `parent`, which may be null, is closed: some window managers give the keyboard
 // to no window then.
@@ -34,7 +50,7 @@ void giveBackTheKeyboard(QWidget *parent);
 // In place of a person, until it is set to nothing again.
 struct AlertAnswers {
     std::function<int(const Alert &)> alert;
-    std::function<std::optional<QString>()> text;
+    std::function<std::optional<ChosenName>(const NameQuestion &)> name;
 };
 void setAlertAnswers(AlertAnswers answers);
 

@@ -275,7 +275,7 @@ void DesktopShell::setFloating(bool floating) {
     }
 }
 
-void DesktopShell::showTips() {
+void DesktopShell::showTips(bool firstStart) {
     constexpr auto atEachStartKey = "firstRunTips";
     if (!tipsController_) {
         tipsController_ = std::make_unique<TipsWindow>(
@@ -285,13 +285,16 @@ void DesktopShell::showTips() {
         QObject::connect(tipsController_.get(), &QDialog::finished, tipsController_.get(),
                          [this] { giveBackTheKeyboard(window_.get()); });
     }
+    tipsController_->askForRules(firstStart
+                                     ? [this](bool gentle) { program_.chooseFirstRules(gentle); }
+                                     : std::function<void(bool)>());
     tipsController_->setPage(0);
     present(*tipsController_);
 }
 
 void DesktopShell::showWhatsNew() {
     if (!whatsNewController_) {
-        whatsNewController_ = std::make_unique<WhatsNewWindow>([this] { showTips(); });
+        whatsNewController_ = std::make_unique<WhatsNewWindow>([this] { showTips(false); });
         whatsNewController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
         QObject::connect(whatsNewController_.get(), &QDialog::finished, whatsNewController_.get(),
                          [this] {
@@ -397,6 +400,11 @@ void DesktopShell::updateRestorable() {
     menu_->setRestorable(
         restores ? std::optional(QString::fromStdU16String(program_.engine().restorableWords()))
                  : std::nullopt);
+}
+
+void DesktopShell::updateProgram() {
+    menu_->setProgram(QString::fromStdString(program_.lastProgram()),
+                      program_.neverInLastProgram());
 }
 
 void DesktopShell::restore() {

@@ -40,6 +40,8 @@ class DesktopShell final : public ShellWindows {
     void restore();
     // Names in the menu what a restore would bring back.
     void updateRestorable();
+    // And which program the last copy came from.
+    void updateProgram();
     void hidePreferences();
     // Whether the preferences, when they are closed, must stay as an entry in the taskbar, because
     // there is no other way back to them.
@@ -56,7 +58,7 @@ class DesktopShell final : public ShellWindows {
     bool hasVisibleWindow() const override;
     void bringToFront() override;
     void setFloating(bool floating) override;
-    void showTips() override;
+    void showTips(bool firstStart) override;
     void showWhatsNew() override;
     void showAbout() override;
     void showAlert(const char *messageKey, const char *informativeKey) override;

@@ -1,8 +1,10 @@
 #include "shell/PreferencesWindow.h"
 
+#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Controls.h"
+#include "shell/CopyTableView.h"
 #include "shell/Mnemonics.h"
 #include "shell/Program.h"
 #include "shell/ScreenRoom.h"
@@ -300,9 +302,11 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
             }
         });
     }
+    copyTable_ = new CopyTableView(program_);
+    addGroup("sCopyTable")->addWidget(copyTable_);
     layout->addStretch();
 
-    generalTexts_ = localized("sPageGeneral") + ' ' + command;
+    generalTexts_ = localized("sPageGeneral") + ' ' + command + ' ' + copyTable_->searchTexts();
     for (const QCheckBox *box : page->findChildren<QCheckBox *>()) {
         generalTexts_ += ' ' + box->text() + ' ' + box->accessibleDescription();
     }
@@ -388,6 +392,7 @@ void PreferencesWindow::profilesChanged() {
             QString::fromStdU16String(settings::profileNameOf(item.record)));
     }
     profilesPopupButton_->setCurrentIndex(preferences_.popupSelection().value_or(-1));
+    copyTable_->profilesChanged();
     removeProfile_->setEnabled(profilesPopupButton_->currentIndex() >= 0);
 }
 
@@ -409,13 +414,29 @@ void PreferencesWindow::edited() {
 
 void PreferencesWindow::addProfile() {
     preferences_.profilesAdd();
-    const auto name = askForText(localized("Insert new profile name and click OK"),
-                                 localized("sProfileName"), this);
-    if (name) {
-        preferences_.profilesAddingCloseWindow(name->toStdU16String());
-    } else {
-        preferences_.profilesAddingCancelWindow();
+    const QString current = QString::fromStdU16String(preferences_.profileName());
+    NameQuestion question{
+        localized("Insert new profile name and click OK"),
+        localized("sProfileName"),
+        localized("sProfileBegin"),
+        {{localized("sProfileEmpty"), {}}, {filled(localized("sProfileCopy"), {current}), {}}}};
+    const auto firstReady = question.beginnings.size();
+    for (const settings::ReadyProfile &ready : settings::readyProfiles()) {
+        const QString title = localized(ready.titleKey);
+        question.beginnings.push_back({filled(localized("sReady"), {title}), title});
     }
+    const auto chosen = askForName(question, this);
+    if (!chosen) {
+        preferences_.profilesAddingCancelWindow();
+        return;
+    }
+    const auto name = chosen->name.toStdU16String();
+    const auto ready = chosen->beginning - firstReady;
+    preferences_.profilesAddingCloseWindow(
+        name, chosen->beginning == 0 ? settings::ProfileRecord()
+              : ready < 0            ? preferences_.profileSelected()
+                                     : settings::readyRecord(
+                                           settings::readyProfiles()[static_cast<std::size_t>(ready)], name));
 }
 
 bool PreferencesWindow::confirmRemoval(const std::u16string &name) {

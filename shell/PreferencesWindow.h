@@ -20,6 +20,7 @@ class QSplitter;
 
 namespace nerlo::shell {
 
+class CopyTableView;
 class Program;
 
 class PreferencesWindow final : public QMainWindow {
@@ -91,6 +92,7 @@ class PreferencesWindow final : public QMainWindow {
     int previewBesideFrom_ = 0; // width of the window
     bool loading_ = false;
 
+    CopyTableView *copyTable_ = nullptr;
     std::vector<QCheckBox *> general_; // one for each of generalBoxes
 };
 

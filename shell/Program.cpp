@@ -25,6 +25,12 @@ namespace {
 
 constexpr auto automaticKey = "automaticallyClearFormatting";
 
+// A row that leaves alone what comes from this program, whatever it is.
+bool isNeverIn(const clipboard::CopyRule &rule, const std::string &program) {
+    return rule.leavesAlone() && rule.program == program && rule.format.empty() &&
+           rule.host.empty() && !rule.looks;
+}
+
 } // namespace
 
 Program::Program(Parts parts)
@@ -129,6 +135,8 @@ void Program::start() {
     registerHotKeys();
     delegate_->applicationWillFinishLaunching();
     delegate_->applicationDidFinishLaunching();
+    watcher_.setProgramHandler([this] { windows_.updateProgram(); });
+    copyTable_ = store_.observe(clipboard::copyTableKey, [this] { windows_.updateProgram(); });
     watcher_.followPrograms();
     windows_.start();
     followOtherProcesses();
@@ -208,6 +216,38 @@ std::vector<clipboard::CopyRule> Program::copyRules() const {
 
 void Program::setCopyRules(const std::vector<clipboard::CopyRule> &rules) {
     store_.set(clipboard::copyTableKey, clipboard::storedRules(rules));
+}
+
+bool Program::neverInLastProgram() const {
+    const auto rules = copyRules();
+    return std::ranges::any_of(rules, [this](const clipboard::CopyRule &rule) {
+        return rule.on && isNeverIn(rule, lastProgram());
+    });
+}
+
+void Program::setNeverInLastProgram(bool never) {
+    const std::string program = lastProgram();
+    if (program.empty()) {
+        return;
+    }
+    auto rules = copyRules();
+    std::erase_if(rules, [&](const clipboard::CopyRule &rule) { return isNeverIn(rule, program); });
+    if (never) {
+        rules.insert(rules.begin(), {.on = true, .program = program});
+    }
+    setCopyRules(rules);
+}
+
+void Program::chooseFirstRules(bool gentle) {
+    const auto *ready = settings::findReadyProfile(std::string_view("gentle"));
+    const auto title = localized(ready->titleKey);
+    if (!gentle) {
+        switchProfile(0);
+    } else if (!selectProfile(title.toStdString())) {
+        preferences_.profilesAdd();
+        const auto name = title.toStdU16String();
+        preferences_.profilesAddingCloseWindow(name, settings::readyRecord(*ready, name));
+    }
 }
 
 std::u16string Program::titleOf(const std::u16string &profile) const {

@@ -87,6 +87,14 @@ class Program final {
     // Which profile cleans which copy: what is stored, or else the rows that are offered.
     std::vector<clipboard::CopyRule> copyRules() const;
     void setCopyRules(const std::vector<clipboard::CopyRule> &rules);
+    // Whether copies from the program of the last copy are left alone, by a row that says nothing
+    // else. It does nothing where the program is not known.
+    std::string lastProgram() const { return watcher_.lastProgram(); } // empty: not known; UTF-8
+    bool neverInLastProgram() const;
+    void setNeverInLastProgram(bool never);
+    // The answer to the question of a first start: adds and selects the ready profile "gentle", or
+    // goes back to the first one.
+    void chooseFirstRules(bool gentle);
     // What a profile's name in a rule is called: a ready one has a name in the user's language.
     std::u16string titleOf(const std::u16string &profile) const;
 
@@ -132,6 +140,7 @@ class Program final {
     DesktopShell windows_;
     platform::FolderWatch folders_;
     storage::SettingsStore::Observation automaticMode_;
+    storage::SettingsStore::Observation copyTable_;
     std::shared_ptr<void> refusals_;
     std::set<std::string> toldDamages_; // on the terminal
 };

@@ -28,7 +28,8 @@ class ShellWindows {
     // Keeps the preferences window above the windows of other programs.
     virtual void setFloating(bool floating) = 0;
 
-    virtual void showTips() = 0;
+    // At a first start, the first page asks which rules are to be used.
+    virtual void showTips(bool firstStart) = 0;
     virtual void showWhatsNew() = 0;
     virtual void showAbout() = 0;
     // Keys of the standard string table.

@@ -108,6 +108,8 @@ StatusMenu::StatusMenu(Program &program)
                      [](Program &p) { p.setAutomatic(AutomaticMode::toggle); }))
     , excelException_(add("excelException", title("Except copies from Excel"),
                           [](Program &p) { p.delegate().disableAutomaticallyClearFormatting(); }))
+    , never_(add("never", title("Never in this program"),
+                 [](Program &p) { p.setNeverInLastProgram(!p.neverInLastProgram()); }))
     , restore_(
           add("restore", title("Restore the original"), [](Program &p) { p.windows().restore(); }))
     , preferences_(
@@ -124,6 +126,8 @@ StatusMenu::StatusMenu(Program &program)
     , quit_(add("quit", title("Quit Nerlo Pro"), [](Program &p) { p.quit(); })) {
     automatic_->setCheckable(true);
     excelException_->setCheckable(true);
+    never_->setCheckable(true);
+    never_->setEnabled(false);
     preferences_->setShortcut(QKeySequence(preferencesKeys));
     quit_->setShortcut(QKeySequence(quitKeys));
     quit_->setMenuRole(QAction::NoRole);
@@ -142,7 +146,7 @@ StatusMenu::StatusMenu(Program &program)
     greyWithout(links.email, *email_);
 
     statusMenu_->setToolTipsVisible(true);
-    statusMenu_->addActions({clean_, automatic_, excelException_, restore_});
+    statusMenu_->addActions({clean_, automatic_, excelException_, never_, restore_});
     statusMenu_->addSeparator();
     statusMenu_->addMenu(operations_.get());
     statusMenu_->addMenu(trayProfiles_.get());
@@ -211,7 +215,7 @@ void StatusMenu::fillMenuBar(QMenuBar &bar) {
     program->setToolTipsVisible(true);
     program->addActions({about_, preferences_, rate_, hide_, quit_});
     QMenu *clear = bar.addMenu(titles[1]);
-    clear->addActions({clean_, automatic_, excelException_, restore_});
+    clear->addActions({clean_, automatic_, excelException_, never_, restore_});
     clear->addSeparator();
     clear->addMenu(operations_.get());
     clear->addMenu(profiles_.get());
@@ -227,6 +231,19 @@ void StatusMenu::setAutomatic(bool on) {
 
 void StatusMenu::setExcelException(bool on) {
     excelException_->setChecked(on);
+}
+
+void StatusMenu::setProgram(const QString &name, bool never) {
+    never_->setEnabled(!name.isEmpty());
+    never_->setChecked(never);
+    programName_ = name;
+    nameProgram();
+}
+
+void StatusMenu::nameProgram() {
+    const auto name = overBus_ ? escapedForBus(programName_) : escaped(programName_);
+    never_->setText(name.isEmpty() ? title("Never in this program")
+                                   : title("Never in “%1”").arg(name));
 }
 
 void StatusMenu::setRestorable(const std::optional<QString> &words) {
@@ -252,6 +269,7 @@ void StatusMenu::setProfiles(const QStringList &names, int selected) {
 void StatusMenu::setShownOverBus(bool overBus) {
     overBus_ = overBus;
     nameRestorable();
+    nameProgram();
     const auto actions = trayProfiles_->actions();
     for (int place = 0; place < actions.size(); ++place) {
         const QString &name = profileNames_[place];

@@ -31,6 +31,9 @@ class StatusMenu final : public QObject {
 
     void setAutomatic(bool on);
     void setExcelException(bool on);
+    // The program of the last copy, empty where it is not known, and whether copies from there are
+    // left alone.
+    void setProgram(const QString &name, bool never);
     // The beginning of the text that a restore would bring back; nothing if there is none.
     void setRestorable(const std::optional<QString> &words);
     // `selected` is -1 for none.
@@ -47,6 +50,7 @@ class StatusMenu final : public QObject {
     QAction *add(const char *name, const QString &text, void (*run)(Program &));
     void makeOperations();
     void nameRestorable();
+    void nameProgram();
     void makeEditActions();
     void fillProfiles(QMenu &menu, int selected);
 
@@ -60,6 +64,8 @@ class StatusMenu final : public QObject {
     QAction *clean_;
     QAction *automatic_;
     QAction *excelException_;
+    QAction *never_;
+    QString programName_;
     QAction *restore_;
     QString restorable_;
     QAction *preferences_;

@@ -6,6 +6,7 @@
 #include "shell/Strings.h"
 
 #include <QEvent>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
@@ -70,6 +71,7 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     , picture_(new QLabel)
     , title_(new QLabel)
     , text_(new QLabel)
+    , question_(makeQuestion())
     , dots_(new PageDots(tips))
     , previous_(new QPushButton(localized("sTipsPrevious")))
     , next_(new QPushButton)
@@ -112,6 +114,7 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     layout->addWidget(picture_, 0, Qt::AlignHCenter);
     layout->addWidget(title_);
     layout->addWidget(text_);
+    layout->addWidget(question_);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(previous_);
     buttons->addStretch();
@@ -146,6 +149,40 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     showPage();
 }
 
+QWidget *TipsWindow::makeQuestion() {
+    auto *question = new QGroupBox(localized("sFirstRules"));
+    question->setObjectName("firstRules");
+    auto *layout = new QVBoxLayout(question);
+    const auto add = [&](const char *name, const char *key) {
+        auto *button = new QRadioButton(localized(key));
+        button->setObjectName(name);
+        button->setAccessibleName(button->text());
+        layout->addWidget(button);
+        return button;
+    };
+    allRules_ = add("firstRulesAll", "sFirstRulesAll");
+    QRadioButton *gentle = add("firstRulesGentle", "sFirstRulesGentle");
+    allRules_->setChecked(true);
+    connect(gentle, &QRadioButton::toggled, this, [this](bool on) {
+        if (rulesChosen_) {
+            rulesChosen_(on);
+        }
+    });
+    question->hide();
+    return question;
+}
+
+void TipsWindow::askForRules(std::function<void(bool)> chosen) {
+    rulesChosen_ = nullptr;
+    allRules_->setChecked(true);
+    rulesChosen_ = std::move(chosen);
+    // Where it asks, the other pages are as high, so that nothing moves when the page is turned.
+    QSizePolicy policy = question_->sizePolicy();
+    policy.setRetainSizeWhenHidden(static_cast<bool>(rulesChosen_));
+    question_->setSizePolicy(policy);
+    showPage();
+}
+
 int TipsWindow::count() {
     return tips;
 }
@@ -164,6 +201,7 @@ void TipsWindow::showPage() {
     dots_->setCurrent(page_);
     dots_->setAccessibleName(
         localized("sTipsPage").arg(locale().toString(page_ + 1), locale().toString(tips)));
+    question_->setVisible(page_ == 0 && rulesChosen_);
     previous_->setEnabled(page_ > 0);
     const QString next = localized(page_ + 1 < tips ? "sTipsNext" : "sTipsDone");
     next_->setText(next);

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <functional>
 
 namespace nerlo::shell {
@@ -38,6 +39,10 @@ class TipsWindow final : public QDialog {
     // `closed` is told whether the tips shall be shown at the next start.
     TipsWindow(bool atEachStart, std::function<void(bool atEachStart)> closed);
 
+    // The first page asks for the rules to begin with, all of them or the gentle ones, of which the
+    // former are chosen. With null, which it is at first, nothing is asked.
+    void askForRules(std::function<void(bool gentle)> chosen);
+
     static int count();
     int page() const { return page_; }
     void setPage(int page);
@@ -49,12 +54,16 @@ class TipsWindow final : public QDialog {
 
   private:
     void showPage();
+    QWidget *makeQuestion();
 
     std::function<void(bool)> closed_;
+    std::function<void(bool)> rulesChosen_;
     int page_ = 0;
     QLabel *picture_;
     QLabel *title_;
     QLabel *text_;
+    QRadioButton *allRules_ = nullptr;
+    QWidget *question_;
     PageDots *dots_;
     QPushButton *previous_;
     QPushButton *next_;

@@ -143,6 +143,7 @@ void nrAppDelegate::setStatusBar() {
 
 void nrAppDelegate::openPreferencesInFirstRun() {
     if (!userDef_.boolForKey(firstRunPreferencesKey)) {
+        firstStart_ = true;
         newPreferencesWindow();
         userDef_.set(firstRunPreferencesKey, true);
     }
@@ -244,7 +245,7 @@ std::string nrAppDelegate::emailLink(const ProductLinks &links) {
 }
 
 void nrAppDelegate::aOpenTips() {
-    windows_.showTips();
+    windows_.showTips(std::exchange(firstStart_, false));
 }
 
 void nrAppDelegate::openReleaseNotesNerloPro() {

@@ -112,6 +112,7 @@ class nrAppDelegate {
     bool appOpened_ = false; // false until the first showInMenuBar() has ended
     bool automatic_ = false;
     bool excelException_ = false;
+    bool firstStart_ = false; // until the tips have been shown
     platform::MainQueue::TaskId bringBack_ = 0;
 };
 

@@ -222,13 +222,18 @@ nrCountWindowController::nrCountWindowController(const storage::SettingsStore &s
     addRow(spacesTextField, countSpacesTextField, "countSpaces");
     addRow(wordsTextField, countWordsTextField, "countWords");
     addRow(paragraphsTextField, countParagraphsTextField, "countParagraphs");
-    leftOut_ = new QLabel;
-    leftOut_->setObjectName("leftOut");
-    leftOut_->setPalette(palette);
-    leftOut_->setTextFormat(Qt::PlainText);
-    leftOut_->setWordWrap(true);
-    leftOut_->hide();
-    layout->addWidget(leftOut_, row, 0, 1, 2);
+    const auto addLine = [&](const char *name) {
+        auto *line = new QLabel;
+        line->setObjectName(name);
+        line->setPalette(palette);
+        line->setTextFormat(Qt::PlainText);
+        line->setWordWrap(true);
+        line->hide();
+        layout->addWidget(line, row++, 0, 1, 2);
+        return line;
+    };
+    cleanedAs_ = addLine("cleanedAs");
+    leftOut_ = addLine("leftOut");
     localizations();
 }
 
@@ -244,6 +249,11 @@ void nrCountWindowController::countToTextFields(std::u16string characters, std::
     set(spacesTextField, countSpacesTextField, spaces);
     set(wordsTextField, countWordsTextField, words);
     set(paragraphsTextField, countParagraphsTextField, paragraphs);
+}
+
+void nrCountWindowController::tellProfile(std::u16string name) {
+    cleanedAs_->setText(filled(localized("sCleanedAs"), {QString::fromStdU16String(name)}));
+    cleanedAs_->show();
 }
 
 void nrCountWindowController::tellReport(const engine::CleaningReport &report) {

@@ -74,6 +74,7 @@ class nrCountWindowController final : public clipboard::CountWindow {
     // The texts are shown as they are.
     void countToTextFields(std::u16string characters, std::u16string spaces, std::u16string words,
                            std::u16string paragraphs) override;
+    void tellProfile(std::u16string name) override;
     void tellReport(const engine::CleaningReport &report) override;
     void showWindow() override;
 
@@ -91,6 +92,7 @@ class nrCountWindowController final : public clipboard::CountWindow {
     QLabel *countSpacesTextField;
     QLabel *countWordsTextField;
     QLabel *countParagraphsTextField;
+    QLabel *cleanedAs_;
     QLabel *leftOut_;
 };
 

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>يضيف ملف إعدادات كل خياراته معطّلة.</translation>
+        <translation>يضيف ملف إعدادات: فارغًا أو نسخة أو واحدًا من الجاهزة.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@
         <source>sTextTooLarge</source>
         <translation>النص في الحافظة أكبر من %1 م.ب، لذا لم يُنظَّف.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>لطيف</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>بريد</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>صفحة ويب</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>طرفية</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>جواب مساعد</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>الشيفرة كما هي</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (جاهز)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>يبدأ بـ</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>لا شيء: كل الخيارات متوقفة</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>نسخة من «%@»</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>نُظّف باسم: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>أي القواعد يطبّقها التنظيف؟</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>كلها: تُرتَّب فواصل الأسطر وعلامات الاقتباس والتعداد</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>بلطف: المسافات والأسطر المكسورة فقط، وتبقى الشيفرة والجداول والقوائم</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>أي ملف إعدادات ينظف أي نسخة</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>يقرر أول صف مؤشَّر يناسب النسخة، وإن لم يناسبها أي صف نظفها ملف الإعدادات المحدد.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>إضافة صف</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>يضيف صفًا في آخر الجدول.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>حذف الصف</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>يحذف الصف المحدد.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>يرفع الصف المحدد ليُسأل قبل غيره.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>يُنزل الصف المحدد ليُسأل بعد غيره.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>يشبه</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>ما يشبهه النص المنسوخ.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>البرنامج</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>البرنامج الذي كان في الأمام عند النسخ كما يسميه «nerlo-pro --why»، والعلامة * تعني أي تتمة. لا تخبر به كل أسطح المكتب.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>الصفحة</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>الموقع الذي نسخ منه المتصفح، مثل example.org، والعلامة * تعني أي صفحة.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>التنسيق</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>تنسيق تعرضه النسخة، مثل text/rtf، والعلامة * تعني أي تتمة.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>ملف الإعدادات</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>ما ينظف نسخة كهذه، أو أن تُترك كما هي.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>أي نسخة</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>نص من طرفية</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>شيفرة</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>جدول</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>رابط</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>تُترك كما هي</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@
     <message>
         <source>Help</source>
         <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>أبدًا في هذا البرنامج</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>أبدًا في «%1»</translation>
     </message>
 </context>
 <context>

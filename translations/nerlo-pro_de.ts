@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Fügt ein Profil hinzu, in dem alle Optionen ausgeschaltet sind.</translation>
+        <translation>Fügt ein Profil hinzu: ein leeres, eine Kopie oder ein fertiges.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ MIT-Lizenz</translation>
         <source>sTextTooLarge</source>
         <translation>Der Text in der Zwischenablage ist größer als %1 MB und wurde darum nicht bereinigt.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Sanft</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Antwort eines Assistenten</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Code bleibt</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (fertig)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Beginnt mit</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Nichts: alle Optionen sind ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Einer Kopie von „%@“</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Bereinigt als: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Welche Regeln soll das Bereinigen anwenden?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Alle: jeder Umbruch, jedes Anführungs- und Aufzählungszeichen</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Sanft: nur Leerzeichen und Umbrüche; Code, Tabellen und Listen bleiben</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Welches Profil welche Kopie bereinigt</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Die erste angehakte Zeile, die auf eine Kopie passt, entscheidet; passt keine, bereinigt das gewählte Profil.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Zeile hinzufügen</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Fügt am Ende der Tabelle eine Zeile hinzu.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Zeile löschen</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Löscht die gewählte Zeile.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Schiebt die gewählte Zeile nach oben, sodass sie früher gefragt wird.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Schiebt die gewählte Zeile nach unten, sodass sie später gefragt wird.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Sieht aus wie</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Wonach der kopierte Text aussieht.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Das Programm, das beim Kopieren vorn war, wie „nerlo-pro --why“ es nennt; * steht für jeden Rest. Nicht jeder Desktop verrät es.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Die Website, von der ein Browser kopiert hat, etwa example.org; * ist jede Seite.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Ein Format, das die Kopie anbietet, etwa text/rtf; * steht für jeden Rest.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Was eine solche Kopie bereinigt, oder dass sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Jede Kopie</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Text aus einem Terminal</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Eine Tabelle</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Ein Link</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>in Ruhe lassen</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ MIT-Lizenz</translation>
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Nie in diesem Programm</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Nie in „%1“</translation>
     </message>
 </context>
 <context>

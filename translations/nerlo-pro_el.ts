@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Προσθέτει ένα προφίλ με όλες τις επιλογές ανενεργές.</translation>
+        <translation>Προσθέτει ένα προφίλ: κενό, αντίγραφο ή έτοιμο.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@
         <source>sTextTooLarge</source>
         <translation>Το κείμενο στο πρόχειρο είναι μεγαλύτερο από %1 MB, γι’ αυτό δεν καθαρίστηκε.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Ήπιο</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Αλληλογραφία</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Ιστοσελίδα</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Τερματικό</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Απάντηση βοηθού</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Ο κώδικας μένει</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (έτοιμο)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Ξεκινά με</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Τίποτα: όλες οι επιλογές είναι ανενεργές</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Αντίγραφο του «%@»</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Καθαρίστηκε ως: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Ποιους κανόνες να εφαρμόζει ο καθαρισμός;</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Όλους: τακτοποιούνται αλλαγές γραμμής, εισαγωγικά και κουκκίδες</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Ήπια: μόνο διαστήματα και σπασμένες γραμμές· κώδικας, πίνακες και λίστες μένουν</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Ποιο προφίλ καθαρίζει ποιο αντίγραφο</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Αποφασίζει η πρώτη τσεκαρισμένη γραμμή που ταιριάζει· αν δεν ταιριάζει καμία, καθαρίζει το επιλεγμένο προφίλ.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Προσθήκη γραμμής</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Προσθέτει μια γραμμή στο τέλος του πίνακα.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Διαγραφή γραμμής</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Διαγράφει την επιλεγμένη γραμμή.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Μετακινεί την επιλεγμένη γραμμή πάνω, ώστε να εξετάζεται νωρίτερα.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Μετακινεί την επιλεγμένη γραμμή κάτω, ώστε να εξετάζεται αργότερα.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Μοιάζει με</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Με τι μοιάζει το αντιγραμμένο κείμενο.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Πρόγραμμα</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Το πρόγραμμα που ήταν μπροστά κατά την αντιγραφή, όπως το ονομάζει το «nerlo-pro --why»· το * σημαίνει οτιδήποτε ακολουθεί. Δεν το λέει κάθε επιφάνεια εργασίας.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Σελίδα</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Ο ιστότοπος από τον οποίο αντέγραψε ένας περιηγητής, όπως example.org· το * είναι κάθε σελίδα.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Μορφή</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Μια μορφή που προσφέρει το αντίγραφο, όπως text/rtf· το * σημαίνει οτιδήποτε ακολουθεί.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Προφίλ</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Τι καθαρίζει ένα τέτοιο αντίγραφο, ή ότι μένει όπως είναι.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Οποιοδήποτε αντίγραφο</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Κείμενο από τερματικό</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Κώδικας</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Πίνακας</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Σύνδεσμος</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>να μείνει όπως είναι</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@
     <message>
         <source>Help</source>
         <translation>Βοήθεια</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Ποτέ σε αυτό το πρόγραμμα</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Ποτέ στο «%1»</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Adds a profile in which every option is off.</translation>
+        <translation>Adds a profile: an empty one, a copy, or one of the ready ones.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1210,6 +1210,162 @@ MIT licence</translation>
         <extracomment>%1 is a number.</extracomment>
         <translation>The text on the clipboard is larger than %1 MB, so it was not cleaned.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Gentle</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Mail</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Web page</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Answer of an assistant</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Code-safe</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (ready)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Begins with</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Nothing: every option is off</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>A copy of “%@”</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Cleaned as: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Which rules shall a clean apply?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>All: every line break, quotation mark and bullet is tidied</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Gentle: spaces and broken lines only; code, tables and lists stay</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Which profile cleans which copy</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>The first ticked row that fits a copy decides; where none fits, the selected profile cleans it.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Add a row</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Adds a row at the end of the table.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Delete the row</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Deletes the selected row.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Moves the selected row up, so that it is asked earlier.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Moves the selected row down, so that it is asked later.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Looks like</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>What the copied text looks like.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>The program in front at the copy, as “nerlo-pro --why” calls it; * stands for any rest. Not every desktop tells it.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>The site that a browser copied from, such as example.org; * is any page.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>A format that the copy offers, such as text/rtf; * stands for any rest.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>What cleans such a copy, or that it is left alone.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Any copy</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Text from a terminal</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>A table</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>A link</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>leave alone</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1322,6 +1478,16 @@ MIT licence</translation>
     <message>
         <source>Help</source>
         <translation>Help</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <extracomment>Copies from the program that the last copy came from are left alone.</extracomment>
+        <translation>Never in this program</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <extracomment>%1 is the name of a program.</extracomment>
+        <translation>Never in “%1”</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Añade un perfil con todas las opciones desactivadas.</translation>
+        <translation>Añade un perfil: vacío, una copia o uno de los listos.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ Licencia MIT</translation>
         <source>sTextTooLarge</source>
         <translation>El texto del portapapeles ocupa más de %1 MB, así que no se limpió.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Suave</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Página web</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Respuesta de un asistente</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Código intacto</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (listo)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Empieza con</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Nada: todas las opciones desactivadas</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Una copia de «%@»</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Limpiado como: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>¿Qué reglas debe aplicar la limpieza?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Todas: se arreglan saltos de línea, comillas y viñetas</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Suave: solo espacios y líneas cortadas; código, tablas y listas se quedan</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Qué perfil limpia qué copia</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Decide la primera fila marcada que encaja con una copia; si ninguna encaja, la limpia el perfil elegido.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Añadir una fila</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Añade una fila al final de la tabla.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Eliminar la fila</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Elimina la fila elegida.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Sube la fila elegida para que se consulte antes.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Baja la fila elegida para que se consulte después.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Parece</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Lo que parece el texto copiado.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>El programa que estaba delante al copiar, como lo llama «nerlo-pro --why»; * vale por cualquier resto. No todos los escritorios lo dicen.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>El sitio del que copió un navegador, como example.org; * es cualquier página.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Un formato que ofrece la copia, como text/rtf; * vale por cualquier resto.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Lo que limpia una copia así, o que se deja como está.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Cualquier copia</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Texto de un terminal</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Una tabla</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Un enlace</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>dejar como está</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ Licencia MIT</translation>
     <message>
         <source>Help</source>
         <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Nunca en este programa</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Nunca en «%1»</translation>
     </message>
 </context>
 <context>

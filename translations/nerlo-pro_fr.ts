@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Ajoute un profil où toutes les options sont désactivées.</translation>
+        <translation>Ajoute un profil : vide, une copie ou un profil prêt.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ Licence MIT</translation>
         <source>sTextTooLarge</source>
         <translation>Le texte du presse-papiers dépasse %1 Mo et n’a donc pas été nettoyé.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Doux</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Courriel</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Page web</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Réponse d’un assistant</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Code préservé</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (prêt)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Commence par</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Rien : toutes les options sont désactivées</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Une copie de « %@ »</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Nettoyé comme : %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Quelles règles le nettoyage doit-il appliquer ?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Toutes : sauts de ligne, guillemets et puces sont arrangés</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Doux : espaces et lignes coupées seulement ; code, tableaux et listes restent</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Quel profil nettoie quelle copie</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>La première ligne cochée qui convient à une copie décide ; si aucune ne convient, le profil choisi la nettoie.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Ajouter une ligne</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Ajoute une ligne à la fin du tableau.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Supprimer la ligne</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Supprime la ligne choisie.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Monte la ligne choisie, pour qu’elle soit examinée plus tôt.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Descend la ligne choisie, pour qu’elle soit examinée plus tard.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Ressemble à</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Ce à quoi ressemble le texte copié.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Le programme au premier plan lors de la copie, comme « nerlo-pro --why » le nomme ; * remplace toute suite. Tous les bureaux ne le disent pas.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Le site d’où un navigateur a copié, par exemple example.org ; * désigne toute page.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Un format que la copie propose, par exemple text/rtf ; * remplace toute suite.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Ce qui nettoie une telle copie, ou qu’elle reste intacte.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Toute copie</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Texte d’un terminal</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Du code</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Un tableau</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Un lien</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>laisser intacte</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ Licence MIT</translation>
     <message>
         <source>Help</source>
         <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Jamais dans ce programme</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Jamais dans « %1 »</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Aggiunge un profilo con tutte le opzioni disattivate.</translation>
+        <translation>Aggiunge un profilo: vuoto, una copia o uno di quelli pronti.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ Licenza MIT</translation>
         <source>sTextTooLarge</source>
         <translation>Il testo negli appunti supera %1 MB, perciò non è stato ripulito.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Delicato</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Pagina web</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminale</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Risposta di un assistente</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Codice intatto</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (pronto)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Comincia con</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Niente: tutte le opzioni sono disattivate</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Una copia di “%@”</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Pulito come: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Quali regole deve applicare la pulizia?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Tutte: a capo, virgolette e punti elenco vengono sistemati</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Delicato: solo spazi e righe spezzate; codice, tabelle ed elenchi restano</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Quale profilo pulisce quale copia</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Decide la prima riga spuntata adatta a una copia; se nessuna è adatta, la pulisce il profilo scelto.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Aggiungi una riga</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Aggiunge una riga alla fine della tabella.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Elimina la riga</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Elimina la riga scelta.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Sposta in su la riga scelta, così viene considerata prima.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Sposta in giù la riga scelta, così viene considerata dopo.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Sembra</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Che cosa sembra il testo copiato.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Programma</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Il programma in primo piano alla copia, come lo chiama “nerlo-pro --why”; * sta per qualsiasi resto. Non tutti i desktop lo dicono.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Pagina</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Il sito da cui un browser ha copiato, come example.org; * è qualsiasi pagina.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Un formato che la copia offre, come text/rtf; * sta per qualsiasi resto.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Profilo</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Che cosa pulisce una copia simile, o che resta com’è.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Qualsiasi copia</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Testo da un terminale</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Codice</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Una tabella</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Un collegamento</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>lascia com’è</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ Licenza MIT</translation>
     <message>
         <source>Help</source>
         <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Mai in questo programma</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Mai in “%1”</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>すべてのオプションがオフのプロファイルを追加します。</translation>
+        <translation>空、コピー、用意済みのいずれかのプロファイルを追加します。</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ MIT ライセンス</translation>
         <source>sTextTooLarge</source>
         <translation>クリップボードのテキストは %1 MB を超えているため、整形しませんでした。</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>控えめ</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>メール</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Web ページ</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>端末</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>アシスタントの回答</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>コードを保つ</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@（用意済み）</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>最初の内容</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>空: すべてのオプションがオフ</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>「%@」のコピー</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>適用したプロファイル: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>クリーンで適用する規則は？</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>すべて: 改行、引用符、行頭記号を整えます</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>控えめ: 空白と途切れた行だけ。コード、表、リストはそのまま</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>どのコピーをどのプロファイルで整えるか</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>コピーに合う最初のチェック済みの行が決めます。合う行がなければ、選択中のプロファイルで整えます。</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>行を追加</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>表の最後に行を追加します。</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>行を削除</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>選択した行を削除します。</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>選択した行を上に移し、先に調べるようにします。</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>選択した行を下に移し、後で調べるようにします。</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>コピーしたテキストの見た目です。</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>プログラム</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>コピーしたときに前面にあったプログラムを「nerlo-pro --why」が示す名前で指定します。* は残りの任意の文字列です。わからないデスクトップもあります。</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>ブラウザーのコピー元のサイト（例: example.org）。* は任意のページです。</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>コピーが提供する形式（例: text/rtf）。* は残りの任意の文字列です。</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>このようなコピーを整えるもの、または何もしないことを選びます。</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>すべてのコピー</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>端末のテキスト</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>表</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>何もしない</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ MIT ライセンス</translation>
     <message>
         <source>Help</source>
         <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>このプログラムでは使わない</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>「%1」では使わない</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Dodaje profil, w którym wszystkie opcje są wyłączone.</translation>
+        <translation>Dodaje profil: pusty, kopię albo gotowy.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ Licencja MIT</translation>
         <source>sTextTooLarge</source>
         <translation>Tekst w schowku jest większy niż %1 MB, więc go nie oczyszczono.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Łagodny</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Poczta</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Strona WWW</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Odpowiedź asystenta</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Kod nietknięty</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (gotowy)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Zaczyna się od</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Niczego: wszystkie opcje wyłączone</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Kopii profilu „%@”</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Wyczyszczono jako: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Jakie reguły ma stosować czyszczenie?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Wszystkie: podziały wierszy, cudzysłowy i punktory są porządkowane</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Łagodnie: tylko spacje i złamane wiersze; kod, tabele i listy zostają</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Który profil czyści którą kopię</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Decyduje pierwszy zaznaczony wiersz pasujący do kopii; gdy żaden nie pasuje, czyści wybrany profil.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Dodaj wiersz</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Dodaje wiersz na końcu tabeli.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Usuń wiersz</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Usuwa wybrany wiersz.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Przesuwa wybrany wiersz w górę, aby był sprawdzany wcześniej.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Przesuwa wybrany wiersz w dół, aby był sprawdzany później.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Wygląda jak</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Na co wygląda skopiowany tekst.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Program na wierzchu podczas kopiowania, tak jak nazywa go „nerlo-pro --why”; * oznacza dowolną resztę. Nie każdy pulpit to podaje.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Strona</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Witryna, z której kopiowała przeglądarka, na przykład example.org; * to dowolna strona.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Format, który oferuje kopia, na przykład text/rtf; * oznacza dowolną resztę.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Co czyści taką kopię albo że zostaje ona bez zmian.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Dowolna kopia</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Tekst z terminala</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Tabela</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Odnośnik</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>zostaw bez zmian</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ Licencja MIT</translation>
     <message>
         <source>Help</source>
         <translation>Pomoc</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Nigdy w tym programie</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Nigdy w „%1”</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Adiciona um perfil com todas as opções desligadas.</translation>
+        <translation>Adiciona um perfil: vazio, uma cópia ou um dos prontos.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ Licença MIT</translation>
         <source>sTextTooLarge</source>
         <translation>O texto na área de transferência tem mais de %1 MB, por isso não foi limpo.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Suave</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Página web</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Resposta de um assistente</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Código intacto</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (pronto)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Começa com</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Nada: todas as opções desligadas</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Uma cópia de “%@”</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Limpo como: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Que regras a limpeza deve aplicar?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Todas: quebras de linha, aspas e marcadores são arrumados</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Suave: só espaços e linhas partidas; código, tabelas e listas ficam</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Que perfil limpa que cópia</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Decide a primeira linha marcada que serve a uma cópia; se nenhuma servir, o perfil escolhido limpa-a.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Adicionar uma linha</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Adiciona uma linha no fim da tabela.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Apagar a linha</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Apaga a linha escolhida.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Move a linha escolhida para cima, para ser consultada antes.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Move a linha escolhida para baixo, para ser consultada depois.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Parece</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>O que o texto copiado parece.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>O programa à frente na cópia, como “nerlo-pro --why” o chama; * vale por qualquer resto. Nem todos os ambientes o dizem.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>O site de onde um navegador copiou, como example.org; * é qualquer página.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Um formato que a cópia oferece, como text/rtf; * vale por qualquer resto.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>O que limpa uma cópia assim, ou que fica como está.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Qualquer cópia</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Texto de um terminal</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Uma tabela</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Um link</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>deixar como está</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ Licença MIT</translation>
     <message>
         <source>Help</source>
         <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Nunca neste programa</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Nunca em “%1”</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Добавляет профиль, в котором все параметры выключены.</translation>
+        <translation>Добавляет профиль: пустой, копию или готовый.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@
         <source>sTextTooLarge</source>
         <translation>Текст в буфере обмена больше %1 МБ, поэтому он не очищен.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Бережный</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Почта</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Веб-страница</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Терминал</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Ответ помощника</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Код не трогать</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (готовый)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Начать с</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Пустой: все параметры выключены</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Копия профиля «%@»</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Очищено как: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Какие правила применять при очистке?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Все: переносы строк, кавычки и маркеры приводятся в порядок</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Бережно: только пробелы и разорванные строки; код, таблицы и списки остаются</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Какой профиль очищает какую копию</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Решает первая отмеченная строка, которая подходит к копии; если не подходит ни одна, очищает выбранный профиль.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Добавить строку</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Добавляет строку в конец таблицы.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Удалить строку</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Удаляет выбранную строку.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Поднимает выбранную строку, чтобы она проверялась раньше.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Опускает выбранную строку, чтобы она проверялась позже.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Похоже на</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>На что похож скопированный текст.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Программа</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Программа на переднем плане при копировании, как её называет «nerlo-pro --why»; * заменяет любое окончание. Её сообщает не каждый рабочий стол.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Страница</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Сайт, с которого копировал браузер, например example.org; * — любая страница.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Формат</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Формат, который предлагает копия, например text/rtf; * заменяет любое окончание.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Профиль</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Чем очищать такую копию, или оставить её как есть.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Любая копия</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Текст из терминала</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Таблица</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Ссылка</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>не трогать</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@
     <message>
         <source>Help</source>
         <translation>Справка</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Никогда в этой программе</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Никогда в «%1»</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Lägger till en profil där alla alternativ är avstängda.</translation>
+        <translation>Lägger till en profil: en tom, en kopia eller en färdig.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ MIT-licens</translation>
         <source>sTextTooLarge</source>
         <translation>Texten i urklipp är större än %1 MB, så den rensades inte.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Varsam</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>E-post</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Webbsida</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Svar från en assistent</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Koden lämnas</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (färdig)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Börjar med</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Ingenting: alla alternativ är av</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>En kopia av ”%@”</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Rensad som: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Vilka regler ska rensningen använda?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Alla: radbrytningar, citattecken och punkter ordnas</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Varsam: bara mellanslag och brutna rader; kod, tabeller och listor lämnas</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Vilken profil som rensar vilken kopia</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Den första ikryssade raden som passar en kopia avgör; passar ingen rensar den valda profilen.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Lägg till en rad</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Lägger till en rad sist i tabellen.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Ta bort raden</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Tar bort den valda raden.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Flyttar upp den valda raden så att den prövas tidigare.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Flyttar ner den valda raden så att den prövas senare.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Ser ut som</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>Vad den kopierade texten ser ut som.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Programmet längst fram vid kopieringen, så som ”nerlo-pro --why” kallar det; * står för valfri rest. Alla skrivbord berättar det inte.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Sida</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Webbplatsen som en webbläsare kopierade från, till exempel example.org; * är vilken sida som helst.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Ett format som kopian erbjuder, till exempel text/rtf; * står för valfri rest.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Det som rensar en sådan kopia, eller att den lämnas i fred.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Vilken kopia som helst</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Text från en terminal</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>En tabell</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>En länk</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>lämna i fred</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ MIT-licens</translation>
     <message>
         <source>Help</source>
         <translation>Hjälp</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Aldrig i det här programmet</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Aldrig i ”%1”</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>Додає профіль, у якому всі параметри вимкнено.</translation>
+        <translation>Додає профіль: порожній, копію або готовий.</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@
         <source>sTextTooLarge</source>
         <translation>Текст у буфері обміну більший за %1 МБ, тому його не очищено.</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>Дбайливий</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>Пошта</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>Вебсторінка</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>Термінал</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>Відповідь помічника</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>Код не чіпати</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@ (готовий)</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>Почати з</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>Порожній: усі параметри вимкнено</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>Копія профілю «%@»</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>Очищено як: %@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>Які правила застосовувати під час очищення?</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>Усі: розриви рядків, лапки й маркери впорядковуються</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>Дбайливо: лише пробіли й розірвані рядки; код, таблиці та списки лишаються</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>Який профіль очищує яку копію</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>Вирішує перший позначений рядок, що підходить до копії; якщо не підходить жоден, очищує вибраний профіль.</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>Додати рядок</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>Додає рядок у кінець таблиці.</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>Видалити рядок</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>Видаляє вибраний рядок.</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>Піднімає вибраний рядок, щоб його перевіряли раніше.</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>Опускає вибраний рядок, щоб його перевіряли пізніше.</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>Схоже на</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>На що схожий скопійований текст.</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>Програма</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>Програма на передньому плані під час копіювання, як її називає «nerlo-pro --why»; * заміняє будь-яке закінчення. Її повідомляє не кожна стільниця.</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>Сторінка</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>Сайт, з якого копіював браузер, наприклад example.org; * — будь-яка сторінка.</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>Формат</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>Формат, який пропонує копія, наприклад text/rtf; * заміняє будь-яке закінчення.</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>Профіль</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>Чим очищувати таку копію, або лишити її як є.</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>Будь-яка копія</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>Текст із термінала</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>Таблиця</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>Посилання</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>не чіпати</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@
     <message>
         <source>Help</source>
         <translation>Довідка</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>Ніколи в цій програмі</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>Ніколи в «%1»</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>添加一个所有选项都关闭的配置。</translation>
+        <translation>添加一个配置：空白、副本或现成的。</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ MIT 许可证</translation>
         <source>sTextTooLarge</source>
         <translation>剪贴板中的文本超过 %1 MB，因此未清理。</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>温和</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>邮件</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>网页</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>终端</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>助手的回答</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>保留代码</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@（现成）</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>起始内容</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>空白：所有选项关闭</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>“%@”的副本</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>清理方式：%@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>清理时应用哪些规则？</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>全部：整理换行、引号和项目符号</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>温和：只处理空格和断行，代码、表格和列表保持不变</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>哪个配置清理哪种复制内容</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>由第一个勾选且符合的行决定；没有符合的行时，使用所选配置清理。</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>添加一行</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>在表格末尾添加一行。</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>删除该行</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>删除所选的行。</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>上移所选的行，使其更早被检查。</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>下移所选的行，使其更晚被检查。</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>看起来像</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>复制的文本看起来像什么。</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>复制时位于前台的程序，名称以“nerlo-pro --why”为准；* 代表其余任意内容。并非所有桌面都会提供。</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>浏览器复制来源的网站，例如 example.org；* 表示任何页面。</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>复制内容提供的格式，例如 text/rtf；* 代表其余任意内容。</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>用什么清理这种内容，或者保持不变。</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>任何复制内容</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>来自终端的文本</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>表格</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>保持不变</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ MIT 许可证</translation>
     <message>
         <source>Help</source>
         <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>在此程序中从不清理</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>在“%1”中从不清理</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>sProfileAddTip</source>
-        <translation>新增一個所有選項都關閉的設定檔。</translation>
+        <translation>新增一個設定檔：空白、副本或現成的。</translation>
     </message>
     <message>
         <source>sProfileRemove</source>
@@ -1207,6 +1207,162 @@ MIT 授權</translation>
         <source>sTextTooLarge</source>
         <translation>剪貼簿中的文字超過 %1 MB，因此未清理。</translation>
     </message>
+    <message>
+        <source>sReadyGentle</source>
+        <translation>溫和</translation>
+    </message>
+    <message>
+        <source>sReadyPdf</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>sReadyMail</source>
+        <translation>郵件</translation>
+    </message>
+    <message>
+        <source>sReadyWeb</source>
+        <translation>網頁</translation>
+    </message>
+    <message>
+        <source>sReadyTerminal</source>
+        <translation>終端機</translation>
+    </message>
+    <message>
+        <source>sReadyAssistant</source>
+        <translation>助理的回答</translation>
+    </message>
+    <message>
+        <source>sReadyCode</source>
+        <translation>保留程式碼</translation>
+    </message>
+    <message>
+        <source>sReady</source>
+        <translation>%@（現成）</translation>
+    </message>
+    <message>
+        <source>sProfileBegin</source>
+        <translation>起始內容</translation>
+    </message>
+    <message>
+        <source>sProfileEmpty</source>
+        <translation>空白：所有選項關閉</translation>
+    </message>
+    <message>
+        <source>sProfileCopy</source>
+        <translation>「%@」的副本</translation>
+    </message>
+    <message>
+        <source>sCleanedAs</source>
+        <translation>清理方式：%@</translation>
+    </message>
+    <message>
+        <source>sFirstRules</source>
+        <translation>清理時套用哪些規則？</translation>
+    </message>
+    <message>
+        <source>sFirstRulesAll</source>
+        <translation>全部：整理換行、引號和項目符號</translation>
+    </message>
+    <message>
+        <source>sFirstRulesGentle</source>
+        <translation>溫和：只處理空格和斷行，程式碼、表格和清單保持不變</translation>
+    </message>
+    <message>
+        <source>sCopyTable</source>
+        <translation>哪個設定檔清理哪種複製內容</translation>
+    </message>
+    <message>
+        <source>sCopyTableTip</source>
+        <translation>由第一個勾選且符合的列決定；沒有符合的列時，使用所選設定檔清理。</translation>
+    </message>
+    <message>
+        <source>sCopyAdd</source>
+        <translation>新增一列</translation>
+    </message>
+    <message>
+        <source>sCopyAddTip</source>
+        <translation>在表格末尾新增一列。</translation>
+    </message>
+    <message>
+        <source>sCopyRemove</source>
+        <translation>刪除該列</translation>
+    </message>
+    <message>
+        <source>sCopyRemoveTip</source>
+        <translation>刪除所選的列。</translation>
+    </message>
+    <message>
+        <source>sCopyUpTip</source>
+        <translation>上移所選的列，使其更早被檢查。</translation>
+    </message>
+    <message>
+        <source>sCopyDownTip</source>
+        <translation>下移所選的列，使其更晚被檢查。</translation>
+    </message>
+    <message>
+        <source>sCopyLooks</source>
+        <translation>看起來像</translation>
+    </message>
+    <message>
+        <source>sCopyLooksTip</source>
+        <translation>複製的文字看起來像什麼。</translation>
+    </message>
+    <message>
+        <source>sCopyProgram</source>
+        <translation>程式</translation>
+    </message>
+    <message>
+        <source>sCopyProgramTip</source>
+        <translation>複製時位於前景的程式，名稱以「nerlo-pro --why」為準；* 代表其餘任意內容。並非所有桌面都會提供。</translation>
+    </message>
+    <message>
+        <source>sCopyPage</source>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>sCopyPageTip</source>
+        <translation>瀏覽器複製來源的網站，例如 example.org；* 表示任何頁面。</translation>
+    </message>
+    <message>
+        <source>sCopyFormat</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>sCopyFormatTip</source>
+        <translation>複製內容提供的格式，例如 text/rtf；* 代表其餘任意內容。</translation>
+    </message>
+    <message>
+        <source>sCopyProfile</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>sCopyProfileTip</source>
+        <translation>用什麼清理這種內容，或者保持不變。</translation>
+    </message>
+    <message>
+        <source>sLooksAny</source>
+        <translation>任何複製內容</translation>
+    </message>
+    <message>
+        <source>sLooksTerminal</source>
+        <translation>來自終端機的文字</translation>
+    </message>
+    <message>
+        <source>sLooksCode</source>
+        <translation>程式碼</translation>
+    </message>
+    <message>
+        <source>sLooksTable</source>
+        <translation>表格</translation>
+    </message>
+    <message>
+        <source>sLooksLink</source>
+        <translation>連結</translation>
+    </message>
+    <message>
+        <source>sLeaveAlone</source>
+        <translation>保持不變</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>
@@ -1318,6 +1474,14 @@ MIT 授權</translation>
     <message>
         <source>Help</source>
         <translation>說明</translation>
+    </message>
+    <message>
+        <source>Never in this program</source>
+        <translation>在此程式中從不清理</translation>
+    </message>
+    <message>
+        <source>Never in “%1”</source>
+        <translation>在「%1」中從不清理</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@ class RecordedWindows final : public ShellWindows {
     bool hasVisibleWindow() const override { return visible; }
     void bringToFront() override { calls.push_back("front"); }
     void setFloating(bool on) override { calls.push_back(on ? "floats" : "does not float"); }
-    void showTips() override { calls.push_back("tips"); }
+    void showTips(bool first) override { calls.push_back(first ? "tips, asking" : "tips"); }
     void showWhatsNew() override { calls.push_back("what's new"); }
     void showAbout() override { calls.push_back("about"); }
     void showAlert(const char *message, const char *informative) override {
@@ -89,7 +89,9 @@ class AppDelegate : public ShellFixture {
 TEST_F(AppDelegate, TheFirstStartShowsItselfInOrder) {
     start();
     EXPECT_EQ(windows.take(),
-              (Calls{"item", "no entry", "preferences", "does not float", "item", "tips"}));
+              (Calls{"item", "no entry", "preferences", "does not float", "item", "tips, asking"}));
+    delegate->aOpenTips();
+    EXPECT_EQ(windows.take(), Calls{"tips"}) << "it asks once";
     EXPECT_TRUE(store.boolForKey("firstRunPreferences"));
     EXPECT_TRUE(store.boolForKey("updateReleaseNotes3_1"));
     EXPECT_TRUE(store.boolForKey("showInMenubar"));

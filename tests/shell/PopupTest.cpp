@@ -70,6 +70,9 @@ TEST_F(Popup, ShowsTheTextsInTheCorner) {
     EXPECT_EQ(text("countWords"), "<b>7");
     EXPECT_EQ(text("countParagraphs"), "8");
     EXPECT_EQ(text("leftOut"), "");
+    EXPECT_EQ(text("cleanedAs"), "");
+    controller.tellProfile(u"<b>Mail");
+    EXPECT_EQ(text("cleanedAs"), "Cleaned as: <b>Mail");
     using Why = engine::PatternFailure::Why;
     controller.tellReport(
         {{3, Why::GivenUp, {}}, {7, Why::DoesNotCompile, {}}, {9, Why::GivenUp, {}}});

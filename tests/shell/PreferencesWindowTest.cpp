@@ -17,6 +17,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSpinBox>
@@ -96,8 +97,15 @@ TEST_F(Preferences, WhatDependsOnABoxIsDimmed) {
 
 TEST_F(Preferences, ProfilesAreAddedSwitchedAndRemoved) {
     auto &popup = control<QComboBox>("profilesPopupButton");
-    setAlertAnswers({{}, [] { return QString("Mail & more"); }});
-    control<QPushButton>("addProfile").click();
+    int beginning = 0;
+    const auto add = [&](const char *name) {
+        setAlertAnswers({{}, [&](const NameQuestion &question) {
+                             EXPECT_EQ(question.beginnings.size(), 9);
+                             return ChosenName{name, beginning};
+                         }});
+        control<QPushButton>("addProfile").click();
+    };
+    add("Mail & more");
     ASSERT_EQ(popup.count(), 2);
     EXPECT_EQ(popup.currentText(), "Mail & more");
     EXPECT_FALSE(control<QCheckBox>("udRemoveBullets").isChecked());
@@ -120,6 +128,48 @@ TEST_F(Preferences, ProfilesAreAddedSwitchedAndRemoved) {
     answer = 0;
     control<QPushButton>("removeProfile").click();
     EXPECT_EQ(popup.count(), 1);
+    const auto original = preferences.profileSelected();
+    for (beginning = 1; beginning <= 2; ++beginning) {
+        add("another");
+        EXPECT_EQ(popup.currentText(), "another");
+        EXPECT_EQ(stored("udRemoveBullets"), beginning == 1) << "a copy, or a ready one";
+        EXPECT_EQ(stored("udProtectStructure"), beginning == 2);
+        preferences.profilesSelect(0);
+        EXPECT_EQ(preferences.profileSelected(), original);
+    }
+}
+
+TEST_F(Preferences, RowsOfTheTableOfCopiesAreEditedAndStored) {
+    showPage(0);
+    auto &list = control<QListWidget>("copyTable");
+    const auto rules = [&] { return program.copyRules(); };
+    const auto row = [&](int place) {
+        return list.item(place)->text() + " -> " + list.item(place)->data(Qt::UserRole).toString();
+    };
+    ASSERT_EQ(list.count(), 3) << "what is offered";
+    EXPECT_EQ(store.find(clipboard::copyTableKey), nullptr);
+    EXPECT_EQ(row(0), "Text from a terminal -> Terminal");
+    list.item(0)->setCheckState(Qt::Checked);
+    EXPECT_TRUE(rules()[0].on);
+    control<QPushButton>("addCopyRow").click();
+    EXPECT_EQ(row(3), "Any copy -> leave alone");
+    QTest::keyClicks(&control<QLineEdit>("copyProgram"), "kate ");
+    control<QLineEdit>("copyFormat").setText("text/rtf");
+    control<QComboBox>("copyLooks").setCurrentText("Code");
+    control<QComboBox>("copyProfile").setCurrentText("Mail (ready)");
+    EXPECT_EQ(row(3), "Code, Program: kate, Format: text/rtf -> Mail");
+    control<QPushButton>("copyRowUp").click();
+    ASSERT_EQ(rules().size(), 4u);
+    EXPECT_EQ(rules()[2].program, "kate");
+    EXPECT_EQ(rules()[2].profile, u"mail");
+    EXPECT_EQ(rules()[2].looks, clipboard::Looks::code);
+    EXPECT_FALSE(rules()[2].on);
+    control<QPushButton>("removeCopyRow").click();
+    EXPECT_EQ(rules().size(), 3u);
+    // Another process stores another table.
+    store.set(clipboard::copyTableKey, storage::PropertyArray{});
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_FALSE(control<QLineEdit>("copyProgram").isEnabled());
 }
 
 TEST_F(Preferences, TheSearchFindsAnOptionByAnyOfItsWords) {
@@ -423,7 +473,7 @@ using Menu = ProgramFixture;
 TEST_F(Menu, ItemsProfilesAndKeys) {
     StatusMenu menu(program);
     menu.setProfiles({"A", "A", "R&D", "a_b & c & d"}, 1);
-    auto *profiles = menu.menu().actions()[6]->menu();
+    auto *profiles = menu.menu().actions()[7]->menu();
     ASSERT_TRUE(profiles);
     ASSERT_EQ(profiles->actions().size(), 4);
     EXPECT_TRUE(profiles->actions()[1]->isChecked());
@@ -432,7 +482,7 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     menu.setShownOverBus(true);
     EXPECT_EQ(profiles->actions()[2]->text(), "R&&D");
     EXPECT_EQ(profiles->actions()[3]->text(), "a__b && c & d");
-    auto *operations = menu.menu().actions()[5]->menu();
+    auto *operations = menu.menu().actions()[6]->menu();
     EXPECT_EQ(operations->findChildren<QAction *>(QRegularExpression("^operation")).size(),
               static_cast<qsizetype>(engine::operations().size()));
     const auto result = [&](QAction &action) {
@@ -455,6 +505,43 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     const auto items = menu.mainMenu();
     EXPECT_EQ(items[1].keyEquivalent, u"q");
     EXPECT_EQ(items[1].modifierMask, 0x100000u);
+}
+
+TEST_F(Menu, TheProgramOfTheLastCopyIsLeftAloneAndTheRowsAreSaid) {
+    auto *never = program.windows().menu().findChild<QAction *>("never");
+    program.start();
+    auto &active = static_cast<test::MemoryActiveApplication &>(*desktop.activeApplication.backend);
+    EXPECT_FALSE(never->isEnabled());
+    active.activate("R&D");
+    program.setAutomatic(AutomaticMode::on);
+    const auto copy = [&](const char *text) {
+        pasteboard.copyText(text);
+        queue.advance(3s);
+        finishWork();
+        return pasteboard.bytes("UTF8_STRING");
+    };
+    EXPECT_EQ(program.why(), "Last copy: no copy has been looked at yet\n");
+    EXPECT_EQ(copy("a  b"), "a b");
+    EXPECT_EQ(never->text(), "Never in “R&&D”");
+    EXPECT_FALSE(never->isChecked());
+    EXPECT_TRUE(program.why().starts_with(
+        "Last copy: cleaned with the profile \"default\": no row of the table fits\n"));
+    never->trigger();
+    EXPECT_TRUE(never->isChecked());
+    EXPECT_EQ(copy("c  d"), "c  d");
+    EXPECT_TRUE(program.why().starts_with(
+        "Last copy: left alone: row 1 of the table fits (program R&D)\n"));
+    EXPECT_EQ(program.why().find("c  d"), std::string::npos);
+    never->trigger();
+    EXPECT_EQ(copy("c  d"), "c d");
+    auto rules = program.copyRules();
+    ASSERT_EQ(rules.size(), 3u) << "those that are offered have stayed";
+    rules[0].on = true;
+    program.setCopyRules(rules);
+    EXPECT_EQ(copy("$ make  it\n"), "$ make  it\n");
+    EXPECT_TRUE(program.why().starts_with("Last copy: cleaned with the profile \"Terminal\": row 1 "
+                                          "of the table fits (looks like text from a terminal)\n"))
+        << program.why();
 }
 
 TEST(StatusMenu, ShowsAShortcutAsTheToolkitNamesIt) {
@@ -515,6 +602,32 @@ TEST(Tips, PagesTurnAndEnd) {
     QTest::keyClick(&tips, Qt::Key_Left);
     QTest::keyClick(&tips, Qt::Key_Left);
     EXPECT_EQ(tips.page(), 0);
+}
+
+using FirstStart = ProgramFixture;
+
+TEST_F(FirstStart, TheFirstTipAsksForTheRulesAndAllAreChosen) {
+    const auto first = preferences.profileSelected();
+    TipsWindow tips(true, nullptr);
+    tips.show();
+    auto &gentle = *tips.findChild<QRadioButton *>("firstRulesGentle");
+    auto &all = *tips.findChild<QRadioButton *>("firstRulesAll");
+    EXPECT_FALSE(gentle.isVisible()) << "only a first start asks";
+    tips.askForRules([&](bool chosen) { program.chooseFirstRules(chosen); });
+    EXPECT_TRUE(gentle.isVisible());
+    EXPECT_TRUE(all.isChecked());
+    EXPECT_EQ(preferences.profileSelected(), first);
+    gentle.click();
+    EXPECT_EQ(preferences.profileName(), u"Gentle");
+    EXPECT_EQ(preferences.state("udProtectStructure"), storage::PropertyValue(1));
+    all.click();
+    for (const auto &[key, value] : first) {
+        EXPECT_EQ(*preferences.profileSelected().find(key), value) << key;
+    }
+    gentle.click();
+    EXPECT_EQ(preferences.profilesItems().size(), 2u) << "it is added once";
+    tips.setPage(1);
+    EXPECT_FALSE(gentle.isVisible());
 }
 
 TEST(Strings, DecideTheDirectionOfTheLayout) {

@@ -1,0 +1,55 @@
+// The table that says which profile cleans which copy: its rows, and the fields of the selected
+// one.
+//
+// It shows the rules in the settings store and writes each edit there. Main thread only.
+#pragma once
+
+#include "clipboard/CopyTable.h"
+#include "shell/FindReplaceTable.h"
+#include "storage/SettingsStore.h"
+
+#include <QComboBox>
+#include <functional>
+#include <vector>
+
+class QFormLayout;
+
+namespace nerlo::shell {
+
+class Program;
+
+class CopyTableView final : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit CopyTableView(Program &program);
+
+    // Offers the profiles that there are now.
+    void profilesChanged();
+    QString searchTexts() const;
+
+  private:
+    void load();
+    void showRow();
+    void describeRow(int row);
+    QString conditionsOf(const clipboard::CopyRule &rule) const;
+    void edit(const std::function<void(clipboard::CopyRule &)> &change);
+    void store();
+    void move(int from, int to);
+    QLineEdit *addField(QFormLayout &form, const char *name, const char *key,
+                        std::string clipboard::CopyRule::*member);
+    QComboBox *addChoice(QFormLayout &form, const char *name, const char *key);
+
+    Program &program_;
+    std::vector<clipboard::CopyRule> rules_;
+    RuleList *list_;
+    std::vector<std::pair<QLineEdit *, std::string clipboard::CopyRule::*>> fields_;
+    QComboBox *looks_ = nullptr;
+    QComboBox *profile_ = nullptr;
+    std::vector<QPushButton *> ofRow_; // of use with a selected row
+    bool loading_ = false;             // changes come from the store, not from the user
+    bool storing_ = false;
+    storage::SettingsStore::Observation observation_;
+};
+
+} // namespace nerlo::shell
