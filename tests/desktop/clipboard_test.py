@@ -6,6 +6,7 @@ the clipboard owner that misbehaves on request. NERLO_IDLE_SECONDS: how long the
 """
 import contextlib
 import os
+import plistlib
 import random
 import shutil
 import signal
@@ -152,6 +153,44 @@ class ClipboardTest(unittest.TestCase):
                             with open(picture, "rb") as file:
                                 expected = file.read()
                         self.assertEqual(paste(kind), expected)
+
+    def test_the_table_decides_by_what_programs_offer(self):
+        """With the formats that real programs were seen to offer."""
+        page = os.path.join(os.environ["NERLO_SESSION_DIR"], "page")
+        with open(page, "wb") as file:
+            file.write("http://docs.example.org:8765/page.html".encode("utf-16-le"))
+        link, cells = (f'application/x-openoffice-{kind.lower()};windows_formatname="{kind}"=x'
+                       for kind in ("Link", "Sylk"))
+        code = "int main() {\n    return  0;\n}\n"
+        programs = {  # more formats, the text, where it is decided, and what becomes of it
+            "chromium": (["chromium/x-source-url=http://docs.example.org/page.html",
+                          "text/html=<b>a</b>  b"], "a  b", "row 3", "a b"),
+            "firefox": (["text/_moz_htmlcontext=x", f"text/x-moz-url-priv=@{page}",
+                         "text/html=<b>a</b>  b"], "a  b", "row 3", "a b"),
+            "terminal": ([], "$ make  all\ncc  x", "row 4", "$ make  all\ncc  x"),
+            "editor": (["GTK_TEXT_BUFFER_CONTENTS=x"], code, "row 5", code),
+            # The one profile that such settings have does nothing.
+            "editor, prose": (["GTK_TEXT_BUFFER_CONTENTS=x"], "c  d", "no row", "c  d"),
+            "Writer": (["text/rtf=x", link], "a  b", "row 2", "a b"),
+            "Calc": (["text/html=x", link, cells], "a\t 1", "row 1", "a\t 1"),
+        }
+        rules = [{"format": "application/x-openoffice-sylk"},
+                 {"format": "application/x-openoffice-link", "profile": "gentle"},
+                 {"page": "example.org", "profile": "web"},
+                 {"looks": "terminal", "profile": "terminal"},
+                 {"looks": "code", "profile": "code"}]
+        folder = os.path.join(os.environ["XDG_CONFIG_HOME"], "nerlo-pro")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "defaults.plist"), "wb") as file:
+            plistlib.dump({"firstRunPreferences": True, "firstRunPreferencesProfiles": True,
+                           "firstRunTips": False, "updateReleaseNotes3_1": True,
+                           "copyTable": [dict(rule, checkbox=True) for rule in rules]}, file)
+        self.start_automatic()
+        for name, (more, text, row, result) in programs.items():
+            with self.subTest(name), owner(*more, f"UTF8_STRING={text}", f"text/plain={text}"):
+                wait_until(lambda: row in nerlo("--why").stdout, f"{name}: {row} decides")
+                wait_until(lambda: paste() == result.encode(), "the clipboard holds the result")
+                self.assertNotIn(text, nerlo("--why").stdout)
 
     def test_fifty_megabytes_do_not_hold_the_program_up(self):
         words = b"fifty megabytes of text with a gap fifty"
