@@ -6,7 +6,6 @@
 #include "text/Utf.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <span>
 #include <utility>
@@ -22,33 +21,30 @@ constexpr std::string_view anyTextFormat = "TEXT"; // in the encoding of the dec
 constexpr std::string_view plainText = "text/plain";
 
 // What a clean offers, best first.
-constexpr std::array<std::string_view, 4> ourFormats{"text/plain;charset=utf-8", utf8Format,
-                                                     plainText, latin1Format};
+constexpr std::string_view ourFormats[]{"text/plain;charset=utf-8", utf8Format, plainText,
+                                        latin1Format};
 
 // Browsers put text/x-moz-url-priv beside ordinary text, so only the whole name counts.
-constexpr std::array<std::string_view, 5> urlFormats{
+constexpr std::string_view urlFormats[]{
     "text/uri-list", "text/x-moz-url", "x-special/gnome-copied-files",
     "x-special/mate-copied-files", "application/x-kde-cutselection"};
 
 // Set by password managers; the last two come from other systems through shared clipboards.
-constexpr std::array<std::string_view, 3> secretFormats{
-    "x-kde-passwordManagerHint", "Clipboard Viewer Ignore",
-    "ExcludeClipboardContentFromMonitorProcessing"};
+constexpr std::string_view secretFormats[]{"x-kde-passwordManagerHint", "Clipboard Viewer Ignore",
+                                           "ExcludeClipboardContentFromMonitorProcessing"};
 constexpr std::string_view clipboardState = "CLIPBOARD_STATE";
 
 // The page behind a copy: an address in UTF-16 and in UTF-8, and formats whose head has one.
 constexpr std::string_view mozillaPage = "text/x-moz-url-priv";
 constexpr std::string_view chromiumPage = "chromium/x-source-url";
-constexpr std::array<std::string_view, 4> pageNames{mozillaPage, chromiumPage, "HTML Format",
-                                                    "text/html"};
+constexpr std::string_view pageNames[]{mozillaPage, chromiumPage, "HTML Format", "text/html"};
 constexpr std::string_view headLine = "SourceURL:";
 constexpr std::size_t headSize = 4096; // bytes; more than any head of a fragment has
 
-constexpr std::array<std::string_view, 6> textLike{"html", "rtf",  "richtext",
-                                                   "xml",  "json", "STRING"};
-constexpr std::array<std::string_view, 12> pictureLike{"image/", "video/",     "audio/", "bitmap",
-                                                       "pixmap", "metafile",   "emf",    "wmf",
-                                                       "pdf",    "postscript", "png",    "svg"};
+constexpr std::string_view textLike[]{"html", "rtf", "richtext", "xml", "json", "STRING"};
+constexpr std::string_view pictureLike[]{"image/", "video/",     "audio/", "bitmap",
+                                         "pixmap", "metafile",   "emf",    "wmf",
+                                         "pdf",    "postscript", "png",    "svg"};
 
 std::string_view trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(" \t");

@@ -12,7 +12,7 @@ struct QuoteStyle {
 };
 
 // At the index that the settings store. A space in a mark is part of it.
-inline constexpr std::array<QuoteStyle, 10> singleQuoteStyles{{
+inline constexpr auto singleQuoteStyles = std::to_array<QuoteStyle>({
     {u"\u2018", u"\u2019"},   // 0 ‘…’
     {u"\u2019", u"\u2019"},   // 1 ’…’
     {u"\u201A", u"\u2018"},   // 2 ‚…‘
@@ -23,10 +23,10 @@ inline constexpr std::array<QuoteStyle, 10> singleQuoteStyles{{
     {u"\u300E", u"\u300F"},   // 7 『…』
     {u"\u2019", u"\u2018"},   // 8 ’…‘
     {u"'", u"'"},             // 9 '…'
-}};
+});
 
 // There is no counterpart of single style 8.
-inline constexpr std::array<QuoteStyle, 9> doubleQuoteStyles{{
+inline constexpr auto doubleQuoteStyles = std::to_array<QuoteStyle>({
     {u"\u201C", u"\u201D"},   // 0 “…”
     {u"\u201D", u"\u201D"},   // 1 ”…”
     {u"\u201E", u"\u201C"},   // 2 „…“
@@ -36,11 +36,11 @@ inline constexpr std::array<QuoteStyle, 9> doubleQuoteStyles{{
     {u"\u00BB", u"\u00AB"},   // 6 »…«
     {u"\u300C", u"\u300D"},   // 7 「…」
     {u"\"", u"\""},           // 8 "…"
-}};
+});
 
 // The order in which all styles are converted: a spaced mark comes before its bare mark, which
 // would otherwise be taken out of it.
-inline constexpr std::array<QuoteStyle, 10> singleQuoteStylesAll{{
+inline constexpr auto singleQuoteStylesAll = std::to_array<QuoteStyle>({
     {u"\u2039 ", u" \u203A"},
     {u"\u300E", u"\u300F"},
     {u"\u2018", u"\u2019"},
@@ -51,9 +51,9 @@ inline constexpr std::array<QuoteStyle, 10> singleQuoteStylesAll{{
     {u"\u203A", u"\u2039"},
     {u"\u2019", u"\u2018"},
     {u"'", u"'"},
-}};
+});
 
-inline constexpr std::array<QuoteStyle, 9> doubleQuoteStylesAll{{
+inline constexpr auto doubleQuoteStylesAll = std::to_array<QuoteStyle>({
     {u"\u00AB ", u" \u00BB"},
     {u"\u300C", u"\u300D"},
     {u"\u201C", u"\u201D"},
@@ -63,6 +63,6 @@ inline constexpr std::array<QuoteStyle, 9> doubleQuoteStylesAll{{
     {u"\u00AB", u"\u00BB"},
     {u"\u00BB", u"\u00AB"},
     {u"\"", u"\""},
-}};
+});
 
 } // namespace nerlo::engine

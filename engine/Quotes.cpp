@@ -143,6 +143,38 @@ std::u16string replaceClosing(std::u16string text, std::u16string_view find,
     return replaceWhere(std::move(text), find, replacement, closes);
 }
 
+// All units of the styles' marks but the space, which stands in almost every text.
+template <class Visit>
+constexpr void forEachUnit(Styles styles, Visit visit) {
+    for (const QuoteStyle &style : styles) {
+        for (const std::u16string_view mark : {style.left, style.right}) {
+            for (const char16_t unit : mark) {
+                if (unit != u' ') {
+                    visit(unit);
+                }
+            }
+        }
+    }
+}
+
+// The units of all marks, each once.
+struct MarkUnits {
+    constexpr MarkUnits() {
+        for (const Styles styles : {Styles(singleQuoteStyles), Styles(doubleQuoteStyles)}) {
+            forEachUnit(styles, [this](char16_t unit) {
+                if (all().find(unit) == std::u16string_view::npos) {
+                    units.at(count++) = unit;
+                }
+            });
+        }
+    }
+    constexpr std::u16string_view all() const { return {units.data(), count}; }
+
+    std::array<char16_t, 32> units{}; // MarkPresence has a bit for each
+    std::size_t count = 0;
+};
+constexpr MarkUnits markUnits;
+
 // Which units of quotation marks a text holds. There are many conversion steps, but a text has few
 // kinds of marks; a step whose mark does not occur is left out.
 class MarkPresence {
@@ -174,11 +206,10 @@ class MarkPresence {
     }
 
   private:
-    static constexpr std::u16string_view allUnits =
-        u"'\"\u00AB\u00BB\u2018\u2019\u201A\u201C\u201D\u201E\u2039\u203A\u300C\u300D\u300E\u300F";
-    static constexpr std::uint32_t everything = (1u << allUnits.size()) - 1;
+    static constexpr std::u16string_view allUnits = markUnits.all();
+    static constexpr std::uint32_t everything = ~std::uint32_t{0} >> (32 - allUnits.size());
 
-    // The space of a spaced mark has no bit: almost every text holds one.
+    // The space of a spaced mark has no bit.
     static std::uint32_t bitOf(char16_t unit) {
         const std::size_t at = allUnits.find(unit);
         return at == std::u16string_view::npos ? 0 : 1u << at;
@@ -272,15 +303,11 @@ std::u16string convert(std::u16string text, const QuoteStyle *find, const QuoteS
 // nothing of it is left but the space; removing all marks is removing their units.
 constexpr text::UnitSet unitsOf(Styles styles) {
     text::UnitSet units;
-    for (const QuoteStyle &style : styles) {
-        for (const std::u16string_view mark : {style.left, style.right}) {
-            for (const char16_t unit : mark) {
-                if (unit != u' ' && !units.contains(unit)) {
-                    units.add(unit, unit);
-                }
-            }
+    forEachUnit(styles, [&](char16_t unit) {
+        if (!units.contains(unit)) {
+            units.add(unit, unit);
         }
-    }
+    });
     return units;
 }
 
