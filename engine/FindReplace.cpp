@@ -93,13 +93,8 @@ class UserPattern {
     std::optional<Regex> regex_;
 };
 
-struct Rule {
-    std::u16string find;
-    std::u16string replace;
-};
-
 // Nothing for a rule that is switched off, or is no rule at all.
-std::optional<Rule> activeRule(const storage::PropertyValue &item) {
+std::optional<NumberedRule> activeRule(const storage::PropertyValue &item, std::size_t number) {
     const auto *record = item.as<storage::PropertyDictionary>();
     const auto *checkbox = record ? record->find("checkbox") : nullptr;
     if (!checkbox || !checkbox->boolValue()) {
@@ -109,7 +104,7 @@ std::optional<Rule> activeRule(const storage::PropertyValue &item) {
         const auto *value = record->find(key);
         return value ? value->stringValue() : std::u16string();
     };
-    return Rule{text("find"), text("replace")};
+    return NumberedRule{number, text("find"), text("replace")};
 }
 
 // Begins with a token whose matches are not looked for first.
@@ -128,18 +123,6 @@ std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16stri
     return pattern.replaceMatches(std::move(text), replacement.substr(deleteToken.size()));
 }
 
-std::u16string applyRule(std::u16string text, const Rule &rule, std::size_t number,
-                         CleaningReport *report) {
-    std::u16string_view replacement = rule.replace;
-    const bool untested = isUntested(replacement);
-    if (!untested && !startsWithToken(replacement)) {
-        return replaceString(std::move(text), rule.find, replacement);
-    }
-    replacement.remove_prefix(untested ? 1 : 0);
-    return insertYourPatternForFindReplace(std::move(text), replacement,
-                                           {rule.find, number, report}, !untested);
-}
-
 } // namespace
 
 std::u16string replaceString(std::u16string text, std::u16string_view find,
@@ -154,19 +137,34 @@ std::u16string insertYourPattern(std::u16string text, std::u16string_view patter
                      : own.replaceMatches(std::move(text), u"");
 }
 
-std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options,
-                                          CleaningReport *report) {
+std::u16string applyRule(std::u16string text, const NumberedRule &rule, CleaningReport *report) {
+    std::u16string_view replacement = rule.replace;
+    const bool untested = isUntested(replacement);
+    if (!untested && !startsWithToken(replacement)) {
+        return replaceString(std::move(text), rule.find, replacement);
+    }
+    replacement.remove_prefix(untested ? 1 : 0);
+    return insertYourPatternForFindReplace(std::move(text), replacement,
+                                           {rule.find, rule.number, report}, !untested);
+}
+
+std::vector<NumberedRule> activeRules(const CleaningOptions &options) {
     const auto &list = options.udOnlyOneProfile ? options.udFindAndReplaceItems
                                                 : options.udFindAndReplaceItemsProfile;
     const auto *items = list ? list->as<storage::PropertyArray>() : nullptr;
-    if (!items) {
-        return text;
-    }
-    for (std::size_t number = 1; const storage::PropertyValue &item : *items) {
-        if (const auto rule = activeRule(item)) {
-            text = applyRule(std::move(text), *rule, number, report);
+    std::vector<NumberedRule> rules;
+    for (std::size_t at = 0; items && at < items->size(); ++at) {
+        if (auto rule = activeRule((*items)[at], at + 1)) {
+            rules.push_back(std::move(*rule));
         }
-        ++number;
+    }
+    return rules;
+}
+
+std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options,
+                                          CleaningReport *report) {
+    for (const NumberedRule &rule : activeRules(options)) {
+        text = applyRule(std::move(text), rule, report);
     }
     return text;
 }

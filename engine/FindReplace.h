@@ -10,6 +10,7 @@
 #include "engine/CleaningReport.h"
 #include "text/Range.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -27,7 +28,19 @@ std::u16string replaceString(std::u16string text, std::u16string_view find,
 std::u16string insertYourPattern(std::u16string text, std::u16string_view pattern,
                                  std::int64_t mode, CleaningReport *report = nullptr);
 
-// Applies the active list of rules, in order.
+// A rule of find and replace.
+struct NumberedRule {
+    std::size_t number; // in the list, from 1
+    std::u16string find;
+    std::u16string replace; // may begin with a token that makes `find` a pattern
+};
+
+// The rules of the active list that are switched on, in order.
+std::vector<NumberedRule> activeRules(const CleaningOptions &options);
+std::u16string applyRule(std::u16string text, const NumberedRule &rule,
+                         CleaningReport *report = nullptr);
+
+// Applies all of these.
 std::u16string replaceStringInFindReplace(std::u16string text, const CleaningOptions &options,
                                           CleaningReport *report = nullptr);
 

@@ -1,0 +1,200 @@
+#include "engine/Trace.h"
+
+#include "engine/FindReplace.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace nerlo::engine {
+
+namespace {
+
+using text::Change;
+using text::Range;
+
+constexpr std::size_t everything = std::u16string::npos;
+
+// A direction through a step: from its input to its output, or back.
+struct Direction {
+    Range Change::*from;
+    Range Change::*to;
+};
+constexpr Direction forward{&Change::before, &Change::after};
+constexpr Direction back{&Change::after, &Change::before};
+
+using Places = std::span<const TracedChange>;
+
+// The place, seen from the other side of a step. What the step changed goes with it if it lies in
+// the place; if it only overlaps, the whole change belongs to the place.
+Range carried(Range place, Places changes, Direction way) {
+    const auto from = [&](const TracedChange &one) { return one.change.*way.from; };
+    const auto to = [&](const TracedChange &one) { return one.change.*way.to; };
+    const auto first = std::ranges::partition_point(
+        changes, [&](const TracedChange &one) { return from(one).end <= place.begin; });
+    const bool inside = first != changes.end() && from(*first).begin < place.begin;
+    Range result;
+    if (inside) {
+        result.begin = to(*first).begin;
+    } else {
+        const auto passed = first == changes.begin() ? nullptr : &*std::prev(first);
+        result.begin = passed ? place.begin + to(*passed).end - from(*passed).end : place.begin;
+    }
+    if (place.begin == place.end) {
+        result.end = inside ? to(*first).end : result.begin;
+        return result;
+    }
+    const auto behind = std::ranges::partition_point(
+        changes, [&](const TracedChange &one) { return from(one).begin < place.end; });
+    if (behind == changes.begin()) {
+        result.end = place.end;
+    } else if (const TracedChange &last = *std::prev(behind); from(last).end >= place.end) {
+        result.end = to(last).end;
+    } else {
+        result.end = place.end + to(last).end - from(last).end;
+    }
+    return result;
+}
+
+// The first place of a text that may touch a change that is not listed, seen from the other side of
+// a step.
+std::size_t carriedEnd(std::size_t known, Places changes, Direction way) {
+    if (known == everything) {
+        return everything;
+    }
+    const auto behind = std::ranges::partition_point(
+        changes, [&](const TracedChange &one) { return (one.change.*way.from).begin < known; });
+    if (behind == changes.begin()) {
+        return known;
+    }
+    const Change &last = std::prev(behind)->change;
+    return (last.*way.from).end >= known ? (last.*way.to).begin
+                                         : known + (last.*way.to).end - (last.*way.from).end;
+}
+
+std::u16string beginningOf(std::u16string_view text, Range place) {
+    text = text.substr(place.begin, place.end - place.begin);
+    std::size_t size = std::min(text.size(), tracedUnits);
+    if (size < text.size() && (text[size - 1] & 0xFC00) == 0xD800) {
+        ++size;
+    }
+    return std::u16string(text.substr(0, size));
+}
+
+class Tracer {
+  public:
+    Tracer(std::u16string text, std::size_t mostPlaces)
+        : mostPlaces_(mostPlaces) {
+        trace_.text = std::move(text);
+    }
+
+    // `run` gives the text as it is after this step.
+    template <class Run>
+    void step(const Operation &operation, std::size_t rule, Run run) {
+        const std::u16string before = trace_.text;
+        trace_.text = run(std::move(trace_.text));
+        TraceStep &step = trace_.steps.emplace_back();
+        step.operation = &operation;
+        step.rule = rule;
+        if (trace_.text != before) {
+            list(step, before);
+        }
+        known_.push_back(knownEnd_);
+        knownEnd_ = carriedEnd(knownEnd_, step.places, forward);
+    }
+
+    Trace take() {
+        carryToSource();
+        carryToResult();
+        return std::move(trace_);
+    }
+
+  private:
+    void list(TraceStep &step, std::u16string_view before) {
+        const text::Difference difference = text::differenceOf(before, trace_.text, mostPlaces_);
+        step.changes = difference.count;
+        for (const Change &change : difference.changes) {
+            if (change.before.end >= knownEnd_) {
+                knownEnd_ = std::min(knownEnd_, change.before.begin);
+                return;
+            }
+            step.places.push_back({change,
+                                   {},
+                                   {},
+                                   beginningOf(before, change.before),
+                                   beginningOf(trace_.text, change.after)});
+        }
+        if (step.changes > step.places.size()) {
+            const auto &places = step.places;
+            knownEnd_ =
+                std::min(knownEnd_, places.empty() ? 0 : places.back().change.before.end + 1);
+        }
+    }
+
+    void carryToSource() {
+        for (std::size_t at = 0; at < trace_.steps.size(); ++at) {
+            for (TracedChange &place : trace_.steps[at].places) {
+                place.source = place.change.before;
+                for (std::size_t earlier = at; earlier-- > 0;) {
+                    place.source = carried(place.source, trace_.steps[earlier].places, back);
+                }
+            }
+        }
+    }
+
+    // Drops the places that a later step, which did not list all it changed, hides.
+    void carryToResult() {
+        std::size_t known = knownEnd_;
+        for (std::size_t at = trace_.steps.size(); at-- > 0;) {
+            std::vector<TracedChange> &places = trace_.steps[at].places;
+            const std::size_t knownBefore = carriedEnd(known, places, back);
+            while (!places.empty() && places.back().change.after.end >= known) {
+                places.pop_back();
+            }
+            for (TracedChange &place : places) {
+                place.result = place.change.after;
+                for (std::size_t later = at + 1; later < trace_.steps.size(); ++later) {
+                    place.result = carried(place.result, trace_.steps[later].places, forward);
+                }
+            }
+            known = std::min(known_[at], knownBefore);
+        }
+    }
+
+    std::size_t mostPlaces_;
+    Trace trace_;
+    // As carriedEnd(): of the present text, and of what each step was given.
+    std::size_t knownEnd_ = everything;
+    std::vector<std::size_t> known_;
+};
+
+void traceStep(Tracer &tracer, const Operation &operation, const CleaningContext &context) {
+    if (operation.index != findReplaceOperation) {
+        tracer.step(operation, 0,
+                    [&](std::u16string text) { return operation.run(std::move(text), context); });
+        return;
+    }
+    for (const NumberedRule &rule : activeRules(context.options)) {
+        tracer.step(operation, rule.number, [&](std::u16string text) {
+            return applyRule(std::move(text), rule, context.report);
+        });
+    }
+}
+
+} // namespace
+
+Trace tracePipeline(std::u16string text, const CleaningContext &context, std::size_t mostPlaces) {
+    Tracer tracer(std::move(text), mostPlaces);
+    for (const Operation *const operation : operationsSwitchedOn(context.options)) {
+        traceStep(tracer, *operation, context);
+    }
+    return tracer.take();
+}
+
+Trace traceOperation(const Operation &operation, std::u16string text,
+                     const CleaningContext &context, std::size_t mostPlaces) {
+    Tracer tracer(std::move(text), mostPlaces);
+    traceStep(tracer, operation, context);
+    return tracer.take();
+}
+
+} // namespace nerlo::engine
