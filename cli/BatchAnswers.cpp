@@ -1,5 +1,6 @@
 #include "cli/BatchAnswers.h"
 
+#include "cli/Explain.h"
 #include "cli/JsonOptions.h"
 #include "cli/JsonText.h"
 #include "cli/LinkRules.h"
@@ -166,8 +167,31 @@ std::string localeOf(const json &value) {
     return *id;
 }
 
+bool isSwitchedOn(const json *value, const char *name) {
+    if (value && !value->is_boolean()) {
+        throw BadRequest('"' + std::string(name) + "\" is neither true nor false");
+    }
+    return value && value->get<bool>();
+}
+
+void refuseFailures(const engine::CleaningReport &report) {
+    if (!report.empty()) {
+        throw BadRequest(messageOf(report));
+    }
+}
+
+std::string explainedResult(const std::u16string &text, const engine::Operation *operation,
+                            const engine::CleaningContext &context) {
+    const engine::Trace trace =
+        operation ? engine::traceOperation(*operation, text, context, explainedPlaces)
+                  : engine::tracePipeline(text, context, explainedPlaces);
+    refuseFailures(*context.report);
+    return "\"text\":" + jsonOfText(trace.text) + ",\"explain\":" + explainJson(text, trace);
+}
+
 void checkMembers(const json &request) {
-    constexpr std::string_view known[] = {"id", "text", "options", "operation", "locale"};
+    constexpr std::string_view known[] = {"id",        "text",   "options",
+                                          "operation", "locale", "explain"};
     for (const auto &[name, value] : request.items()) {
         if (std::find(std::begin(known), std::end(known), name) == std::end(known)) {
             throw BadRequest("unknown field " + jsonOfText(textOfJson(name)));
@@ -223,12 +247,14 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     engine::CleaningReport report;
     const engine::CleaningContext context{
         .options = own ? ownOptions : defaults_, .locale = localeId, .report = &report};
+    const bool explained = isSwitchedOn(memberOf(parsed, "explain"), "explain");
     parsed = nullptr; // a long text need not be held twice
+    if (explained) {
+        return explainedResult(content, operation, context);
+    }
     content = operation ? engine::runOperation(operation->index, std::move(content), context)
                         : engine::runPipeline(std::move(content), context);
-    if (!report.empty()) {
-        throw BadRequest(messageOf(report));
-    }
+    refuseFailures(report);
     return "\"text\":" + jsonOfText(content);
 }
 

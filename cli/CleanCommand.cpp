@@ -1,16 +1,20 @@
 // nerlo clean: files or standard input in, clean text out.
 #include "cli/Commands.h"
 #include "cli/CommonArguments.h"
+#include "cli/Explain.h"
 #include "cli/Input.h"
+#include "cli/JsonText.h"
 #include "cli/LinkRules.h"
 #include "cli/Output.h"
 #include "cli/PatternFailures.h"
 #include "cli/Progress.h"
+#include "cli/Rewriting.h"
 #include "engine/Operations.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Formatter.hpp>
 
+#include <cstdio>
 #include <memory>
 #include <utility>
 
@@ -23,6 +27,7 @@ struct CleanArguments {
     OptionArguments options;
     std::string locale;
     bool inPlace = false;
+    std::string explain; // "table" or "json"; empty when not given
     std::vector<std::string> files;
 };
 
@@ -33,6 +38,16 @@ const engine::Operation *operationOf(const std::string &nameOrIndex) {
                       "unknown operation \"" + nameOrIndex + "\"; `nerlo operations` lists them");
     }
     return operation;
+}
+
+constexpr const char *asTable = "table";
+constexpr const char *asJson = "json";
+
+void checkExplain(const CleanArguments &arguments) {
+    if (!arguments.explain.empty() && arguments.explain != asTable && arguments.explain != asJson) {
+        throw Failure(ExitStatus::unusableArguments,
+                      "--explain=" + arguments.explain + ": it is table or json");
+    }
 }
 
 void checkInPlace(const CleanArguments &arguments) {
@@ -63,16 +78,46 @@ std::string cleanPieces(TextReader &reader, const engine::Operation &operation,
     return clean;
 }
 
+// Nothing of this is text that was not asked for: the changes are what --explain is there to show.
+void explain(const std::string &file, std::u16string_view source, const engine::Trace &trace,
+             bool json) {
+    std::string told;
+    if (json) {
+        told = "{\"file\":" + jsonOfName(file) + ",\"steps\":" + explainJson(source, trace) + "}\n";
+    } else {
+        told = withoutControls(nameOf(file)) + ":\n" + explainTable(source, trace);
+    }
+    // If this fails there is nowhere to report it.
+    std::fwrite(told.data(), 1, told.size(), stderr);
+}
+
+CleanText cleanAndExplain(const std::string &file, TextReader &reader,
+                          const engine::Operation *operation, engine::CleaningContext context,
+                          bool json) {
+    engine::CleaningReport report;
+    context.report = &report;
+    const std::u16string source = reader.readAll();
+    engine::Trace trace = operation
+                              ? engine::traceOperation(*operation, source, context, explainedPlaces)
+                              : engine::tracePipeline(source, context, explainedPlaces);
+    if (!report.empty()) {
+        throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + messageOf(report));
+    }
+    explain(file, source, trace, json);
+    return std::move(trace.text);
+}
+
 // `name` is what messages call the text.
 CleanText cleanText(const std::string &name, TextReader &reader, const engine::Operation *operation,
                     engine::CleaningContext context) {
-    if (operation && operation->inPieces && operation->inPieces(context.options)) {
+    if (operation && !context.options.udProtectStructure && operation->inPieces &&
+        operation->inPieces(context.options)) {
         return cleanPieces(reader, *operation, context);
     }
     engine::CleaningReport report;
     context.report = &report;
     std::u16string text = reader.readAll();
-    text = operation ? operation->run(std::move(text), context)
+    text = operation ? engine::runOperation(operation->index, std::move(text), context)
                      : engine::runPipeline(std::move(text), context);
     if (!report.empty()) {
         throw Failure(ExitStatus::ioFailed, name + ": " + messageOf(report));
@@ -80,19 +125,8 @@ CleanText cleanText(const std::string &name, TextReader &reader, const engine::O
     return text;
 }
 
-// A file keeps its byte order mark and, if it had one, a line break at its end, which is then of
-// the kind that the clean text has.
-void rewrite(const std::string &file, const TextReader &reader, CleanText text) {
-    std::string ending;
-    if (!reader.finalBreak().empty() && !endsWithBreak(text)) {
-        ending = lastBreak(text).empty() ? reader.finalBreak() : lastBreak(text);
-    }
-    const CleanText parts[] = {std::string(reader.byteOrderMark() ? "\xEF\xBB\xBF" : ""),
-                               std::move(text), std::move(ending)};
-    replaceFile(file, parts);
-}
-
 ExitStatus runClean(const CleanArguments &arguments) {
+    checkExplain(arguments);
     checkInPlace(arguments);
     const engine::Operation *operation =
         arguments.operation.empty() ? nullptr : operationOf(arguments.operation);
@@ -112,7 +146,10 @@ ExitStatus runClean(const CleanArguments &arguments) {
     for (const std::string &file : files) {
         try {
             TextReader reader(file, progress);
-            CleanText text = cleanText(nameOf(file), reader, operation, context);
+            CleanText text = arguments.explain.empty()
+                                 ? cleanText(nameOf(file), reader, operation, context)
+                                 : cleanAndExplain(file, reader, operation, context,
+                                                   arguments.explain == asJson);
             progress.addDone(reader.bytes());
             if (arguments.inPlace) {
                 rewrite(file, reader, std::move(text));
@@ -155,6 +192,7 @@ void addClean(CLI::App &app, ExitStatus &status) {
         "  nerlo clean letter.txt > clean.txt\n"
         "  xclip -o -sel c | nerlo clean | xclip -sel c\n"
         "  nerlo clean --operation change-case --set udChangeCaseOption=3 --in-place *.txt\n"
+        "  nerlo clean --explain letter.txt 2>&1 >clean.txt | less\n"
         "\n"
         "Exit status: 0 done; 1 an input or output failed, with a message that names it, and for\n"
         "invalid UTF-8 the offset of the first bad byte, counted from 0, or a rule of yours was\n"
@@ -168,6 +206,8 @@ void addClean(CLI::App &app, ExitStatus &status) {
     addLocale(*command, arguments->locale);
     command->add_flag("-i,--in-place", arguments->inPlace,
                       "Rewrite each file that changes; one that fails stays as it was");
+    command->add_flag("--explain{table}", arguments->explain,
+                      "Tell on standard error what each step changed, as a table or =json");
     addFiles(*command, arguments->files);
     command->callback([arguments, &status] { status = runClean(*arguments); });
 }

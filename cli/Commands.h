@@ -13,6 +13,7 @@ class App;
 namespace nerlo::cli {
 
 void addClean(CLI::App &app, ExitStatus &status);
+void addCheck(CLI::App &app, ExitStatus &status);
 void addCount(CLI::App &app, ExitStatus &status);
 void addBatch(CLI::App &app, ExitStatus &status);
 void addOperations(CLI::App &app, ExitStatus &status);

@@ -132,4 +132,9 @@ std::string jsonOfText(std::u16string_view text) {
     }
 }
 
+std::string jsonOfName(const std::string &bytes) {
+    using nlohmann::json;
+    return json(bytes).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
 } // namespace nerlo::cli

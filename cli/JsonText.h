@@ -15,5 +15,7 @@ std::u16string textOfJson(std::string_view string);
 
 // A JSON string in UTF-8, with quotes; unpaired surrogates are escaped.
 std::string jsonOfText(std::u16string_view text);
+// The same for bytes, such as a file's name: what is not UTF-8 in them becomes U+FFFD.
+std::string jsonOfName(const std::string &bytes);
 
 } // namespace nerlo::cli

@@ -14,6 +14,31 @@ namespace nerlo::text {
 
 namespace {
 
+// Units at the end of both texts that are the same, and not already so at their beginning.
+std::size_t sameAtEnd(std::u16string_view before, std::u16string_view after) {
+    const auto begin = std::ranges::mismatch(before, after).in1 - before.begin();
+    before.remove_prefix(static_cast<std::size_t>(begin));
+    after.remove_prefix(static_cast<std::size_t>(begin));
+    const auto same = std::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend());
+    return static_cast<std::size_t>(same.first - before.rbegin());
+}
+
+// Without what both sides begin or end with.
+Change trimmed(Change change, std::u16string_view before, std::u16string_view after) {
+    const auto partOf = [](std::u16string_view text, Range range) {
+        return text.substr(range.begin, range.end - range.begin);
+    };
+    const auto same =
+        std::ranges::mismatch(partOf(before, change.before), partOf(after, change.after));
+    const auto size = same.in1 - partOf(before, change.before).begin();
+    change.before.begin += static_cast<std::size_t>(size);
+    change.after.begin += static_cast<std::size_t>(size);
+    const std::size_t atEnd = sameAtEnd(partOf(before, change.before), partOf(after, change.after));
+    change.before.end -= atEnd;
+    change.after.end -= atEnd;
+    return change;
+}
+
 // Joins what touches, keeps pairs of surrogates whole, counts, and lists the first changes.
 class ChangeList {
   public:
@@ -24,10 +49,7 @@ class ChangeList {
 
     // In order; what lies between two changes is the same in both texts.
     void add(Change change) {
-        if (change.before.begin == change.before.end && change.after.begin == change.after.end) {
-            return;
-        }
-        if (!join(open_, change)) {
+        if (!isNothing(change) && !join(open_, change)) {
             settle();
             open_ = change;
         }
@@ -40,6 +62,10 @@ class ChangeList {
     }
 
   private:
+    static bool isNothing(const Change &change) {
+        return change.before.begin == change.before.end && change.after.begin == change.after.end;
+    }
+
     // Whether they touch; then `change` becomes a part of `other`.
     static bool join(std::optional<Change> &other, const Change &change) {
         if (!other || change.before.begin > other->before.end ||
@@ -62,8 +88,11 @@ class ChangeList {
         if (!open_) {
             return;
         }
-        Change change = *open_;
+        Change change = trimmed(*open_, before_, after_);
         open_.reset();
+        if (isNothing(change)) {
+            return;
+        }
         if (cutsPair(before_, change.before.begin) || cutsPair(after_, change.after.begin)) {
             --change.before.begin;
             --change.after.begin;
@@ -416,15 +445,6 @@ bool compareLines(std::u16string_view before, std::u16string_view after, const R
     };
     Comparison<std::uint32_t>(oldLines, newLines, forLines, inUnits).run();
     return true;
-}
-
-// Units at the end of both texts that are the same, and not already so at their beginning.
-std::size_t sameAtEnd(std::u16string_view before, std::u16string_view after) {
-    const auto begin = std::ranges::mismatch(before, after).in1 - before.begin();
-    before.remove_prefix(static_cast<std::size_t>(begin));
-    after.remove_prefix(static_cast<std::size_t>(begin));
-    const auto same = std::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend());
-    return static_cast<std::size_t>(same.first - before.rbegin());
 }
 
 } // namespace

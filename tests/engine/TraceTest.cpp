@@ -56,6 +56,7 @@ TEST(ADifference, IsWhatAPersonWouldMark) {
         {u"one two three four", u"onetwothreefour", "3: > 7: > 13: > "},
         {u"b\na\nc", u"a\nb\nc", "0:b\\u000A> 4:>b\\u000A "},
         {u"a\na\nb\na\n", u"a\nb\n", "2:a\\u000A> 6:a\\u000A> "},
+        {u"b\na\n", u"b\na", "3:\\u000A> "},
         // A pair of surrogates goes as a whole, also where it shares a half with the other.
         {u"x\U0001F389y", u"x\U0001F388y", "1:\\uD83C\\uDF89>\\uD83C\\uDF88 "},
         {u"", u"a", "0:>a "},

@@ -1,0 +1,135 @@
+#include "cli/ChangeWords.h"
+
+#include "cli/JsonText.h"
+#include "text/Characters.h"
+#include "text/Utf.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <utility>
+
+namespace nerlo::cli {
+
+namespace {
+
+constexpr std::size_t mostShown = 40; // characters
+
+bool isSecondOfPair(std::u16string_view text, std::size_t at) {
+    return at > 0 && (text[at] & 0xFC00) == 0xDC00 && (text[at - 1] & 0xFC00) == 0xD800;
+}
+
+// Letters, marks and symbols by their category, of which no font shows anything.
+constexpr std::array<std::pair<char32_t, char32_t>, 12> blanks{{{0x034F, 0x034F},
+                                                                {0x115F, 0x1160},
+                                                                {0x17B4, 0x17B5},
+                                                                {0x180B, 0x180F},
+                                                                {0x2800, 0x2800},
+                                                                {0x3164, 0x3164},
+                                                                {0xD800, 0xDFFF},
+                                                                {0xFE00, 0xFE0F},
+                                                                {0xFFA0, 0xFFA0},
+                                                                {0xFFFC, 0xFFFC},
+                                                                {0x1D159, 0x1D159},
+                                                                {0xE0100, 0xE01EF}}};
+
+bool canBeSeen(char32_t character) {
+    const bool blank = std::ranges::any_of(blanks, [&](const auto &range) {
+        return character >= range.first && character <= range.second;
+    });
+    return !blank && text::isShown(character);
+}
+
+std::string codeOf(char32_t character) {
+    char code[16];
+    std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(character));
+    return code;
+}
+
+std::string numberMember(const char *name, std::size_t number) {
+    return "\"" + std::string(name) + "\":" + std::to_string(number);
+}
+
+bool isCut(text::Range whole, std::u16string_view part) {
+    return whole.end - whole.begin != part.size();
+}
+
+} // namespace
+
+void TextPosition::moveTo(std::u16string_view text, std::size_t to) {
+    for (; offset < to; ++offset) {
+        const char16_t unit = text[offset];
+        const bool beforeFeed = offset + 1 < text.size() && text[offset + 1] == u'\n';
+        if (unit == u'\n' || (unit == u'\r' && !beforeFeed)) {
+            ++line;
+            lineByFeeds += unit == u'\n' ? 1 : 0;
+            column = 1;
+        } else if (!isSecondOfPair(text, offset)) {
+            ++column;
+        }
+    }
+}
+
+std::string shown(std::u16string_view text) {
+    std::string result;
+    bool quoted = false;
+    const auto seen = [&](std::size_t at) {
+        return at < text.size() && canBeSeen(text::characterAt(text, at));
+    };
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < text.size() && count <= mostShown; ++count) {
+        const char32_t character = text::characterAt(text, at);
+        const std::size_t size = text::sizeOf(character);
+        const bool inQuotes = seen(at) || (character == U' ' && quoted && seen(at + 1));
+        if (!inQuotes || !quoted) { // another part begins
+            result += quoted ? "\" " : result.empty() ? "" : " ";
+            result += inQuotes ? "\"" : "";
+        }
+        quoted = inQuotes;
+        if (count == mostShown) {
+            result += "\u2026";
+        } else {
+            result += inQuotes ? text::utf16ToUtf8(text.substr(at, size)) : codeOf(character);
+        }
+        at += size;
+    }
+    return result + (quoted ? "\"" : "");
+}
+
+std::string effectOf(const engine::TracedChange &change) {
+    if (change.added.empty()) {
+        return "removes " + shown(change.removed);
+    }
+    if (change.removed.empty()) {
+        return "adds " + shown(change.added);
+    }
+    return shown(change.removed) + " becomes " + shown(change.added);
+}
+
+std::string nameOf(const engine::TraceStep &step) {
+    std::string name(step.operation->name);
+    if (step.rule != 0) {
+        name += ", rule " + std::to_string(step.rule);
+    }
+    return name;
+}
+
+std::string jsonMembers(const engine::TraceStep &step) {
+    std::string members = "\"operation\":\"" + std::string(step.operation->name) + "\"";
+    if (step.rule != 0) {
+        members += "," + numberMember("rule", step.rule);
+    }
+    return members;
+}
+
+std::string jsonMembers(const engine::TracedChange &change, const TextPosition &begin,
+                        const TextPosition &end) {
+    const bool cut =
+        isCut(change.change.before, change.removed) || isCut(change.change.after, change.added);
+    return numberMember("line", begin.line) + "," + numberMember("column", begin.column) + "," +
+           numberMember("endLine", end.line) + "," + numberMember("endColumn", end.column) +
+           ",\"removed\":" + jsonOfText(change.removed) + ",\"added\":" + jsonOfText(change.added) +
+           (cut ? ",\"cut\":true" : "");
+}
+
+} // namespace nerlo::cli

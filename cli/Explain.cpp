@@ -1,0 +1,76 @@
+#include "cli/Explain.h"
+
+#include "cli/ChangeWords.h"
+#include "cli/JsonText.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace nerlo::cli {
+
+namespace {
+
+constexpr std::string_view stepHead = "step";
+constexpr std::string_view countHead = "changes";
+
+std::string padding(std::size_t size, std::size_t width) {
+    return std::string(width - std::min(size, width), ' ');
+}
+
+// "3:7  U+0020 U+0020 becomes U+0020"; nothing for a step that changed nothing.
+std::string firstOf(const engine::TraceStep &step, std::u16string_view source) {
+    if (step.places.empty()) {
+        return {};
+    }
+    TextPosition position;
+    position.moveTo(source, step.places.front().source.begin);
+    return std::to_string(position.line) + ":" + std::to_string(position.column) + "  " +
+           effectOf(step.places.front());
+}
+
+std::string placesJson(const engine::TraceStep &step, std::u16string_view source) {
+    std::string list;
+    TextPosition begin;
+    for (const engine::TracedChange &place : step.places) {
+        begin.moveTo(source, place.source.begin);
+        TextPosition end = begin;
+        end.moveTo(source, place.source.end);
+        list += (list.empty() ? "{" : ",{") + jsonMembers(place, begin, end) + "}";
+    }
+    return "[" + list + "]";
+}
+
+} // namespace
+
+std::string explainTable(std::u16string_view source, const engine::Trace &trace) {
+    std::vector<std::string> names;
+    std::size_t width = stepHead.size();
+    for (const engine::TraceStep &step : trace.steps) {
+        names.push_back(std::to_string(names.size() + 1) + " " + nameOf(step));
+        width = std::max(width, names.back().size());
+    }
+    std::string table = std::string(stepHead) + padding(stepHead.size(), width) + "  " +
+                        std::string(countHead) + "  first change\n";
+    for (std::size_t at = 0; at < trace.steps.size(); ++at) {
+        const std::string count = std::to_string(trace.steps[at].changes);
+        const std::string first = firstOf(trace.steps[at], source);
+        table += names[at] + padding(names[at].size(), width) + "  " +
+                 padding(count.size(), countHead.size()) + count + (first.empty() ? "" : "  ") +
+                 first + "\n";
+    }
+    return table;
+}
+
+std::string explainJson(std::u16string_view source, const engine::Trace &trace) {
+    std::string list;
+    for (const engine::TraceStep &step : trace.steps) {
+        list += (list.empty() ? "{" : ",{") + jsonMembers(step) + ",\"summary\":" +
+                jsonOfText(std::u16string(step.operation->summary.begin(),
+                                          step.operation->summary.end())) +
+                ",\"changes\":" + std::to_string(step.changes) +
+                ",\"places\":" + placesJson(step, source) + "}";
+    }
+    return "[" + list + "]";
+}
+
+} // namespace nerlo::cli
