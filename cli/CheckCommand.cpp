@@ -79,8 +79,7 @@ class OptionsByFile {
             if (!optionsFile.empty()) {
                 arguments.file = optionsFile;
             }
-            known->second.setAllBools(chosenOptions(arguments));
-            checkPatterns(known->second, nullptr);
+            known->second = cleaningOptions(arguments, nullptr);
         }
         return known->second;
     }
@@ -218,8 +217,8 @@ void addCheck(CLI::App &app, ExitStatus &status) {
         std::string(localeHelp) +
         "\n"
         "Examples:\n"
-        "  nerlo check --set udSort=off notes.txt || true\n"
-        "  nerlo check --format sarif letter.txt > findings.sarif || true\n"
+        "  nerlo check notes.txt\n"
+        "  nerlo check --format sarif letter.txt > findings.sarif\n"
         "\n"
         "Exit status: 0 nothing would change; 1 something would, or was with --fix, or an input\n"
         "failed, with a message that names it; 2 unusable arguments, or a pattern with an error\n"

@@ -4,7 +4,6 @@
 #include "cli/Explain.h"
 #include "cli/Input.h"
 #include "cli/JsonText.h"
-#include "cli/LinkRules.h"
 #include "cli/Output.h"
 #include "cli/PatternFailures.h"
 #include "cli/Progress.h"
@@ -130,12 +129,7 @@ ExitStatus runClean(const CleanArguments &arguments) {
     checkInPlace(arguments);
     const engine::Operation *operation =
         arguments.operation.empty() ? nullptr : operationOf(arguments.operation);
-    engine::CleaningOptions options;
-    options.setAllBools(chosenOptions(arguments.options));
-    checkPatterns(options, operation);
-    if (lacksLinkRules(options, operation)) {
-        addLinkRules(options);
-    }
+    const engine::CleaningOptions options = cleaningOptions(arguments.options, operation);
     const engine::CleaningContext context{options, arguments.locale};
 
     const std::vector<std::string> files =
@@ -192,7 +186,7 @@ void addClean(CLI::App &app, ExitStatus &status) {
         "  nerlo clean letter.txt > clean.txt\n"
         "  xclip -o -sel c | nerlo clean | xclip -sel c\n"
         "  nerlo clean --operation change-case --set udChangeCaseOption=3 --in-place *.txt\n"
-        "  nerlo clean --explain letter.txt 2>&1 >clean.txt | less\n"
+        "  nerlo clean --explain letter.txt > clean.txt 2> steps.txt\n"
         "\n"
         "Exit status: 0 done; 1 an input or output failed, with a message that names it, and for\n"
         "invalid UTF-8 the offset of the first bad byte, counted from 0, or a rule of yours was\n"

@@ -4,6 +4,8 @@
 #include "cli/Input.h"
 #include "cli/JsonOptions.h"
 #include "cli/JsonText.h"
+#include "cli/LinkRules.h"
+#include "cli/PatternFailures.h"
 #include "cli/Progress.h"
 #include "settings/ProfilesFile.h"
 #include "settings/ReadyProfiles.h"
@@ -192,6 +194,17 @@ PropertyDictionary chosenOptions(const OptionArguments &arguments) {
         arguments.file.empty() ? profileOptions(arguments.profile) : readOptions(arguments.file);
     for (const std::string &setting : arguments.settings) {
         applySetting(setting, options);
+    }
+    return options;
+}
+
+engine::CleaningOptions cleaningOptions(const OptionArguments &arguments,
+                                        const engine::Operation *operation) {
+    engine::CleaningOptions options;
+    options.setAllBools(chosenOptions(arguments));
+    checkPatterns(options, operation);
+    if (lacksLinkRules(options, operation)) {
+        addLinkRules(options);
     }
     return options;
 }

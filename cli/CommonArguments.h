@@ -1,6 +1,7 @@
 // Arguments that several commands share.
 #pragma once
 
+#include "engine/Operations.h"
 #include "settings/SettingsPaths.h"
 #include "storage/PropertyValue.h"
 
@@ -50,5 +51,10 @@ storage::PropertyDictionary defaultOptions();
 // that is no settings key, a value that does not suit its key and an unknown profile, ioFailed for
 // a file that cannot be read.
 storage::PropertyDictionary chosenOptions(const OptionArguments &arguments);
+
+// The same for a clean, with all that it needs: the full pipeline, or that one operation unless
+// null. Also throws Failure, unusableArguments, for a pattern that does not compile.
+engine::CleaningOptions cleaningOptions(const OptionArguments &arguments,
+                                        const engine::Operation *operation);
 
 } // namespace nerlo::cli

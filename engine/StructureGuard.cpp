@@ -337,20 +337,24 @@ std::u16string trimmed(const std::u16string &text, text::Range fixed) {
 
 } // namespace
 
-std::u16string runGuarded(std::u16string text, Steps steps, const CleaningContext &context,
-                          std::size_t pieceSize) {
+Steps guardedSteps(Steps steps) {
     const auto isWhole = [](const Operation *step) { return step->reach == Reach::whole; };
     const auto first = std::ranges::find_if_not(steps, isWhole);
-    const auto rest = std::find_if(first, steps.end(), isWhole);
-    text = runSteps(std::move(text), {steps.begin(), first}, context, pieceSize);
-    if (first != rest) {
-        Guard guard(text, {first, rest}, context, pieceSize);
+    return {first, std::find_if(first, steps.end(), isWhole)};
+}
+
+std::u16string runGuarded(std::u16string text, Steps steps, const CleaningContext &context,
+                          std::size_t pieceSize) {
+    const Steps guarded = guardedSteps(steps);
+    text = runSteps(std::move(text), {steps.begin(), guarded.begin()}, context, pieceSize);
+    if (!guarded.empty()) {
+        Guard guard(text, guarded, context, pieceSize);
         std::u16string result = guard.run();
-        const bool trims = std::any_of(
-            first, rest, [](const Operation *step) { return step->reach == Reach::textEnds; });
+        const bool trims = std::ranges::any_of(
+            guarded, [](const Operation *step) { return step->reach == Reach::textEnds; });
         text = trims ? trimmed(result, guard.fixed()) : std::move(result);
     }
-    return runSteps(std::move(text), {rest, steps.end()}, context, pieceSize);
+    return runSteps(std::move(text), {guarded.end(), steps.end()}, context, pieceSize);
 }
 
 } // namespace nerlo::engine

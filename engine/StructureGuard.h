@@ -18,4 +18,7 @@ namespace nerlo::engine {
 std::u16string runGuarded(std::u16string text, std::span<const Operation *const> steps,
                           const CleaningContext &context, std::size_t pieceSize);
 
+// Which of the steps run on the prose alone; those before and behind them see the whole text.
+std::span<const Operation *const> guardedSteps(std::span<const Operation *const> steps);
+
 } // namespace nerlo::engine

@@ -1,6 +1,7 @@
 #include "engine/Trace.h"
 
 #include "engine/FindReplace.h"
+#include "engine/StructureGuard.h"
 
 #include <algorithm>
 #include <utility>
@@ -102,6 +103,8 @@ class Tracer {
         knownEnd_ = carriedEnd(knownEnd_, step.places, forward);
     }
 
+    const std::u16string &text() const { return trace_.text; }
+
     Trace take() {
         carryToSource();
         carryToResult();
@@ -167,34 +170,90 @@ class Tracer {
     std::vector<std::size_t> known_;
 };
 
-void traceStep(Tracer &tracer, const Operation &operation, const CleaningContext &context) {
-    if (operation.index != findReplaceOperation) {
-        tracer.step(operation, 0,
-                    [&](std::u16string text) { return operation.run(std::move(text), context); });
-        return;
+using Steps = std::span<const Operation *const>;
+
+void traceAlone(Tracer &tracer, Steps steps, const CleaningContext &context) {
+    for (const Operation *const operation : steps) {
+        if (operation->index != findReplaceOperation) {
+            tracer.step(*operation, 0, [&](std::u16string text) {
+                return operation->run(std::move(text), context);
+            });
+            continue;
+        }
+        for (const NumberedRule &rule : activeRules(context.options)) {
+            tracer.step(*operation, rule.number, [&](std::u16string text) {
+                return applyRule(std::move(text), rule, context.report);
+            });
+        }
     }
-    for (const NumberedRule &rule : activeRules(context.options)) {
-        tracer.step(operation, rule.number, [&](std::u16string text) {
-            return applyRule(std::move(text), rule, context.report);
+}
+
+// With the list of rules cut behind the one of this number.
+CleaningOptions withRulesUpTo(std::size_t number, const CleaningOptions &options) {
+    CleaningOptions some = options;
+    auto &list =
+        some.udOnlyOneProfile ? some.udFindAndReplaceItems : some.udFindAndReplaceItemsProfile;
+    auto *items = list ? list->as<storage::PropertyArray>() : nullptr;
+    if (items && number < items->size()) {
+        items->resize(number, false);
+    }
+    return some;
+}
+
+// What the guard protects is told from the text that its first step is given. So the text behind
+// each step is what the steps up to there make of that one.
+void traceGuarded(Tracer &tracer, Steps steps, const CleaningContext &context) {
+    const std::u16string given = tracer.text();
+    struct Stage {
+        std::size_t steps;
+        std::size_t rule;
+    };
+    std::vector<Stage> stages;
+    for (std::size_t at = 0; at < steps.size(); ++at) {
+        if (steps[at]->index != findReplaceOperation) {
+            stages.push_back({at + 1, 0});
+            continue;
+        }
+        for (const NumberedRule &rule : activeRules(context.options)) {
+            stages.push_back({at + 1, rule.number});
+        }
+    }
+    for (const Stage &stage : stages) {
+        const CleaningOptions options =
+            stage.rule == 0 ? context.options : withRulesUpTo(stage.rule, context.options);
+        const bool last = &stage == &stages.back(); // what could not be done is told once
+        const CleaningContext part{options, context.locale, context.actualVersion,
+                                   last ? context.report : nullptr};
+        tracer.step(*steps[stage.steps - 1], stage.rule, [&](const std::u16string &) {
+            return runGuarded(given, steps.first(stage.steps), part, cachedPiece);
         });
     }
+}
+
+Trace traceSteps(std::u16string text, Steps steps, const CleaningContext &context,
+                 std::size_t mostPlaces) {
+    Tracer tracer(std::move(text), mostPlaces);
+    if (!context.options.udProtectStructure) {
+        traceAlone(tracer, steps, context);
+        return tracer.take();
+    }
+    const Steps guarded = guardedSteps(steps);
+    traceAlone(tracer, {steps.begin(), guarded.begin()}, context);
+    traceGuarded(tracer, guarded, context);
+    traceAlone(tracer, {guarded.end(), steps.end()}, context);
+    return tracer.take();
 }
 
 } // namespace
 
 Trace tracePipeline(std::u16string text, const CleaningContext &context, std::size_t mostPlaces) {
-    Tracer tracer(std::move(text), mostPlaces);
-    for (const Operation *const operation : operationsSwitchedOn(context.options)) {
-        traceStep(tracer, *operation, context);
-    }
-    return tracer.take();
+    return traceSteps(std::move(text), operationsSwitchedOn(context.options), context, mostPlaces);
 }
 
 Trace traceOperation(const Operation &operation, std::u16string text,
                      const CleaningContext &context, std::size_t mostPlaces) {
-    Tracer tracer(std::move(text), mostPlaces);
-    traceStep(tracer, operation, context);
-    return tracer.take();
+    const Operation *const only = &operation;
+    return traceSteps(std::move(text), {&only, 1}, context, mostPlaces);
 }
 
 } // namespace nerlo::engine

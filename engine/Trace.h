@@ -48,7 +48,8 @@ inline constexpr std::size_t fewPlaces = 1000;
 
 // Lists for each step as many places as `mostPlaces` says, or fewer: none behind a place where an
 // earlier step had more to list. The time is that of the steps and of the comparisons, which is in
-// proportion to the text. Memory: three times the text, and the places.
+// proportion to the text; where structure is protected, the first step is run again for each of the
+// others, the second for each but one, and so on. Memory: some four times the text, and the places.
 Trace tracePipeline(std::u16string text, const CleaningContext &context,
                     std::size_t mostPlaces = fewPlaces);
 // The same for one operation, whether or not its switch is on.

@@ -44,6 +44,14 @@ _nerlo() {
         COMPREPLY=($(compgen -W "$(locale -a 2>/dev/null | sed 's/\..*//' | sort -u)" -- "$cur"))
         return
         ;;
+    --format)
+        COMPREPLY=($(compgen -W "text json sarif github" -- "$cur"))
+        return
+        ;;
+    --diff-from)
+        _nerlo_words "$(git for-each-ref --format='%(refname:short)' 2>/dev/null)" "$cur"
+        return
+        ;;
     --jobs)
         COMPREPLY=($(compgen -W "$(seq "$(nproc)")" -- "$cur"))
         return
@@ -51,11 +59,18 @@ _nerlo() {
     esac
     case $command in
     '')
-        COMPREPLY=($(compgen -W "clean count batch operations keys profiles --version --help" -- "$cur"))
+        COMPREPLY=($(compgen -W "clean check count batch operations keys profiles --version --help" -- "$cur"))
         ;;
     clean)
         if [[ $cur == -* ]]; then
-            COMPREPLY=($(compgen -W "--operation --profile --options --set --locale --in-place --help" -- "$cur"))
+            COMPREPLY=($(compgen -W "--operation --profile --options --set --locale --in-place --explain --help" -- "$cur"))
+        else
+            _filedir
+        fi
+        ;;
+    check)
+        if [[ $cur == -* ]]; then
+            COMPREPLY=($(compgen -W "--format --diff-from --fix --profile --options --set --locale --help" -- "$cur"))
         else
             _filedir
         fi

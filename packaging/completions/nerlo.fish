@@ -10,11 +10,12 @@ function __nerlo_keys
     nerlo keys 2>/dev/null | string match -r '^  [A-Za-z]\w*' | string trim | string replace -r '$' '='
 end
 
-set -l commands clean count batch operations keys profiles
+set -l commands clean check count batch operations keys profiles
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -f
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
 complete -c nerlo -l help -s h -d 'Tell more'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a clean -d 'Clean texts with the options that are on'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a check -d 'Tell what a clean would change'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a count -d 'Count characters, spaces, words and paragraphs'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a batch -d 'Answer requests, one JSON object a line'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a operations -d 'List the operations'
@@ -22,11 +23,15 @@ complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a keys -d 'Lis
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a profiles -d 'List, show, import and export profiles'
 
 complete -c nerlo -n '__fish_seen_subcommand_from clean' -l operation -x -a '(__nerlo_operations)' -d 'Run only this operation'
-complete -c nerlo -n '__fish_seen_subcommand_from clean batch' -l profile -x -a '(__nerlo_profiles)' -d 'Take the options from a profile'
-complete -c nerlo -n '__fish_seen_subcommand_from clean batch' -l options -r -d 'Take the options from a property list'
-complete -c nerlo -n '__fish_seen_subcommand_from clean batch' -l set -x -a '(__nerlo_keys)' -d 'Change one key'
+complete -c nerlo -n '__fish_seen_subcommand_from clean check batch' -l profile -x -a '(__nerlo_profiles)' -d 'Take the options from a profile'
+complete -c nerlo -n '__fish_seen_subcommand_from clean check batch' -l options -r -d 'Take the options from a property list'
+complete -c nerlo -n '__fish_seen_subcommand_from clean check batch' -l set -x -a '(__nerlo_keys)' -d 'Change one key'
 complete -c nerlo -n '__fish_seen_subcommand_from clean' -l in-place -s i -d 'Rewrite each file that changes'
-complete -c nerlo -n '__fish_seen_subcommand_from clean count batch' -l locale -x -d 'Rules for letter case, words and sorting'
+complete -c nerlo -n '__fish_seen_subcommand_from clean check count batch' -l locale -x -d 'Rules for letter case, words and sorting'
+complete -c nerlo -n '__fish_seen_subcommand_from clean' -l explain -d 'Tell what each step changed'
+complete -c nerlo -n '__fish_seen_subcommand_from check' -l format -x -a 'text json sarif github' -d 'How to tell'
+complete -c nerlo -n '__fish_seen_subcommand_from check' -l diff-from -x -a "(git for-each-ref --format='%(refname:short)' 2>/dev/null)" -d 'Only lines changed since this commit'
+complete -c nerlo -n '__fish_seen_subcommand_from check' -l fix -d 'Also clean the files in place'
 complete -c nerlo -n '__fish_seen_subcommand_from batch' -l jobs -x -d 'Requests at a time'
 complete -c nerlo -n '__fish_seen_subcommand_from operations keys' -f
 complete -c nerlo -n '__fish_seen_subcommand_from count operations keys profiles' -l json -d 'Write JSON'

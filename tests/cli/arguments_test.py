@@ -125,11 +125,14 @@ def check_examples(lines):
         for name in ("letter.txt", "notes.txt", "page.txt", "mail.txt", "work.plist", "mail.plist"):
             with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
                 file.write(profile if name.endswith(".plist") else "Two  words.\n")
+        for arguments in (["init", "-q"], ["add", "."], ["-c", "user.name=x", "-c", "user.email=x@y", "commit", "-qm", "all"]):
+            subprocess.run(["git", *arguments], cwd=folder, check=True)
         lines = ["nerlo profiles import work.plist", *lines]
         for line in lines:
             ended = subprocess.run(["bash", "-o", "pipefail", "-c", line], cwd=folder, text=True,
                                    env=environment, capture_output=True, check=False)
-            if ended.returncode != 0 or ended.stderr:
+            found = ended.returncode == 1 and line.startswith("nerlo check ")
+            if (ended.returncode != 0 and not found) or ended.stderr:
                 failures.append(f"example `{line}`: {ended.returncode} {ended.stderr}")
     return len(lines)
 
