@@ -100,6 +100,8 @@ constexpr OptionField fields[] = {
     {"udUnwrapTerminal", &O::udUnwrapTerminal, "lines", "undo a terminal's wrapping and frames"},
     {"udProtectStructure", &O::udProtectStructure, "lines",
      "leave code, tables and lists as they are"},
+    {"udRepairEncoding", &O::udRepairEncoding, "marks",
+     "undo that text was read in a wrong charset"},
     {"udCleanLinks", &O::udCleanLinks, "marks", "take tracking parameters out of addresses"},
     {"udCleanLinksRules", &O::udCleanLinksRules, "marks",
      "file with more rules for addresses, as ClearURLs has them"},

@@ -62,6 +62,7 @@ struct CleaningOptions {
     bool udRemoveHTMLTagsJS = false;
     bool udInsertYourPattern = false;
     bool udUnwrapTerminal = false;
+    bool udRepairEncoding = false;
     bool udProtectStructure = false;
     bool udCleanLinks = false;
     PerSlot<bool> udChangeProperty{};

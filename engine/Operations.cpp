@@ -1,6 +1,7 @@
 #include "engine/Operations.h"
 
 #include "engine/CaseConversion.h"
+#include "engine/EncodingRepair.h"
 #include "engine/FindReplace.h"
 #include "engine/LineJoining.h"
 #include "engine/Links.h"
@@ -152,6 +153,12 @@ std::u16string cleanAddresses(std::u16string text, const Context &context) {
     return cleanLinks(std::move(text), context.options.linkRules.get());
 }
 
+std::u16string repair(std::u16string text, const Context &context) {
+    // In code, references are in place.
+    const bool references = !context.options.udProtectStructure;
+    return repairEncoding(std::move(text), references);
+}
+
 bool always(const Options &) {
     return true;
 }
@@ -241,6 +248,8 @@ constexpr Operation table[] = {
     {38, "unwrap-terminal", "sUnwrapTerminal",
      "undo what a terminal did to its text: wrapping, frames, padding", plain<unwrapTerminal>,
      nullptr, Reach::whole},
+    {39, "repair-encoding", "sRepairEncoding", "undo that text was read in a wrong charset", repair,
+     nullptr, Reach::whole},
     {42, "clean-links", "sCleanLinks", "take tracking parameters out of web addresses",
      cleanAddresses, nullptr, Reach::whole},
 };
@@ -268,7 +277,10 @@ bool spacesBecomeTabs(const Options &options) {
 }
 
 constexpr Step pipeline[] = {
-    // Later steps see the lines as they were before the terminal broke them.
+    // Later steps see the characters as they were before a wrong charset, and the lines as they
+    // were
+    // before the terminal broke them.
+    {on<&Options::udRepairEncoding>, 39},
     {on<&Options::udUnwrapTerminal>, 38},
     {on<&Options::udCleanLinks>, 42},
     {on<&Options::udChangeMultipleTabsToSingleTab>, 0},

@@ -52,6 +52,7 @@ constexpr Value values[] = {
     {"udStatisticsDefaultPosition", static_cast<int>(popupPositionCount) - 1, all},
 
     {"udProtectStructure", 1, gentle | mail | web | terminal | assistant | code},
+    {"udRepairEncoding", 1, gentle | pdf | mail | web},
     {"udUnwrapTerminal", 1, terminal},
     {"udCleanLinks", 1, mail | web},
 

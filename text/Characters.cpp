@@ -5,6 +5,8 @@
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
 
+#include <array>
+
 namespace nerlo::text {
 
 namespace {
@@ -29,6 +31,13 @@ char32_t characterAt(std::u16string_view text, std::size_t at) {
 
 std::size_t sizeOf(char32_t character) {
     return character > 0xFFFF ? 2 : 1;
+}
+
+void appendCharacter(std::u16string &to, char32_t character) {
+    std::array<char16_t, U16_MAX_LENGTH> units{};
+    std::size_t size = 0;
+    U16_APPEND_UNSAFE(units, size, character);
+    to.append(units.data(), size);
 }
 
 bool isWhiteSpace(char32_t character) {

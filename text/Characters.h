@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace nerlo::text {
@@ -12,6 +13,7 @@ namespace nerlo::text {
 // The character that begins at `at`, which must be inside the text.
 char32_t characterAt(std::u16string_view text, std::size_t at);
 std::size_t sizeOf(char32_t character);
+void appendCharacter(std::u16string &to, char32_t character);
 
 bool isWhiteSpace(char32_t character);    // "\s"
 bool isWordCharacter(char32_t character); // "\w"

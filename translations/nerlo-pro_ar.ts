@@ -497,6 +497,15 @@
 بعد: هذا السطر·انكسر في وسطه.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>إصلاح الترميز الخاطئ</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>قبل: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+بعد: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>استعادة نص منسوخ من طرفية</translation>
     </message>

@@ -497,6 +497,15 @@ Nachher, mit „!“: Text!</translation>
 Nachher: Diese Zeile wurde·mittendrin umbrochen.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Falsche Kodierung reparieren</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Vorher: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Nachher: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Text aus einem Terminal entpacken</translation>
     </message>

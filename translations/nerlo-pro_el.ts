@@ -497,6 +497,15 @@
 Μετά: Αυτή η γραμμή·κόπηκε στη μέση.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Διόρθωση λανθασμένης κωδικοποίησης</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Πριν: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Μετά: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Αποκατάσταση κειμένου τερματικού</translation>
     </message>

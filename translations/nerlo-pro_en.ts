@@ -498,6 +498,15 @@ After, with “!”: text!</translation>
 After: This line was·broken in the middle.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Repair wrong encoding</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Before: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+After: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Unwrap text from a terminal</translation>
     </message>

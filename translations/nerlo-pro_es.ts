@@ -497,6 +497,15 @@ Después, con «!»: texto!</translation>
 Después: Esta línea se·cortó por la mitad.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Reparar la codificación errónea</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Antes: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Después: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Recomponer texto de un terminal</translation>
     </message>

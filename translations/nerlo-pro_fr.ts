@@ -497,6 +497,15 @@ Après, avec « ! » : texte!</translation>
 Après : Cette ligne a été·coupée au milieu.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Réparer un mauvais encodage</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Avant : cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Après : café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Remettre en forme le texte d’un terminal</translation>
     </message>

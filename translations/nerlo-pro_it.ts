@@ -497,6 +497,15 @@ Dopo, con «!»: testo!</translation>
 Dopo: Questa riga è stata·spezzata a metà.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Ripara la codifica errata</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Prima: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Dopo: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Ricomporre il testo di un terminale</translation>
     </message>

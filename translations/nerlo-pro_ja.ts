@@ -497,6 +497,15 @@
 後：この行は途中で·改行されています。</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>文字化けを直す</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>前：cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+後：café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>端末の折り返しを元に戻す</translation>
     </message>

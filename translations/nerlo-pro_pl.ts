@@ -497,6 +497,15 @@ Po, z „!”: tekst!</translation>
 Po: Ten wiersz został·złamany w środku.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Napraw błędne kodowanie</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Przed: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Po: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Scal tekst z terminala</translation>
     </message>

@@ -497,6 +497,15 @@ Depois, com “!”: texto!</translation>
 Depois: Esta linha foi·quebrada no meio.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Reparar codificação errada</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Antes: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Depois: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Recompor texto de um terminal</translation>
     </message>

@@ -497,6 +497,15 @@
 После: Эта строка была·разорвана посередине.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Исправить неверную кодировку</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>До: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+После: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Восстановить текст из терминала</translation>
     </message>

@@ -497,6 +497,15 @@ Efter, med ”!”: text!</translation>
 Efter: Den här raden blev·bruten på mitten.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Laga fel teckenkodning</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>Före: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Efter: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Återställ text från en terminal</translation>
     </message>

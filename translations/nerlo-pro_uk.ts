@@ -497,6 +497,15 @@
 Після: Цей рядок було·розірвано посередині.</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>Виправити хибне кодування</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>До: cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+Після: café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Відновити текст із термінала</translation>
     </message>

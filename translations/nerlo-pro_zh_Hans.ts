@@ -497,6 +497,15 @@
 之后：这一行在·中间断开了。</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>修复乱码</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>之前：cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+之后：café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>还原终端中折行的文本</translation>
     </message>

@@ -497,6 +497,15 @@
 之後：這一行在·中間斷開了。</translation>
     </message>
     <message>
+        <source>sRepairEncoding</source>
+        <translation>修復亂碼</translation>
+    </message>
+    <message>
+        <source>sRepairEncodingTip</source>
+        <translation>之前：cafÃ©, itâ€™s, ÐŸÑ€Ð¸Ð²ÐµÑ‚
+之後：café, it’s, Привет</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>還原終端機中折行的文字</translation>
     </message>
