@@ -132,9 +132,7 @@ QLineEdit *CopyTableView::addField(QFormLayout &form, const char *name, const ch
                                    std::string CopyRule::*member) {
     auto *field = new QLineEdit;
     describe(*field, name, key, std::string(key) + "Tip");
-    auto *label = new QLabel(localized(key));
-    label->setBuddy(field);
-    form.addRow(label, field);
+    form.addRow(new QLabel(localized(key)), field);
     fields_.emplace_back(field, member);
     // Not textEdited(), which is silent when an accessibility tool sets the text.
     connect(field, &QLineEdit::textChanged, this, [this, member](const QString &text) {
@@ -146,9 +144,7 @@ QLineEdit *CopyTableView::addField(QFormLayout &form, const char *name, const ch
 QComboBox *CopyTableView::addChoice(QFormLayout &form, const char *name, const char *key) {
     auto *box = new QComboBox;
     describe(*box, name, key, std::string(key) + "Tip");
-    auto *label = new QLabel(localized(key));
-    label->setBuddy(box);
-    form.addRow(label, box);
+    form.addRow(new QLabel(localized(key)), box);
     return box;
 }
 
@@ -187,7 +183,10 @@ QString CopyTableView::conditionsOf(const CopyRule &rule) const {
         parts << localized(rowOf(rule.looks).key);
     }
     for (const auto &[field, member] : fields_) {
-        if (const auto &value = rule.*member; !value.empty()) {
+        const auto &value = rule.*member;
+        if (member == &CopyRule::host && value == "*") {
+            parts << localized("sReadyWeb");
+        } else if (!value.empty()) {
             parts << field->accessibleName() + ": " + QString::fromStdString(value);
         }
     }

@@ -74,10 +74,11 @@ TEST_F(Profiles, ReadyOnesNeedNoFileAndAStoredOneOfTheSameNameWins) {
         const char *text;
         const char *cleaned;
     } rows[] = {
-        {"gentle", " two  words, broken\nin the middle of ls . ",
-         "two words, broken in the middle of ls ."},
+        {"gentle",
+         " two  words, broken where the line was full, which is\nhow a mail goes on; see ls . ",
+         "two words, broken where the line was full, which is how a mail goes on; see ls ."},
         {"pdf", "a hyphen-\nated  word\nbroken", "a hyphenated word broken"},
-        {"mail", ">quoted\n>lines", "quoted lines"},
+        {"mail", "> quoted  words", "quoted words"},
         {"web", " a  line \nnext", "a line\nnext"},
         {"terminal", "\x1b[1mbold\x1b[0m", "bold"},
         {"assistant", "He said\u2014\u201Cwell\u2026 don\u2019t\u201D **now**",
