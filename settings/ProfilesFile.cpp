@@ -107,7 +107,7 @@ bool moved(const RecordItems &base, const RecordItems &mine) {
     return !std::ranges::equal(unmoved, mine, {}, {}, &RecordItem::id);
 }
 
-// The records of `mine` in its order, and each other one still behind what it stood behind.
+// The records of `mine` in its order; each record of others behind the one that it followed before.
 RecordItems inOrderOf(const RecordItems &mine, const RecordItems &merged) {
     const ById inMine(mine);
     const ById inMerged(merged);
@@ -218,7 +218,7 @@ RecordsFile::OnDisk RecordsFile::read() {
     OnDisk disk;
     disk.there = file.there;
     disk.usable = file.array.has_value();
-    // It stays: a later reading finds what was put in the place of the damaged file.
+    // The error stays: a later reading would find only the file that replaced the damaged one.
     if (!file.error.empty() && file.error != loadError_) {
         loadError_ = std::move(file.error);
         if (damaged_) {

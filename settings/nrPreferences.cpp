@@ -255,7 +255,7 @@ std::string nrPreferences::writeProfiles() {
     } else {
         createDir();
         if (auto others = file_.refreshed(profilesItems_)) {
-            // Our save failed, but what other processes have saved is taken over.
+            // Our own save failed; what other processes have saved is taken over all the same.
             adopt(std::move(*others));
         }
     }

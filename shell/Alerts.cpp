@@ -90,7 +90,7 @@ std::optional<ChosenName> askForName(const NameQuestion &question, QWidget *pare
     }
     auto *label = new QLabel(question.beginningLabel);
     label->setBuddy(beginning);
-    // What somebody has typed stays.
+    // A name that has been typed is not replaced by a suggestion.
     QObject::connect(beginning, &QComboBox::currentIndexChanged, field,
                      [&, suggested = QString()](int place) mutable {
                          if (field->text() == suggested) {

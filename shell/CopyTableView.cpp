@@ -204,7 +204,7 @@ void CopyTableView::showRow() {
     const CopyRule rule = any ? rules_[static_cast<std::size_t>(place)] : CopyRule();
     for (const auto &[field, member] : fields_) {
         const QString text = QString::fromStdString(rule.*member);
-        // The place of the cursor is not lost to an equal text.
+        // Setting an equal text would still move the cursor to its end.
         if (field->text().trimmed() != text) {
             field->setText(text);
         }

@@ -29,10 +29,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A tray that is not there by then may still come; but the user is not left without a window_.
+// A tray may come later still, but the user is not left without any window until then.
 constexpr auto trayExpectedWithin = 2000ms;
 
-// What a user is told to bind by hand.
+// The command that the notice tells users to bind to a key themselves.
 const auto cleanCommand = QStringLiteral("nerlo-pro --clean");
 
 } // namespace
@@ -270,7 +270,7 @@ void DesktopShell::present(QWidget &window) {
 
 void DesktopShell::setFloating(bool floating) {
     if (window_ && window_->windowHandle()) {
-        // Of the widget, the flag would hide the window.
+        // Set on the widget instead, the flag would hide the window.
         window_->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, floating);
     }
 }
@@ -373,7 +373,7 @@ void DesktopShell::setProblem(Problem problem, const std::string &text) {
     stateChanged();
 }
 
-// Holds until the next clean, which may be of a text on which the rules work.
+// The report is shown until the next clean: the same rules may work on another text.
 void DesktopShell::showReport(const engine::CleaningReport &report) {
     report_ = report;
     setProblem(Problem::leftOutRules, leftOutText(report).toStdString());

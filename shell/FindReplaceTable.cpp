@@ -81,7 +81,7 @@ class RuleDelegate final : public QStyledItemDelegate {
         return editor;
     }
     void setEditorData(QWidget *editor, const QModelIndex &index) const override {
-        // The place of the cursor is not lost to an equal text.
+        // Setting an equal text would still move the cursor to its end.
         if (qobject_cast<QLineEdit *>(editor)->text() != index.data(Qt::EditRole)) {
             QStyledItemDelegate::setEditorData(editor, index);
         }
@@ -180,6 +180,25 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
     , remove_(new QPushButton(localized("sFindReplaceRemove")))
     , up_(new QPushButton(localized("sFindReplaceUp")))
     , down_(new QPushButton(localized("sFindReplaceDown"))) {
+    describeControls();
+    layOut();
+    followList();
+    followButtons();
+    connect(onlyOneProfile, &QCheckBox::toggled, this, [this](bool on) {
+        if (!loading_) {
+            preferences_.onlyOneProfileChanged(on);
+            load();
+        }
+    });
+    // Not textEdited(), which is silent when an accessibility tool sets the text.
+    connect(replaceTextField, &QLineEdit::textChanged, this, [this](const QString &text) {
+        if (!loading_) {
+            replacementChanged(text);
+        }
+    });
+}
+
+void FindReplaceTable::describeControls() {
     describe(*onlyOneProfile, "sOnlyOneProfile", "sOnlyOneProfile", "sOnlyOneProfileTip");
     describe(*findTableView, "findTableView", "sFindReplaceList", "sFindReplaceListTip");
     describe(*replaceTextField, "replaceTextField", "sFindReplaceWith", "sFindReplaceWithTip");
@@ -187,7 +206,9 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
     describe(*remove_, "removeRule", "sFindReplaceRemove", "sFindReplaceRemoveTip");
     describe(*up_, "ruleUp", "sFindReplaceUp", "sFindReplaceUpTip");
     describe(*down_, "ruleDown", "sFindReplaceDown", "sFindReplaceDownTip");
+}
 
+void FindReplaceTable::layOut() {
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 4, 0, 0);
     layout->addWidget(onlyOneProfile, 0, 0, 1, 2);
@@ -207,13 +228,9 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
     buttons->addWidget(up_, 1, 0);
     buttons->addWidget(down_, 1, 1);
     layout->addLayout(buttons, 4, 0, 1, 2);
+}
 
-    connect(onlyOneProfile, &QCheckBox::toggled, this, [this](bool on) {
-        if (!loading_) {
-            preferences_.onlyOneProfileChanged(on);
-            load();
-        }
-    });
+void FindReplaceTable::followList() {
     connect(findTableView, &QListWidget::currentRowChanged, this, [this](int row) {
         if (!loading_) {
             preferences_.selectedRow(row);
@@ -221,49 +238,20 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
         }
     });
     connect(findTableView, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) {
-        if (loading_) {
-            return;
+        if (!loading_) {
+            rowChanged(*item);
         }
-        const int row = findTableView->row(item);
-        const auto &rule = preferences_.findReplaceList().items().at(static_cast<std::size_t>(row));
-        const bool on = item->checkState() == Qt::Checked;
-        if (on != settings::FindReplaceList::isOn(rule)) {
-            preferences_.saveCurrentFindReplaceCheckbox(row, on);
-        }
-        const std::u16string find = item->text().toStdU16String();
-        if (find != settings::FindReplaceList::textOf(rule, "find")) {
-            preferences_.selectedRow(row);
-            preferences_.saveCurrentFindReplace(find);
-            const QScopedValueRollback loading(loading_, true);
-            describeRow(*item);
-            showField();
-        }
-    });
-    // Not textEdited(), which is silent when an accessibility tool sets the text.
-    connect(replaceTextField, &QLineEdit::textChanged, this, [this](const QString &text) {
-        if (loading_) {
-            return;
-        }
-        preferences_.controlTextDidChangeReplace(text.toStdU16String());
-        if (auto *item = findTableView->currentItem()) {
-            const QScopedValueRollback loading(loading_, true);
-            item->setData(replacementRole, text);
-            describeRow(*item);
-        }
-        replaceTextField->setPlaceholderText(
-            QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
     });
     connect(findTableView, &RuleList::dropped, this,
             [this](int row, int place) { preferences_.acceptDrop({row}, place); });
     connect(findTableView, &RuleList::moveAsked, this, &FindReplaceTable::moveSelected);
+    connect(findTableView, &RuleList::removeAsked, this, &FindReplaceTable::removeSelected);
+}
+
+void FindReplaceTable::followButtons() {
     connect(up_, &QPushButton::clicked, this, [this] { moveSelected(-1); });
     connect(down_, &QPushButton::clicked, this, [this] { moveSelected(1); });
-    const auto remove = [this] {
-        preferences_.deleteFindReplace();
-        showField(); // which says so where no row is selected
-    };
-    connect(findTableView, &RuleList::removeAsked, this, remove);
-    connect(remove_, &QPushButton::clicked, this, remove);
+    connect(remove_, &QPushButton::clicked, this, &FindReplaceTable::removeSelected);
     connect(add_, &QPushButton::clicked, this, [this] {
         preferences_.addNewFindReplace();
         findTableView->setFocus();
@@ -271,6 +259,39 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
             findTableView->editItem(item);
         }
     });
+}
+
+void FindReplaceTable::rowChanged(QListWidgetItem &item) {
+    const int row = findTableView->row(&item);
+    const auto &rule = preferences_.findReplaceList().items().at(static_cast<std::size_t>(row));
+    const bool on = item.checkState() == Qt::Checked;
+    if (on != settings::FindReplaceList::isOn(rule)) {
+        preferences_.saveCurrentFindReplaceCheckbox(row, on);
+    }
+    const std::u16string find = item.text().toStdU16String();
+    if (find != settings::FindReplaceList::textOf(rule, "find")) {
+        preferences_.selectedRow(row);
+        preferences_.saveCurrentFindReplace(find);
+        const QScopedValueRollback loading(loading_, true);
+        describeRow(item);
+        showField();
+    }
+}
+
+void FindReplaceTable::replacementChanged(const QString &replacement) {
+    preferences_.controlTextDidChangeReplace(replacement.toStdU16String());
+    if (auto *item = findTableView->currentItem()) {
+        const QScopedValueRollback loading(loading_, true);
+        item->setData(replacementRole, replacement);
+        describeRow(*item);
+    }
+    replaceTextField->setPlaceholderText(
+        QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
+}
+
+void FindReplaceTable::removeSelected() {
+    preferences_.deleteFindReplace();
+    showField(); // says so if no row is selected
 }
 
 QString FindReplaceTable::searchTexts() const {

@@ -47,6 +47,13 @@ class FindReplaceTable final : public QWidget {
     QString searchTexts() const;
 
   private:
+    void describeControls();
+    void layOut();
+    void followList();
+    void followButtons();
+    void rowChanged(QListWidgetItem &item);
+    void replacementChanged(const QString &replacement);
+    void removeSelected();
     void reload();
     void showField();
     void addItem(const storage::PropertyValue &rule);

@@ -299,7 +299,7 @@ void OptionPage::load() {
                 static_cast<int>(std::clamp<std::int64_t>(state.integerValue(), 1, longestDelay)));
         } else if (auto *field = qobject_cast<QLineEdit *>(widget)) {
             const QString text = QString::fromStdU16String(state.stringValue());
-            // The place of the cursor is not lost to an equal text.
+            // Setting an equal text would still move the cursor to its end.
             if (field->text() != text) {
                 field->setText(text);
             }

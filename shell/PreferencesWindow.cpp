@@ -89,12 +89,26 @@ PreferencesWindow::PreferencesWindow(Program &program)
     , splitter_(new QSplitter) {
     setObjectName("preferencesWindow");
     setWindowTitle(localized("sPreferencesWindowName"));
+    describeParts();
+    layOut();
+    makePages();
+    fitPages();
+    connectKeys();
+    openAsRemembered();
+    profilesChanged();
+    controlsLoaded();
+    edited();
+}
 
+PreferencesWindow::~PreferencesWindow() = default;
+
+void PreferencesWindow::describeParts() {
     pageList_->setObjectName("pageList");
     pageList_->setAccessibleName(localized("sPages"));
     pageList_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     pages_->setObjectName("pages");
     pages_->setAccessibleName(localized("sOptions"));
+    splitter_->setObjectName("splitter");
     nothingFound_->setObjectName("nothingFound");
     nothingFound_->setAlignment(Qt::AlignCenter);
     nothingFound_->setWordWrap(true);
@@ -105,13 +119,14 @@ PreferencesWindow::PreferencesWindow(Program &program)
     notice_->setTextFormat(Qt::PlainText);
     notice_->setMargin(6);
     notice_->hide();
+}
 
+void PreferencesWindow::layOut() {
     auto *middle = new QWidget;
     auto *middleLayout = new QVBoxLayout(middle);
     middleLayout->setContentsMargins(0, 0, 0, 0);
     middleLayout->addWidget(nothingFound_, 1);
     middleLayout->addWidget(pages_, 1);
-    splitter_->setObjectName("splitter");
     splitter_->addWidget(middle);
 
     auto *content = new QWidget;
@@ -123,9 +138,11 @@ PreferencesWindow::PreferencesWindow(Program &program)
     layout->addLayout(below, 1);
     layout->addWidget(notice_);
     setCentralWidget(content);
+}
 
-    const RecorderMaker makeRecorder = [&program](const std::string &hotKey) {
-        return program.windows().makeRecorder(hotKey);
+void PreferencesWindow::makePages() {
+    const RecorderMaker makeRecorder = [this](const std::string &hotKey) {
+        return program_.windows().makeRecorder(hotKey);
     };
     addPage(localized("sPageGeneral"), makeGeneralPage(makeRecorder));
     for (const PreferencesPage &page : preferencesPages()) {
@@ -140,13 +157,14 @@ PreferencesWindow::PreferencesWindow(Program &program)
     preview_->setMinimumWidth(narrowestPreview);
     pageList_->setSpacing(2);
     pageList_->setFixedWidth(pageList_->sizeHintForColumn(0) + 2 * pageList_->frameWidth() + 24);
-    fitPages();
-
     connect(pageList_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) {
             pages_->setCurrentIndex(row);
         }
     });
+}
+
+void PreferencesWindow::connectKeys() {
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_, [this] {
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
@@ -154,7 +172,9 @@ PreferencesWindow::PreferencesWindow(Program &program)
     connect(new QShortcut(Qt::Key_Escape, search_, nullptr, nullptr, Qt::WidgetShortcut),
             &QShortcut::activated, search_, &QLineEdit::clear);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
+}
 
+void PreferencesWindow::openAsRemembered() {
     const auto height = store_.integerForKey(heightKey);
     const QSize size(firstSize.width(),
                      height >= shortest ? static_cast<int>(std::min<std::int64_t>(height, 10'000))
@@ -162,12 +182,7 @@ PreferencesWindow::PreferencesWindow(Program &program)
     resize(size.boundedTo(screenRoom(*this)));
     const auto page = store_.integerForKey(pageKey);
     pageList_->setCurrentRow(page >= 0 && page < pages_->count() ? static_cast<int>(page) : 0);
-    profilesChanged();
-    controlsLoaded();
-    edited();
 }
-
-PreferencesWindow::~PreferencesWindow() = default;
 
 void PreferencesWindow::assignLetters() {
     // Letters of what is always there are not used again on any page.

@@ -65,6 +65,11 @@ class PreferencesWindow final : public QMainWindow {
   private:
     QWidget *makeGeneralPage(const RecorderMaker &makeRecorder);
     QWidget *makeTop();
+    void describeParts();
+    void layOut();
+    void makePages();
+    void connectKeys();
+    void openAsRemembered(); // with the height and the page that were left
     void fitPages();
     void placePreview();
     void addPage(const QString &title, QWidget *page);

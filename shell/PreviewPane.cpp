@@ -62,7 +62,8 @@ void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const Q
         selection.cursor.setPosition(static_cast<int>(span.start + span.length),
                                      QTextCursor::KeepAnchor);
         selection.format.setBackground(colour);
-        // Not by colour alone; and a line through a dot or a mark would hide it.
+        // Underlined too, so that colour is not all that tells; struck out, a dot could not be
+        // read.
         selection.format.setFontUnderline(true);
         selections.push_back(selection);
     }
@@ -161,7 +162,7 @@ void PreviewPane::changeEvent(QEvent *event) {
 }
 
 void PreviewPane::schedule() {
-    // What nobody sees is not cleaned.
+    // While the pane is hidden there is nothing to clean for it.
     if (!isVisible()) {
         return;
     }
@@ -205,7 +206,7 @@ void PreviewPane::run() {
             result =
                 Result{text, cleaned, differences(text.toStdU16String(), cleaned.toStdU16String())};
         } catch (const std::exception &) {
-            // Out of memory, in practice. The preview stays as it was.
+            // Only for want of memory. The preview stays as it was.
         }
         done(std::move(result));
     });
@@ -216,7 +217,7 @@ void PreviewPane::show(const Result &result) {
         after_->setPlainText(result.after);
     }
     marked_ = result.differences.added;
-    // Typed on meanwhile: the marks would stand in the wrong places.
+    // The text has changed since: the marks would stand in the wrong places.
     const bool still = textOf(*before_).left(longest) == result.before;
     removed_ = still ? result.differences.removed : std::vector<TextSpan>();
     markDifferences();

@@ -19,12 +19,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A program that ends may be busy with its clipboard for so long.
+// How long a program that is ending may still be busy handing its clipboard over.
 constexpr auto endsWithin = platform::pasteboardHandOverLimit + 5s;
 
 const auto questionName = QStringLiteral("question");
 
-// The shared connection is for the application that may come after the question.
+// A connection for the question alone: the one that Qt shares belongs to the application that this
+// process may become afterwards.
 class OwnConnection {
   public:
     OwnConnection()
@@ -50,7 +51,7 @@ class OwnConnection {
     QDBusConnection bus;
 };
 
-// The errors that a program which ends leaves a question with.
+// Whether the error means that the other program was ending when it was asked.
 bool fromOneThatEnds(const QDBusMessage &reply) {
     constexpr QDBusError::ErrorType ends[] = {QDBusError::UnknownObject, QDBusError::ServiceUnknown,
                                               QDBusError::NoReply};
@@ -76,8 +77,8 @@ Answer ask(const Request &request) {
     }
     const auto reply = connection.bus.call(call);
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        // The thread of the connection is still busy with an error when it has handed it out, and
-        // would complain if the process ended meanwhile. What it is asked now comes after that.
+        // The connection's thread still works on an error after it has handed it out, and would
+        // complain if the process ended before it is through. This second question waits for that.
         const bool runs = connection.programRuns();
         const bool ended = fromOneThatEnds(reply) && (!runs || connection.programEnds());
         return {ended ? Answer::Outcome::ended : Answer::Outcome::failed, reply.errorMessage()};

@@ -42,8 +42,8 @@ struct EditCommand {
     const char *slot; // of the toolkit's text fields; null for the Delete key
     const char *keys;
 };
-// Keys by name: the toolkit's standard keys are known only to a program with windows, and
-// --shortcut is refused these too.
+// Keys by name: --shortcut refuses these too, and the toolkit knows its standard keys only in a
+// program with windows.
 constexpr EditCommand editCommands[] = {
     {"Undo", "undo", "Ctrl+Z"},
     {"Redo", "redo", "Ctrl+Shift+Z"},

@@ -78,6 +78,14 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     , atEachStart_(new QCheckBox(localized("sTipsAtStart"))) {
     setObjectName("tipsWindow");
     setWindowTitle(localized(Table::menu, "Tips"));
+    atEachStart_->setChecked(atEachStart);
+    describeParts();
+    layOut();
+    connectButtons();
+    showPage();
+}
+
+void TipsWindow::describeParts() {
     picture_->setFixedSize(pictureSize);
     picture_->setAlignment(Qt::AlignCenter);
     QFont font = title_->font();
@@ -97,8 +105,14 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     atEachStart_->setObjectName("tipsAtStart");
     atEachStart_->setAccessibleName(atEachStart_->text());
     setTip(*atEachStart_, localized("sTipsAtStartTip"));
-    atEachStart_->setChecked(atEachStart);
+    std::set<QChar> used;
+    const auto texts = withMnemonics({previous_->text(), atEachStart_->text()}, used);
+    previous_->setText(texts[0]);
+    atEachStart_->setText(texts[1]);
+    next_->setDefault(true);
+}
 
+void TipsWindow::layOut() {
     // As much room as the longest tip needs, so that nothing moves when the page is turned.
     int textHeight = 0;
     text_->setFixedWidth(pictureSize.width());
@@ -126,7 +140,9 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     // On a small screen the picture gives way.
     const int missing = std::max(0, sizeHint().height() - screenRoom(*this).height());
     picture_->setFixedHeight(std::max(pictureSize.height() / 3, pictureSize.height() - missing));
+}
 
+void TipsWindow::connectButtons() {
     connect(previous_, &QPushButton::clicked, this, [this] { setPage(page_ - 1); });
     connect(next_, &QPushButton::clicked, this, [this] {
         if (page_ + 1 < tips) {
@@ -136,17 +152,11 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
         }
     });
     connect(dots_, &PageDots::clicked, this, &TipsWindow::setPage);
-    std::set<QChar> used;
-    const auto texts = withMnemonics({previous_->text(), atEachStart_->text()}, used);
-    previous_->setText(texts[0]);
-    atEachStart_->setText(texts[1]);
-    next_->setDefault(true);
-    // The keys that turn the pages: a button would go to the next one.
+    // The arrow keys turn the pages; a button that has the focus would move it to the next button.
     for (QWidget *focus : {static_cast<QWidget *>(this), static_cast<QWidget *>(previous_),
                            static_cast<QWidget *>(next_), static_cast<QWidget *>(atEachStart_)}) {
         focus->installEventFilter(this);
     }
-    showPage();
 }
 
 QWidget *TipsWindow::makeQuestion() {

@@ -53,6 +53,9 @@ class TipsWindow final : public QDialog {
     void changeEvent(QEvent *event) override;
 
   private:
+    void describeParts();
+    void layOut();
+    void connectButtons();
     void showPage();
     QWidget *makeQuestion();
 

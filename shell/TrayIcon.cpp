@@ -132,7 +132,7 @@ QIcon TrayIcon::iconOf(TrayState state) {
         panelColoursIcons() && QIcon::hasThemeIcon(name)) {
         return QIcon::fromTheme(name);
     }
-    // Panels mostly are as dark as the windows.
+    // Nobody tells the colour of the panel; most panels are as dark as the windows.
     const bool dark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
     QString name = QStringLiteral(":/icons/logo-menubar");
     if (state != TrayState::idle) {

@@ -40,7 +40,7 @@ std::string runtimeFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toStdString();
 }
 
-// What is asked of a program that does not run. Nothing when it is to start.
+// Answers requests that need no running program. Nothing is returned if the program is to start.
 std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
     if (commandLine.asksFor(Command::quit)) {
         const platform::DisplayLock display(runtimeFolder());

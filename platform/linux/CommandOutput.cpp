@@ -85,7 +85,7 @@ std::string outputOfCommand(const std::vector<std::string> &command, CommandLimi
     bool whole = pid > 0 && readAll(pipe[0], Clock::now() + limits.time, limits.bytes, text);
     close(pipe[0]);
     if (pid > 0) {
-        // Who has closed its output is about to end; who has not has had its time.
+        // A command that has closed its output is about to exit; any other has used up its time.
         if (!whole) {
             kill(pid, SIGKILL);
         }

@@ -16,7 +16,7 @@ namespace nerlo::platform {
 
 namespace {
 
-// What one look at the descriptors brings at most; the rest comes with the next one.
+// At most so many events are taken in one round; the rest come with the next one.
 constexpr std::size_t eventsAtOnce = 32;
 
 int opened(int fd, const char *what) {
@@ -101,7 +101,7 @@ void IoThread::serve() {
         const int count = epoll_wait(epoll_, ready.data(), ready.size(), timeout());
         for (int i = 0; i < count; ++i) {
             const auto &event = ready[static_cast<std::size_t>(i)];
-            // An earlier one of the same look may have ended it.
+            // An earlier handler of this round may have ended it.
             if (const auto found = watched_.find(event.data.u64); found != watched_.end()) {
                 const auto handler = found->second.handler;
                 (*handler)(event.events);
@@ -121,7 +121,7 @@ void IoThread::runTasks() {
         tasks.swap(tasks_);
     }
     for (auto &task : tasks) {
-        // What it holds goes before somebody who waits for a later one goes on.
+        // Destroyed here, before run() lets anybody go on who waits for a later task.
         std::exchange(task, nullptr)();
     }
 }

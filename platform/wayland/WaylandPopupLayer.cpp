@@ -17,7 +17,7 @@ using wayland::Clock;
 using wayland::EventLoop;
 using wayland::LayerPopup;
 
-// Who waits longer for the popup has looked away.
+// A popup that comes later than this comes too late to be looked for.
 constexpr auto pointerWithin = 200ms;
 
 // A connection that lives only while the popup is shown: nothing of it can wake an idle program, or

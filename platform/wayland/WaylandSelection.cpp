@@ -18,8 +18,8 @@ constexpr auto receiverStallLimit = std::chrono::seconds(60);
 // Receivers served at the same time; beyond that the one that has been still for longest goes.
 constexpr std::size_t receiverLimit = 64;
 
-// Offers of which no event has said what they are. One at a time is the rule; a compositor that
-// leaves more of them is not to fill the memory, but may still come back to the latest.
+// Offers that no event has given a use yet. There should be one at a time; of a compositor that
+// sends more, only the latest are kept, so that it cannot fill the memory.
 constexpr std::size_t announcedLimit = 8;
 
 bool contains(const std::vector<std::string> &names, std::string_view name) {
@@ -263,7 +263,7 @@ bool WaylandSelection::startTransfer(const std::shared_ptr<ReadJob> &job, std::s
         return false;
     }
     receive(current_.proxy, job->reading.format(place).c_str(), pipe.writer.get());
-    // Of the others none is waited for longer than for all of them.
+    // The time limit of the other formats is one for all of them together.
     const auto silence = job->reading.first() ? pasteboardStallLimit : pasteboardReadLimit;
     loop_.add(std::make_unique<IncomingTransfer>(
         std::move(pipe.reader), TransferLimits{job->reading.room(), silence, job->reading.end()},

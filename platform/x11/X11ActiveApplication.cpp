@@ -15,7 +15,7 @@ namespace {
 using x11::Connection;
 using x11::SharedConnection;
 
-// Two names of a program are longer than this only by malice, in bytes.
+// In bytes; no honest program has longer names.
 constexpr std::size_t longestClass = 1024;
 
 // Watches the root window; lives on the I/O thread. There only while somebody listens: every change

@@ -91,7 +91,7 @@ ModifierMasks readMasks(Connection &connection) {
     const std::size_t perModifier = modifiers->keycodes_per_modifier;
     const auto *codes = xcb_get_modifier_mapping_keycodes(modifiers.get());
     const auto maskOf = [&](std::initializer_list<xcb_keysym_t> wanted) -> std::uint16_t {
-        // Shift, Lock and Control come first and are what they are.
+        // The first three modifiers are always Shift, Lock and Control.
         for (std::size_t modifier = 3; modifier < 8; ++modifier) {
             for (std::size_t at = 0; at < perModifier; ++at) {
                 if (has(codes[modifier * perModifier + at], wanted)) {

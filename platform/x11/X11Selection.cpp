@@ -18,12 +18,13 @@ constexpr std::array<std::string_view, 7> protocolTargets{
     "DELETE",  "INSERT_SELECTION", "INSERT_PROPERTY"};
 
 constexpr std::size_t largestPiece = 256 * 1024;
-// Of the list of formats, before those without a name or twice in it are left off.
+// Formats of an owner that are looked at, counted before those without a usable name and repeated
+// ones are left out.
 constexpr std::size_t mostAtoms = 4 * pasteboardFormatLimit;
 // Other clients that take large formats from us at the same time, and pairs in one MULTIPLE.
 constexpr std::size_t mostSendings = 64;
 constexpr std::size_t mostPairs = 64;
-// At the server's clock, for two milliseconds to pass: more than enough.
+// The server's clock is read at most so often until two milliseconds have passed on it.
 constexpr int mostLooks = 1000;
 
 template <class T>
@@ -316,7 +317,7 @@ void X11Selection::convert(Question &question, xcb_atom_t target, std::size_t pl
     transfer.target = target;
     transfer.place = place;
     startTransfer(transfer);
-    // Of the others none is waited for longer than for all of them.
+    // The time limit of the other formats is one for all of them together.
     if (question.reading && !question.reading->first()) {
         transfer.stalled = question.reading->end();
     }
