@@ -19,5 +19,6 @@ void addBatch(CLI::App &app, ExitStatus &status);
 void addOperations(CLI::App &app, ExitStatus &status);
 void addKeys(CLI::App &app, ExitStatus &status);
 void addProfiles(CLI::App &app, ExitStatus &status);
+void addRules(CLI::App &app, ExitStatus &status);
 
 } // namespace nerlo::cli

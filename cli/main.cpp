@@ -23,8 +23,8 @@ namespace nerlo::cli {
 
 namespace {
 
-constexpr std::array commands{addClean,      addCheck, addCount,   addBatch,
-                              addOperations, addKeys,  addProfiles};
+constexpr std::array commands{addClean,      addCheck, addCount,    addBatch,
+                              addOperations, addKeys,  addProfiles, addRules};
 
 // If the caller closed one of the standard descriptors, the next file opened would get its number,
 // and messages would be written into that file. So it is opened here, in the wrong direction: using

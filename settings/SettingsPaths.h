@@ -17,6 +17,7 @@ struct SettingsPaths {
     std::string store;             // the settings store
     std::string profiles;          // the profiles
     std::string sharedFindReplace; // the find-and-replace list shared by all profiles
+    std::string ruleSamples;       // the samples of rules
 
     // $XDG_CONFIG_HOME and $XDG_DATA_HOME, or what stands for them in the home folder.
     static SettingsPaths standard(const Environment &environment = processEnvironment());

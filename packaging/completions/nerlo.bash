@@ -59,7 +59,7 @@ _nerlo() {
     esac
     case $command in
     '')
-        COMPREPLY=($(compgen -W "clean check count batch operations keys profiles --version --help" -- "$cur"))
+        COMPREPLY=($(compgen -W "clean check count batch operations keys profiles rules --version --help" -- "$cur"))
         ;;
     clean)
         if [[ $cur == -* ]]; then
@@ -91,6 +91,13 @@ _nerlo() {
         ;;
     operations | keys)
         COMPREPLY=($(compgen -W "--json --help" -- "$cur"))
+        ;;
+    rules)
+        if [ "$cword" -eq 2 ] || [[ $cur == -* ]]; then
+            COMPREPLY=($(compgen -W "test --help" -- "$cur"))
+        else
+            _filedir
+        fi
         ;;
     profiles)
         if [ "$cword" -eq 2 ] || [[ $cur == -* ]]; then

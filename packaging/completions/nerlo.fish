@@ -10,7 +10,7 @@ function __nerlo_keys
     nerlo keys 2>/dev/null | string match -r '^  [A-Za-z]\w*' | string trim | string replace -r '$' '='
 end
 
-set -l commands clean check count batch operations keys profiles
+set -l commands clean check count batch operations keys profiles rules
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -f
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -l version -d 'Print the version'
 complete -c nerlo -l help -s h -d 'Tell more'
@@ -21,6 +21,9 @@ complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a batch -d 'An
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a operations -d 'List the operations'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a keys -d 'List the settings keys'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a profiles -d 'List, show, import and export profiles'
+
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a rules -d 'Try lists of rules on their samples'
+complete -c nerlo -n '__fish_seen_subcommand_from rules; and not __fish_seen_subcommand_from test' -f -a test
 
 complete -c nerlo -n '__fish_seen_subcommand_from clean' -l operation -x -a '(__nerlo_operations)' -d 'Run only this operation'
 complete -c nerlo -n '__fish_seen_subcommand_from clean check batch' -l profile -x -a '(__nerlo_profiles)' -d 'Take the options from a profile'

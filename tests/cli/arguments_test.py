@@ -6,6 +6,7 @@ offer nothing else; the examples of the README, the manual and the help texts wo
 """
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -125,6 +126,7 @@ def check_examples(lines):
         for name in ("letter.txt", "notes.txt", "page.txt", "mail.txt", "work.plist", "mail.plist"):
             with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
                 file.write(profile if name.endswith(".plist") else "Two  words.\n")
+        shutil.copy(os.path.join(source, "assets/rules/dates-to-iso.nerlo-rules"), os.path.join(folder, "dates.nerlo-rules"))
         for arguments in (["init", "-q"], ["add", "."], ["-c", "user.name=x", "-c", "user.email=x@y", "commit", "-qm", "all"]):
             subprocess.run(["git", *arguments], cwd=folder, check=True)
         lines = ["nerlo profiles import work.plist", *lines]

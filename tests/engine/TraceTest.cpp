@@ -110,9 +110,13 @@ void expectNoOtherStepToChange(const Trace &trace, std::u16string text,
     }
 }
 
-TEST(ATrace, EndsWithTheCleanTextAndCountsOnlyWhatChanged) {
-    Random random(22);
-    for (int round = 0; round < 100000; ++round) {
+// Ten times 10,000 random texts and options, so that each part stays short.
+class ATraceOfRandomTexts : public testing::TestWithParam<std::uint64_t> {};
+INSTANTIATE_TEST_SUITE_P(Seeds, ATraceOfRandomTexts, testing::Range<std::uint64_t>(22, 32));
+
+TEST_P(ATraceOfRandomTexts, EndsWithTheCleanTextAndCountsOnlyWhatChanged) {
+    Random random(GetParam());
+    for (int round = 0; round < 10000; ++round) {
         CleaningOptions options = random.options();
         if (random.oneIn(4)) {
             options.udFindReplaceBool = true;
