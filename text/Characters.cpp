@@ -3,6 +3,7 @@
 #include "text/Ascii.h"
 
 #include <unicode/uchar.h>
+#include <unicode/uscript.h>
 #include <unicode/utf16.h>
 
 #include <array>
@@ -21,11 +22,27 @@ bool extends(char32_t character) {
                                  u_charType(code(character)) == U_FORMAT_CHAR);
 }
 
+bool isLetterOrMark(char32_t character) {
+    return (U_GET_GC_MASK(code(character)) & (U_GC_L_MASK | U_GC_M_MASK)) != 0;
+}
+
+UScriptCode scriptOf(char32_t character) {
+    UErrorCode error = U_ZERO_ERROR;
+    const UScriptCode script = uscript_getScript(code(character), &error);
+    return U_FAILURE(error) ? USCRIPT_UNKNOWN : script;
+}
+
 } // namespace
 
 char32_t characterAt(std::u16string_view text, std::size_t at) {
     UChar32 character = 0;
     U16_GET(text.data(), 0, at, text.size(), character);
+    return static_cast<char32_t>(character);
+}
+
+char32_t characterBefore(std::u16string_view text, std::size_t at) {
+    UChar32 character = 0;
+    U16_PREV(text.data(), 0, at, character);
     return static_cast<char32_t>(character);
 }
 
@@ -80,6 +97,63 @@ std::size_t columnsOf(char32_t character) {
 bool isLineEnd(char16_t unit) {
     return (unit >= u'\n' && unit <= u'\r') || unit == u'\u0085' || unit == u'\u2028' ||
            unit == u'\u2029';
+}
+
+bool isLetterOrNumber(char32_t character) {
+    return (U_GET_GC_MASK(code(character)) & (U_GC_L_MASK | U_GC_N_MASK)) != 0;
+}
+
+bool isDigit(char32_t character) {
+    return u_charType(code(character)) == U_DECIMAL_DIGIT_NUMBER;
+}
+
+bool isMark(char32_t character) {
+    return (U_GET_GC_MASK(code(character)) & U_GC_M_MASK) != 0;
+}
+
+bool isPictograph(char32_t character) {
+    return u_hasBinaryProperty(code(character), UCHAR_EXTENDED_PICTOGRAPHIC) != 0;
+}
+
+bool needsJoiners(char32_t character) {
+    if (!isLetterOrMark(character)) {
+        return false;
+    }
+    switch (scriptOf(character)) {
+    case USCRIPT_INVALID_CODE:
+    case USCRIPT_COMMON:
+    case USCRIPT_INHERITED:
+    case USCRIPT_UNKNOWN:
+    case USCRIPT_LATIN:
+    case USCRIPT_GREEK:
+    case USCRIPT_CYRILLIC:
+    case USCRIPT_ARMENIAN:
+    case USCRIPT_GEORGIAN:
+    case USCRIPT_ETHIOPIC:
+    case USCRIPT_CHEROKEE:
+    case USCRIPT_CANADIAN_ABORIGINAL:
+    case USCRIPT_HAN:
+    case USCRIPT_HIRAGANA:
+    case USCRIPT_KATAKANA:
+    case USCRIPT_BOPOMOFO:
+    case USCRIPT_HANGUL:
+    case USCRIPT_YI:
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool isWrittenWithoutBlanks(char32_t character) {
+    if (u_getIntPropertyValue(code(character), UCHAR_LINE_BREAK) == U_LB_COMPLEX_CONTEXT) {
+        return true;
+    }
+    const UScriptCode script = isLetterOrMark(character) ? scriptOf(character) : USCRIPT_COMMON;
+    return script == USCRIPT_BALINESE || script == USCRIPT_JAVANESE;
+}
+
+bool isHangul(char32_t character) {
+    return scriptOf(character) == USCRIPT_HANGUL;
 }
 
 bool isWordBoundary(std::u16string_view text, std::size_t at) {

@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
 namespace nerlo::text {
@@ -25,6 +26,11 @@ class UnitSet {
     constexpr explicit UnitSet(std::u16string_view units) {
         for (const char16_t unit : units) {
             add(unit, unit);
+        }
+    }
+    constexpr UnitSet(std::initializer_list<UnitRange> ranges) {
+        for (const UnitRange &range : ranges) {
+            add(range.first, range.last);
         }
     }
 
