@@ -64,6 +64,20 @@ struct CleaningOptions {
     bool udUnwrapTerminal = false;
     bool udRepairEncoding = false;
     bool udProtectStructure = false;
+    bool udCleanCharacters = false;
+    bool udCleanCharactersKeepControls = false;
+    bool udCleanCharactersKeepTags = false;
+    bool udCleanCharactersKeepPrivateUse = false;
+    bool udCleanCharactersKeepSoftHyphens = false;
+    bool udCleanCharactersKeepVariations = false;
+    bool udCleanCharactersKeepDirections = false;
+    bool udCleanCharactersKeepInvisible = false;
+    bool udCleanCharactersKeepLigatures = false;
+    bool udCleanCharactersKeepBlanks = false;
+    bool udCleanCharactersNarrow = false;
+    bool udCleanCharactersCompose = false;
+    bool udCleanCharactersPlainMarks = false;
+    bool udCleanCharactersMarkdown = false;
     bool udCleanLinks = false;
     PerSlot<bool> udChangeProperty{};
 

@@ -1,6 +1,7 @@
 #include "engine/Operations.h"
 
 #include "engine/CaseConversion.h"
+#include "engine/CharacterCleaning.h"
 #include "engine/EncodingRepair.h"
 #include "engine/FindReplace.h"
 #include "engine/LineJoining.h"
@@ -149,6 +150,10 @@ std::u16string findReplaceList(std::u16string text, const Context &context) {
     return replaceStringInFindReplace(std::move(text), context.options, context.report);
 }
 
+std::u16string removeOddCharacters(std::u16string text, const Context &context) {
+    return cleanCharacters(std::move(text), context.options);
+}
+
 std::u16string cleanAddresses(std::u16string text, const Context &context) {
     return cleanLinks(std::move(text), context.options.linkRules.get());
 }
@@ -250,6 +255,9 @@ constexpr Operation table[] = {
      nullptr, Reach::whole},
     {39, "repair-encoding", "sRepairEncoding", "undo that text was read in a wrong charset", repair,
      nullptr, Reach::whole},
+    {40, "clean-characters", "sCleanCharacters",
+     "take out characters that nobody sees, and odd ones to plain ones", removeOddCharacters,
+     nullptr, Reach::whole},
     {42, "clean-links", "sCleanLinks", "take tracking parameters out of web addresses",
      cleanAddresses, nullptr, Reach::whole},
 };
@@ -278,10 +286,10 @@ bool spacesBecomeTabs(const Options &options) {
 
 constexpr Step pipeline[] = {
     // Later steps see the characters as they were before a wrong charset, and the lines as they
-    // were
-    // before the terminal broke them.
+    // were before the terminal broke them.
     {on<&Options::udRepairEncoding>, 39},
     {on<&Options::udUnwrapTerminal>, 38},
+    {on<&Options::udCleanCharacters>, 40},
     {on<&Options::udCleanLinks>, 42},
     {on<&Options::udChangeMultipleTabsToSingleTab>, 0},
     {on<&Options::udRemoveAllSpaces>, 1},

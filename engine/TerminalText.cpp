@@ -35,38 +35,6 @@ bool isOneOf(char16_t unit, View units) {
 
 // --- control sequences
 
-// Where the control sequence that begins at `at` ends. A string sequence ends with BEL or
-// "ESC \" on its line; without an end only its introducer goes.
-std::size_t endOfSequence(View text, std::size_t at) {
-    std::size_t from = at + 1;
-    if (text[at] == escape) {
-        if (from == text.size()) {
-            return from;
-        }
-        const char16_t kind = text[from];
-        if (isOneOf(kind, u"]P^_X")) {
-            const std::size_t end = text.find_first_of(u"\a\x1B\n", from + 1);
-            if (end == View::npos || text[end] == u'\n') {
-                return from + 1;
-            }
-            const bool closed = text[end] == u'\a' || text.substr(end).starts_with(u"\x1B\\");
-            return closed ? end + (text[end] == u'\a' ? 1 : 2) : end;
-        }
-        if (kind != u'[') {
-            while (from < text.size() && text[from] >= u' ' && text[from] <= u'/') {
-                ++from; // "ESC ( B" chooses a character set
-            }
-            const bool final = from < text.size() && text[from] >= u'0' && text[from] <= u'~';
-            return final ? from + 1 : from;
-        }
-        ++from;
-    }
-    while (from < text.size() && text[from] >= u' ' && text[from] <= u'?') {
-        ++from;
-    }
-    return from < text.size() && text[from] >= u'@' && text[from] <= u'~' ? from + 1 : from;
-}
-
 // Without control sequences and without the letters that a back space struck over ("_\bx").
 std::u16string withoutControls(std::u16string text) {
     constexpr View controls = u"\x1B\x9B\b\a";
@@ -78,7 +46,7 @@ std::u16string withoutControls(std::u16string text) {
     while (at < text.size()) {
         const char16_t unit = text[at];
         if (unit == escape || unit == sequenceIntroducer) {
-            at = endOfSequence(text, at);
+            at = endOfControlSequence(text, at);
             continue;
         }
         if (unit == u'\b') {
@@ -584,6 +552,37 @@ class Unwrapping {
 };
 
 } // namespace
+
+// A string sequence ends with BEL or "ESC \" on its line; without an end only its introducer goes.
+std::size_t endOfControlSequence(View text, std::size_t at) {
+    std::size_t from = at + 1;
+    if (text[at] == escape) {
+        if (from == text.size()) {
+            return from;
+        }
+        const char16_t kind = text[from];
+        if (isOneOf(kind, u"]P^_X")) {
+            const std::size_t end = text.find_first_of(u"\a\x1B\n", from + 1);
+            if (end == View::npos || text[end] == u'\n') {
+                return from + 1;
+            }
+            const bool closed = text[end] == u'\a' || text.substr(end).starts_with(u"\x1B\\");
+            return closed ? end + (text[end] == u'\a' ? 1 : 2) : end;
+        }
+        if (kind != u'[') {
+            while (from < text.size() && text[from] >= u' ' && text[from] <= u'/') {
+                ++from; // "ESC ( B" chooses a character set
+            }
+            const bool final = from < text.size() && text[from] >= u'0' && text[from] <= u'~';
+            return final ? from + 1 : from;
+        }
+        ++from;
+    }
+    while (from < text.size() && text[from] >= u' ' && text[from] <= u'?') {
+        ++from;
+    }
+    return from < text.size() && text[from] >= u'@' && text[from] <= u'~' ? from + 1 : from;
+}
 
 std::u16string unwrapTerminal(std::u16string text) {
     text = withoutControls(std::move(text));

@@ -4,9 +4,14 @@
 // Texts are UTF-16. Pure, any thread, never fails, takes time in proportion to the text.
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace nerlo::engine {
+
+// Where the control sequence that begins at `at` with ESC or U+009B ends.
+std::size_t endOfControlSequence(std::u16string_view text, std::size_t at);
 
 // Takes out control sequences, frames of box-drawing characters, the gutter on the left and the
 // padding on the right, and joins the lines of prose that were wrapped at a width. The width is
