@@ -50,7 +50,7 @@ struct Run {
 // an accent.
 bool attaches(char32_t character) {
     const bool joiner = character >= U'\u200B' && character <= U'\u200D';
-    const bool partOfSyllable = character >= U'\u1160' && character <= U'\u11FF';
+    const bool partOfSyllable = character >= U'\u115F' && character <= U'\u11FF';
     return joiner || partOfSyllable || text::isMark(character);
 }
 

@@ -12,10 +12,6 @@ namespace nerlo::settings {
 
 namespace {
 
-using storage::PropertyArray;
-using storage::PropertyDictionary;
-using storage::PropertyValue;
-
 constexpr std::array<ReadyProfile, 7> profiles{{
     {"gentle", "sReadyGentle", "spaces and broken lines; code, tables and lists stay"},
     {"pdf", "sReadyPdf", "text out of a PDF: lines and hyphenated words joined"},
@@ -54,6 +50,8 @@ constexpr Value values[] = {
     {"udProtectStructure", 1, gentle | mail | web | terminal | assistant | code},
     {"udRepairEncoding", 1, gentle | pdf | mail | web},
     {"udUnwrapTerminal", 1, terminal},
+    {"udCleanCharacters", 1, pdf | mail | web | terminal | assistant},
+    {"udCleanCharactersPlainMarks", 1, assistant},
     {"udCleanLinks", 1, mail | web},
 
     {"udChangeMultipleSpacesToSingleSpace", 1, gentle | pdf | mail | web},
@@ -63,39 +61,7 @@ constexpr Value values[] = {
     {"udChangeWrongInsertedReturnsTo", 1, gentle | pdf | mail},
     {"udChangeWrongInsertedReturnsOption", 1, gentle | pdf | mail}, // a space
     {"udRemoveReplyQuotes", 1, mail},
-    {"udChangeEllipsisAndDots", 1, assistant},
-    {"udChangeEllipsisAndDotsOption", 1, assistant}, // to dots
 };
-
-// Rules of find and replace, in their order. Those of a list that is off are there to be switched
-// on.
-struct Rule {
-    std::u16string_view find;
-    std::u16string_view replace;
-    bool on;
-};
-// Quotation marks one by one: the option for quotes would make one kind of the two.
-constexpr Rule assistantRules[] = {
-    {u"[\u201C\u201D\u201E]", u"{delete}\"", true},
-    {u"[\u2018\u2019\u201A]", u"{delete}'", true},
-    {u"(?<=\\S)[ \\u00A0]?\u2014[ \\u00A0]?(?=\\S)", u"{delete} - ", true},
-    {u"[\u2010\u2011\u2013]", u"{delete}-", true},
-    {u"[\\u00A0\\u202F]", u"{delete} ", true},
-    // Markdown's marks stay unless somebody wants them out.
-    {u"(\\*\\*|__)(?=\\S)([^\\r\\n]+?)(?<=\\S)\\1", u"{delete}$2", false},
-    {u"(?<![\\p{L}\\p{N}*])\\*(?=[^\\s*])([^*\\r\\n]+?)(?<=\\S)\\*(?!\\*)", u"{delete}$1", false},
-    {u"(?m)^#{1,6}[ \\t]+", u"{delete}", false},
-    {u"`([^`\\r\\n]+)`", u"{delete}$1", false},
-};
-
-PropertyArray rulesOf(std::span<const Rule> rules) {
-    PropertyArray items;
-    for (const Rule &rule : rules) {
-        items.emplace_back(PropertyDictionary{
-            {"checkbox", rule.on}, {"find", rule.find}, {"replace", rule.replace}});
-    }
-    return items;
-}
 
 } // namespace
 
@@ -119,10 +85,6 @@ ProfileRecord readyRecord(const ReadyProfile &ready, std::u16string name) {
         if (row.profiles & set) {
             std::visit([&](auto value) { record.set(row.key, value); }, row.value);
         }
-    }
-    if (set == assistant) {
-        record.set("sFindReplaceBool", 1);
-        record.set("sFindAndReplaceItemsProfile", rulesOf(assistantRules));
     }
     return record;
 }

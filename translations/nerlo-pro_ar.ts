@@ -20,6 +20,10 @@
         <translation>الأسطر</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>المحارف</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>الحروف وعلامات الاقتباس</translation>
     </message>
@@ -576,6 +580,132 @@
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>قبل: ··نص··
 بعد: نص</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>تنظيف المحارف</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>قبل: ﬁ‹U+200B›x‹U+00A0›y
+بعد: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>إبقاء محارف التحكم</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>قبل: a␛[1mb␛[0m → ab
+بعد: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>إبقاء محارف الوسوم</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>قبل: a‹U+E0041›b → ab
+بعد: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>إبقاء محارف الاستعمال الخاص</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>قبل: a‹U+E000›b → ab
+بعد: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>إبقاء الشرطات اللينة</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>قبل: a‹U+00AD›b → ab
+بعد: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>إبقاء محددات الأشكال</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>قبل: a‹U+FE0F›b → ab
+بعد: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>إبقاء علامات الاتجاه</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>قبل: a‹U+200E›b → ab
+بعد: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>إبقاء المحارف عديمة العرض</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>قبل: a‹U+200B›b → ab
+بعد: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>إبقاء الحروف المركبة</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>قبل: ﬁ → fi
+بعد: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>إبقاء المسافات الخاصة</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>قبل: a‹U+00A0›b → a·b
+بعد: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>تحويل الحروف كاملة العرض إلى ضيقة</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>قبل: Ａ１
+بعد: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>الحرف وحركته محرفًا واحدًا (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>قبل: e + ◌́
+بعد: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>علامات اقتباس وشرطات ونقاط بسيطة</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>قبل: “a”—b…
+بعد: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>إزالة علامات Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>قبل: ## a↵- **b** `c`
+بعد: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

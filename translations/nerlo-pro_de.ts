@@ -20,6 +20,10 @@
         <translation>Zeilen</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Buchstaben und Zitate</translation>
     </message>
@@ -576,6 +580,132 @@ Nachher, mit [b] und [/b]: [b]eins[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Vorher: ··Text··
 Nachher: Text</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Zeichen säubern</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Vorher: ﬁ‹U+200B›x‹U+00A0›y
+Nachher: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Steuerzeichen behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Vorher: a␛[1mb␛[0m → ab
+Nachher: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Tag-Zeichen behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Vorher: a‹U+E0041›b → ab
+Nachher: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Zeichen zum privaten Gebrauch behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Vorher: a‹U+E000›b → ab
+Nachher: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Weiche Trennstriche behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Vorher: a‹U+00AD›b → ab
+Nachher: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Variantenwähler behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Vorher: a‹U+FE0F›b → ab
+Nachher: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Richtungszeichen behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Vorher: a‹U+200E›b → ab
+Nachher: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Zeichen ohne Breite behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Vorher: a‹U+200B›b → ab
+Nachher: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Ligaturen behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Vorher: ﬁ → fi
+Nachher: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Besondere Leerzeichen behalten</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Vorher: a‹U+00A0›b → a·b
+Nachher: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Vollbreite Buchstaben schmal machen</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Vorher: Ａ１
+Nachher: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Buchstaben mit Akzent als ein Zeichen (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Vorher: e + ◌́
+Nachher: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Einfache Anführungszeichen, Striche und Punkte</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Vorher: “a”—b…
+Nachher: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Markdown-Zeichen entfernen</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Vorher: ## a↵- **b** `c`
+Nachher: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

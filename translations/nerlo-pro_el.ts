@@ -20,6 +20,10 @@
         <translation>Γραμμές</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Χαρακτήρες</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Γράμματα και εισαγωγικά</translation>
     </message>
@@ -576,6 +580,132 @@
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Πριν: ··κείμενο··
 Μετά: κείμενο</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Καθαρισμός χαρακτήρων</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Πριν: ﬁ‹U+200B›x‹U+00A0›y
+Μετά: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Διατήρηση χαρακτήρων ελέγχου</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Πριν: a␛[1mb␛[0m → ab
+Μετά: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Διατήρηση χαρακτήρων ετικέτας</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Πριν: a‹U+E0041›b → ab
+Μετά: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Διατήρηση χαρακτήρων ιδιωτικής χρήσης</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Πριν: a‹U+E000›b → ab
+Μετά: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Διατήρηση μαλακών ενωτικών</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Πριν: a‹U+00AD›b → ab
+Μετά: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Διατήρηση επιλογέων παραλλαγής</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Πριν: a‹U+FE0F›b → ab
+Μετά: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Διατήρηση ενδείξεων κατεύθυνσης</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Πριν: a‹U+200E›b → ab
+Μετά: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Διατήρηση χαρακτήρων μηδενικού πλάτους</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Πριν: a‹U+200B›b → ab
+Μετά: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Διατήρηση συμπλεγμάτων</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Πριν: ﬁ → fi
+Μετά: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Διατήρηση ειδικών κενών</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Πριν: a‹U+00A0›b → a·b
+Μετά: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Γράμματα πλήρους πλάτους σε στενά</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Πριν: Ａ１
+Μετά: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Γράμμα και τόνος ως ένας χαρακτήρας (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Πριν: e + ◌́
+Μετά: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Απλά εισαγωγικά, παύλες και τελείες</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Πριν: “a”—b…
+Μετά: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Αφαίρεση σημαδιών Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Πριν: ## a↵- **b** `c`
+Μετά: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>Lines</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Characters</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Letters and quotes</translation>
     </message>
@@ -577,6 +581,132 @@ After, with [b] and [/b]: [b]one[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Before: ··text··
 After: text</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Clean characters</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Before: ﬁ‹U+200B›x‹U+00A0›y
+After: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Keep control characters</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Before: a␛[1mb␛[0m → ab
+After: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Keep tag characters</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Before: a‹U+E0041›b → ab
+After: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Keep private-use characters</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Before: a‹U+E000›b → ab
+After: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Keep soft hyphens</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Before: a‹U+00AD›b → ab
+After: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Keep variation selectors</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Before: a‹U+FE0F›b → ab
+After: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Keep direction marks</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Before: a‹U+200E›b → ab
+After: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Keep zero-width characters</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Before: a‹U+200B›b → ab
+After: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Keep ligatures</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Before: ﬁ → fi
+After: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Keep special spaces</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Before: a‹U+00A0›b → a·b
+After: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Full-width letters to narrow ones</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Before: Ａ１
+After: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Letters and accents as one (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Before: e + ◌́
+After: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Plain quotes, dashes and dots</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Before: “a”—b…
+After: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Take Markdown marks out</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Before: ## a↵- **b** `c`
+After: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

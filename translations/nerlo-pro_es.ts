@@ -20,6 +20,10 @@
         <translation>Líneas</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Letras y comillas</translation>
     </message>
@@ -576,6 +580,132 @@ Después, con [b] y [/b]: [b]uno[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Antes: ··texto··
 Después: texto</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Limpiar caracteres</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Antes: ﬁ‹U+200B›x‹U+00A0›y
+Después: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Conservar caracteres de control</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Antes: a␛[1mb␛[0m → ab
+Después: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Conservar caracteres de etiqueta</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Antes: a‹U+E0041›b → ab
+Después: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Conservar caracteres de uso privado</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Antes: a‹U+E000›b → ab
+Después: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Conservar guiones opcionales</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Antes: a‹U+00AD›b → ab
+Después: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Conservar selectores de variación</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Antes: a‹U+FE0F›b → ab
+Después: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Conservar marcas de dirección</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Antes: a‹U+200E›b → ab
+Después: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Conservar caracteres de ancho cero</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Antes: a‹U+200B›b → ab
+Después: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Conservar ligaduras</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Antes: ﬁ → fi
+Después: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Conservar espacios especiales</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Antes: a‹U+00A0›b → a·b
+Después: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Letras de ancho completo a estrechas</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Antes: Ａ１
+Después: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Letra y acento en un carácter (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Antes: e + ◌́
+Después: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Comillas, rayas y puntos simples</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Antes: “a”—b…
+Después: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Quitar las marcas de Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Antes: ## a↵- **b** `c`
+Después: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>Lignes</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Casse et guillemets</translation>
     </message>
@@ -576,6 +580,132 @@ Après, avec [b] et [/b] : [b]un[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Avant : ··texte··
 Après : texte</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Nettoyer les caractères</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Avant : ﬁ‹U+200B›x‹U+00A0›y
+Après : fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Garder les caractères de commande</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Avant : a␛[1mb␛[0m → ab
+Après : a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Garder les caractères d’étiquette</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Avant : a‹U+E0041›b → ab
+Après : a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Garder les caractères à usage privé</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Avant : a‹U+E000›b → ab
+Après : a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Garder les traits d’union conditionnels</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Avant : a‹U+00AD›b → ab
+Après : a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Garder les sélecteurs de variante</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Avant : a‹U+FE0F›b → ab
+Après : a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Garder les marques de direction</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Avant : a‹U+200E›b → ab
+Après : a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Garder les caractères sans chasse</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Avant : a‹U+200B›b → ab
+Après : a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Garder les ligatures</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Avant : ﬁ → fi
+Après : ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Garder les espaces spéciales</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Avant : a‹U+00A0›b → a·b
+Après : a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Lettres pleine chasse en lettres étroites</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Avant : Ａ１
+Après : A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Lettre et accent en un caractère (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Avant : e + ◌́
+Après : é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Guillemets, tirets et points simples</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Avant : “a”—b…
+Après : "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Retirer les marques Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Avant : ## a↵- **b** `c`
+Après : a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>Righe</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Caratteri</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Lettere e virgolette</translation>
     </message>
@@ -576,6 +580,132 @@ Dopo, con [b] e [/b]: [b]uno[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Prima: ··testo··
 Dopo: testo</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Pulisci i caratteri</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Prima: ﬁ‹U+200B›x‹U+00A0›y
+Dopo: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Mantieni i caratteri di controllo</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Prima: a␛[1mb␛[0m → ab
+Dopo: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Mantieni i caratteri tag</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Prima: a‹U+E0041›b → ab
+Dopo: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Mantieni i caratteri di uso privato</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Prima: a‹U+E000›b → ab
+Dopo: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Mantieni i trattini facoltativi</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Prima: a‹U+00AD›b → ab
+Dopo: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Mantieni i selettori di variazione</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Prima: a‹U+FE0F›b → ab
+Dopo: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Mantieni i segni di direzione</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Prima: a‹U+200E›b → ab
+Dopo: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Mantieni i caratteri a larghezza zero</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Prima: a‹U+200B›b → ab
+Dopo: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Mantieni le legature</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Prima: ﬁ → fi
+Dopo: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Mantieni gli spazi speciali</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Prima: a‹U+00A0›b → a·b
+Dopo: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Lettere a larghezza piena in lettere strette</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Prima: Ａ１
+Dopo: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Lettera e accento in un carattere (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Prima: e + ◌́
+Dopo: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Virgolette, trattini e puntini semplici</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Prima: “a”—b…
+Dopo: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Togli i segni di Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Prima: ## a↵- **b** `c`
+Dopo: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

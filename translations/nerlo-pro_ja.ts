@@ -20,6 +20,10 @@
         <translation>行</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>文字</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>文字と引用符</translation>
     </message>
@@ -576,6 +580,132 @@
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>前：··テキスト··
 後：テキスト</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>文字をきれいにする</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>前：ﬁ‹U+200B›x‹U+00A0›y
+後：fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>制御文字を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>前：a␛[1mb␛[0m → ab
+後：a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>タグ文字を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>前：a‹U+E0041›b → ab
+後：a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>私用文字を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>前：a‹U+E000›b → ab
+後：a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>ソフトハイフンを残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>前：a‹U+00AD›b → ab
+後：a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>異体字セレクターを残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>前：a‹U+FE0F›b → ab
+後：a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>方向の記号を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>前：a‹U+200E›b → ab
+後：a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>幅のない文字を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>前：a‹U+200B›b → ab
+後：a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>合字を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>前：ﬁ → fi
+後：ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>特殊な空白を残す</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>前：a‹U+00A0›b → a·b
+後：a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>全角英数字を半角にする</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>前：Ａ１
+後：A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>文字とアクセントを一つにする (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>前：e + ◌́
+後：é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>引用符・ダッシュ・三点を簡素にする</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>前：“a”—b…
+後："a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Markdown の記号を取り除く</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>前：## a↵- **b** `c`
+後：a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>Wiersze</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Znaki</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Litery i cudzysłowy</translation>
     </message>
@@ -576,6 +580,132 @@ Po, z [b] i [/b]: [b]jeden[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Przed: ··tekst··
 Po: tekst</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Oczyść znaki</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Przed: ﬁ‹U+200B›x‹U+00A0›y
+Po: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Zachowaj znaki sterujące</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Przed: a␛[1mb␛[0m → ab
+Po: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Zachowaj znaki etykiet</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Przed: a‹U+E0041›b → ab
+Po: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Zachowaj znaki użytku prywatnego</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Przed: a‹U+E000›b → ab
+Po: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Zachowaj miękkie łączniki</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Przed: a‹U+00AD›b → ab
+Po: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Zachowaj selektory wariantów</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Przed: a‹U+FE0F›b → ab
+Po: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Zachowaj znaki kierunku</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Przed: a‹U+200E›b → ab
+Po: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Zachowaj znaki zerowej szerokości</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Przed: a‹U+200B›b → ab
+Po: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Zachowaj ligatury</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Przed: ﬁ → fi
+Po: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Zachowaj odstępy specjalne</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Przed: a‹U+00A0›b → a·b
+Po: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Litery pełnej szerokości na wąskie</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Przed: Ａ１
+Po: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Litera z akcentem jako jeden znak (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Przed: e + ◌́
+Po: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Proste cudzysłowy, kreski i kropki</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Przed: “a”—b…
+Po: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Usuń znaczniki Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Przed: ## a↵- **b** `c`
+Po: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

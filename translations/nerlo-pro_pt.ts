@@ -20,6 +20,10 @@
         <translation>Linhas</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Letras e aspas</translation>
     </message>
@@ -576,6 +580,132 @@ Depois, com [b] e [/b]: [b]um[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Antes: ··texto··
 Depois: texto</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Limpar caracteres</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Antes: ﬁ‹U+200B›x‹U+00A0›y
+Depois: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Manter caracteres de controle</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Antes: a␛[1mb␛[0m → ab
+Depois: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Manter caracteres de etiqueta</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Antes: a‹U+E0041›b → ab
+Depois: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Manter caracteres de uso privado</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Antes: a‹U+E000›b → ab
+Depois: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Manter hifens opcionais</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Antes: a‹U+00AD›b → ab
+Depois: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Manter seletores de variação</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Antes: a‹U+FE0F›b → ab
+Depois: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Manter marcas de direção</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Antes: a‹U+200E›b → ab
+Depois: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Manter caracteres de largura zero</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Antes: a‹U+200B›b → ab
+Depois: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Manter ligaduras</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Antes: ﬁ → fi
+Depois: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Manter espaços especiais</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Antes: a‹U+00A0›b → a·b
+Depois: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Letras de largura inteira em letras estreitas</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Antes: Ａ１
+Depois: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Letra e acento em um caractere (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Antes: e + ◌́
+Depois: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Aspas, travessões e pontos simples</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Antes: “a”—b…
+Depois: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Tirar as marcas de Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Antes: ## a↵- **b** `c`
+Depois: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>Строки</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Символы</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Буквы и кавычки</translation>
     </message>
@@ -576,6 +580,132 @@
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>До: ··текст··
 После: текст</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Очистить символы</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>До: ﬁ‹U+200B›x‹U+00A0›y
+После: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Оставлять управляющие символы</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>До: a␛[1mb␛[0m → ab
+После: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Оставлять символы-теги</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>До: a‹U+E0041›b → ab
+После: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Оставлять символы частного использования</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>До: a‹U+E000›b → ab
+После: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Оставлять мягкие переносы</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>До: a‹U+00AD›b → ab
+После: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Оставлять селекторы вариантов</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>До: a‹U+FE0F›b → ab
+После: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Оставлять знаки направления</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>До: a‹U+200E›b → ab
+После: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Оставлять символы нулевой ширины</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>До: a‹U+200B›b → ab
+После: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Оставлять лигатуры</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>До: ﬁ → fi
+После: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Оставлять особые пробелы</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>До: a‹U+00A0›b → a·b
+После: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Полноширинные буквы в узкие</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>До: Ａ１
+После: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Буква с акцентом одним символом (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>До: e + ◌́
+После: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Простые кавычки, тире и точки</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>До: “a”—b…
+После: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Убрать разметку Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>До: ## a↵- **b** `c`
+После: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

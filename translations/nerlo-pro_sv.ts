@@ -20,6 +20,10 @@
         <translation>Rader</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Tecken</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Bokstäver och citat</translation>
     </message>
@@ -576,6 +580,132 @@ Efter, med [b] och [/b]: [b]ett[/b]</translation>
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>Före: ··text··
 Efter: text</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Rensa tecken</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>Före: ﬁ‹U+200B›x‹U+00A0›y
+Efter: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Behåll styrtecken</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>Före: a␛[1mb␛[0m → ab
+Efter: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Behåll taggtecken</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>Före: a‹U+E0041›b → ab
+Efter: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Behåll tecken för privat bruk</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>Före: a‹U+E000›b → ab
+Efter: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Behåll mjuka bindestreck</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>Före: a‹U+00AD›b → ab
+Efter: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Behåll variantväljare</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>Före: a‹U+FE0F›b → ab
+Efter: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Behåll riktningsmarkeringar</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>Före: a‹U+200E›b → ab
+Efter: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Behåll tecken utan bredd</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>Före: a‹U+200B›b → ab
+Efter: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Behåll ligaturer</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>Före: ﬁ → fi
+Efter: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Behåll särskilda blanksteg</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>Före: a‹U+00A0›b → a·b
+Efter: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Bokstäver i full bredd till smala</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>Före: Ａ１
+Efter: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Bokstav och accent som ett tecken (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>Före: e + ◌́
+Efter: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Enkla citattecken, streck och punkter</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>Före: “a”—b…
+Efter: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Ta bort Markdown-tecken</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>Före: ## a↵- **b** `c`
+Efter: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>Рядки</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>Символи</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>Літери й лапки</translation>
     </message>
@@ -576,6 +580,132 @@
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>До: ··текст··
 Після: текст</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>Очистити символи</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>До: ﬁ‹U+200B›x‹U+00A0›y
+Після: fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>Залишати керівні символи</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>До: a␛[1mb␛[0m → ab
+Після: a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>Залишати символи-теги</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>До: a‹U+E0041›b → ab
+Після: a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>Залишати символи приватного вжитку</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>До: a‹U+E000›b → ab
+Після: a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>Залишати м’які переноси</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>До: a‹U+00AD›b → ab
+Після: a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>Залишати селектори варіантів</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>До: a‹U+FE0F›b → ab
+Після: a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>Залишати знаки напрямку</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>До: a‹U+200E›b → ab
+Після: a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>Залишати символи нульової ширини</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>До: a‹U+200B›b → ab
+Після: a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>Залишати лігатури</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>До: ﬁ → fi
+Після: ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>Залишати особливі пробіли</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>До: a‹U+00A0›b → a·b
+Після: a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>Повноширинні літери у вузькі</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>До: Ａ１
+Після: A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>Літера з наголосом одним символом (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>До: e + ◌́
+Після: é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>Прості лапки, тире та крапки</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>До: “a”—b…
+Після: "a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>Прибрати розмітку Markdown</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>До: ## a↵- **b** `c`
+Після: a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>

@@ -20,6 +20,10 @@
         <translation>行</translation>
     </message>
     <message>
+        <source>sPageCharacters</source>
+        <translation>字符</translation>
+    </message>
+    <message>
         <source>sPageLetters</source>
         <translation>字母和引号</translation>
     </message>
@@ -576,6 +580,132 @@
         <source>sRemoveSpacesBeforeAndAfterTextTip</source>
         <translation>之前：··文本··
 之后：文本</translation>
+    </message>
+    <message>
+        <source>sCleanCharacters</source>
+        <translation>清理字符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersTip</source>
+        <translation>之前：ﬁ‹U+200B›x‹U+00A0›y
+之后：fix·y</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControls</source>
+        <translation>保留控制字符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepControlsTip</source>
+        <translation>之前：a␛[1mb␛[0m → ab
+之后：a␛[1mb␛[0m</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTags</source>
+        <translation>保留标签字符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepTagsTip</source>
+        <translation>之前：a‹U+E0041›b → ab
+之后：a‹U+E0041›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUse</source>
+        <translation>保留私用字符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepPrivateUseTip</source>
+        <translation>之前：a‹U+E000›b → ab
+之后：a‹U+E000›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphens</source>
+        <translation>保留软连字符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepSoftHyphensTip</source>
+        <translation>之前：a‹U+00AD›b → ab
+之后：a‹U+00AD›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariations</source>
+        <translation>保留变体选择符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepVariationsTip</source>
+        <translation>之前：a‹U+FE0F›b → ab
+之后：a‹U+FE0F›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirections</source>
+        <translation>保留方向标记</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepDirectionsTip</source>
+        <translation>之前：a‹U+200E›b → ab
+之后：a‹U+200E›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisible</source>
+        <translation>保留零宽字符</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepInvisibleTip</source>
+        <translation>之前：a‹U+200B›b → ab
+之后：a‹U+200B›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigatures</source>
+        <translation>保留连字</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepLigaturesTip</source>
+        <translation>之前：ﬁ → fi
+之后：ﬁ</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanks</source>
+        <translation>保留特殊空格</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersKeepBlanksTip</source>
+        <translation>之前：a‹U+00A0›b → a·b
+之后：a‹U+00A0›b</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrow</source>
+        <translation>全角字母转为半角</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersNarrowTip</source>
+        <translation>之前：Ａ１
+之后：A1</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersCompose</source>
+        <translation>字母与重音合为一个字符 (NFC)</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersComposeTip</source>
+        <translation>之前：e + ◌́
+之后：é</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarks</source>
+        <translation>使用普通引号、破折号和省略号</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersPlainMarksTip</source>
+        <translation>之前：“a”—b…
+之后："a" - b...</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdown</source>
+        <translation>去除 Markdown 标记</translation>
+    </message>
+    <message>
+        <source>sCleanCharactersMarkdownTip</source>
+        <translation>之前：## a↵- **b** `c`
+之后：a↵• b c</translation>
     </message>
     <message>
         <source>sChangeCaseTo</source>
