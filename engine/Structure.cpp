@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <span>
 
 namespace nerlo::engine {
@@ -16,7 +18,18 @@ using Lines = std::span<StructuredLine>;
 using text::isAsciiDigit;
 using text::isAsciiLetter;
 
-constexpr text::UnitSet breaks(u"\r\n");
+// Breaks, and what prose seldom has and everything else mostly: tabs, brackets but for round ones,
+// operators, signs of Markdown and of frames.
+constexpr text::UnitSet marks = [] {
+    text::UnitSet set;
+    set.add(u'\0', u'\x1F');
+    set.add(u'#', u'$');
+    set.add(u':', u'@');
+    set.add(u'[', u'`');
+    set.add(u'{', u'~');
+    set.add(u'\u2500', u'\u257F');
+    return set;
+}();
 
 bool isBlank(char16_t unit) {
     return unit == u' ' || unit == u'\t' || unit == u'\u00A0';
@@ -50,17 +63,56 @@ std::size_t runOf(View text, char16_t unit) {
     return std::min(text.find_first_not_of(unit), text.size());
 }
 
-std::vector<StructuredLine> splitLines(View text) {
-    std::vector<StructuredLine> lines;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = text::findUnit(text, begin, breaks);
-        const bool pair = text.substr(end).starts_with(u"\r\n");
-        const std::size_t next = std::min(text.size(), end + (pair ? 2 : 1));
-        lines.push_back({begin, end, next, LineKind::blank, begin, end});
-        begin = next;
+// Walks over the breaks of a text and tells for each line whether it has marks or wide gaps.
+class LineScan {
+  public:
+    explicit LineScan(View text)
+        : text_(text) {}
+
+    std::vector<StructuredLine> run() {
+        std::vector<StructuredLine> lines;
+        lines.reserve(text_.size() / 64);
+        for (std::size_t block = 0; block < text_.size(); block += text::scanBlock) {
+            const std::size_t count = std::min(text::scanBlock, text_.size() - block);
+            const bool whole = count == text::scanBlock;
+            const char16_t *const units = text_.data() + block;
+            std::uint64_t found =
+                whole ? text::scanUnits(units, marks) : text::scanTail(units, count, marks);
+            std::uint64_t gaps =
+                whole ? text::scanUnit(units, u' ') : text::scanTail(units, count, blank);
+            const std::uint64_t last = gaps >> 63;
+            gaps &= gaps << 1 | blankBefore_;
+            blankBefore_ = last;
+            for (found |= gaps; found != 0; found &= found - 1) {
+                const std::size_t at = block + static_cast<std::size_t>(std::countr_zero(found));
+                if (text_[at] != u'\n' && text_[at] != u'\r') {
+                    marked_ = true;
+                } else if (at >= begin_) {
+                    endLine(lines, at, text_.substr(at, 2) == u"\r\n" ? 2 : 1);
+                }
+            }
+        }
+        if (begin_ < text_.size()) {
+            endLine(lines, text_.size(), 0);
+        }
+        return lines;
     }
-    return lines;
-}
+
+  private:
+    void endLine(std::vector<StructuredLine> &lines, std::size_t end, std::size_t breakSize) {
+        lines.push_back(
+            {begin_, end, end + breakSize, LineKind::blank, begin_, end, false, marked_});
+        begin_ = end + breakSize;
+        marked_ = false;
+    }
+
+    static constexpr text::UnitSet blank = text::UnitSet(u" ");
+
+    const View text_;
+    std::size_t begin_ = 0;
+    bool marked_ = false;
+    std::uint64_t blankBefore_ = 0; // the last unit of the block above is a blank
+};
 
 // A line of three or more of one sign, blanks between them allowed: "---", "* * *".
 bool isRule(View words) {
@@ -79,8 +131,8 @@ bool isRule(View words) {
 }
 
 bool isHeading(View words) {
-    const std::size_t marks = runOf(words, u'#');
-    return marks >= 1 && marks <= 6 && (marks == words.size() || isBlank(words[marks]));
+    const std::size_t signs = runOf(words, u'#');
+    return signs >= 1 && signs <= 6 && (signs == words.size() || isBlank(words[signs]));
 }
 
 // The size of a list mark with the blanks behind it, or 0: "- ", "12. ", "(a) ", "[x] ", "• ".
@@ -202,7 +254,7 @@ class MarkedStructure {
         at_ = frontMatter();
         for (; at_ < lines_.size(); ++at_) {
             line_ = text_.substr(lines_[at_].begin, lines_[at_].end - lines_[at_].begin);
-            lines_[at_].kind = next();
+            lines_[at_].kind = isPlain() ? plain() : next();
             above_ = lines_[at_].kind;
         }
     }
@@ -220,11 +272,30 @@ class MarkedStructure {
         for (std::size_t at = 1; at < lines_.size() && !trimmed(lineAt(at)).empty(); ++at) {
             if (lineAt(at) == u"---" || lineAt(at) == u"...") {
                 std::ranges::for_each(lines_.first(at + 1),
-                                      [](auto &line) { line.kind = LineKind::markup; });
+                                      [](auto &line) { line.kind = LineKind::data; });
                 return at + 1;
             }
         }
         return 0;
+    }
+
+    // Whether a look at the beginning is enough to see that the line is prose.
+    bool isPlain() const {
+        return !lines_[at_].marked && line_.size() > 1 && isAsciiLetter(line_[0]) &&
+               line_[1] != u'.' && line_[1] != u')' && !isInsideBlock() &&
+               !line_.starts_with(u"diff ");
+    }
+
+    bool isInsideBlock() const { return fenceSize_ > 0 || signature_ || markupEnd_ || patch_; }
+
+    LineKind plain() {
+        if (content_ > 0 && (blankAbove_ || above_ != LineKind::prose)) {
+            content_ = 0;
+        }
+        blankAbove_ = false;
+        quotedAbove_ = false;
+        lines_[at_].words = lines_[at_].begin;
+        return LineKind::prose;
     }
 
     LineKind next() {
@@ -243,6 +314,7 @@ class MarkedStructure {
         if (words == line_.size()) {
             patch_ = patch_ && !line_.empty();
             blankAbove_ = true;
+            quotedAbove_ = false;
             return LineKind::blank;
         }
         const bool blankAbove = blankAbove_ || at_ == 0;
@@ -260,30 +332,43 @@ class MarkedStructure {
 
     LineKind withoutQuote(std::size_t words, bool blankAbove) {
         auto &line = lines_[at_];
+        std::size_t column = columnOf(line_, words);
+        bool apart = blankAbove || above_ == LineKind::code || above_ == LineKind::heading;
+        if (column >= content_ + 4 && apart) {
+            return LineKind::code;
+        }
         const std::size_t quote = words;
+        std::size_t behind = words; // the marks and one blank each
         while (words < line_.size() && line_[words] == u'>' &&
                !line_.substr(words).starts_with(u">>> ")) {
+            behind = words + 1;
+            behind += behind < line_.size() && isBlank(line_[behind]) ? 1 : 0;
             words = firstInk(line_, words + 1);
-            // Behind the mark and one blank begins the quotation, whose own indent counts.
         }
-        line.quoted = words > quote ? line.begin + words : line.begin;
+        const bool quoted = words > quote;
+        apart = apart || (quoted && !quotedAbove_);
+        quotedAbove_ = quoted;
         line.words = line.begin + words;
-        const std::size_t column =
-            columnOf(line_, words) - (words > quote ? columnOf(line_, quote) : 0);
+        if (!quoted) {
+            return inside(line_.substr(words), column, apart);
+        }
+        line.quoted = line.begin + behind;
         if (words == line_.size()) {
+            blankAbove_ = true;
             return LineKind::prose; // "> " alone: a blank line of the quotation
         }
-        const std::size_t indent = words > quote ? std::min<std::size_t>(column, 3) : column;
-        return inside(line_.substr(words), indent, blankAbove);
+        // A tab behind the mark reaches as far as it would without the mark.
+        const std::size_t marksEnd = columnOf(line_, behind - (line_[behind - 1] == u'\t' ? 1 : 0));
+        column = columnOf(line_, words) - marksEnd - (line_[behind - 1] == u'\t' ? 1 : 0);
+        return inside(line_.substr(words), column, apart);
     }
 
-    LineKind inside(View words, std::size_t column, bool blankAbove) {
+    LineKind inside(View words, std::size_t column, bool apart) {
         auto &line = lines_[at_];
         if (opensFence(words)) {
             return LineKind::fence;
         }
         // Four columns more than the list item or the text that it stands in.
-        const bool apart = blankAbove || above_ == LineKind::code || above_ == LineKind::heading;
         if (column >= content_ + 4 && apart) {
             return LineKind::code;
         }
@@ -293,7 +378,7 @@ class MarkedStructure {
         if (isRule(trimmed(words))) {
             content_ = 0;
             const bool underlines = words[0] == u'=' || words[0] == u'-';
-            if (underlines && above_ == LineKind::prose && !blankAbove) {
+            if (underlines && above_ == LineKind::prose && !apart) {
                 lines_[at_ - 1].kind = LineKind::heading;
             }
             return LineKind::rule;
@@ -302,7 +387,7 @@ class MarkedStructure {
             return LineKind::heading;
         }
         if (isLinkDefinition(words)) {
-            return LineKind::markup;
+            return LineKind::data;
         }
         if ((markupEnd_ = endOfMarkup(words))) {
             return insideMarkup();
@@ -315,7 +400,13 @@ class MarkedStructure {
             line.words += mark;
             content_ = column + mark;
             const View rest = words.substr(mark);
-            return opensFence(rest) ? LineKind::fence : LineKind::prose;
+            if (opensFence(rest)) {
+                return LineKind::fence;
+            }
+            // So far behind its mark, the item begins with code.
+            const std::size_t ink = words.substr(0, mark).find_last_not_of(u" \t\u00A0");
+            const bool far = words[0] < 0x80 && mark - ink > 5;
+            return far && mark < words.size() ? LineKind::code : LineKind::prose;
         }
         return LineKind::prose;
     }
@@ -363,6 +454,7 @@ class MarkedStructure {
     View line_;
     LineKind above_ = LineKind::blank;
     bool blankAbove_ = false;
+    bool quotedAbove_ = false;
     std::size_t content_ = 0; // the column at which the words of the present list item begin
     std::size_t fenceSize_ = 0;
     char16_t fenceSign_ = 0;
@@ -397,26 +489,54 @@ std::size_t innerTabs(View words) {
     return static_cast<std::size_t>(std::ranges::count(trimmed(words), u'\t'));
 }
 
-// The columns at which ink begins behind a gap of two or more blanks. A gap behind the end of a
-// sentence is how some people type.
-std::vector<std::size_t> columnStarts(View line) {
+// The columns of a line: where ink ends before a gap of two or more blanks and begins behind it. A
+// gap behind the end of a sentence is how some people type; behind a name with a colon it is not.
+struct Columns {
+    std::vector<std::size_t> ends;
     std::vector<std::size_t> starts;
-    for (std::size_t at = firstInk(line); at < line.size();) {
+};
+
+Columns columnsOf(View line, std::size_t words) {
+    Columns columns;
+    for (std::size_t at = words; at < line.size();) {
         const std::size_t gap = line.find(u"  ", at);
         if (gap == View::npos) {
             break;
         }
         at = firstInk(line, gap);
-        if (at < line.size() && View(u".!?:").find(line[gap - 1]) == View::npos) {
-            starts.push_back(at);
+        const char16_t before = line[gap - 1];
+        const bool named =
+            before == u':' && line.substr(words, gap - words).find(u' ') == View::npos;
+        if (at < line.size() && (named || View(u".!?:").find(before) == View::npos)) {
+            columns.ends.push_back(gap);
+            columns.starts.push_back(at);
         }
     }
-    return starts;
+    return columns;
 }
 
 bool shareColumn(const std::vector<std::size_t> &a, const std::vector<std::size_t> &b) {
     return std::ranges::any_of(
         a, [&](std::size_t column) { return std::ranges::binary_search(b, column); });
+}
+
+bool isAligned(const Columns &a, const Columns &b) {
+    return shareColumn(a.starts, b.starts) || shareColumn(a.ends, b.ends) ||
+           (a.starts.size() > 1 && b.starts.size() > 1);
+}
+
+// Separators of a list of values: not followed by a blank, nor between digits.
+std::size_t separators(View words) {
+    std::size_t count = 0;
+    for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+        const bool comma = words[at] == u',';
+        if (comma || words[at] == u';') {
+            const bool number =
+                comma && at > 0 && isAsciiDigit(words[at - 1]) && isAsciiDigit(words[at + 1]);
+            count += isBlank(words[at + 1]) || number ? 0 : 1;
+        }
+    }
+    return count;
 }
 
 constexpr std::array<View, 40> codeStarts{
@@ -442,6 +562,11 @@ bool isWordy(View words) {
     return plain > 5 && plain * 5 >= all * 3;
 }
 
+bool beginsLikeCode(View words) {
+    return std::ranges::any_of(
+        codeStarts, [&](View start) { return words[0] == start[0] && words.starts_with(start); });
+}
+
 bool looksLikeCode(View words) {
     words = trimmed(words);
     if (words.empty()) {
@@ -460,8 +585,13 @@ bool looksLikeCode(View words) {
                          words.find(u"->") != View::npos || words.find(u"::") != View::npos)) {
         return true;
     }
-    return std::ranges::any_of(codeStarts, [&](View start) { return words.starts_with(start); }) &&
-           last != u'.';
+    return beginsLikeCode(words) && last != u'.';
+}
+
+// Whether a line that has no marks needs that closer look.
+bool mayBeCode(View line) {
+    const View end = line.size() > 1 ? line.substr(line.size() - 2) : line;
+    return end.ends_with(u'(') || end == u")," || end == u"\"," || beginsLikeCode(line);
 }
 
 // The second pass: what lines say together. Takes each run of lines that the first pass left as
@@ -507,40 +637,87 @@ class Paragraphs {
             const LineKind kind = lines_[at].kind;
             if (kind == LineKind::prose || kind == LineKind::code) {
                 ++inked;
-                code += looksLikeCode(wordsAt(at));
+                code += looksLikeCodeAt(at) ? 1 : 0;
             }
         }
         return inked > 3 && code * 4 > inked;
     }
 
+    bool looksLikeCodeAt(std::size_t at) const {
+        const View words = wordsAt(at);
+        return !words.empty() && (lines_[at].marked || mayBeCode(words)) && looksLikeCode(words);
+    }
+
     void paragraph(std::size_t begin, std::size_t end) {
-        tables(begin, end);
+        const bool marked = std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(begin),
+                                        lines_.begin() + static_cast<std::ptrdiff_t>(end),
+                                        [](const StructuredLine &line) { return line.marked; });
+        if (marked) {
+            tables(begin, end);
+        }
+        if (isListOfValues(begin, end)) {
+            become(LineKind::table, begin, end);
+        }
         std::size_t code = 0;
         std::size_t counted = 0;
         for (std::size_t at = begin; at < end; ++at) {
-            counted += lines_[at].kind == LineKind::prose;
-            code += lines_[at].kind == LineKind::prose && looksLikeCode(wordsAt(at));
+            counted += lines_[at].kind == LineKind::prose ? 1 : 0;
+            code += lines_[at].kind == LineKind::prose && looksLikeCodeAt(at) ? 1 : 0;
         }
-        if (code * 2 >= counted) {
-            for (std::size_t at = begin; at < end && code > 0; ++at) {
-                if (lines_[at].kind == LineKind::prose) {
-                    lines_[at].kind = LineKind::code;
-                }
+        if ((code > 0 && code * 2 >= counted) || isIndentedUnevenly(begin, end)) {
+            become(LineKind::code, begin, end);
+        }
+    }
+
+    void become(LineKind kind, std::size_t begin, std::size_t end) {
+        for (std::size_t at = begin; at < end; ++at) {
+            lines_[at].kind = lines_[at].kind == LineKind::prose ? kind : lines_[at].kind;
+        }
+    }
+
+    // As many separators in the first two lines, and no prose between them.
+    bool isListOfValues(std::size_t begin, std::size_t end) const {
+        if (end - begin < 2) {
+            return false;
+        }
+        const std::size_t first = separators(wordsAt(begin));
+        return first > 0 && (first > 1 || end - begin > 2) &&
+               separators(wordsAt(begin + 1)) == first;
+    }
+
+    // Below its first line, prose outside of lists keeps to one edge.
+    bool isIndentedUnevenly(std::size_t begin, std::size_t end) const {
+        std::size_t least = View::npos;
+        std::size_t most = 0;
+        for (std::size_t at = begin; at < end; ++at) {
+            const auto &line = lines_[at];
+            if (line.item || line.quoted > line.begin) {
+                return false;
             }
+            const std::size_t indent = line.words - line.begin;
+            least = std::min(least, indent);
+            most = at > begin ? std::max(most, indent) : 0;
         }
+        return most > least + 1;
     }
 
     void tables(std::size_t begin, std::size_t end) {
         bool below = false; // the rule of a table of Markdown
-        std::vector<std::size_t> starts;
+        Columns columns;
         std::size_t tabs = 0;
         for (std::size_t at = begin; at < end; ++at) {
+            if (!lines_[at].marked) {
+                below = false;
+                columns = {};
+                tabs = 0;
+                continue;
+            }
             const View words = wordsAt(at);
             below = (below && words.find(u'|') != View::npos) || isTableRule(words);
-            auto own = columnStarts(lineAt(at));
+            Columns own = columnsOf(lineAt(at), lines_[at].words - lines_[at].begin);
             const std::size_t ownTabs = innerTabs(words);
             const bool aligned =
-                at > begin && (shareColumn(starts, own) || (ownTabs > 0 && ownTabs == tabs));
+                at > begin && (isAligned(columns, own) || (ownTabs > 0 && ownTabs == tabs));
             if (aligned || (below && at > begin && isTableRule(words))) {
                 lines_[at - 1].kind = LineKind::table;
             }
@@ -548,7 +725,7 @@ class Paragraphs {
                 isFileMode(words)) {
                 lines_[at].kind = LineKind::table;
             }
-            starts = std::move(own);
+            columns = std::move(own);
             tabs = ownTabs;
         }
     }
@@ -560,7 +737,7 @@ class Paragraphs {
 } // namespace
 
 std::vector<StructuredLine> scanStructure(View text) {
-    auto lines = splitLines(text);
+    auto lines = LineScan(text).run();
     MarkedStructure(text, lines).run();
     Paragraphs(text, lines).run();
     return lines;

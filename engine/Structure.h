@@ -22,7 +22,8 @@ enum class LineKind : std::uint8_t {
     table,     // columns between "|", between tabs, or below each other
     prompt,    // a shell's prompt with its command
     diff,      // a patch
-    markup,    // blocks of HTML, front matter, definitions of links
+    markup,    // blocks of HTML
+    data,      // front matter, definitions of links
     signature, // below the "-- " of a mail
 };
 
@@ -34,6 +35,7 @@ struct StructuredLine {
     std::size_t quoted = 0; // behind the marks of a quotation; begin where there are none
     std::size_t words = 0;  // where the words begin: behind indent, quotation and list marks
     bool item = false;      // a list mark stands before the words
+    bool marked = false;    // some unit of the line is more than letters, digits and single blanks
 };
 
 // A break is CR LF, CR or LF. The text "" has no line, "a\n" has one.

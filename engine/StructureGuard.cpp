@@ -129,6 +129,11 @@ class Guard {
                 steps_.push_back(guarded(step));
             }
         }
+        for (StructuredLine &line : lines_) {
+            if (tagsGo_ && line.kind == LineKind::markup) {
+                line.kind = LineKind::prose;
+            }
+        }
     }
 
     std::u16string run() {
@@ -164,7 +169,9 @@ class Guard {
     void appendFixed(std::size_t at) {
         const auto &line = lines_[at];
         const std::size_t begin = result_.size();
-        result_.append(cut(line.begin, line.end));
+        if (!marksGo_ || !isQuotedProse(at)) { // else it is a blank line of a quotation
+            result_.append(cut(line.begin, line.end));
+        }
         if (line.kind != LineKind::blank) {
             markFixed(begin);
         }
@@ -312,7 +319,7 @@ class Guard {
     const View text_;
     const CleaningContext &context_;
     const std::size_t pieceSize_;
-    const std::vector<StructuredLine> lines_;
+    std::vector<StructuredLine> lines_;
     std::vector<const Operation *> steps_;
     bool marksGo_ = false;
     bool bulletsGo_ = false;
