@@ -24,7 +24,8 @@ constexpr text::UnitSet marks = [] {
     text::UnitSet set;
     set.add(u'\0', u'\x1F');
     set.add(u'#', u'$');
-    set.add(u':', u'@');
+    set.add(u':', u'>');
+    set.add(u'@', u'@');
     set.add(u'[', u'`');
     set.add(u'{', u'~');
     set.add(u'\u2500', u'\u257F');
@@ -70,8 +71,7 @@ class LineScan {
         : text_(text) {}
 
     std::vector<StructuredLine> run() {
-        std::vector<StructuredLine> lines;
-        lines.reserve(text_.size() / 64);
+        lines_.reserve(text_.size() / 48);
         for (std::size_t block = 0; block < text_.size(); block += text::scanBlock) {
             const std::size_t count = std::min(text::scanBlock, text_.size() - block);
             const bool whole = count == text::scanBlock;
@@ -84,33 +84,43 @@ class LineScan {
             gaps &= gaps << 1 | blankBefore_;
             blankBefore_ = last;
             for (found |= gaps; found != 0; found &= found - 1) {
-                const std::size_t at = block + static_cast<std::size_t>(std::countr_zero(found));
-                if (text_[at] != u'\n' && text_[at] != u'\r') {
-                    marked_ = true;
-                } else if (at >= begin_) {
-                    endLine(lines, at, text_.substr(at, 2) == u"\r\n" ? 2 : 1);
-                }
+                take(block + static_cast<std::size_t>(std::countr_zero(found)));
             }
         }
         if (begin_ < text_.size()) {
-            endLine(lines, text_.size(), 0);
+            endLine(text_.size(), 0);
         }
-        return lines;
+        return std::move(lines_);
     }
 
   private:
-    void endLine(std::vector<StructuredLine> &lines, std::size_t end, std::size_t breakSize) {
-        lines.push_back(
-            {begin_, end, end + breakSize, LineKind::blank, begin_, end, false, marked_});
+    void take(std::size_t at) {
+        const char16_t unit = text_[at];
+        if (unit == u'\n' || unit == u'\r') {
+            if (at >= begin_) {
+                endLine(at, text_.substr(at, 2) == u"\r\n" ? 2 : 1);
+            }
+        } else if (unit <= u' ' || unit == u'|' || unit >= u'\u2500') {
+            tabular_ = true;
+        } else {
+            marked_ = true;
+        }
+    }
+
+    void endLine(std::size_t end, std::uint8_t breakSize) {
+        lines_.push_back(
+            {begin_, end, begin_, end, LineKind::blank, breakSize, false, marked_, tabular_});
         begin_ = end + breakSize;
-        marked_ = false;
+        marked_ = tabular_ = false;
     }
 
     static constexpr text::UnitSet blank = text::UnitSet(u" ");
 
     const View text_;
     std::size_t begin_ = 0;
+    std::vector<StructuredLine> lines_;
     bool marked_ = false;
+    bool tabular_ = false;
     std::uint64_t blankBefore_ = 0; // the last unit of the block above is a blank
 };
 
@@ -163,6 +173,19 @@ std::size_t listMark(View words) {
     return firstInk(words, size);
 }
 
+// "-rw-r--r-- 1 root": a line of a list of files.
+bool isFileMode(View words) {
+    return words.size() > 10 && (words[1] == u'r' || words[1] == u'-') &&
+           View(u"-dlbcps").find(words[0]) != View::npos &&
+           words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
+}
+
+// "user@host" at the beginning.
+bool beginsWithHost(View words) {
+    const std::size_t sign = words.find_first_of(u"@ ");
+    return sign != View::npos && sign > 0 && words[sign] == u'@';
+}
+
 // "$ make", "user@host:~/dir$ ls", ">>> x", "PS C:\> dir".
 bool isPrompt(View words) {
     for (const View sign : {View(u"$ "), View(u"% "), View(u">>> "), View(u"... "),
@@ -171,12 +194,12 @@ bool isPrompt(View words) {
             return sign != u"PS " || words.find(u"> ") != View::npos;
         }
     }
-    const std::size_t sign = words.find_first_of(u"$#%");
-    if (sign == View::npos || sign < 3 || (sign + 1 < words.size() && words[sign + 1] != u' ')) {
+    if (!beginsWithHost(words)) {
         return false;
     }
-    const View host = words.substr(0, sign);
-    return host.find(u'@') != View::npos && host.find(u' ') == View::npos;
+    const std::size_t sign = words.find_first_of(u"$#%");
+    return sign != View::npos && (sign + 1 == words.size() || words[sign + 1] == u' ') &&
+           words.substr(0, sign).find(u' ') == View::npos;
 }
 
 constexpr std::array<View, 34> blockTags{
@@ -279,11 +302,14 @@ class MarkedStructure {
         return 0;
     }
 
-    // Whether a look at the beginning is enough to see that the line is prose.
+    // Whether a look at the beginning is enough to see that the line is prose, or goes with the
+    // lines around it.
     bool isPlain() const {
-        return !lines_[at_].marked && line_.size() > 1 && isAsciiLetter(line_[0]) &&
-               line_[1] != u'.' && line_[1] != u')' && !isInsideBlock() &&
-               !line_.starts_with(u"diff ");
+        const bool word =
+            line_.size() > 1 && isAsciiLetter(line_[0]) && line_[1] != u'.' && line_[1] != u')';
+        return word && !isInsideBlock() && !line_.starts_with(u"diff ") &&
+               !line_.starts_with(u"Index: ") && !line_.starts_with(u"PS ") &&
+               !(lines_[at_].marked && beginsWithHost(line_)) && !isFileMode(line_);
     }
 
     bool isInsideBlock() const { return fenceSize_ > 0 || signature_ || markupEnd_ || patch_; }
@@ -395,6 +421,9 @@ class MarkedStructure {
         if (isPrompt(words)) {
             return LineKind::prompt;
         }
+        if (isFileMode(words)) {
+            return LineKind::table;
+        }
         if (const std::size_t mark = listMark(words)) {
             line.item = true;
             line.words += mark;
@@ -472,12 +501,6 @@ bool isTableRule(View words) {
 bool isDrawn(View words) {
     return std::ranges::any_of(
         words, [](char16_t unit) { return unit >= u'\u2500' && unit <= u'\u257F'; });
-}
-
-// "-rw-r--r-- 1 root": a line of a list of files.
-bool isFileMode(View words) {
-    return words.size() > 10 && View(u"-dlbcps").find(words[0]) != View::npos &&
-           words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
 }
 
 bool isPipeRow(View words) {
@@ -562,9 +585,30 @@ bool isWordy(View words) {
     return plain > 5 && plain * 5 >= all * 3;
 }
 
+std::size_t hashOf(char16_t first, char16_t second) {
+    return (first * 31u + second) % 256;
+}
+
+// Whether a line that begins with a letter may begin like code, by its first two units.
+const std::array<bool, 256> &codeHashes() {
+    static const auto hashes = [] {
+        std::array<bool, 256> found{};
+        for (const View start : codeStarts) {
+            if (start.size() > 1) {
+                found[hashOf(start[0], start[1])] = true;
+            }
+        }
+        return found;
+    }();
+    return hashes;
+}
+
 bool beginsLikeCode(View words) {
-    return std::ranges::any_of(
-        codeStarts, [&](View start) { return words[0] == start[0] && words.starts_with(start); });
+    const bool mayBegin =
+        !isAsciiLetter(words[0]) || (words.size() > 1 && codeHashes()[hashOf(words[0], words[1])]);
+    return mayBegin && std::ranges::any_of(codeStarts, [&](View start) {
+               return words[0] == start[0] && words.starts_with(start);
+           });
 }
 
 bool looksLikeCode(View words) {
@@ -630,14 +674,16 @@ class Paragraphs {
     }
 
     // A file of a program: what is prose in it are comments.
-    bool isSourceCode() const {
+    bool isSourceCode() {
         std::size_t inked = 0;
         std::size_t code = 0;
+        code_.resize(lines_.size());
         for (std::size_t at = 0; at < lines_.size(); ++at) {
             const LineKind kind = lines_[at].kind;
             if (kind == LineKind::prose || kind == LineKind::code) {
                 ++inked;
-                code += looksLikeCodeAt(at) ? 1 : 0;
+                code_[at] = looksLikeCodeAt(at);
+                code += code_[at] ? 1 : 0;
             }
         }
         return inked > 3 && code * 4 > inked;
@@ -649,10 +695,10 @@ class Paragraphs {
     }
 
     void paragraph(std::size_t begin, std::size_t end) {
-        const bool marked = std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(begin),
-                                        lines_.begin() + static_cast<std::ptrdiff_t>(end),
-                                        [](const StructuredLine &line) { return line.marked; });
-        if (marked) {
+        const bool tabular = std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(begin),
+                                         lines_.begin() + static_cast<std::ptrdiff_t>(end),
+                                         [](const StructuredLine &line) { return line.tabular; });
+        if (tabular) {
             tables(begin, end);
         }
         if (isListOfValues(begin, end)) {
@@ -662,7 +708,7 @@ class Paragraphs {
         std::size_t counted = 0;
         for (std::size_t at = begin; at < end; ++at) {
             counted += lines_[at].kind == LineKind::prose ? 1 : 0;
-            code += lines_[at].kind == LineKind::prose && looksLikeCodeAt(at) ? 1 : 0;
+            code += lines_[at].kind == LineKind::prose && code_[at] ? 1 : 0;
         }
         if ((code > 0 && code * 2 >= counted) || isIndentedUnevenly(begin, end)) {
             become(LineKind::code, begin, end);
@@ -706,7 +752,7 @@ class Paragraphs {
         Columns columns;
         std::size_t tabs = 0;
         for (std::size_t at = begin; at < end; ++at) {
-            if (!lines_[at].marked) {
+            if (!lines_[at].tabular) {
                 below = false;
                 columns = {};
                 tabs = 0;
@@ -721,8 +767,7 @@ class Paragraphs {
             if (aligned || (below && at > begin && isTableRule(words))) {
                 lines_[at - 1].kind = LineKind::table;
             }
-            if (aligned || below || ownTabs > 1 || isPipeRow(words) || isDrawn(words) ||
-                isFileMode(words)) {
+            if (aligned || below || ownTabs > 1 || isPipeRow(words) || isDrawn(words)) {
                 lines_[at].kind = LineKind::table;
             }
             columns = std::move(own);
@@ -732,6 +777,7 @@ class Paragraphs {
 
     const View text_;
     const Lines lines_;
+    std::vector<bool> code_; // lines that look like it
 };
 
 } // namespace

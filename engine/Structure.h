@@ -29,13 +29,17 @@ enum class LineKind : std::uint8_t {
 
 struct StructuredLine {
     std::size_t begin = 0;
-    std::size_t end = 0;  // of the line without its break
-    std::size_t next = 0; // begin of the line below; the text's size for the last
-    LineKind kind = LineKind::blank;
+    std::size_t end = 0;    // of the line without its break
     std::size_t quoted = 0; // behind the marks of a quotation; begin where there are none
     std::size_t words = 0;  // where the words begin: behind indent, quotation and list marks
-    bool item = false;      // a list mark stands before the words
-    bool marked = false;    // some unit of the line is more than letters, digits and single blanks
+    LineKind kind = LineKind::blank;
+    std::uint8_t breakSize = 0; // 0 for a last line without one
+    bool item = false;          // a list mark stands before the words
+    bool marked = false;        // has signs that are seldom in prose
+    bool tabular = false;       // has tabs, bars or gaps
+
+    // Where the line below begins; the text's size for the last.
+    std::size_t next() const { return end + breakSize; }
 };
 
 // A break is CR LF, CR or LF. The text "" has no line, "a\n" has one.

@@ -4,10 +4,11 @@
 #include "engine/LineJoining.h"
 #include "engine/Markup.h"
 #include "engine/Structure.h"
-#include "engine/Whitespace.h"
+#include "text/Characters.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -87,29 +88,38 @@ struct Signed {
     }
 };
 
-std::u16string withLiterals(View text, char16_t sign, const std::vector<std::u16string> &literals) {
+std::u16string withLiterals(std::u16string &&text, char16_t sign,
+                            const std::vector<std::u16string> &literals) {
+    if (literals.empty()) {
+        return std::move(text);
+    }
     std::u16string result;
     std::size_t from = 0;
     for (const std::u16string &literal : literals) {
         const std::size_t at = text.find(sign, from);
-        result.append(text.substr(from, at - from)).append(literal);
+        result.append(text, from, at - from).append(literal);
         from = at + 1;
     }
-    return result.append(text.substr(from));
+    return result.append(text, from);
 }
 
 constexpr std::int32_t removeTagsOperation = 11;
 
 // Code and addresses, and the sign itself where the text has it.
-Signed withoutInlineStructure(View text, bool tagsGo) {
+Signed withoutInlineStructure(std::u16string &&text, bool tagsGo) {
     Signed result;
+    const auto ranges = findInlineStructure(text, wordSign, tagsGo);
+    if (ranges.empty()) {
+        result.text = std::move(text);
+        return result;
+    }
     std::size_t from = 0;
-    for (const text::Range &range : findInlineStructure(text, wordSign, tagsGo)) {
-        result.text.append(text.substr(from, range.begin - from));
-        result.add(wordSign, text.substr(range.begin, range.end - range.begin));
+    for (const text::Range &range : ranges) {
+        result.text.append(text, from, range.begin - from);
+        result.add(wordSign, View(text).substr(range.begin, range.end - range.begin));
         from = range.end;
     }
-    result.text.append(text.substr(from));
+    result.text.append(text, from);
     return result;
 }
 
@@ -175,7 +185,7 @@ class Guard {
         if (line.kind != LineKind::blank) {
             markFixed(begin);
         }
-        result_.append(cut(line.end, line.next));
+        result_.append(cut(line.end, line.next()));
     }
 
     // Whether the line is words alone, not those of a list item or a quotation.
@@ -193,8 +203,11 @@ class Guard {
     // Two blanks or a backslash at the end of a line mean its break.
     bool isMeant(std::size_t at) const {
         const View line = cut(lines_[at].words, lines_[at].end);
+        if (line.size() < 2 || (line.back() != u' ' && line.back() != u'\\')) {
+            return false;
+        }
         const std::size_t ink = inkEnd(line);
-        return goesOn(at + 1) && ink > 0 && (line.substr(ink) == u"  " || line.back() == u'\\');
+        return ink > 0 && (line.substr(ink) == u"  " || ink == line.size()) && goesOn(at + 1);
     }
 
     // Paragraphs with nothing but blank lines between them, from the line `at` on. Returns the line
@@ -208,25 +221,25 @@ class Guard {
                 break;
             }
         }
+        const StructuredLine &end = lines_[last];
         Signed signs;
-        for (std::size_t row = at; row <= last; ++row) {
-            const auto &line = lines_[row];
-            const View words = cut(line.begin, line.end);
-            const bool stripped = lineEndsGo_ && line.end < line.next;
-            if (row == last) {
-                appendWords(signs, words.substr(0, stripped ? inkEnd(words) : words.size()));
-            } else if (isMeant(row)) {
-                const std::size_t ink = line.begin + inkEnd(words);
-                appendWords(signs, cut(line.begin, ink));
-                signs.add(breakSign, cut(ink, line.next));
-            } else {
-                appendWords(signs, cut(line.begin, line.next));
+        std::size_t from = lines_[at].begin;
+        for (std::size_t row = at; row < last; ++row) {
+            if (isMeant(row)) {
+                const auto &line = lines_[row];
+                const std::size_t ink = line.begin + inkEnd(cut(line.begin, line.end));
+                appendWords(signs, cut(from, ink));
+                signs.add(breakSign, cut(ink, line.next()));
+                from = line.next();
             }
         }
+        const bool stripped = lineEndsGo_ && end.end < end.next();
+        const View words = cut(from, end.end);
+        appendWords(signs, words.substr(0, stripped ? inkEnd(words) : words.size()));
         if (lineEndsGo_ && at > 0) {
             signs.text.erase(0, inkBegin(signs.text));
         }
-        result_.append(clean(signs)).append(cut(lines_[last].end, lines_[last].next));
+        result_.append(clean(std::move(signs))).append(cut(end.end, end.next()));
         return last + 1;
     }
 
@@ -240,30 +253,32 @@ class Guard {
         for (bool more = true; more; row += more ? 1 : 0) {
             const auto &line = lines_[row];
             const View words = cut(line.words, line.end);
-            const bool kept = isMeant(row) || !lineEndsGo_ || line.end == line.next;
+            const bool kept = isMeant(row) || !lineEndsGo_ || line.end == line.next();
             more = goesOn(row + 1);
             appendWords(signs, words.substr(0, more || !kept ? inkEnd(words) : words.size()));
             if (more) {
                 std::u16string literal(kept ? words.substr(inkEnd(words)) : View());
-                literal.append(cut(line.end, line.next)).append(marksOf(row + 1));
+                literal.append(cut(line.end, line.next())).append(marksOf(row + 1));
                 signs.add(breakSign, literal);
             }
         }
-        result_.append(clean(signs));
+        result_.append(clean(std::move(signs)));
         if (marked || row > at) {
             markFixed(begin);
         }
-        result_.append(cut(lines_[row].end, lines_[row].next));
+        result_.append(cut(lines_[row].end, lines_[row].next()));
         return row + 1;
     }
 
     static void appendWords(Signed &signs, View words) {
-        for (std::size_t at = words.find(breakSign); at != View::npos; at = words.find(breakSign)) {
-            signs.text.append(words.substr(0, at));
+        std::size_t from = 0;
+        for (std::size_t at = text::findUnit(words, 0, breakSign); at < words.size();
+             at = text::findUnit(words, from, breakSign)) {
+            signs.text.append(words.substr(from, at - from));
             signs.add(breakSign, words.substr(at, 1));
-            words.remove_prefix(at + 1);
+            from = at + 1;
         }
-        signs.text.append(words);
+        signs.text.append(words.substr(from));
     }
 
     // What stands in front of the words of a line, without what is to go.
@@ -295,25 +310,37 @@ class Guard {
         return isQuoted(at) && quotedProse_;
     }
 
-    std::u16string clean(const Signed &breaks) const {
-        const Signed words = withoutInlineStructure(breaks.text, tagsGo_);
-        const auto count = [](View text, char16_t sign) { return std::ranges::count(text, sign); };
+    std::u16string clean(Signed &&breaks) const {
+        Signed words = withoutInlineStructure(std::move(breaks.text), tagsGo_);
+        std::u16string text;
+        if (words.literals.empty() && breaks.literals.empty()) {
+            text = runSteps(std::move(words.text), steps_, context_, pieceSize_);
+        } else {
+            text = cleanAround(words.text);
+        }
+        text = withLiterals(std::move(text), wordSign, words.literals);
+        return withLiterals(std::move(text), breakSign, breaks.literals);
+    }
+
+    // Without the steps that take a sign out or put one in.
+    std::u16string cleanAround(const std::u16string &words) const {
         const auto hasAllSigns = [&](View text) {
-            return count(text, wordSign) == count(words.text, wordSign) &&
-                   count(text, breakSign) == count(words.text, breakSign);
+            return std::ranges::all_of(std::array{wordSign, breakSign}, [&](char16_t sign) {
+                return std::ranges::count(text, sign) == std::ranges::count(words, sign);
+            });
         };
-        std::u16string text = runSteps(words.text, steps_, context_, pieceSize_);
-        if (!hasAllSigns(text)) {
-            text = words.text;
-            for (const Operation *const step : steps_) {
-                std::u16string next = runSteps(text, {&step, 1}, context_, pieceSize_);
-                if (hasAllSigns(next)) {
-                    text = std::move(next);
-                }
+        std::u16string all = runSteps(words, steps_, context_, pieceSize_);
+        if (hasAllSigns(all)) {
+            return all;
+        }
+        std::u16string text = words;
+        for (const Operation *const step : steps_) {
+            std::u16string next = runSteps(text, {&step, 1}, context_, pieceSize_);
+            if (hasAllSigns(next)) {
+                text = std::move(next);
             }
         }
-        text = withLiterals(text, wordSign, words.literals);
-        return withLiterals(text, breakSign, breaks.literals);
+        return text;
     }
 
     const View text_;
@@ -331,15 +358,20 @@ class Guard {
     bool quotedProse_ = false;
 };
 
-std::u16string trimmed(const std::u16string &text, text::Range fixed) {
-    if (fixed.end == 0) {
-        return removeSpacesStartAndEnd(text);
+// White space at both ends goes, up to what is protected.
+std::u16string trimmed(std::u16string text, text::Range fixed) {
+    const std::size_t most = fixed.end == 0 ? text.size() : fixed.begin;
+    std::size_t end = text.size();
+    while (end > fixed.end && text::isWhiteSpace(text[end - 1])) {
+        --end;
     }
-    // A letter keeps what is protected from being trimmed.
-    std::u16string head = removeSpacesStartAndEnd(text.substr(0, fixed.begin) + u'x');
-    const std::u16string tail = removeSpacesStartAndEnd(u'x' + text.substr(fixed.end));
-    head.pop_back();
-    return head.append(text, fixed.begin, fixed.end - fixed.begin).append(tail, 1);
+    std::size_t begin = 0;
+    while (begin < std::min(most, end) && text::isWhiteSpace(text[begin])) {
+        ++begin;
+    }
+    text.resize(end);
+    text.erase(0, begin);
+    return text;
 }
 
 } // namespace
@@ -359,7 +391,7 @@ std::u16string runGuarded(std::u16string text, Steps steps, const CleaningContex
         std::u16string result = guard.run();
         const bool trims = std::ranges::any_of(
             guarded, [](const Operation *step) { return step->reach == Reach::textEnds; });
-        text = trims ? trimmed(result, guard.fixed()) : std::move(result);
+        text = trims ? trimmed(std::move(result), guard.fixed()) : std::move(result);
     }
     return runSteps(std::move(text), {guarded.end(), steps.end()}, context, pieceSize);
 }

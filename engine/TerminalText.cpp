@@ -343,7 +343,7 @@ class Unwrapping {
                 appendWords(result, wordsOf(begin, line.end));
                 join(result, pairs_[pair]);
             } else {
-                result.append(text_, begin, line.next - begin);
+                result.append(text_, begin, line.next() - begin);
             }
         }
         return result;
