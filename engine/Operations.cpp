@@ -259,7 +259,7 @@ constexpr Operation table[] = {
      "take out characters that nobody sees, and odd ones to plain ones", removeOddCharacters,
      nullptr, Reach::whole},
     {42, "clean-links", "sCleanLinks", "take tracking parameters out of web addresses",
-     cleanAddresses, nullptr, Reach::whole},
+     cleanAddresses, nullptr, Reach::addresses},
 };
 
 static_assert(std::ranges::is_sorted(table, std::ranges::less_equal{}, &Operation::index) &&

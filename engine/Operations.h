@@ -35,6 +35,7 @@ enum class Reach : std::uint8_t {
     lineEnds,   // the blanks at both ends of the lines of prose
     bullets,    // in front of list items
     quoteMarks, // in front of quoted lines
+    addresses,  // web addresses in prose
     textEnds,   // up to what is protected
     whole,      // everything, as if nothing were protected
 };

@@ -134,6 +134,7 @@ class Guard {
             marksGo_ = marksGo_ || step->reach == Reach::quoteMarks;
             bulletsGo_ = bulletsGo_ || step->reach == Reach::bullets;
             lineEndsGo_ = lineEndsGo_ || step->reach == Reach::lineEnds;
+            links_ = step->reach == Reach::addresses ? step : links_;
             tagsGo_ = tagsGo_ || step->index == removeTagsOperation;
             if (runsOnProse(step)) {
                 steps_.push_back(guarded(step));
@@ -182,7 +183,7 @@ class Guard {
         if (!marksGo_ || !isQuotedProse(at)) { // else it is a blank line of a quotation
             result_.append(cut(line.begin, line.end));
         }
-        if (line.kind != LineKind::blank) {
+        if (View(result_).find_first_not_of(u" \t\u00A0", begin) != View::npos) {
             markFixed(begin);
         }
         result_.append(cut(line.end, line.next()));
@@ -318,6 +319,11 @@ class Guard {
         } else {
             text = cleanAround(words.text);
         }
+        for (std::u16string &word : words.literals) {
+            if (links_ && !word.starts_with(u'`')) {
+                word = links_->run(std::move(word), context_);
+            }
+        }
         text = withLiterals(std::move(text), wordSign, words.literals);
         return withLiterals(std::move(text), breakSign, breaks.literals);
     }
@@ -352,6 +358,7 @@ class Guard {
     bool bulletsGo_ = false;
     bool lineEndsGo_ = false;
     bool tagsGo_ = false;
+    const Operation *links_ = nullptr; // what is to be done to addresses
     std::u16string result_;
     text::Range fixed_;
     std::size_t quotationEnd_ = 0; // of the quotation looked at last

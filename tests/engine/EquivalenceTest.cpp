@@ -1,8 +1,11 @@
 // The engine against its plain form: the same results on every short text over a tiny alphabet, and
 // on many random texts, the same ones on every machine. NERLO_EQUIVALENCE_FACTOR multiplies how
 // many: 1000 is for a night.
+#include "engine/LineJoining.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
+#include "engine/Structure.h"
+#include "settings/ReadyProfiles.h"
 #include "tests/reference/PlainEngine.h"
 #include "tests/reference/RandomText.h"
 
@@ -205,6 +208,73 @@ TEST(RandomTexts, GiveTheSameThroughThePipeline) {
             ASSERT_EQ(escaped(actual), escaped(expected))
                 << escaped(text) << " in pieces of " << pieceSize;
         }
+    });
+}
+
+std::u16string structuredText(Random &random) {
+    switch (random.below(4)) {
+    case 0:
+        return random.text(reference::plainTokens());
+    case 1:
+        return random.text(reference::tagTokens());
+    default:
+        return random.text(reference::structureTokens());
+    }
+}
+
+// The first line of `lines` that is missing in the text or comes too early there.
+std::u16string_view missingLine(std::u16string_view text, std::u16string_view source,
+                                const std::vector<engine::StructuredLine> &lines) {
+    std::size_t from = 0;
+    for (const engine::StructuredLine &line : lines) {
+        const std::u16string_view words = source.substr(line.begin, line.end - line.begin);
+        if (line.kind == engine::LineKind::prose || line.kind == engine::LineKind::blank) {
+            continue;
+        }
+        const std::size_t at = text.find(words, from);
+        if (at == text.npos) {
+            return words;
+        }
+        from = at + words.size();
+    }
+    return {};
+}
+
+TEST(RandomTexts, KeepTheirStructureWithAnyOptions) {
+    repeat(11, 5000, [](Random &random) {
+        CleaningOptions options = random.options();
+        options.udProtectStructure = true;
+        // These move lines or take the terminal's own away.
+        options.udSort = options.udRemoveDuplicateLines = options.udUnwrapTerminal = false;
+        options.udRemoveHTMLTags = false;
+        const std::u16string text = structuredText(random);
+        const std::u16string result =
+            engine::runPipeline(text, {options, random.locale()}, 1 + random.below(100));
+        const std::u16string_view missing = missingLine(result, text, engine::scanStructure(text));
+        ASSERT_TRUE(missing.empty())
+            << escaped(missing) << " of " << escaped(text) << " is missing in " << escaped(result);
+    });
+}
+
+TEST(RandomTexts, ChangeNoMoreInASecondGentleClean) {
+    CleaningOptions options;
+    options.setAllBools(
+        settings::readyRecord(*settings::findReadyProfile("gentle"), u"gentle"));
+    repeat(12, 20000, [&](Random &random) {
+        const std::u16string text = structuredText(random);
+        const std::u16string once = engine::runPipeline(text, {options, "en_US"});
+        ASSERT_EQ(escaped(engine::runPipeline(once, {options, "en_US"})), escaped(once))
+            << escaped(text);
+    });
+}
+
+TEST(RandomTexts, HaveTheirWrappedLinesJoined) {
+    repeat(13, 20000, [](Random &random) {
+        const std::u16string text = random.text(reference::wrappedTokens());
+        const bool withSpace = random.oneIn(2);
+        ASSERT_EQ(escaped(engine::joinWrappedLines(text, withSpace)),
+                  escaped(reference::joinWrappedLines(text, withSpace)))
+            << escaped(text);
     });
 }
 

@@ -1,8 +1,10 @@
 #include "tests/reference/PlainEngine.h"
 
 #include "engine/FindReplace.h"
+#include "engine/LineJoining.h"
 #include "engine/QuoteStyles.h"
 #include "engine/ReplacementRules.h"
+#include "text/CaseMapping.h"
 
 #include <unicode/brkiter.h>
 #include <unicode/coll.h>
@@ -506,6 +508,83 @@ String runOperation(std::int32_t index, const String &text,
     default:
         return engine::runOperation(index, text, context);
     }
+}
+
+String joinWrappedLines(const String &text, bool withSpace) {
+    const String blanks = u" \u00A0\t";
+    const auto isWide = [](char16_t unit) {
+        return unit >= 0x2E80 && !(unit >= 0xAC00 && unit <= 0xD7A3) &&
+               !(unit >= 0xD800 && unit <= 0xF8FF);
+    };
+    const auto isLower = [](char16_t unit) {
+        return text::letterCase(unit) == text::LetterCase::Other;
+    };
+    struct Line {
+        String before, words, after; // blanks, ink, blanks and break
+    };
+    std::vector<Line> lines;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(u"\r\n", at), text.size());
+        const std::size_t next =
+            std::min(text.size(), end + (text.compare(end, 2, u"\r\n") ? 1 : 2));
+        const String line = text.substr(at, end - at);
+        const std::size_t first = std::min(line.find_first_not_of(blanks), line.size());
+        const std::size_t last = line.find_last_not_of(blanks) + 1;
+        const std::size_t ink = std::max(first, last);
+        lines.push_back({line.substr(0, first), line.substr(first, ink - first),
+                         text.substr(at + ink, next - at - ink)});
+        at = next;
+    }
+    String result;
+    for (std::size_t begin = 0; begin < lines.size();) {
+        std::size_t end = begin;
+        while (end < lines.size() && !lines[end].words.empty()) {
+            ++end;
+        }
+        std::size_t width = 0;
+        for (std::size_t at = begin; at < end; ++at) {
+            width = std::max(width, lines[at].words.size());
+        }
+        const auto isTwoSentences = [&](std::size_t at) {
+            return engine::checkLineForEndSentenceChar(lines[at].words, false) &&
+                   !isLower(lines[at + 1].words[0]);
+        };
+        bool even = end > begin && width >= (isWide(lines[begin].words[0]) ? 16u : 32u);
+        bool goesOn = false;
+        for (std::size_t at = begin; at + 1 < end; ++at) {
+            const String &next = lines[at + 1].words;
+            const std::size_t word =
+                isWide(next[0]) ? 1 : std::min(next.find(u' '), next.size()) + 1;
+            even = even && ((lines[at].words.size() + word) * 5 > width * 4 || isTwoSentences(at));
+            goesOn = goesOn || isLower(next[0]) || isWide(next[0]);
+        }
+        for (std::size_t at = begin; at < end; ++at) {
+            String words = lines[at].words;
+            if (!even || !goesOn) {
+                result += lines[at].before + words + lines[at].after;
+            } else if (at + 1 == end) {
+                result += words + lines[at].after;
+            } else if (isTwoSentences(at)) {
+                result += words + u"\n";
+            } else {
+                const String &next = lines[at + 1].words;
+                const bool hyphen =
+                    words.size() > 1 && words.back() == u'-' && isLower(next[0]) &&
+                    text::letterCase(words[words.size() - 2]) != text::LetterCase::Caseless;
+                if (hyphen) {
+                    words.pop_back();
+                } else if (withSpace && !(isWide(words.back()) && isWide(next[0]))) {
+                    words += u' ';
+                }
+                result += words;
+            }
+        }
+        if (end < lines.size()) { // a blank line
+            result += lines[end].before + lines[end].after;
+        }
+        begin = std::max(end + 1, begin + 1);
+    }
+    return result;
 }
 
 Counts count(const String &text, const std::string &locale) {

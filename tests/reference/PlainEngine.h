@@ -13,6 +13,9 @@ namespace nerlo::reference {
 std::u16string runOperation(std::int32_t index, const std::u16string &text,
                             const engine::CleaningContext &context);
 
+// Word for word what engine::joinWrappedLines() says of wrapped paragraphs.
+std::u16string joinWrappedLines(const std::u16string &text, bool withSpace);
+
 std::u16string smartQuotes(std::u16string text, const std::u16string &leftFind,
                            const std::u16string &rightFind, const std::u16string &leftReplace,
                            const std::u16string &rightReplace);

@@ -31,6 +31,23 @@ constexpr std::u16string_view tags =
     u"\n|\r|\u2028|\u212A|\u017F|\u0301|\u200D|_|\u00E9|!|$|/|?|1|%|%%%%%%SPLIT-ME%%%%%%|"
     u"%%%%%SPLIT-ME|\U0001F389|\u000B|<-|<:";
 
+constexpr std::u16string_view structures =
+    u"\n%\n%\n%\n\n%\r\n%\r%\n    %\n\n    %\n\t%\n  %\n> %\n> > %\n>%\n- %\n  - %\n* %\n1. %\n12) "
+    u"%"
+    u"\n\u2022 %```%\n```\n%~~~%`%``%# %\n---\n%\n===\n%|%|---|---|%\t% % %  %   %\u00A0%  "
+    u"\n%\\%\n\\\n%"
+    u"<b>%</b>%<!--%-->%<div>%https://a.org/b%me@b.org%www.c.de%[d](e f)%[d]: "
+    u"e%{%}%;%=%(%)%,%.%:%-- \n%"
+    u"$ ls%a%B%word%Words%one two%\u65E5\u672C%\u3002%import a%return b;%x = 1%\uFDD0%\uA000%"
+    u"The quick brown fox jumps over the lazy dog%and then it sleeps under the old oak tree again%"
+    u"diff --git%@@ -1%+%-";
+
+constexpr std::u16string_view wrapped =
+    u"\n%\n%\n%\r\n%\r%\n\n% %  "
+    u"%\u00A0%\t%-\n%.\n%a%B%1%\u3042%\u65E5\u672C\u8A9E\u6587\u5B57\u5217%\u3002%"
+    u"The quick brown fox jumps over the lazy dog%and then it sleeps under the old oak tree%"
+    u"until the morning comes again to wake it up%word%Word%:%\u00E9%,%\u201D";
+
 constexpr const char *locales[] = {"en_US", "de_DE", "tr_TR", "el_GR", "lt_LT",
                                    "nl_NL", "ja_JP", "th_TH", "",      "fr_FR"};
 
@@ -55,6 +72,16 @@ Tokens plainTokens() {
 
 Tokens quoteTokens() {
     static const auto tokens = tokensOf(quotes, u'|');
+    return tokens;
+}
+
+Tokens structureTokens() {
+    static const auto tokens = tokensOf(structures, u'%');
+    return tokens;
+}
+
+Tokens wrappedTokens() {
+    static const auto tokens = tokensOf(wrapped, u'%');
     return tokens;
 }
 

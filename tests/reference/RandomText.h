@@ -18,6 +18,10 @@ std::vector<std::u16string_view> tokensOf(std::u16string_view row, char16_t sepa
 Tokens plainTokens();
 Tokens quoteTokens();
 Tokens tagTokens();
+// Marks of lists, code and tables, and words between them.
+Tokens structureTokens();
+// Lines long enough to be wrapped, and their ends.
+Tokens wrappedTokens();
 
 class Random {
   public:
