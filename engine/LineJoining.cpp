@@ -1,6 +1,7 @@
 #include "engine/LineJoining.h"
 
 #include "engine/Whitespace.h"
+#include "text/Ascii.h"
 #include "text/CaseMapping.h"
 #include "text/Range.h"
 #include "text/UnitScan.h"
@@ -207,7 +208,7 @@ class WrappedParagraph {
         bool goesOn = false; // some line begins as no sentence and no name does
         for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
             const bool full = roomOf(at) * 5 > width * 4;
-            if (!full && !staysApart(at)) {
+            if (!hasWords(at) || isCut(at, width) || (!full && !staysApart(at))) {
                 return false;
             }
             goesOn = goesOn || text::letterCase(firstOf(at + 1)) == LetterCase::Other ||
@@ -247,8 +248,21 @@ class WrappedParagraph {
         return lineAt(at).size() + word;
     }
 
+    // A line of a list of names or paths has no blanks.
+    bool hasWords(std::size_t at) const {
+        return isIdeograph(firstOf(at)) || std::ranges::count(lineAt(at), u' ') > 1;
+    }
+
+    // Whether a screen of a usual width may have cut a word here, so that no blank belongs there.
+    bool isCut(std::size_t at, std::size_t width) const {
+        const bool usual = width == 80 || width == 100 || width == 120 || width == 132;
+        return usual && lineAt(at).size() == width && text::isAsciiLetter(lineAt(at).back()) &&
+               text::isAsciiLetter(firstOf(at + 1));
+    }
+
+    // A letter alone would end no sentence any more once it is joined to the line above.
     bool staysApart(std::size_t at) const {
-        return checkLineForEndSentenceChar(lineAt(at), false) &&
+        return lineAt(at).size() > 1 && checkLineForEndSentenceChar(lineAt(at), false) &&
                text::letterCase(firstOf(at + 1)) != LetterCase::Other;
     }
 

@@ -345,7 +345,7 @@ class MarkedStructure {
         }
         const bool blankAbove = blankAbove_ || at_ == 0;
         blankAbove_ = false;
-        if (line_ == u"-- ") {
+        if (line_ == u"-- " || (line_ == u"--" && blankAbove)) {
             signature_ = true;
             return LineKind::signature;
         }
@@ -517,6 +517,8 @@ std::size_t innerTabs(View words) {
 struct Columns {
     std::vector<std::size_t> ends;
     std::vector<std::size_t> starts;
+    std::size_t wide = 0; // gaps of more than two blanks
+    bool isField = false; // "Name:   value"
 };
 
 Columns columnsOf(View line, std::size_t words) {
@@ -533,6 +535,8 @@ Columns columnsOf(View line, std::size_t words) {
         if (at < line.size() && (named || View(u".!?:").find(before) == View::npos)) {
             columns.ends.push_back(gap);
             columns.starts.push_back(at);
+            columns.wide += at - gap > 2 ? 1 : 0;
+            columns.isField = columns.isField || named;
         }
     }
     return columns;
@@ -689,6 +693,8 @@ class Paragraphs {
         return inked > 3 && code * 4 > inked;
     }
 
+    static constexpr std::size_t hanging = 8;
+
     bool looksLikeCodeAt(std::size_t at) const {
         const View words = wordsAt(at);
         return !words.empty() && (lines_[at].marked || mayBeCode(words)) && looksLikeCode(words);
@@ -700,6 +706,12 @@ class Paragraphs {
                                          [](const StructuredLine &line) { return line.tabular; });
         if (tabular) {
             tables(begin, end);
+        }
+        for (std::size_t at = begin + 1; at < end; ++at) {
+            const auto &line = lines_[at];
+            if (lines_[at - 1].kind == LineKind::table && line.words - line.begin >= hanging) {
+                lines_[at].kind = LineKind::table; // the rest of a cell
+            }
         }
         if (isListOfValues(begin, end)) {
             become(LineKind::table, begin, end);
@@ -751,11 +763,13 @@ class Paragraphs {
         bool below = false; // the rule of a table of Markdown
         Columns columns;
         std::size_t tabs = 0;
+        bool barredAbove = false;
         for (std::size_t at = begin; at < end; ++at) {
             if (!lines_[at].tabular) {
                 below = false;
                 columns = {};
                 tabs = 0;
+                barredAbove = false;
                 continue;
             }
             const View words = wordsAt(at);
@@ -767,7 +781,13 @@ class Paragraphs {
             if (aligned || (below && at > begin && isTableRule(words))) {
                 lines_[at - 1].kind = LineKind::table;
             }
-            if (aligned || below || ownTabs > 1 || isPipeRow(words) || isDrawn(words)) {
+            const bool barred = words.find(u'|') != View::npos;
+            if (barred && barredAbove) {
+                lines_[at - 1].kind = LineKind::table;
+            }
+            const bool alone = own.wide > 1 || own.isField || (barred && barredAbove);
+            barredAbove = barred;
+            if (aligned || alone || below || ownTabs > 1 || isPipeRow(words) || isDrawn(words)) {
                 lines_[at].kind = LineKind::table;
             }
             columns = std::move(own);

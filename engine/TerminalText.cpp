@@ -473,14 +473,16 @@ class Unwrapping {
             }
         }
         std::size_t exact = 0;
+        std::size_t almost = 0; // a blank may have stood in the last column
         std::size_t wrapped = 0;
         for (const Pair &pair : pairs_) {
             wrapped += isWrapped(pair);
             exact += isWrapped(pair) && pair.width >= width_;
+            almost += isWrapped(pair) && pair.width + 1 == width_;
         }
         const bool even = wrapped > 2 && exact * 4 >= wrapped * 3;
         justified_ = even && hasGaps();
-        cut_ = even && exact == wrapped && !justified_;
+        cut_ = even && exact + almost == wrapped && !justified_;
     }
 
     // Lines that were filled up with blanks between their words.
@@ -510,7 +512,7 @@ class Unwrapping {
         const View next = wordsOf(below.words, below.end);
         if (result.back() == u'\u2010' || result.back() == u'\u00AD') {
             result.pop_back(); // a hyphen of the formatter's own
-        } else if (!pair.wide && !cut_ && !isHyphenated(result, next) &&
+        } else if (!pair.wide && !(cut_ && pair.width >= width_) && !isHyphenated(result, next) &&
                    !isCutAddress(result, next, pair)) {
             result.push_back(u' ');
         }

@@ -4,6 +4,7 @@
 #include "engine/LineJoining.h"
 #include "engine/QuoteStyles.h"
 #include "engine/ReplacementRules.h"
+#include "text/Ascii.h"
 #include "text/CaseMapping.h"
 
 #include <unicode/brkiter.h>
@@ -546,7 +547,8 @@ String joinWrappedLines(const String &text, bool withSpace) {
             width = std::max(width, lines[at].words.size());
         }
         const auto isTwoSentences = [&](std::size_t at) {
-            return engine::checkLineForEndSentenceChar(lines[at].words, false) &&
+            return lines[at].words.size() > 1 &&
+                   engine::checkLineForEndSentenceChar(lines[at].words, false) &&
                    !isLower(lines[at + 1].words[0]);
         };
         bool even = end > begin && width >= (isWide(lines[begin].words[0]) ? 16u : 32u);
@@ -555,7 +557,13 @@ String joinWrappedLines(const String &text, bool withSpace) {
             const String &next = lines[at + 1].words;
             const std::size_t word =
                 isWide(next[0]) ? 1 : std::min(next.find(u' '), next.size()) + 1;
-            even = even && ((lines[at].words.size() + word) * 5 > width * 4 || isTwoSentences(at));
+            const String &line = lines[at].words;
+            const bool letters = text::isAsciiLetter(line.back()) && text::isAsciiLetter(next[0]);
+            const bool cut = letters && line.size() == width &&
+                             std::set<std::size_t>{80, 100, 120, 132}.count(width) > 0;
+            const bool names = !isWide(line[0]) && std::count(line.begin(), line.end(), u' ') < 2;
+            even = even && !cut && !names &&
+                   ((lines[at].words.size() + word) * 5 > width * 4 || isTwoSentences(at));
             goesOn = goesOn || isLower(next[0]) || isWide(next[0]);
         }
         for (std::size_t at = begin; at < end; ++at) {
