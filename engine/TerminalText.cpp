@@ -482,8 +482,19 @@ class Unwrapping {
         }
         const bool even = wrapped > 2 && exact * 4 >= wrapped * 3;
         justified_ = even && hasGaps();
-        cut_ = even && exact + almost == wrapped && !justified_;
+        cut_ = !justified_ && exact + almost == wrapped &&
+               (almost == 0 ? even : exact * 2 >= wrapped && wrapped > 2 && showsCut());
     }
+
+    // A width that screens have, or a blank that was cut off the line above.
+    bool showsCut() const {
+        const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132;
+        return usual || std::ranges::any_of(pairs_, [&](const Pair &pair) {
+                   return isWrapped(pair) && beginsWithBlank(pair);
+               });
+    }
+
+    bool beginsWithBlank(const Pair &pair) const { return prefixOf(lines_[pair.row + 1]) == u" "; }
 
     // Lines that were filled up with blanks between their words.
     bool hasGaps() const {
@@ -512,8 +523,8 @@ class Unwrapping {
         const View next = wordsOf(below.words, below.end);
         if (result.back() == u'\u2010' || result.back() == u'\u00AD') {
             result.pop_back(); // a hyphen of the formatter's own
-        } else if (!pair.wide && !(cut_ && pair.width >= width_) && !isHyphenated(result, next) &&
-                   !isCutAddress(result, next, pair)) {
+        } else if (!pair.wide && !(cut_ && pair.width >= width_ && !beginsWithBlank(pair)) &&
+                   !isHyphenated(result, next) && !isCutAddress(result, next, pair)) {
             result.push_back(u' ');
         }
     }
