@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>قبل: a····b
-بعد: a·b</translation>
+بعد: a·b
+تضيع الأعمدة والمسافات البادئة أيضًا.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>قبل: واحد·↵·اثنان
-بعد: واحد↵اثنان</translation>
+بعد: واحد↵اثنان
+تُحذف المسافات البادئة أيضًا، حتى في الشيفرة والقوائم.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>قبل: هذا السطر↵انكسر في وسطه.
-بعد: هذا السطر·انكسر في وسطه.</translation>
+بعد: هذا السطر·انكسر في وسطه.
+تُدمج القوائم والجداول والعناوين أيضًا.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>قبل: •·حليب↵•·خبز
-بعد: حليب↵خبز</translation>
+بعد: حليب↵خبز
+تُحذف النقاط داخل الأسطر أيضًا.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>قبل: &gt;·&gt;·مرحبًا
-بعد: مرحبًا</translation>
+بعد: مرحبًا
+تُحذف كل علامة &gt;، حتى داخل الأسطر، ومعها نهاية كل وسم HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>قبل: &lt;b&gt;غامق&lt;/b&gt;
-بعد: غامق</translation>
+بعد: غامق
+يعمل «إزالة علامات الرد» قبل هذا ويأخذ علامة &gt; من الوسوم: فقد يضيع النص كله.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@
 &gt;  هذا السطر
 &gt;  انكسر في وسطه.
 
-•  &apos;حليب&apos;
-•  &apos;خبز&apos;...
+•  اشترِ الحليب ‹الطازج›.
+•  اشترِ الخبز ‹الأسمر›...
 </translation>
     </message>
     <message>

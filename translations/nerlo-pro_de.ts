@@ -340,7 +340,8 @@ Nachher (Oben rechts): in dieser Ecke des Bildschirms</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Vorher: a····b
-Nachher: a·b</translation>
+Nachher: a·b
+Auch Spalten und Einzüge fallen weg.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Nachher: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Vorher: eins·↵·zwei
-Nachher: eins↵zwei</translation>
+Nachher: eins↵zwei
+Auch Einzüge fallen weg, von Code und Listen ebenso.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Nachher, mit „!“: Text!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Vorher: Diese Zeile wurde↵mittendrin umbrochen.
-Nachher: Diese Zeile wurde·mittendrin umbrochen.</translation>
+Nachher: Diese Zeile wurde·mittendrin umbrochen.
+Auch Listen, Tabellen und Adressen werden verbunden.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Nachher: Text</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Vorher: •·Milch↵•·Brot
-Nachher: Milch↵Brot</translation>
+Nachher: Milch↵Brot
+Aufzählungszeichen mitten in Zeilen fallen auch weg.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Nachher: Milch↵Brot</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Vorher: &gt;·&gt;·Hallo
-Nachher: Hallo</translation>
+Nachher: Hallo
+Jedes &gt; fällt weg, auch mitten in Zeilen, und damit das Ende jedes HTML-Tags.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Nachher: Hallo</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Vorher: &lt;b&gt;fett&lt;/b&gt;
-Nachher: fett</translation>
+Nachher: fett
+„Antwortzeichen entfernen“ läuft davor und nimmt den Tags das &gt;: Dann kann der ganze Text wegfallen.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Nachher: 1#2#</translation>
 &gt;  Diese Zeile wurde
 &gt;  mittendrin umbrochen.
 
-•  &apos;Milch&apos;
-•  &apos;Brot&apos;...
+•  Bitte die ‚frische‘ Milch holen.
+•  Bitte das ‚dunkle‘ Brot holen...
 </translation>
     </message>
     <message>

@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Πριν: a····b
-Μετά: a·b</translation>
+Μετά: a·b
+Φεύγουν και οι στήλες και οι εσοχές.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Πριν: ένα·↵·δύο
-Μετά: ένα↵δύο</translation>
+Μετά: ένα↵δύο
+Φεύγουν και οι εσοχές, ακόμη και του κώδικα και των λιστών.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Πριν: Αυτή η γραμμή↵κόπηκε στη μέση.
-Μετά: Αυτή η γραμμή·κόπηκε στη μέση.</translation>
+Μετά: Αυτή η γραμμή·κόπηκε στη μέση.
+Ενώνονται και λίστες, πίνακες και διευθύνσεις.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Πριν: •·γάλα↵•·ψωμί
-Μετά: γάλα↵ψωμί</translation>
+Μετά: γάλα↵ψωμί
+Φεύγουν και οι κουκκίδες μέσα στις γραμμές.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Πριν: &gt;·&gt;·Γεια
-Μετά: Γεια</translation>
+Μετά: Γεια
+Φεύγει κάθε &gt;, και μέσα στις γραμμές, και μαζί το τέλος κάθε ετικέτας HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Πριν: &lt;b&gt;έντονα&lt;/b&gt;
-Μετά: έντονα</translation>
+Μετά: έντονα
+Το «Αφαίρεση σημείων απάντησης» εκτελείται πριν και παίρνει το &gt; των ετικετών: τότε μπορεί να χαθεί όλο το κείμενο.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@
 &gt;  Αυτή η γραμμή
 &gt;  κόπηκε στη μέση.
 
-•  &apos;γάλα&apos;
-•  &apos;ψωμί&apos;...
+•  Πάρτε το ‹φρέσκο› γάλα.
+•  Πάρτε το ‹μαύρο› ψωμί...
 </translation>
     </message>
     <message>

@@ -341,7 +341,8 @@ After (Top right): in that corner of the screen</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Before: a····b
-After: a·b</translation>
+After: a·b
+Columns and indents go too.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -413,7 +414,8 @@ After: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Before: one·↵·two
-After: one↵two</translation>
+After: one↵two
+Indents go too, also those of code and lists.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -499,7 +501,8 @@ After, with “!”: text!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Before: This line was↵broken in the middle.
-After: This line was·broken in the middle.</translation>
+After: This line was·broken in the middle.
+Lists, tables and addresses are joined too.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -814,7 +817,8 @@ After: text</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Before: •·milk↵•·bread
-After: milk↵bread</translation>
+After: milk↵bread
+Bullets inside lines go too.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -823,7 +827,8 @@ After: milk↵bread</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Before: &gt;·&gt;·Hello
-After: Hello</translation>
+After: Hello
+Every &gt; goes, also inside lines, and with it the end of every HTML tag.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -832,7 +837,8 @@ After: Hello</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Before: &lt;b&gt;bold&lt;/b&gt;
-After: bold</translation>
+After: bold
+“Remove reply marks” runs before this and takes the &gt; of the tags: then whole texts may go.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1201,8 +1207,8 @@ After: 1#2#</translation>
 &gt;  This line was
 &gt;  broken in the middle.
 
-•  &apos;milk&apos;
-•  &apos;bread&apos;...
+•  Fetch the ‘fresh’ milk.
+•  Fetch the ‘brown’ bread...
 </translation>
     </message>
     <message>

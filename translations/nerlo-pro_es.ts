@@ -340,7 +340,8 @@ Después (Arriba a la derecha): en esa esquina de la pantalla</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Antes: a····b
-Después: a·b</translation>
+Después: a·b
+También se van las columnas y las sangrías.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Después: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Antes: uno·↵·dos
-Después: uno↵dos</translation>
+Después: uno↵dos
+También se van las sangrías, incluso las del código y las listas.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Después, con «!»: texto!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Antes: Esta línea se↵cortó por la mitad.
-Después: Esta línea se·cortó por la mitad.</translation>
+Después: Esta línea se·cortó por la mitad.
+También se unen listas, tablas y direcciones.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Después: texto</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Antes: •·leche↵•·pan
-Después: leche↵pan</translation>
+Después: leche↵pan
+También se van las viñetas dentro de las líneas.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Después: leche↵pan</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Antes: &gt;·&gt;·Hola
-Después: Hola</translation>
+Después: Hola
+Se va cada &gt;, también dentro de las líneas, y con él el final de cada etiqueta HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Después: Hola</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Antes: &lt;b&gt;negrita&lt;/b&gt;
-Después: negrita</translation>
+Después: negrita
+«Eliminar marcas de respuesta» actúa antes y quita el &gt; de las etiquetas: entonces puede perderse todo el texto.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Después: 1#2#</translation>
 &gt;  Esta línea se
 &gt;  cortó por la mitad.
 
-•  &apos;leche&apos;
-•  &apos;pan&apos;...
+•  Comprar leche ‘fresca’.
+•  Comprar pan ‘integral’...
 </translation>
     </message>
     <message>

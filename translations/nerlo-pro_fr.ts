@@ -340,7 +340,8 @@ Après (En haut à droite) : dans ce coin de l’écran</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Avant : a····b
-Après : a·b</translation>
+Après : a·b
+Les colonnes et les retraits partent aussi.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Après : a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Avant : un·↵·deux
-Après : un↵deux</translation>
+Après : un↵deux
+Les retraits partent aussi, même ceux du code et des listes.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Après, avec « ! » : texte!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Avant : Cette ligne a été↵coupée au milieu.
-Après : Cette ligne a été·coupée au milieu.</translation>
+Après : Cette ligne a été·coupée au milieu.
+Les listes, tableaux et adresses sont réunis aussi.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Après : texte</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Avant : •·lait↵•·pain
-Après : lait↵pain</translation>
+Après : lait↵pain
+Les puces au milieu des lignes partent aussi.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Après : lait↵pain</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Avant : &gt;·&gt;·Bonjour
-Après : Bonjour</translation>
+Après : Bonjour
+Tous les &gt; partent, même au milieu des lignes, et avec eux la fin de chaque balise HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Après : Bonjour</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Avant : &lt;b&gt;gras&lt;/b&gt;
-Après : gras</translation>
+Après : gras
+« Supprimer les marques de réponse » passe avant et prend le &gt; des balises : tout le texte peut alors disparaître.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Après : 1#2#</translation>
 &gt;  Cette ligne a été
 &gt;  coupée au milieu.
 
-•  &apos;lait&apos;
-•  &apos;pain&apos;...
+•  Prendre le lait ‹ frais ›.
+•  Prendre le pain ‹ complet ›...
 </translation>
     </message>
     <message>

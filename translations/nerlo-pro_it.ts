@@ -340,7 +340,8 @@ Dopo (In alto a destra): in quell’angolo dello schermo</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Prima: a····b
-Dopo: a·b</translation>
+Dopo: a·b
+Anche colonne e rientri se ne vanno.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Dopo: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Prima: uno·↵·due
-Dopo: uno↵due</translation>
+Dopo: uno↵due
+Anche i rientri se ne vanno, pure quelli di codice ed elenchi.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Dopo, con «!»: testo!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Prima: Questa riga è stata↵spezzata a metà.
-Dopo: Questa riga è stata·spezzata a metà.</translation>
+Dopo: Questa riga è stata·spezzata a metà.
+Anche elenchi, tabelle e indirizzi vengono uniti.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Dopo: testo</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Prima: •·latte↵•·pane
-Dopo: latte↵pane</translation>
+Dopo: latte↵pane
+Anche i punti elenco dentro le righe se ne vanno.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Dopo: latte↵pane</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Prima: &gt;·&gt;·Ciao
-Dopo: Ciao</translation>
+Dopo: Ciao
+Se ne va ogni &gt;, anche dentro le righe, e con esso la fine di ogni tag HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Dopo: Ciao</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Prima: &lt;b&gt;grassetto&lt;/b&gt;
-Dopo: grassetto</translation>
+Dopo: grassetto
+«Rimuovi i segni di risposta» agisce prima e toglie il &gt; ai tag: così può sparire tutto il testo.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Dopo: 1#2#</translation>
 &gt;  Questa riga è stata
 &gt;  spezzata a metà.
 
-•  &apos;latte&apos;
-•  &apos;pane&apos;...
+•  Comprare il latte ‘fresco’.
+•  Comprare il pane ‘integrale’...
 </translation>
     </message>
     <message>

@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>前：a····b
-後：a·b</translation>
+後：a·b
+列や字下げも消えます。</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>前：一·↵·二
-後：一↵二</translation>
+後：一↵二
+コードやリストの字下げも消えます。</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>前：この行は途中で↵改行されています。
-後：この行は途中で·改行されています。</translation>
+後：この行は途中で·改行されています。
+リスト、表、住所もつながります。</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>前：•·牛乳↵•·パン
-後：牛乳↵パン</translation>
+後：牛乳↵パン
+行の途中の行頭記号も消えます。</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>前：&gt;·&gt;·こんにちは
-後：こんにちは</translation>
+後：こんにちは
+行の途中の &gt; もすべて消え、HTMLタグの終わりも消えます。</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>前：&lt;b&gt;太字&lt;/b&gt;
-後：太字</translation>
+後：太字
+「返信の引用記号を削除」が先に働いてタグの &gt; を消すため、文章全体が消えることがあります。</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1195,13 +1201,13 @@
     <message>
         <source>sPreviewSample</source>
         <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
-        <translation>読者  各位 .
+        <translation>読者の皆様 。
 
-&gt;  この行は途中で
-&gt;  改行されています。
+&gt;  この文は引用です。
+&gt;  次の文もそうです。
 
-•  &apos;milk&apos;
-•  &apos;bread&apos;...
+•  『新鮮な』牛乳を買う。
+•  『黒い』パンを買う。
 </translation>
     </message>
     <message>

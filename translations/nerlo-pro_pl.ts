@@ -340,7 +340,8 @@ Po (Prawy górny róg): w tym rogu ekranu</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Przed: a····b
-Po: a·b</translation>
+Po: a·b
+Znikają też kolumny i wcięcia.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Po: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Przed: jeden·↵·dwa
-Po: jeden↵dwa</translation>
+Po: jeden↵dwa
+Znikają też wcięcia, także w kodzie i listach.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Po, z „!”: tekst!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Przed: Ten wiersz został↵złamany w środku.
-Po: Ten wiersz został·złamany w środku.</translation>
+Po: Ten wiersz został·złamany w środku.
+Łączone są też listy, tabele i adresy.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Po: tekst</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Przed: •·mleko↵•·chleb
-Po: mleko↵chleb</translation>
+Po: mleko↵chleb
+Znikają też punktory wewnątrz wierszy.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Po: mleko↵chleb</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Przed: &gt;·&gt;·Witaj
-Po: Witaj</translation>
+Po: Witaj
+Znika każdy &gt;, także wewnątrz wierszy, a z nim koniec każdego znacznika HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Po: Witaj</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Przed: &lt;b&gt;pogrubiony&lt;/b&gt;
-Po: pogrubiony</translation>
+Po: pogrubiony
+„Usuń znaki odpowiedzi” działa wcześniej i zabiera znacznikom &gt;: wtedy może zniknąć cały tekst.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Po: 1#2#</translation>
 &gt;  Ten wiersz został
 &gt;  złamany w środku.
 
-•  &apos;mleko&apos;
-•  &apos;chleb&apos;...
+•  Kupić ‘świeże’ mleko.
+•  Kupić ‘razowy’ chleb...
 </translation>
     </message>
     <message>

@@ -340,7 +340,8 @@ Depois (Em cima à direita): nesse canto da tela</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Antes: a····b
-Depois: a·b</translation>
+Depois: a·b
+Colunas e recuos também saem.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Depois: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Antes: um·↵·dois
-Depois: um↵dois</translation>
+Depois: um↵dois
+Recuos também saem, inclusive os de código e listas.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Depois, com “!”: texto!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Antes: Esta linha foi↵quebrada no meio.
-Depois: Esta linha foi·quebrada no meio.</translation>
+Depois: Esta linha foi·quebrada no meio.
+Listas, tabelas e endereços também são unidos.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Depois: texto</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Antes: •·leite↵•·pão
-Depois: leite↵pão</translation>
+Depois: leite↵pão
+Marcadores dentro das linhas também saem.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Depois: leite↵pão</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Antes: &gt;·&gt;·Olá
-Depois: Olá</translation>
+Depois: Olá
+Todo &gt; sai, também dentro das linhas, e com ele o fim de cada tag HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Depois: Olá</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Antes: &lt;b&gt;negrito&lt;/b&gt;
-Depois: negrito</translation>
+Depois: negrito
+“Remover marcas de resposta” age antes e tira o &gt; das tags: então o texto inteiro pode sumir.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Depois: 1#2#</translation>
 &gt;  Esta linha foi
 &gt;  quebrada no meio.
 
-•  &apos;leite&apos;
-•  &apos;pão&apos;...
+•  Comprar leite ‘fresco’.
+•  Comprar pão ‘integral’...
 </translation>
     </message>
     <message>

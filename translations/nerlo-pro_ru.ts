@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>До: a····b
-После: a·b</translation>
+После: a·b
+Исчезают и столбцы с отступами.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>До: один·↵·два
-После: один↵два</translation>
+После: один↵два
+Исчезают и отступы, даже в коде и списках.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>До: Эта строка была↵разорвана посередине.
-После: Эта строка была·разорвана посередине.</translation>
+После: Эта строка была·разорвана посередине.
+Списки, таблицы и адреса тоже склеиваются.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>До: •·молоко↵•·хлеб
-После: молоко↵хлеб</translation>
+После: молоко↵хлеб
+Маркеры внутри строк тоже исчезают.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>До: &gt;·&gt;·Привет
-После: Привет</translation>
+После: Привет
+Исчезает каждый &gt;, и внутри строк, а с ним конец каждого тега HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>До: &lt;b&gt;жирный&lt;/b&gt;
-После: жирный</translation>
+После: жирный
+«Удалить знаки цитирования» работает раньше и забирает &gt; у тегов: тогда может исчезнуть весь текст.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@
 &gt;  Эта строка была
 &gt;  разорвана посередине.
 
-•  &apos;молоко&apos;
-•  &apos;хлеб&apos;...
+•  Купить ‚свежее‘ молоко.
+•  Купить ‚чёрный‘ хлеб...
 </translation>
     </message>
     <message>

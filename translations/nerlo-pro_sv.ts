@@ -340,7 +340,8 @@ Efter (Uppe till höger): i det hörnet av skärmen</translation>
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>Före: a····b
-Efter: a·b</translation>
+Efter: a·b
+Även kolumner och indrag försvinner.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@ Efter: a⇥b</translation>
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>Före: ett·↵·två
-Efter: ett↵två</translation>
+Efter: ett↵två
+Även indrag försvinner, också i kod och listor.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@ Efter, med ”!”: text!</translation>
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>Före: Den här raden blev↵bruten på mitten.
-Efter: Den här raden blev·bruten på mitten.</translation>
+Efter: Den här raden blev·bruten på mitten.
+Även listor, tabeller och adresser slås ihop.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@ Efter: text</translation>
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>Före: •·mjölk↵•·bröd
-Efter: mjölk↵bröd</translation>
+Efter: mjölk↵bröd
+Punkter inuti rader försvinner också.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@ Efter: mjölk↵bröd</translation>
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>Före: &gt;·&gt;·Hej
-Efter: Hej</translation>
+Efter: Hej
+Varje &gt; försvinner, även inuti rader, och därmed slutet på varje HTML-tagg.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@ Efter: Hej</translation>
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>Före: &lt;b&gt;fet&lt;/b&gt;
-Efter: fet</translation>
+Efter: fet
+”Ta bort svarstecken” körs före och tar taggarnas &gt;: då kan hela texten försvinna.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@ Efter: 1#2#</translation>
 &gt;  Den här raden blev
 &gt;  bruten på mitten.
 
-•  &apos;mjölk&apos;
-•  &apos;bröd&apos;...
+•  Hämta den ’färska’ mjölken.
+•  Hämta det ’mörka’ brödet...
 </translation>
     </message>
     <message>

@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>До: a····b
-Після: a·b</translation>
+Після: a·b
+Зникають і стовпці з відступами.</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>До: один·↵·два
-Після: один↵два</translation>
+Після: один↵два
+Зникають і відступи, навіть у коді та списках.</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>До: Цей рядок було↵розірвано посередині.
-Після: Цей рядок було·розірвано посередині.</translation>
+Після: Цей рядок було·розірвано посередині.
+Списки, таблиці й адреси теж з’єднуються.</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>До: •·молоко↵•·хліб
-Після: молоко↵хліб</translation>
+Після: молоко↵хліб
+Маркери всередині рядків теж зникають.</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>До: &gt;·&gt;·Привіт
-Після: Привіт</translation>
+Після: Привіт
+Зникає кожен &gt;, і всередині рядків, а з ним кінець кожного тегу HTML.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>До: &lt;b&gt;жирний&lt;/b&gt;
-Після: жирний</translation>
+Після: жирний
+«Вилучити знаки цитування» працює раніше й забирає &gt; у тегів: тоді може зникнути весь текст.</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1200,8 +1206,8 @@
 &gt;  Цей рядок було
 &gt;  розірвано посередині.
 
-•  &apos;молоко&apos;
-•  &apos;хліб&apos;...
+•  Купити ‚свіже‘ молоко.
+•  Купити ‚чорний‘ хліб...
 </translation>
     </message>
     <message>

@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>之前：a····b
-之后：a·b</translation>
+之后：a·b
+列和缩进也会去掉。</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>之前：一·↵·二
-之后：一↵二</translation>
+之后：一↵二
+缩进也会去掉，代码和列表的也不例外。</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>之前：这一行在↵中间断开了。
-之后：这一行在·中间断开了。</translation>
+之后：这一行在·中间断开了。
+列表、表格和地址也会被连起来。</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>之前：•·牛奶↵•·面包
-之后：牛奶↵面包</translation>
+之后：牛奶↵面包
+行内的项目符号也会去掉。</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>之前：&gt;·&gt;·你好
-之后：你好</translation>
+之后：你好
+所有 &gt; 都会去掉，行内的也不例外，HTML 标签的结尾也随之去掉。</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>之前：&lt;b&gt;粗体&lt;/b&gt;
-之后：粗体</translation>
+之后：粗体
+“移除回复标记”先执行，会去掉标签的 &gt;：整段文字可能因此消失。</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1195,13 +1201,13 @@
     <message>
         <source>sPreviewSample</source>
         <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
-        <translation>亲爱的  读者 .
+        <translation>亲爱的读者 。
 
-&gt;  这一行在
-&gt;  中间断开了。
+&gt;  这一行是引文。
+&gt;  下一行也是。
 
-•  &apos;milk&apos;
-•  &apos;bread&apos;...
+•  买‘新鲜’的牛奶。
+•  买‘全麦’的面包。
 </translation>
     </message>
     <message>

@@ -340,7 +340,8 @@
     <message>
         <source>sChangeMultipleSpacesToSingleSpaceTip</source>
         <translation>之前：a····b
-之後：a·b</translation>
+之後：a·b
+欄和縮排也會去掉。</translation>
     </message>
     <message>
         <source>sChangeMultipleTabsToSingleTab</source>
@@ -412,7 +413,8 @@
     <message>
         <source>sRemoveSpaceBeforeAfterReturnTip</source>
         <translation>之前：一·↵·二
-之後：一↵二</translation>
+之後：一↵二
+縮排也會去掉，程式碼和清單的也不例外。</translation>
     </message>
     <message>
         <source>sRemoveAllSpaces</source>
@@ -498,7 +500,8 @@
     <message>
         <source>sChangeWrongInsertedReturnsToTip</source>
         <translation>之前：這一行在↵中間斷開了。
-之後：這一行在·中間斷開了。</translation>
+之後：這一行在·中間斷開了。
+清單、表格和地址也會被連起來。</translation>
     </message>
     <message>
         <source>sRepairEncoding</source>
@@ -813,7 +816,8 @@
     <message>
         <source>sRemoveBulletsTip</source>
         <translation>之前：•·牛奶↵•·麵包
-之後：牛奶↵麵包</translation>
+之後：牛奶↵麵包
+行內的項目符號也會去掉。</translation>
     </message>
     <message>
         <source>sRemoveReplyQuotes</source>
@@ -822,7 +826,8 @@
     <message>
         <source>sRemoveReplyQuotesTip</source>
         <translation>之前：&gt;·&gt;·你好
-之後：你好</translation>
+之後：你好
+所有 &gt; 都會去掉，行內的也不例外，HTML 標籤的結尾也隨之去掉。</translation>
     </message>
     <message>
         <source>sRemoveHTMLTags</source>
@@ -831,7 +836,8 @@
     <message>
         <source>sRemoveHTMLTagsTip</source>
         <translation>之前：&lt;b&gt;粗體&lt;/b&gt;
-之後：粗體</translation>
+之後：粗體
+「移除回覆標記」先執行，會去掉標籤的 &gt;：整段文字可能因此消失。</translation>
     </message>
     <message>
         <source>sRemoveHTMLTagsJS</source>
@@ -1195,13 +1201,13 @@
     <message>
         <source>sPreviewSample</source>
         <extracomment>The text that the preview begins with: it should show multiple spaces, reply marks, a broken line, bullets and quotation marks.</extracomment>
-        <translation>親愛的  讀者 .
+        <translation>親愛的讀者 。
 
-&gt;  這一行在
-&gt;  中間斷開了。
+&gt;  這一行是引文。
+&gt;  下一行也是。
 
-•  &apos;milk&apos;
-•  &apos;bread&apos;...
+•  買『新鮮』的牛奶。
+•  買『全麥』的麵包。
 </translation>
     </message>
     <message>
