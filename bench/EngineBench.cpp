@@ -107,6 +107,11 @@ std::vector<Case> cases() {
 void registerAll() {
     static const std::vector<Case> rows = cases();
     static const CleaningOptions firstStart = optionsFrom(settings::firstStartProfile("en"));
+    static const CleaningOptions guarded = [] {
+        CleaningOptions options = firstStart;
+        options.udProtectStructure = true;
+        return options;
+    }();
     for (std::size_t k = 0; k < std::size(kinds); ++k) {
         for (std::size_t s = 0; s < std::size(sizes); ++s) {
             const Kind kind = kinds[k];
@@ -157,6 +162,9 @@ void registerAll() {
             });
             add("first-start-pipeline", [](std::u16string &text) {
                 text = engine::runPipeline(std::move(text), {firstStart, "en_US"});
+            });
+            add("guarded-first-start-pipeline", [](std::u16string &text) {
+                text = engine::runPipeline(std::move(text), {guarded, "en_US"});
             });
             add("first-start-pipeline-and-counts", [](std::u16string &text) {
                 text = engine::runPipeline(std::move(text), {firstStart, "en_US"});

@@ -1,3 +1,5 @@
+#include "engine/Operations.h"
+#include "engine/QuoteStyles.h"
 #include "settings/OptionLists.h"
 #include "settings/SettingsKeys.h"
 
@@ -93,6 +95,34 @@ TEST(Catalogues, EveryLanguageHasTheKeysAndPlaceholdersOfTheEnglishOne) {
         EXPECT_EQ(catalogue.size(), english.size()) << "left over in " << language.toStdString();
         EXPECT_LT(language == "en" ? 0 : same, english.size() / 10)
             << "a copy: " << language.toStdString();
+    }
+}
+
+TEST(Catalogues, SamplesKeepTheirListAndChangeTheirQuotesAtAFirstStart) {
+    for (const QString &language : languages) {
+        const Catalogue catalogue = readCatalogue(language);
+        const auto sample = std::ranges::find_if(
+            catalogue, [](const auto &row) { return row.first.second == "sPreviewSample"; });
+        ASSERT_NE(sample, catalogue.end());
+        engine::CleaningOptions options;
+        options.setAllBools(
+            settings::firstStartProfile(QString(language).replace(u'_', u'-').toStdString()));
+        const std::u16string text = sample->second.text.toStdU16String();
+        const auto cleaned =
+            QString::fromStdU16String(engine::runPipeline(text, {options, "en_US"}));
+        const auto &single = engine::singleQuoteStyles.at(
+            static_cast<std::size_t>(options.udChangeQuotesSingleOption));
+        const auto &twofold = engine::doubleQuoteStyles.at(
+            static_cast<std::size_t>(options.udChangeQuotesDoubleOption));
+        const auto count = [](const QString &in, std::u16string_view mark) {
+            return in.count(QStringView(mark).toString());
+        };
+        EXPECT_EQ(count(cleaned, twofold.left), count(sample->second.text, single.left))
+            << cleaned.toStdString();
+        EXPECT_GE(cleaned.count(u'\n'), 3) << cleaned.toStdString();
+        if (language == "ja" || language.startsWith("zh")) {
+            EXPECT_EQ(cleaned.count(u' '), 0) << cleaned.toStdString();
+        }
     }
 }
 
