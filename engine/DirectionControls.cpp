@@ -177,7 +177,9 @@ std::vector<std::size_t> goingDirections(View text) {
     Line line(text);
     for (std::size_t begin = 0; at < text.size();) {
         std::size_t end = endOfParagraph(text, begin);
-        end = std::max(end, behindBreak(text, begin)); // a blank line
+        if (end == begin) { // a blank line
+            end = behindBreak(text, text::findUnit(text, begin, lineBreaks));
+        }
         const View paragraph = text.substr(begin, end - begin);
         const bool matters =
             at < end && text::findUnit(paragraph, 0, rightToLeft) < paragraph.size();
