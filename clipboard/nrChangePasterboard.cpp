@@ -150,19 +150,22 @@ void nrChangePasterboard::Reading::tell(DecidedCopy::Outcome outcome) {
 }
 
 struct nrChangePasterboard::Clean {
-    std::shared_ptr<const engine::CleaningOptions> options;
+    Choice choice;
     std::string locale;
-    std::optional<std::int32_t> operation; // none: the whole pipeline
-    std::optional<std::size_t> spared;     // hash of a plain text that is not cleaned
+    std::optional<std::size_t> spared; // hash of a plain text that is not cleaned
     std::function<void(engine::TextStatistics, engine::CleaningReport, std::u16string)> show;
     std::function<void(engine::CleaningReport)> tell;
     std::function<void(platform::ChangeCount)> leave;
     std::function<void(WriteBack)> write;
+    std::function<void(bool)> ended;  // on the main thread
+    std::function<void(bool)> finish; // the same, from any
 
-    bool writes() const { return operation != engine::statisticsOperation; }
+    bool writes() const { return choice.operation != engine::statisticsOperation; }
     bool counts(const engine::CleaningOptions &used) const {
-        return !writes() || (!operation && used.udStatistics);
+        return !writes() || (!choice.operation && used.udStatistics);
     }
+    std::u16string cleaned(std::u16string text, const engine::CleaningOptions &used,
+                           engine::CleaningReport &report) const;
     void run(Reading &reading, std::u16string text) const;
 };
 
@@ -198,23 +201,30 @@ void nrChangePasterboard::setAllBools(const storage::PropertyDictionary &diction
 }
 
 void nrChangePasterboard::changePasteboard() {
-    start(std::nullopt, false, {});
+    start({options_, {}, {}}, Asked::onDemand, {}, {});
 }
 
 void nrChangePasterboard::changePasteboard(CopyTable exceptions) {
-    start(std::nullopt, true, std::move(exceptions));
+    start({options_, {}, {}}, Asked::automatically, std::move(exceptions), {});
 }
 
 void nrChangePasterboard::changePasteboardWithKeys(std::int32_t index) {
-    start(index, false, {});
+    start({options_, index, {}}, Asked::forThis, {}, {});
 }
 
-void nrChangePasterboard::start(std::optional<std::int32_t> operation, bool automatic,
-                                CopyTable exceptions) {
+void nrChangePasterboard::changePasteboard(Choice choice, std::function<void(bool)> ended) {
+    start(std::move(choice), Asked::forThis, {}, std::move(ended));
+}
+
+void nrChangePasterboard::start(Choice choice, Asked asked, CopyTable exceptions,
+                                std::function<void(bool)> ended) {
+    if (!ended) {
+        ended = [](bool) {};
+    }
+    const bool automatic = asked == Asked::automatically;
     const Clean clean{
-        options_,
+        std::move(choice),
         locale_,
-        operation,
         automatic ? lastResult_ : std::nullopt,
         onMain([this](const engine::TextStatistics &counts, const engine::CleaningReport &report,
                       const std::u16string &profile) { showCounts(counts, report, profile); }),
@@ -224,10 +234,13 @@ void nrChangePasterboard::start(std::optional<std::int32_t> operation, bool auto
             }
         }),
         onMain([this](platform::ChangeCount source) { leftAsItIs(source); }),
-        onMain([this](WriteBack result) { queueWriteBack(std::move(result)); })};
+        onMain([this](WriteBack result) { queueWriteBack(std::move(result)); }),
+        ended,
+        onMain(ended)};
     auto reading = std::make_shared<Reading>();
     reading->keepsOriginal = clean.writes();
-    if (!operation) {
+    reading->nothing = [ended] { ended(false); };
+    if (asked != Asked::forThis) {
         reading->decision.onDemand = !automatic;
         beginDecision(*reading, std::move(exceptions));
     }
@@ -248,27 +261,34 @@ void nrChangePasterboard::beginDecision(Reading &reading, CopyTable exceptions) 
     reading.tellDecision = onMain([this](DecidedCopy decided) { decided_ = std::move(decided); });
 }
 
+std::u16string nrChangePasterboard::Clean::cleaned(std::u16string text,
+                                                   const engine::CleaningOptions &used,
+                                                   engine::CleaningReport &report) const {
+    if (choice.known && choice.known->first == text) {
+        return choice.known->second;
+    }
+    const engine::CleaningContext context{.options = used, .locale = locale, .report = &report};
+    return choice.operation ? engine::runOperation(*choice.operation, std::move(text), context)
+                            : engine::runPipeline(std::move(text), context);
+}
+
 void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) const {
     const bool plain = reading.offered.complete && onlyPlainText(reading.offered.formats);
     if (plain && spared == hashOf(text)) {
+        finish(false);
         return;
     }
     if (!plain) {
         reading.text.bytes = nullptr; // the memory is wanted
     }
     const CopyRow *row = reading.decision.row ? &*reading.decision.row : nullptr;
-    const auto &used = row ? *row->options : *options;
+    const auto &used = row ? *row->options : *choice.options;
     engine::CleaningReport report;
-    const engine::CleaningContext context{.options = used, .locale = locale, .report = &report};
     if (reading.original) {
         reading.original->firstWords = firstWords(text);
     }
-    if (!operation) {
-        text = engine::runPipeline(std::move(text), context);
-    } else if (writes()) {
-        text = engine::runOperation(*operation, std::move(text), context);
-    }
     if (writes()) {
+        text = cleaned(std::move(text), used, report);
         tell(report);
     }
     if (counts(used)) {
@@ -276,17 +296,19 @@ void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) cons
     }
     const auto source = reading.offered.changeCount;
     if (!writes()) {
+        finish(false);
         return;
     }
     // Nobody could tell the difference, but for the clipboard's owner, who keeps it.
     if (plain && decodeText(reading.text) == text) {
         leave(source);
+        finish(true);
         return;
     }
     reading.text.bytes = nullptr;
     write({source, reading.ofOurs,
            Kept{plainTextContent(text::utf16ToUtf8(text)), true, firstWords(text)},
-           std::move(reading.original), reading.whyNotKept, hashOf(text)});
+           std::move(reading.original), reading.whyNotKept, hashOf(text), ended});
 }
 
 void nrChangePasterboard::readContent(std::shared_ptr<Reading> reading) {
@@ -477,8 +499,13 @@ void nrChangePasterboard::startNextWrite() {
                       alive_.guard([this](const PasteboardWrite &result) {
                           auto ended = std::move(writeBacks_.front());
                           writeBacks_.pop_front();
-                          if (result.status == PasteboardStatus::done) {
+                          const bool done = result.status == PasteboardStatus::done;
+                          const auto tell = std::move(ended.ended);
+                          if (done) {
                               written(std::move(ended), result.changeCount);
+                          }
+                          if (tell) {
+                              tell(done);
                           }
                           if (!writeBacks_.empty()) {
                               startNextWrite();

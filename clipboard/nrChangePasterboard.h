@@ -121,6 +121,16 @@ class nrChangePasterboard {
     // the popup and writes nothing.
     void changePasteboardWithKeys(std::int32_t index);
 
+    // What to do to a text, whatever the snapshot says.
+    struct Choice {
+        std::shared_ptr<const engine::CleaningOptions> options; // not null
+        std::optional<std::int32_t> operation; // with them; none: all that they switch on
+        // A text and what came of it, if that is known: what a user has been shown is what he gets.
+        std::shared_ptr<const std::pair<std::u16string, std::u16string>> known;
+    };
+    // As above. `ended` runs later, with whether the result is on the clipboard.
+    void changePasteboard(Choice choice, std::function<void(bool done)> ended);
+
     // Whether a write of ours is under way, whose count could be taken for another program's.
     bool writing() const { return !writeBacks_.empty() || restoring_; }
 
@@ -162,11 +172,15 @@ class nrChangePasterboard {
         Kept cleaned;
         std::shared_ptr<Kept> original; // null if it is not kept
         Restored whyNotKept;
-        std::size_t hash; // of the result
+        std::size_t hash;                     // of the result
+        std::function<void(bool done)> ended; // may be empty
     };
     struct Clean;
 
-    void start(std::optional<std::int32_t> operation, bool automatic, CopyTable exceptions);
+    // By the program itself or by the user, with all that the table of copies and the options say;
+    // or by the user, for one thing whatever they say.
+    enum class Asked { automatically, onDemand, forThis };
+    void start(Choice choice, Asked asked, CopyTable exceptions, std::function<void(bool)> ended);
     void beginDecision(Reading &reading, CopyTable exceptions);
     void readContent(std::shared_ptr<Reading> reading);
     void readText(std::shared_ptr<Reading> reading);

@@ -31,6 +31,8 @@ struct PopupScreen {
     PopupPoint free;
     int freeWidth = 0;
     int freeHeight = 0;
+    // Where its own top left corner is among all screens.
+    PopupPoint origin{};
 };
 
 struct Popup {

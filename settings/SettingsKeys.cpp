@@ -175,8 +175,10 @@ Table makeTable() {
              std::string(row.meaning),
              row.firstStart ? std::optional<PropertyValue>(*row.firstStart) : std::nullopt});
     }
-    table.keys.push_back({std::string(cleanHotKey), SettingKind::HotKey, SettingScope::Store,
-                          "hot keys", "clean the clipboard", std::nullopt});
+    for (const CommandHotKey &command : commandHotKeys) {
+        table.keys.push_back({std::string(command.key), SettingKind::HotKey, SettingScope::Store,
+                              "hot keys", std::string(command.meaning), std::nullopt});
+    }
     for (const engine::Operation &operation : engine::operations()) {
         table.keys.push_back({std::string(operation.hotKey), SettingKind::HotKey,
                               SettingScope::Store, "hot keys", std::string(operation.summary),

@@ -40,8 +40,19 @@ struct SettingsKey {
     std::optional<storage::PropertyValue> firstStart;
 };
 
-// The one hot key that no operation has: it cleans the clipboard with all that is on.
+// The hot keys that no operation has: one cleans the clipboard with all that is on, one lets the
+// user choose what is done to it.
 inline constexpr std::string_view cleanHotKey = "sClearFormatingFromClipboard";
+inline constexpr std::string_view chooseHotKey = "sChooseForClipboard";
+struct CommandHotKey {
+    std::string_view key;
+    std::string_view name;    // for the command line
+    std::string_view meaning; // one English line
+};
+inline constexpr CommandHotKey commandHotKeys[] = {
+    {cleanHotKey, "clean", "clean the clipboard"},
+    {chooseHotKey, "choose", "choose what is done to the clipboard's text"},
+};
 
 // Profile keys in the order in which a profile is written, then the keys of the store. Made once;
 // any thread.

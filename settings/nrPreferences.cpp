@@ -200,6 +200,26 @@ void nrPreferences::profilesSelect(std::optional<int> tag) {
     }
 }
 
+storage::PropertyArray nrPreferences::sharedRules() const {
+    PropertyArray rules;
+    for (const RecordItem &rule : sharedRules_) {
+        rules.emplace_back(rule.record);
+    }
+    return rules;
+}
+
+ProfileRecord nrPreferences::profileAt(int place) const {
+    if (place == selectedItem_) {
+        return profileSelected();
+    }
+    ProfileRecord record = profilesItems_.at(static_cast<std::size_t>(place)).record;
+    record.set(onlyOneKey, onlyOneProfile() ? 1 : 0);
+    if (onlyOneProfile()) {
+        record.set(sharedListKey, sharedRules());
+    }
+    return record;
+}
+
 void nrPreferences::profilesSwitch(int place) {
     if (place < 0 || static_cast<std::size_t>(place) >= profilesItems_.size()) {
         return;

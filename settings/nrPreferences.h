@@ -137,6 +137,11 @@ class nrPreferences {
 
     // Find and replace.
     const FindReplaceList &findReplaceList() const { return findReplace_; }
+    // The profile at this place as it would be after switching to it: the edited one, or the stored
+    // one with the rules that it would use.
+    ProfileRecord profileAt(int place) const;
+    // The list that all profiles may share, used or not.
+    storage::PropertyArray sharedRules() const;
     bool onlyOneProfile() const;
     void onlyOneProfileChanged(bool on); // the one-list box was clicked
     void OnlyOneProfileAction();

@@ -67,6 +67,10 @@ void BusService::Operation(int index) {
     program_->runOperation(index);
 }
 
+void BusService::Choose() {
+    program_->choose();
+}
+
 QString BusService::Restore() {
     setDelayedReply(true);
     program_->restore([bus = connection(), call = message()](auto outcome) {

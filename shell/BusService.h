@@ -49,6 +49,7 @@ class BusService final : public QObject, public ProgramListener, protected QDBus
   public slots:
     void Clean();
     void Operation(int index);
+    void Choose();
     QString Restore();
     bool Automatic(const QString &mode);
     void Activate();

@@ -51,7 +51,8 @@ bool CommandLine::asksFor(Command command) const {
 CommandLine parseCommandLine(const QStringList &arguments) {
     const QCommandLineOption shortcut(
         "shortcut",
-        "Store a global shortcut for an operation, or for \"clean\"; without keys, delete it. "
+        "Store a global shortcut for an operation, or for \"clean\" or \"choose\"; without keys, "
+        "delete it. "
         "Alone, it starts nothing. Example: sort-lines=Super+Shift+S",
         "INDEX|NAME=KEYS");
     // The library's own help would have a second option, which lists the library's.

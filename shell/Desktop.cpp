@@ -18,6 +18,7 @@ Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &worke
     const auto &layout = *desktop.keyboardLayout.backend;
     desktop.hotKeys = desktop.backends->openHotKeys(layout, applicationId);
     desktop.popupLayer = desktop.backends->openPopupLayer();
+    desktop.paster = desktop.backends->openPaster(layout);
     desktop.systemHotKeys =
         platform::createDesktopHotKeys(layout, workerQueue, platform::DesktopSources::system());
     const auto configFolder = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);

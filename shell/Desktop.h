@@ -20,6 +20,7 @@ struct Desktop {
     platform::Chosen<platform::KeyboardLayout> keyboardLayout;
     platform::Chosen<platform::HotKeyService> hotKeys;
     platform::Chosen<platform::PopupLayer> popupLayer; // may be null
+    platform::Chosen<platform::Paster> paster;         // may be null
     std::unique_ptr<platform::SystemHotKeys> systemHotKeys;
     std::unique_ptr<platform::LoginItem> loginItem;
 };

@@ -3,6 +3,7 @@
 #include "engine/Operations.h"
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
+#include "shell/ChooserWindow.h"
 #include "shell/KeySequences.h"
 #include "shell/LeftOutRules.h"
 #include "shell/PreferencesWindow.h"
@@ -146,7 +147,9 @@ void DesktopShell::updateHotKeys() {
             window_->setHotKeyProblem(key, problem);
         }
     };
-    update(settings::cleanHotKey);
+    for (const auto &command : settings::commandHotKeys) {
+        update(command.key);
+    }
     for (const engine::Operation &operation : engine::operations()) {
         update(operation.hotKey);
     }
@@ -208,6 +211,16 @@ void DesktopShell::hidePreferences() {
     if (window_) {
         window_->close();
     }
+}
+
+void DesktopShell::showChooser() {
+    if (chooser_ && chooser_->isOpen()) {
+        chooser_->close();
+        return;
+    }
+    chooser_ = std::make_unique<ChooserWindow>(program_);
+    chooser_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
+    chooser_->open();
 }
 
 void DesktopShell::makePreferencesWindow() {

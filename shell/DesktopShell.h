@@ -21,6 +21,7 @@
 
 namespace nerlo::shell {
 
+class ChooserWindow;
 class PreferencesWindow;
 class Program;
 class TipsWindow;
@@ -43,6 +44,8 @@ class DesktopShell final : public ShellWindows {
     // And which program the last copy came from.
     void updateProgram();
     void hidePreferences();
+    // Closes it where it is open.
+    void showChooser();
     // Whether the preferences, when they are closed, must stay as an entry in the taskbar, because
     // there is no other way back to them.
     bool closingMinimizes() const;
@@ -89,6 +92,7 @@ class DesktopShell final : public ShellWindows {
     std::map<Problem, std::string> problems_; // none is empty
     engine::CleaningReport report_;           // of the last clean
     std::unique_ptr<PreferencesWindow> window_;
+    std::unique_ptr<ChooserWindow> chooser_; // the last one
     std::unique_ptr<TipsWindow> tipsController_;
     std::unique_ptr<WhatsNewWindow> whatsNewController_;
     bool taskbarEntry_ = true;

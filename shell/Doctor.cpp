@@ -33,6 +33,9 @@ std::string doctorReport(const Desktop &desktop, bool sessionBus,
     const auto &popup = desktop.popupLayer.backend;
     line("Statistics popup", popup ? popup->description() : "a window like any other");
     declined(desktop.popupLayer.declined);
+    const auto &paster = desktop.paster.backend;
+    line("Pasting for you", paster ? paster->description() : "not here");
+    declined(desktop.paster.declined);
     line("Session bus",
          sessionBus ? "yes" : "none, so the running program cannot be told anything");
     line("Automatic cleaning", !running             ? "the program is not running"

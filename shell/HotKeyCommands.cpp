@@ -8,6 +8,7 @@
 #include "text/Utf.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -16,24 +17,34 @@ namespace nerlo::shell {
 namespace {
 
 using settings::cleanHotKey;
+using settings::CommandHotKey;
+using settings::commandHotKeys;
 
 constexpr std::uint64_t keyV = 9;
-
-// Name and key of cleaning with everything that is on: the one hot key that the table of operations
-// does not have.
-constexpr std::string_view cleanName = "clean";
 
 std::string_view nameOfCommand(std::string_view key) {
     const auto rows = engine::operations();
     const auto row = std::ranges::find(rows, key, &engine::Operation::hotKey);
-    return row == rows.end() ? cleanName : row->name;
+    return row != rows.end() ? row->name
+                             : std::ranges::find(commandHotKeys, key, &CommandHotKey::key)->name;
+}
+
+// Empty when no command has this name or index.
+std::string keyOfCommand(std::string_view name) {
+    if (const auto *operation = engine::findOperation(name)) {
+        return std::string(operation->hotKey);
+    }
+    const auto *command = std::ranges::find(commandHotKeys, name, &CommandHotKey::name);
+    return command == std::end(commandHotKeys) ? std::string() : std::string(command->key);
 }
 
 // Of every command, by its settings key.
 std::map<std::string, std::optional<shortcuts::nrShortcut>>
 storedShortcuts(const storage::SettingsStore &store) {
-    std::map<std::string, std::optional<shortcuts::nrShortcut>> stored{
-        {std::string(cleanHotKey), shortcuts::storedShortcut(store, cleanHotKey)}};
+    std::map<std::string, std::optional<shortcuts::nrShortcut>> stored;
+    for (const auto &command : commandHotKeys) {
+        stored.emplace(command.key, shortcuts::storedShortcut(store, command.key));
+    }
     for (const auto &operation : engine::operations()) {
         stored.emplace(operation.hotKey, shortcuts::storedShortcut(store, operation.hotKey));
     }
@@ -105,11 +116,10 @@ ShortcutChange parseShortcutChange(std::string_view text, const platform::Keyboa
         return failed("--shortcut takes NAME=KEYS, not '" + std::string(text) + "'.");
     }
     const auto name = text.substr(0, equals);
-    const auto *operation = engine::findOperation(name);
-    if (!operation && name != cleanName) {
+    ShortcutChange change{keyOfCommand(name), {}, {}};
+    if (change.key.empty()) {
         return failed("There is no operation '" + std::string(name) + "'.");
     }
-    ShortcutChange change{std::string(operation ? operation->hotKey : cleanHotKey), {}, {}};
     const auto keys = text.substr(equals + 1);
     if (keys.empty()) {
         return change;

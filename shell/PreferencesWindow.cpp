@@ -28,8 +28,6 @@ namespace nerlo::shell {
 
 namespace {
 
-using settings::cleanHotKey;
-
 constexpr QSize firstSize{1080, 660};
 constexpr int shortest = 360;
 constexpr int narrowestPreview = 240;
@@ -291,20 +289,25 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     };
 
     QVBoxLayout *cleaning = addGroup("sGroupCleaning");
-    auto *clean = new QHBoxLayout;
-    const QString command = localized(cleanHotKey);
-    auto *label = new QLabel(command);
-    setTip(*label, localized("sClearFormatingFromClipboardTip"));
-    clean->addWidget(label, 1);
-    if (QWidget *recorder = shell::makeRecorder(makeRecorder, std::string(cleanHotKey), command)) {
-        label->setBuddy(recorder);
-        clean->addWidget(recorder);
+    generalTexts_ = localized("sPageGeneral");
+    for (const auto &row : settings::commandHotKeys) {
+        auto *line = new QHBoxLayout;
+        const QString command = localized(row.key);
+        auto *label = new QLabel(command);
+        setTip(*label, localized(std::string(row.key) + "Tip"));
+        line->addWidget(label, 1);
+        if (QWidget *recorder = shell::makeRecorder(makeRecorder, std::string(row.key), command)) {
+            label->setBuddy(recorder);
+            line->addWidget(recorder);
+        }
+        cleaning->addLayout(line);
+        auto *problem = new QLabel;
+        problem->setWordWrap(true);
+        problem->hide();
+        cleaning->addWidget(problem);
+        commandProblems_[row.key] = problem;
+        generalTexts_ += ' ' + command;
     }
-    cleaning->addLayout(clean);
-    generalProblem_ = new QLabel;
-    generalProblem_->setWordWrap(true);
-    generalProblem_->hide();
-    cleaning->addWidget(generalProblem_);
     QVBoxLayout *window = addGroup("sGroupWindow");
     for (const GeneralBox &row : generalBoxes) {
         const Table table = row.aboutCleaning ? Table::menu : Table::standard;
@@ -321,7 +324,7 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     addGroup("sCopyTable")->addWidget(copyTable_);
     layout->addStretch();
 
-    generalTexts_ = localized("sPageGeneral") + ' ' + command + ' ' + copyTable_->searchTexts();
+    generalTexts_ += ' ' + copyTable_->searchTexts();
     for (const QCheckBox *box : page->findChildren<QCheckBox *>()) {
         generalTexts_ += ' ' + box->text() + ' ' + box->accessibleDescription();
     }
@@ -379,9 +382,9 @@ void PreferencesWindow::updateGeneral() {
 }
 
 void PreferencesWindow::setHotKeyProblem(std::string_view hotKey, const QString &problem) {
-    if (hotKey == cleanHotKey) {
-        generalProblem_->setText(problem);
-        generalProblem_->setVisible(!problem.isEmpty());
+    if (const auto found = commandProblems_.find(hotKey); found != commandProblems_.end()) {
+        found->second->setText(problem);
+        found->second->setVisible(!problem.isEmpty());
     }
     for (OptionPage *page : optionPages_) {
         page->setHotKeyProblem(hotKey, problem);

@@ -13,6 +13,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -88,7 +89,7 @@ class PreferencesWindow final : public QMainWindow {
     QStackedWidget *pages_;
     QLabel *nothingFound_;
     QLabel *notice_;
-    QLabel *generalProblem_ = nullptr;
+    std::map<std::string_view, QLabel *> commandProblems_; // by hot key
     PreviewPane *preview_;
     QSplitter *splitter_;
     std::vector<OptionPage *> optionPages_;

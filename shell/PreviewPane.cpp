@@ -6,10 +6,9 @@
 #include "shell/Controls.h"
 #include "shell/Program.h"
 #include "shell/Strings.h"
+#include "shell/TextPanes.h"
 
 #include <QEvent>
-#include <QStyle>
-#include <QTextBlock>
 #include <chrono>
 #include <exception>
 #include <utility>
@@ -25,59 +24,14 @@ constexpr auto settlesAfter = 120ms;
 // UTF-16 code units. A longer text would make the window slow, and nobody reads it here.
 constexpr qsizetype longest = 50'000;
 
-// As the editor holds a text: one unit for each line break.
-QString asShown(QString text) {
-    return text.replace("\r\n", "\n")
-        .replace('\r', '\n')
-        .replace(QChar(QChar::ParagraphSeparator), '\n');
-}
-
-// The editor's own toPlainText() makes spaces of no-break spaces.
-QString textOf(const QPlainTextEdit &edit) {
-    return edit.document()
-        ->toRawText()
-        .replace(QChar(QChar::ParagraphSeparator), '\n')
-        .replace(QChar(QChar::LineSeparator), '\n');
-}
-
-QPlainTextEdit *makeEditor(const char *name, const char *titleKey, const char *tipKey) {
-    auto *edit = new QPlainTextEdit;
-    describe(*edit, name, titleKey, tipKey);
-    edit->setTabChangesFocus(true);
-    QTextOption option = edit->document()->defaultTextOption();
-    option.setAlignment(QStyle::visualAlignment(edit->layoutDirection(), Qt::AlignLeft));
-    option.setFlags(option.flags() | QTextOption::ShowTabsAndSpaces |
-                    QTextOption::ShowLineAndParagraphSeparators);
-    edit->document()->setDefaultTextOption(option);
-    edit->setMinimumHeight(90);
-    return edit;
-}
-
-void markSpans(QPlainTextEdit &edit, const std::vector<TextSpan> &spans, const QColor &colour) {
-    QList<QTextEdit::ExtraSelection> selections;
-    for (const TextSpan &span : spans) {
-        QTextEdit::ExtraSelection selection;
-        selection.cursor = QTextCursor(edit.document());
-        selection.cursor.setPosition(static_cast<int>(span.start));
-        selection.cursor.setPosition(static_cast<int>(span.start + span.length),
-                                     QTextCursor::KeepAnchor);
-        selection.format.setBackground(colour);
-        // Underlined too, so that colour is not all that tells; struck out, a dot could not be
-        // read.
-        selection.format.setFontUnderline(true);
-        selections.push_back(selection);
-    }
-    edit.setExtraSelections(selections);
-}
-
 } // namespace
 
 PreviewPane::PreviewPane(Program &program)
     : program_(program)
     , mainQueue_(program.parts().mainQueue)
     , halves_(new QBoxLayout(QBoxLayout::TopToBottom, this))
-    , before_(makeEditor("previewBefore", "sPreviewBefore", "sPreviewBeforeTip"))
-    , after_(makeEditor("previewAfter", "sPreviewAfter", "sPreviewAfterTip"))
+    , before_(makeTextPane("previewBefore", "sPreviewBefore", "sPreviewBeforeTip"))
+    , after_(makeTextPane("previewAfter", "sPreviewAfter", "sPreviewAfterTip"))
     , note_(new QLabel)
     , take_(new QPushButton(localized("sPreviewTake")))
     , apply_(new QPushButton(localized("sPreviewApply"))) {
@@ -224,9 +178,7 @@ void PreviewPane::show(const Result &result) {
 }
 
 void PreviewPane::markDifferences() {
-    const bool dark = palette().color(QPalette::Base).lightness() < 128;
-    markSpans(*before_, removed_, dark ? QColor(0x6b, 0x2b, 0x2b) : QColor(0xff, 0xd7, 0xd5));
-    markSpans(*after_, marked_, dark ? QColor(0x1f, 0x55, 0x2c) : QColor(0xc8, 0xf0, 0xce));
+    shell::markDifferences(*before_, removed_, *after_, marked_);
 }
 
 } // namespace nerlo::shell

@@ -148,6 +148,7 @@ void Program::registerHotKeys() {
                                                            localized(key).toStdString());
     };
     bind(settings::cleanHotKey, [this] { clean(); });
+    bind(settings::chooseHotKey, [this] { choose(); });
     for (const auto &operation : engine::operations()) {
         bind(operation.hotKey, [this, index = operation.index] { runOperation(index); });
     }
@@ -294,6 +295,9 @@ bool Program::perform(const Request &request) {
         break;
     case Command::clean:
         clean();
+        break;
+    case Command::choose:
+        choose();
         break;
     case Command::operation:
         runOperation(request.argument.toInt());

@@ -73,6 +73,8 @@ class Program final {
     // The one at this place in the list, counted from 0.
     void switchProfile(int place);
     void showPreferences() { delegate_->showPreferences(); }
+    // Lets the user choose what is done to the text on the clipboard.
+    void choose() { windows_.showChooser(); }
     // The program was started again.
     void activate();
     // English, UTF-8. `sessionBus`: others can reach the program over the bus.

@@ -14,6 +14,8 @@ constexpr CommandRow rows[] = {
     {Command::clean, "Clean", "clean", nullptr, "Clean the text on the clipboard."},
     {Command::operation, "Operation", "operation", "INDEX|NAME",
      "Run one operation on it, by index or name (see: nerlo operations)."},
+    {Command::choose, "Choose", "choose", nullptr,
+     "Choose what is done to it, in a small window at the pointer."},
     {Command::restore, "Restore", "restore", nullptr,
      "Put back what stood there before the last clean."},
     {Command::why, "Why", "why", nullptr,

@@ -26,6 +26,7 @@ enum class Command {
     preferences,
     clean,
     operation,
+    choose,
     restore,
     why,
     doctor,

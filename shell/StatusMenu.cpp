@@ -104,6 +104,7 @@ StatusMenu::StatusMenu(Program &program)
     , profiles_(std::make_unique<QMenu>(title("Profiles")))
     , trayProfiles_(std::make_unique<QMenu>(title("Profiles")))
     , clean_(add("clean", localized(settings::cleanHotKey), [](Program &p) { p.clean(); }))
+    , choose_(add("choose", localized(settings::chooseHotKey), [](Program &p) { p.choose(); }))
     , automatic_(add("automatic", title("Automatically clear formatting"),
                      [](Program &p) { p.setAutomatic(AutomaticMode::toggle); }))
     , excelException_(add("excelException", title("Except copies from Excel"),
@@ -146,7 +147,7 @@ StatusMenu::StatusMenu(Program &program)
     greyWithout(links.email, *email_);
 
     statusMenu_->setToolTipsVisible(true);
-    statusMenu_->addActions({clean_, automatic_, excelException_, never_, restore_});
+    statusMenu_->addActions({clean_, choose_, automatic_, excelException_, never_, restore_});
     statusMenu_->addSeparator();
     statusMenu_->addMenu(operations_.get());
     statusMenu_->addMenu(trayProfiles_.get());
@@ -215,7 +216,7 @@ void StatusMenu::fillMenuBar(QMenuBar &bar) {
     program->setToolTipsVisible(true);
     program->addActions({about_, preferences_, rate_, hide_, quit_});
     QMenu *clear = bar.addMenu(titles[1]);
-    clear->addActions({clean_, automatic_, excelException_, never_, restore_});
+    clear->addActions({clean_, choose_, automatic_, excelException_, never_, restore_});
     clear->addSeparator();
     clear->addMenu(operations_.get());
     clear->addMenu(profiles_.get());

@@ -62,6 +62,7 @@ class StatusMenu final : public QObject {
     QStringList profileNames_;
     bool overBus_ = false;
     QAction *clean_;
+    QAction *choose_;
     QAction *automatic_;
     QAction *excelException_;
     QAction *never_;

@@ -1508,6 +1508,70 @@
         <source>sLeaveAlone</source>
         <translation>تُترك كما هي</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>اختيار ما يُفعل بالحافظة</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>يفتح نافذة صغيرة عند المؤشر: اكتب للعثور على عملية أو ملف تعريف أو قواعد، وشاهد النتيجة، ثم اضغط Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>ابحث عن عملية أو ملف تعريف أو قواعد</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>كلمات من الاسم؛ مفاتيح الأسهم تختار من بين النتائج</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>ما يمكن فعله</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>يضع Enter النتيجة في الحافظة</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>ملف تعريف</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>ملف تعريف جاهز</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>قواعد</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>عملية</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>قواعد كل ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>قواعد «%@»</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>النص في الحافظة</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>ما سيصير إليه</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>‏Enter: إلى الحافظة · Esc: ترك كل شيء كما كان</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>‏Enter: إلى الحافظة · Shift+Enter: لصقه أيضًا · Esc: ترك كل شيء كما كان</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1508,6 +1508,70 @@ MIT-Lizenz</translation>
         <source>sLeaveAlone</source>
         <translation>in Ruhe lassen</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Wählen, was mit der Zwischenablage geschieht</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Öffnet ein kleines Fenster am Mauszeiger: tippen, um eine Funktion, ein Profil oder Regeln zu finden, sehen, was geschieht, und Enter drücken.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Funktion, Profil oder Regeln finden</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Wörter aus dem Namen; die Pfeiltasten wählen unter dem Gefundenen</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Was möglich ist</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter legt das Ergebnis in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Fertiges Profil</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Regeln aller Profile</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Regeln von „%@“</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Der Text in der Zwischenablage</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Was daraus würde</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: in die Zwischenablage · Esc: alles lassen, wie es war</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: in die Zwischenablage · Umschalt+Enter: auch einfügen · Esc: alles lassen, wie es war</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1508,6 +1508,70 @@
         <source>sLeaveAlone</source>
         <translation>να μείνει όπως είναι</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Επιλογή ενέργειας για το πρόχειρο</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Ανοίγει ένα μικρό παράθυρο στον δείκτη: πληκτρολογήστε για να βρείτε λειτουργία, προφίλ ή κανόνες, δείτε το αποτέλεσμα και πατήστε Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Εύρεση λειτουργίας, προφίλ ή κανόνων</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Λέξεις του ονόματος· τα βέλη επιλέγουν από όσα βρέθηκαν</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Τι μπορεί να γίνει</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Το Enter βάζει το αποτέλεσμα στο πρόχειρο</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Προφίλ</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Έτοιμο προφίλ</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Κανόνες</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Λειτουργία</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Κανόνες όλων των προφίλ</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Κανόνες του «%@»</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Το κείμενο του προχείρου</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Τι θα γινόταν</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: στο πρόχειρο · Esc: καμία αλλαγή</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: στο πρόχειρο · Shift+Enter: και επικόλληση · Esc: καμία αλλαγή</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

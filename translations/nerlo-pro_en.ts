@@ -1511,6 +1511,70 @@ MIT licence</translation>
         <source>sLeaveAlone</source>
         <translation>leave alone</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Choose what to do with the clipboard</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Opens a small window at the pointer: type to find an operation, a profile or rules, see what it does, and press Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Find an operation, a profile or rules</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Words of its name; the arrow keys choose among what is found</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>What can be done</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter puts the result on the clipboard</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Ready profile</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Rules</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Rules of all profiles</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Rules of “%@”</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>The text on the clipboard</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>What it would become</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: to the clipboard · Esc: leave all as it was</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: to the clipboard · Shift+Enter: paste it too · Esc: leave all as it was</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

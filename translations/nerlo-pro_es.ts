@@ -1508,6 +1508,70 @@ Licencia MIT</translation>
         <source>sLeaveAlone</source>
         <translation>dejar como está</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Elegir qué hacer con el portapapeles</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Abre una pequeña ventana junto al puntero: escriba para encontrar una operación, un perfil o reglas, vea el efecto y pulse Intro.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Buscar una operación, un perfil o reglas</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Palabras de su nombre; las flechas eligen entre lo encontrado</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Lo que se puede hacer</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Intro pone el resultado en el portapapeles</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Perfil incluido</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Reglas</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Operación</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Reglas de todos los perfiles</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Reglas de «%@»</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>El texto del portapapeles</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>En qué se convertiría</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Intro: al portapapeles · Esc: dejarlo todo como estaba</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Intro: al portapapeles · Mayús+Intro: pegar también · Esc: dejarlo todo como estaba</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

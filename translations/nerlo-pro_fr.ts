@@ -1508,6 +1508,70 @@ Licence MIT</translation>
         <source>sLeaveAlone</source>
         <translation>laisser intacte</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Choisir quoi faire du presse-papiers</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Ouvre une petite fenêtre près du pointeur : tapez pour trouver une opération, un profil ou des règles, voyez l’effet et appuyez sur Entrée.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Trouver une opération, un profil ou des règles</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Des mots de son nom ; les flèches choisissent parmi les résultats</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Ce qui est possible</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Entrée met le résultat dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Profil fourni</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Règles</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Opération</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Règles de tous les profils</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Règles de « %@ »</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Le texte du presse-papiers</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Ce qu’il deviendrait</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Entrée : vers le presse-papiers · Échap : ne rien changer</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Entrée : vers le presse-papiers · Maj+Entrée : coller aussi · Échap : ne rien changer</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

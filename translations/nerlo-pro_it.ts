@@ -1508,6 +1508,70 @@ Licenza MIT</translation>
         <source>sLeaveAlone</source>
         <translation>lascia com’è</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Scegli cosa fare degli appunti</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Apre una piccola finestra vicino al puntatore: digita per trovare un’operazione, un profilo o regole, guarda l’effetto e premi Invio.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Trova un’operazione, un profilo o regole</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Parole del nome; le frecce scelgono fra i risultati</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Che cosa si può fare</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Invio mette il risultato negli appunti</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Profilo</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Profilo pronto</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Regole</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Operazione</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Regole di tutti i profili</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Regole di «%@»</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Il testo negli appunti</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Che cosa diventerebbe</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Invio: negli appunti · Esc: lascia tutto com’era</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Invio: negli appunti · Maiusc+Invio: incolla anche · Esc: lascia tutto com’era</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

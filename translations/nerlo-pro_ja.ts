@@ -1508,6 +1508,70 @@ MIT ライセンス</translation>
         <source>sLeaveAlone</source>
         <translation>何もしない</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>クリップボードの処理を選ぶ</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>ポインターの位置に小さなウインドウを開きます。入力して操作、プロファイル、規則を探し、結果を見て Enter を押します。</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>操作、プロファイル、規則を探す</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>名前の言葉を入力します。矢印キーで結果から選びます</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>できること</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter で結果をクリップボードに入れます</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>用意されたプロファイル</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>規則</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>すべてのプロファイルの規則</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>「%@」の規則</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>クリップボードのテキスト</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>処理した結果</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter：クリップボードへ · Esc：何も変えない</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter：クリップボードへ · Shift+Enter：貼り付けも · Esc：何も変えない</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

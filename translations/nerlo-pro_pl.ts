@@ -1508,6 +1508,70 @@ Licencja MIT</translation>
         <source>sLeaveAlone</source>
         <translation>zostaw bez zmian</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Wybierz, co zrobić ze schowkiem</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Otwiera małe okno przy wskaźniku: wpisz, aby znaleźć operację, profil lub reguły, zobacz wynik i naciśnij Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Znajdź operację, profil lub reguły</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Słowa z nazwy; klawisze strzałek wybierają spośród znalezionych</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Co można zrobić</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter umieszcza wynik w schowku</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Gotowy profil</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Reguły</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Operacja</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Reguły wszystkich profili</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Reguły profilu „%@”</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Tekst w schowku</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Czym by się stał</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: do schowka · Esc: zostaw bez zmian</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: do schowka · Shift+Enter: także wklej · Esc: zostaw bez zmian</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1508,6 +1508,70 @@ Licença MIT</translation>
         <source>sLeaveAlone</source>
         <translation>deixar como está</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Escolher o que fazer com a área de transferência</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Abre uma pequena janela junto ao ponteiro: digite para encontrar uma operação, um perfil ou regras, veja o efeito e pressione Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Encontrar uma operação, um perfil ou regras</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Palavras do nome; as setas escolhem entre os resultados</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>O que pode ser feito</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter põe o resultado na área de transferência</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Perfil pronto</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Regras</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Operação</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Regras de todos os perfis</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Regras de “%@”</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>O texto da área de transferência</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>O que se tornaria</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: para a área de transferência · Esc: deixar tudo como estava</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: para a área de transferência · Shift+Enter: colar também · Esc: deixar tudo como estava</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

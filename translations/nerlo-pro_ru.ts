@@ -1508,6 +1508,70 @@
         <source>sLeaveAlone</source>
         <translation>не трогать</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Выбрать, что сделать с буфером обмена</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Открывает небольшое окно у указателя: наберите текст, чтобы найти операцию, профиль или правила, посмотрите результат и нажмите Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Найти операцию, профиль или правила</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Слова из названия; стрелки выбирают среди найденного</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Что можно сделать</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter помещает результат в буфер обмена</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Профиль</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Готовый профиль</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Правила</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Операция</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Правила всех профилей</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Правила «%@»</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Текст в буфере обмена</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Чем он станет</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: в буфер обмена · Esc: ничего не менять</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: в буфер обмена · Shift+Enter: ещё и вставить · Esc: ничего не менять</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

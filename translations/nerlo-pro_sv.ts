@@ -1508,6 +1508,70 @@ MIT-licens</translation>
         <source>sLeaveAlone</source>
         <translation>lämna i fred</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Välj vad som görs med urklipp</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Öppnar ett litet fönster vid pekaren: skriv för att hitta en åtgärd, en profil eller regler, se vad som händer och tryck på Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Hitta en åtgärd, en profil eller regler</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Ord ur namnet; piltangenterna väljer bland det som hittats</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Vad som kan göras</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter lägger resultatet i urklipp</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Färdig profil</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Regler</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Åtgärd</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Regler för alla profiler</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Regler för ”%@”</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Texten i urklipp</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Vad den skulle bli</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: till urklipp · Esc: lämna allt som det var</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: till urklipp · Skift+Enter: klistra också in · Esc: lämna allt som det var</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1508,6 +1508,70 @@
         <source>sLeaveAlone</source>
         <translation>не чіпати</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>Вибрати, що зробити з буфером обміну</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>Відкриває невелике вікно біля вказівника: введіть текст, щоб знайти операцію, профіль або правила, перегляньте результат і натисніть Enter.</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>Знайти операцію, профіль або правила</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>Слова з назви; стрілки вибирають серед знайденого</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>Що можна зробити</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>Enter кладе результат у буфер обміну</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>Профіль</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>Готовий профіль</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>Правила</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>Операція</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>Правила всіх профілів</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>Правила «%@»</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>Текст у буфері обміну</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>Чим він стане</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter: у буфер обміну · Esc: нічого не змінювати</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter: у буфер обміну · Shift+Enter: ще й вставити · Esc: нічого не змінювати</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

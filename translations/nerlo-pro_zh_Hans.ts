@@ -1508,6 +1508,70 @@ MIT 许可证</translation>
         <source>sLeaveAlone</source>
         <translation>保持不变</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>选择如何处理剪贴板</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>在指针处打开一个小窗口：输入文字查找操作、配置或规则，查看效果，然后按 Enter。</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>查找操作、配置或规则</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>名称中的词；用方向键在结果中选择</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>可以做什么</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>按 Enter 将结果放入剪贴板</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>现成配置</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>所有配置的规则</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>“%@”的规则</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>剪贴板上的文本</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>处理后的结果</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter：放入剪贴板 · Esc：保持原样</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter：放入剪贴板 · Shift+Enter：同时粘贴 · Esc：保持原样</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

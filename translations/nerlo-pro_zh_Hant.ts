@@ -1508,6 +1508,70 @@ MIT 授權</translation>
         <source>sLeaveAlone</source>
         <translation>保持不變</translation>
     </message>
+    <message>
+        <source>sChooseForClipboard</source>
+        <translation>選擇如何處理剪貼簿</translation>
+    </message>
+    <message>
+        <source>sChooseForClipboardTip</source>
+        <translation>在指標處開啟小視窗：輸入文字尋找操作、設定檔或規則，檢視效果，然後按 Enter。</translation>
+    </message>
+    <message>
+        <source>sChooserSearch</source>
+        <translation>尋找操作、設定檔或規則</translation>
+    </message>
+    <message>
+        <source>sChooserSearchTip</source>
+        <translation>名稱中的詞；用方向鍵在結果中選擇</translation>
+    </message>
+    <message>
+        <source>sChooserList</source>
+        <translation>可以做什麼</translation>
+    </message>
+    <message>
+        <source>sChooserListTip</source>
+        <translation>按 Enter 將結果放入剪貼簿</translation>
+    </message>
+    <message>
+        <source>sChooserProfile</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>sChooserReady</source>
+        <translation>現成設定檔</translation>
+    </message>
+    <message>
+        <source>sChooserRules</source>
+        <translation>規則</translation>
+    </message>
+    <message>
+        <source>sChooserOperation</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>sChooserSharedRules</source>
+        <translation>所有設定檔的規則</translation>
+    </message>
+    <message>
+        <source>sChooserRulesOf</source>
+        <translation>「%@」的規則</translation>
+    </message>
+    <message>
+        <source>sChooserBeforeTip</source>
+        <translation>剪貼簿上的文字</translation>
+    </message>
+    <message>
+        <source>sChooserAfterTip</source>
+        <translation>處理後的結果</translation>
+    </message>
+    <message>
+        <source>sChooserKeys</source>
+        <translation>Enter：放入剪貼簿 · Esc：保持原樣</translation>
+    </message>
+    <message>
+        <source>sChooserKeysPaste</source>
+        <translation>Enter：放入剪貼簿 · Shift+Enter：同時貼上 · Esc：保持原樣</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -24,11 +24,11 @@ _nerlo_pro() {
     --operation) _nerlo_pro_words "$(_nerlo_pro_operations)" "$cur" ;;
     --profile) _nerlo_pro_words "$(_nerlo_pro_profiles)" "$cur" ;;
     --shortcut)
-        _nerlo_pro_words "$(printf 'clean=\n'; _nerlo_pro_operations | sed 's/$/=/')" "$cur"
+        _nerlo_pro_words "$(printf 'clean=\nchoose=\n'; _nerlo_pro_operations | sed 's/$/=/')" "$cur"
         compopt -o nospace
         ;;
     --automatic) COMPREPLY=($(compgen -W "on off toggle" -- "$cur")) ;;
-    *) COMPREPLY=($(compgen -W "--clean --operation --restore --preferences --automatic --profile --shortcut --why --doctor --quit --help --version" -- "$cur")) ;;
+    *) COMPREPLY=($(compgen -W "--clean --operation --choose --restore --preferences --automatic --profile --shortcut --why --doctor --quit --help --version" -- "$cur")) ;;
     esac
 }
 

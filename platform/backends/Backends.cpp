@@ -7,6 +7,7 @@
 #include "platform/wayland/WaylandActiveApplication.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandPasteboard.h"
+#include "platform/wayland/WaylandPaster.h"
 #include "platform/wayland/WaylandPopupLayer.h"
 #include "platform/x11/SharedConnection.h"
 #include "platform/x11/X11ActiveApplication.h"
@@ -14,6 +15,7 @@
 #include "platform/x11/X11HotKeys.h"
 #include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/X11Pasteboard.h"
+#include "platform/x11/X11Paster.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 
 #include <utility>
@@ -120,6 +122,19 @@ Chosen<HotKeyService> Backends::openHotKeys(const KeyboardLayout &layout,
 
 Chosen<PopupLayer> Backends::openPopupLayer() {
     return firstOf<PopupLayer>([&] { return createWaylandPopupLayer(mainQueue_, io_); });
+}
+
+Chosen<Paster> Backends::openPaster(const KeyboardLayout &layout) {
+    return firstOf<Paster>([&] { return createWaylandPaster(mainQueue_, io_); },
+                           [&] { return createX11Paster(mainQueue_, layout, x11()); });
+}
+
+bool Backends::grabGetsAllKeys() {
+    if (!qtIsOnX11()) {
+        return false;
+    }
+    // To a window in Xwayland only the compositor gives keys.
+    return wayland::EventLoop::defaultDisplay().empty() || unmanagedWindowsGetKeys(x11());
 }
 
 std::unique_ptr<TaskbarHint> Backends::openTaskbarHint() {

@@ -7,6 +7,7 @@
 #include "platform/KeyboardLayout.h"
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
+#include "platform/Paster.h"
 #include "platform/PopupLayer.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
@@ -60,7 +61,14 @@ class Backends {
     // Null where the toolkit's own windows are the best there is.
     Chosen<PopupLayer> openPopupLayer();
 
+    // Wayland, then X11. Null where no program may press keys. `layout` must outlive the result.
+    Chosen<Paster> openPaster(const KeyboardLayout &layout);
+
     // The rest needs the toolkit's application object.
+
+    // Whether a window of the toolkit that no window manager manages gets all keys when it grabs
+    // the keyboard. It can stand anywhere then, and the focus stays where it is meanwhile.
+    bool grabGetsAllKeys();
 
     // Null where programs cannot keep a window out of the taskbar.
     std::unique_ptr<TaskbarHint> openTaskbarHint();

@@ -13,6 +13,7 @@
 #include <viewporter-client.h>
 #include <wayland-client.h>
 #include <wlr-layer-shell-unstable-v1-client.h>
+#include <xdg-output-unstable-v1-client.h>
 #include <xdg-shell-client.h>
 
 namespace nerlo::platform::wayland {
@@ -196,7 +197,7 @@ LayerPopup::LayerPopup(EventLoop &loop, const Popup &popup, Hooks hooks)
                   if (output.second.name != name) {
                       return false;
                   }
-                  drop(output.first);
+                  forget(output.first, output.second);
                   return true;
               });
           }) {}
@@ -208,8 +209,9 @@ LayerPopup::~LayerPopup() {
     shown_.reset();
     picture_.reset();
     for (const auto &[output, known] : outputs_) {
-        drop(output);
+        forget(output, known);
     }
+    drop(positions_);
     drop(touch_);
     drop(pointer_);
     drop(seat_);
@@ -241,6 +243,9 @@ void LayerPopup::bind(std::uint32_t name, std::string_view interface, std::uint3
                 xdg_wm_base_pong(base, serial);
             }};
         xdg_wm_base_add_listener(windows_, &listener, this);
+    } else if (is(zxdg_output_manager_v1_interface, positions_)) {
+        positions_ =
+            bound<zxdg_output_manager_v1>(registry_, name, zxdg_output_manager_v1_interface, 1);
     } else if (is(wl_seat_interface, seat_)) {
         seat_ = bound<wl_seat>(registry_, name, wl_seat_interface, 1);
         listen(seat_);
@@ -268,6 +273,31 @@ void LayerPopup::listen(wl_output *output) {
         return events;
     }();
     wl_output_add_listener(output, &listener, this);
+}
+
+// Where the screens stand beside each other.
+void LayerPopup::askPositions() {
+    for (auto &[output, known] : outputs_) {
+        if (!positions_ || known.position) {
+            continue;
+        }
+        known.position = zxdg_output_manager_v1_get_xdg_output(positions_, output);
+        static constexpr zxdg_output_v1_listener listener{
+            [](void *to, zxdg_output_v1 *, std::int32_t x, std::int32_t y) {
+                static_cast<Output *>(to)->origin = {x, y};
+            },
+            [](void *, zxdg_output_v1 *, std::int32_t, std::int32_t) {},
+            [](void *, zxdg_output_v1 *) {}, [](void *, zxdg_output_v1 *, const char *) {},
+            [](void *, zxdg_output_v1 *, const char *) {}};
+        zxdg_output_v1_add_listener(known.position, &listener, &known); // it stays in its place
+    }
+}
+
+void LayerPopup::forget(wl_output *output, const Output &known) {
+    if (known.position) {
+        zxdg_output_v1_destroy(known.position);
+    }
+    drop(output);
 }
 
 void LayerPopup::listen(wl_seat *seat) {
@@ -349,6 +379,7 @@ void LayerPopup::open() {
     };
     // What the compositor has, and then the scales of the screens and whether there is a pointer.
     loop_.afterRoundTrip(pasteboardStallLimit, ifAnswered([this, ifAnswered] {
+                             askPositions();
                              loop_.afterRoundTrip(pasteboardStallLimit, ifAnswered([this] {
                                                       if (popup_.atPointer && pointer_ &&
                                                           viewporter_ && !outputs_.empty() &&
@@ -393,7 +424,9 @@ void LayerPopup::measureScreen(wl_output *output) {
     wl_output *on = outputs_.contains(output) ? output : nullptr;
     shown_ = std::make_unique<Layer>(*this, on, wholeScreen, [this, on](int width, int height) {
         shown_->configured = nullptr;
-        screen_ = {width, height, {}, width, height};
+        const auto known = outputs_.find(on);
+        const PopupPoint origin = known == outputs_.end() ? PopupPoint() : known->second.origin;
+        screen_ = {width, height, {}, width, height, origin};
         measureFreeArea(outputs_.contains(on) ? on : nullptr);
     });
     static const auto listener = [] {

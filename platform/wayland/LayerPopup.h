@@ -29,6 +29,8 @@ struct wl_touch;
 struct wp_viewporter;
 struct xdg_wm_base;
 struct zwlr_layer_shell_v1;
+struct zxdg_output_manager_v1;
+struct zxdg_output_v1;
 
 namespace nerlo::platform::wayland {
 
@@ -60,9 +62,17 @@ class LayerPopup {
     struct Layer;
     struct Probe;
     struct Menu;
+    struct Output {
+        std::uint32_t name = 0;
+        int scale = 1;
+        PopupPoint origin;
+        zxdg_output_v1 *position = nullptr;
+    };
 
     void bind(std::uint32_t name, std::string_view interface, std::uint32_t version);
     void listen(wl_output *output);
+    void askPositions();
+    static void forget(wl_output *output, const Output &known);
     void listen(wl_seat *seat);
     void setCapabilities(std::uint32_t capabilities);
     void listen(wl_pointer *pointer);
@@ -85,13 +95,10 @@ class LayerPopup {
     zwlr_layer_shell_v1 *shell_ = nullptr;
     wp_viewporter *viewporter_ = nullptr;
     xdg_wm_base *windows_ = nullptr;
+    zxdg_output_manager_v1 *positions_ = nullptr;
     wl_seat *seat_ = nullptr;
     wl_pointer *pointer_ = nullptr;
     wl_touch *touch_ = nullptr;
-    struct Output {
-        std::uint32_t name = 0;
-        int scale = 1;
-    };
     std::map<wl_output *, Output> outputs_;
 
     std::vector<std::unique_ptr<Probe>> probes_;

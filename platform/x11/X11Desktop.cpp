@@ -4,7 +4,9 @@
 #include "platform/x11/SharedConnection.h"
 
 #include <cstring>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace nerlo::platform {
 
@@ -157,6 +159,25 @@ std::unique_ptr<TrayWatch> createX11TrayWatch(MainQueue &mainQueue,
     return connection ? std::make_unique<X11TrayWatch>(std::move(connection), mainQueue,
                                                        std::move(appeared))
                       : nullptr;
+}
+
+bool unmanagedWindowsGetKeys(const std::shared_ptr<SharedConnection> &connection) {
+    // Of the compositors that are known, those built on this library do.
+    constexpr std::string_view library = "wlroots";
+    constexpr std::size_t limit = 1024;
+    bool known = false;
+    if (connection) {
+        connection->run([&, &x = connection->connection()] {
+            const auto check =
+                x.property(x.screen().root, x.atom("_NET_SUPPORTING_WM_CHECK"), limit, false);
+            const auto window = check ? check->words() : std::vector<std::uint32_t>();
+            const auto name = window.empty()
+                                  ? std::nullopt
+                                  : x.property(window[0], x.atom("_NET_WM_NAME"), limit, false);
+            known = name && name->bytes.starts_with(library);
+        });
+    }
+    return known;
 }
 
 } // namespace nerlo::platform

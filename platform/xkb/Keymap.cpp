@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -76,6 +77,12 @@ std::shared_ptr<const Keymap> Keymap::adopt(xkb_keymap *keymap) {
 
 Keymap::~Keymap() {
     xkb_keymap_unref(keymap_);
+}
+
+std::string Keymap::asText() const {
+    const std::unique_ptr<char, decltype(&std::free)> text(
+        xkb_keymap_get_as_string(keymap_, XKB_KEYMAP_FORMAT_TEXT_V1), &std::free);
+    return text ? text.get() : std::string();
 }
 
 std::uint32_t Keymap::symbol(std::uint64_t virtualKey, std::uint32_t group,

@@ -31,6 +31,9 @@ class Keymap {
     std::string symbolOfKey(std::uint64_t virtualKey, std::uint32_t group) const;
     std::optional<std::uint16_t> keyOfSymbol(std::string_view name, std::uint32_t group) const;
 
+    // As fromText() takes it.
+    std::string asText() const;
+
   private:
     explicit Keymap(xkb_keymap *keymap)
         : keymap_(keymap) {}

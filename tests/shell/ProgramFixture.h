@@ -36,6 +36,7 @@ class ProgramFixture : public testing::Test {
              {}},
             {std::make_unique<test::MemoryHotKeys>(), {}},
             {},
+            {},
             std::make_unique<NoSystemHotKeys>(),
             std::make_unique<NoLoginItem>()};
     }
