@@ -311,6 +311,35 @@ TEST_F(ClipboardCleanTest, WritesBackInTheOrderInWhichCleansEnd) {
     EXPECT_EQ(count("refused"), 0u);
 }
 
+// The snapshot and the table of copies say otherwise.
+TEST_F(ClipboardCleanTest, AChoiceIsDoneWhateverElseIsOnAndTellsWhatBecameOfIt) {
+    engine::CleaningOptions prefix;
+    prefix.udPrefixTextField = u"> ";
+    const auto options = std::make_shared<const engine::CleaningOptions>(prefix);
+    const auto known =
+        std::make_shared<const std::pair<std::u16string, std::u16string>>(u"a b", u"as shown");
+    const struct {
+        const char *shows;
+        nrChangePasterboard::Choice choice;
+        const char *copied;
+        const char *expected; // "": it is not done
+    } rows[] = {
+        {"one operation", {options, addPrefix, nullptr}, "a b", "> a b"},
+        {"everything in its options, which is nothing", {options, {}, nullptr}, "a b", "a b"},
+        {"the known result", {options, addPrefix, known}, "a b", "as shown"},
+        {"another text than the known one", {options, addPrefix, known}, "b", "> b"},
+        {"a link stays", {options, addPrefix, nullptr}, "https://example.org/", ""},
+    };
+    for (const auto &row : rows) {
+        pasteboard.copy(content({{"text/plain", row.copied}, {"text/html", "<b>"}}));
+        std::optional<bool> ended;
+        engine.changePasteboard(row.choice, [&](bool done) { ended = done; });
+        finish();
+        EXPECT_EQ(ended, *row.expected != 0) << row.shows;
+        EXPECT_EQ(text(), *row.expected ? row.expected : row.copied) << row.shows;
+    }
+}
+
 TEST_F(ClipboardCleanTest, AnyOtherIndexStillMakesItPlainText) {
     for (const auto index : {40, -1}) {
         pasteboard.copy(content({{"text/html", "<b>a b</b>"}, {"UTF8_STRING", "a b"}}));
