@@ -78,6 +78,9 @@ struct CleaningOptions {
     bool udCleanCharactersCompose = false;
     bool udCleanCharactersPlainMarks = false;
     bool udCleanCharactersMarkdown = false;
+    bool udRejoinWords = false;
+    bool udRejoinWordsPages = false;
+    bool udRejoinWordsFootnotes = false;
     bool udCleanLinks = false;
     PerSlot<bool> udChangeProperty{};
 

@@ -7,11 +7,13 @@
 #include "engine/LineJoining.h"
 #include "engine/Links.h"
 #include "engine/Markup.h"
+#include "engine/PageRepair.h"
 #include "engine/Quotes.h"
 #include "engine/Sorting.h"
 #include "engine/StructureGuard.h"
 #include "engine/TerminalText.h"
 #include "engine/Whitespace.h"
+#include "engine/WordRepair.h"
 
 #include <algorithm>
 #include <charconv>
@@ -154,6 +156,15 @@ std::u16string removeOddCharacters(std::u16string text, const Context &context) 
     return cleanCharacters(std::move(text), context.options);
 }
 
+std::u16string rejoin(std::u16string text, const Context &context) {
+    const auto &options = context.options;
+    if (options.udRejoinWordsPages) {
+        text = removePageLines(std::move(text));
+    }
+    text = rejoinWords(std::move(text), context.locale, text::dictionaryFor);
+    return options.udRejoinWordsFootnotes ? removeFootnoteMarks(std::move(text)) : text;
+}
+
 std::u16string cleanAddresses(std::u16string text, const Context &context) {
     return cleanLinks(std::move(text), context.options.linkRules.get());
 }
@@ -258,6 +269,8 @@ constexpr Operation table[] = {
     {40, "clean-characters", "sCleanCharacters",
      "take out characters that nobody sees, and odd ones to plain ones", removeOddCharacters,
      nullptr, Reach::whole},
+    {41, "rejoin-words", "sRejoinWords", "rejoin words that were cut at line ends", rejoin, nullptr,
+     Reach::whole},
     {42, "clean-links", "sCleanLinks", "take tracking parameters out of web addresses",
      cleanAddresses, nullptr, Reach::addresses},
 };
@@ -290,6 +303,7 @@ constexpr Step pipeline[] = {
     {on<&Options::udRepairEncoding>, 39},
     {on<&Options::udUnwrapTerminal>, 38},
     {on<&Options::udCleanCharacters>, 40},
+    {on<&Options::udRejoinWords>, 41},
     {on<&Options::udCleanLinks>, 42},
     {on<&Options::udChangeMultipleTabsToSingleTab>, 0},
     {on<&Options::udRemoveAllSpaces>, 1},

@@ -52,6 +52,8 @@ constexpr Value values[] = {
     {"udUnwrapTerminal", 1, terminal},
     {"udCleanCharacters", 1, pdf | mail | web | terminal | assistant},
     {"udCleanCharactersPlainMarks", 1, assistant},
+    {"udRejoinWords", 1, pdf},
+    {"udRejoinWordsPages", 1, pdf},
     {"udCleanLinks", 1, mail | web},
 
     {"udChangeMultipleSpacesToSingleSpace", 1, gentle | pdf | mail | web},

@@ -38,6 +38,7 @@ std::vector<PreferencesPage> makePages() {
          {{"udChangeWrongInsertedReturnsTo",
            "sChangeWrongInsertedReturnsTo",
            {"udChangeWrongInsertedReturnsOption"}},
+          {"udRejoinWords", "sRejoinWords", {"udRejoinWordsPages", "udRejoinWordsFootnotes"}},
           {"udUnwrapTerminal", "sUnwrapTerminal", {}},
           {"udProtectStructure", "", {}},
           {"udChangeReturnsTo",

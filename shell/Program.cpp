@@ -275,6 +275,8 @@ clipboard::CopyTable Program::copyTable() const {
         if (!row.rule.leavesAlone()) {
             auto options = std::make_shared<engine::CleaningOptions>();
             options->setAllBools(*record);
+            options->linkRules =
+                settings::readLinkRules(options->udCleanLinksRules.stringValue()).rules;
             row.options = std::move(options);
             row.title = titleOf(row.rule.profile);
         }

@@ -513,6 +513,33 @@
 بعد: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>وصل الكلمات المقطوعة في أواخر الأسطر</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>قبل: a word veri-↵fied
+بعد: a word verified</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>إزالة أرقام الصفحات والعناوين المتكررة</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>قبل: ما يتكرر أعلى كل صفحة أو أسفلها يبقى في النص.
+بعد: يزول.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>إزالة أرقام الحواشي</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>قبل: a theory4 and its proof.5
+بعد: a theory and its proof.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>استعادة نص منسوخ من طرفية</translation>
     </message>

@@ -513,6 +513,34 @@ Auch Listen, Tabellen und Adressen werden verbunden.</translation>
 Nachher: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Am Zeilenende getrennte Wörter zusammenfügen</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Vorher: ein ge-↵trenntes Wort, ein CD-↵Laufwerk
+Nachher: ein getrenntes Wort, ein CD-Laufwerk</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Seitenzahlen und Kolumnentitel entfernen</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Vorher: Was auf jeder Seite oben oder unten steht,
+wo Seitenvorschübe die Seiten trennen, ist im Text.
+Nachher: Es ist weg.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Ziffern von Fußnoten entfernen</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Vorher: eine Theorie4 und ihr Beweis.5
+Nachher: eine Theorie und ihr Beweis.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Text aus einem Terminal entpacken</translation>
     </message>

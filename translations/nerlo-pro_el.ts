@@ -513,6 +513,34 @@
 Μετά: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Ένωση λέξεων που κόπηκαν στο τέλος γραμμής</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Πριν: μια λέξη ελεγ-↵μένη
+Μετά: μια λέξη ελεγμένη</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Χωρίς αριθμούς σελίδων και επικεφαλίδες</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Πριν: ό,τι υπάρχει πάνω ή κάτω σε κάθε σελίδα,
+όταν οι σελίδες χωρίζονται, μένει στο κείμενο.
+Μετά: αφαιρείται.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Χωρίς αριθμούς υποσημειώσεων</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Πριν: μια θεωρία4 και η απόδειξη.5
+Μετά: μια θεωρία και η απόδειξη.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Αποκατάσταση κειμένου τερματικού</translation>
     </message>

@@ -514,6 +514,34 @@ Lists, tables and addresses are joined too.</translation>
 After: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Rejoin words cut at line ends</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Before: a word veri-↵fied, a well-↵known one
+After: a word verified, a well-known one</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Page numbers and running titles out</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Before: what stands above or below on every page,
+where form feeds part the pages, is in the text.
+After: it is gone.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Digits of footnotes out</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Before: a theory4 and its proof.5
+After: a theory and its proof.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Unwrap text from a terminal</translation>
     </message>

@@ -513,6 +513,34 @@ También se unen listas, tablas y direcciones.</translation>
 Después: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Unir palabras cortadas al final de línea</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Antes: una palabra veri-↵ficada, físico-↵química
+Después: una palabra verificada, físico-química</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Sin números de página ni títulos repetidos</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Antes: lo que está arriba o abajo en cada página,
+separadas por saltos de página, está en el texto.
+Después: ya no está.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Sin cifras de notas al pie</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Antes: una teoría4 y su prueba.5
+Después: una teoría y su prueba.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Recomponer texto de un terminal</translation>
     </message>

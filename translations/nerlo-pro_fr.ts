@@ -513,6 +513,34 @@ Les listes, tableaux et adresses sont réunis aussi.</translation>
 Après : café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Réunir les mots coupés en fin de ligne</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Avant : un mot véri-↵fié, un porte-↵voix
+Après : un mot vérifié, un porte-voix</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Sans numéros de page ni titres courants</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Avant : ce qui figure en haut ou en bas de chaque page,
+séparée par un saut de page, est dans le texte.
+Après : il n’y est plus.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Sans appels de note</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Avant : une théorie4 et sa preuve.5
+Après : une théorie et sa preuve.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Remettre en forme le texte d’un terminal</translation>
     </message>

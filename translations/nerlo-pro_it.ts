@@ -513,6 +513,34 @@ Anche elenchi, tabelle e indirizzi vengono uniti.</translation>
 Dopo: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Ricomponi le parole spezzate a fine riga</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Prima: una parola veri-↵ficata, tecnico-↵scientifica
+Dopo: una parola verificata, tecnico-scientifica</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Senza numeri di pagina e titoli ripetuti</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Prima: ciò che sta in alto o in basso in ogni pagina,
+dove i salti le separano, è nel testo.
+Dopo: non c’è più.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Senza cifre delle note</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Prima: una teoria4 e la sua prova.5
+Dopo: una teoria e la sua prova.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Ricomporre il testo di un terminale</translation>
     </message>

@@ -513,6 +513,33 @@
 後：café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>行末で分割された単語をつなぐ</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>前：a word veri-↵fied
+後：a word verified</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>ページ番号と柱を削除</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>前：改ページで区切られた各ページの上下の行が残ります。
+後：それらが消えます。</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>脚注番号を削除</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>前：a theory4 and its proof.5
+後：a theory and its proof.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>端末の折り返しを元に戻す</translation>
     </message>

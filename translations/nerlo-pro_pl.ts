@@ -513,6 +513,34 @@ Po: Ten wiersz został·złamany w środku.
 Po: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Połącz wyrazy przeniesione na końcu wiersza</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Przed: wyraz spraw-↵dzony, biało-↵czerwony
+Po: wyraz sprawdzony, biało-czerwony</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Bez numerów stron i powtarzanych nagłówków</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Przed: to, co stoi u góry lub u dołu każdej strony,
+gdy strony dzieli znak nowej strony, jest w tekście.
+Po: znika.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Bez cyfr przypisów</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Przed: teoria4 i jej dowód.5
+Po: teoria i jej dowód.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Scal tekst z terminala</translation>
     </message>

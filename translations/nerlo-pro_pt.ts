@@ -513,6 +513,34 @@ Listas, tabelas e endereços também são unidos.</translation>
 Depois: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Juntar palavras cortadas no fim da linha</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Antes: uma palavra veri-↵ficada, guarda-↵chuva
+Depois: uma palavra verificada, guarda-chuva</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Sem números de página e títulos repetidos</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Antes: o que está no alto ou no pé de cada página,
+separadas por quebras de página, está no texto.
+Depois: some.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Sem números de notas de rodapé</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Antes: uma teoria4 e a sua prova.5
+Depois: uma teoria e a sua prova.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Recompor texto de um terminal</translation>
     </message>

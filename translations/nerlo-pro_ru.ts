@@ -513,6 +513,34 @@
 После: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Соединить слова, перенесённые в конце строки</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>До: слово прове-↵рено, кто-↵нибудь
+После: слово проверено, кто-нибудь</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Без номеров страниц и колонтитулов</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>До: то, что стоит вверху или внизу каждой страницы,
+если страницы разделены, есть в тексте.
+После: его нет.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Без цифр сносок</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>До: теория4 и доказательство.5
+После: теория и доказательство.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Восстановить текст из терминала</translation>
     </message>

@@ -513,6 +513,34 @@ Efter: Den här raden blev·bruten på mitten.
 Efter: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>Foga ihop ord som delats vid radslut</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>Före: ett kontrol-↵lerat ord, tv-↵apparat
+Efter: ett kontrollerat ord, tv-apparat</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Ta bort sidnummer och sidhuvuden</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>Före: det som står överst eller nederst på varje sida,
+där sidbrytningar skiljer sidorna, finns i texten.
+Efter: det är borta.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Ta bort fotnotssiffror</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>Före: en teori4 och dess bevis.5
+Efter: en teori och dess bevis.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Återställ text från en terminal</translation>
     </message>

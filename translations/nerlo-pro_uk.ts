@@ -513,6 +513,34 @@
 Після: café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>З’єднати слова, перенесені в кінці рядка</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>До: слово пере-↵вірено, хто-↵небудь
+Після: слово перевірено, хто-небудь</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>Без номерів сторінок і колонтитулів</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>До: те, що стоїть угорі або внизу кожної сторінки,
+якщо сторінки розділено, є в тексті.
+Після: його немає.</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>Без цифр виносок</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>До: теорія4 і доказ.5
+Після: теорія і доказ.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>Відновити текст із термінала</translation>
     </message>

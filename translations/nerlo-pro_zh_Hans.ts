@@ -513,6 +513,33 @@
 之后：café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>连接在行尾断开的单词</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>之前：a word veri-↵fied
+之后：a word verified</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>去掉页码和页眉页脚</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>之前：以换页符分隔的各页上下的行留在文本中。
+之后：它们被移除。</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>去掉脚注数字</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>之前：a theory4 and its proof.5
+之后：a theory and its proof.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>还原终端中折行的文本</translation>
     </message>

@@ -513,6 +513,33 @@
 之後：café, it’s, Привет</translation>
     </message>
     <message>
+        <source>sRejoinWords</source>
+        <translation>連接在行尾斷開的單字</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsTip</source>
+        <translation>之前：a word veri-↵fied
+之後：a word verified</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPages</source>
+        <translation>去掉頁碼和頁首頁尾</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsPagesTip</source>
+        <translation>之前：以換頁符分隔的各頁上下的行留在文字中。
+之後：它們被移除。</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotes</source>
+        <translation>去掉註腳數字</translation>
+    </message>
+    <message>
+        <source>sRejoinWordsFootnotesTip</source>
+        <translation>之前：a theory4 and its proof.5
+之後：a theory and its proof.</translation>
+    </message>
+    <message>
         <source>sUnwrapTerminal</source>
         <translation>還原終端機中折行的文字</translation>
     </message>
