@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Seeded texts for bench/compare.py; the same arguments always give the same bytes.
 
-  make_corpus.py FOLDER MB       prose, mixed, html and lines, MB megabytes each (of lines as many
+  make_corpus.py FOLDER MB       prose, mixed, misread, html and lines, MB megabytes each (of lines as many
                                  as there are in 64 MB by the million), and the clip of 1 KB
   make_corpus.py --hostile FOLDER MB
 
@@ -28,6 +28,7 @@ HAN = "天地人日月山川木火土金水大小中上下左右東西南北春�
 KANA = "のにはをたがでてとしれさあるいるもすることから"
 EMOJI = "😀 👍🏽 🎉 🚀 👩‍💻 🇫🇷".split()
 BULLETS = "•∙‣◦⁃◘◙➢"
+WINDOWS_1252 = [bytes([byte]).decode("cp1252", "ignore") or chr(byte) for byte in range(256)]
 
 
 class Writer:
@@ -120,6 +121,14 @@ class Writer:
         bullet = self.random.choice(BULLETS) + " " if self.chance(.05) else ""
         return bullet + joint.join(words) + ".\n" + ("\n" if self.chance(.5) else "")
 
+    def misread(self):
+        """One paragraph of twenty was taken for windows-1252, now and then twice."""
+        text = self.mixed()
+        if self.chance(.05):
+            for _ in range(1 + self.chance(.2)):
+                text = "".join(WINDOWS_1252[byte] for byte in text.encode())
+        return text
+
     def html(self):
         kind = self.random.random()
         name, value = self.some_words(2)
@@ -210,6 +219,8 @@ HOSTILE = {
     "same-lines": ("same line\n", ""),
     "combining": ("e\u0301", ""),
     "thai": ("สวัสดีชาวโลกภาษาไทย", ""),
+    "misread": ("Ð ÑƒÑ\ufffd√ü├îĂĽ п∙я│ í½ ", ""),
+    "references": ("&amp;amp;", ""),
 }
 
 
@@ -238,7 +249,7 @@ def main():
         for name in HOSTILE:
             make(folder, name, write_hostile, name, size)
         return
-    for kind in ("prose", "mixed", "html"):
+    for kind in ("prose", "mixed", "misread", "html"):
         make(folder, kind, write_text, kind, size)
     make(folder, "lines", write_lines, int(1e6 * megabytes / 64))
     make(folder, "clip", write_text, "prose", 1024)

@@ -31,6 +31,8 @@ constexpr int enoughInKnownLine = 3;
 // a line in which nothing else is left to repair.
 constexpr int bearable = 6;
 constexpr int bearablePart = 12;
+// So many characters of UTF-8 in a row are nothing special.
+constexpr int ordinaryRun = 3;
 
 // The second is for lines that are clear only by what others have shown.
 constexpr int passes = 2;
@@ -316,12 +318,14 @@ struct Sequence {
     std::size_t size; // as it was shown
     int doubt = 0;
     bool lostBytes = false;
-    bool blanks = false;   // taken for no-break spaces
-    bool controls = false; // where the charset has characters
+    bool blanks = false; // taken for no-break spaces
+    int strangers = 0;   // controls where the charset has characters
 };
 
-bool isGap(char16_t control, std::size_t charset) {
-    return charsets[charset].upperHalf[control - 0x80] == u'?';
+// ISO 8859-1 is a part of the first, so that both are at home there.
+bool isStranger(char16_t unit, std::size_t charset) {
+    return charset != 0 && unit >= 0x80 && unit < 0xA0 &&
+           charsets[charset].upperHalf[unit - 0x80] != u'?';
 }
 
 constexpr char32_t leastOfSize[] = {0, 0, 0x80, 0x800, 0x10000};
@@ -350,7 +354,7 @@ std::optional<Sequence> simpleSequenceAt(View line, std::size_t at, std::size_t 
             return std::nullopt;
         }
         result.character = result.character << 6 | (byte & 0x3F);
-        result.controls = result.controls || (unit < 0xA0 && unit >= 0x80 && !isGap(unit, charset));
+        result.strangers += isStranger(unit, charset) ? 1 : 0;
     }
     if (size > 2 && found == 0) {
         return std::nullopt;
@@ -447,7 +451,7 @@ class Reading {
         }
         closeBlock();
         result_.gain += result_.whole ? taken_ : 0;
-        result_.gain -= charsets[charset_].doubt + (controls_ ? 2 : 0);
+        result_.gain -= charsets[charset_].doubt + 2 * strangers_;
         return std::move(result_);
     }
 
@@ -464,7 +468,7 @@ class Reading {
             block_ += u' ';
         }
         ++blockTaken_;
-        controls_ = controls_ || sequence.controls;
+        strangers_ += sequence.strangers;
         // Longer ones come about by chance less often.
         const int evidence = sequence.lostBytes ? 0 : 3 * (static_cast<int>(sequence.size) - 2);
         blockGain_ += std::clamp(evidence, 0, 6) - sequence.doubt;
@@ -475,7 +479,8 @@ class Reading {
         result_.line += unit;
     }
 
-    // Sequences that stand together are repaired together or not at all.
+    // Sequences that stand together are repaired together or not at all. Long runs of them do not
+    // come about by chance.
     void closeBlock() {
         if (block_.empty()) {
             return;
@@ -484,6 +489,7 @@ class Reading {
         const Kind left = result_.line.empty() ? Kind::blank : traits[result_.line.back()].kind;
         const Kind right = blockEnd_ < line_.size() ? traits[line_[blockEnd_]].kind : Kind::blank;
         blockGain_ += unlikeliness(before, left, right) - unlikeliness(block_, left, right);
+        blockGain_ += 2 * std::max(blockTaken_ - ordinaryRun, 0);
         if (blockGain_ > (known_ ? -bearablePart : 0)) {
             result_.gain += blockGain_;
             result_.line += block_;
@@ -500,8 +506,8 @@ class Reading {
     std::size_t charset_;
     bool known_;
     Attempt result_;
-    int taken_ = 0;         // sequences
-    bool controls_ = false; // whether another charset would explain them better
+    int taken_ = 0;     // sequences
+    int strangers_ = 0; // what another charset would explain better
     std::size_t blockStart_ = 0;
     std::size_t blockEnd_ = 0;
     std::u16string block_; // the sequences from blockStart_ to blockEnd_, repaired
@@ -586,8 +592,14 @@ Charsets charsetsToTry(View line) {
     return result;
 }
 
-// What windows-1252 has where ISO 8859-1 has controls; the line itself if nothing changes. "ESC ["
-// in one character begins a terminal's control sequence.
+// A letter beside which nothing of windows-1252 is expected.
+bool isForeign(char16_t unit) {
+    const Script script = scriptOf(traits[unit].kind);
+    return script == eastAsia || script == others;
+}
+
+// What windows-1252 has where ISO 8859-1 has controls; whether there was any. "ESC [" in one
+// character begins a terminal's control sequence.
 bool replaceC1(std::u16string &line) {
     constexpr char16_t sequenceIntroducer = 0x9B;
     bool changed = false;
@@ -598,8 +610,10 @@ bool replaceC1(std::u16string &line) {
         }
         const char16_t next = at + 1 < line.size() ? line[at + 1] : u' ';
         const char16_t shown = charsets[0].upperHalf[unit - 0x80];
-        if (shown != u'?' &&
-            !(unit == sequenceIntroducer && (next == u'?' || (next >= u'0' && next <= u'9')))) {
+        const bool terminal =
+            unit == sequenceIntroducer && (next == u'?' || (next >= u'0' && next <= u'9'));
+        const bool foreign = isForeign(next) || (at > 0 && isForeign(line[at - 1]));
+        if (shown != u'?' && !terminal && !foreign) {
             unit = shown;
             changed = true;
         }
