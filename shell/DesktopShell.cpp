@@ -36,6 +36,16 @@ constexpr auto trayExpectedWithin = 2000ms;
 // The command that the notice tells users to bind to a key themselves.
 const auto cleanCommand = QStringLiteral("nerlo-pro --clean");
 
+// What a restore has come to, where it was not done as a whole.
+QString textOf(clipboard::nrChangePasterboard::Restored outcome) {
+    using Restored = clipboard::nrChangePasterboard::Restored;
+    return outcome == Restored::incomplete    ? localized("sRestoreIncomplete")
+           : outcome == Restored::nothingKept ? localized("sRestoreNothing")
+           : outcome == Restored::tooLarge
+               ? localized("sRestoreTooLarge").arg(clipboard::keptOriginalLimit >> 20)
+               : localized("sRestoreRefused");
+}
+
 } // namespace
 
 DesktopShell::DesktopShell(Program &program)
@@ -332,10 +342,11 @@ void DesktopShell::showAbout() {
 }
 
 void DesktopShell::showAlert(const char *messageKey, const char *informativeKey) {
-    runAlert({Alert::Style::informational,
-              localized(messageKey),
-              localized(informativeKey),
-              {localized("OK")}},
+    inform(localized(messageKey), localized(informativeKey));
+}
+
+void DesktopShell::inform(const QString &message, const QString &informative) {
+    runAlert({Alert::Style::informational, message, informative, {localized("OK")}},
              window_ && window_->isVisible() ? window_.get() : nullptr);
 }
 
@@ -422,17 +433,8 @@ void DesktopShell::updateProgram() {
 
 void DesktopShell::restore() {
     program_.restore([this](clipboard::nrChangePasterboard::Restored outcome) {
-        using Restored = clipboard::nrChangePasterboard::Restored;
-        if (outcome != Restored::done) {
-            runAlert({Alert::Style::informational,
-                      outcome == Restored::incomplete    ? localized("sRestoreIncomplete")
-                      : outcome == Restored::nothingKept ? localized("sRestoreNothing")
-                      : outcome == Restored::tooLarge
-                          ? localized("sRestoreTooLarge").arg(clipboard::keptOriginalLimit >> 20)
-                          : localized("sRestoreRefused"),
-                      {},
-                      {localized("OK")}},
-                     window_ && window_->isVisible() ? window_.get() : nullptr);
+        if (outcome != clipboard::nrChangePasterboard::Restored::done) {
+            inform(textOf(outcome), {});
         }
     });
 }

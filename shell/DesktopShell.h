@@ -14,6 +14,7 @@
 #include "shortcuts/view/nrShortcutView.h"
 #include "storage/SettingsStore.h"
 
+#include <QString>
 #include <map>
 #include <memory>
 #include <string>
@@ -71,6 +72,7 @@ class DesktopShell final : public ShellWindows {
     void quit() override;
 
   private:
+    void inform(const QString &message, const QString &informative);
     void makePreferencesWindow();
     void connectPreferences();
     void updateProfiles();

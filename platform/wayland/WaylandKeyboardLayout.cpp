@@ -136,16 +136,16 @@ class Keyboard {
     Registry registry_;
 };
 
-class WaylandKeyboardLayout final : public KeyboardLayout {
+class WaylandKeyboardLayout final : public XkbKeyboardLayout {
   public:
     WaylandKeyboardLayout(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop,
                           std::unique_ptr<Keyboard> keyboard)
-        : layout_(keyboard->keymap ? keyboard->keymap : xkb::Keymap::fromNames("us"))
+        : XkbKeyboardLayout(keyboard->keymap ? keyboard->keymap : xkb::Keymap::fromNames("us"))
         , loop_(std::move(loop))
         , keyboard_(std::move(keyboard)) {
         keyboard_->report(
             alive_.guardOn(mainQueue, [this](const std::shared_ptr<const xkb::Keymap> &keymap) {
-                layout_.replace(keymap, 0);
+                replace(keymap, 0);
             }));
         loop_->start({});
     }
@@ -154,22 +154,9 @@ class WaylandKeyboardLayout final : public KeyboardLayout {
         keyboard_.reset();
     }
 
-    std::u16string textOfKey(std::uint64_t virtualKey) const override {
-        return layout_.textOfKey(virtualKey);
-    }
-    std::string symbolOfKey(std::uint64_t virtualKey) const override {
-        return layout_.symbolOfKey(virtualKey);
-    }
-    std::optional<std::uint16_t> keyOfSymbol(std::string_view name) const override {
-        return layout_.keyOfSymbol(name);
-    }
-    void setChangedHandler(std::function<void()> changed) override {
-        layout_.setChangedHandler(std::move(changed));
-    }
     std::string description() const override { return "Wayland, by the compositor's keymap"; }
 
   private:
-    XkbKeyboardLayout layout_;
     Alive alive_;
     std::unique_ptr<EventLoop> loop_;
     std::unique_ptr<Keyboard> keyboard_;

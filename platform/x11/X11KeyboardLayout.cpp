@@ -72,7 +72,7 @@ class LayoutListener final : public SharedConnection::Listener {
     bool otherGroup_ = false;
 };
 
-class X11KeyboardLayout final : public KeyboardLayout {
+class X11KeyboardLayout final : public XkbKeyboardLayout {
   public:
     X11KeyboardLayout(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared,
                       XkbEvents events)
@@ -89,30 +89,13 @@ class X11KeyboardLayout final : public KeyboardLayout {
         shared_->run([this] { listener_.reset(); });
     }
 
-    std::u16string textOfKey(std::uint64_t virtualKey) const override {
-        return layout_.textOfKey(virtualKey);
-    }
-    std::string symbolOfKey(std::uint64_t virtualKey) const override {
-        return layout_.symbolOfKey(virtualKey);
-    }
-    std::optional<std::uint16_t> keyOfSymbol(std::string_view name) const override {
-        return layout_.keyOfSymbol(name);
-    }
-    void setChangedHandler(std::function<void()> changed) override {
-        layout_.setChangedHandler(std::move(changed));
-    }
     std::string description() const override { return "X11, by xkb"; }
 
   private:
     void take(const Layout &layout) {
-        if (layout.keymap) {
-            keymap_ = layout.keymap;
-        }
-        layout_.replace(keymap_, layout.group);
+        replace(layout.keymap ? layout.keymap : keymap(), layout.group);
     }
 
-    std::shared_ptr<const xkb::Keymap> keymap_;
-    XkbKeyboardLayout layout_;
     Alive alive_;
     std::shared_ptr<SharedConnection> shared_;
     std::unique_ptr<LayoutListener> listener_; // on the I/O thread

@@ -1,6 +1,6 @@
-// The keyboard layout as an xkb keymap, which a backend replaces as the desktop changes it. As it
-// stands, with a keymap from the system's keyboard data, it serves tests and programs without a
-// desktop.
+// The keyboard layout as an xkb keymap. The backends derive from it and replace the keymap as the
+// desktop changes it. As it stands, with a keymap from the system's keyboard data, it serves tests
+// and programs without a desktop.
 #pragma once
 
 #include "platform/KeyboardLayout.h"
@@ -24,6 +24,9 @@ class XkbKeyboardLayout : public KeyboardLayout {
 
     // Takes another keymap or group and tells the handler. Main thread.
     void replace(std::shared_ptr<const xkb::Keymap> keymap, std::uint32_t group);
+
+  protected:
+    const std::shared_ptr<const xkb::Keymap> &keymap() const { return keymap_; }
 
   private:
     std::shared_ptr<const xkb::Keymap> keymap_;
