@@ -1,6 +1,7 @@
 #include "engine/InlineStructure.h"
 
 #include "text/Ascii.h"
+#include "text/CaseMapping.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ class InlineScan {
         , tagsGo_(tagsGo) {}
 
     std::vector<Range> run() {
-        text::UnitSet marks(u"`\\<@:]");
+        text::UnitSet marks(u"`\\<@:]'\u2019");
         marks.add(sign_, sign_);
         marks.add(u'w', u'w');
         text::UnitCursor cursor(text_, marks);
@@ -68,6 +69,9 @@ class InlineScan {
             return text_.substr(at).starts_with(u"://") ? address(schemeBefore(at), at) : at;
         case u']':
             return text_.substr(at).starts_with(u"](") ? link(at) : at;
+        case u'\'':
+        case u'\u2019':
+            return isInsideWord(at) ? add(at, at + 1) : at;
         case u'w':
             return startsWord(at) && text_.substr(at).starts_with(u"www.") ? address(at, at) : at;
         default:
@@ -92,6 +96,14 @@ class InlineScan {
 
     bool startsWord(std::size_t at) const {
         return at == 0 || (!isAsciiLetter(text_[at - 1]) && !isAsciiDigit(text_[at - 1]));
+    }
+
+    // An apostrophe. In scripts without letter case it may well be a quotation mark.
+    bool isInsideWord(std::size_t at) const {
+        const auto isLetter = [&](std::size_t place) {
+            return text::letterCase(text_[place]) != text::LetterCase::Caseless;
+        };
+        return at > limit() && at + 1 < text_.size() && isLetter(at - 1) && isLetter(at + 1);
     }
 
     // The end of the paragraph that `at` stands in.

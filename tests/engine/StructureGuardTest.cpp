@@ -68,6 +68,14 @@ TEST(StructureGuard, MarksGoByTheirRulesOnly) {
                });
 }
 
+TEST(StructureGuard, ApostrophesAreNoQuotes) {
+    expectRows({{"in a word", u"\u2018Don\u2019t\u2019, he\u2019d said",
+                 u"\u201CDon\u2019t\u201D, he\u2019d said"}},
+               [](const std::u16string &text) {
+                   return clean(text, {{"udChangeQuotes", 1}});
+               });
+}
+
 TEST(StructureGuard, HoldsForSingleOperationsToo) {
     CleaningOptions options;
     options.udProtectStructure = true;
