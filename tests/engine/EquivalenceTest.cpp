@@ -5,6 +5,7 @@
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
 #include "engine/Structure.h"
+#include "engine/StructureGuard.h"
 #include "settings/ReadyProfiles.h"
 #include "tests/reference/PlainEngine.h"
 #include "tests/reference/RandomText.h"
@@ -246,12 +247,19 @@ TEST(RandomTexts, KeepTheirStructureWithAnyOptions) {
     repeat(11, 5000, [](Random &random) {
         CleaningOptions options = random.options();
         options.udProtectStructure = true;
-        // These move lines or take the terminal's own away.
-        options.udSort = options.udRemoveDuplicateLines = options.udUnwrapTerminal = false;
+        // These move lines, and take them away.
+        options.udSort = options.udRemoveDuplicateLines = false;
         options.udRemoveHTMLTags = false;
-        const std::u16string text = structuredText(random);
+        const engine::CleaningContext context{options, random.locale()};
+        const std::vector<const engine::Operation *> steps = engine::operationsSwitchedOn(options);
+        const auto guarded = engine::guardedSteps(steps);
+        // What comes before sees the whole text.
+        const std::u16string text = engine::runSteps(
+            structuredText(random), {steps.data(), guarded.data()}, context, engine::cachedPiece);
         const std::u16string result =
-            engine::runPipeline(text, {options, random.locale()}, 1 + random.below(100));
+            engine::runSteps(engine::runGuarded(text, guarded, context, 1 + random.below(100)),
+                             {guarded.data() + guarded.size(), steps.data() + steps.size()},
+                             context, engine::cachedPiece);
         const std::u16string_view missing = missingLine(result, text, engine::scanStructure(text));
         ASSERT_TRUE(missing.empty())
             << escaped(missing) << " of " << escaped(text) << " is missing in " << escaped(result);
