@@ -20,6 +20,7 @@ using storage::PropertyValue;
 constexpr const char *selectedItemKey = "udSelectedProfileItem";
 constexpr const char *sharedListKey = "sFindAndReplaceItems";
 constexpr const char *ownListKey = "sFindAndReplaceItemsProfile";
+constexpr const char *rulesSwitchKey = "sFindReplaceBool";
 constexpr const char *onlyOneKey = "sOnlyOneProfile";
 
 nrPreferences *instance = nullptr;
@@ -541,6 +542,13 @@ void nrPreferences::updateUI(RulesUpdate update) {
 }
 
 void nrPreferences::addNewFindReplace() {
+    // Who makes a first rule wants it applied.
+    if (findReplace_.items().empty()) {
+        checkBoxChanged(rulesSwitchKey, true);
+        if (hooks_.controlsLoaded) {
+            hooks_.controlsLoaded();
+        }
+    }
     findReplace_.append(sharedFile_.newId());
     updateUI(RulesUpdate::added);
     saveCurrentFindReplaceList();

@@ -375,12 +375,29 @@ void OptionPage::alignFields() {
     }
 }
 
+// A tint of the colour of selections, below whatever stands in the row.
+void OptionPage::mark(QWidget &row, bool marked) const {
+    constexpr double strength = 0.18;
+    const QColor plain = palette().color(QPalette::Window);
+    const QColor tint = palette().color(QPalette::Highlight);
+    const auto mixed = [](int from, int to) {
+        return static_cast<int>(from + (to - from) * strength);
+    };
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window,
+                     QColor(mixed(plain.red(), tint.red()), mixed(plain.green(), tint.green()),
+                            mixed(plain.blue(), tint.blue())));
+    row.setPalette(marked ? colours : QPalette());
+    row.setAutoFillBackground(marked);
+}
+
 bool OptionPage::filter(const QStringList &words) {
     bool any = false;
     for (const Row &row : rows_) {
         const bool matches = std::ranges::all_of(
             words, [&](const QString &word) { return row.texts.contains(word); });
         row.widget->setVisible(matches);
+        mark(*row.widget, matches && !words.isEmpty());
         any = any || matches;
     }
     return any;

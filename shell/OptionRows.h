@@ -48,12 +48,14 @@ class OptionPage final : public QWidget {
     void setReport(const engine::CleaningReport &report);
     // The fields stand below each other, whatever their labels say.
     void alignFields();
-    // Shows only the options whose texts have all the words (in lower case); whether there are any.
+    // Shows only the options whose texts have all the words (in lower case), marked as found;
+    // whether there are any.
     bool filter(const QStringList &words);
     // Why the system does not give the program this shortcut; empty when it does.
     void setHotKeyProblem(std::string_view hotKey, const QString &problem);
 
   private:
+    void mark(QWidget &row, bool marked) const;
     struct Row {
         QWidget *widget;
         QString texts; // what a search looks at, in lower case

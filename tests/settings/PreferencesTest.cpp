@@ -333,6 +333,7 @@ TEST_F(FindReplace, TheSharedListAndTheProfilesOwn) {
     queue.advance(2s);
     const PropertyDictionary own{{"checkbox", 0}, {"find", u"mine"}, {"replace", u"yours"}};
     EXPECT_EQ(saved("sFindAndReplaceItemsProfile"), PropertyValue(PropertyArray{own}));
+    EXPECT_EQ(saved("sFindReplaceBool"), PropertyValue(1)); // the first rule is wanted
 
     preferences.onlyOneProfileChanged(true);
     EXPECT_EQ(preferences.findReplaceList().items(), PropertyArray{rule});

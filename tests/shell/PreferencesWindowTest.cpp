@@ -189,9 +189,11 @@ TEST_F(Preferences, TheSearchFindsAnOptionByAnyOfItsWords) {
         EXPECT_EQ(control<QLabel>("nothingFound").isHidden(), row.found != nullptr) << row.text;
         if (row.found) {
             EXPECT_TRUE(control<QCheckBox>(row.found).isVisible()) << row.text;
+            EXPECT_TRUE(control<QCheckBox>(row.found).parentWidget()->autoFillBackground());
         }
     }
     control<QLineEdit>("search").clear();
+    EXPECT_FALSE(control<QCheckBox>("udSort").parentWidget()->autoFillBackground());
     EXPECT_EQ(control<QListWidget>("pageList").currentRow(), 0);
     EXPECT_TRUE(control<QCheckBox>("automatic").isVisible());
 }
