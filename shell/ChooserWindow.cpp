@@ -58,6 +58,13 @@ void becomeActive(QWidget &window) {
     QT_WARNING_POP
 }
 
+// Some desktops' dark colours have no readable one for this.
+QColor dimmed(const QPalette &palette) {
+    QColor colour = palette.color(QPalette::Text);
+    colour.setAlphaF(0.6F);
+    return colour;
+}
+
 bool isListKey(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
            key == Qt::Key_PageDown;
@@ -95,6 +102,9 @@ ChooserWindow::~ChooserWindow() {
 void ChooserWindow::arrange() {
     describe(*search_, "chooserSearch", "sChooserSearch", "sChooserSearchTip");
     search_->setPlaceholderText(localized("sChooserSearch"));
+    QPalette colours = search_->palette();
+    colours.setColor(QPalette::PlaceholderText, dimmed(colours));
+    search_->setPalette(colours);
     search_->installEventFilter(this);
     describe(*list_, "chooserList", "sChooserList", "sChooserListTip");
     list_->setColumnCount(2);
@@ -221,7 +231,7 @@ void ChooserWindow::stayActive() {
 void ChooserWindow::fill(const QString &wanted) {
     const QSignalBlocker blocker(list_);
     list_->clear();
-    const QColor dim = palette().color(QPalette::PlaceholderText);
+    const QColor dim = dimmed(palette());
     const QSize rowSize(0, fontMetrics().height() + rowSpacing);
     for (const std::size_t place : found(items_, wanted)) {
         auto *row = new QTreeWidgetItem(list_, {items_[place].title, items_[place].kind});
