@@ -60,7 +60,7 @@ void becomeActive(QWidget &window) {
 
 // Some desktops' dark colours have no readable one for this.
 QColor dimmed(const QPalette &palette) {
-    QColor colour = palette.color(QPalette::Text);
+    QColor colour = palette.color(QPalette::Active, QPalette::WindowText);
     colour.setAlphaF(0.6F);
     return colour;
 }
