@@ -13,10 +13,13 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QStyle>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 namespace nerlo::shell {
 
@@ -24,7 +27,8 @@ namespace {
 
 constexpr int recorderWidth = 170;
 constexpr int indent = 26;
-constexpr int longestDelay = 999; // seconds that the popup may be asked to stay
+constexpr std::chrono::milliseconds flash{700}; // of an option that is pointed at
+constexpr int longestDelay = 999;               // seconds that the popup may be asked to stay
 
 constexpr auto delayKey = "udStatisticsValue";
 constexpr auto delaySwitchKey = "udStatisticsDelaySwitcher";
@@ -401,6 +405,26 @@ bool OptionPage::filter(const QStringList &words) {
         any = any || matches;
     }
     return any;
+}
+
+bool OptionPage::point(std::string_view hotKey) {
+    const auto row = std::ranges::find(rows_, hotKey, &Row::hotKey);
+    if (row == rows_.end()) {
+        return false;
+    }
+    QWidget *const widget = row->widget;
+    for (QWidget *above = parentWidget(); above; above = above->parentWidget()) {
+        if (auto *scroll = qobject_cast<QScrollArea *>(above)) {
+            scroll->ensureWidgetVisible(widget);
+        }
+    }
+    widget->setBackgroundRole(QPalette::Highlight);
+    widget->setAutoFillBackground(true);
+    QTimer::singleShot(flash, widget, [widget] {
+        widget->setAutoFillBackground(false);
+        widget->setBackgroundRole(QPalette::NoRole);
+    });
+    return true;
 }
 
 void OptionPage::setHotKeyProblem(std::string_view hotKey, const QString &problem) {

@@ -51,6 +51,8 @@ class OptionPage final : public QWidget {
     // Shows only the options whose texts have all the words (in lower case), marked as found;
     // whether there are any.
     bool filter(const QStringList &words);
+    // Brings the option of this shortcut into view and lets it flash; false when there is none.
+    bool point(std::string_view hotKey);
     // Why the system does not give the program this shortcut; empty when it does.
     void setHotKeyProblem(std::string_view hotKey, const QString &problem);
 

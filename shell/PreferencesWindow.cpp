@@ -153,6 +153,7 @@ void PreferencesWindow::makePages() {
     splitter_->setStretchFactor(1, 2);
     splitter_->setCollapsible(0, false);
     preview_->setMinimumWidth(narrowestPreview);
+    connect(preview_, &PreviewPane::optionAsked, this, &PreferencesWindow::showOption);
     pageList_->setSpacing(2);
     pageList_->setFixedWidth(pageList_->sizeHintForColumn(0) + 2 * pageList_->frameWidth() + 24);
     connect(pageList_, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -369,6 +370,16 @@ void PreferencesWindow::search(const QString &text) {
         pageList_->setCurrentRow(std::max(0, std::exchange(pageBeforeSearch_, -1)));
     } else if (firstHit >= 0 && pageList_->currentItem()->isHidden()) {
         pageList_->setCurrentRow(firstHit);
+    }
+}
+
+void PreferencesWindow::showOption(std::string_view hotKey) {
+    search_->clear(); // it may hide the option
+    for (std::size_t i = 0; i < optionPages_.size(); ++i) {
+        if (optionPages_[i]->point(hotKey)) {
+            pageList_->setCurrentRow(static_cast<int>(i) + 1);
+            return;
+        }
     }
 }
 

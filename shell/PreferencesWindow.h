@@ -75,6 +75,7 @@ class PreferencesWindow final : public QMainWindow {
     void placePreview();
     void addPage(const QString &title, QWidget *page);
     void search(const QString &text);
+    void showOption(std::string_view hotKey);
     void remember();
 
     Program &program_;

@@ -1,14 +1,16 @@
 #include "shell/PreviewPane.h"
 
 #include "engine/CleaningOptions.h"
-#include "engine/Operations.h"
 #include "settings/LinkRulesFile.h"
 #include "shell/Controls.h"
 #include "shell/Program.h"
 #include "shell/Strings.h"
 #include "shell/TextPanes.h"
 
-#include <QEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <utility>
@@ -64,6 +66,9 @@ PreviewPane::PreviewPane(Program &program)
     after->addWidget(note_);
     after->addWidget(apply_);
 
+    before_->viewport()->installEventFilter(this);
+    after_->viewport()->installEventFilter(this);
+
     connect(before_, &QPlainTextEdit::textChanged, this, &PreviewPane::schedule);
     connect(take_, &QPushButton::clicked, this, [this] {
         program_.engine().readClipboardText(
@@ -101,6 +106,65 @@ void PreviewPane::setSideBySide(bool sideBySide) {
 
 QString PreviewPane::after() const {
     return textOf(*after_);
+}
+
+QString PreviewPane::reasonsAt(int place) const {
+    return told(reasonsAt(&Reason::after, place));
+}
+
+std::vector<const PreviewPane::Reason *> PreviewPane::reasonsAt(TextSpan Reason::*where,
+                                                                int place) const {
+    const auto at = static_cast<std::size_t>(std::max(place, 0));
+    std::vector<const Reason *> found;
+    for (const Reason &reason : reasons_) {
+        const TextSpan &span = reason.*where;
+        if (span.length > 0 && span.start <= at && at < span.start + span.length) {
+            found.push_back(&reason);
+        }
+    }
+    return found;
+}
+
+QString PreviewPane::told(const std::vector<const Reason *> &reasons) const {
+    QStringList names;
+    for (const Reason *reason : reasons) {
+        QString name = localized(reason->hotKey);
+        if (reason->rule != 0) {
+            name += ": " + QLocale().toString(static_cast<qulonglong>(reason->rule));
+        }
+        names += name;
+    }
+    names.removeDuplicates();
+    return names.join('\n');
+}
+
+bool PreviewPane::eventFilter(QObject *watched, QEvent *event) {
+    const bool isAfter = watched == after_->viewport();
+    QPlainTextEdit &edit = isAfter ? *after_ : *before_;
+    // The character under the pointer, not the gap that is nearest to it.
+    const auto reasonsUnder = [&](const QPoint &point) {
+        QTextCursor cursor = edit.cursorForPosition(point);
+        const bool behind = edit.cursorRect(cursor).left() > point.x();
+        return reasonsAt(isAfter ? &Reason::after : &Reason::before,
+                         cursor.position() - (behind ? 1 : 0));
+    };
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QString names = told(reasonsUnder(help->pos()));
+        if (!names.isEmpty()) {
+            QToolTip::showText(help->globalPos(), names, &edit);
+            return true;
+        }
+    } else if (isAfter && event->type() == QEvent::MouseButtonRelease) {
+        const auto *mouse = static_cast<QMouseEvent *>(event);
+        const auto reasons = reasonsUnder(mouse->position().toPoint());
+        // A selection is made to be copied.
+        if (mouse->button() == Qt::LeftButton && !reasons.empty() &&
+            !after_->textCursor().hasSelection()) {
+            emit optionAsked(reasons.front()->hotKey);
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void PreviewPane::showEvent(QShowEvent *event) {
@@ -155,15 +219,42 @@ void PreviewPane::run() {
             options.setAllBools(profile);
             options.linkRules =
                 settings::readLinkRules(options.udCleanLinksRules.stringValue()).rules;
-            const QString cleaned = asShown(QString::fromStdU16String(
-                engine::runPipeline(text.toStdU16String(), {options, locale})));
+            const engine::Trace trace =
+                engine::tracePipeline(text.toStdU16String(), {options, locale});
+            const QString cleaned = asShown(QString::fromStdU16String(trace.text));
             result =
-                Result{text, cleaned, differences(text.toStdU16String(), cleaned.toStdU16String())};
+                Result{text, cleaned, differences(text.toStdU16String(), cleaned.toStdU16String()),
+                       reasonsOf(trace)};
         } catch (const std::exception &) {
             // Only for want of memory. The preview stays as it was.
         }
         done(std::move(result));
     });
+}
+
+std::vector<PreviewPane::Reason> PreviewPane::reasonsOf(const engine::Trace &trace) {
+    // The editor shows CR LF as one line break. Where each such pair ends:
+    std::vector<std::size_t> pairs;
+    for (auto at = trace.text.find(u"\r\n"); at != trace.text.npos;
+         at = trace.text.find(u"\r\n", at + 2)) {
+        pairs.push_back(at + 1);
+    }
+    const auto shown = [&](std::size_t place) {
+        return place -
+               static_cast<std::size_t>(std::ranges::upper_bound(pairs, place - 1) - pairs.begin());
+    };
+    std::vector<Reason> reasons;
+    for (const engine::TraceStep &step : trace.steps) {
+        for (const engine::TracedChange &place : step.places) {
+            const std::size_t begin = place.result.begin == 0 ? 0 : shown(place.result.begin);
+            const std::size_t end = place.result.end == 0 ? 0 : shown(place.result.end);
+            reasons.push_back({std::string(step.operation->hotKey),
+                               step.rule,
+                               {place.source.begin, place.source.end - place.source.begin},
+                               {begin, end - begin}});
+        }
+    }
+    return reasons;
 }
 
 void PreviewPane::show(const Result &result) {
@@ -173,6 +264,7 @@ void PreviewPane::show(const Result &result) {
     marked_ = result.differences.added;
     // The text has changed since: the marks would stand in the wrong places.
     const bool still = textOf(*before_).left(longest) == result.before;
+    reasons_ = still ? result.reasons : std::vector<Reason>();
     removed_ = still ? result.differences.removed : std::vector<TextSpan>();
     markDifferences();
 }

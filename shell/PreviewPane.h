@@ -4,6 +4,7 @@
 // asks for it. Main thread only.
 #pragma once
 
+#include "engine/Trace.h"
 #include "platform/Alive.h"
 #include "platform/MainQueue.h"
 #include "shell/TextDiff.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QWidget>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace nerlo::shell {
@@ -37,17 +39,37 @@ class PreviewPane final : public QWidget {
     QString after() const;
     // Places in after() that are marked.
     const std::vector<TextSpan> &marked() const { return marked_; }
+    // What the steps are called that changed something at this place of after(), one a line.
+    QString reasonsAt(int place) const;
+
+  signals:
+    // Somebody wants to see the option of this operation, told by the key of its shortcut.
+    void optionAsked(const std::string &hotKey);
 
   protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
   private:
+    // A place that a step changed.
+    struct Reason {
+        std::string hotKey;
+        std::size_t rule; // in the list of rules, from 1; 0 for another step
+        TextSpan before;
+        TextSpan after;
+    };
     struct Result {
         QString before;
         QString after;
         TextDifferences differences;
+        std::vector<Reason> reasons;
     };
+
+    static std::vector<Reason> reasonsOf(const engine::Trace &trace);
+    // Those at a place of one of the two texts.
+    std::vector<const Reason *> reasonsAt(TextSpan Reason::*where, int place) const;
+    QString told(const std::vector<const Reason *> &reasons) const;
 
     void schedule();
     void run();
@@ -68,6 +90,7 @@ class PreviewPane final : public QWidget {
     bool changedMeanwhile_ = false;
     std::vector<TextSpan> removed_;
     std::vector<TextSpan> marked_;
+    std::vector<Reason> reasons_;
     platform::Alive alive_;
 };
 

@@ -311,6 +311,18 @@ TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
     QTest::keyClicks(&control<QLineEdit>("udSuffixTextField"), "!");
     EXPECT_EQ(previewed("x"), "x!");
     EXPECT_EQ(window->preview().marked(), (std::vector<TextSpan>{{1, 1}}));
+
+    // A mark tells which step made it, and a click on it leads to its option.
+    EXPECT_EQ(window->preview().reasonsAt(1), localized("sAddSuffix"));
+    EXPECT_EQ(window->preview().reasonsAt(0), "");
+    auto &after = control<QPlainTextEdit>("previewAfter");
+    QTextCursor place(after.document());
+    place.setPosition(1);
+    const QPoint mark = after.cursorRect(place).center() + QPoint(2, 0);
+    showPage(0);
+    EXPECT_FALSE(control<QCheckBox>("udAddSuffix").isVisible());
+    QTest::mouseClick(after.viewport(), Qt::LeftButton, Qt::NoModifier, mark);
+    EXPECT_TRUE(control<QCheckBox>("udAddSuffix").isVisible());
     EXPECT_EQ(pasteboard.log, std::vector<std::string>{});
     pasteboard.copyText("from  there");
     control<QPushButton>("previewTake").click();
