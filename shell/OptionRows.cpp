@@ -27,8 +27,8 @@ namespace {
 
 constexpr int recorderWidth = 170;
 constexpr int indent = 26;
-constexpr std::chrono::milliseconds flash{700}; // of an option that is pointed at
-constexpr int longestDelay = 999;               // seconds that the popup may be asked to stay
+constexpr std::chrono::milliseconds flash{1200}; // of an option that is pointed at
+constexpr int longestDelay = 999;                // seconds that the popup may be asked to stay
 
 constexpr auto delayKey = "udStatisticsValue";
 constexpr auto delaySwitchKey = "udStatisticsDelaySwitcher";

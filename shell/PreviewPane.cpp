@@ -155,12 +155,12 @@ bool PreviewPane::eventFilter(QObject *watched, QEvent *event) {
             QToolTip::showText(help->globalPos(), names, &edit);
             return true;
         }
-    } else if (isAfter && event->type() == QEvent::MouseButtonRelease) {
+    } else if (event->type() == QEvent::MouseButtonRelease) {
         const auto *mouse = static_cast<QMouseEvent *>(event);
         const auto reasons = reasonsUnder(mouse->position().toPoint());
         // A selection is made to be copied.
         if (mouse->button() == Qt::LeftButton && !reasons.empty() &&
-            !after_->textCursor().hasSelection()) {
+            !edit.textCursor().hasSelection()) {
             emit optionAsked(reasons.front()->hotKey);
         }
     }

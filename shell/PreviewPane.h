@@ -43,7 +43,8 @@ class PreviewPane final : public QWidget {
     QString reasonsAt(int place) const;
 
   signals:
-    // Somebody wants to see the option of this operation, told by the key of its shortcut.
+    // A changed place was clicked: the option of this operation is wanted, told by the key of its
+    // shortcut.
     void optionAsked(const std::string &hotKey);
 
   protected:
