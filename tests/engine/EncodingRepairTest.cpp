@@ -122,7 +122,7 @@ TEST(EncodingRepair, HasNothingToDoTheSecondTime) {
                             u'|');
     const Misreader misread("windows-1252");
     reference::Random random(39);
-    for (int round = 0; round < 100; ++round) {
+    for (int round = 0; round < 300; ++round) {
         std::u16string text = random.text(tokens);
         text.resize(std::min<std::size_t>(text.size(), 60));
         if (random.oneIn(2)) {
@@ -132,11 +132,11 @@ TEST(EncodingRepair, HasNothingToDoTheSecondTime) {
         ASSERT_EQ(reference::escaped(repaired(once)), reference::escaped(once))
             << reference::escaped(text);
     }
-    std::u16string deep = u"é";
-    for (int layer = 0; layer < mostEncodingLayers + 1; ++layer) {
-        deep = misread(deep);
+    std::u16string deep = u"&";
+    for (int layer = 0; layer < mostEncodingLayers; ++layer) {
+        deep += u"amp;";
     }
-    EXPECT_EQ(repaired(deep), u"Ã©") << "one layer more than are taken off";
+    EXPECT_EQ(repaired(deep + u"lt;"), u"&lt;") << "one layer more than are taken off";
 }
 
 } // namespace
