@@ -253,7 +253,7 @@ class ShellTest(unittest.TestCase):
 
         # The icon is clicked: the menu opens, and the arrow keys and Return choose from it.
         self.assertFalse(program.property("AutomaticMode"))
-        self.choose(tray, 2)
+        self.choose(tray, 3)
         wait_until(lambda: program.property("AutomaticMode"), "the automatic mode is on")
         self.assertEqual(tray.menu()["Automatically clear formatting"][1], 1)
 
