@@ -148,23 +148,25 @@ bool goesOn(char16_t last, char16_t first) {
 // Pages one below the other. Where a sentence goes on, nothing stands between them but a line
 // break.
 std::u16string withoutFormFeeds(View text) {
+    constexpr View between = u" \t\r\n\f";
     std::u16string result;
     for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find(u'\f', begin), text.size());
-        result.append(text.substr(begin, end - begin));
-        begin = std::min(end + 1, text.size());
-        if (end == text.size()) {
-            break;
-        }
-        const std::size_t last = result.find_last_not_of(u" \t\r\n");
-        const std::size_t first = text.find_first_not_of(u" \t\r\n\f", begin);
-        if (last != View::npos && first != View::npos && goesOn(result[last], text[first])) {
-            result.resize(last + 1);
-            begin = first;
-        }
-        if (!result.empty() && !isBreak(result.back())) {
+        const std::size_t feed = std::min(text.find(u'\f', begin), text.size());
+        result.append(text.substr(begin, feed - begin));
+        // All up to the next words at once: there may be any number of empty pages.
+        const std::size_t first = std::min(text.find_first_not_of(between, feed), text.size());
+        const std::size_t last = text.substr(begin, feed - begin).find_last_not_of(between);
+        if (last != View::npos && first < text.size() && feed < text.size() &&
+            goesOn(text[begin + last], text[first])) {
+            result.resize(result.size() - (feed - begin - last - 1));
             result += u'\n';
+        } else {
+            for (const char16_t unit : text.substr(feed, first - feed)) {
+                const bool ends = unit == u'\f' && !result.empty() && !isBreak(result.back());
+                result.append(unit != u'\f' || ends ? 1 : 0, ends ? u'\n' : unit);
+            }
         }
+        begin = first;
     }
     return result;
 }

@@ -127,6 +127,7 @@ TEST(Pages, LoseWhatTheyShare) {
             {"left and right pages", u"L\na.\n\fR\nb.\n\fL\nc.\n\fR\nd.\n\fL\ne.\n\fR\nf.",
              u"a.\nb.\nc.\nd.\ne.\nf."},
             {"two pages may begin alike", u"A\nb\n\fA\nc", u"A\nb\nA\nc"},
+            {"empty pages", u"a\f\f \n\fB\n\f\f", u"a\n \nB\n"},
             {"no pages", u"1\nA\nA\nA\n2", u"1\nA\nA\nA\n2"},
         },
         removePageLines);
