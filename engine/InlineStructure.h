@@ -1,5 +1,5 @@
-// What stands inside sentences and is no prose: code, links, tags, addresses. And apostrophes, which
-// rules for quotation marks would take for one.
+// What stands inside sentences and is no prose: code, links, tags, addresses. And apostrophes,
+// which rules for quotation marks would take for one.
 //
 // Texts are UTF-16, places count units. Pure, any thread, in time in proportion to the text.
 #pragma once

@@ -84,9 +84,9 @@ TEST(Pipeline, EachSwitchRunsTheOperationThatIsNamedLikeIt) {
     }
     EXPECT_EQ(switchedOn({{"udRemoveHyphensAll", 1}}), std::vector<std::int32_t>{34});
     // These keep their order, whatever else comes between them.
-    const std::vector<std::int32_t> order{39, 38, 0,  1,  2,  3,  34, 5,  18, 33, 6,  7,  8,  9,
-                                          10, 11, 12, 22, 13, 14, 15, 26, 27, 28, 29, 30, 31,
-                                          32, 37, 16, 17, 19, 20, 21, 4,  35, 36, 24, 23};
+    const std::vector<std::int32_t> order{39, 38, 0,  1,  2,  3,  34, 5,  18, 33, 6,  7,  8,
+                                          9,  10, 11, 12, 22, 13, 14, 15, 26, 27, 28, 29, 30,
+                                          31, 32, 37, 16, 17, 19, 20, 21, 4,  35, 36, 24, 23};
     auto found = switchedOn(all);
     std::erase_if(found,
                   [&](auto index) { return std::ranges::find(order, index) == order.end(); });
