@@ -4,6 +4,7 @@
 #include "text/Replace.h"
 #include "text/UnitScan.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 #include <utility>
@@ -162,7 +163,8 @@ struct MarkUnits {
     constexpr MarkUnits() {
         for (const Styles styles : {Styles(singleQuoteStyles), Styles(doubleQuoteStyles)}) {
             forEachUnit(styles, [this](char16_t unit) {
-                if (all().find(unit) == std::u16string_view::npos) {
+                if (std::find(units.begin(), units.begin() + count, unit) ==
+                    units.begin() + count) {
                     units.at(count++) = unit;
                 }
             });

@@ -161,7 +161,7 @@ void CopyTableView::load() {
             item->setCheckState(rule.on ? Qt::Checked : Qt::Unchecked);
             describeRow(list_->row(item));
         }
-        list_->setCurrentRow(std::clamp(row, 0, list_->count() - 1));
+        list_->setCurrentRow(std::min(std::max(row, 0), list_->count() - 1)); // -1 for none
     }
     showRow();
 }
