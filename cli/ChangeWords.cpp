@@ -13,7 +13,8 @@ namespace nerlo::cli {
 
 namespace {
 
-constexpr std::size_t mostShown = 40; // characters
+constexpr std::size_t mostShown = 40;   // characters
+constexpr std::size_t shownAround = 12; // units on either side of a change
 
 bool isSecondOfPair(std::u16string_view text, std::size_t at) {
     return at > 0 && (text[at] & 0xFC00) == 0xDC00 && (text[at - 1] & 0xFC00) == 0xD800;
@@ -106,10 +107,29 @@ std::string effectOf(const engine::TracedChange &change) {
     return shown(change.removed) + " becomes " + shown(change.added);
 }
 
+std::string surroundingsOf(text::Range place, std::u16string_view text) {
+    std::size_t begin = place.begin - std::min(place.begin, shownAround);
+    std::size_t end = std::min(place.end + shownAround, text.size());
+    begin += isSecondOfPair(text, begin) ? 1 : 0;
+    end -= end < text.size() && isSecondOfPair(text, end) ? 1 : 0;
+    std::string words;
+    if (begin < place.begin) {
+        words += " after " + shown(text.substr(begin, place.begin - begin));
+    }
+    if (end > place.end) {
+        words += (words.empty() ? " before " : ", before ") +
+                 shown(text.substr(place.end, end - place.end));
+    }
+    return words;
+}
+
 std::string nameOf(const engine::TraceStep &step) {
     std::string name(step.operation->name);
     if (step.rule != 0) {
         name += ", rule " + std::to_string(step.rule);
+    }
+    if (!step.characters.empty()) {
+        name.append(", ").append(step.characters);
     }
     return name;
 }
@@ -118,6 +138,9 @@ std::string jsonMembers(const engine::TraceStep &step) {
     std::string members = "\"operation\":\"" + std::string(step.operation->name) + "\"";
     if (step.rule != 0) {
         members += "," + numberMember("rule", step.rule);
+    }
+    if (!step.characters.empty()) {
+        members.append(",\"characters\":\"").append(step.characters).append("\"");
     }
     return members;
 }

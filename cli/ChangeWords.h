@@ -29,10 +29,13 @@ std::string shown(std::u16string_view text);
 
 // "removes U+0020", "adds "> "", "U+0009 becomes U+0020".
 std::string effectOf(const engine::TracedChange &change);
-// "collapse-spaces", "find-replace-list, rule 3".
+// " after "Some", before "prose"": the characters around a place of the text; empty for a text that
+// has nothing else.
+std::string surroundingsOf(text::Range place, std::u16string_view text);
+// "collapse-spaces", "find-replace-list, rule 3", "clean-characters, blanks".
 std::string nameOf(const engine::TraceStep &step);
 
-// Members of a JSON object, without braces: operation, and rule where there is one.
+// Members of a JSON object, without braces: operation, and rule or characters where there are some.
 std::string jsonMembers(const engine::TraceStep &step);
 // line, column, endLine, endColumn, removed and added; cut where one of these is not whole.
 std::string jsonMembers(const engine::TracedChange &change, const TextPosition &begin,

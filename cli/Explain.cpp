@@ -17,15 +17,16 @@ std::string padding(std::size_t size, std::size_t width) {
     return std::string(width - std::min(size, width), ' ');
 }
 
-// "3:7  U+0020 U+0020 becomes U+0020"; nothing for a step that changed nothing.
+// "3:7  removes U+0020 after "Some", before "prose""; nothing for a step that changed nothing.
 std::string firstOf(const engine::TraceStep &step, std::u16string_view source) {
     if (step.places.empty()) {
         return {};
     }
+    const engine::TracedChange &first = step.places.front();
     TextPosition position;
-    position.moveTo(source, step.places.front().source.begin);
+    position.moveTo(source, first.source.begin);
     return std::to_string(position.line) + ":" + std::to_string(position.column) + "  " +
-           effectOf(step.places.front());
+           effectOf(first) + surroundingsOf(first.source, source);
 }
 
 std::string placesJson(const engine::TraceStep &step, std::u16string_view source) {

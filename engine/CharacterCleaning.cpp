@@ -577,15 +577,19 @@ std::span<const CharacterClass> characterClasses() {
     return classes;
 }
 
+std::u16string CharacterClass::cleaned(std::u16string text) const {
+    std::size_t count = 0;
+    return text::findUnit(text, 0, units) < text.size() ? clean(std::move(text), count) : text;
+}
+
 std::u16string cleanCharacters(std::u16string text, const CleaningOptions &options) {
     const bool ascii = text::findUnit(text, 0, notable) == text.size();
-    std::size_t count = 0;
     for (const CharacterClass &row : classes) {
         if (ascii && row.clean != removeMarkdown) {
             continue;
         }
-        if (row.isOn(options) && text::findUnit(text, 0, row.units) < text.size()) {
-            text = row.clean(std::move(text), count);
+        if (row.isOn(options)) {
+            text = row.cleaned(std::move(text));
         }
     }
     return text;

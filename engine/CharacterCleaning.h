@@ -24,6 +24,8 @@ struct CharacterClass {
     std::u16string (*clean)(std::u16string text, std::size_t &count);
 
     bool isOn(const CleaningOptions &options) const { return options.*otherwise != usual; }
+    // As clean(), and without a pass over texts that have none of the units.
+    std::u16string cleaned(std::u16string text) const;
 };
 
 // In the order in which they are cleaned; each sees the result of those before it.

@@ -58,6 +58,7 @@ std::span<const Operation> operations();
 
 inline constexpr std::int32_t statisticsOperation = 25;
 inline constexpr std::int32_t findReplaceOperation = 37;
+inline constexpr std::int32_t cleanCharactersOperation = 40;
 inline constexpr std::int32_t cleanLinksOperation = 42;
 
 // Null for an index outside the table.

@@ -1,5 +1,6 @@
 #include "engine/Trace.h"
 
+#include "engine/CharacterCleaning.h"
 #include "engine/FindReplace.h"
 #include "engine/StructureGuard.h"
 
@@ -88,14 +89,12 @@ class Tracer {
         trace_.text = std::move(text);
     }
 
-    // `run` gives the text as it is after this step.
+    // `run` gives the text as it is after this step, of which operation and part are known.
     template <class Run>
-    void step(const Operation &operation, std::size_t rule, Run run) {
+    void step(TraceStep known, Run run) {
         const std::u16string before = trace_.text;
         trace_.text = run(std::move(trace_.text));
-        TraceStep &step = trace_.steps.emplace_back();
-        step.operation = &operation;
-        step.rule = rule;
+        TraceStep &step = trace_.steps.emplace_back(std::move(known));
         if (trace_.text != before) {
             list(step, before);
         }
@@ -174,15 +173,23 @@ using Steps = std::span<const Operation *const>;
 
 void traceAlone(Tracer &tracer, Steps steps, const CleaningContext &context) {
     for (const Operation *const operation : steps) {
-        if (operation->index != findReplaceOperation) {
-            tracer.step(*operation, 0, [&](std::u16string text) {
+        if (operation->index == findReplaceOperation) {
+            for (const NumberedRule &rule : activeRules(context.options)) {
+                tracer.step({.operation = operation, .rule = rule.number},
+                            [&](std::u16string text) {
+                                return applyRule(std::move(text), rule, context.report);
+                            });
+            }
+        } else if (operation->index == cleanCharactersOperation) {
+            for (const CharacterClass &row : characterClasses()) {
+                if (row.isOn(context.options)) {
+                    tracer.step({.operation = operation, .characters = row.name},
+                                [&](std::u16string text) { return row.cleaned(std::move(text)); });
+                }
+            }
+        } else {
+            tracer.step({.operation = operation}, [&](std::u16string text) {
                 return operation->run(std::move(text), context);
-            });
-            continue;
-        }
-        for (const NumberedRule &rule : activeRules(context.options)) {
-            tracer.step(*operation, rule.number, [&](std::u16string text) {
-                return applyRule(std::move(text), rule, context.report);
             });
         }
     }
@@ -224,9 +231,10 @@ void traceGuarded(Tracer &tracer, Steps steps, const CleaningContext &context) {
         const bool last = &stage == &stages.back(); // what could not be done is told once
         const CleaningContext part{options, context.locale, context.actualVersion,
                                    last ? context.report : nullptr};
-        tracer.step(*steps[stage.steps - 1], stage.rule, [&](const std::u16string &) {
-            return runGuarded(given, steps.first(stage.steps), part, cachedPiece);
-        });
+        tracer.step({.operation = steps[stage.steps - 1], .rule = stage.rule},
+                    [&](const std::u16string &) {
+                        return runGuarded(given, steps.first(stage.steps), part, cachedPiece);
+                    });
     }
 }
 

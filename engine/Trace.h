@@ -33,14 +33,16 @@ inline constexpr std::size_t tracedUnits = 80;
 
 struct TraceStep {
     const Operation *operation = nullptr;
-    std::size_t rule = 0;    // its number in the list of rules, from 1; 0 where it is no such rule
-    std::size_t changes = 0; // all of them; where none, the step gave what it was given
-    std::vector<TracedChange> places; // the first of them, in order
+    std::size_t rule = 0; // its number in the list of rules, from 1; 0 where it is no such rule
+    std::string_view characters{}; // the name of the class that was cleaned; empty where it is none
+    std::size_t changes = 0;       // all of them; where none, the step gave what it was given
+    std::vector<TracedChange> places{}; // the first of them, in order
 };
 
 struct Trace {
-    std::u16string text;          // as the clean gives it
-    std::vector<TraceStep> steps; // all that ran, in order; each rule of the list by itself
+    std::u16string text; // as the clean gives it
+    std::vector<TraceStep>
+        steps; // all that ran, in order; rules and classes of characters one by one
 };
 
 // Enough for a window.

@@ -1,4 +1,5 @@
 #include "engine/Trace.h"
+#include "engine/CharacterCleaning.h"
 #include "engine/FindReplace.h"
 #include "tests/reference/RandomText.h"
 
@@ -100,7 +101,10 @@ void expectNoOtherStepToChange(const Trace &trace, std::u16string text,
     const std::vector<NumberedRule> rules = activeRules(context.options);
     for (const TraceStep &step : trace.steps) {
         const std::u16string before = text;
-        if (step.rule == 0) {
+        if (!step.characters.empty()) {
+            text = std::ranges::find(characterClasses(), step.characters, &CharacterClass::name)
+                       ->cleaned(std::move(text));
+        } else if (step.rule == 0) {
             text = step.operation->run(std::move(text), context);
         } else {
             text = applyRule(std::move(text),
@@ -195,6 +199,20 @@ TEST(ATrace, FindsItsPlacesInTheFirstAndTheLastText) {
     EXPECT_EQ(told(2), "find-replace-list 2 1 o@2>aa@0");
     EXPECT_EQ(told(3), "find-replace-list 3 0");
     EXPECT_EQ(told(4), "collapse-spaces 0 1  @4>@3");
+}
+
+TEST(Trace, TakesClassesOfCharactersOneByOne) {
+    CleaningOptions options;
+    options.udCleanCharacters = true;
+    std::string told;
+    for (const TraceStep &step :
+         tracePipeline(u"a\u200Bb\u00ADc\u00A0d\u00ADe", {.options = options, .locale = "en_US"})
+             .steps) {
+        if (step.changes > 0) {
+            told.append(step.characters).append(" " + std::to_string(step.changes) + " ");
+        }
+    }
+    EXPECT_EQ(told, "soft-hyphens 2 invisible 1 blanks 1 ");
 }
 
 } // namespace
