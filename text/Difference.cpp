@@ -204,6 +204,13 @@ class Comparison {
         int diagonal;
     };
 
+    // Diagonals are negative where more was put in than left out; a row has one cell more on
+    // either side.
+    static constexpr std::size_t cellOf(int diagonal) {
+        return static_cast<std::size_t>(middle + diagonal);
+    }
+    Row &rowOf(int edits) { return rows_[static_cast<std::size_t>(edits)]; }
+
     // Goes on from `at` with as few edits as can be until the sequences have met or are at their
     // ends, and tells them. If they do not meet: as far as one comes, or nothing unless `anyway`.
     std::optional<Place> shortWay(Place at, Place end, bool anyway) {
@@ -212,15 +219,15 @@ class Comparison {
     }
 
     std::optional<Goal> search(Place at, Place end, bool anyway) {
-        rows_[0].fill({});
-        rows_[0][middle].before = 0;
+        rowOf(0).fill({});
+        rowOf(0)[cellOf(0)].before = 0;
         Goal furthest{0, 0};
         for (int edits = 1; edits <= mostEdits; ++edits) {
-            rows_[edits].fill({});
+            rowOf(edits).fill({});
             std::int64_t best = -1;
             for (int diagonal = -edits; diagonal <= edits; diagonal += 2) {
-                Reached &cell = rows_[edits][middle + diagonal];
-                cell = oneEditFurther(rows_[edits - 1], diagonal, at, end);
+                Reached &cell = rowOf(edits)[cellOf(diagonal)];
+                cell = oneEditFurther(rowOf(edits - 1), diagonal, at, end);
                 if (cell.before == unreachable) {
                     continue;
                 }
@@ -247,8 +254,8 @@ class Comparison {
     }
 
     static Reached oneEditFurther(const Row &last, int diagonal, Place at, Place end) {
-        const int in = last[middle + diagonal + 1].before;
-        const int out = last[middle + diagonal - 1].before;
+        const int in = last[cellOf(diagonal + 1)].before;
+        const int out = last[cellOf(diagonal - 1)].before;
         const bool mayPutIn =
             in != unreachable && in - diagonal <= static_cast<std::int64_t>(end.after - at.after);
         const bool mayLeaveOut =
@@ -266,19 +273,20 @@ class Comparison {
 
     // Tells the edits on the way to the goal, and returns where it lies.
     Place walk(Place at, Goal goal) {
-        std::array<Change, mostEdits + 1> edits;
+        std::array<Change, mostEdits> edits; // the last of them first
+        std::size_t count = 0;
         int diagonal = goal.diagonal;
         for (int edit = goal.edits; edit > 0; --edit) {
-            const bool leftOut = rows_[edit][middle + diagonal].leftOut;
+            const bool leftOut = rowOf(edit)[cellOf(diagonal)].leftOut;
             diagonal += leftOut ? -1 : 1;
-            const Place from = placeOf(at, rows_[edit - 1][middle + diagonal].before, diagonal);
-            edits[edit] = {{from.before, from.before + (leftOut ? 1 : 0)},
-                           {from.after, from.after + (leftOut ? 0 : 1)}};
+            const Place from = placeOf(at, rowOf(edit - 1)[cellOf(diagonal)].before, diagonal);
+            edits[count++] = {{from.before, from.before + (leftOut ? 1 : 0)},
+                              {from.after, from.after + (leftOut ? 0 : 1)}};
         }
-        for (int edit = 1; edit <= goal.edits; ++edit) {
-            report_(edits[edit]);
+        while (count > 0) {
+            report_(edits[--count]);
         }
-        return placeOf(at, rows_[goal.edits][middle + goal.diagonal].before, goal.diagonal);
+        return placeOf(at, rowOf(goal.edits)[cellOf(goal.diagonal)].before, goal.diagonal);
     }
 
     // The nearest places at which the same gram stands; the ends of the windows, or of the
