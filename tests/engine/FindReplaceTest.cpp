@@ -16,7 +16,7 @@ PropertyValue rule(const char16_t *find, const char16_t *replace) {
 
 std::u16string apply(PropertyArray rules, const std::u16string &text) {
     CleaningOptions options;
-    options.udFindAndReplaceItemsProfile = PropertyValue(std::move(rules));
+    options.udFindAndReplaceItemsProfile.emplace(std::move(rules));
     return replaceStringInFindReplace(text, options);
 }
 
