@@ -1,12 +1,11 @@
 #include "cli/BatchAnswers.h"
 
-#include "cli/Explain.h"
-#include "cli/JsonOptions.h"
-#include "cli/JsonText.h"
-#include "cli/LinkRules.h"
-#include "cli/PatternFailures.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
+#include "settings/JsonOptions.h"
+#include "settings/JsonText.h"
+#include "settings/PreparedOptions.h"
+#include "settings/TraceJson.h"
 #include "settings/UserLocale.h"
 #include "text/Utf.h"
 
@@ -22,6 +21,9 @@ namespace nerlo::cli {
 namespace {
 
 using nlohmann::json;
+using settings::explainedPlaces;
+using settings::jsonOfText;
+using settings::textOfJson;
 
 // A request that cannot be answered; the message goes into the answer.
 struct BadRequest : std::runtime_error {
@@ -111,7 +113,7 @@ std::string rawId(std::string_view object) {
 json parseRequest(std::string_view request) {
     std::string room;
     try {
-        return json::parse(withMarkedSurrogates(request, room));
+        return json::parse(settings::withMarkedSurrogates(request, room));
     } catch (const json::parse_error &error) {
         if (const auto at = text::utf8ToUtf16(request).invalidAt) {
             throw BadRequest("invalid UTF-8 at byte " + std::to_string(*at));
@@ -186,7 +188,8 @@ std::string explainedResult(const std::u16string &text, const engine::Operation 
         operation ? engine::traceOperation(*operation, text, context, explainedPlaces)
                   : engine::tracePipeline(text, context, explainedPlaces);
     refuseFailures(*context.report);
-    return "\"text\":" + jsonOfText(trace.text) + ",\"explain\":" + explainJson(text, trace);
+    return "\"text\":" + jsonOfText(trace.text) +
+           ",\"explain\":" + settings::explainJson(text, trace);
 }
 
 void checkMembers(const json &request) {
@@ -236,13 +239,13 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     const json *optionsJson = memberOf(parsed, "options");
     engine::CleaningOptions ownOptions;
     if (optionsJson) {
-        ownOptions.setAllBools(optionsFromJson(*optionsJson));
+        ownOptions.setAllBools(settings::optionsFromJson(*optionsJson));
     }
     bool own = optionsJson;
-    if (lacksLinkRules(own ? ownOptions : defaults_, operation)) {
+    if (settings::lacksLinkRules(own ? ownOptions : defaults_, operation)) {
         ownOptions = own ? std::move(ownOptions) : defaults_;
         own = true;
-        addLinkRules(ownOptions);
+        settings::addLinkRules(ownOptions);
     }
     engine::CleaningReport report;
     const engine::CleaningContext context{

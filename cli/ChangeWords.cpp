@@ -1,6 +1,5 @@
 #include "cli/ChangeWords.h"
 
-#include "cli/JsonText.h"
 #include "text/Characters.h"
 #include "text/Utf.h"
 
@@ -15,10 +14,6 @@ namespace {
 
 constexpr std::size_t mostShown = 40;   // characters
 constexpr std::size_t shownAround = 12; // units on either side of a change
-
-bool isSecondOfPair(std::u16string_view text, std::size_t at) {
-    return at > 0 && (text[at] & 0xFC00) == 0xDC00 && (text[at - 1] & 0xFC00) == 0xD800;
-}
 
 // Letters, marks and symbols by their category, of which no font shows anything.
 constexpr std::array<std::pair<char32_t, char32_t>, 12> blanks{{{0x034F, 0x034F},
@@ -47,29 +42,7 @@ std::string codeOf(char32_t character) {
     return code;
 }
 
-std::string numberMember(const char *name, std::size_t number) {
-    return "\"" + std::string(name) + "\":" + std::to_string(number);
-}
-
-bool isCut(text::Range whole, std::u16string_view part) {
-    return whole.end - whole.begin != part.size();
-}
-
 } // namespace
-
-void TextPosition::moveTo(std::u16string_view text, std::size_t to) {
-    for (; offset < to; ++offset) {
-        const char16_t unit = text[offset];
-        const bool beforeFeed = offset + 1 < text.size() && text[offset + 1] == u'\n';
-        if (unit == u'\n' || (unit == u'\r' && !beforeFeed)) {
-            ++line;
-            lineByFeeds += unit == u'\n' ? 1 : 0;
-            column = 1;
-        } else if (!isSecondOfPair(text, offset)) {
-            ++column;
-        }
-    }
-}
 
 std::string shown(std::u16string_view text) {
     std::string result;
@@ -110,8 +83,8 @@ std::string effectOf(const engine::TracedChange &change) {
 std::string surroundingsOf(text::Range place, std::u16string_view text) {
     std::size_t begin = place.begin - std::min(place.begin, shownAround);
     std::size_t end = std::min(place.end + shownAround, text.size());
-    begin += isSecondOfPair(text, begin) ? 1 : 0;
-    end -= end < text.size() && isSecondOfPair(text, end) ? 1 : 0;
+    begin += text::cutsPair(text, begin) ? 1 : 0;
+    end -= text::cutsPair(text, end) ? 1 : 0;
     std::string words;
     if (begin < place.begin) {
         words += " after " + shown(text.substr(begin, place.begin - begin));
@@ -132,27 +105,6 @@ std::string nameOf(const engine::TraceStep &step) {
         name.append(", ").append(step.characters);
     }
     return name;
-}
-
-std::string jsonMembers(const engine::TraceStep &step) {
-    std::string members = "\"operation\":\"" + std::string(step.operation->name) + "\"";
-    if (step.rule != 0) {
-        members += "," + numberMember("rule", step.rule);
-    }
-    if (!step.characters.empty()) {
-        members.append(",\"characters\":\"").append(step.characters).append("\"");
-    }
-    return members;
-}
-
-std::string jsonMembers(const engine::TracedChange &change, const TextPosition &begin,
-                        const TextPosition &end) {
-    const bool cut =
-        isCut(change.change.before, change.removed) || isCut(change.change.after, change.added);
-    return numberMember("line", begin.line) + "," + numberMember("column", begin.column) + "," +
-           numberMember("endLine", end.line) + "," + numberMember("endColumn", end.column) +
-           ",\"removed\":" + jsonOfText(change.removed) + ",\"added\":" + jsonOfText(change.added) +
-           (cut ? ",\"cut\":true" : "");
 }
 
 } // namespace nerlo::cli

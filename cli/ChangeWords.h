@@ -11,18 +11,6 @@
 
 namespace nerlo::cli {
 
-// Lines and columns count from 1. A line ends with CR LF, CR or LF; columns count characters, of
-// which a pair of surrogates is one.
-struct TextPosition {
-    std::size_t offset = 0;
-    std::size_t line = 1;
-    std::size_t column = 1;
-    std::size_t lineByFeeds = 1; // as programs count that know LF alone
-
-    // `text` is the same each time, and `to` never lies before the offset.
-    void moveTo(std::u16string_view text, std::size_t to);
-};
-
 // In one line: what can be seen in quotes, other characters as U+XXXX. A space is seen where it
 // stands between two that are.
 std::string shown(std::u16string_view text);
@@ -34,11 +22,5 @@ std::string effectOf(const engine::TracedChange &change);
 std::string surroundingsOf(text::Range place, std::u16string_view text);
 // "collapse-spaces", "find-replace-list, rule 3", "clean-characters, blanks".
 std::string nameOf(const engine::TraceStep &step);
-
-// Members of a JSON object, without braces: operation, and rule or characters where there are some.
-std::string jsonMembers(const engine::TraceStep &step);
-// line, column, endLine, endColumn, removed and added; cut where one of these is not whole.
-std::string jsonMembers(const engine::TracedChange &change, const TextPosition &begin,
-                        const TextPosition &end);
 
 } // namespace nerlo::cli

@@ -5,7 +5,6 @@
 #include "cli/Findings.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
-#include "cli/PatternFailures.h"
 #include "cli/Progress.h"
 #include "cli/Rewriting.h"
 

@@ -3,12 +3,12 @@
 #include "cli/CommonArguments.h"
 #include "cli/Explain.h"
 #include "cli/Input.h"
-#include "cli/JsonText.h"
 #include "cli/Output.h"
-#include "cli/PatternFailures.h"
 #include "cli/Progress.h"
 #include "cli/Rewriting.h"
 #include "engine/Operations.h"
+#include "settings/JsonText.h"
+#include "settings/TraceJson.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Formatter.hpp>
@@ -82,7 +82,8 @@ void explain(const std::string &file, std::u16string_view source, const engine::
              bool json) {
     std::string told;
     if (json) {
-        told = "{\"file\":" + jsonOfName(file) + ",\"steps\":" + explainJson(source, trace) + "}\n";
+        told = "{\"file\":" + settings::jsonOfName(file) +
+               ",\"steps\":" + settings::explainJson(source, trace) + "}\n";
     } else {
         told = withoutControls(nameOf(file)) + ":\n" + explainTable(source, trace);
     }
@@ -96,9 +97,9 @@ CleanText cleanAndExplain(const std::string &file, TextReader &reader,
     engine::CleaningReport report;
     context.report = &report;
     const std::u16string source = reader.readAll();
-    engine::Trace trace = operation
-                              ? engine::traceOperation(*operation, source, context, explainedPlaces)
-                              : engine::tracePipeline(source, context, explainedPlaces);
+    constexpr std::size_t places = settings::explainedPlaces;
+    engine::Trace trace = operation ? engine::traceOperation(*operation, source, context, places)
+                                    : engine::tracePipeline(source, context, places);
     if (!report.empty()) {
         throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + messageOf(report));
     }

@@ -2,11 +2,10 @@
 
 #include "cli/Failure.h"
 #include "cli/Input.h"
-#include "cli/JsonOptions.h"
-#include "cli/JsonText.h"
-#include "cli/LinkRules.h"
-#include "cli/PatternFailures.h"
 #include "cli/Progress.h"
+#include "settings/JsonOptions.h"
+#include "settings/JsonText.h"
+#include "settings/PreparedOptions.h"
 #include "settings/ProfilesFile.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
@@ -27,6 +26,11 @@ using storage::PropertyDictionary;
 
 [[noreturn]] void refuse(const std::string &message) {
     throw Failure(ExitStatus::unusableArguments, message);
+}
+
+[[noreturn]] void fail(const settings::OptionsError &error) {
+    const bool unreadable = error.kind == settings::OptionsError::Kind::unreadable;
+    throw Failure(unreadable ? ExitStatus::ioFailed : ExitStatus::unusableArguments, error.what());
 }
 
 const settings::SettingsKey &knownKey(const std::string &key, const std::string &place) {
@@ -91,11 +95,16 @@ PropertyDictionary profileOptions(const std::string &nameOrIndex) {
 
 storage::PropertyValue readRules(const settings::SettingsKey &row, std::string_view text) {
     std::string room;
-    const auto value = nlohmann::json::parse(withMarkedSurrogates(text, room), nullptr, false);
+    const auto value =
+        nlohmann::json::parse(settings::withMarkedSurrogates(text, room), nullptr, false);
     if (!value.is_array()) {
         refuse("--set " + row.key + ": not a JSON array of rules");
     }
-    return settingFromJson(row, value);
+    try {
+        return settings::settingFromJson(row, value);
+    } catch (const settings::OptionsError &error) {
+        fail(error);
+    }
 }
 
 void applySetting(const std::string &setting, PropertyDictionary &options) {
@@ -200,13 +209,12 @@ PropertyDictionary chosenOptions(const OptionArguments &arguments) {
 
 engine::CleaningOptions cleaningOptions(const OptionArguments &arguments,
                                         const engine::Operation *operation) {
-    engine::CleaningOptions options;
-    options.setAllBools(chosenOptions(arguments));
-    checkPatterns(options, operation);
-    if (lacksLinkRules(options, operation)) {
-        addLinkRules(options);
+    const PropertyDictionary options = chosenOptions(arguments);
+    try {
+        return settings::preparedOptions(options, operation);
+    } catch (const settings::OptionsError &error) {
+        fail(error);
     }
-    return options;
 }
 
 } // namespace nerlo::cli

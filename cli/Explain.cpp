@@ -1,7 +1,7 @@
 #include "cli/Explain.h"
 
 #include "cli/ChangeWords.h"
-#include "cli/JsonText.h"
+#include "settings/TraceJson.h"
 
 #include <algorithm>
 #include <vector>
@@ -23,22 +23,10 @@ std::string firstOf(const engine::TraceStep &step, std::u16string_view source) {
         return {};
     }
     const engine::TracedChange &first = step.places.front();
-    TextPosition position;
+    settings::TextPosition position;
     position.moveTo(source, first.source.begin);
     return std::to_string(position.line) + ":" + std::to_string(position.column) + "  " +
            effectOf(first) + surroundingsOf(first.source, source);
-}
-
-std::string placesJson(const engine::TraceStep &step, std::u16string_view source) {
-    std::string list;
-    TextPosition begin;
-    for (const engine::TracedChange &place : step.places) {
-        begin.moveTo(source, place.source.begin);
-        TextPosition end = begin;
-        end.moveTo(source, place.source.end);
-        list += (list.empty() ? "{" : ",{") + jsonMembers(place, begin, end) + "}";
-    }
-    return "[" + list + "]";
 }
 
 } // namespace
@@ -60,18 +48,6 @@ std::string explainTable(std::u16string_view source, const engine::Trace &trace)
                  first + "\n";
     }
     return table;
-}
-
-std::string explainJson(std::u16string_view source, const engine::Trace &trace) {
-    std::string list;
-    for (const engine::TraceStep &step : trace.steps) {
-        list += (list.empty() ? "{" : ",{") + jsonMembers(step) + ",\"summary\":" +
-                jsonOfText(std::u16string(step.operation->summary.begin(),
-                                          step.operation->summary.end())) +
-                ",\"changes\":" + std::to_string(step.changes) +
-                ",\"places\":" + placesJson(step, source) + "}";
-    }
-    return "[" + list + "]";
 }
 
 } // namespace nerlo::cli

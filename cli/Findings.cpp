@@ -1,8 +1,9 @@
 #include "cli/Findings.h"
 
+#include "cli/ChangeWords.h"
 #include "cli/Failure.h"
-#include "cli/JsonText.h"
 #include "engine/Operations.h"
+#include "settings/JsonText.h"
 
 #include <algorithm>
 #include <array>
@@ -12,6 +13,10 @@
 namespace nerlo::cli {
 
 namespace {
+
+using settings::jsonMembers;
+using settings::jsonOfName;
+using settings::TextPosition;
 
 using text::Change;
 

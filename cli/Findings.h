@@ -2,7 +2,7 @@
 // told. Output is UTF-8.
 #pragma once
 
-#include "cli/ChangeWords.h"
+#include "settings/TraceJson.h"
 
 #include <span>
 #include <string>
@@ -12,8 +12,8 @@
 namespace nerlo::cli {
 
 struct Finding {
-    TextPosition begin; // in the text as it is
-    TextPosition end;
+    settings::TextPosition begin; // in the text as it is
+    settings::TextPosition end;
     const engine::TraceStep *step;
     const engine::TracedChange *change;
 };

@@ -2,10 +2,10 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "engine/Operations.h"
+#include "settings/Listings.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Formatter.hpp>
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <memory>
@@ -29,17 +29,6 @@ std::string table() {
     return text;
 }
 
-std::string json() {
-    nlohmann::ordered_json list = nlohmann::ordered_json::array();
-    for (const engine::Operation &operation : engine::operations()) {
-        list.push_back({{"index", operation.index},
-                        {"name", operation.name},
-                        {"hotKey", operation.hotKey},
-                        {"summary", operation.summary}});
-    }
-    return list.dump(2) + "\n";
-}
-
 } // namespace
 
 void addOperations(CLI::App &app, ExitStatus &) {
@@ -51,7 +40,7 @@ void addOperations(CLI::App &app, ExitStatus &) {
                     "  nerlo operations | grep -i quotes");
     const auto asJson = std::make_shared<bool>(false);
     command->add_flag("--json", *asJson, "Write a JSON array");
-    command->callback([asJson] { writeOutput(*asJson ? json() : table()); });
+    command->callback([asJson] { writeOutput(*asJson ? settings::operationsJson() : table()); });
 }
 
 } // namespace nerlo::cli

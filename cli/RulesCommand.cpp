@@ -4,7 +4,6 @@
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
-#include "cli/PatternFailures.h"
 #include "engine/FindReplace.h"
 #include "settings/RuleList.h"
 
@@ -45,7 +44,7 @@ std::string testRule(const std::string &place, const settings::TravelRule &rule,
     // On an empty text a pattern is compiled, and no more.
     if (const auto failure = trySample(rule, {}).failure) {
         ++counts.failed;
-        return place + messageOf({*failure}) + "\n";
+        return place + engine::messageOf({*failure}) + "\n";
     }
     std::string lines;
     for (std::size_t number = 1; const settings::RuleSample &sample : rule.samples) {
@@ -54,7 +53,7 @@ std::string testRule(const std::string &place, const settings::TravelRule &rule,
         if (!result.holds) {
             ++counts.failed;
             lines += place + "sample " + std::to_string(number) + ": " +
-                     (result.failure ? messageOf({*result.failure})
+                     (result.failure ? engine::messageOf({*result.failure})
                                      : told(sample.before) + " becomes " + told(result.given) +
                                            ", not " + told(sample.after)) +
                      "\n";

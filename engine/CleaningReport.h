@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace nerlo::engine {
@@ -27,5 +28,8 @@ struct PatternFailure {
 
 // In the order in which the patterns were to run.
 using CleaningReport = std::vector<PatternFailure>;
+
+// English, in one line, with the rules' numbers; `report` is not empty.
+std::string messageOf(const CleaningReport &report);
 
 } // namespace nerlo::engine

@@ -77,11 +77,6 @@ class ChangeList {
         return true;
     }
 
-    static bool cutsPair(std::u16string_view text, std::size_t at) {
-        return at > 0 && at < text.size() && (text[at - 1] & 0xFC00) == 0xD800 &&
-               (text[at] & 0xFC00) == 0xDC00;
-    }
-
     // The open change is complete: what stands next to it is kept, so that it may take the other
     // half of a pair from there.
     void settle() {
@@ -456,6 +451,11 @@ bool compareLines(std::u16string_view before, std::u16string_view after, const R
 }
 
 } // namespace
+
+bool cutsPair(std::u16string_view text, std::size_t at) {
+    return at > 0 && at < text.size() && (text[at - 1] & 0xFC00) == 0xD800 &&
+           (text[at] & 0xFC00) == 0xDC00;
+}
 
 Difference differenceOf(std::u16string_view before, std::u16string_view after,
                         std::size_t mostListed) {

@@ -30,6 +30,9 @@ struct Difference {
     std::vector<Change> changes; // the first of them, in order
 };
 
+// Whether a cut at `at`, which may be the end of the text, parts the halves of a pair.
+bool cutsPair(std::u16string_view text, std::size_t at);
+
 // Lists `mostListed` changes at most. Besides that list, memory for a few MiB, and for the lines of
 // the texts where these are compared.
 Difference differenceOf(std::u16string_view before, std::u16string_view after,

@@ -1,8 +1,8 @@
 // The batch command: many requests, hostile lines, any number of jobs.
 #include "cli/BatchAnswers.h"
-#include "cli/JsonText.h"
 #include "cli/OrderedWorkers.h"
 #include "engine/Operations.h"
+#include "settings/JsonText.h"
 #include "settings/SettingsKeys.h"
 #include "tests/cli/RunNerlo.h"
 #include "tests/reference/RandomText.h"
@@ -111,7 +111,7 @@ TEST(Batch, AnyUnitsComeBack) {
     Random random(7);
     for (int round = 0; round < 2000; ++round) {
         const std::u16string text = random.text(units);
-        const std::string quoted = cli::jsonOfText(text);
+        const std::string quoted = settings::jsonOfText(text);
         std::string escaped; // the same with every unit escaped
         for (const char16_t unit : text) {
             char digits[8];
@@ -128,7 +128,7 @@ TEST(Batch, AnyUnitsComeBack) {
                               "\"options\":{\"udSuffixTextField\":" +
                               quoted + "}}")
                       .line,
-                  "{\"id\":" + quoted + ",\"text\":" + cli::jsonOfText(u"a" + text) + "}\n");
+                  "{\"id\":" + quoted + ",\"text\":" + settings::jsonOfText(u"a" + text) + "}\n");
     }
 }
 

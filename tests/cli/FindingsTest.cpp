@@ -1,4 +1,5 @@
 #include "cli/Findings.h"
+#include "cli/ChangeWords.h"
 #include "tests/cli/RunNerlo.h"
 #include "tests/reference/RandomText.h"
 #include "text/Utf.h"
@@ -43,7 +44,7 @@ TEST(APlace, IsCountedInLinesAndCharacters) {
         std::size_t offset, line, column, lineByFeeds;
     } rows[] = {{0, 1, 1, 1}, {3, 1, 3, 1}, {5, 1, 5, 1}, {6, 2, 1, 2},
                 {7, 2, 2, 2}, {8, 3, 1, 2}, {10, 4, 1, 3}};
-    TextPosition position;
+    settings::TextPosition position;
     for (const auto &row : rows) {
         position.moveTo(text, row.offset);
         EXPECT_EQ(position.line, row.line) << row.offset;

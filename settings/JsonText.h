@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace nerlo::cli {
+namespace nerlo::settings {
 
 // `bytes`, or what is put into `room` in its place, for the library to parse.
 std::string_view withMarkedSurrogates(std::string_view bytes, std::string &room);
@@ -18,4 +18,4 @@ std::string jsonOfText(std::u16string_view text);
 // The same for bytes, such as a file's name: what is not UTF-8 in them becomes U+FFFD.
 std::string jsonOfName(const std::string &bytes);
 
-} // namespace nerlo::cli
+} // namespace nerlo::settings

@@ -1,26 +1,24 @@
-#include "cli/JsonOptions.h"
+#include "settings/JsonOptions.h"
 
-#include "cli/Failure.h"
-#include "cli/JsonText.h"
+#include "settings/JsonText.h"
+#include "settings/OptionsError.h"
 #include "settings/SettingsKeys.h"
 
 #include <nlohmann/json.hpp>
 
 #include <optional>
 
-namespace nerlo::cli {
+namespace nerlo::settings {
 
 namespace {
 
 using nlohmann::json;
-using settings::SettingKind;
-using settings::SettingsKey;
 using storage::PropertyArray;
 using storage::PropertyDictionary;
 using storage::PropertyValue;
 
 [[noreturn]] void refuse(const std::string &key, const std::string &why) {
-    throw Failure(ExitStatus::unusableArguments, "key " + json(key).dump() + ": " + why);
+    throw OptionsError("key " + json(key).dump() + ": " + why);
 }
 
 // Each of these returns nothing for a value of another kind.
@@ -128,18 +126,17 @@ PropertyValue settingFromJson(const SettingsKey &key, const json &value) {
 
 PropertyDictionary optionsFromJson(const json &object) {
     if (!object.is_object()) {
-        throw Failure(ExitStatus::unusableArguments, "\"options\" is not an object");
+        throw OptionsError("\"options\" is not an object");
     }
     PropertyDictionary options;
     for (const auto &[key, value] : object.items()) {
-        const SettingsKey *row = settings::findKey(key);
+        const SettingsKey *row = findKey(key);
         if (!row) {
-            throw Failure(ExitStatus::unusableArguments,
-                          "unknown key " + jsonOfText(textOfJson(key)));
+            throw OptionsError("unknown key " + jsonOfText(textOfJson(key)));
         }
         options.set(key, settingFromJson(*row, value));
     }
     return options;
 }
 
-} // namespace nerlo::cli
+} // namespace nerlo::settings

@@ -1,4 +1,4 @@
-#include "cli/JsonText.h"
+#include "settings/JsonText.h"
 
 #include "text/Utf.h"
 
@@ -7,7 +7,7 @@
 #include <charconv>
 #include <cstdint>
 
-namespace nerlo::cli {
+namespace nerlo::settings {
 
 namespace {
 
@@ -137,4 +137,4 @@ std::string jsonOfName(const std::string &bytes) {
     return json(bytes).dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
-} // namespace nerlo::cli
+} // namespace nerlo::settings
