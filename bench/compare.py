@@ -20,7 +20,7 @@ import time
 import zlib
 
 import make_corpus
-from operations import KEEPS, ROWS
+from operations import KEEPS, PATTERNS, ROWS
 
 LONGEST = 300  # seconds, after which a run is stopped
 MEGABYTE = 1e6
@@ -30,7 +30,9 @@ Run = collections.namedtuple("Run", "wall cpu peak")
 class Bench:
     def __init__(self, arguments):
         self.arguments = arguments
-        self.rows = [row for row in ROWS if not arguments.rows or row.name in arguments.rows]
+        self.rows, self.patterns = (
+            [row for row in rows if not arguments.rows or row.name in arguments.rows]
+            for rows in (ROWS, PATTERNS))
         self.cache = arguments.cache
         self.full = self.corpus(arguments.mb)
         self.sixteenth = self.corpus(arguments.mb / 16)
@@ -111,8 +113,19 @@ class Bench:
     def speed(self):
         print("Whole process, %g MB of text, ours divided by the tool's; (=): the same bytes. A peak "
               "of less than some 16 MB cannot be seen.\n" % self.arguments.mb)
+        self.beside_tools(self.rows)
+
+    def own_patterns(self):
+        print("People's own patterns, as in the table of speeds.\n")
+        ratios = self.beside_tools(self.patterns)
+        if ratios:
+            print("\nThe median of CPU: %s, the worst: %s." % (
+                number(statistics.median(ratios)), number(max(ratios))))
+
+    def beside_tools(self, rows):
+        ratios = []
         table = Table("operation", "tool", "wall", "CPU", "peak", "goal", "stretch", "verdict")
-        for row in self.rows:
+        for row in rows:
             for tool in row.rivals:
                 environment = self.utf8_tools if tool.utf8 else self.tools
                 same = " (=)" if self.same_bytes(row, tool, environment) else ""
@@ -120,9 +133,11 @@ class Bench:
                 ratio, _ = self.pairs(lambda: self.run(ours, source),
                                       lambda: self.run(tool.argv, source, environment))
                 judged = getattr(ratio, self.arguments.judge or tool.by)
+                ratios.append(ratio.cpu)
                 table.add(row.title, tool.name + same, *ratio,
                           ("CPU " if tool.by == "cpu" else "") + number(tool.goal), tool.stretch,
                           verdict(judged, tool.goal, tool.stretch))
+        return ratios
 
     def clip(self):
         print("A clip of 1 KB in one process, ours divided by one ICU pass of `[ ]+`, compiled each "
@@ -286,8 +301,8 @@ def machine():
 
 
 def main():
-    tables = ("speed", "clip", "growth", "hostile", "start", "batch")
-    names = [row.name for row in ROWS]
+    tables = ("speed", "own-patterns", "clip", "growth", "hostile", "start", "batch")
+    names = [row.name for row in ROWS + PATTERNS]
     parser = argparse.ArgumentParser(
         prog="bench.sh", description="How nerlo compares with other tools, as ratios.")
     option = parser.add_argument
@@ -309,11 +324,11 @@ def main():
     arguments.mb = arguments.mb or (16 if arguments.quick else 64)
     chosen = arguments.table or [table for table in tables if not (
         arguments.quick and table == "hostile" or
-        arguments.rows and table not in ("speed", "growth"))]
+        arguments.rows and table not in ("speed", "own-patterns", "growth"))]
     bench = Bench(arguments)
     print("Measured on: %s. Medians of %d pairs of runs.\n" % (machine(), arguments.pairs))
     for table in chosen:
-        getattr(bench, table)()
+        getattr(bench, table.replace("-", "_"))()
         print()
 
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Seeded texts for bench/compare.py; the same arguments always give the same bytes.
 
-  make_corpus.py FOLDER MB       prose, mixed, misread, html and lines, MB megabytes each (of lines as many
-                                 as there are in 64 MB by the million), and the clip of 1 KB
+  make_corpus.py FOLDER MB       prose, everyday, mixed, misread, html and lines, MB megabytes each (of lines
+                                 as many as there are in 64 MB by the million), and the clip of 1 KB
   make_corpus.py --hostile FOLDER MB
 
 Texts that exist already are left as they are.
@@ -100,6 +100,30 @@ class Writer:
             bullet = self.random.choice(BULLETS) + " "
             text = bullet + text.replace(end, end + bullet)
         return text + end * (1 if self.chance(.3) else 2)
+
+    def everyday(self):
+        """Prose with what people's patterns look for, one to three in a paragraph."""
+        words = self.prose().split(" ")
+        for _ in range(self.random.randint(1, 3)):
+            words[self.random.randrange(len(words))] += " " + self.find()
+        text = " ".join(words)
+        kind = self.random.random()
+        if kind < .05:
+            text = "$ ls -l %s\r\n" % self.some_words(1)[0] + text
+        elif kind < .15:
+            text = "%d. " % self.random.randint(1, 40) + text
+        return text.replace("\r\n", "  \r\n", 1) if .3 < kind < .5 else text
+
+    def find(self):
+        one, two = self.some_words(2)
+        number = self.random.randint
+        return self.random.choice((
+            one + "." + two + "@example.org", "https://www.example.com/%s?q=%s" % (one, two),
+            "%d-%02d-%02d" % (number(1970, 2030), number(1, 12), number(1, 28)), one + " " + one,
+            "an error in " + one, "<b>%s</b>" % two, "#%06x" % number(0, 0xFFFFFF),
+            "192.168.%d.%d" % (number(0, 255), number(1, 254)), "%d,%02d" % (number(0, 999), number(0, 99)),
+            "+49 30 %d" % number(10000, 9999999), one + two.capitalize(), "[%d]" % number(1, 99),
+            self.random.choice(("draft", "Draft", "DRAFT")), one + "!!", "what??"))
 
     def mixed(self):
         kind, joint = self.random.random(), " "
@@ -249,7 +273,7 @@ def main():
         for name in HOSTILE:
             make(folder, name, write_hostile, name, size)
         return
-    for kind in ("prose", "mixed", "misread", "html"):
+    for kind in ("prose", "everyday", "mixed", "misread", "html"):
         make(folder, kind, write_text, kind, size)
     make(folder, "lines", write_lines, int(1e6 * megabytes / 64))
     make(folder, "clip", write_text, "prose", 1024)

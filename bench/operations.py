@@ -219,3 +219,36 @@ ROWS = [
         tool("Python", python(FIRST_START + COUNTS), .05), tool("sed, no counts", FIRST_START_SED, .3, .15)],
         first_start, command=CLEAN + " | {nerlo} count --locale en_US"),
 ]
+
+
+def pattern(name, title, find, perl, replace="", text=False):
+    """A rule of the user's. Perl reads bytes, which is faster, where its answer is the same."""
+    rule = {"checkbox": True, "find": find, "replace": "!{delete}" + replace}
+    script = "s/%s/%s/g" % (perl or find.replace("/", "\\/"), replace)
+    return row("pattern-" + name, title, 37,
+               [tool("perl", perl_text(script) if text else perl_bytes(script), 1, .5, by="cpu")],
+               {"sFindAndReplaceItemsProfile": [rule]}, "everyday", LENGTHENS)
+
+
+PATTERNS = [
+    pattern("email", "e-mail", r"[\w.+-]+@[\w-]+\.[\w.-]+", r"[\w.+-]+\@[\w-]+\.[\w.-]+", text=True),
+    pattern("url", "web address", r"https?://[^\s\"<>]+", None, text=True),
+    pattern("numbers", "numbers", "[0-9]+", None),
+    pattern("dates", "dates", r"\d{4}-\d{2}-\d{2}", None),
+    pattern("trailing", "trailing blanks", r"(?m)[ \t]+$", r"[ \t]+(?=\r?\n)"),
+    pattern("double", "double words", r"\b(\w+) \1\b", None, "$1", text=True),
+    pattern("ing", "words in -ing", r"\b[a-z]+ing\b", None, text=True),
+    pattern("lines", "lines with a word", ".*error.*", r"[^\r\n]*error[^\r\n]*"),
+    pattern("quoted", "quoted", r"\"[^\"\r\n]*\"", None),
+    pattern("tags", "tags", "</?[a-z][^>]*>", None),
+    pattern("colours", "hexadecimal colours", r"#[0-9a-fA-F]{6}\b", None),
+    pattern("addresses", "IP addresses", r"\b(?:\d{1,3}\.){3}\d{1,3}\b", None),
+    pattern("comma", "decimal comma", r"(\d+),(\d+)", None, "$1.$2"),
+    pattern("phone", "phone numbers", r"\+?\d{1,3}[ -]\d{2,4}[ -]\d{4,}", None),
+    pattern("camel", "camelCase", "([a-z])([A-Z])", None, "$1 $2"),
+    pattern("footnotes", "footnote marks", r"\[\d+\]", None),
+    pattern("prompts", "shell prompts", r"(?m)^\$ ", r"^\$ "),
+    pattern("word", "a word in any case", r"(?i)\bdraft\b", None),
+    pattern("leading", "leading numbers", r"(?m)^\d+[.)] ", r"^\d+[.)] "),
+    pattern("marks", "repeated marks", r"([!?])\1+", None, "$1"),
+]

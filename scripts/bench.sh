@@ -2,9 +2,9 @@
 # bench.sh [OPTION...] [ROW...]: how `nerlo` compares with what one would use instead of it.
 #
 # Installs and builds what is missing, makes seeded texts under build/bench/, runs `nerlo` and the
-# other tools in turn on them and prints ratios as Markdown tables: against the tools, growth and
-# memory, hostile texts, start-up, batch. Everything takes half an hour, --quick a few minutes; --help
-# tells the rest.
+# other tools in turn on them and prints ratios as Markdown tables: against the tools, people's own
+# patterns against perl, growth and memory, hostile texts, start-up, batch. Everything takes three
+# quarters of an hour, --quick a few minutes; --help tells the rest.
 set -eu
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$root/build/bench # of its own, so that nobody's other build changes its options
