@@ -188,7 +188,7 @@ int selectedProfile(const settings::SettingsPaths &paths, std::size_t count) {
     if (!store.loadError().empty()) {
         throw Failure(ExitStatus::ioFailed, store.loadError());
     }
-    return settings::selectedPlace(store.integerForKey("udSelectedProfileItem"), count);
+    return settings::selectedPlace(store.integerForKey(settings::selectedProfileKey), count);
 }
 
 PropertyDictionary defaultOptions() {

@@ -1,4 +1,4 @@
-// nerlo profiles: list, show, import and export.
+// nerlo profiles: list, show, change, import and export.
 #include "cli/Commands.h"
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
@@ -6,6 +6,7 @@
 #include "settings/ProfilesFile.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
+#include "storage/FileSettingsStore.h"
 #include "storage/PropertyList.h"
 #include "text/Utf.h"
 
@@ -63,6 +64,16 @@ std::string nameIn(const ProfileItem &item) {
     return text::utf16ToUtf8(settings::profileNameOf(item.record));
 }
 
+void orFail(const std::string &error) {
+    if (!error.empty()) {
+        throw Failure(ExitStatus::ioFailed, error);
+    }
+}
+
+[[noreturn]] void refuse(const std::string &message) {
+    throw Failure(ExitStatus::unusableArguments, message);
+}
+
 struct Profiles {
     settings::SettingsPaths paths = settings::SettingsPaths::standard();
     settings::ProfilesFile file{paths.profiles};
@@ -70,14 +81,25 @@ struct Profiles {
 
     Profiles() {
         items = file.load();
-        if (!file.loadError().empty()) {
-            throw Failure(ExitStatus::ioFailed, file.loadError());
-        }
+        orFail(file.loadError());
     }
     PropertyDictionary find(const std::string &nameOrIndex) const {
         const ProfileItem *item = settings::findProfile(items, nameOrIndex);
         return item ? item->record : readyProfile(nameOrIndex);
     }
+    // The place of one that is stored: a ready one has none.
+    std::size_t placeOf(const std::string &nameOrIndex) const {
+        const ProfileItem *item = settings::findProfile(items, nameOrIndex);
+        if (!item) {
+            readyProfile(nameOrIndex); // refuses what is neither
+            refuse("\"" + nameOrIndex +
+                   "\" comes with the program and is not in your list; "
+                   "`nerlo profiles duplicate` puts a copy there");
+        }
+        return static_cast<std::size_t>(item - items.data());
+    }
+    void add(PropertyDictionary record) { items.push_back(file.newItem(std::move(record))); }
+    void save() { orFail(file.save(items)); }
 };
 
 // One line for each.
@@ -157,12 +179,77 @@ void importFile(const std::string &file) {
     PropertyArray records = readProfiles(file);
     Profiles profiles;
     for (PropertyValue &record : records) {
-        profiles.items.push_back(
-            profiles.file.newItem(std::move(*record.as<PropertyDictionary>())));
+        profiles.add(std::move(*record.as<PropertyDictionary>()));
     }
-    if (const std::string error = profiles.file.save(profiles.items); !error.empty()) {
-        throw Failure(ExitStatus::ioFailed, error);
+    profiles.save();
+}
+
+void selectPlace(const settings::SettingsPaths &paths, std::size_t place) {
+    storage::FileSettingsStore store(paths.store);
+    orFail(store.loadError());
+    store.set(settings::selectedProfileKey, static_cast<std::int64_t>(place));
+    store.synchronize();
+    orFail(store.error());
+}
+
+std::u16string newName(const std::string &name) {
+    if (name.empty()) {
+        refuse("a profile needs a name");
     }
+    return text::utf8ToUtf16(name).text;
+}
+
+void rename(const std::string &nameOrIndex, const std::string &name) {
+    Profiles profiles;
+    profiles.items[profiles.placeOf(nameOrIndex)].record.set("profileName", newName(name));
+    profiles.save();
+}
+
+void duplicate(const std::string &nameOrIndex, const std::string &name) {
+    Profiles profiles;
+    PropertyDictionary record = profiles.find(nameOrIndex);
+    record.set("profileName", newName(name));
+    profiles.add(std::move(record));
+    profiles.save();
+}
+
+void select(const std::string &nameOrIndex) {
+    const Profiles profiles;
+    selectPlace(profiles.paths, profiles.placeOf(nameOrIndex));
+}
+
+// It is kept elsewhere before it goes. The selected one stays selected; when it is the one that
+// goes, the next one is.
+void remove(const std::string &nameOrIndex) {
+    Profiles profiles;
+    const std::size_t place = profiles.placeOf(nameOrIndex);
+    const auto selected =
+        static_cast<std::size_t>(selectedProfile(profiles.paths, profiles.items.size()));
+    orFail(settings::RemovedProfilesFile(profiles.paths.removedProfiles)
+               .add(profiles.items[place].record));
+    profiles.items.erase(profiles.items.begin() + static_cast<std::ptrdiff_t>(place));
+    profiles.save();
+    if (place < selected) {
+        selectPlace(profiles.paths, selected - 1);
+    }
+}
+
+// Without a name, the one that was removed last.
+void restore(const std::string &name) {
+    Profiles profiles;
+    settings::RemovedProfilesFile file(profiles.paths.removedProfiles);
+    ProfileItems removed = file.load();
+    orFail(file.loadError());
+    const auto found = std::find_if(removed.rbegin(), removed.rend(), [&](const ProfileItem &item) {
+        return name.empty() || nameIn(item) == name;
+    });
+    if (found == removed.rend()) {
+        refuse(name.empty() ? "no profile was removed" : "no profile \"" + name + "\" was removed");
+    }
+    profiles.add(found->record);
+    profiles.save();
+    removed.erase(std::next(found).base());
+    orFail(file.save(removed));
 }
 
 void exportTo(const std::string &nameOrIndex, const std::string &file) {
@@ -177,22 +264,61 @@ void exportTo(const std::string &nameOrIndex, const std::string &file) {
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         throw Failure(ExitStatus::ioFailed, file + ": not a regular file");
     }
-    if (const std::string error = storage::replaceWithPropertyList(file, profile); !error.empty()) {
-        throw Failure(ExitStatus::ioFailed, error);
-    }
+    orFail(storage::replaceWithPropertyList(file, profile));
 }
 
 struct Arguments {
     bool json = false;
     bool ready = false;
     std::string name;
+    std::string newName;
     std::string file;
 };
+
+void addName(CLI::App *command, Arguments &arguments) {
+    command->add_option("name", arguments.name, "The profile")
+        ->required()
+        ->option_text("NAME|INDEX");
+}
+
+void addChanges(CLI::App *command, const std::shared_ptr<Arguments> &arguments) {
+    CLI::App *selectCommand =
+        command->add_subcommand("select", "Use a profile from now on, here and on the desktop");
+    addName(selectCommand, *arguments);
+    selectCommand->callback([arguments] { select(arguments->name); });
+
+    CLI::App *renameCommand = command->add_subcommand("rename", "Give a profile another name");
+    addName(renameCommand, *arguments);
+    renameCommand->add_option("new", arguments->newName, "The name")
+        ->required()
+        ->option_text("NEW");
+    renameCommand->callback([arguments] { rename(arguments->name, arguments->newName); });
+
+    CLI::App *duplicateCommand = command->add_subcommand(
+        "duplicate", "Add a copy of a profile, or of a ready one, at the end of the list");
+    addName(duplicateCommand, *arguments);
+    duplicateCommand->add_option("new", arguments->newName, "The name of the copy")
+        ->required()
+        ->option_text("NEW");
+    duplicateCommand->callback([arguments] { duplicate(arguments->name, arguments->newName); });
+
+    CLI::App *removeCommand = command->add_subcommand(
+        "remove", "Take a profile out of the list; the last 20 removed ones can be restored");
+    addName(removeCommand, *arguments);
+    removeCommand->callback([arguments] { remove(arguments->name); });
+
+    CLI::App *restoreCommand =
+        command->add_subcommand("restore", "Bring a removed profile back, at the end of the list");
+    restoreCommand->add_option("name", arguments->name, "Its name; else the one removed last")
+        ->option_text("NAME");
+    restoreCommand->callback([arguments] { restore(arguments->name); });
+}
 
 } // namespace
 
 void addProfiles(CLI::App &app, ExitStatus &) {
-    CLI::App *command = app.add_subcommand("profiles", "List, show, import and export profiles");
+    CLI::App *command =
+        app.add_subcommand("profiles", "List, show, change, import and export profiles");
     command->footer(
         "Without a command of its own, lists them with their places; the selected one is\n"
         "marked with *. A profile is named by its name, or by its place. Ready ones, which come\n"
@@ -200,6 +326,8 @@ void addProfiles(CLI::App &app, ExitStatus &) {
         "\n"
         "Examples:\n"
         "  nerlo profiles --ready\n"
+        "  nerlo profiles duplicate mail work\n"
+        "  nerlo profiles select work\n"
         "  nerlo profiles export work work.plist\n"
         "  nerlo profiles import work.plist\n"
         "  nerlo clean --profile work letter.txt");
@@ -214,11 +342,11 @@ void addProfiles(CLI::App &app, ExitStatus &) {
     });
 
     CLI::App *showCommand = command->add_subcommand("show", "Print a profile's keys and values");
-    showCommand->add_option("name", arguments->name, "The profile")
-        ->required()
-        ->option_text("NAME|INDEX");
+    addName(showCommand, *arguments);
     showCommand->add_flag("--json", arguments->json, "Write a JSON object");
     showCommand->callback([arguments] { show(arguments->name, arguments->json); });
+
+    addChanges(command, arguments);
 
     CLI::App *importCommand = command->add_subcommand(
         "import", "Add the profile, or the profiles, of a property list; none is replaced");
@@ -229,9 +357,7 @@ void addProfiles(CLI::App &app, ExitStatus &) {
 
     CLI::App *exportCommand =
         command->add_subcommand("export", "Write a profile as an XML property list");
-    exportCommand->add_option("name", arguments->name, "The profile")
-        ->required()
-        ->option_text("NAME|INDEX");
+    addName(exportCommand, *arguments);
     exportCommand->add_option("file", arguments->file, "The file; \"-\" is standard output")
         ->required()
         ->option_text("FILE");

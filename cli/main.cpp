@@ -37,11 +37,19 @@ void occupyStandardDescriptors() {
     }
 }
 
-// An error in the arguments, with a hint at the help.
+// An error in the arguments, with the help that tells more: that of the command that they name.
 struct Misuse : Failure {
-    explicit Misuse(const std::string &message)
-        : Failure(ExitStatus::unusableArguments, message) {}
+    explicit Misuse(const std::string &message, std::string helpOf = "nerlo")
+        : Failure(ExitStatus::unusableArguments, message)
+        , command(std::move(helpOf)) {}
+    std::string command;
 };
+
+// As one types it: "nerlo profiles export".
+std::string chosenCommand(const CLI::App &app) {
+    const auto chosen = app.get_subcommands();
+    return app.get_name() + (chosen.empty() ? "" : " " + chosenCommand(*chosen.front()));
+}
 
 // The parser would take the next argument, most often a file, for the value of "--locale=".
 void refuseEmptyValues(std::span<char *const> arguments) {
@@ -84,7 +92,7 @@ void parse(CLI::App &app, std::span<char *const> arguments) {
         writeOutput(app.help());
     } catch (const CLI::ParseError &error) {
         refuseUnknownCommand(app);
-        throw Misuse(withoutMarks(error.what()));
+        throw Misuse(withoutMarks(error.what()), chosenCommand(app));
     }
 }
 
@@ -119,7 +127,7 @@ int main(int argc, char **argv) {
     } catch (const ClosedPipe &) {
         // The reader closed the pipe: nothing is left to do.
     } catch (const Misuse &misuse) {
-        report(misuse.what(), "Try `nerlo --help`.");
+        report(misuse.what(), "Try `" + misuse.command + " --help`.");
         status = misuse.status;
     } catch (const Failure &failure) {
         report(failure.what());

@@ -155,6 +155,15 @@ const ProfileItem *findProfile(const ProfileItems &items, std::string_view nameO
                                                                                  : nullptr;
 }
 
+std::string RemovedProfilesFile::add(ProfileRecord record) {
+    RecordItems items = load();
+    items.push_back(newItem(std::move(record)));
+    if (items.size() > kept) {
+        items.erase(items.begin(), items.end() - kept);
+    }
+    return save(items);
+}
+
 int selectedPlace(std::int64_t stored, std::size_t count) {
     const auto size = static_cast<std::int64_t>(count);
     if (stored > size && size > 0) {

@@ -104,6 +104,20 @@ class ProfilesFile : public RecordsFile {
         : RecordsFile(std::move(path), "profileName", calls) {}
 };
 
+// The profiles that were removed last, the newest at the end, so that they can be brought back.
+class RemovedProfilesFile : public RecordsFile {
+  public:
+    static constexpr std::size_t kept = 20;
+
+    explicit RemovedProfilesFile(std::string path,
+                                 storage::FileCalls &calls = storage::FileCalls::system())
+        : RecordsFile(std::move(path), "profileName", calls) {}
+
+    // Puts the record behind the others, of which the oldest goes when there are too many. Empty
+    // when done, else why it could not be written.
+    std::string add(ProfileRecord record);
+};
+
 // The list of rules that all profiles may share.
 class SharedFindReplaceFile : public RecordsFile {
   public:

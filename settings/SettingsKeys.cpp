@@ -68,7 +68,7 @@ constexpr StoreKey storeKeys[] = {
      "the number of the last change of their form; 1 or none where it is absent"},
     {"firstRunTips", SettingKind::Boolean, "start", "show the tips at each start"},
     {"updateReleaseNotes3_1", SettingKind::Boolean, "start", "the release notes have been shown"},
-    {"udSelectedProfileItem", SettingKind::Integer, "profile", "place of the selected profile"},
+    {selectedProfileKey, SettingKind::Integer, "profile", "place of the selected profile"},
     {"udStatisticsValue", SettingKind::Integer, "statistics",
      "the selected profile's seconds before the popup closes"},
     {"udStatisticsDelaySwitcher", SettingKind::Integer, "statistics",

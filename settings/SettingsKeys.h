@@ -54,6 +54,9 @@ inline constexpr CommandHotKey commandHotKeys[] = {
     {chooseHotKey, "choose", "choose what is done to the clipboard's text"},
 };
 
+// In the store: the place of the selected profile.
+inline constexpr const char *selectedProfileKey = "udSelectedProfileItem";
+
 // Profile keys in the order in which a profile is written, then the keys of the store. Made once;
 // any thread.
 std::span<const SettingsKey> settingsKeys();

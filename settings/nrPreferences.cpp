@@ -17,7 +17,6 @@ using storage::PropertyArray;
 using storage::PropertyDictionary;
 using storage::PropertyValue;
 
-constexpr const char *selectedItemKey = "udSelectedProfileItem";
 constexpr const char *sharedListKey = "sFindAndReplaceItems";
 constexpr const char *ownListKey = "sFindAndReplaceItemsProfile";
 constexpr const char *rulesSwitchKey = "sFindReplaceBool";
@@ -142,7 +141,7 @@ void nrPreferences::initProfilesItems() {
     if (sharedRules_.empty()) {
         showSharedRules(); // which adds a first rule if there is none
     }
-    const std::int64_t stored = store_.integerForKey(selectedItemKey);
+    const std::int64_t stored = store_.integerForKey(selectedProfileKey);
     selectedItem_ = static_cast<int>(
         std::clamp<std::int64_t>(stored, -1, static_cast<std::int64_t>(profilesItems_.size()) + 1));
     refreshProfilesMenu();
@@ -193,7 +192,7 @@ void nrPreferences::profilesSelect(std::optional<int> tag) {
          {"udStatisticsValue", "udStatisticsDelaySwitcher", "udStatisticsDefaultPosition"}) {
         store_.set(mirrored, state(mirrored).integerValue());
     }
-    store_.set(selectedItemKey, selectedItem_);
+    store_.set(selectedProfileKey, selectedItem_);
     OnlyOneProfileAction();
     refreshProfilesMenuItems();
     if (hooks_.controlsLoaded) {
@@ -230,6 +229,15 @@ void nrPreferences::profilesSwitch(int place) {
     const auto now = std::ranges::find(profilesItems_, id, &ProfileItem::id);
     if (now != profilesItems_.end()) {
         profilesSelect(static_cast<int>(now - profilesItems_.begin()));
+    }
+}
+
+// The list is looked at first: the place may be one in a list that we have not read yet.
+void nrPreferences::selectedPlaceChanged() {
+    const auto stored = store_.integerForKey(selectedProfileKey);
+    profilesFileChanged();
+    if (stored != selectedItem_) {
+        profilesSwitch(selectedPlace(stored, profilesItems_.size()));
     }
 }
 
@@ -305,7 +313,7 @@ void nrPreferences::adopt(ProfileItems items) {
     if (gone || other) {
         profilesSelect(gone ? std::optional<int>() : std::optional(selectedItem_));
     } else if (!sameNames && id != 0) {
-        store_.set(selectedItemKey, selectedItem_);
+        store_.set(selectedProfileKey, selectedItem_);
     }
 }
 

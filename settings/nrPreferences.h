@@ -86,6 +86,8 @@ class nrPreferences {
     // The user chose another profile: saves what waits, which may take over profiles of other
     // processes, and selects the one that was at `place`.
     void profilesSwitch(int place);
+    // The place in the store may be another one: another process may have chosen a profile.
+    void selectedPlaceChanged();
     void profilesAdd();
     // `beginning` is what the new profile holds besides its name.
     void profilesAddingCloseWindow(const std::u16string &name, ProfileRecord beginning = {});

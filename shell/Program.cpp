@@ -158,6 +158,8 @@ void Program::followOtherProcesses() {
     folders_.add(storage::folderOf(parts_.paths.store), [this] { store_.fileChanged(); });
     folders_.add(storage::folderOf(parts_.paths.profiles),
                  [this] { preferences_.profilesFileChanged(); });
+    selectedProfile_ = store_.observe(settings::selectedProfileKey,
+                                      [this] { preferences_.selectedPlaceChanged(); });
     automaticMode_ = store_.observe(automaticKey, [this] {
         setAutomatic(store_.boolForKey(automaticKey) ? AutomaticMode::on : AutomaticMode::off);
     });

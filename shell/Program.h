@@ -142,6 +142,7 @@ class Program final {
     DesktopShell windows_;
     platform::FolderWatch folders_;
     storage::SettingsStore::Observation automaticMode_;
+    storage::SettingsStore::Observation selectedProfile_;
     storage::SettingsStore::Observation copyTable_;
     std::shared_ptr<void> refusals_;
     std::set<std::string> toldDamages_; // on the terminal

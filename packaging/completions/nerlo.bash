@@ -101,7 +101,7 @@ _nerlo() {
         ;;
     profiles)
         if [ "$cword" -eq 2 ] || [[ $cur == -* ]]; then
-            COMPREPLY=($(compgen -W "show export import --json --ready --help" -- "$cur"))
+            COMPREPLY=($(compgen -W "show select rename duplicate remove restore export import --json --ready --help" -- "$cur"))
         else
             _filedir
         fi

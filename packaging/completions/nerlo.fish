@@ -20,7 +20,7 @@ complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a count -d 'Co
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a batch -d 'Answer requests, one JSON object a line'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a operations -d 'List the operations'
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a keys -d 'List the settings keys'
-complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a profiles -d 'List, show, import and export profiles'
+complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a profiles -d 'List, show, change, import and export profiles'
 
 complete -c nerlo -n "not __fish_seen_subcommand_from $commands" -a rules -d 'Try lists of rules on their samples'
 complete -c nerlo -n '__fish_seen_subcommand_from rules; and not __fish_seen_subcommand_from test' -f -a test
@@ -39,5 +39,5 @@ complete -c nerlo -n '__fish_seen_subcommand_from batch' -l jobs -x -d 'Requests
 complete -c nerlo -n '__fish_seen_subcommand_from operations keys' -f
 complete -c nerlo -n '__fish_seen_subcommand_from count operations keys profiles' -l json -d 'Write JSON'
 complete -c nerlo -n '__fish_seen_subcommand_from profiles' -l ready -d 'The ready ones alone'
-complete -c nerlo -n '__fish_seen_subcommand_from profiles; and not __fish_seen_subcommand_from show export import' -f -a 'show export import'
-complete -c nerlo -n '__fish_seen_subcommand_from show export' -a '(__nerlo_profiles)'
+complete -c nerlo -n '__fish_seen_subcommand_from profiles; and not __fish_seen_subcommand_from show select rename duplicate remove restore export import' -f -a 'show select rename duplicate remove restore export import'
+complete -c nerlo -n '__fish_seen_subcommand_from show select rename duplicate remove export' -a '(__nerlo_profiles)'

@@ -68,6 +68,32 @@ TEST_F(Profiles, ChooseHowTextsAreCleaned) {
     EXPECT_EQ(nerlo({"clean", "--profile", "0", "--set", "udChangeCaseTo=off"}, "aB").out, "aB");
 }
 
+TEST_F(Profiles, AreChangedInPlaceAndComeBackWhenRemoved) {
+    putProfiles(writeXml(PropertyArray{upper, lower, upper}));
+    const struct {
+        std::vector<std::string> arguments;
+        const char *list;
+    } steps[] = {
+        {{"select", "2"}, "  0  Größe\n  1  small\n* 2  Größe\n"},
+        {{"rename", "2", "big"}, "  0  Größe\n  1  small\n* 2  big\n"},
+        {{"remove", "Größe"}, "  0  small\n* 1  big\n"},
+        {{"duplicate", "gentle", "mine"}, "  0  small\n* 1  big\n  2  mine\n"},
+        {{"remove", "big"}, "  0  small\n* 1  mine\n"},
+        {{"restore", "Größe"}, "  0  small\n* 1  mine\n  2  Größe\n"},
+        {{"restore"}, "  0  small\n* 1  mine\n  2  Größe\n  3  big\n"},
+    };
+    for (const auto &step : steps) {
+        std::vector<std::string> arguments = step.arguments;
+        arguments.insert(arguments.begin(), "profiles");
+        EXPECT_EQ(nerlo(arguments).err, "");
+        EXPECT_EQ(stored(), step.list) << step.arguments[0] << ' ' << step.arguments.back();
+    }
+    EXPECT_EQ(nerlo({"profiles", "export", "2", "-"}).out, writeXml(upper));
+    EXPECT_EQ(nerlo({"profiles", "restore"}).status, 2) << "nothing is left";
+    EXPECT_EQ(nerlo({"profiles", "rename", "gentle", "x"}).status, 2) << "a ready one";
+    EXPECT_EQ(nerlo({"profiles", "rename", "0", ""}).status, 2);
+}
+
 TEST_F(Profiles, ReadyOnesNeedNoFileAndAStoredOneOfTheSameNameWins) {
     const struct {
         const char *id;
@@ -166,6 +192,7 @@ TEST_F(Profiles, DamagedFilesThatAreNeededAreNamedAndStay) {
     putProfiles("damaged");
     expectRefused(profiles, {"clean"});
     expectRefused(profiles, {"profiles", "import", "-"});
+    expectRefused(profiles, {"profiles", "remove", "0"});
 }
 
 } // namespace

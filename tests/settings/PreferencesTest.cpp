@@ -258,7 +258,7 @@ TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
 }
 
 TEST_F(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanwhile) {
-    putBytes(paths.profiles, writeXml(named({u"A", u"B", u"C", u"D"})));
+    putBytes(paths.profiles, writeXml(named({u"A", u"B", u"C", u"D", u"E"})));
     preferences.initProfilesItems();
     queue.advance(5s);
     preferences.profilesSwitch(1);
@@ -267,6 +267,10 @@ TEST_F(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanw
     preferences.profilesSwitch(2);
     EXPECT_EQ(preferences.profileName(), u"C");
     queue.advance(5s);
+    othersRemoveTheFirst();
+    store.set(selectedProfileKey, 1); // a place in a list that is only in the file yet
+    preferences.selectedPlaceChanged();
+    EXPECT_EQ(preferences.profileName(), u"D");
 
     preferences.hooks().confirmRemoval = [&](const std::u16string &) {
         othersRemoveTheFirst();
@@ -274,7 +278,7 @@ TEST_F(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanw
         return true;
     };
     preferences.profilesRemove();
-    EXPECT_EQ(names(), (std::vector<std::u16string>{u"D"}));
+    EXPECT_EQ(names(), (std::vector<std::u16string>{u"E"}));
     preferences.profilesRemove(); // the other process was faster
     EXPECT_EQ(profilesIn(paths), PropertyArray());
 }

@@ -27,7 +27,8 @@ using test::MemoryMainQueue;
 inline SettingsPaths pathsIn(const TemporaryFolder &folder) {
     return {folder / "config/nerlo-pro/defaults.plist", folder / "data/nerlo-pro/Data/profiles.nrp",
             folder / "data/nerlo-pro/Data/profilesFR.nrp",
-            folder / "data/nerlo-pro/Data/ruleSamples.nrp"};
+            folder / "data/nerlo-pro/Data/ruleSamples.nrp",
+            folder / "data/nerlo-pro/Data/removedProfiles.nrp"};
 }
 
 // The program's settings, as a start makes them; the destructor is the program's end.
