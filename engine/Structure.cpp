@@ -802,8 +802,12 @@ class Paragraphs {
 
 } // namespace
 
+std::vector<StructuredLine> splitLines(View text) {
+    return LineScan(text).run();
+}
+
 std::vector<StructuredLine> scanStructure(View text) {
-    auto lines = LineScan(text).run();
+    auto lines = splitLines(text);
     MarkedStructure(text, lines).run();
     Paragraphs(text, lines).run();
     return lines;

@@ -42,7 +42,10 @@ struct StructuredLine {
     std::size_t next() const { return end + breakSize; }
 };
 
-// A break is CR LF, CR or LF. The text "" has no line, "a\n" has one.
+// The lines alone, of no kind yet. A break is CR LF, CR or LF. The text "" has no line, "a\n" has
+// one.
+std::vector<StructuredLine> splitLines(std::u16string_view text);
+
 std::vector<StructuredLine> scanStructure(std::u16string_view text);
 
 } // namespace nerlo::engine

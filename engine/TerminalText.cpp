@@ -70,13 +70,9 @@ struct Row {
 
 std::vector<Row> rowsOf(View text) {
     std::vector<Row> rows;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find_first_of(u"\r\n", begin), text.size());
-        const bool pair = text.substr(end).starts_with(u"\r\n");
-        const std::size_t next = std::min(text.size(), end + (pair ? 2 : 1));
-        rows.push_back(
-            {std::u16string(text.substr(begin, end - begin)), text.substr(end, next - end)});
-        begin = next;
+    for (const auto &line : splitLines(text)) {
+        rows.push_back({std::u16string(text.substr(line.begin, line.end - line.begin)),
+                        text.substr(line.end, line.breakSize)});
     }
     return rows;
 }
