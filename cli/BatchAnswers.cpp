@@ -7,7 +7,6 @@
 #include "settings/PreparedOptions.h"
 #include "settings/TraceJson.h"
 #include "settings/UserLocale.h"
-#include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
 
@@ -110,22 +109,6 @@ std::string rawId(std::string_view object) {
     return std::string(id);
 }
 
-json parseRequest(std::string_view request) {
-    std::string room;
-    try {
-        return json::parse(settings::withMarkedSurrogates(request, room));
-    } catch (const json::parse_error &error) {
-        if (const auto at = text::utf8ToUtf16(request).invalidAt) {
-            throw BadRequest("invalid UTF-8 at byte " + std::to_string(*at));
-        }
-        // The library counts the bytes that it has read.
-        throw BadRequest("invalid JSON at byte " +
-                         std::to_string(std::max<std::size_t>(error.byte, 1) - 1));
-    } catch (const json::exception &) {
-        throw BadRequest("a number is out of range");
-    }
-}
-
 // Null when the member is missing or null.
 const json *memberOf(const json &request, const char *name) {
     const auto member = request.find(name);
@@ -218,7 +201,7 @@ BatchAnswers::BatchAnswers(engine::CleaningOptions defaults, std::string locale)
 
 // The members that follow the id. `id` is set as soon as it is known.
 std::string BatchAnswers::resultOf(std::string_view request, std::string &id) const {
-    json parsed = parseRequest(request);
+    json parsed = settings::parsedJson(request);
     if (!parsed.is_object()) {
         throw BadRequest("a request is a JSON object");
     }

@@ -3,6 +3,7 @@
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
 #include "cli/Output.h"
+#include "settings/Listings.h"
 #include "settings/ProfilesFile.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
@@ -113,11 +114,7 @@ std::string readyLines() {
 }
 
 void listReady(bool asJson) {
-    ordered_json array = ordered_json::array();
-    for (const settings::ReadyProfile &ready : settings::readyProfiles()) {
-        array.push_back({{"name", ready.id}, {"summary", ready.summary}});
-    }
-    writeOutput(asJson ? array.dump(2) + "\n" : readyLines());
+    writeOutput(asJson ? settings::readyProfilesJson() : readyLines());
 }
 
 void list(bool asJson) {

@@ -3,9 +3,11 @@
 #include "settings/JsonText.h"
 #include "settings/OptionsError.h"
 #include "settings/SettingsKeys.h"
+#include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <optional>
 
 namespace nerlo::settings {
@@ -124,6 +126,22 @@ PropertyValue settingFromJson(const SettingsKey &key, const json &value) {
     return std::move(*converted);
 }
 
+json parsedJson(std::string_view bytes) {
+    std::string room;
+    try {
+        return json::parse(withMarkedSurrogates(bytes, room));
+    } catch (const json::parse_error &error) {
+        if (const auto at = text::utf8ToUtf16(bytes).invalidAt) {
+            throw OptionsError("invalid UTF-8 at byte " + std::to_string(*at));
+        }
+        // The library counts the bytes that it has read.
+        throw OptionsError("invalid JSON at byte " +
+                           std::to_string(std::max<std::size_t>(error.byte, 1) - 1));
+    } catch (const json::exception &) {
+        throw OptionsError("a number is out of range");
+    }
+}
+
 PropertyDictionary optionsFromJson(const json &object) {
     if (!object.is_object()) {
         throw OptionsError("\"options\" is not an object");
@@ -137,6 +155,10 @@ PropertyDictionary optionsFromJson(const json &object) {
         options.set(key, settingFromJson(*row, value));
     }
     return options;
+}
+
+PropertyDictionary parseOptions(std::string_view json) {
+    return optionsFromJson(parsedJson(json));
 }
 
 } // namespace nerlo::settings

@@ -5,6 +5,8 @@
 
 #include <nlohmann/json_fwd.hpp>
 
+#include <string_view>
+
 namespace nerlo::settings {
 
 struct SettingsKey;
@@ -14,7 +16,12 @@ struct SettingsKey;
 // OptionsError, with the key and what is wrong, for anything else.
 storage::PropertyValue settingFromJson(const SettingsKey &key, const nlohmann::json &value);
 
+// The value that the bytes say, which may be any. Throws OptionsError, with the place of what is
+// wrong.
+nlohmann::json parsedJson(std::string_view bytes);
+
 // Also throws OptionsError for anything but an object, and for a key that is no settings key.
 storage::PropertyDictionary optionsFromJson(const nlohmann::json &object);
+storage::PropertyDictionary parseOptions(std::string_view json);
 
 } // namespace nerlo::settings

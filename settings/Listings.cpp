@@ -2,6 +2,7 @@
 
 #include "engine/Operations.h"
 #include "settings/OptionLists.h"
+#include "settings/ReadyProfiles.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
@@ -53,6 +54,14 @@ std::string operationsJson() {
                         {"name", operation.name},
                         {"hotKey", operation.hotKey},
                         {"summary", operation.summary}});
+    }
+    return list.dump(2) + "\n";
+}
+
+std::string readyProfilesJson() {
+    nlohmann::ordered_json list = nlohmann::ordered_json::array();
+    for (const ReadyProfile &ready : readyProfiles()) {
+        list.push_back({{"name", ready.id}, {"summary", ready.summary}});
     }
     return list.dump(2) + "\n";
 }

@@ -20,6 +20,7 @@ const storage::PropertyValue *firstStartValue(const SettingsKey &row,
 
 // JSON arrays of objects, indented, with a line break at the end.
 std::string operationsJson();
+std::string readyProfilesJson();
 std::string keysJson(const storage::PropertyDictionary &firstStart);
 
 } // namespace nerlo::settings
