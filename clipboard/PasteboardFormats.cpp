@@ -252,7 +252,7 @@ std::optional<std::u16string> decodeText(const PasteboardData &data) {
 PasteboardContent plainTextContent(std::string utf8) {
     const bool ascii =
         std::ranges::all_of(utf8, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    const auto bytes = std::make_shared<const std::string>(std::move(utf8));
+    const auto bytes = platform::pasteboardBytes(std::move(utf8));
     PasteboardContent content;
     for (const auto name : ourFormats) {
         if (name != latin1Format || ascii) {

@@ -524,6 +524,10 @@ void nrChangePasterboard::written(WriteBack writeBack, platform::ChangeCount cou
     lastResult_ = writeBack.hash;
     ownSource_ = writeBack.source;
     ownCount_ = count;
+    mainQueue_.cancel(dropping_);
+    dropping_ = mainQueue_.postAfter(keptOriginalTime,
+                                     alive_.guard([this] { dropOriginal(Restored::tooOld); }),
+                                     std::chrono::seconds(30));
     if (listener_) {
         listener_->addOneCount(count);
     }
@@ -539,13 +543,19 @@ void nrChangePasterboard::clipboardChanged() {
         return; // the end of the write comes here again
     }
     if (ownCount_ && pasteboard_.changeCount() != *ownCount_ && (original_ || result_)) {
-        original_ = nullptr;
-        result_ = nullptr;
-        tellRestorable();
+        dropOriginal(Restored::newerCopy);
     }
     if (listener_) {
         listener_->clipboardChanged();
     }
+}
+
+void nrChangePasterboard::dropOriginal(Restored why) {
+    mainQueue_.cancel(std::exchange(dropping_, 0));
+    original_ = nullptr;
+    result_ = nullptr;
+    whyNot_ = why;
+    tellRestorable();
 }
 
 void nrChangePasterboard::tellRestorable() const {

@@ -20,6 +20,7 @@
 #include "platform/Pasteboard.h"
 #include "platform/WorkerQueue.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -62,8 +63,10 @@ class CountWindow {
 // The largest text that is cleaned, in bytes as the owner delivers it,
 inline constexpr std::size_t cleanedTextLimit = std::size_t{256} << 20;
 // and the largest content, all formats together, that is kept for `restore` if nothing else is
-// said.
+// said,
 inline constexpr std::size_t keptOriginalLimit = std::size_t{64} << 20;
+// for so long.
+inline constexpr std::chrono::minutes keptOriginalTime{10};
 
 class nrChangePasterboard {
   public:
@@ -145,12 +148,14 @@ class nrChangePasterboard {
         incomplete,  // done, but some formats of the original had not been read in time, or at all
         nothingKept, // there was no clean, or it has kept nothing
         tooLarge,    // the original was too large to be kept
+        tooOld,      // `keptOriginalTime` is over
         newerCopy,   // the clipboard does not hold our result any more
         failed,      // the desktop did not take it
     };
     // Swaps our last result for the original, with all formats that stood on the clipboard before
     // the last clean of content that was not ours; and back again, the next time. Both count as
-    // ours. Only while the clipboard holds what we wrote last.
+    // ours. Only while the clipboard holds what we wrote last, and for `keptOriginalTime` after the
+    // clean.
     void restore(std::function<void(Restored)> handler);
     // What that would come to now.
     Restored restorable() const;
@@ -198,6 +203,7 @@ class nrChangePasterboard {
     void restored(const platform::PasteboardWrite &result, Restored outcome,
                   const std::function<void(Restored)> &handler);
     void clipboardChanged();
+    void dropOriginal(Restored why);
     void tellRestorable() const;
     const Kept *otherSide() const;
 
@@ -237,6 +243,7 @@ class nrChangePasterboard {
     std::shared_ptr<const Kept> result_;
     bool originalShown_ = false;
     Restored whyNot_ = Restored::nothingKept;
+    platform::MainQueue::TaskId dropping_ = 0;
 
     platform::Alive alive_;
 };

@@ -45,6 +45,9 @@ struct PasteboardData {
     std::shared_ptr<const std::string> bytes; // never null; formats may share their bytes
 };
 
+// Bytes for the content. They are overwritten when nobody has them any more.
+std::shared_ptr<const std::string> pasteboardBytes(std::string bytes);
+
 // What stands on the clipboard at one time. The order is the owner's.
 using PasteboardContent = std::vector<PasteboardData>;
 

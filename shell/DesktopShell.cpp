@@ -43,6 +43,8 @@ QString textOf(clipboard::nrChangePasterboard::Restored outcome) {
            : outcome == Restored::nothingKept ? localized("sRestoreNothing")
            : outcome == Restored::tooLarge
                ? localized("sRestoreTooLarge").arg(clipboard::keptOriginalLimit >> 20)
+           : outcome == Restored::tooOld
+               ? localized("sRestoreTooOld").arg(clipboard::keptOriginalTime.count())
                : localized("sRestoreRefused");
 }
 

@@ -44,6 +44,7 @@ QString nameOf(clipboard::nrChangePasterboard::Restored outcome) {
            : outcome == Restored::incomplete  ? "incomplete"
            : outcome == Restored::nothingKept ? "nothing kept"
            : outcome == Restored::tooLarge    ? "too large"
+           : outcome == Restored::tooOld      ? "too old"
            : outcome == Restored::newerCopy   ? "newer copy"
                                               : "refused";
 }

@@ -17,7 +17,7 @@ enum class AutomaticMode { on, off, toggle };
 std::optional<AutomaticMode> parseAutomaticMode(std::string_view word);
 
 // What the bus says: "done", "incomplete" (done, but without some formats), and for what was not
-// done "nothing kept", "too large", "newer copy" or "refused".
+// done "nothing kept", "too large", "too old", "newer copy" or "refused".
 QString nameOf(clipboard::nrChangePasterboard::Restored outcome);
 
 enum class Command {

@@ -1,6 +1,7 @@
 // nerlo-pro: makes the program, connects it with the session, and runs it.
 
 #include "platform/linux/DisplayLock.h"
+#include "platform/linux/ProcessMemory.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtWindowSystem.h"
 #include "platform/qt/QtWorkerQueue.h"
@@ -136,6 +137,10 @@ int main(int argc, char **argv) {
         return *status;
     }
 
+    platform::giveBackLargeMemory();
+    if (!platform::keepOutOfCoreDumps()) {
+        complain("a core dump of this program would hold what was copied");
+    }
     platform::chooseQtWindowSystem();
     const QApplication application(argc, argv);
     QApplication::setDesktopFileName(shell::applicationId);

@@ -1376,6 +1376,10 @@
         <translation>كان الأصل أكبر من %1 م.ب، لذا لم يُحتفَظ به.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>مضت أكثر من %1 دقائق على التنظيف، لذا لم يعد الأصل محفوظًا.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>النص في الحافظة أكبر من %1 م.ب، لذا لم يُنظَّف.</translation>
     </message>

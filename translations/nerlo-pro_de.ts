@@ -1377,6 +1377,10 @@ MIT-Lizenz</translation>
         <translation>Das Original war größer als %1 MB und wurde darum nicht aufgehoben.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>Das Aufräumen ist mehr als %1 Minuten her, darum ist das Original nicht mehr aufgehoben.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Der Text in der Zwischenablage ist größer als %1 MB und wurde darum nicht bereinigt.</translation>
     </message>

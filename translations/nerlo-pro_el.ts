@@ -1377,6 +1377,10 @@
         <translation>Το πρωτότυπο ήταν μεγαλύτερο από %1 MB, γι’ αυτό δεν κρατήθηκε.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>Έχουν περάσει πάνω από %1 λεπτά από τον καθαρισμό, γι’ αυτό το πρωτότυπο δεν φυλάσσεται πια.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Το κείμενο στο πρόχειρο είναι μεγαλύτερο από %1 MB, γι’ αυτό δεν καθαρίστηκε.</translation>
     </message>

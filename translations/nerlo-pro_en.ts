@@ -1379,6 +1379,11 @@ MIT licence</translation>
         <translation>The original was larger than %1 MB, so it was not kept.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>The text was cleaned more than %1 minutes ago, so the original is not kept any more.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <extracomment>%1 is a number.</extracomment>
         <translation>The text on the clipboard is larger than %1 MB, so it was not cleaned.</translation>

@@ -1377,6 +1377,10 @@ Licencia MIT</translation>
         <translation>El original ocupaba más de %1 MB, así que no se conservó.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>La limpieza fue hace más de %1 minutos, así que el original ya no se conserva.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>El texto del portapapeles ocupa más de %1 MB, así que no se limpió.</translation>
     </message>

@@ -1377,6 +1377,10 @@ Licence MIT</translation>
         <translation>L’original dépassait %1 Mo et n’a donc pas été conservé.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>Le nettoyage date de plus de %1 minutes : l’original n’est plus conservé.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Le texte du presse-papiers dépasse %1 Mo et n’a donc pas été nettoyé.</translation>
     </message>

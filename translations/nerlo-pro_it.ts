@@ -1377,6 +1377,10 @@ Licenza MIT</translation>
         <translation>L’originale superava %1 MB, perciò non è stato conservato.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>La pulizia risale a più di %1 minuti fa, perciò l’originale non è più conservato.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Il testo negli appunti supera %1 MB, perciò non è stato ripulito.</translation>
     </message>

@@ -1376,6 +1376,10 @@ MIT ライセンス</translation>
         <translation>元の内容は %1 MB を超えていたため、保持されませんでした。</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>整形から %1 分以上たったため、元の内容はもう保持されていません。</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>クリップボードのテキストは %1 MB を超えているため、整形しませんでした。</translation>
     </message>

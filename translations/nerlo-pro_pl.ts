@@ -1377,6 +1377,10 @@ Licencja MIT</translation>
         <translation>Oryginał był większy niż %1 MB, więc go nie zachowano.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>Czyszczenie odbyło się ponad %1 minut temu, więc oryginału już nie ma.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Tekst w schowku jest większy niż %1 MB, więc go nie oczyszczono.</translation>
     </message>

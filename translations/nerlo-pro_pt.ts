@@ -1377,6 +1377,10 @@ Licença MIT</translation>
         <translation>O original tinha mais de %1 MB, por isso não foi guardado.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>A limpeza foi feita há mais de %1 minutos, por isso o original já não está guardado.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>O texto na área de transferência tem mais de %1 MB, por isso não foi limpo.</translation>
     </message>

@@ -1377,6 +1377,10 @@
         <translation>Оригинал был больше %1 МБ, поэтому он не сохранён.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>С очистки прошло больше %1 минут, поэтому оригинал больше не хранится.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Текст в буфере обмена больше %1 МБ, поэтому он не очищен.</translation>
     </message>

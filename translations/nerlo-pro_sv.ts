@@ -1377,6 +1377,10 @@ MIT-licens</translation>
         <translation>Originalet var större än %1 MB, så det sparades inte.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>Rensningen gjordes för mer än %1 minuter sedan, så originalet finns inte kvar.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Texten i urklipp är större än %1 MB, så den rensades inte.</translation>
     </message>

@@ -1377,6 +1377,10 @@
         <translation>Оригінал був більший за %1 МБ, тому його не збережено.</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>Від очищення минуло понад %1 хвилин, тому оригінал більше не зберігається.</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>Текст у буфері обміну більший за %1 МБ, тому його не очищено.</translation>
     </message>

@@ -1376,6 +1376,10 @@ MIT 许可证</translation>
         <translation>原内容超过 %1 MB，因此未保留。</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>清理已超过 %1 分钟，原内容不再保留。</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>剪贴板中的文本超过 %1 MB，因此未清理。</translation>
     </message>

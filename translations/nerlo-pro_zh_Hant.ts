@@ -1376,6 +1376,10 @@ MIT 授權</translation>
         <translation>原內容超過 %1 MB，因此未保留。</translation>
     </message>
     <message>
+        <source>sRestoreTooOld</source>
+        <translation>清理已超過 %1 分鐘，原內容不再保留。</translation>
+    </message>
+    <message>
         <source>sTextTooLarge</source>
         <translation>剪貼簿中的文字超過 %1 MB，因此未清理。</translation>
     </message>

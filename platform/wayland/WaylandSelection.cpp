@@ -284,9 +284,7 @@ void WaylandSelection::transferEnded(const std::shared_ptr<ReadJob> &job, std::s
         return;
     }
     if (outcome == Outcome::complete) {
-        reading.arrived(
-            place,
-            {reading.format(place), {}, std::make_shared<const std::string>(std::move(bytes))});
+        reading.arrived(place, {reading.format(place), {}, pasteboardBytes(std::move(bytes))});
     } else {
         reading.failed(outcome == Outcome::tooLarge ? PasteboardReading::Failure::tooLarge
                                                     : PasteboardReading::Failure::refused);

@@ -411,7 +411,7 @@ void X11Selection::transferred(Questions::iterator question, Transfers::iterator
     }
     auto &reading = *question->reading;
     reading.arrived(ended.place, {reading.format(ended.place), std::move(type),
-                                  std::make_shared<const std::string>(std::move(ended.bytes))});
+                                  pasteboardBytes(std::move(ended.bytes))});
     begin(question);
 }
 

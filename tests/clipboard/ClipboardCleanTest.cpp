@@ -509,6 +509,12 @@ TEST_F(RestoreTest, TellsWhatItDoesNotHave) {
     clean();
     EXPECT_EQ(restore(), Restored::tooLarge);
 
+    pasteboard.copy(rich);
+    clean();
+    EXPECT_EQ(engine.restorable(), Restored::done);
+    mainQueue.advance(keptOriginalTime + std::chrono::minutes(1));
+    EXPECT_EQ(restore(), Restored::tooOld);
+
     // Formats that do not fit, that are late, or that have no usable name; pictures are read last.
     pasteboard.copy(content({{"image/png", std::string(98, 'x')},
                              {"application/x-own", "own"},
