@@ -241,15 +241,6 @@ void handOver(std::u16string_view text, nerlo_sink sink, void *data) {
     }
 }
 
-void appendClean(OutputBytes &to, Context &context, std::string_view text, std::size_t number) {
-    try {
-        to.append(context.clean(decoded(text)));
-    } catch (const Failure &failure) {
-        throw Failure(failure.status,
-                      "text " + std::to_string(number) + ": " + std::string(failure.what()));
-    }
-}
-
 } // namespace
 
 const char *nerlo_version(void) {
@@ -301,7 +292,10 @@ nerlo_status nerlo_clean_to(const nerlo_cleaner *cleaner, const char *text, size
 }
 
 nerlo_status nerlo_clean_many(const nerlo_cleaner *cleaner, const char *texts, const size_t *ends,
-                              size_t count, char **clean, size_t *clean_ends) {
+                              size_t count, char **clean, size_t *clean_ends, size_t *failed) {
+    std::size_t ignored = 0;
+    std::size_t &current = failed ? *failed : ignored;
+    current = count;
     return guarded([&] {
         require(clean, "there is no place for the clean texts");
         *clean = nullptr;
@@ -313,11 +307,12 @@ nerlo_status nerlo_clean_many(const nerlo_cleaner *cleaner, const char *texts, c
         Context context(*cleaner);
         OutputBytes bytes;
         bytes.reserve(all.size());
-        for (std::size_t at = 0, begin = 0; at < count; ++at) {
-            const std::size_t end = ends[at];
-            appendClean(bytes, context, all.substr(begin, end - begin), at);
+        std::size_t begin = 0;
+        for (current = 0; current < count; ++current) {
+            const std::size_t end = ends[current];
+            bytes.append(context.clean(decoded(all.substr(begin, end - begin))));
+            clean_ends[current] = bytes.size();
             begin = end;
-            clean_ends[at] = bytes.size();
         }
         *clean = bytes.release();
     });

@@ -125,11 +125,12 @@ nerlo_status nerlo_clean_to(const nerlo_cleaner *cleaner, const char *text, size
  * begins at 0, and text number i, counted from 0, ends before byte ends[i], where the next one
  * begins. The results stand in `*clean` in the same way, with a zero byte behind the last, and
  * `clean_ends`, which has room for `count` values and may be the same array as `ends`, says where
- * they end. If one text fails, all do, what stands in `clean_ends` means nothing, and the message
- * names the first that failed by its number: "text 3: ...".
+ * they end. If one text fails, all do, and what stands in `clean_ends` means nothing. Unless
+ * `failed` is NULL, it then holds the number of the first that failed, or `count` where it was none
+ * of them.
  */
 nerlo_status nerlo_clean_many(const nerlo_cleaner *cleaner, const char *texts, const size_t *ends,
-                              size_t count, char **clean, size_t *clean_ends);
+                              size_t count, char **clean, size_t *clean_ends, size_t *failed);
 
 /*
  * Tells what each step of a clean changes: a JSON array of objects, in order, with the members

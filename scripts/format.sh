@@ -1,5 +1,5 @@
 #!/bin/bash
-# format.sh [--check] [FILE...]: lays out the C++ files given, or all, as .clang-format says.
+# format.sh [--check] [FILE...]: lays out the C and C++ files given, or all, as .clang-format says.
 #
 # With --check nothing is written; the exit status tells whether something would be.
 set -eu
@@ -14,5 +14,5 @@ fi
 if [ $# -gt 0 ]; then
     clang-format-14 "${mode[@]}" "$@"
 else
-    git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format-14 "${mode[@]}"
+    git ls-files -z '*.c' '*.cpp' '*.h' | xargs -0 clang-format-14 "${mode[@]}"
 fi

@@ -51,7 +51,8 @@ static void options_are_checked(void) {
          "your pattern has an error at character"},
         {NULL, "{\"udCleanLinksRules\":\"/nowhere/rules\"}", "clean-links", NULL, NERLO_UNREADABLE,
          "/nowhere/rules"},
-        {"gentle", "<plist><dict><key>udNone</key><true/></dict></plist>", NULL, NULL, NERLO_OK, ""},
+        {"gentle", "<plist><dict><key>udNone</key><true/></dict></plist>", NULL, NULL, NERLO_OK,
+         ""},
         {NULL, " \n{}", NULL, "de-DE", NERLO_OK, ""},
     };
     for (size_t at = 0; at < SIZE(rows); ++at) {
@@ -100,15 +101,18 @@ static void texts_are_cleaned(void) {
     EXPECT(nerlo_clean(NULL, "a", 1, &clean, &size) == NERLO_BAD_ARGUMENT);
     EXPECT(nerlo_clean(cleaner, "a", 1, NULL, &size) == NERLO_BAD_ARGUMENT);
 
-    size_t ends[] = {4, 4, 10};
-    EXPECT(nerlo_clean_many(cleaner, "a  bcd  ef", ends, 3, &clean, ends) == NERLO_OK);
+    size_t ends[] = {4, 4, 10}, failed;
+    EXPECT(nerlo_clean_many(cleaner, "a  bcd  ef", ends, 3, &clean, ends, &failed) == NERLO_OK);
     EXPECT(ends[0] == 3 && ends[1] == 3 && ends[2] == 8 && is(clean, 8, "a bcd ef", 8));
-    EXPECT(nerlo_clean_many(cleaner, NULL, NULL, 0, &clean, NULL) == NERLO_OK);
+    EXPECT(nerlo_clean_many(cleaner, NULL, NULL, 0, &clean, NULL, NULL) == NERLO_OK);
     EXPECT(is(clean, 0, "", 0));
     const size_t bad_ends[] = {1, 3, 4}, disordered[] = {3, 2, 4};
-    EXPECT(nerlo_clean_many(cleaner, "ab\xFF" "c", bad_ends, 3, &clean, ends) == NERLO_BAD_TEXT);
-    EXPECT(!clean && strcmp(nerlo_last_error(), "text 1: invalid UTF-8 at byte 1") == 0);
-    EXPECT(nerlo_clean_many(cleaner, "abcd", disordered, 3, &clean, ends) == NERLO_BAD_ARGUMENT);
+    EXPECT(nerlo_clean_many(cleaner, "zb\xFFz", bad_ends, 3, &clean, ends, &failed) ==
+           NERLO_BAD_TEXT);
+    EXPECT(!clean && failed == 1 && strcmp(nerlo_last_error(), "invalid UTF-8 at byte 1") == 0);
+    EXPECT(nerlo_clean_many(cleaner, "abcd", disordered, 3, &clean, ends, &failed) ==
+               NERLO_BAD_ARGUMENT &&
+           failed == 3);
     nerlo_cleaner_free(cleaner);
 
     /* What a pattern refers back to can only be found by trying. */
