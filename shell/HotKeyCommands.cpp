@@ -93,7 +93,7 @@ std::shared_ptr<void> reportRefusedHotKeys(shortcuts::UserDefaultsHotKeys &hotKe
 
 std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &hotKeys,
                                         const platform::KeyboardLayout &layout) {
-    const shortcuts::ShortcutTexts english(layout);
+    const shortcuts::ShortcutTexts english(layout, {}, shortcuts::Spelling::names);
     std::vector<std::string> lines;
     for (const auto &[key, hotKey] : hotKeys.registeredUserDefaultsHotKeys()) {
         if (const auto shortcut = shortcuts::storedShortcut(hotKeys.store(), key)) {
@@ -124,7 +124,7 @@ ShortcutChange parseShortcutChange(std::string_view text, const platform::Keyboa
     if (keys.empty()) {
         return change;
     }
-    const shortcuts::ShortcutTexts english(layout);
+    const shortcuts::ShortcutTexts english(layout, {}, shortcuts::Spelling::names);
     change.shortcut =
         shortcuts::nrShortcut::shortcutWithSpelledOutName(text::utf8ToUtf16(keys).text, english);
     if (!change.shortcut) {
@@ -138,7 +138,7 @@ std::string refusalOf(std::span<const ShortcutChange> changes, const storage::Se
                       const platform::KeyboardLayout &layout,
                       platform::SystemHotKeys &systemHotKeys,
                       std::span<const shortcuts::MenuItem> mainMenu) {
-    const shortcuts::ShortcutTexts english(layout);
+    const shortcuts::ShortcutTexts english(layout, {}, shortcuts::Spelling::names);
     auto after = storedShortcuts(store);
     for (const auto &change : changes) {
         after[change.key] = change.shortcut;

@@ -41,8 +41,10 @@ Program::Program(Parts parts)
     , engine_(*parts_.desktop.clipboard.backend, parts_.mainQueue, parts_.workerQueue, locale_)
     , watcher_(*parts_.desktop.clipboard.backend, parts_.mainQueue,
                *parts_.desktop.activeApplication.backend, engine_)
-    , shortcutTexts_(*parts_.desktop.keyboardLayout.backend,
-                     [](std::u16string_view key) { return localizedUtf16(Table::shortcut, key); })
+    , shortcutTexts_(
+          *parts_.desktop.keyboardLayout.backend,
+          [](std::u16string_view key) { return localizedUtf16(Table::shortcut, key); },
+          shortcuts::Spelling::names)
     , globalHotKeys_(*parts_.desktop.hotKeys.backend)
     , hotKeys_(store_, globalHotKeys_)
     , preferences_(

@@ -4,9 +4,11 @@
 
 namespace nerlo::shortcuts {
 
-ShortcutTexts::ShortcutTexts(const platform::KeyboardLayout &layout, Localize localize)
+ShortcutTexts::ShortcutTexts(const platform::KeyboardLayout &layout, Localize localize,
+                             Spelling spelling)
     : layout_(layout)
-    , localize_(std::move(localize)) {}
+    , localize_(std::move(localize))
+    , spelling_(spelling) {}
 
 std::u16string ShortcutTexts::localized(std::u16string_view key) const {
     return localize_ ? localize_(key) : std::u16string(key);

@@ -50,6 +50,74 @@ constexpr std::array modifiers{
 // Ctrl and Super come first in a spelled-out name.
 constexpr std::array spelledOutOrder{&modifiers[3], &modifiers[0], &modifiers[1], &modifiers[2]};
 
+// How people and other programs call them, in lower case: GTK, KDE, other systems, and the words on
+// German, French and Spanish keyboards.
+struct ModifierName {
+    std::u16string_view name;
+    std::uint64_t flag;
+};
+constexpr std::array otherModifierNames{
+    ModifierName{u"control", commandModifier}, ModifierName{u"ctl", commandModifier},
+    ModifierName{u"primary", commandModifier}, ModifierName{u"strg", commandModifier},
+    ModifierName{u"meta", controlModifier},    ModifierName{u"win", controlModifier},
+    ModifierName{u"windows", controlModifier}, ModifierName{u"logo", controlModifier},
+    ModifierName{u"mod4", controlModifier},    ModifierName{u"option", optionModifier},
+    ModifierName{u"mod1", optionModifier},     ModifierName{u"umschalt", shiftModifier},
+    ModifierName{u"maj", shiftModifier},       ModifierName{u"mayús", shiftModifier},
+    ModifierName{u"mayus", shiftModifier},
+};
+
+std::u16string lower(std::u16string_view text) {
+    return text::toLowercase(std::u16string(text), {});
+}
+
+std::u16string_view withoutBlanks(std::u16string_view text) {
+    const auto begin = std::min(text.find_first_not_of(u' '), text.size());
+    return text.substr(begin, text.find_last_not_of(u' ') + 1 - begin);
+}
+
+std::u16string spelledOutModifiers(std::uint64_t flags, const ShortcutTexts &texts) {
+    std::u16string names;
+    for (const auto *modifier : spelledOutOrder) {
+        if ((flags & modifier->flag) != 0) {
+            names += texts.localized(modifier->name);
+            names += u'+';
+        }
+    }
+    return names;
+}
+
+// 0 for none.
+std::uint64_t modifierNamed(const std::u16string &name, const ShortcutTexts &texts) {
+    for (const Modifier &modifier : modifiers) {
+        if (name == lower(texts.localized(modifier.name)) || name == lower(modifier.name)) {
+            return modifier.flag;
+        }
+    }
+    const auto *other = std::ranges::find(otherModifierNames, name, &ModifierName::name);
+    return other == otherModifierNames.end() ? 0 : other->flag;
+}
+
+// Takes a modifier and what stands between it and the rest off the front: "<Super>", "Ctrl + ",
+// "Win-". Nothing where the rest is a key by itself, which may be "+" or "Keypad +".
+std::optional<std::uint64_t> takeModifier(std::u16string_view &name, const ShortcutTexts &texts) {
+    const std::size_t begin = name.starts_with(u'<') ? 1 : 0;
+    const std::size_t end = name.find_first_of(begin == 1 ? u">" : u"+- ", begin);
+    if (end == std::u16string_view::npos) {
+        return std::nullopt;
+    }
+    const auto flag = modifierNamed(lower(withoutBlanks(name.substr(begin, end - begin))), texts);
+    if (flag == 0) {
+        return std::nullopt;
+    }
+    name = withoutBlanks(name.substr(end));
+    if (!name.empty() &&
+        std::u16string_view(u"+->").find(name.front()) != std::u16string_view::npos) {
+        name = withoutBlanks(name.substr(1));
+    }
+    return flag;
+}
+
 constexpr std::u16string_view takenBySystem =
     u"The key combination \"%@\" can't be used because it's already used by a system-wide keyboard "
     u"shortcut. If you really want to use this key combination, most shortcuts can be changed in "
@@ -194,39 +262,28 @@ std::u16string nrShortcut::modifierFlagsString() const {
     return glyphs;
 }
 
+std::u16string nrShortcut::modifiersText(const ShortcutTexts &texts) const {
+    return texts.spelling() == Spelling::names ? spelledOutModifiers(modifierFlags_, texts)
+                                               : modifierFlagsString();
+}
+
 std::u16string nrShortcut::description(const ShortcutTexts &texts) const {
-    return modifierFlagsString() + keyCodeString(texts);
+    return texts.spelling() == Spelling::names ? spelledOutName(texts)
+                                               : modifierFlagsString() + keyCodeString(texts);
 }
 
 std::u16string nrShortcut::spelledOutName(const ShortcutTexts &texts) const {
-    std::u16string name;
-    for (const auto *modifier : spelledOutOrder) {
-        if ((modifierFlags_ & modifier->flag) != 0) {
-            name += texts.localized(modifier->name);
-            name += u'+';
-        }
-    }
+    const std::u16string name = spelledOutModifiers(modifierFlags_, texts);
     const auto *key = platform::findVirtualKey(keyCode_);
     return name + (key && !key->name.empty() ? texts.localized(key->name) : keyCodeString(texts));
 }
 
 std::optional<nrShortcut> nrShortcut::shortcutWithSpelledOutName(std::u16string_view name,
                                                                  const ShortcutTexts &texts) {
-    const auto lower = [](std::u16string_view text) {
-        return text::toLowercase(std::u16string(text), {});
-    };
     std::uint64_t flags = 0;
-    // A plus sign at the end belongs to the key.
-    for (auto plus = name.find(u'+'); plus < name.size() - 1 && plus != 0; plus = name.find(u'+')) {
-        const auto wanted = lower(name.substr(0, plus));
-        const auto *row = std::ranges::find_if(modifiers, [&](const Modifier &modifier) {
-            return lower(texts.localized(modifier.name)) == wanted;
-        });
-        if (row == modifiers.end()) {
-            return std::nullopt;
-        }
-        flags |= row->flag;
-        name.remove_prefix(plus + 1);
+    name = withoutBlanks(name);
+    while (const auto modifier = takeModifier(name, texts)) {
+        flags |= *modifier;
     }
     if (name.empty()) {
         return std::nullopt;

@@ -72,12 +72,16 @@ class nrShortcut {
     static std::optional<nrShortcut> initWithCoder(const storage::PropertyDictionary &fields);
 
     std::u16string keyCodeString(const ShortcutTexts &texts) const;
-    std::u16string modifierFlagsString() const;
+    std::u16string modifierFlagsString() const; // glyphs
+    // The modifiers, as the texts spell them: "⌃⇧", or "Super+Shift+".
+    std::u16string modifiersText(const ShortcutTexts &texts) const;
+    // The whole shortcut, as the texts spell it.
     std::u16string description(const ShortcutTexts &texts) const;
-    // With the names that stand on this desktop's keys, for tooltips and screen readers: "Super+V".
+    // With the names that stand on this desktop's keys: "Super+V".
     std::u16string spelledOutName(const ShortcutTexts &texts) const;
-    // From such a name, in whatever letter case; the key may also have its name on a us keyboard or
-    // xkb's ("minus"). None for anything else.
+    // From such a name, in whatever letter case, or as other programs write it: "Control + V",
+    // "<Super>v", "Win-V", "Strg Alt V". The key may also have its name on a us keyboard or xkb's
+    // ("minus"). None for anything else.
     static std::optional<nrShortcut> shortcutWithSpelledOutName(std::u16string_view name,
                                                                 const ShortcutTexts &texts);
     // The key as a menu key equivalent.

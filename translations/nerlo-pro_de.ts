@@ -1756,6 +1756,78 @@ MIT-Lizenz</translation>
         <translation>Leertaste</translation>
     </message>
     <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Pfeil auf</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Pfeil ab</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Pfeil links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Pfeil rechts</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Bild auf</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pos1</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfg</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
         <translation>Die Tastenkombination „%@“ kann nicht verwendet werden!</translation>
     </message>
@@ -1769,7 +1841,7 @@ MIT-Lizenz</translation>
     </message>
     <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
-        <translation>Ein Tastenkürzel braucht Ctrl oder Super oder eine Funktionstaste.</translation>
+        <translation>Ein Tastenkürzel braucht Strg oder Super oder eine Funktionstaste.</translation>
     </message>
     <message>
         <source>another program has taken this key combination</source>

@@ -1756,6 +1756,78 @@ Licenza MIT</translation>
         <translation>Spazio</translation>
     </message>
     <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Freccia su</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Freccia giù</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Freccia sinistra</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Freccia destra</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Invio</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Pag su</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Pag giù</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Ins</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Canc</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
         <translation>La combinazione di tasti «%@» non può essere usata!</translation>
     </message>

@@ -1756,6 +1756,78 @@ Licencja MIT</translation>
         <translation>Spacja</translation>
     </message>
     <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Strzałka w górę</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Strzałka w dół</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Strzałka w lewo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Strzałka w prawo</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
         <source>The key combination &quot;%@&quot; can&apos;t be used!</source>
         <translation>Nie można użyć kombinacji klawiszy „%@”!</translation>
     </message>

@@ -364,7 +364,7 @@ bool nrShortcutView::monitor(const KeyEvent &event) {
         return false;
     }
     if (shortcut.keyCodeString(context_.texts).empty()) {
-        setShortcutPlaceholder(QString::fromStdU16String(shortcut.modifierFlagsString()));
+        setShortcutPlaceholder(QString::fromStdU16String(shortcut.modifiersText(context_.texts)));
         if (!isModifierKey(event.keyCode)) {
             setUnusable(true);
         }

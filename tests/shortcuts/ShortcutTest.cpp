@@ -205,6 +205,12 @@ TEST(Shortcut, IsReadFromItsSpelledOutName) {
         {u"Super+", std::nullopt},
         {u"Hyper+V", std::nullopt},
         {u"Super+VV", std::nullopt},
+        {u"Control + z", nrShortcut(16, commandModifier)},
+        {u"<Shift><Super>F5", nrShortcut(96, controlModifier | shiftModifier)},
+        {u"Win-F5", nrShortcut(96, controlModifier)},
+        {u" strg umschalt z ", nrShortcut(16, commandModifier | shiftModifier)},
+        {u"Ctrl+-", nrShortcut(44, commandModifier)},
+        {u"<Super>", std::nullopt},
     };
     for (const auto &row : rows) {
         EXPECT_EQ(nrShortcut::shortcutWithSpelledOutName(row.name, ShortcutTexts(de)), row.shortcut)
