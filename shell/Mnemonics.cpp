@@ -106,8 +106,8 @@ QStringList withMnemonics(const QStringList &texts, std::set<QChar> &used) {
         }
     }
     for (qsizetype i = 0; i < texts.size(); ++i) {
-        if (sharing.placeOf(i) >= 0) {
-            continue;
+        if (!placesIn(texts[i]).empty()) {
+            continue; // it has a letter, or all of its letters are taken
         }
         for (const char16_t letter : std::u16string_view(u"abcdefghijklmnopqrstuvwxyz123456789")) {
             if (used.insert(letter).second) {

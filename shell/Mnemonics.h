@@ -1,4 +1,4 @@
-// Gives every check box, button and field label of a window a letter to reach it by, in any
+// Gives the check boxes, buttons and field labels of a window letters to reach them by, in any
 // language, so that no two visible ones share a letter.
 #pragma once
 
@@ -9,8 +9,8 @@
 namespace nerlo::shell {
 
 // The texts with "&" before letters that are not in `used`, which they join: the first of a word
-// where possible. A text without one to spare gets a Latin letter or a digit in brackets, or stays
-// as it is when all are used.
+// where possible. A text in a script whose letters are on no key gets a Latin letter or a digit in
+// brackets, as is usual there. One whose letters are all taken stays as it is.
 QStringList withMnemonics(const QStringList &texts, std::set<QChar> &used);
 
 // The check boxes and buttons below `parent`, then its labels with a buddy, in the order in which

@@ -421,8 +421,7 @@ TEST_F(Preferences, EveryControlHasANameAToolTipAndNoTwoALetter) {
             }
             EXPECT_FALSE(button->toolTip().isEmpty()) << button->text().toStdString();
             const auto at = button->text().indexOf('&');
-            ASSERT_GE(at, 0) << button->text().toStdString();
-            EXPECT_TRUE(letters.insert(button->text()[at + 1].toLower()).second)
+            EXPECT_TRUE(at < 0 || letters.insert(button->text()[at + 1].toLower()).second)
                 << button->text().toStdString();
         }
     }
@@ -452,8 +451,8 @@ TEST(Strings, EveryOptionAndOperationHasItsTexts) {
 TEST(Mnemonics, LettersAreSharedOut) {
     std::set<QChar> used{'s'};
     // The first gives its letter to the third, which has no other.
-    EXPECT_EQ(withMnemonics({"Sort lines", "Lines", "LL", "R&D", "行", "…"}, used),
-              QStringList({"S&ort lines", "L&ines", "&LL", "&R&&D", "行 (&A)", "… (&B)"}));
+    EXPECT_EQ(withMnemonics({"Sort lines", "Lines", "LL", "R&D", "行", "…", "S"}, used),
+              QStringList({"S&ort lines", "L&ines", "&LL", "&R&&D", "行 (&A)", "… (&B)", "S"}));
     // A line under a joined letter would break the word.
     EXPECT_EQ(withMnemonics({"إزالة", "حالة"}, used), QStringList({"&إزالة", "حالة (&C)"}));
 }
