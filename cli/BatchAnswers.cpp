@@ -1,5 +1,6 @@
 #include "cli/BatchAnswers.h"
 
+#include "cli/JsonCursor.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
 #include "settings/JsonOptions.h"
@@ -7,161 +8,126 @@
 #include "settings/PreparedOptions.h"
 #include "settings/TraceJson.h"
 #include "settings/UserLocale.h"
-
-#include <nlohmann/json.hpp>
+#include "text/Utf.h"
 
 #include <algorithm>
-#include <limits>
 #include <new>
-#include <stdexcept>
+#include <optional>
 
 namespace nerlo::cli {
 
 namespace {
 
-using nlohmann::json;
 using settings::explainedPlaces;
 using settings::jsonOfText;
-using settings::textOfJson;
+using settings::textOfLiteral;
 
-// A request that cannot be answered; the message goes into the answer.
-struct BadRequest : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-// Steps over one line of well-formed JSON.
-class Walker {
-  public:
-    explicit Walker(std::string_view text)
-        : text_(text) {}
-
-    char peek() {
-        at_ = std::min(text_.find_first_not_of(" \t\r\n", at_), text_.size());
-        return at_ < text_.size() ? text_[at_] : '\0';
-    }
-    void skipMark() { // one of { : ,
-        peek();
-        ++at_;
-    }
-    // The bytes of a value, which may be a member's name.
-    std::string_view value() {
-        peek();
-        const std::size_t start = at_;
-        std::size_t depth = 0;
-        do {
-            const char c = text_[at_];
-            if (c == '"') {
-                skipString();
-                continue;
-            }
-            if (depth == 0 &&
-                (c == ',' || c == '}' || c == ']' || c == ' ' || c == '\t' || c == '\r')) {
-                break; // behind a number or a word
-            }
-            depth += c == '{' || c == '[' ? 1 : 0;
-            depth -= c == '}' || c == ']' ? 1 : 0;
-            ++at_;
-        } while (at_ < text_.size() && (depth > 0 || isBare(text_[start])));
-        return text_.substr(start, at_ - start);
-    }
-
-  private:
-    static bool isBare(char first) { return first != '"' && first != '{' && first != '['; }
-
-    void skipString() {
-        std::size_t close = at_;
-        bool escaped = true;
-        while (escaped) {
-            close = text_.find('"', close + 1);
-            const std::size_t before = text_.find_last_not_of('\\', close - 1);
-            escaped = (close - before) % 2 == 0;
-        }
-        at_ = close + 1;
-    }
-
-    std::string_view text_;
-    std::size_t at_ = 0;
-};
-
-// The id goes back byte for byte: read and written again, a long number would lose digits and a
-// deeply nested value would need a stack as deep. `object` is well-formed; of several ids the last
-// one counts, as for the parser.
-std::string rawId(std::string_view object) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (object.substr(0, byteOrderMark.size()) == byteOrderMark) {
-        object.remove_prefix(byteOrderMark.size());
-    }
+// What a request holds, as its bytes; what is null counts as missing. Of members with the same name
+// the last one counts.
+struct Request {
     std::string_view id = "null";
-    Walker walker(object);
-    walker.skipMark();
-    while (walker.peek() == '"') {
-        const std::string_view name = walker.value();
-        walker.skipMark();
-        const std::string_view value = walker.value();
-        if (name == "\"id\"" || (name.find('\\') != std::string_view::npos &&
-                                 json::parse(name, nullptr, false) == "id")) {
-            id = value;
-        }
-        if (walker.peek() == ',') {
-            walker.skipMark();
-        }
+    std::string_view text;
+    std::string_view operation;
+    std::string_view options;
+    std::string_view locale;
+    std::string_view explain;
+};
+
+struct Member {
+    std::string_view name;
+    std::string_view Request::*value;
+};
+
+constexpr Member known[] = {
+    {"\"id\"", &Request::id},
+    {"\"text\"", &Request::text},
+    {"\"operation\"", &Request::operation},
+    {"\"options\"", &Request::options},
+    {"\"locale\"", &Request::locale},
+    {"\"explain\"", &Request::explain},
+};
+
+// Without escapes, in UTF-8 and quotes.
+std::string plainName(std::string_view literal) {
+    return jsonOfText(textOfLiteral(literal).value_or(std::u16string()));
+}
+
+// Throws BadLine for what is not an object. `unknown` becomes the first name that has no meaning.
+Request readRequest(std::string_view line, std::string &unknown) {
+    JsonCursor cursor(line);
+    if (cursor.peek() != '{') {
+        cursor.value();
+        cursor.finish();
+        throw BadLine("a request is a JSON object");
     }
-    return std::string(id);
+    Request request;
+    cursor.members([&](std::string_view literal) {
+        const std::string escaped =
+            literal.find('\\') == std::string_view::npos ? "" : plainName(literal);
+        const std::string_view name = escaped.empty() ? literal : escaped;
+        const auto member = std::ranges::find(known, name, &Member::name);
+        const std::string_view value = cursor.value();
+        if (member != std::end(known)) {
+            request.*(member->value) = value;
+        } else if (unknown.empty()) {
+            unknown = plainName(literal);
+        }
+    });
+    cursor.finish();
+    return request;
 }
 
-// Null when the member is missing or null.
-const json *memberOf(const json &request, const char *name) {
-    const auto member = request.find(name);
-    return member == request.end() || member->is_null() ? nullptr : &*member;
+bool isThere(std::string_view value) {
+    return !value.empty() && value != "null";
 }
 
-const std::string &stringOf(const json &value, const char *name) {
-    if (!value.is_string()) {
-        throw BadRequest('"' + std::string(name) + "\" is not a string");
+// `value` is a part of the line.
+std::u16string stringOf(std::string_view value, const char *name) {
+    std::optional<std::u16string> text;
+    if (value.front() == '"') {
+        text = textOfLiteral(value);
     }
-    return value.get_ref<const std::string &>();
+    if (!text) {
+        throw BadLine('"' + std::string(name) + "\" is not a string");
+    }
+    return std::move(*text);
 }
 
-const engine::Operation *operationOf(const json *value) {
-    if (!value) {
+const engine::Operation *operationOf(std::string_view value) {
+    if (!isThere(value)) {
         return nullptr; // the full pipeline
     }
-    const engine::Operation *operation = nullptr;
-    if (value->is_string()) {
-        operation = engine::findOperation(value->get_ref<const std::string &>());
-    } else if (value->is_number_integer()) {
-        const bool fits = value->is_number_unsigned()
-                              ? value->get<std::uint64_t>() <= std::numeric_limits<int>::max()
-                              : value->get<std::int64_t>() >= std::numeric_limits<int>::min();
-        operation = fits ? engine::findOperation(value->get<std::int32_t>()) : nullptr;
-    } else {
-        throw BadRequest("\"operation\" is neither an index nor a name");
+    const bool isName = value.front() == '"';
+    if (!isName && value.find_first_not_of("-0123456789") != std::string_view::npos) {
+        throw BadLine("\"operation\" is neither an index nor a name");
     }
+    const std::string name = isName ? text::utf16ToUtf8(stringOf(value, "operation")) : "";
+    const engine::Operation *operation = engine::findOperation(isName ? name : value);
     if (!operation) {
-        throw BadRequest("unknown operation " + value->dump());
+        throw BadLine("unknown operation " + (isName ? plainName(value) : std::string(value)));
     }
     return operation;
 }
 
-std::string localeOf(const json &value) {
-    const std::string &name = stringOf(value, "locale");
+std::string localeOf(std::string_view value) {
+    const std::string name = text::utf16ToUtf8(stringOf(value, "locale"));
     const std::optional<std::string> id = settings::localeId(name);
     if (!id) {
-        throw BadRequest("unusable locale " + value.dump());
+        throw BadLine("unusable locale " + plainName(value));
     }
     return *id;
 }
 
-bool isSwitchedOn(const json *value, const char *name) {
-    if (value && !value->is_boolean()) {
-        throw BadRequest('"' + std::string(name) + "\" is neither true nor false");
+bool isSwitchedOn(std::string_view value, const char *name) {
+    if (isThere(value) && value != "true" && value != "false") {
+        throw BadLine('"' + std::string(name) + "\" is neither true nor false");
     }
-    return value && value->get<bool>();
+    return value == "true";
 }
 
 void refuseFailures(const engine::CleaningReport &report) {
     if (!report.empty()) {
-        throw BadRequest(messageOf(report));
+        throw BadLine(messageOf(report));
     }
 }
 
@@ -175,24 +141,6 @@ std::string explainedResult(const std::u16string &text, const engine::Operation 
            ",\"explain\":" + settings::explainJson(text, trace);
 }
 
-void checkMembers(const json &request) {
-    constexpr std::string_view known[] = {"id",        "text",   "options",
-                                          "operation", "locale", "explain"};
-    for (const auto &[name, value] : request.items()) {
-        if (std::find(std::begin(known), std::end(known), name) == std::end(known)) {
-            throw BadRequest("unknown field " + jsonOfText(textOfJson(name)));
-        }
-    }
-}
-
-std::string statisticsJson(std::u16string_view text, const std::string &locale) {
-    const engine::TextStatistics counts = engine::countAll(text, locale);
-    return "{\"characters\":" + std::to_string(counts.characters) +
-           ",\"spaces\":" + std::to_string(counts.spaces) +
-           ",\"words\":" + std::to_string(counts.words) +
-           ",\"paragraphs\":" + std::to_string(counts.paragraphs) + "}";
-}
-
 } // namespace
 
 BatchAnswers::BatchAnswers(engine::CleaningOptions defaults, std::string locale)
@@ -200,31 +148,29 @@ BatchAnswers::BatchAnswers(engine::CleaningOptions defaults, std::string locale)
     , locale_(std::move(locale)) {}
 
 // The members that follow the id. `id` is set as soon as it is known.
-std::string BatchAnswers::resultOf(std::string_view request, std::string &id) const {
-    json parsed = settings::parsedJson(request);
-    if (!parsed.is_object()) {
-        throw BadRequest("a request is a JSON object");
+std::string BatchAnswers::resultOf(std::string_view line, std::string &id) const {
+    std::string unknown;
+    const Request request = readRequest(line, unknown);
+    checkUtf8(line, 0, line.size());
+    id = request.id;
+    if (!unknown.empty()) {
+        throw BadLine("unknown field " + unknown);
     }
-    id = rawId(request);
-    checkMembers(parsed);
-    const json *text = memberOf(parsed, "text");
-    if (!text) {
-        throw BadRequest("no \"text\"");
+    if (!isThere(request.text)) {
+        throw BadLine("no \"text\"");
     }
-    std::u16string content = textOfJson(stringOf(*text, "text"));
-    const engine::Operation *operation = operationOf(memberOf(parsed, "operation"));
-    const json *locale = memberOf(parsed, "locale");
-    const std::string localeId = locale ? localeOf(*locale) : locale_;
+    std::u16string content = stringOf(request.text, "text");
+    const engine::Operation *operation = operationOf(request.operation);
+    const std::string localeId = isThere(request.locale) ? localeOf(request.locale) : locale_;
     if (operation && operation->index == engine::statisticsOperation) {
-        return "\"statistics\":" + statisticsJson(content, localeId);
+        return "\"statistics\":{" + settings::jsonMembers(engine::countAll(content, localeId)) + "}";
     }
 
-    const json *optionsJson = memberOf(parsed, "options");
+    bool own = isThere(request.options);
     engine::CleaningOptions ownOptions;
-    if (optionsJson) {
-        ownOptions.setAllBools(settings::optionsFromJson(*optionsJson));
+    if (own) {
+        ownOptions.setAllBools(settings::parseOptions(request.options));
     }
-    bool own = optionsJson;
     if (settings::lacksLinkRules(own ? ownOptions : defaults_, operation)) {
         ownOptions = own ? std::move(ownOptions) : defaults_;
         own = true;
@@ -233,9 +179,7 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     engine::CleaningReport report;
     const engine::CleaningContext context{
         .options = own ? ownOptions : defaults_, .locale = localeId, .report = &report};
-    const bool explained = isSwitchedOn(memberOf(parsed, "explain"), "explain");
-    parsed = nullptr; // a long text need not be held twice
-    if (explained) {
+    if (isSwitchedOn(request.explain, "explain")) {
         return explainedResult(content, operation, context);
     }
     content = operation ? engine::runOperation(operation->index, std::move(content), context)
@@ -244,32 +188,32 @@ std::string BatchAnswers::resultOf(std::string_view request, std::string &id) co
     return "\"text\":" + jsonOfText(content);
 }
 
-Answer BatchAnswers::answer(std::string_view request) const {
+void BatchAnswers::addAnswer(std::string_view line, Answers &answers) const {
     std::string id = "null";
     std::string error;
     try {
-        std::string result = resultOf(request, id);
-        return {"{\"id\":" + id + "," + std::move(result) + "}\n"};
+        const std::string result = resultOf(line, id);
+        answers.lines.append("{\"id\":").append(id).append(",").append(result).append("}\n");
+        return;
     } catch (const std::bad_alloc &) {
         error = "out of memory";
     } catch (const std::exception &exception) {
         error = exception.what();
     }
-    return {"{\"id\":" + id + ",\"error\":" + json(error).dump() + "}\n", true};
+    answers.lines.append("{\"id\":").append(id).append(",\"error\":").append(settings::jsonOfName(error));
+    answers.lines += "}\n";
+    answers.addFailure(std::move(error));
 }
 
-Answers BatchAnswers::answerAll(std::string_view requests) const {
+Answers BatchAnswers::answer(std::string_view requests) const {
     Answers answers;
+    answers.lines.reserve(requests.size() + requests.size() / 16);
     while (!requests.empty()) {
         const std::size_t end = std::min(requests.find('\n'), requests.size());
-        const std::string_view request = requests.substr(0, end);
+        const std::string_view line = requests.substr(0, end);
         ++answers.count;
-        if (request.find_first_not_of(" \t\r") != std::string_view::npos) {
-            const Answer one = answer(request);
-            answers.lines += one.line;
-            if (one.failed && ++answers.failed == 1) {
-                answers.firstFailed = answers.count;
-            }
+        if (line.find_first_not_of(" \t\r") != std::string_view::npos) {
+            addAnswer(line, answers);
         }
         requests.remove_prefix(std::min(end + 1, requests.size()));
     }

@@ -30,15 +30,6 @@ struct CleanArguments {
     std::vector<std::string> files;
 };
 
-const engine::Operation *operationOf(const std::string &nameOrIndex) {
-    const engine::Operation *operation = engine::findOperation(nameOrIndex);
-    if (!operation) {
-        throw Failure(ExitStatus::unusableArguments,
-                      "unknown operation \"" + nameOrIndex + "\"; `nerlo operations` lists them");
-    }
-    return operation;
-}
-
 constexpr const char *asTable = "table";
 constexpr const char *asJson = "json";
 
@@ -128,8 +119,7 @@ CleanText cleanText(const std::string &name, TextReader &reader, const engine::O
 ExitStatus runClean(const CleanArguments &arguments) {
     checkExplain(arguments);
     checkInPlace(arguments);
-    const engine::Operation *operation =
-        arguments.operation.empty() ? nullptr : operationOf(arguments.operation);
+    const engine::Operation *operation = operationOf(arguments.operation);
     const engine::CleaningOptions options = cleaningOptions(arguments.options, operation);
     const engine::CleaningContext context{options, arguments.locale};
 

@@ -126,6 +126,8 @@ void applySetting(const std::string &setting, PropertyDictionary &options) {
     options.set(key, std::move(*parsed.value));
 }
 
+} // namespace
+
 // The library's own lists of texts read "{}" as an empty list.
 CLI::Option *addTexts(CLI::App &command, const std::string &name, std::vector<std::string> &texts,
                       const std::string &description) {
@@ -137,8 +139,6 @@ CLI::Option *addTexts(CLI::App &command, const std::string &name, std::vector<st
                     description)
         ->expected(CLI::detail::expected_max_vector_size);
 }
-
-} // namespace
 
 void addFiles(CLI::App &command, std::vector<std::string> &files) {
     addTexts(command, "files", files, "The files to read; none or \"-\" is standard input")
@@ -189,6 +189,14 @@ int selectedProfile(const settings::SettingsPaths &paths, std::size_t count) {
         throw Failure(ExitStatus::ioFailed, store.loadError());
     }
     return settings::selectedPlace(store.integerForKey(settings::selectedProfileKey), count);
+}
+
+const engine::Operation *operationOf(const std::string &nameOrIndex) {
+    const engine::Operation *operation = engine::findOperation(nameOrIndex);
+    if (!operation && !nameOrIndex.empty()) {
+        refuse("unknown operation \"" + nameOrIndex + "\"; `nerlo operations` lists them");
+    }
+    return operation;
 }
 
 PropertyDictionary defaultOptions() {

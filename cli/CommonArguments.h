@@ -10,9 +10,14 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 namespace nerlo::cli {
+
+// An option, or without dashes the arguments, that may be given several times.
+CLI::Option *addTexts(CLI::App &command, const std::string &name, std::vector<std::string> &texts,
+                      const std::string &description);
 
 // FILE...: standard input when none is named; "-" also means it.
 void addFiles(CLI::App &command, std::vector<std::string> &files);
@@ -42,6 +47,9 @@ storage::PropertyDictionary readyProfile(const std::string &id);
 // be read: with a profile that nobody chose, a text would be cleaned in a way that nobody asked
 // for.
 int selectedProfile(const settings::SettingsPaths &paths, std::size_t count);
+
+// The operation with this name or index, null for an empty one. Throws Failure when there is none.
+const engine::Operation *operationOf(const std::string &nameOrIndex);
 
 // The settings that hold when nothing on the command line says otherwise.
 storage::PropertyDictionary defaultOptions();

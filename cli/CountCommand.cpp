@@ -2,13 +2,13 @@
 #include "cli/Commands.h"
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
+#include "settings/JsonText.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "engine/Statistics.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Formatter.hpp>
-#include <nlohmann/json.hpp>
 
 #include <array>
 #include <cstdio>
@@ -63,15 +63,8 @@ std::string row(const TextStatistics &counts, const std::string &file) {
 
 // `file` is empty for standard input that was not asked for by "-".
 std::string jsonLine(const TextStatistics &counts, const std::string &file) {
-    nlohmann::ordered_json object;
-    if (!file.empty()) {
-        object["file"] = file;
-    }
-    for (const Column &column : columns) {
-        object[column.name] = counts.*column.count;
-    }
-    // A file name may be invalid UTF-8, which JSON cannot hold.
-    return object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+    return "{" + (file.empty() ? "" : "\"file\":" + settings::jsonOfName(file) + ",") + settings::jsonMembers(counts) +
+           "}\n";
 }
 
 TextStatistics countFile(const std::string &file, const std::string &locale, Progress &progress) {

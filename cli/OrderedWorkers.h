@@ -1,13 +1,14 @@
 // Answers requests on several threads and hands the answers over in the order of the requests.
 #pragma once
 
-#include "cli/BatchAnswers.h"
+#include "cli/Answers.h"
 
 #include <condition_variable>
 #include <deque>
 #include <functional>
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 

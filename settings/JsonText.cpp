@@ -1,11 +1,14 @@
 #include "settings/JsonText.h"
 
+#include "text/UnitScan.h"
 #include "text/Utf.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <utility>
 
 namespace nerlo::settings {
 
@@ -61,16 +64,85 @@ Replacement replacementAt(std::string_view bytes, std::size_t at) {
                                                     : Replacement{};
 }
 
-// The first unpaired surrogate at or after `from`, or the text's size.
-std::size_t findUnpaired(std::u16string_view text, std::size_t from) {
-    for (std::size_t at = from; at < text.size(); ++at) {
-        if (isHigh(text[at]) && at + 1 < text.size() && isLow(text[at + 1])) {
-            ++at;
-        } else if (isHigh(text[at]) || isLow(text[at])) {
-            return at;
-        }
+char16_t unescaped(char16_t escape) {
+    switch (escape) {
+    case 'b':
+        return '\b';
+    case 'f':
+        return '\f';
+    case 'n':
+        return '\n';
+    case 'r':
+        return '\r';
+    case 't':
+        return '\t';
+    default:
+        return escape; // a quote, a slash or a backslash
     }
-    return text.size();
+}
+
+// The unit of four hexadecimal digits.
+char16_t unitOf(const char16_t *hexDigits) {
+    unsigned unit = 0;
+    for (const char16_t *digit = hexDigits; digit < hexDigits + 4; ++digit) {
+        unit = unit * 16 + (*digit <= u'9' ? *digit - u'0' : (*digit | 0x20u) - u'a' + 10);
+    }
+    return static_cast<char16_t>(unit);
+}
+
+// All escapes in `text` are well-formed.
+void resolveEscapes(std::u16string &text) {
+    std::size_t at = text::findUnit(text, 0, u'\\');
+    std::size_t kept = at;
+    while (at < text.size()) {
+        const bool asNumber = text[at + 1] == u'u';
+        text[kept++] = asNumber ? unitOf(text.data() + at + 2) : unescaped(text[at + 1]);
+        at += asNumber ? 6 : 2;
+        const std::size_t next = text::findUnit(text, at, u'\\');
+        std::copy(text.data() + at, text.data() + next, text.data() + kept);
+        kept += next - at;
+        at = next;
+    }
+    text.resize(kept);
+}
+
+// What does not stand for itself, or may not: an unpaired surrogate has no UTF-8, and the breaks
+// beyond ASCII end a line for many readers of lines.
+constexpr text::UnitSet written{{0, 0x1F},    {'"', '"'},       {'\\', '\\'},
+                                {0x85, 0x85}, {0x2028, 0x2029}, {0xD800, 0xDFFF}};
+
+void escape(std::u16string &to, char16_t unit) {
+    constexpr std::u16string_view named = u"\"\\\b\f\n\r\t";
+    constexpr std::u16string_view names = u"\"\\bfnrt";
+    constexpr char16_t hexDigits[] = u"0123456789abcdef";
+    to += u'\\';
+    const std::size_t name = named.find(unit);
+    if (name != std::u16string_view::npos) {
+        to += names[name];
+        return;
+    }
+    to += u'u';
+    for (int shift = 12; shift >= 0; shift -= 4) {
+        to += hexDigits[unit >> shift & 0xF];
+    }
+}
+
+// The same text with escapes.
+std::u16string escaped(std::u16string_view text) {
+    std::u16string result;
+    result.reserve(text.size() + text.size() / 8);
+    std::size_t copied = 0;
+    text::UnitCursor cursor(text, written);
+    for (std::size_t at = cursor.next(); at < text.size(); at = cursor.next()) {
+        if (isHigh(text[at]) && at + 1 < text.size() && isLow(text[at + 1])) {
+            cursor.next();
+            continue;
+        }
+        result.append(text, copied, at - copied);
+        escape(result, text[at]);
+        copied = at + 1;
+    }
+    return result.append(text, copied);
 }
 
 } // namespace
@@ -115,26 +187,37 @@ std::u16string textOfJson(std::string_view string) {
     return text;
 }
 
+std::optional<std::u16string> textOfLiteral(std::string_view literal) {
+    text::Utf16Result decoded = text::utf8ToUtf16(literal.substr(1, literal.size() - 2));
+    if (decoded.invalidAt) {
+        return std::nullopt;
+    }
+    resolveEscapes(decoded.text);
+    return std::move(decoded.text);
+}
+
+void appendJson(std::string &to, std::u16string_view text) {
+    to += '"';
+    text::appendUtf8(to, escaped(text));
+    to += '"';
+}
+
 std::string jsonOfText(std::u16string_view text) {
-    using nlohmann::json;
-    std::size_t end = findUnpaired(text, 0);
-    if (end == text.size()) {
-        return json(text::utf16ToUtf8(text)).dump();
-    }
-    std::string result = "\"";
-    for (std::size_t at = 0;; at = end + 1, end = findUnpaired(text, at)) {
-        const std::string part = json(text::utf16ToUtf8(text.substr(at, end - at))).dump();
-        result.append(part, 1, part.size() - 2);
-        if (end == text.size()) {
-            return result + '"';
-        }
-        result += "\\u" + hex(text[end], 4);
-    }
+    std::string result;
+    appendJson(result, text);
+    return result;
 }
 
 std::string jsonOfName(const std::string &bytes) {
     using nlohmann::json;
     return json(bytes).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+std::string jsonMembers(const engine::TextStatistics &counts) {
+    return "\"characters\":" + std::to_string(counts.characters) +
+           ",\"spaces\":" + std::to_string(counts.spaces) +
+           ",\"words\":" + std::to_string(counts.words) +
+           ",\"paragraphs\":" + std::to_string(counts.paragraphs);
 }
 
 } // namespace nerlo::settings
