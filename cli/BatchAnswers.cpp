@@ -163,7 +163,8 @@ std::string BatchAnswers::resultOf(std::string_view line, std::string &id) const
     const engine::Operation *operation = operationOf(request.operation);
     const std::string localeId = isThere(request.locale) ? localeOf(request.locale) : locale_;
     if (operation && operation->index == engine::statisticsOperation) {
-        return "\"statistics\":{" + settings::jsonMembers(engine::countAll(content, localeId)) + "}";
+        return "\"statistics\":{" + settings::jsonMembers(engine::countAll(content, localeId)) +
+               "}";
     }
 
     bool own = isThere(request.options);
@@ -200,7 +201,10 @@ void BatchAnswers::addAnswer(std::string_view line, Answers &answers) const {
     } catch (const std::exception &exception) {
         error = exception.what();
     }
-    answers.lines.append("{\"id\":").append(id).append(",\"error\":").append(settings::jsonOfName(error));
+    answers.lines.append("{\"id\":")
+        .append(id)
+        .append(",\"error\":")
+        .append(settings::jsonOfName(error));
     answers.lines += "}\n";
     answers.addFailure(std::move(error));
 }

@@ -2,10 +2,10 @@
 #include "cli/Commands.h"
 #include "cli/CommonArguments.h"
 #include "cli/Input.h"
-#include "settings/JsonText.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "engine/Statistics.h"
+#include "settings/JsonText.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Formatter.hpp>
@@ -63,8 +63,8 @@ std::string row(const TextStatistics &counts, const std::string &file) {
 
 // `file` is empty for standard input that was not asked for by "-".
 std::string jsonLine(const TextStatistics &counts, const std::string &file) {
-    return "{" + (file.empty() ? "" : "\"file\":" + settings::jsonOfName(file) + ",") + settings::jsonMembers(counts) +
-           "}\n";
+    return "{" + (file.empty() ? "" : "\"file\":" + settings::jsonOfName(file) + ",") +
+           settings::jsonMembers(counts) + "}\n";
 }
 
 TextStatistics countFile(const std::string &file, const std::string &locale, Progress &progress) {

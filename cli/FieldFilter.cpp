@@ -1,8 +1,8 @@
 #include "cli/FieldFilter.h"
 
 #include "cli/JsonCursor.h"
-#include "settings/JsonText.h"
 #include "engine/Statistics.h"
+#include "settings/JsonText.h"
 #include "text/Utf.h"
 
 #include <algorithm>

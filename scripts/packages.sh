@@ -13,7 +13,8 @@
 # error only. On a system without apt it names the packages and leaves them to you.
 set -eu
 
-build="g++ cmake ninja-build pkg-config libicu-dev libhunspell-dev libplist-dev libcli11-dev nlohmann-json3-dev"
+build="g++ cmake ninja-build pkg-config libicu-dev libhunspell-dev libplist-dev libcli11-dev nlohmann-json3-dev
+    zlib1g-dev libzstd-dev"
 desktop_build="qt6-base-dev qt6-wayland qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     qt6-svg-dev libxcb1-dev libxcb-xfixes0-dev libxcb-keysyms1-dev libxcb-xkb-dev
     libxkbcommon-dev libxkbcommon-x11-dev libwayland-dev libwayland-bin

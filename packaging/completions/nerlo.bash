@@ -52,6 +52,10 @@ _nerlo() {
         _nerlo_words "$(git for-each-ref --format='%(refname:short)' 2>/dev/null)" "$cur"
         return
         ;;
+    --on-error)
+        COMPREPLY=($(compgen -W "fail pass drop" -- "$cur"))
+        return
+        ;;
     --jobs)
         COMPREPLY=($(compgen -W "$(seq "$(nproc)")" -- "$cur"))
         return
@@ -84,7 +88,7 @@ _nerlo() {
         ;;
     batch)
         if [[ $cur == -* ]]; then
-            COMPREPLY=($(compgen -W "--jobs --profile --options --set --locale --help" -- "$cur"))
+            COMPREPLY=($(compgen -W "--field --on-error --stats --operation --jobs --profile --options --set --locale --help" -- "$cur"))
         else
             _filedir
         fi

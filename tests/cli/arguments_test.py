@@ -4,6 +4,7 @@
 What the programs take stands in their manual pages, their completions and the README, and these
 offer nothing else; the examples of the README, the manual and the help texts work.
 """
+import gzip
 import os
 import re
 import shutil
@@ -126,6 +127,10 @@ def check_examples(lines):
         for name in ("letter.txt", "notes.txt", "page.txt", "mail.txt", "work.plist", "mail.plist"):
             with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
                 file.write(profile if name.endswith(".plist") else "Two  words.\n")
+        record = b'{"text": "Two  words.", "messages": [{"content": "Two  words."}]}\n'
+        for name, bytes_ in (("data.jsonl", record), ("data.jsonl.gz", gzip.compress(record))):
+            with open(os.path.join(folder, name), "wb") as file:
+                file.write(bytes_)
         shutil.copy(os.path.join(source, "assets/rules/dates-to-iso.nerlo-rules"), os.path.join(folder, "dates.nerlo-rules"))
         for arguments in (["init", "-q"], ["add", "."], ["-c", "user.name=x", "-c", "user.email=x@y", "commit", "-qm", "all"]):
             subprocess.run(["git", *arguments], cwd=folder, check=True)
