@@ -225,6 +225,44 @@ class Bench:
         table.add("20,000" + (" (=)" if same else " (ANSWERS DIFFER)"), ratio.wall, ratio.cpu, .6,
                   verdict(ratio.wall, .6))
 
+    def library(self):
+        print("The first-start pipeline by libnerlo on what stands in memory, the CPU time of the clean "
+              "divided by that of `nerlo clean` from a file; records of 3,000 characters, texts of %g MB. (=): "
+              "the same bytes as the program, for records as each other.\n" % self.arguments.mb)
+        row = next(row for row in ROWS if row.name == "first-start")
+        ours = self.ours(row)
+        options = ours[ours.index("--options") + 1]
+        table = Table("form", "text", "CPU", "goal", "verdict")
+        for corpus in ("prose", "mixed"):
+            source = os.path.join(self.full, corpus + ".txt")
+            sums = {"text": self.sum_of_clean(ours, source)}
+            for form, title, goal in (("c-text", "C, one text", None), ("c-records", "C, records", None),
+                                      ("python-list", "Python, list of records", 1.5)):
+                told = []
+                ratio, _ = self.pairs(lambda: self.by_library(form, source, options, told),
+                                      lambda: self.run(ours, source))
+                same = told[-1] == sums.setdefault(form.partition("-")[2].replace("list", "records"), told[-1])
+                table.add(title + (" (=)" if same else " (BYTES DIFFER)"), corpus, ratio.cpu, goal,
+                          verdict(ratio.cpu, goal) if goal else "")
+
+    def by_library(self, form, source, options, told):
+        script = os.path.join(os.path.dirname(os.path.abspath(__file__)), "library.py")
+        done = subprocess.run([sys.executable, script, form, source, options], capture_output=True, text=True,
+                              check=True, env=dict(self.environment, LD_LIBRARY_PATH=self.arguments.library,
+                                                   PYTHONPATH=os.path.join(os.path.dirname(script), "..", "python"),
+                                                   PYTHONDONTWRITEBYTECODE="1"))
+        used, crc = done.stdout.split()
+        told.append(int(crc))
+        return Run(float(used), float(used), 0)
+
+    def sum_of_clean(self, ours, source):
+        result = os.path.join(self.cache, "ours.out")
+        self.run(ours, source, output=result)
+        with open(result, "rb") as file:
+            crc = zlib.crc32(file.read())
+        os.remove(result)
+        return crc
+
 
 class Table:
     """A Markdown table whose rows show as soon as they are known."""
@@ -301,7 +339,7 @@ def machine():
 
 
 def main():
-    tables = ("speed", "own-patterns", "clip", "growth", "hostile", "start", "batch")
+    tables = ("speed", "own-patterns", "clip", "growth", "hostile", "start", "batch", "library")
     names = [row.name for row in ROWS + PATTERNS]
     parser = argparse.ArgumentParser(
         prog="bench.sh", description="How nerlo compares with other tools, as ratios.")
@@ -314,7 +352,7 @@ def main():
            help="16 MB, 1 pair, no hostile texts: a first impression")
     option("--judge", choices=("wall", "cpu"),
            help="what all verdicts go by: cpu on a busy machine")
-    for name in ("nerlo", "nerlo-bench", "cache"):
+    for name in ("nerlo", "nerlo-bench", "library", "cache"):
         option("--" + name, required=True, help=argparse.SUPPRESS)
     arguments = parser.parse_args()
     unknown = set(arguments.rows) - set(names)

@@ -20,6 +20,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 #include <optional>
 #include <stdexcept>
@@ -241,6 +242,63 @@ void handOver(std::u16string_view text, nerlo_sink sink, void *data) {
     }
 }
 
+struct Texts {
+    const char *bytes;
+    const size_t *ends;
+    size_t count;
+};
+
+struct CleanTexts {
+    char **bytes;
+    size_t *ends;
+    size_t *failed; // may be null
+};
+
+using AppendClean = void (*)(OutputBytes &to, Context &context, std::string_view text);
+
+void appendClean(OutputBytes &to, Context &context, std::string_view text) {
+    to.append(context.clean(decoded(text)));
+}
+
+void appendCleanUtf16(OutputBytes &to, Context &context, std::string_view text) {
+    constexpr std::size_t unit = sizeof(char16_t);
+    require(text.size() % unit == 0, "a text in UTF-16 ends at an odd byte");
+    std::u16string units(text.size() / unit, u'\0');
+    std::memcpy(units.data(), text.data(), text.size());
+    units = context.clean(std::move(units));
+    to.append(std::string_view(reinterpret_cast<const char *>(units.data()), unit * units.size()));
+}
+
+nerlo_status cleanMany(const nerlo_cleaner *cleaner, const Texts &texts, const CleanTexts &clean,
+                       AppendClean append) noexcept {
+    std::size_t ignored = 0;
+    std::size_t &current = clean.failed ? *clean.failed : ignored;
+    current = texts.count;
+    return guarded([&] {
+        require(clean.bytes, "there is no place for the clean texts");
+        *clean.bytes = nullptr;
+        require(cleaner, "the cleaner is NULL");
+        if (texts.count > 0) {
+            require(texts.ends && clean.ends, "there are no places of the texts' ends");
+            require(std::is_sorted(texts.ends, texts.ends + texts.count),
+                    "the texts' ends are not in order");
+        }
+        const std::string_view all =
+            viewOf(texts.bytes, texts.count == 0 ? 0 : texts.ends[texts.count - 1]);
+        Context context(*cleaner);
+        OutputBytes bytes;
+        bytes.reserve(all.size());
+        std::size_t begin = 0;
+        for (current = 0; current < texts.count; ++current) {
+            const std::size_t end = texts.ends[current]; // the place may be that of the clean end
+            append(bytes, context, all.substr(begin, end - begin));
+            clean.ends[current] = bytes.size();
+            begin = end;
+        }
+        *clean.bytes = bytes.release();
+    });
+}
+
 } // namespace
 
 const char *nerlo_version(void) {
@@ -293,29 +351,20 @@ nerlo_status nerlo_clean_to(const nerlo_cleaner *cleaner, const char *text, size
 
 nerlo_status nerlo_clean_many(const nerlo_cleaner *cleaner, const char *texts, const size_t *ends,
                               size_t count, char **clean, size_t *clean_ends, size_t *failed) {
-    std::size_t ignored = 0;
-    std::size_t &current = failed ? *failed : ignored;
-    current = count;
-    return guarded([&] {
-        require(clean, "there is no place for the clean texts");
-        *clean = nullptr;
-        require(cleaner, "the cleaner is NULL");
-        require((ends && clean_ends) || count == 0, "there are no places of the texts' ends");
-        require(count == 0 || std::is_sorted(ends, ends + count),
-                "the texts' ends are not in order");
-        const std::string_view all = viewOf(texts, count == 0 ? 0 : ends[count - 1]);
-        Context context(*cleaner);
-        OutputBytes bytes;
-        bytes.reserve(all.size());
-        std::size_t begin = 0;
-        for (current = 0; current < count; ++current) {
-            const std::size_t end = ends[current];
-            bytes.append(context.clean(decoded(all.substr(begin, end - begin))));
-            clean_ends[current] = bytes.size();
-            begin = end;
-        }
-        *clean = bytes.release();
-    });
+    return cleanMany(cleaner, {texts, ends, count}, {clean, clean_ends, failed}, appendClean);
+}
+
+nerlo_status nerlo_clean_many_utf16(const nerlo_cleaner *cleaner, const void *texts,
+                                    const size_t *ends, size_t count, void **clean,
+                                    size_t *clean_ends, size_t *failed) {
+    char *bytes = nullptr;
+    const nerlo_status status =
+        cleanMany(cleaner, {static_cast<const char *>(texts), ends, count},
+                  {clean ? &bytes : nullptr, clean_ends, failed}, appendCleanUtf16);
+    if (clean) {
+        *clean = bytes;
+    }
+    return status;
 }
 
 nerlo_status nerlo_explain(const nerlo_cleaner *cleaner, const char *text, size_t size, char **json,

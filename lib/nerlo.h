@@ -12,10 +12,10 @@
  *     nerlo_free(clean);
  *     nerlo_cleaner_free(cleaner);
  *
- * Texts are UTF-8, in and out; every size is a number of bytes. A text may hold zero bytes, needs
- * no zero byte behind it, may be NULL where its size is 0, and is only read. A byte order mark is a
- * character of the text like any other. Strings that have no size, such as names, end with a zero
- * byte and are UTF-8 too.
+ * Texts are UTF-8, in and out, but for one function; every size is a number of bytes. A text may
+ * hold zero bytes, needs no zero byte behind it, may be NULL where its size is 0, and is only read.
+ * A byte order mark is a character of the text like any other. Strings that have no size, such as
+ * names, end with a zero byte and are UTF-8 too.
  *
  * Threads: every function may be called on any thread at any time. A cleaner never changes once it
  * is made; any number of threads may use it at once, as long as none of them frees it.
@@ -131,6 +131,16 @@ nerlo_status nerlo_clean_to(const nerlo_cleaner *cleaner, const char *text, size
  */
 nerlo_status nerlo_clean_many(const nerlo_cleaner *cleaner, const char *texts, const size_t *ends,
                               size_t count, char **clean, size_t *clean_ends, size_t *failed);
+
+/*
+ * The same for texts in UTF-16 in the machine's byte order, for callers that have them so: it saves
+ * both sides a conversion. Sizes count bytes here too, and places lie at even ones; the texts may
+ * stand at any address. An unpaired surrogate is a character, and no error. There is no zero behind
+ * the results.
+ */
+nerlo_status nerlo_clean_many_utf16(const nerlo_cleaner *cleaner, const void *texts,
+                                    const size_t *ends, size_t count, void **clean,
+                                    size_t *clean_ends, size_t *failed);
 
 /*
  * Tells what each step of a clean changes: a JSON array of objects, in order, with the members

@@ -3,8 +3,8 @@
 #
 # Installs and builds what is missing, makes seeded texts under build/bench/, runs `nerlo` and the
 # other tools in turn on them and prints ratios as Markdown tables: against the tools, people's own
-# patterns against perl, growth and memory, hostile texts, start-up, batch. Everything takes three
-# quarters of an hour, --quick a few minutes; --help tells the rest.
+# patterns against perl, growth and memory, hostile texts, start-up, batch, the library. Everything
+# takes three quarters of an hour, --quick a few minutes; --help tells the rest.
 set -eu
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$root/build/bench # of its own, so that nobody's other build changes its options
@@ -16,7 +16,7 @@ echo "bench.sh: building" >&2
 if ! {
     cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
         -DNERLO_DESKTOP=OFF -DNERLO_TESTS=OFF -DNERLO_BENCH=ON &&
-        cmake --build "$build" --target nerlo nerlo_bench
+        cmake --build "$build" --target nerlo nerlo_bench nerlo_shared
 } </dev/null >"$log" 2>&1; then
     cat "$log" >&2
     exit 1
@@ -25,4 +25,4 @@ fi
 python=/usr/bin/python3
 [ -x "$python" ] || python=python3
 exec "$python" "$root/bench/compare.py" --nerlo "$build/cli/nerlo" \
-    --nerlo-bench "$build/bench/nerlo_bench" --cache "$build/texts" "$@"
+    --nerlo-bench "$build/bench/nerlo_bench" --library "$build/lib" --cache "$build/texts" "$@"

@@ -10,9 +10,11 @@ time. Everything here may be called on any thread.
 from __future__ import annotations
 
 import array
+import codecs
 import ctypes
 import itertools
 import json
+import sys
 from typing import Any, Iterable, Iterator, NamedTuple, overload
 
 __all__ = ["Cleaner", "Counts", "Error", "OptionsError", "TextError", "count", "keys", "operations",
@@ -70,8 +72,7 @@ def _load() -> ctypes.CDLL:
         "nerlo_free": (None, pointer),
         "nerlo_cleaner_new": (ctypes.c_int, text, text, size, text, text, pointer),
         "nerlo_cleaner_free": (None, pointer),
-        "nerlo_clean": (ctypes.c_int, pointer, text, size, pointer, pointer),
-        "nerlo_clean_many": (ctypes.c_int, pointer, text, pointer, size, pointer, pointer, pointer),
+        "nerlo_clean_many_utf16": (ctypes.c_int, pointer, text, pointer, size, pointer, pointer, pointer),
         "nerlo_explain": (ctypes.c_int, pointer, text, size, pointer, pointer),
         "nerlo_count": (ctypes.c_int, text, size, text, pointer),
     }
@@ -89,9 +90,15 @@ _OPTIONS = (1, 2, 3)
 _TEXT = (4, 5)
 _NO_MEMORY = 7
 
-# Characters that are cleaned in one call: a list of any length takes no more memory than this beside
-# itself and its result.
-_BLOCK = 1 << 20
+# Texts are cleaned as UTF-16, which the interpreter and the library both convert to and from faster
+# than UTF-8. These functions do without the search for a codec that str.encode() begins with.
+_ENDIAN = sys.byteorder[0]
+_utf16 = getattr(codecs, f"utf_16_{_ENDIAN}e_encode")
+_of_utf16 = getattr(codecs, f"utf_16_{_ENDIAN}e_decode")
+
+# Bytes that are cleaned in one call: a list of any length takes no more memory than some times this
+# beside itself and its result.
+_BLOCK = 1 << 21
 
 
 def _check(status: int, index: int | None = None) -> None:
@@ -105,12 +112,12 @@ def _check(status: int, index: int | None = None) -> None:
     raise (OptionsError if status in _OPTIONS else Error)(message)
 
 
-def _encoded(text: str, index: int | None = None) -> bytes:
+def _encoded(text: str, index: int | None = None, encode: Any = codecs.utf_8_encode) -> bytes:
     if not isinstance(text, str):
         where = "the text" if index is None else f"text {index}"
         raise TypeError(f"{where} is {type(text).__name__}, not str")
     try:
-        return text.encode()
+        return encode(text)[0]
     except UnicodeEncodeError as error:
         raise TextError(f"lone surrogate at character {error.start}", index) from None
 
@@ -135,7 +142,7 @@ def _blocks(texts: Iterable[str]) -> Iterator[list[bytes]]:
     block: list[bytes] = []
     size = 0
     for index, text in enumerate(texts):
-        encoded = _encoded(text, index)
+        encoded = _encoded(text, index, _utf16)
         block.append(encoded)
         size += len(encoded)
         if size >= _BLOCK:
@@ -186,39 +193,34 @@ class Cleaner:
     def clean(self, texts: str | Iterable[str]) -> str | list[str]:
         """The clean text, or texts. Of a list each is cleaned by itself; if one fails, all do."""
         if isinstance(texts, str):
-            return self._given(_library.nerlo_clean, texts).decode()
+            return self._clean_block([_encoded(texts, None, _utf16)], None)[0]
         clean: list[str] = []
         for block in _blocks(texts):
-            self._clean_block(block, clean)
+            clean += self._clean_block(block, len(clean))
         return clean
 
     def explain(self, text: str) -> list[dict[str, Any]]:
         """What each step changes, in order: dictionaries with operation, changes, places and others,
         the "steps" of `nerlo clean --explain=json`."""
-        return json.loads(self._given(_library.nerlo_explain, text))
-
-    def _given(self, function: Any, text: str) -> bytes:
         encoded = _encoded(text)
         memory, size = ctypes.c_void_p(), ctypes.c_size_t()
-        _check(function(self._handle, encoded, len(encoded), ctypes.byref(memory),
-                        ctypes.byref(size)))
-        return _taken(memory, size.value)
+        _check(_library.nerlo_explain(self._handle, encoded, len(encoded), ctypes.byref(memory),
+                                      ctypes.byref(size)))
+        return json.loads(_taken(memory, size.value))
 
-    def _clean_block(self, block: list[bytes], clean: list[str]) -> None:
+    def _clean_block(self, block: list[bytes], index: int | None) -> list[str]:
+        """`index` is that of the first text, None where there is only one."""
         # "L" is as large as size_t. The places of the results replace those of the texts.
         ends = array.array("L", itertools.accumulate(map(len, block)))
         places = ends.buffer_info()[0]
         memory, failed = ctypes.c_void_p(), ctypes.c_size_t()
-        status = _library.nerlo_clean_many(self._handle, b"".join(block), places, len(block),
-                                           ctypes.byref(memory), places, ctypes.byref(failed))
-        _check(status, len(clean) + failed.value)
-        data = _taken(memory, ends[-1])
-        begins = itertools.chain((0,), ends)
-        if data.isascii():
-            text = data.decode()
-            clean += [text[begin:end] for begin, end in zip(begins, ends)]
-        else:
-            clean += [data[begin:end].decode() for begin, end in zip(begins, ends)]
+        status = _library.nerlo_clean_many_utf16(self._handle, b"".join(block), places, len(block),
+                                                 ctypes.byref(memory), places, ctypes.byref(failed))
+        _check(status, None if index is None else index + failed.value)
+        data = memoryview(_taken(memory, ends[-1]))
+        # A rule may put half a pair of surrogates there, which no text can hold.
+        return [_of_utf16(data[begin:end], "replace", True)[0]
+                for begin, end in zip(itertools.chain((0,), ends), ends)]
 
 
 def _restored(profile: str | None, operation: str | int | None, locale: str | None,

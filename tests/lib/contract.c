@@ -113,6 +113,17 @@ static void texts_are_cleaned(void) {
     EXPECT(nerlo_clean_many(cleaner, "abcd", disordered, 3, &clean, ends, &failed) ==
                NERLO_BAD_ARGUMENT &&
            failed == 3);
+    static const uint16_t units[] = {'a', ' ', ' ', 0xD83C, 'b', 0xFC};
+    size_t bytes[] = {8, 12, 13};
+    void *clean_units;
+    EXPECT(nerlo_clean_many_utf16(cleaner, units, bytes, 2, &clean_units, bytes, &failed) ==
+           NERLO_OK);
+    EXPECT(bytes[0] == 6 && bytes[1] == 10 && failed == 2 && memcmp(clean_units, units, 4) == 0 &&
+           memcmp((char *)clean_units + 4, units + 3, 6) == 0);
+    nerlo_free(clean_units);
+    EXPECT(nerlo_clean_many_utf16(cleaner, units, bytes + 2, 1, &clean_units, bytes, &failed) ==
+               NERLO_BAD_ARGUMENT &&
+           failed == 0 && !clean_units);
     nerlo_cleaner_free(cleaner);
 
     /* What a pattern refers back to can only be found by trying. */

@@ -18,7 +18,7 @@ export LD_LIBRARY_PATH
 
 library=$LD_LIBRARY_PATH/libnerlo.so.1
 readelf -d "$library" | grep -qF 'soname: [libnerlo.so.1]'
-declared=$(grep -oE '\bnerlo_[a-z_]+\(' "$(pkg-config --variable=includedir nerlo)/nerlo.h" |
+declared=$(grep -oE '\bnerlo_[a-z0-9_]+\(' "$(pkg-config --variable=includedir nerlo)/nerlo.h" |
     sed 's/($/@@NERLO_1.0/' | sort -u)
 exported=$(nm -D --defined-only "$library" | sed -n 's/^[0-9a-f]* [^A] //p' | sort)
 diff <(echo "$declared") <(echo "$exported")
