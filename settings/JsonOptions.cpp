@@ -116,16 +116,6 @@ Converted convert(const SettingsKey &key, const json &value) {
     return {std::nullopt, "a hot key can only be recorded in the preferences"};
 }
 
-} // namespace
-
-PropertyValue settingFromJson(const SettingsKey &key, const json &value) {
-    auto [converted, otherwise] = convert(key, value);
-    if (!converted) {
-        refuse(key.key, otherwise);
-    }
-    return std::move(*converted);
-}
-
 json parsedJson(std::string_view bytes) {
     std::string room;
     try {
@@ -140,6 +130,16 @@ json parsedJson(std::string_view bytes) {
     } catch (const json::exception &) {
         throw OptionsError("a number is out of range");
     }
+}
+
+} // namespace
+
+PropertyValue settingFromJson(const SettingsKey &key, const json &value) {
+    auto [converted, otherwise] = convert(key, value);
+    if (!converted) {
+        refuse(key.key, otherwise);
+    }
+    return std::move(*converted);
 }
 
 PropertyDictionary optionsFromJson(const json &object) {

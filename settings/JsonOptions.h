@@ -16,12 +16,10 @@ struct SettingsKey;
 // OptionsError, with the key and what is wrong, for anything else.
 storage::PropertyValue settingFromJson(const SettingsKey &key, const nlohmann::json &value);
 
-// The value that the bytes say, which may be any. Throws OptionsError, with the place of what is
-// wrong.
-nlohmann::json parsedJson(std::string_view bytes);
-
 // Also throws OptionsError for anything but an object, and for a key that is no settings key.
 storage::PropertyDictionary optionsFromJson(const nlohmann::json &object);
+// The same for bytes, which may be any; also throws OptionsError, with the place, for what is no
+// JSON.
 storage::PropertyDictionary parseOptions(std::string_view json);
 
 } // namespace nerlo::settings
