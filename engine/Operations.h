@@ -56,6 +56,8 @@ struct Operation {
 // In the order of their indices. The row of the statistics operation returns its text unchanged.
 std::span<const Operation> operations();
 
+inline constexpr std::int32_t replyMarksOperation = 10;
+inline constexpr std::int32_t tagsOperation = 11;
 inline constexpr std::int32_t statisticsOperation = 25;
 inline constexpr std::int32_t findReplaceOperation = 37;
 inline constexpr std::int32_t cleanCharactersOperation = 40;

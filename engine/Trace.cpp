@@ -84,14 +84,18 @@ std::u16string beginningOf(std::u16string_view text, Range place) {
 
 class Tracer {
   public:
-    Tracer(std::u16string text, std::size_t mostPlaces)
-        : mostPlaces_(mostPlaces) {
+    Tracer(std::u16string text, std::size_t mostPlaces, const Tracing &how)
+        : mostPlaces_(mostPlaces)
+        , how_(how) {
         trace_.text = std::move(text);
     }
 
     // `run` gives the text as it is after this step, of which operation and part are known.
     template <class Run>
     void step(TraceStep known, Run run) {
+        if (how_.stop.stop_requested()) {
+            return;
+        }
         const std::u16string before = trace_.text;
         trace_.text = run(std::move(trace_.text));
         TraceStep &step = trace_.steps.emplace_back(std::move(known));
@@ -103,6 +107,7 @@ class Tracer {
     }
 
     const std::u16string &text() const { return trace_.text; }
+    const Tracing &how() const { return how_; }
 
     Trace take() {
         carryToSource();
@@ -114,6 +119,9 @@ class Tracer {
     void list(TraceStep &step, std::u16string_view before) {
         const text::Difference difference = text::differenceOf(before, trace_.text, mostPlaces_);
         step.changes = difference.count;
+        if (how_.watch) {
+            how_.watch({step, before, trace_.text, difference});
+        }
         for (const Change &change : difference.changes) {
             if (change.before.end >= knownEnd_) {
                 knownEnd_ = std::min(knownEnd_, change.before.begin);
@@ -163,6 +171,7 @@ class Tracer {
     }
 
     std::size_t mostPlaces_;
+    const Tracing &how_;
     Trace trace_;
     // As carriedEnd(): of the present text, and of what each step was given.
     std::size_t knownEnd_ = everything;
@@ -180,7 +189,7 @@ void traceAlone(Tracer &tracer, Steps steps, const CleaningContext &context) {
                                 return applyRule(std::move(text), rule, context.report);
                             });
             }
-        } else if (operation->index == cleanCharactersOperation) {
+        } else if (operation->index == cleanCharactersOperation && tracer.how().characterClasses) {
             for (const CharacterClass &row : characterClasses()) {
                 if (row.isOn(context.options)) {
                     tracer.step({.operation = operation, .characters = row.name},
@@ -239,8 +248,8 @@ void traceGuarded(Tracer &tracer, Steps steps, const CleaningContext &context) {
 }
 
 Trace traceSteps(std::u16string text, Steps steps, const CleaningContext &context,
-                 std::size_t mostPlaces) {
-    Tracer tracer(std::move(text), mostPlaces);
+                 std::size_t mostPlaces, const Tracing &how = {}) {
+    Tracer tracer(std::move(text), mostPlaces, how);
     if (!context.options.udProtectStructure) {
         traceAlone(tracer, steps, context);
         return tracer.take();
@@ -254,8 +263,10 @@ Trace traceSteps(std::u16string text, Steps steps, const CleaningContext &contex
 
 } // namespace
 
-Trace tracePipeline(std::u16string text, const CleaningContext &context, std::size_t mostPlaces) {
-    return traceSteps(std::move(text), operationsSwitchedOn(context.options), context, mostPlaces);
+Trace tracePipeline(std::u16string text, const CleaningContext &context, std::size_t mostPlaces,
+                    const Tracing &how) {
+    return traceSteps(std::move(text), operationsSwitchedOn(context.options), context, mostPlaces,
+                      how);
 }
 
 Trace traceOperation(const Operation &operation, std::u16string text,

@@ -9,7 +9,9 @@
 #include "text/Difference.h"
 
 #include <cstddef>
+#include <functional>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,12 +50,28 @@ struct Trace {
 // Enough for a window.
 inline constexpr std::size_t fewPlaces = 1000;
 
+// A step that changed something, as long as its texts are at hand: places of the step itself are
+// not known yet.
+struct ShownStep {
+    const TraceStep &step;
+    std::u16string_view before;
+    std::u16string_view after;
+    const text::Difference &difference; // of the two; lists as many changes as places are listed
+};
+
+// For those who want more of a trace than what it comes to, or less.
+struct Tracing {
+    bool characterClasses = true; // each class is a step of its own
+    std::stop_token stop{};       // ends it between two steps; then the trace is of no use
+    std::function<void(const ShownStep &)> watch{}; // may be empty; must not keep the texts
+};
+
 // Lists for each step as many places as `mostPlaces` says, or fewer: none behind a place where an
 // earlier step had more to list. The time is that of the steps and of the comparisons, which is in
 // proportion to the text; where structure is protected, the first step is run again for each of the
 // others, the second for each but one, and so on. Memory: some four times the text, and the places.
 Trace tracePipeline(std::u16string text, const CleaningContext &context,
-                    std::size_t mostPlaces = fewPlaces);
+                    std::size_t mostPlaces = fewPlaces, const Tracing &how = {});
 // The same for one operation, whether or not its switch is on.
 Trace traceOperation(const Operation &operation, std::u16string text,
                      const CleaningContext &context, std::size_t mostPlaces = fewPlaces);

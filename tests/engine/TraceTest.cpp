@@ -215,6 +215,31 @@ TEST(Trace, TakesClassesOfCharactersOneByOne) {
     EXPECT_EQ(told, "soft-hyphens 2 invisible 1 blanks 1 ");
 }
 
+TEST(Trace, ShowsTheTextsOfAStepAndEndsWhenTold) {
+    CleaningOptions options;
+    options.udCleanCharacters = true;
+    options.udChangeMultipleSpacesToSingleSpace = true;
+    options.udAddSuffix = true;
+    options.udSuffixTextField = u"!";
+    std::stop_source stop;
+    std::string told;
+    const auto watch = [&](const ShownStep &shown) {
+        told += escaped(shown.before) + ">" + escaped(shown.after) + " " +
+                std::to_string(shown.difference.count) + "\n";
+        if (shown.step.operation->name == "collapse-spaces") {
+            stop.request_stop();
+        }
+    };
+    for (const bool guarded : {false, true}) {
+        options.udProtectStructure = guarded;
+        told.clear();
+        stop = std::stop_source();
+        tracePipeline(u"So\u00ADme  words\u200B", {.options = options, .locale = "en_US"}, 1,
+                      {.characterClasses = false, .stop = stop.get_token(), .watch = watch});
+        EXPECT_EQ(told, "So\\u00ADme  words\\u200B>Some  words 2\nSome  words>Some words 1\n");
+    }
+}
+
 } // namespace
 
 } // namespace nerlo::engine
