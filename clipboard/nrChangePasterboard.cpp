@@ -1,7 +1,7 @@
 #include "clipboard/nrChangePasterboard.h"
 
 #include "clipboard/PasteboardFormats.h"
-#include "engine/Operations.h"
+#include "engine/Trace.h"
 #include "text/Characters.h"
 #include "text/Utf.h"
 
@@ -153,10 +153,10 @@ struct nrChangePasterboard::Clean {
     Choice choice;
     std::string locale;
     std::optional<std::size_t> spared; // hash of a plain text that is not cleaned
-    std::function<void(engine::TextStatistics, engine::CleaningReport, std::u16string)> show;
+    std::function<void(Told)> show;
     std::function<void(engine::CleaningReport)> tell;
     std::function<void(platform::ChangeCount)> leave;
-    std::function<void(WriteBack)> write;
+    std::function<void(WriteBack)> writeBack;
     std::function<void(bool)> ended;  // on the main thread
     std::function<void(bool)> finish; // the same, from any
 
@@ -164,8 +164,14 @@ struct nrChangePasterboard::Clean {
     bool counts(const engine::CleaningOptions &used) const {
         return !writes() || (!choice.operation && used.udStatistics);
     }
+    bool tellsSteps(std::u16string_view text, const engine::CleaningOptions &used) const {
+        return used.udStatisticsRules && writes() && counts(used) && text.size() <= tracedTextLimit;
+    }
     std::u16string cleaned(std::u16string text, const engine::CleaningOptions &used,
                            engine::CleaningReport &report) const;
+    std::vector<ChangedStep> steps(std::u16string source,
+                                   const engine::CleaningOptions &used) const;
+    void write(Reading &reading, const std::u16string &text) const;
     void run(Reading &reading, std::u16string text) const;
 };
 
@@ -222,21 +228,19 @@ void nrChangePasterboard::start(Choice choice, Asked asked, CopyTable exceptions
         ended = [](bool) {};
     }
     const bool automatic = asked == Asked::automatically;
-    const Clean clean{
-        std::move(choice),
-        locale_,
-        automatic ? lastResult_ : std::nullopt,
-        onMain([this](const engine::TextStatistics &counts, const engine::CleaningReport &report,
-                      const std::u16string &profile) { showCounts(counts, report, profile); }),
-        onMain([this](const engine::CleaningReport &report) {
-            if (reportHandler_) {
-                reportHandler_(report);
-            }
-        }),
-        onMain([this](platform::ChangeCount source) { leftAsItIs(source); }),
-        onMain([this](WriteBack result) { queueWriteBack(std::move(result)); }),
-        ended,
-        onMain(ended)};
+    const Clean clean{std::move(choice),
+                      locale_,
+                      automatic ? lastResult_ : std::nullopt,
+                      onMain([this](const Told &told) { showCounts(told); }),
+                      onMain([this](const engine::CleaningReport &report) {
+                          if (reportHandler_) {
+                              reportHandler_(report);
+                          }
+                      }),
+                      onMain([this](platform::ChangeCount source) { leftAsItIs(source); }),
+                      onMain([this](WriteBack result) { queueWriteBack(std::move(result)); }),
+                      ended,
+                      onMain(ended)};
     auto reading = std::make_shared<Reading>();
     reading->keepsOriginal = clean.writes();
     reading->nothing = [ended] { ended(false); };
@@ -287,18 +291,29 @@ void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) cons
     if (reading.original) {
         reading.original->firstWords = firstWords(text);
     }
+    const auto source = tellsSteps(text, used) ? std::optional(text) : std::nullopt;
     if (writes()) {
         text = cleaned(std::move(text), used, report);
         tell(report);
+        write(reading, text);
     }
-    if (counts(used)) {
-        show(engine::countAll(text, locale), report, row ? row->title : std::u16string());
+    // Only now, because the clipboard should not wait for what is told.
+    try {
+        if (counts(used)) {
+            show({engine::countAll(text, locale), report, row ? row->title : std::u16string(),
+                  source ? steps(*source, used) : std::vector<ChangedStep>()});
+        }
+    } catch (const std::exception &) {
+        // Only for want of memory; the text is on its way all the same.
     }
-    const auto source = reading.offered.changeCount;
     if (!writes()) {
         finish(false);
-        return;
     }
+}
+
+void nrChangePasterboard::Clean::write(Reading &reading, const std::u16string &text) const {
+    const auto source = reading.offered.changeCount;
+    const bool plain = reading.offered.complete && onlyPlainText(reading.offered.formats);
     // Nobody could tell the difference, but for the clipboard's owner, who keeps it.
     if (plain && decodeText(reading.text) == text) {
         leave(source);
@@ -306,9 +321,23 @@ void nrChangePasterboard::Clean::run(Reading &reading, std::u16string text) cons
         return;
     }
     reading.text.bytes = nullptr;
-    write({source, reading.ofOurs,
-           Kept{plainTextContent(text::utf16ToUtf8(text)), true, firstWords(text)},
-           std::move(reading.original), reading.whyNotKept, hashOf(text), ended});
+    writeBack({source, reading.ofOurs,
+               Kept{plainTextContent(text::utf16ToUtf8(text)), true, firstWords(text)},
+               std::move(reading.original), reading.whyNotKept, hashOf(text), ended});
+}
+
+std::vector<ChangedStep>
+nrChangePasterboard::Clean::steps(std::u16string source,
+                                  const engine::CleaningOptions &used) const {
+    std::vector<ChangedStep> changed;
+    const engine::Trace trace =
+        engine::tracePipeline(std::move(source), {.options = used, .locale = locale}, 0);
+    for (const engine::TraceStep &step : trace.steps) {
+        if (step.changes > 0) {
+            changed.push_back({step.operation, step.changes});
+        }
+    }
+    return changed;
 }
 
 void nrChangePasterboard::readContent(std::shared_ptr<Reading> reading) {
@@ -439,28 +468,29 @@ void nrChangePasterboard::decodeOnWorker(std::shared_ptr<Reading> reading) {
 
 void nrChangePasterboard::newCountWindow(std::u16string text) {
     workerQueue_.post([text = std::move(text), locale = locale_,
-                       show = onMain([this](const engine::TextStatistics &counts) {
-                           showCounts(counts, {}, {});
-                       })] { show(engine::countAll(text, locale)); });
+                       show = onMain([this](const Told &told) { showCounts(told); })] {
+        show(Told{.counts = engine::countAll(text, locale)});
+    });
 }
 
-void nrChangePasterboard::showCounts(const engine::TextStatistics &counts,
-                                     const engine::CleaningReport &report,
-                                     const std::u16string &profile) {
+void nrChangePasterboard::showCounts(const Told &told) {
     countController_ = nullptr;
     if (!makeCountWindow_) {
         return;
     }
     countController_ = makeCountWindow_();
-    countController_->countToTextFields(engine::integerToString(counts.characters, locale_),
-                                        engine::integerToString(counts.spaces, locale_),
-                                        engine::integerToString(counts.words, locale_),
-                                        engine::integerToString(counts.paragraphs, locale_));
-    if (!profile.empty()) {
-        countController_->tellProfile(profile);
+    countController_->countToTextFields(engine::integerToString(told.counts.characters, locale_),
+                                        engine::integerToString(told.counts.spaces, locale_),
+                                        engine::integerToString(told.counts.words, locale_),
+                                        engine::integerToString(told.counts.paragraphs, locale_));
+    if (!told.profile.empty()) {
+        countController_->tellProfile(told.profile);
     }
-    if (!report.empty()) {
-        countController_->tellReport(report);
+    if (!told.steps.empty()) {
+        countController_->tellSteps(told.steps);
+    }
+    if (!told.report.empty()) {
+        countController_->tellReport(told.report);
     }
     countController_->showWindow();
 }

@@ -14,6 +14,7 @@
 #include "clipboard/CopyTable.h"
 #include "engine/CleaningOptions.h"
 #include "engine/CleaningReport.h"
+#include "engine/Operations.h"
 #include "engine/Statistics.h"
 #include "platform/Alive.h"
 #include "platform/MainQueue.h"
@@ -30,6 +31,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace nerlo::clipboard {
 
@@ -46,6 +48,11 @@ class ClipboardListener {
     virtual std::string copiedFrom(platform::ChangeCount) { return {}; }
 };
 
+struct ChangedStep {
+    const engine::Operation *operation;
+    std::size_t changes;
+};
+
 // The statistics popup.
 class CountWindow {
   public:
@@ -57,11 +64,16 @@ class CountWindow {
     virtual void tellProfile(std::u16string) {}
     // What the clean that it is shown for could not do. Not called if that is nothing.
     virtual void tellReport(const engine::CleaningReport &) {}
+    // The steps that changed something and how often, if the options ask for that. Not called if
+    // there is none, or the text is longer than `tracedTextLimit`.
+    virtual void tellSteps(const std::vector<ChangedStep> &) {}
     virtual void showWindow() = 0;
 };
 
 // The largest text that is cleaned, in bytes as the owner delivers it,
 inline constexpr std::size_t cleanedTextLimit = std::size_t{256} << 20;
+// the longest whose steps the popup tells, in UTF-16 code units: it should not come late,
+inline constexpr std::size_t tracedTextLimit = 1'000'000;
 // and the largest content, all formats together, that is kept for `restore` if nothing else is
 // said,
 inline constexpr std::size_t keptOriginalLimit = std::size_t{64} << 20;
@@ -194,8 +206,14 @@ class nrChangePasterboard {
     void decodeOnWorker(std::shared_ptr<Reading> reading);
     // Hands the formats on, or nothing if the clipboard is empty, unreadable or holds a secret.
     void readHarmlessFormats(std::function<void(std::optional<platform::PasteboardFormats>)> next);
-    void showCounts(const engine::TextStatistics &counts, const engine::CleaningReport &report,
-                    const std::u16string &profile);
+    // What the popup shows.
+    struct Told {
+        engine::TextStatistics counts{};
+        engine::CleaningReport report{};
+        std::u16string profile{};
+        std::vector<ChangedStep> steps{};
+    };
+    void showCounts(const Told &told);
     void leftAsItIs(platform::ChangeCount source);
     void queueWriteBack(WriteBack writeBack);
     void startNextWrite();

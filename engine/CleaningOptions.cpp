@@ -138,6 +138,8 @@ constexpr OptionField fields[] = {
     {"udCleanLinks", &O::udCleanLinks, "marks", "take tracking parameters out of addresses"},
     {"udCleanLinksRules", &O::udCleanLinksRules, "marks",
      "file with more rules for addresses, as ClearURLs has them"},
+    {"udStatisticsRules", &O::udStatisticsRules, "statistics",
+     "the popup tells which rules changed most"},
 };
 
 void read(const storage::PropertyValue *value, bool &field) {

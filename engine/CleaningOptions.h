@@ -82,6 +82,7 @@ struct CleaningOptions {
     bool udRejoinWordsPages = false;
     bool udRejoinWordsFootnotes = false;
     bool udCleanLinks = false;
+    bool udStatisticsRules = false;
     PerSlot<bool> udChangeProperty{};
 
     Text udSortCustomSeparatorTextField = u"";

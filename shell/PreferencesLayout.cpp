@@ -86,7 +86,8 @@ std::vector<PreferencesPage> makePages() {
         {"sPageStatistics",
          {{"udStatistics",
            "sStatistics",
-           {"udStatisticsDefaultPosition", "udStatisticsDelaySwitcher", "udStatisticsValue"}}}},
+           {"udStatisticsDefaultPosition", "udStatisticsDelaySwitcher", "udStatisticsValue",
+            "udStatisticsRules"}}}},
     };
 }
 

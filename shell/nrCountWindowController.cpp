@@ -1,6 +1,7 @@
 #include "shell/nrCountWindowController.h"
 
 #include "shell/LeftOutRules.h"
+#include "shell/StepNames.h"
 #include "shell/Strings.h"
 
 #include <QCursor>
@@ -10,8 +11,11 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
+#include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <functional>
+#include <ranges>
 #include <utility>
 
 namespace nerlo::shell {
@@ -22,6 +26,7 @@ constexpr double cornerRadius = 10.0;
 constexpr double backgroundOpacity = 0.75;
 constexpr std::int64_t defaultDelay = 5; // seconds
 constexpr auto positionKey = "udStatisticsDefaultPosition";
+constexpr std::size_t toldKinds = 3;
 
 // The screen with the pointer, or the first one; its rectangles with the origin at the bottom left.
 struct Screen {
@@ -233,6 +238,7 @@ nrCountWindowController::nrCountWindowController(const storage::SettingsStore &s
         return line;
     };
     cleanedAs_ = addLine("cleanedAs");
+    changedMost_ = addLine("changedMost");
     leftOut_ = addLine("leftOut");
     localizations();
 }
@@ -254,6 +260,30 @@ void nrCountWindowController::countToTextFields(std::u16string characters, std::
 void nrCountWindowController::tellProfile(std::u16string name) {
     cleanedAs_->setText(filled(localized("sCleanedAs"), {QString::fromStdU16String(name)}));
     cleanedAs_->show();
+}
+
+void nrCountWindowController::tellSteps(const std::vector<clipboard::ChangedStep> &steps) {
+    struct Kind {
+        QString name;
+        std::size_t changes = 0;
+    };
+    std::vector<Kind> kinds; // in the order of the steps
+    for (const clipboard::ChangedStep &step : steps) {
+        const QString name = shortStepName(*step.operation);
+        const auto known = std::ranges::find(kinds, name, &Kind::name);
+        Kind &kind = known == kinds.end() ? kinds.emplace_back(name) : *known;
+        kind.changes += step.changes;
+    }
+    std::ranges::stable_sort(kinds, std::ranges::greater(), &Kind::changes);
+    QStringList told;
+    for (const Kind &kind : kinds | std::views::take(toldKinds)) {
+        // A name and its number stay on one line.
+        told += QString(kind.name).replace(' ', QChar::Nbsp) + QChar(QChar::Nbsp) +
+                QLocale().toString(static_cast<qulonglong>(kind.changes));
+    }
+    changedMost_->setText(
+        filled(localized("sChangedMost"), {told.join(localized("sListBetween"))}));
+    changedMost_->show();
 }
 
 void nrCountWindowController::tellReport(const engine::CleaningReport &report) {

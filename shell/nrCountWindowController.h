@@ -75,6 +75,8 @@ class nrCountWindowController final : public clipboard::CountWindow {
     void countToTextFields(std::u16string characters, std::u16string spaces, std::u16string words,
                            std::u16string paragraphs) override;
     void tellProfile(std::u16string name) override;
+    // The three kinds of steps that changed most.
+    void tellSteps(const std::vector<clipboard::ChangedStep> &steps) override;
     void tellReport(const engine::CleaningReport &report) override;
     void showWindow() override;
 
@@ -93,6 +95,7 @@ class nrCountWindowController final : public clipboard::CountWindow {
     QLabel *countWordsTextField;
     QLabel *countParagraphsTextField;
     QLabel *cleanedAs_;
+    QLabel *changedMost_;
     QLabel *leftOut_;
 };
 

@@ -369,6 +369,11 @@ class RecordingWindow final : public CountWindow {
         log.emplace_back("filled");
     }
     void tellReport(const engine::CleaningReport &) override { log.emplace_back("told"); }
+    void tellSteps(const std::vector<ChangedStep> &steps) override {
+        for (const ChangedStep &step : steps) {
+            log.emplace_back(step.operation->name).append(" " + std::to_string(step.changes));
+        }
+    }
     void showWindow() override { log.emplace_back("shown"); }
 
   private:
@@ -397,6 +402,32 @@ TEST_F(ClipboardCleanTest, StatisticsReplaceThePopupAndWriteNothing) {
     engine.newCountWindow(u"x");
     finish();
     EXPECT_EQ(windows.back(), "closed");
+}
+
+TEST_F(ClipboardCleanTest, ThePopupTellsTheStepsOnlyWhenAskedAndBehindTheWrite) {
+    Log windows;
+    engine.setCountWindowMaker([&] { return std::make_unique<RecordingWindow>(windows); });
+    const auto told = [&](bool rules, const std::string &copied) {
+        setOptions({{"udStatistics", true},
+                    {"udStatisticsRules", rules},
+                    {"udChangeMultipleSpacesToSingleSpace", true},
+                    {"udRemoveAllTabs", true}});
+        windows.clear();
+        pasteboard.copyText(copied);
+        clean();
+        return windows;
+    };
+    const Log none{"made", "filled", "shown"};
+    const Log closed{"closed", "made", "filled", "shown"};
+    EXPECT_EQ(told(false, "a  b"), none);
+    EXPECT_EQ(told(true, "a b"), closed) << "nothing was changed";
+    EXPECT_EQ(told(true, "a  b  c"),
+              Log({"closed", "made", "filled", "collapse-spaces 2", "shown"}));
+    EXPECT_EQ(text(), "a b c");
+    EXPECT_EQ(told(true, std::string(tracedTextLimit + 1, ' ')), closed);
+    engine.setCountWindowMaker(nullptr);
+    engine.newCountWindow(u"x");
+    finish();
 }
 
 TEST_F(ClipboardCleanTest, ARuleThatIsGivenUpIsToldAndTheRestIsDone) {

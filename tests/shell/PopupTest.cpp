@@ -73,6 +73,13 @@ TEST_F(Popup, ShowsTheTextsInTheCorner) {
     EXPECT_EQ(text("cleanedAs"), "");
     controller.tellProfile(u"<b>Mail");
     EXPECT_EQ(text("cleanedAs"), "Cleaned as: <b>Mail");
+    const auto step = [](const char *operation, std::size_t changes) {
+        return clipboard::ChangedStep{engine::findOperation(operation), changes};
+    };
+    EXPECT_EQ(text("changedMost"), "");
+    controller.tellSteps({step("trim", 1), step("remove-tags", 1), step("change-quotes", 4),
+                          step("join-lines", 1), step("collapse-spaces", 1200)});
+    EXPECT_EQ(text("changedMost"), u"Changed: Spaces\u00a01,201, Quotes\u00a04, Tags\u00a01"_qs);
     using Why = engine::PatternFailure::Why;
     controller.tellReport(
         {{3, Why::GivenUp, {}}, {7, Why::DoesNotCompile, {}}, {9, Why::GivenUp, {}}});
