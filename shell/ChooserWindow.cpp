@@ -29,7 +29,7 @@ constexpr QSize usualSize{600, 480};
 constexpr int rowSpacing = 8;
 constexpr int placeRole = Qt::UserRole; // of the item
 // UTF-16 code units; of a longer text the beginning is shown.
-constexpr std::size_t longest = 50'000;
+constexpr std::size_t longest = shownWhole;
 // Keystrokes that follow each other closely make one preview.
 constexpr auto settlesAfter = 30ms;
 // Whoever has called the window may still hold the keys of its shortcut, and with them the
@@ -42,13 +42,6 @@ constexpr Qt::WindowFlags common = Qt::FramelessWindowHint | Qt::WindowStaysOnTo
 
 Qt::WindowFlags flagsFor(bool grabs) {
     return grabs ? common | Qt::Window | Qt::BypassWindowManagerHint : common | Qt::Dialog;
-}
-
-QPlainTextEdit *makePane(const char *name, const char *titleKey, const char *tipKey) {
-    auto *pane = makeTextPane(name, titleKey, tipKey);
-    pane->setReadOnly(true);
-    pane->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    return pane;
 }
 
 void becomeActive(QWidget &window) {
@@ -80,8 +73,8 @@ ChooserWindow::ChooserWindow(Program &program)
     , items_(chooserItems(program.preferences()))
     , search_(new QLineEdit)
     , list_(new QTreeWidget)
-    , before_(makePane("chooserBefore", "sPreviewBefore", "sChooserBeforeTip"))
-    , after_(makePane("chooserAfter", "sPreviewAfter", "sChooserAfterTip"))
+    , before_(makeShownPane("chooserBefore", "sPreviewBefore", "sChooserBeforeTip"))
+    , after_(makeShownPane("chooserAfter", "sPreviewAfter", "sChooserAfterTip"))
     , note_(new QLabel) {
     setObjectName("chooser");
     setWindowTitle(localized("sChooseForClipboard"));
@@ -292,7 +285,7 @@ void ChooserWindow::runPreview() {
     program_.parts().workerQueue.post([done = std::move(done), item = *item,
                                        choice = items_[*item].choice, locale = program_.locale(),
                                        text = text_->substr(0, longest),
-                                       whole = text_->size() <= longest] {
+                                       whole = text_->size() <= longest, words = leftOutWords()] {
         try {
             engine::CleaningReport report;
             const engine::CleaningContext context{
@@ -300,13 +293,10 @@ void ChooserWindow::runPreview() {
             std::u16string cleaned = choice.operation
                                          ? engine::runOperation(*choice.operation, text, context)
                                          : engine::runPipeline(text, context);
-            Preview preview{item,
-                            asShown(QString::fromStdU16String(text)),
-                            asShown(QString::fromStdU16String(cleaned)),
-                            {},
-                            nullptr};
-            preview.differences =
-                differences(preview.before.toStdU16String(), preview.after.toStdU16String());
+            Preview preview{
+                item,
+                shownChanges(text, cleaned, text::differenceOf(text, cleaned, SIZE_MAX), words),
+                nullptr};
             if (whole && report.empty()) {
                 preview.whole = std::make_shared<const std::pair<std::u16string, std::u16string>>(
                     text, std::move(cleaned));
@@ -320,9 +310,14 @@ void ChooserWindow::runPreview() {
 
 void ChooserWindow::showPreview(Preview preview) {
     preview_ = std::move(preview);
-    before_->setPlainText(preview_.before);
-    after_->setPlainText(preview_.after);
-    markDifferences(*before_, preview_.differences.removed, *after_, preview_.differences.added);
+    before_->setPlainText(preview_.shown.before.text);
+    after_->setPlainText(preview_.shown.after.text);
+    mark();
+}
+
+void ChooserWindow::mark() {
+    markChanges(*before_, TextSide::before, preview_.shown.before);
+    markChanges(*after_, TextSide::after, preview_.shown.after);
 }
 
 void ChooserWindow::choose(bool paste) {
@@ -383,8 +378,7 @@ void ChooserWindow::changeEvent(QEvent *event) {
             close();
         }
     } else if (event->type() == QEvent::PaletteChange) {
-        markDifferences(*before_, preview_.differences.removed, *after_,
-                        preview_.differences.added);
+        mark();
     }
 }
 

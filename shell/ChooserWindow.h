@@ -8,7 +8,7 @@
 #include "platform/MainQueue.h"
 #include "platform/PopupLayer.h"
 #include "shell/ChooserItems.h"
-#include "shell/TextDiff.h"
+#include "shell/ShownChanges.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -49,9 +49,7 @@ class ChooserWindow final : public QWidget {
     // A text before and after, for the item that is current.
     struct Preview {
         std::size_t item = 0;
-        QString before;
-        QString after;
-        TextDifferences differences;
+        ShownChanges shown;
         decltype(clipboard::nrChangePasterboard::Choice::known) whole; // null if it was cut
     };
 
@@ -66,6 +64,7 @@ class ChooserWindow final : public QWidget {
     void schedulePreview();
     void runPreview();
     void showPreview(Preview preview);
+    void mark();
     void choose(bool paste);
 
     Program &program_;

@@ -1,7 +1,9 @@
 #include "shell/TextPanes.h"
 
 #include "shell/Controls.h"
+#include "shell/Strings.h"
 
+#include <QScrollBar>
 #include <QStyle>
 #include <QTextBlock>
 
@@ -9,41 +11,40 @@ namespace nerlo::shell {
 
 namespace {
 
-void markSpans(QPlainTextEdit &pane, const std::vector<TextSpan> &spans, const QColor &colour) {
-    QList<QTextEdit::ExtraSelection> selections;
+using Selections = QList<QTextEdit::ExtraSelection>;
+
+void select(QPlainTextEdit &pane, const std::vector<TextSpan> &spans, const QTextCharFormat &format,
+            Selections &selections) {
     for (const TextSpan &span : spans) {
-        QTextEdit::ExtraSelection selection;
-        selection.cursor = QTextCursor(pane.document());
+        QTextEdit::ExtraSelection selection{QTextCursor(pane.document()), format};
         selection.cursor.setPosition(static_cast<int>(span.start));
         selection.cursor.setPosition(static_cast<int>(span.start + span.length),
                                      QTextCursor::KeepAnchor);
-        selection.format.setBackground(colour);
-        // Not by colour alone; and a line through a dot or a mark would hide it.
-        selection.format.setFontUnderline(true);
         selections.push_back(selection);
     }
-    pane.setExtraSelections(selections);
 }
 
 } // namespace
 
-QPlainTextEdit *makeTextPane(const char *name, const char *titleKey, const char *tipKey) {
-    auto *pane = new QPlainTextEdit;
-    describe(*pane, name, titleKey, tipKey);
-    pane->setTabChangesFocus(true);
-    QTextOption option = pane->document()->defaultTextOption();
-    option.setAlignment(QStyle::visualAlignment(pane->layoutDirection(), Qt::AlignLeft));
+void setUpTextPane(QPlainTextEdit &pane, const char *name, const char *titleKey,
+                   const char *tipKey) {
+    describe(pane, name, titleKey, tipKey);
+    pane.setTabChangesFocus(true);
+    QTextOption option = pane.document()->defaultTextOption();
+    option.setAlignment(QStyle::visualAlignment(pane.layoutDirection(), Qt::AlignLeft));
     option.setFlags(option.flags() | QTextOption::ShowTabsAndSpaces |
                     QTextOption::ShowLineAndParagraphSeparators);
-    pane->document()->setDefaultTextOption(option);
-    pane->setMinimumHeight(90);
-    return pane;
+    pane.document()->setDefaultTextOption(option);
+    pane.setMinimumHeight(90);
 }
 
-QString asShown(QString text) {
-    return text.replace("\r\n", "\n")
-        .replace('\r', '\n')
-        .replace(QChar(QChar::ParagraphSeparator), '\n');
+QPlainTextEdit *makeShownPane(const char *name, const char *titleKey, const char *tipKey) {
+    auto *pane = new QPlainTextEdit;
+    setUpTextPane(*pane, name, titleKey, tipKey);
+    pane->setReadOnly(true);
+    pane->setUndoRedoEnabled(false);
+    pane->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    return pane;
 }
 
 QString textOf(const QPlainTextEdit &pane) {
@@ -53,11 +54,38 @@ QString textOf(const QPlainTextEdit &pane) {
         .replace(QChar(QChar::LineSeparator), '\n');
 }
 
-void markDifferences(QPlainTextEdit &before, const std::vector<TextSpan> &removed,
-                     QPlainTextEdit &after, const std::vector<TextSpan> &added) {
-    const bool dark = before.palette().color(QPalette::Base).lightness() < 128;
-    markSpans(before, removed, dark ? QColor(0x6b, 0x2b, 0x2b) : QColor(0xff, 0xd7, 0xd5));
-    markSpans(after, added, dark ? QColor(0x1f, 0x55, 0x2c) : QColor(0xc8, 0xf0, 0xce));
+void setShownText(QPlainTextEdit &pane, const QString &text) {
+    if (textOf(pane) != text) {
+        const int top = pane.verticalScrollBar()->value();
+        pane.setPlainText(text);
+        pane.verticalScrollBar()->setValue(top);
+    }
+}
+
+void markChanges(QPlainTextEdit &pane, TextSide side, const ShownText &shown) {
+    const QPalette palette = pane.palette();
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    QTextCharFormat changed;
+    changed.setBackground(side == TextSide::before
+                              ? (dark ? QColor(0x6b, 0x2b, 0x2b) : QColor(0xff, 0xd7, 0xd5))
+                              : (dark ? QColor(0x1f, 0x55, 0x2c) : QColor(0xc8, 0xf0, 0xce)));
+    // Not by colour alone; and a line through a dot or a mark would hide it.
+    changed.setFontUnderline(true);
+    QTextCharFormat leftOut;
+    QColor dim = palette.color(QPalette::Text);
+    dim.setAlphaF(0.6F);
+    leftOut.setForeground(dim);
+    leftOut.setBackground(palette.color(QPalette::AlternateBase));
+
+    Selections selections;
+    select(pane, shown.marked, changed, selections);
+    select(pane, shown.leftOut, leftOut, selections);
+    pane.setExtraSelections(selections);
+}
+
+LeftOutWords leftOutWords() {
+    return {localized("sLeftOutLines"), localized("sLeftOutCharacters"),
+            localized("sLeftOutChanges"), QLocale()};
 }
 
 } // namespace nerlo::shell

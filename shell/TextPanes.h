@@ -3,24 +3,30 @@
 // Main thread only.
 #pragma once
 
-#include "shell/TextDiff.h"
+#include "shell/ShownChanges.h"
 
 #include <QPlainTextEdit>
 #include <QString>
-#include <vector>
 
 namespace nerlo::shell {
 
 // Shows white space and line breaks; the Tab key leaves it. The texts by their keys.
-QPlainTextEdit *makeTextPane(const char *name, const char *titleKey, const char *tipKey);
+void setUpTextPane(QPlainTextEdit &pane, const char *name, const char *titleKey,
+                   const char *tipKey);
+// One that is not typed into, but read and copied, also without a mouse.
+QPlainTextEdit *makeShownPane(const char *name, const char *titleKey, const char *tipKey);
 
-// One unit for each line break, as a pane holds a text.
-QString asShown(QString text);
 // The pane's text as it was set; the pane's own toPlainText() makes spaces of no-break spaces.
 QString textOf(const QPlainTextEdit &pane);
 
-// In the colours of the widgets, which may be dark.
-void markDifferences(QPlainTextEdit &before, const std::vector<TextSpan> &removed,
-                     QPlainTextEdit &after, const std::vector<TextSpan> &added);
+// Where it shows another text now; what is in view stays there if it can.
+void setShownText(QPlainTextEdit &pane, const QString &text);
+
+// Marks what the pane shows: on its colours, which may be dark.
+enum class TextSide { before, after };
+void markChanges(QPlainTextEdit &pane, TextSide side, const ShownText &shown);
+
+// For shownChanges().
+LeftOutWords leftOutWords();
 
 } // namespace nerlo::shell

@@ -334,6 +334,15 @@
 بعد (أعلى اليمين): في تلك الزاوية من الشاشة</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>ذكر ما غيّر أكثر</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>قبل: النافذة تعدّ فقط.
+بعد: تغيّر: مسافات 12، علامات اقتباس 4، أسطر 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>المسافات المتعددة إلى مسافة واحدة</translation>
     </message>
@@ -1218,6 +1227,54 @@
         <translation>ينظّف نص الحافظة بهذه الخيارات الآن.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>النص قبل الخطوة المختارة، أو ما تغيّر في نص طويل. لا يمكن تحريره هنا.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>كتابة نص آخر</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>يُخرج النص الطويل من المعاينة حتى تكتب نصًا آخر.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>الخطوات</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>الخطوات التي غيّرت شيئًا، مع عدد التغييرات. اختر خطوة لترى ما فعلته وحدها، واخترها مرة أخرى لترى الكل.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>كل الخطوات</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@، التغييرات: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>نص طويل: لا تظهر إلا الأجزاء التي تغيّرت.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>أخذ خيار «%@» علامات &gt; من وسوم HTML قبل أن يصل إليها خيار «%@». عطّل أحدهما.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ أسطر بلا تغيير: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ أحرف: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ تغييرات أخرى: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>النص أطول من أن يُعاين؛ يظهر أوله فقط.</translation>
     </message>
@@ -1430,6 +1487,90 @@
     <message>
         <source>sCleanedAs</source>
         <translation>نُظّف باسم: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>تغيّر: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>علامات جدولة</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>مسافات</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>أسطر</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>حالة الأحرف</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>علامات اقتباس</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>علامات الرد</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>وسوم</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>النمط</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>استبدالات</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>تعداد نقطي</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>نقاط</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>الترتيب</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>مكررات</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>واصلات</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>إضافات</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>الترميز</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>أحرف</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>كلمات</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>روابط</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@ Nachher, mit 10: zehn Sekunden</translation>
 Nachher (Oben rechts): in dieser Ecke des Bildschirms</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Nennen, was am meisten geändert hat</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Vorher: Das Fenster zählt nur.
+Nachher: Geändert: Leerzeichen 12, Anführungszeichen 4, Zeilen 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Mehrere Leerzeichen zu einem</translation>
     </message>
@@ -1219,6 +1228,54 @@ Nachher: 1#2#</translation>
         <translation>Bereinigt den Text der Zwischenablage sofort mit diesen Optionen.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Der Text vor dem gewählten Schritt, oder was sich in einem langen Text geändert hat. Hier lässt er sich nicht bearbeiten.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Anderen Text eingeben</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Nimmt den langen Text aus der Vorschau, sodass sich ein anderer eingeben lässt.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Schritte</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Die Schritte, die etwas geändert haben, mit der Zahl der Änderungen. Wählen Sie einen, um zu sehen, was er allein tut; wählen Sie ihn noch einmal, um alles zu sehen.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Alle Schritte</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, Änderungen: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Ein langer Text: Gezeigt werden nur die geänderten Teile.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>„%@“ hat den HTML-Tags das &gt; genommen, bevor „%@“ an der Reihe war. Schalten Sie eines von beiden aus.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ Zeilen ohne Änderung: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ Zeichen: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ weitere Änderungen: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Der Text ist zu lang für die Vorschau; nur sein Anfang wird gezeigt.</translation>
     </message>
@@ -1431,6 +1488,90 @@ MIT-Lizenz</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Bereinigt als: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Geändert: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabs</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Groß/klein</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Antwortzeichen</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Ersetzungen</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Aufzählungszeichen</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Doppelte</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Trennstriche</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Zusätze</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Links</translation>
     </message>
     <message>
         <source>sFirstRules</source>

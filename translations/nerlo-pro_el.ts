@@ -334,6 +334,15 @@
 Μετά (Πάνω δεξιά): σε εκείνη τη γωνία της οθόνης</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Αναφορά όσων άλλαξαν τα περισσότερα</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Πριν: το παράθυρο μόνο μετράει.
+Μετά: Άλλαξαν: Κενά 12, Εισαγωγικά 4, Γραμμές 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Πολλά κενά σε ένα</translation>
     </message>
@@ -1219,6 +1228,54 @@
         <translation>Καθαρίζει τώρα το κείμενο του προχείρου με αυτές τις επιλογές.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Το κείμενο πριν από το επιλεγμένο βήμα ή ό,τι άλλαξε σε ένα μεγάλο κείμενο. Εδώ δεν γίνεται επεξεργασία.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Πληκτρολόγηση άλλου κειμένου</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Βγάζει το μεγάλο κείμενο από την προεπισκόπηση, ώστε να γράψετε ένα άλλο.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Βήματα</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Τα βήματα που άλλαξαν κάτι, με το πλήθος των αλλαγών. Επιλέξτε ένα για να δείτε τι έκανε μόνο του· επιλέξτε το ξανά για να τα δείτε όλα.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Όλα τα βήματα</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, αλλαγές: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Μεγάλο κείμενο: εμφανίζονται μόνο τα μέρη που άλλαξαν.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>Το «%@» πήρε τα &gt; των ετικετών HTML πριν έρθει η σειρά του «%@». Απενεργοποιήστε ένα από τα δύο.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ γραμμές χωρίς αλλαγή: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ χαρακτήρες: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ ακόμη αλλαγές: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Το κείμενο είναι πολύ μεγάλο για προεπισκόπηση· εμφανίζεται μόνο η αρχή του.</translation>
     </message>
@@ -1431,6 +1488,90 @@
     <message>
         <source>sCleanedAs</source>
         <translation>Καθαρίστηκε ως: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Άλλαξαν: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Στηλοθέτες</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Κενά</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Γραμμές</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Πεζά/κεφαλαία</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Εισαγωγικά</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Σημάδια απάντησης</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Ετικέτες</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Μοτίβο</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Αντικαταστάσεις</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Κουκκίδες</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Τελείες</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Σειρά</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Διπλότυπα</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Παύλες</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Προσθήκες</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Κωδικοποίηση</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Χαρακτήρες</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Λέξεις</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Σύνδεσμοι</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -335,6 +335,15 @@ After, with 10: ten seconds</translation>
 After (Top right): in that corner of the screen</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Tell what changed most</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Before: the window only counts.
+After: Changed: Spaces 12, Quotes 4, Lines 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Multiple spaces to one space</translation>
     </message>
@@ -1220,6 +1229,61 @@ After: 1#2#</translation>
         <translation>Cleans the text on the clipboard with these options, now.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>The text before the chosen step, or what was changed in a long text. It cannot be edited here.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <extracomment>Button that takes a long text out of the preview.</extracomment>
+        <translation>Type another text</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Takes the long text out of the preview, so that you can type one.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <extracomment>Above the list of the steps of a clean that changed something.</extracomment>
+        <translation>Steps</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>The steps that changed something, with the number of changes. Choose one to see what it did alone; choose it again to see all.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>All steps</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <extracomment>A step of the list, as a screen reader says it, and the number of its changes.</extracomment>
+        <translation>%@, changes: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>A long text: only the parts that were changed are shown.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <extracomment>The titles of two options.</extracomment>
+        <translation>“%@” took the &gt; of the HTML tags before “%@” came to them. Turn one of the two off.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <extracomment>In the place of lines that the preview does not show.</extracomment>
+        <translation>⋯ lines without changes: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <extracomment>In the place of a part of a long line.</extracomment>
+        <translation> ⋯ characters: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <extracomment>Behind the last change that the preview shows.</extracomment>
+        <translation>⋯ further changes: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>The text is too long for the preview; only its beginning is shown.</translation>
     </message>
@@ -1435,6 +1499,93 @@ MIT licence</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Cleaned as: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <extracomment>In the window with the counts: names of rules, each with a number.</extracomment>
+        <translation>Changed: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <extracomment>Between the items of a list in one line.</extracomment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <extracomment>Short name of a rule, in the window with the counts: what was changed.</extracomment>
+        <translation>Tabs</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Spaces</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Letter case</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Quotes</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Reply marks</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Pattern</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Replacements</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Bullets</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Dots</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Order</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Duplicates</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Hyphens</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Additions</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Encoding</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Characters</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Links</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@ Después, con 10: diez segundos</translation>
 Después (Arriba a la derecha): en esa esquina de la pantalla</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Decir qué cambió más</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Antes: la ventana solo cuenta.
+Después: Cambios: Espacios 12, Comillas 4, Líneas 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Varios espacios en uno</translation>
     </message>
@@ -1219,6 +1228,54 @@ Después: 1#2#</translation>
         <translation>Limpia ahora el texto del portapapeles con estas opciones.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>El texto antes del paso elegido, o lo que cambió en un texto largo. Aquí no se puede editar.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Escribir otro texto</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Quita el texto largo de la vista previa para que pueda escribir otro.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Pasos</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Los pasos que cambiaron algo, con el número de cambios. Elija uno para ver lo que hizo por sí solo; elíjalo otra vez para verlo todo.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Todos los pasos</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, cambios: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Un texto largo: solo se muestran las partes que cambiaron.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>«%@» quitó los &gt; de las etiquetas HTML antes de que les llegara el turno de «%@». Desactive una de las dos.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ líneas sin cambios: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ caracteres: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ más cambios: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>El texto es demasiado largo para la vista previa; solo se muestra el comienzo.</translation>
     </message>
@@ -1431,6 +1488,90 @@ Licencia MIT</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Limpiado como: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Cambios: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabulaciones</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Espacios</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Mayúsculas</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Comillas</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Marcas de respuesta</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Reemplazos</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Viñetas</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Duplicados</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Guiones</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Añadidos</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Codificación</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Enlaces</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@ Après, avec 10 : dix secondes</translation>
 Après (En haut à droite) : dans ce coin de l’écran</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Dire ce qui a le plus changé</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Avant : la fenêtre ne fait que compter.
+Après : Changé : Espaces 12, Guillemets 4, Lignes 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Plusieurs espaces en une seule</translation>
     </message>
@@ -1219,6 +1228,54 @@ Après : 1#2#</translation>
         <translation>Nettoie maintenant le texte du presse-papiers avec ces options.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Le texte avant l’étape choisie, ou ce qui a changé dans un long texte. Il ne peut pas être modifié ici.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Saisir un autre texte</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Retire le long texte de l’aperçu, pour que vous puissiez en saisir un autre.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Étapes</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Les étapes qui ont changé quelque chose, avec le nombre de changements. Choisissez-en une pour voir ce qu’elle a fait seule ; choisissez-la encore pour tout voir.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Toutes les étapes</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, changements : %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Un long texte : seules les parties changées sont affichées.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>« %@ » a pris les &gt; des balises HTML avant le tour de « %@ ». Désactivez l’une des deux.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ lignes sans changement : %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ caractères : %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ autres changements : %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Le texte est trop long pour l’aperçu ; seul son début est affiché.</translation>
     </message>
@@ -1431,6 +1488,90 @@ Licence MIT</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Nettoyé comme : %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Changé : %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabulations</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Espaces</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Casse</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Guillemets</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Marques de réponse</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Balises</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Motif</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Remplacements</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Puces</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Doublons</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Traits d’union</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Ajouts</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Encodage</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Caractères</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Mots</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Liens</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@ Dopo, con 10: dieci secondi</translation>
 Dopo (In alto a destra): in quell’angolo dello schermo</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Dire che cosa ha cambiato di più</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Prima: la finestra conta soltanto.
+Dopo: Cambiati: Spazi 12, Virgolette 4, Righe 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Più spazi in uno</translation>
     </message>
@@ -1219,6 +1228,54 @@ Dopo: 1#2#</translation>
         <translation>Ripulisce subito il testo negli appunti con queste opzioni.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Il testo prima del passo scelto, o ciò che è cambiato in un testo lungo. Qui non si può modificare.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Scrivi un altro testo</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Toglie il testo lungo dall’anteprima, così che se ne possa scrivere un altro.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Passi</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>I passi che hanno cambiato qualcosa, con il numero di modifiche. Sceglietene uno per vedere che cosa ha fatto da solo; sceglietelo di nuovo per vedere tutto.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Tutti i passi</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, modifiche: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Un testo lungo: si vedono solo le parti cambiate.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>«%@» ha tolto i &gt; dei tag HTML prima che toccasse a «%@». Disattivate una delle due.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ righe senza modifiche: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ caratteri: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ altre modifiche: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Il testo è troppo lungo per l’anteprima; se ne mostra solo l’inizio.</translation>
     </message>
@@ -1431,6 +1488,90 @@ Licenza MIT</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Pulito come: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Cambiati: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabulazioni</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Spazi</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Righe</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Maiuscole</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Virgolette</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Segni di risposta</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Sostituzioni</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Punti elenco</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Puntini</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Doppioni</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Trattini</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Aggiunte</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Codifica</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Caratteri</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Parole</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Link</translation>
     </message>
     <message>
         <source>sFirstRules</source>

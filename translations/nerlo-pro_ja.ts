@@ -334,6 +334,15 @@
 後（右上）：画面のその隅</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>変更の多かったものを示す</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>前: ウィンドウは数えるだけです。
+後: 変更: スペース 12、引用符 4、行 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>連続する空白を 1 つに</translation>
     </message>
@@ -1218,6 +1227,54 @@
         <translation>クリップボードのテキストを、このオプションで今すぐ整形します。</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>選んだ段階の前のテキスト、または長いテキストの変更された部分です。ここでは編集できません。</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>別のテキストを入力</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>長いテキストをプレビューから外し、別のテキストを入力できるようにします。</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>段階</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>何かを変えた段階と、変更の数です。一つ選ぶとその段階だけの働きが、もう一度選ぶと全体が表示されます。</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>すべての段階</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@、変更: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>長いテキストのため、変更された部分だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>「%@」が HTML タグの &gt; を取り除いたため、「%@」にはタグが残っていません。どちらかをオフにしてください。</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ 変更のない行: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ 文字数: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ ほかの変更: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>テキストが長すぎるため、先頭だけを表示しています。</translation>
     </message>
@@ -1430,6 +1487,90 @@ MIT ライセンス</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>適用したプロファイル: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>変更: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>タブ</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>大文字・小文字</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>引用符</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>返信記号</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>パターン</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>置換</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>行頭記号</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>三点リーダー</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>重複</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>ハイフン</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>エンコーディング</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>単語</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>リンク</translation>
     </message>
     <message>
         <source>sFirstRules</source>

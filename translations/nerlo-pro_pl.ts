@@ -334,6 +334,15 @@ Po, z 10: dziesięć sekund</translation>
 Po (Prawy górny róg): w tym rogu ekranu</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Podawaj, co zmieniło najwięcej</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Przed: okno tylko liczy.
+Po: Zmieniono: Spacje 12, Cudzysłowy 4, Wiersze 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Wiele spacji w jedną</translation>
     </message>
@@ -1219,6 +1228,54 @@ Po: 1#2#</translation>
         <translation>Od razu czyści tekst w schowku z tymi opcjami.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Tekst przed wybranym krokiem albo to, co zmieniło się w długim tekście. Tutaj nie można go edytować.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Wpisz inny tekst</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Usuwa długi tekst z podglądu, aby można było wpisać inny.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Kroki</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Kroki, które coś zmieniły, z liczbą zmian. Wybierz krok, aby zobaczyć, co zrobił sam; wybierz go ponownie, aby zobaczyć wszystko.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Wszystkie kroki</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, zmiany: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Długi tekst: widać tylko zmienione części.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>„%@” zabrało znaki &gt; znaczników HTML, zanim przyszła kolej na „%@”. Wyłącz jedną z tych opcji.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ wiersze bez zmian: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ znaki: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ dalsze zmiany: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Tekst jest za długi na podgląd; widać tylko jego początek.</translation>
     </message>
@@ -1431,6 +1488,90 @@ Licencja MIT</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Wyczyszczono jako: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Zmieniono: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabulatory</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Spacje</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Wiersze</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Wielkość liter</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Cudzysłowy</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Znaki odpowiedzi</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Znaczniki</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Wzorzec</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Zamiany</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Punktory</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Kropki</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Kolejność</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Duplikaty</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Łączniki</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Dodatki</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Kodowanie</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Znaki</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Słowa</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Linki</translation>
     </message>
     <message>
         <source>sFirstRules</source>

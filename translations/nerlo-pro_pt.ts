@@ -334,6 +334,15 @@ Depois, com 10: dez segundos</translation>
 Depois (Em cima à direita): nesse canto da tela</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Dizer o que mudou mais</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Antes: a janela só conta.
+Depois: Mudou: Espaços 12, Aspas 4, Linhas 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Vários espaços em um</translation>
     </message>
@@ -1219,6 +1228,54 @@ Depois: 1#2#</translation>
         <translation>Limpa agora o texto da área de transferência com estas opções.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>O texto antes do passo escolhido, ou o que mudou num texto longo. Aqui não pode ser editado.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Escrever outro texto</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Retira o texto longo da pré-visualização, para que possa escrever outro.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Passos</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Os passos que mudaram algo, com o número de alterações. Escolha um para ver o que fez sozinho; escolha-o de novo para ver tudo.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Todos os passos</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, alterações: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Um texto longo: só são mostradas as partes alteradas.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>«%@» tirou os &gt; das etiquetas HTML antes da vez de «%@». Desligue uma das duas.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ linhas sem alterações: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ caracteres: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ mais alterações: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>O texto é longo demais para a prévia; só o começo é mostrado.</translation>
     </message>
@@ -1431,6 +1488,90 @@ Licença MIT</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Limpo como: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Mudou: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabulações</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Espaços</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Linhas</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Maiúsculas</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Aspas</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Marcas de resposta</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Padrão</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Substituições</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Marcadores</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Pontos</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Ordem</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Duplicados</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Hífenes</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Acréscimos</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Codificação</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Caracteres</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Palavras</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Ligações</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@
 После (Вверху справа): в этом углу экрана</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Называть, что изменило больше всего</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>До: окно только считает.
+После: Изменено: Пробелы 12, Кавычки 4, Строки 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Несколько пробелов в один</translation>
     </message>
@@ -1219,6 +1228,54 @@
         <translation>Сейчас же очищает текст в буфере обмена с этими параметрами.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Текст до выбранного шага или то, что изменилось в длинном тексте. Здесь его нельзя править.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Ввести другой текст</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Убирает длинный текст из просмотра, чтобы можно было ввести другой.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Шаги</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Шаги, которые что-то изменили, и число изменений. Выберите шаг, чтобы увидеть, что сделал он один; выберите его ещё раз, чтобы увидеть всё.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Все шаги</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, изменений: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Длинный текст: показаны только изменённые части.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>«%@» забирает &gt; у тегов HTML раньше, чем до них доходит «%@». Выключите одно из двух.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ строк без изменений: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ символов: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ ещё изменений: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Текст слишком длинный для просмотра; показано только его начало.</translation>
     </message>
@@ -1431,6 +1488,90 @@
     <message>
         <source>sCleanedAs</source>
         <translation>Очищено как: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Изменено: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Табуляция</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Пробелы</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Строки</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Регистр</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Кавычки</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Знаки ответа</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Теги</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Замены</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Маркеры</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Точки</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Порядок</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Повторы</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Дефисы</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Добавления</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Кодировка</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Символы</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Ссылки</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@ Efter, med 10: tio sekunder</translation>
 Efter (Uppe till höger): i det hörnet av skärmen</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Berätta vad som ändrade mest</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>Före: fönstret räknar bara.
+Efter: Ändrat: Blanksteg 12, Citattecken 4, Rader 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Flera blanksteg till ett</translation>
     </message>
@@ -1219,6 +1228,54 @@ Efter: 1#2#</translation>
         <translation>Rensar texten i urklipp med de här alternativen, nu.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Texten före det valda steget, eller det som ändrades i en lång text. Den kan inte redigeras här.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Skriv en annan text</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Tar bort den långa texten från förhandsvisningen så att du kan skriva en annan.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Steg</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Stegen som ändrade något, med antalet ändringar. Välj ett för att se vad det gjorde ensamt; välj det igen för att se allt.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Alla steg</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, ändringar: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>En lång text: bara de ändrade delarna visas.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>”%@” tog HTML-taggarnas &gt; innan ”%@” kom till dem. Stäng av ett av de två.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ rader utan ändringar: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ tecken: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ fler ändringar: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Texten är för lång för förhandsvisningen; bara början visas.</translation>
     </message>
@@ -1431,6 +1488,90 @@ MIT-licens</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>Rensad som: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Ändrat: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Tabbar</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Blanksteg</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Rader</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Skiftläge</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Citattecken</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Svarstecken</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Taggar</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Mönster</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Ersättningar</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Punkttecken</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Punkter</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Ordning</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Dubbletter</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Bindestreck</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Tillägg</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Kodning</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Tecken</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Ord</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Länkar</translation>
     </message>
     <message>
         <source>sFirstRules</source>

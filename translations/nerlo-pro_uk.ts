@@ -334,6 +334,15 @@
 Після (Вгорі праворуч): у цьому куті екрана</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>Називати, що змінило найбільше</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>До: вікно лише рахує.
+Після: Змінено: Пробіли 12, Лапки 4, Рядки 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>Кілька пробілів в один</translation>
     </message>
@@ -1219,6 +1228,54 @@
         <translation>Негайно очищає текст у буфері обміну з цими параметрами.</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>Текст до вибраного кроку або те, що змінилося в довгому тексті. Тут його не можна редагувати.</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>Ввести інший текст</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>Прибирає довгий текст із перегляду, щоб можна було ввести інший.</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>Кроки</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>Кроки, які щось змінили, і кількість змін. Виберіть крок, щоб побачити, що зробив він сам; виберіть його ще раз, щоб побачити все.</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>Усі кроки</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@, змін: %@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>Довгий текст: показано лише змінені частини.</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>«%@» забирає &gt; у тегів HTML раніше, ніж до них доходить «%@». Вимкніть одне з двох.</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ рядків без змін: %@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ символів: %@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ ще змін: %@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>Текст задовгий для перегляду; показано лише його початок.</translation>
     </message>
@@ -1431,6 +1488,90 @@
     <message>
         <source>sCleanedAs</source>
         <translation>Очищено як: %@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>Змінено: %@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>Табуляція</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>Пробіли</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>Рядки</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>Регістр</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>Лапки</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>Знаки відповіді</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>Теги</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>Шаблон</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>Заміни</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>Маркери</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>Крапки</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>Порядок</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>Повтори</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>Дефіси</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>Додавання</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>Кодування</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>Символи</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>Слова</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>Посилання</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -334,6 +334,15 @@
 之后（右上）：在屏幕的该角落</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>显示更改最多的规则</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>之前：窗口只计数。
+之后：已更改：空格 12、引号 4、行 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>多个空格合为一个</translation>
     </message>
@@ -1218,6 +1227,54 @@
         <translation>立即用这些选项清理剪贴板中的文本。</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>所选步骤之前的文本，或长文本中被更改的部分。此处不能编辑。</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>输入其他文本</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>从预览中取出长文本，以便您输入其他文本。</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>步骤</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>更改了内容的步骤及更改次数。选择一个可查看它单独的作用；再次选择可查看全部。</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>所有步骤</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@，更改：%@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>文本很长：仅显示被更改的部分。</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>“%@”在“%@”之前取走了 HTML 标签的 &gt;。请关闭两者之一。</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ 未更改的行：%@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ 字符：%@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ 其他更改：%@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>文本太长，预览只显示开头。</translation>
     </message>
@@ -1430,6 +1487,90 @@ MIT 许可证</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>清理方式：%@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>已更改：%@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>制表符</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>大小写</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>引号</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>回复标记</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>项目符号</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>省略号</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>排序</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>重复项</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>连字符</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>编码</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>字符</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>单词</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>链接</translation>
     </message>
     <message>
         <source>sFirstRules</source>

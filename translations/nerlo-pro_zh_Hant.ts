@@ -334,6 +334,15 @@
 之後（右上）：在螢幕的該角落</translation>
     </message>
     <message>
+        <source>sStatisticsRules</source>
+        <translation>顯示變更最多的規則</translation>
+    </message>
+    <message>
+        <source>sStatisticsRulesTip</source>
+        <translation>之前：視窗只計數。
+之後：已變更：空格 12、引號 4、行 3</translation>
+    </message>
+    <message>
         <source>sChangeMultipleSpacesToSingleSpace</source>
         <translation>多個空格合為一個</translation>
     </message>
@@ -1218,6 +1227,54 @@
         <translation>立即用這些選項清理剪貼簿中的文字。</translation>
     </message>
     <message>
+        <source>sPreviewShownBeforeTip</source>
+        <translation>所選步驟之前的文字，或長文字中被變更的部分。此處不能編輯。</translation>
+    </message>
+    <message>
+        <source>sPreviewClear</source>
+        <translation>輸入其他文字</translation>
+    </message>
+    <message>
+        <source>sPreviewClearTip</source>
+        <translation>從預覽中取出長文字，以便您輸入其他文字。</translation>
+    </message>
+    <message>
+        <source>sPreviewSteps</source>
+        <translation>步驟</translation>
+    </message>
+    <message>
+        <source>sPreviewStepsTip</source>
+        <translation>變更了內容的步驟及變更次數。選擇一個可檢視它單獨的作用；再次選擇可檢視全部。</translation>
+    </message>
+    <message>
+        <source>sPreviewAllSteps</source>
+        <translation>所有步驟</translation>
+    </message>
+    <message>
+        <source>sPreviewStep</source>
+        <translation>%@，變更：%@</translation>
+    </message>
+    <message>
+        <source>sPreviewLong</source>
+        <translation>文字很長：僅顯示被變更的部分。</translation>
+    </message>
+    <message>
+        <source>sPreviewMarksAteTags</source>
+        <translation>「%@」在「%@」之前取走了 HTML 標籤的 &gt;。請關閉兩者之一。</translation>
+    </message>
+    <message>
+        <source>sLeftOutLines</source>
+        <translation>⋯ 未變更的行：%@</translation>
+    </message>
+    <message>
+        <source>sLeftOutCharacters</source>
+        <translation> ⋯ 字元：%@ ⋯ </translation>
+    </message>
+    <message>
+        <source>sLeftOutChanges</source>
+        <translation>⋯ 其他變更：%@</translation>
+    </message>
+    <message>
         <source>sPreviewTooLong</source>
         <translation>文字太長，預覽只顯示開頭。</translation>
     </message>
@@ -1430,6 +1487,90 @@ MIT 授權</translation>
     <message>
         <source>sCleanedAs</source>
         <translation>清理方式：%@</translation>
+    </message>
+    <message>
+        <source>sChangedMost</source>
+        <translation>已變更：%@</translation>
+    </message>
+    <message>
+        <source>sListBetween</source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>sStepTabs</source>
+        <translation>定位字元</translation>
+    </message>
+    <message>
+        <source>sStepSpaces</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>sStepLines</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>sStepCase</source>
+        <translation>大小寫</translation>
+    </message>
+    <message>
+        <source>sStepQuotes</source>
+        <translation>引號</translation>
+    </message>
+    <message>
+        <source>sStepReplyMarks</source>
+        <translation>回覆標記</translation>
+    </message>
+    <message>
+        <source>sStepTags</source>
+        <translation>標籤</translation>
+    </message>
+    <message>
+        <source>sStepPattern</source>
+        <translation>樣式</translation>
+    </message>
+    <message>
+        <source>sStepReplacements</source>
+        <translation>取代</translation>
+    </message>
+    <message>
+        <source>sStepBullets</source>
+        <translation>項目符號</translation>
+    </message>
+    <message>
+        <source>sStepDots</source>
+        <translation>省略號</translation>
+    </message>
+    <message>
+        <source>sStepOrder</source>
+        <translation>排序</translation>
+    </message>
+    <message>
+        <source>sStepDuplicates</source>
+        <translation>重複項</translation>
+    </message>
+    <message>
+        <source>sStepHyphens</source>
+        <translation>連字號</translation>
+    </message>
+    <message>
+        <source>sStepAdditions</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>sStepEncoding</source>
+        <translation>編碼</translation>
+    </message>
+    <message>
+        <source>sStepCharacters</source>
+        <translation>字元</translation>
+    </message>
+    <message>
+        <source>sStepWords</source>
+        <translation>單字</translation>
+    </message>
+    <message>
+        <source>sStepLinks</source>
+        <translation>連結</translation>
     </message>
     <message>
         <source>sFirstRules</source>

@@ -8,7 +8,6 @@
 #include "shell/Mnemonics.h"
 #include "shell/StatusMenu.h"
 #include "shell/Strings.h"
-#include "shell/TextDiff.h"
 #include "shell/TipsWindow.h"
 #include "tests/shell/ProgramFixture.h"
 
@@ -16,6 +15,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QClipboard>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScreen>
@@ -61,7 +61,7 @@ class Preferences : public ProgramFixture {
     void showPage(int page) { control<QListWidget>("pageList").setCurrentRow(page); }
     // Runs the preview to its end.
     QString previewed(const QString &text) {
-        window->preview().setBefore(text);
+        window->preview().setBefore(text.toStdU16String());
         queue.advance(1s);
         worker.runAll();
         queue.runPosted();
@@ -336,6 +336,106 @@ TEST_F(Preferences, ThePreviewFollowsTheOptionsAndLeavesTheClipboardAlone) {
     EXPECT_EQ(previewed("x"), "x?");
 }
 
+TEST_F(Preferences, AStepOfThePreviewIsShownAlone) {
+    auto &steps = control<QTreeWidget>("previewSteps");
+    auto &typed = control<QPlainTextEdit>("previewBefore");
+    auto &shown = control<QPlainTextEdit>("previewShownBefore");
+    const auto rows = [&] {
+        QStringList all;
+        for (int row = 0; row < steps.topLevelItemCount(); ++row) {
+            all += steps.topLevelItem(row)->text(0) + " " + steps.topLevelItem(row)->text(1);
+        }
+        return all;
+    };
+    const auto choose = [&](int row) { steps.setCurrentItem(steps.topLevelItem(row)); };
+    EXPECT_EQ(previewed(" \u2022 a  b  c"), "a b c");
+    EXPECT_EQ(rows(), QStringList({"All steps 3", "Trim both ends of the text 1",
+                                   "Remove bullets 1", "Multiple spaces to one space 2"}));
+    choose(3);
+    EXPECT_EQ(shown.toPlainText(), "a  b  c");
+    EXPECT_FALSE(typed.isVisible());
+    EXPECT_EQ(window->preview().after(), "a b c");
+    EXPECT_EQ(window->preview().marked().size(), 0u);
+    choose(2);
+    EXPECT_EQ(window->preview().after(), "a  b  c");
+    const auto click = [&](int row) {
+        QTest::mouseClick(steps.viewport(), Qt::LeftButton, {},
+                          steps.visualItemRect(steps.topLevelItem(row)).center());
+    };
+    click(3);
+    EXPECT_EQ(window->preview().after(), "a b c");
+    // It stays chosen as long as it changes something.
+    control<QCheckBox>("udRemoveBullets").click();
+    control<QCheckBox>("udAddSuffix").click();
+    control<QLineEdit>("udSuffixTextField").setText("  !");
+    queue.advance(1s);
+    finishWork();
+    EXPECT_EQ(window->preview().after(), u"\u2022 a b c"_qs);
+    EXPECT_EQ(rows().size(), 4);
+    EXPECT_EQ(steps.currentItem()->text(0), "Multiple spaces to one space");
+    click(2);
+    EXPECT_EQ(steps.currentItem()->text(0), "All steps") << "chosen again";
+    EXPECT_TRUE(typed.isVisible());
+    EXPECT_EQ(window->preview().after(), u"\u2022 a b c  !"_qs);
+    choose(3);
+    EXPECT_EQ(window->preview().reasonsAt(7), "Add a suffix");
+    QTest::keyClick(&steps, Qt::Key_Escape);
+    EXPECT_EQ(steps.currentItem()->text(0), "All steps");
+
+    // What takes the tags before their turn comes is told.
+    const auto &note = control<QLabel>("previewNote");
+    control<QCheckBox>("udRemoveHTMLTags").click();
+    previewed("a > b");
+    EXPECT_TRUE(note.isHidden());
+    previewed("<b>a</b>");
+    EXPECT_TRUE(note.text().startsWith(u"“Remove reply marks” took"_qs))
+        << note.text().toStdString();
+    control<QCheckBox>("udRemoveReplyQuotes").click();
+    EXPECT_EQ(previewed("<b>a</b>"), "a  !");
+    EXPECT_TRUE(note.isHidden());
+}
+
+TEST_F(Preferences, OfALongTextTheChangedPartsAreShown) {
+    auto &typed = control<QPlainTextEdit>("previewBefore");
+    auto &shown = control<QPlainTextEdit>("previewShownBefore");
+    auto &clear = control<QPushButton>("previewClear");
+    std::string text;
+    for (int line = 0; line < 10'000; ++line) {
+        text += line == 4'500 ? "one  gap.\n" : "none.\n";
+    }
+    pasteboard.copyText(text);
+    control<QPushButton>("previewTake").click();
+    finishWork();
+    queue.advance(1s);
+    // Newer input ends what it finds under way, and only the last is shown.
+    control<QCheckBox>("udAddPrefix").click();
+    control<QLineEdit>("udPrefixTextField").setText("late ");
+    queue.advance(1s);
+    EXPECT_EQ(worker.size(), 1u);
+    worker.runAll();
+    queue.runPosted();
+    EXPECT_EQ(worker.size(), 1u);
+    EXPECT_EQ(window->preview().after(), "") << "the first was ended before it began";
+    finishWork();
+    EXPECT_FALSE(typed.isVisible());
+    EXPECT_TRUE(shown.toPlainText().contains("\none  gap.\n")) << shown.toPlainText().size();
+    EXPECT_TRUE(window->preview().after().startsWith("late none."));
+    EXPECT_TRUE(window->preview().after().contains(u"\n⋯ lines without changes: 4,497\n"_qs));
+    EXPECT_LT(window->preview().after().size(), 200);
+    clear.click();
+    EXPECT_TRUE(typed.isVisible());
+    EXPECT_FALSE(clear.isVisible());
+    // Pasting does not lay it out either.
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    typed.setPlainText("ab");
+    typed.moveCursor(QTextCursor::End);
+    typed.paste();
+    EXPECT_FALSE(typed.isVisible());
+    queue.advance(1s);
+    finishWork();
+    EXPECT_TRUE(window->preview().after().startsWith("late abnone."));
+}
+
 TEST_F(Preferences, ANarrowWindowHasThePreviewBelowTheOptions) {
     const QWidget &options = control<QStackedWidget>("pages");
     const QWidget &preview = window->preview();
@@ -457,29 +557,88 @@ TEST(Mnemonics, LettersAreSharedOut) {
     EXPECT_EQ(withMnemonics({"إزالة", "حالة"}, used), QStringList({"&إزالة", "حالة (&C)"}));
 }
 
-TEST(TextDiff, MarksWhatDiffers) {
-    using Spans = std::vector<TextSpan>;
+const LeftOutWords words{"%@ lines", "%@ characters", "%@ changes", QLocale("en_US")};
+
+// What is shown, with "[" and "]" around what is marked and "{" and "}" around what was left out.
+QString drawn(const ShownText &shown) {
+    QString text = shown.text;
+    std::map<std::size_t, QString> marks;
+    const auto mark = [&](const std::vector<TextSpan> &spans, const char *begin, const char *end) {
+        for (const TextSpan &span : spans) {
+            marks[span.start] += begin;
+            marks[span.start + span.length].prepend(end);
+        }
+    };
+    mark(shown.marked, "[", "]");
+    mark(shown.leftOut, "{", "}");
+    for (auto at = marks.rbegin(); at != marks.rend(); ++at) {
+        text.insert(static_cast<qsizetype>(at->first), at->second);
+    }
+    return text;
+}
+
+// Each unit that is shown stands there.
+void expectPlaces(const ShownText &shown, std::u16string_view text) {
+    for (std::size_t at = 0; at < static_cast<std::size_t>(shown.text.size()); ++at) {
+        const QChar unit = shown.text[static_cast<qsizetype>(at)];
+        const bool inText = std::ranges::none_of(shown.leftOut, [&](const TextSpan &span) {
+            return span.start <= at && at < span.start + span.length;
+        });
+        const std::size_t place = shown.placeOf(at);
+        ASSERT_EQ(place != ShownText::nowhere, inText) << at;
+        if (inText) {
+            ASSERT_LT(place, text.size());
+            ASSERT_EQ(text[place] == u'\r' ? QChar(u'\n') : QChar(text[place]), unit) << at;
+        }
+    }
+}
+
+std::u16string times(std::size_t count, std::u16string_view text) {
+    std::u16string all;
+    for (; count > 0; --count) {
+        all += text;
+    }
+    return all;
+}
+
+TEST(ShownChanges, AreAllOfAShortTextAndTheChangedPartsOfALongOne) {
+    const std::u16string lines = times(30'000, u"b\r\n");
+    const std::u16string line = times(60'000, u"\U0001f600");
     const struct {
         const char *shows;
         std::u16string before, after;
-        Spans removed, added;
+        QString shownBefore, shownAfter;
     } rows[] = {
-        {"the same", u"a b", u"a b", {}, {}},
-        {"both empty", u"", u"", {}, {}},
-        {"a space of two goes", u"a  b", u"a b", {{2, 1}}, {}},
-        {"a word for another", u"the cat sat", u"the dog sat", {{4, 3}}, {{4, 3}}},
-        {"neighbours are one span", u"x", u"x!?", {}, {{1, 2}}},
-        {"all new", u"", u"new", {}, {{0, 3}}},
-        {"a character of two units stays whole", u"\U0001f600", u"\U0001f601", {{0, 2}}, {{0, 2}}},
+        {"nothing", u"", u"", "", ""},
+        {"all of it", u"a  b\r\nc\r", u"a b\nc", "a [ ]b\nc[\n]", "a b\nc"},
+        {"parts", lines + u"x\r\n" + lines + u"y", lines + u"z\r\n" + lines + u"w",
+         "{29,999 lines\n}b\n[x]\nb\n{29,998 lines\n}b\n[y]",
+         "{29,999 lines\n}b\n[z]\nb\n{29,998 lines\n}b\n[w]"},
+        {"a long change", u"", line, "",
+         "[" + QString::fromStdU16String(times(1000, u"\U0001f600")) + "]{116,000 characters}[" +
+             QString::fromStdU16String(times(1000, u"\U0001f600")) + "]"},
+        {"inside a line", line + u"x", line,
+         "{119,600 characters}" + QString::fromStdU16String(times(200, u"\U0001f600")) + "[x]",
+         "{119,600 characters}" + QString::fromStdU16String(times(200, u"\U0001f600"))},
     };
     for (const auto &row : rows) {
-        const auto found = differences(row.before, row.after);
-        EXPECT_EQ(found.removed, row.removed) << row.shows;
-        EXPECT_EQ(found.added, row.added) << row.shows;
+        const ShownChanges shown = shownChanges(
+            row.before, row.after, text::differenceOf(row.before, row.after, 100), words);
+        EXPECT_EQ(drawn(shown.before), row.shownBefore) << row.shows;
+        EXPECT_EQ(drawn(shown.after), row.shownAfter) << row.shows;
+        expectPlaces(shown.before, row.before);
+        expectPlaces(shown.after, row.after);
     }
-    // Too long to be compared closely, it is still marked, and in no time.
-    const std::u16string dots(50'000, u'.'), commas(50'000, u',');
-    EXPECT_EQ(differences(dots, commas).added, (Spans{{0, 50'000}}));
+    // Neither the size nor the number of changes makes it longer.
+    const std::u16string spaces = times(100'000, u"a  ");
+    const std::u16string fewer = times(100'000, u"a ");
+    const text::Difference difference = text::differenceOf(spaces, fewer, 100'000);
+    const ShownChanges shown = shownChanges(spaces, fewer, difference, words);
+    EXPECT_LT(shown.before.text.size(), 11'000);
+    EXPECT_EQ(shown.changes, difference.count);
+    EXPECT_TRUE(shown.after.text.endsWith(" changes\n"));
+    expectPlaces(shown.before, spaces);
+    EXPECT_TRUE(shownChanges(lines, lines, {}, words).after.text.startsWith("b\nb\nb\n"));
 }
 
 using Menu = ProgramFixture;
