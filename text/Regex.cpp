@@ -1,11 +1,13 @@
 #include "text/Regex.h"
 
 #include "text/CountedText.h"
+#include "text/PatternSearch.h"
 #include "text/PatternSyntax.h"
 #include "text/Replace.h"
 #include "text/ReplacementTemplate.h"
 
 #include <unicode/uregex.h>
+#include <unicode/utf16.h>
 
 #include <algorithm>
 #include <limits>
@@ -45,6 +47,9 @@ std::uint64_t weightOfStep(std::u16string_view pattern, std::int32_t groups) {
     return 1 + (2 * static_cast<std::uint64_t>(groups) + static_cast<std::uint64_t>(loops)) / 6;
 }
 
+// Shorter texts are done before our own search is made.
+constexpr std::size_t smallestForSearch = 2048;
+
 // Where a text is counted by pieces, a step may look at most of a piece.
 constexpr std::uint64_t weightOfFarStep = 8;
 
@@ -70,6 +75,9 @@ struct Regex::Matcher {
     StepBudget budget;
     std::uint64_t charge = 0; // for each report
     CountedText counted;
+    std::u16string pattern;
+    bool ignoresCase = false;
+    std::optional<std::unique_ptr<PatternSearch>> search; // null if there can be none
 
     Matcher() = default;
     Matcher(const Matcher &) = delete;
@@ -93,36 +101,49 @@ struct Regex::Matcher {
     }
 
     bool setText(std::u16string_view text);
+    PatternSearch *searchFor(std::u16string_view text);
 };
 
-// One way through a text, match by match.
+// One way through a text, match by match: with our own search, and with ICU where there is none or
+// it gives the text up. ICU has its whole budget then, so that nothing is lost by having tried.
 class Regex::Walk {
   public:
     Walk(Matcher &matcher, std::u16string_view text)
         : matcher_(matcher)
         , text_(text)
-        , good_(matcher.setText(text)) {
-        if (good_ && matcher.firstUnits) {
-            cursor_.emplace(text, *matcher.firstUnits);
+        , search_(matcher.searchFor(text)) {
+        if (!search_) {
+            beginWithIcu();
         }
     }
 
     bool next() {
-        if (!good_) {
-            return false;
+        if (search_) {
+            switch (nextBySearch()) {
+            case Found::Yes:
+                return true;
+            case Found::No:
+                return false;
+            case Found::GivenUp:
+                search_ = nullptr;
+                beginWithIcu();
+                goesOnFrom_ = from_;
+            }
         }
-        const bool found = find();
-        // Once the budget is spent, what was found may be the work of a blank.
-        good_ = U_SUCCESS(status_) && !matcher_.budget.isSpent();
-        if (!good_ || !found) {
-            return false;
-        }
-        end_ = group(0).end;
-        return true;
+        return good_ && nextByIcu();
     }
 
     // Of the match; the empty range at 0 for one that has no part in it. Group 0 is the match.
     Range group(std::int32_t number) {
+        if (search_) {
+            if (number == 0) {
+                return match_;
+            }
+            if (!std::exchange(groupsAreOfMatch_, true)) {
+                good_ = good_ && search_->findGroups() == Found::Yes;
+            }
+            return search_->group(static_cast<std::size_t>(number));
+        }
         const std::int64_t begin = uregex_start64(matcher_.expression, number, &status_);
         const std::int64_t end = uregex_end64(matcher_.expression, number, &status_);
         return begin < 0 ? Range{}
@@ -133,7 +154,47 @@ class Regex::Walk {
     bool isGood() const { return good_; }
 
   private:
+    void beginWithIcu() {
+        good_ = matcher_.setText(text_);
+        if (good_ && matcher_.firstUnits) {
+            cursor_.emplace(text_, *matcher_.firstUnits);
+        }
+    }
+
+    Found nextBySearch() {
+        if (from_ > text_.size()) {
+            return Found::No;
+        }
+        const auto found = search_->find(from_, match_);
+        if (found == Found::Yes) {
+            groupsAreOfMatch_ = false;
+            from_ = end_ = match_.end;
+            if (match_.begin == match_.end && from_ < text_.size()) {
+                U16_FWD_1(text_, from_, text_.size());
+            } else if (match_.begin == match_.end) {
+                ++from_;
+            }
+        }
+        return found;
+    }
+
+    bool nextByIcu() {
+        const bool found = find();
+        // Once the budget is spent, what was found may be the work of a blank.
+        good_ = U_SUCCESS(status_) && !matcher_.budget.isSpent();
+        if (!good_ || !found) {
+            return false;
+        }
+        end_ = group(0).end;
+        return true;
+    }
+
     bool find() {
+        if (goesOnFrom_) {
+            const std::size_t at = *std::exchange(goesOnFrom_, std::nullopt);
+            return at <= text_.size() &&
+                   uregex_find64(matcher_.expression, static_cast<std::int64_t>(at), &status_) != 0;
+        }
         if (cursor_) {
             const std::size_t at = cursor_->nextFrom(end_);
             if (at == text_.size()) {
@@ -150,10 +211,15 @@ class Regex::Walk {
 
     Matcher &matcher_;
     std::u16string_view text_;
+    PatternSearch *search_;
+    Range match_{};        // found by our own search
+    std::size_t from_ = 0; // where its next search begins; behind the text when there is none
+    bool groupsAreOfMatch_ = false;
+    std::optional<std::size_t> goesOnFrom_; // where ICU begins in its place
     std::optional<UnitCursor> cursor_;
     std::size_t end_ = 0; // of the last match
     UErrorCode status_ = U_ZERO_ERROR;
-    bool good_;
+    bool good_ = true;
 };
 
 Regex::Regex(std::unique_ptr<Matcher> matcher)
@@ -192,6 +258,8 @@ std::optional<Regex> Regex::compile(std::u16string_view pattern, Case letterCase
     if (U_FAILURE(status)) {
         return std::nullopt;
     }
+    matcher->pattern = pattern;
+    matcher->ignoresCase = letterCase == Case::Insensitive;
     matcher->patternSize = pattern.size();
     matcher->farLooks = farLooks(pattern);
     matcher->weight = weightOfStep(pattern, uregex_groupCount(matcher->expression, &status));
@@ -200,6 +268,19 @@ std::optional<Regex> Regex::compile(std::u16string_view pattern, Case letterCase
     }
     uregex_setMatchCallback(matcher->expression, Matcher::goOn, matcher.get(), &status);
     return U_SUCCESS(status) ? std::optional(Regex(std::move(matcher))) : std::nullopt;
+}
+
+PatternSearch *Regex::Matcher::searchFor(std::u16string_view text) {
+    if (text.size() < smallestForSearch || text.size() > longest) {
+        return nullptr;
+    }
+    if (!search) {
+        search = PatternSearch::make(pattern, ignoresCase);
+    }
+    if (*search) {
+        (*search)->setText(text);
+    }
+    return search->get();
 }
 
 bool Regex::Matcher::setText(std::u16string_view text) {
@@ -240,6 +321,48 @@ std::optional<std::vector<Range>> Regex::findAll(std::u16string_view text) {
     return walk.isGood() ? std::optional(std::move(ranges)) : std::nullopt;
 }
 
+namespace {
+
+struct Replaced {
+    Range match;
+    std::size_t size; // of what takes its place
+};
+
+// In the text's own memory if it gets longer at no place.
+std::u16string withReplaced(std::u16string text, const std::vector<Replaced> &replaced,
+                            std::u16string_view inserted) {
+    std::size_t size = text.size();
+    bool fits = true;
+    for (const auto &[match, length] : replaced) {
+        size = size - (match.end - match.begin) + length;
+        fits = fits && size <= text.size();
+    }
+    std::u16string made;
+    if (!fits) {
+        made.resize(size);
+    }
+    char16_t *to = fits ? text.data() : made.data();
+    std::size_t copied = 0;
+    const auto copy = [&to](const char16_t *from, std::size_t count) {
+        std::char_traits<char16_t>::move(to, from, count);
+        to += count;
+    };
+    for (const auto &[match, length] : replaced) {
+        copy(text.data() + copied, match.begin - copied);
+        copy(inserted.data(), length);
+        inserted.remove_prefix(length);
+        copied = match.end;
+    }
+    copy(text.data() + copied, text.size() - copied);
+    if (fits) {
+        text.resize(size);
+        return text;
+    }
+    return made;
+}
+
+} // namespace
+
 bool Regex::replaceAll(std::u16string &text, std::u16string_view replacement) {
     const auto pieces = parseTemplate(replacement, matcher_->expression);
     if (pieces.size() == 1) {
@@ -250,25 +373,23 @@ bool Regex::replaceAll(std::u16string &text, std::u16string_view replacement) {
         return matches.has_value();
     }
     const std::u16string_view source = text;
-    const auto part = [&](const Range &range) {
-        return source.substr(range.begin, range.end - range.begin);
-    };
-    std::u16string result;
-    std::size_t copied = 0;
+    std::u16string inserted; // for one match after another
+    std::vector<Replaced> replaced;
     Walk walk(*matcher_, text);
     while (walk.next()) {
         const Range match = walk.group(0);
-        result.append(part({copied, match.begin}));
+        const std::size_t before = inserted.size();
         for (const TemplatePiece &piece : pieces) {
-            result.append(piece.text);
+            inserted.append(piece.text);
             if (piece.group != TemplatePiece::noGroup) {
-                result.append(part(walk.group(piece.group)));
+                const Range part = walk.group(piece.group);
+                inserted.append(source, part.begin, part.end - part.begin);
             }
         }
-        copied = match.end;
+        replaced.push_back({match, inserted.size() - before});
     }
     if (walk.isGood()) {
-        text = result.append(source.substr(copied));
+        text = withReplaced(std::move(text), replaced, inserted);
     }
     return walk.isGood();
 }

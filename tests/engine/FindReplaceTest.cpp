@@ -99,10 +99,13 @@ TEST(CustomPattern, CannotHangOrCrash) {
         const std::u16string &text;
     };
     const Case cases[] = {
-        {u"(a+)+$", 0, letters},        {u"(?:.|\n)*x", 1, longer},
+        {u"(a+)+$", 0, letters},
+        {u"(?:.|\n|\\p{L})*x", 1, longer},
         {u"(?:[^x]*+y)?", 0, longer}, // from here on far looks that save no states
-        {u"a(?=[\\s\\S]*+)", 1, far},   {u"(?:(?=[\\s\\S]*+)a)*", 0, far},
-        {u"(a*)b|(?:(a*)\\2)", 1, far}, {u"(?:.|..)*\\b!x", 0, marks},
+        {u"a(?=[\\s\\S]*+)", 1, far},
+        {u"(?:(?=[\\s\\S]*+)a)*", 0, far},
+        {u"(a*)b|(?:(a*)\\2)|\\p{N}", 1, far},
+        {u"(?:.|..|\\p{L})*\\b!x", 0, marks},
     };
     for (const Case &row : cases) {
         CleaningReport report;
@@ -122,6 +125,8 @@ TEST(CustomPattern, WorksOnLongTextsWhereItIsSound) {
     std::ranges::replace(one, u'\n', u' ');
     EXPECT_EQ(insertYourPattern(one, u".*quoted.*", 1), u"");
     EXPECT_EQ(insertYourPattern(lines, u"(?s).*quoted", 1), u"");
+    EXPECT_EQ(insertYourPattern(lines, u"(?:.|\\n)*x", 1), u"");
+    EXPECT_EQ(insertYourPattern(std::u16string(100'000, u'a') + u'!', u"(a+)+$", 1), u"");
     EXPECT_EQ(insertYourPattern(std::u16string(900'000, u'b'), u"(?:b|c)*", 0), u"");
 }
 

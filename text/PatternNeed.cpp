@@ -1,0 +1,151 @@
+#include "text/PatternNeed.h"
+
+#include <unicode/utf16.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace nerlo::text {
+
+namespace {
+
+using Kind = PatternNode::Kind;
+
+// A literal that is met more often than this saves nothing.
+constexpr unsigned mostCommon = 150;
+
+class NeedFinder {
+  public:
+    explicit NeedFinder(const PatternTree &tree)
+        : tree_(tree) {}
+
+    PatternNeed find() {
+        read(tree_.root);
+        close();
+        return std::move(need_);
+    }
+
+  private:
+    // Goes on with the run of literal characters, or ends it, with what must match in order.
+    void read(const PatternNode &node) {
+        switch (node.kind) {
+        case Kind::Set:
+            readSet(tree_.sets[node.number]);
+            break;
+        case Kind::Sequence:
+        case Kind::Group:
+            for (const PatternNode &part : node.parts) {
+                read(part);
+            }
+            break;
+        case Kind::Repeat:
+            readRepeat(node);
+            break;
+        case Kind::Choice:
+        case Kind::Folded:
+        case Kind::Again:
+            close();
+            collect(node);
+            break;
+        case Kind::Assert:
+            break; // takes no character
+        }
+    }
+
+    void readSet(const CodePoints &points) {
+        need_.around.add(points);
+        if (points.sizeUpToTwo() != 1) {
+            close();
+            return;
+        }
+        std::int32_t size = 0;
+        char16_t units[U16_MAX_LENGTH];
+        U16_APPEND_UNSAFE(units, size, points.spans().front().first);
+        run_.append(units, static_cast<std::size_t>(size));
+    }
+
+    void readRepeat(const PatternNode &node) {
+        if (node.least == 0) {
+            close();
+            collect(node);
+            return;
+        }
+        read(node.parts.front()); // the first time round
+        if (node.most > 1) {
+            close();
+        }
+    }
+
+    // Only for what matches consist of.
+    void collect(const PatternNode &node) {
+        if (node.kind == Kind::Folded) {
+            need_.around = CodePoints(0, lastCodePoint);
+        } else if (node.kind == Kind::Set) {
+            need_.around.add(tree_.sets[node.number]);
+        }
+        for (const PatternNode &part : node.parts) {
+            collect(part);
+        }
+    }
+
+    void close() {
+        const std::u16string run = std::exchange(run_, {});
+        if (run.empty()) {
+            return;
+        }
+        const auto rarestOf = [&run](std::size_t except) {
+            std::size_t rarest = except == 0 && run.size() > 1 ? 1 : 0;
+            for (std::size_t at = 0; at < run.size(); ++at) {
+                if (at != except && commonness(run[at]) < commonness(run[rarest])) {
+                    rarest = at;
+                }
+            }
+            return rarest;
+        };
+        const std::size_t rarest = rarestOf(run.size());
+        const std::size_t second = rarestOf(rarest);
+        const unsigned places = placesOf(run[rarest], run[second], run.size());
+        if (places < best_) {
+            best_ = places;
+            need_ = {run, rarest, second, places, std::move(need_.around)};
+        }
+    }
+
+    static unsigned placesOf(char16_t rarest, char16_t second, std::size_t size) {
+        constexpr unsigned all = 10'000;
+        return size == 1 ? commonness(rarest)
+                         : std::max(1u, 4 * commonness(rarest) * commonness(second) / all);
+    }
+
+    static constexpr char32_t lastCodePoint = 0x10FFFF;
+
+    const PatternTree &tree_;
+    PatternNeed need_;
+    std::u16string run_;
+    unsigned best_ = mostCommon;
+};
+
+} // namespace
+
+unsigned commonness(char16_t unit) {
+    if (unit == u' ') {
+        return 1600;
+    }
+    constexpr std::u16string_view letters = u"etaoinsrhldcumfpgwybvkxjqz";
+    constexpr unsigned most = 1000;
+    const std::size_t rank = letters.find(unit);
+    if (rank != letters.npos) {
+        return most / static_cast<unsigned>(1 + rank / 3);
+    }
+    constexpr std::u16string_view usual = u",.-'\"\n\r";
+    constexpr unsigned ofUsual = 100;
+    constexpr unsigned ofOthers = 10;
+    return usual.find(unit) != usual.npos ? ofUsual : ofOthers;
+}
+
+PatternNeed neededBy(const PatternTree &tree) {
+    return NeedFinder(tree).find();
+}
+
+} // namespace nerlo::text

@@ -1,0 +1,105 @@
+#include "text/PatternSearch.h"
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+namespace nerlo::text {
+
+PatternSearch::PatternSearch(const PatternTree &tree, PatternNeed need,
+                             std::unique_ptr<PatternReader> reader)
+    : reader_(std::move(reader))
+    , backtracker_(*reader_, tree.groups)
+    , need_(std::move(need))
+    , hasStretches_(!need_.around.complement().spans().empty()) {
+    if (!tree.hasAgain) {
+        automaton_.emplace(*reader_);
+    }
+    if (need_.places >= reader_->begins()) {
+        need_.literal.clear();
+    }
+}
+
+std::unique_ptr<PatternSearch> PatternSearch::make(std::u16string_view pattern, bool ignoresCase) {
+    const auto tree = parsePattern(pattern, ignoresCase);
+    if (!tree) {
+        return nullptr;
+    }
+    PatternNeed need = neededBy(*tree);
+    auto reader = PatternReader::make(*tree, need.around);
+    return reader ? std::unique_ptr<PatternSearch>(
+                        new PatternSearch(*tree, std::move(need), std::move(reader)))
+                  : nullptr;
+}
+
+void PatternSearch::setText(std::u16string_view text) {
+    reader_->setText(text);
+    backtracker_.start();
+    if (automaton_) {
+        automaton_->start();
+    }
+    literalAt_.reset();
+}
+
+Found PatternSearch::findUntil(std::size_t from, std::size_t until, Range &match) {
+    const Found found =
+        automaton_ ? automaton_->find(from, until, match) : backtracker_.find(from, until, match);
+    match_ = match;
+    return found;
+}
+
+// Whether the literal is anywhere from `from` on; then literalAt_ is there.
+bool PatternSearch::toLiteral(std::size_t from) {
+    const std::u16string_view text = reader_->text();
+    if (literalAt_ && *literalAt_ >= from) {
+        return *literalAt_ < text.size();
+    }
+    const std::u16string &literal = need_.literal;
+    const std::size_t blocks = text.size() < literal.size() ? 0 : text.size() - literal.size() + 1;
+    std::size_t at = from;
+    for (; at + scanBlock <= blocks; at += scanBlock) {
+        std::uint64_t both = scanUnit(text.data() + at + need_.rarest, literal[need_.rarest]);
+        both &= both == 0 || need_.second == need_.rarest
+                    ? both
+                    : scanUnit(text.data() + at + need_.second, literal[need_.second]);
+        for (; both != 0; both &= both - 1) {
+            const std::size_t begin = at + static_cast<std::size_t>(std::countr_zero(both));
+            if (text.substr(begin).starts_with(literal)) {
+                literalAt_ = begin;
+                return true;
+            }
+        }
+    }
+    literalAt_ = std::min(text.find(literal, at), text.size());
+    return *literalAt_ < text.size();
+}
+
+// A match lies within a stretch of the characters that matches consist of, and the literal in it.
+Found PatternSearch::find(std::size_t from, Range &match) {
+    const std::size_t size = reader_->text().size();
+    if (need_.literal.empty()) {
+        return findUntil(from, size, match);
+    }
+    while (toLiteral(from)) {
+        if (!hasStretches_) {
+            return findUntil(from, size, match);
+        }
+        const std::size_t end = reader_->endOfStretch(*literalAt_);
+        const Found found = findUntil(reader_->beginOfStretch(*literalAt_, from), end, match);
+        if (found != Found::No) {
+            return found;
+        }
+        from = end;
+    }
+    return Found::No;
+}
+
+Found PatternSearch::findGroups() {
+    if (!automaton_) {
+        return Found::Yes;
+    }
+    Range match;
+    return backtracker_.matchAt(match_.begin, match) == Found::Yes ? Found::Yes : Found::GivenUp;
+}
+
+} // namespace nerlo::text
