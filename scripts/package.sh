@@ -1,6 +1,6 @@
 #!/bin/bash
-# package.sh [FOLDER]: builds the Debian packages of nerlo and nerlo-pro and puts them into FOLDER
-# (build/packages if none is given).
+# package.sh [FOLDER]: builds the Debian packages (nerlo, nerlo-pro, libnerlo1, libnerlo-dev and
+# python3-nerlo) and puts them into FOLDER (build/packages if none is given).
 #
 # Installs what is missing. Where the checkers are installed (group "package" of packages.sh), it
 # also fails on what they call an error.
@@ -16,14 +16,16 @@ cd "$root"
 release=$(sed -n 's/^## [0-9.]* (\(.*\))$/\1/p' CHANGELOG.md | head -n 1)
 SOURCE_DATE_EPOCH=$(date -u -d "$release 12:00" +%s)
 export SOURCE_DATE_EPOCH DEB_BUILD_MAINT_OPTIONS=hardening=+all
-# Libraries of headers alone: their code becomes part of `nerlo`. ICU does not, unlike in a build of
+# Libraries of headers alone: their code becomes part of ours. ICU does not, unlike in a build of
 # one's own: a fix in it reaches the program, and the package is a tenth of the size.
-notices=$(printf ';/usr/share/doc/%s/copyright' libcli11-dev nlohmann-json3-dev)
+json=/usr/share/doc/nlohmann-json3-dev/copyright
 cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=None \
     -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS) -DNDEBUG" \
     -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" \
+    -DCMAKE_SHARED_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" \
     -DCMAKE_INSTALL_PREFIX=/usr -DNERLO_TESTS=OFF -DNERLO_BENCH=OFF \
-    -DNERLO_STATIC_ICU=OFF -DNERLO_NOTICES_nerlo="${notices#;}"
+    -DNERLO_STATIC_ICU=OFF -DNERLO_NOTICES_nerlo="/usr/share/doc/libcli11-dev/copyright;$json" \
+    -DNERLO_NOTICES_nerlo-pro="$json" -DNERLO_NOTICES_libnerlo1="$json"
 cmake --build "$build"
 
 desktop-file-validate "$root/packaging/org.nerlo.NerloPro.desktop"
@@ -39,6 +41,12 @@ rm -f "$build"/*.deb
 for package in "$build"/*.deb; do
     rm -rf "$build/unpacked"
     dpkg-deb -R "$package" "$build/unpacked"
+    name=$(dpkg-deb -f "$package" Package)
+    if [ "$name" = libnerlo1 ]; then
+        # Fails if a symbol has gone, or has come without a version of its own.
+        dpkg-gensymbols -c4 -q -p"$name" -v"$(dpkg-deb -f "$package" Version)" -P"$build/unpacked" \
+            -I"$root/packaging/deb/$name.symbols" -O"$build/unpacked/DEBIAN/symbols" >&2
+    fi
     dpkg-deb --root-owner-group -b "$build/unpacked" "$package" >/dev/null
 done
 lintian --fail-on error --suppress-tags initial-upload-closes-no-bugs "$build"/*.deb
