@@ -43,9 +43,11 @@ for package in "$build"/*.deb; do
     dpkg-deb -R "$package" "$build/unpacked"
     name=$(dpkg-deb -f "$package" Package)
     if [ "$name" = libnerlo1 ]; then
+        # CPack's, which call ldconfig at once; the package's own trigger does at the end.
+        rm "$build"/unpacked/DEBIAN/post{inst,rm}
         # Fails if a symbol has gone, or has come without a version of its own.
         dpkg-gensymbols -c4 -q -p"$name" -v"$(dpkg-deb -f "$package" Version)" -P"$build/unpacked" \
-            -I"$root/packaging/deb/$name.symbols" -O"$build/unpacked/DEBIAN/symbols" >&2
+            -I"$root/packaging/deb/$name/symbols" -O"$build/unpacked/DEBIAN/symbols" >&2
     fi
     dpkg-deb --root-owner-group -b "$build/unpacked" "$package" >/dev/null
 done
