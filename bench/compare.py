@@ -217,10 +217,7 @@ class Bench:
         command = [self.arguments.nerlo, "batch", "--locale", "en_US", "--jobs"]
         ratio, _ = self.pairs(lambda: self.run(command + ["2"], source),
                               lambda: self.run(command + ["1"], source))
-        outputs = [os.path.join(self.cache, "answers-" + jobs) for jobs in "12"]
-        for jobs, output in zip("12", outputs):
-            self.run(command + [jobs], source, output=output)
-        same = subprocess.run(["cmp", "-s", *outputs]).returncode == 0
+        same = self.same_files(*(self.written(command + [jobs], source) for jobs in "12"))
         table = Table("requests", "wall", "CPU", "goal", "verdict")
         table.add("20,000" + (" (=)" if same else " (ANSWERS DIFFER)"), ratio.wall, ratio.cpu, .6,
                   verdict(ratio.wall, .6))
@@ -262,6 +259,32 @@ class Bench:
             crc = zlib.crc32(file.read())
         os.remove(result)
         return crc
+
+    def fields(self):
+        print("`nerlo batch --field text` over 16 MB of prose in some 5,500 records; the same bytes for any "
+              "`--jobs`: (=).\n")
+        prose = os.path.join(self.corpus(16), "prose.txt")
+        source = os.path.join(self.cache, "records.jsonl")
+        write_records(source, prose, 5500)
+        clean = [self.arguments.nerlo, "clean", "--locale", "en_US"]
+        filter_ = [self.arguments.nerlo, "batch", "--field", "text", "--locale", "en_US", "--jobs"]
+        same = self.same_files(*(self.written(filter_ + [jobs], source) for jobs in "12"))
+        table = Table("records", "divided by", "wall", "CPU", "goal", "verdict")
+        ratio, _ = self.pairs(lambda: self.run(filter_ + ["1"], source), lambda: self.run(clean, prose))
+        table.add("--jobs 1", "clean", ratio.wall, ratio.cpu, "CPU 1.5", verdict(ratio.cpu, 1.5))
+        ratio, _ = self.pairs(lambda: self.run(filter_ + ["2"], source),
+                              lambda: self.run(filter_ + ["1"], source))
+        table.add("--jobs 2" + (" (=)" if same else " (RECORDS DIFFER)"), "--jobs 1", ratio.wall,
+                  ratio.cpu, "wall 0.60", verdict(ratio.wall, .6))
+
+    def written(self, command, source):
+        output = os.path.join(self.cache, "written-" + command[-1])
+        self.run(command, source, output=output)
+        return output
+
+    @staticmethod
+    def same_files(*paths):
+        return subprocess.run(["cmp", "-s", *paths]).returncode == 0
 
 
 class Table:
@@ -315,6 +338,22 @@ def write_requests(path, count):
             file.write(json.dumps(request, ensure_ascii=False) + "\n")
 
 
+def write_records(path, prose, count):
+    """The text, cut into so many records of any length, with members beside it."""
+    cut = random.Random("records").uniform
+    with open(prose, encoding="utf-8", newline="") as file:
+        text = file.read()
+    size = len(text) / count
+    with open(path, "w", encoding="utf-8") as file:
+        at = number_ = 0
+        while at < len(text):
+            end = at + round(size * cut(.2, 1.8))
+            record = {"id": number_, "url": "https://example.org/%d" % number_, "text": text[at:end],
+                      "meta": {"language": "en", "score": .5}}
+            file.write(json.dumps(record, ensure_ascii=False) + "\n")
+            at, number_ = end, number_ + 1
+
+
 def machine():
     def first_line(*argv):
         with contextlib.suppress(OSError):
@@ -339,7 +378,7 @@ def machine():
 
 
 def main():
-    tables = ("speed", "own-patterns", "clip", "growth", "hostile", "start", "batch", "library")
+    tables = ("speed", "own-patterns", "clip", "growth", "hostile", "start", "batch", "fields", "library")
     names = [row.name for row in ROWS + PATTERNS]
     parser = argparse.ArgumentParser(
         prog="bench.sh", description="How nerlo compares with other tools, as ratios.")

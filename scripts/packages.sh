@@ -19,7 +19,8 @@ desktop_build="qt6-base-dev qt6-wayland qt6-tools-dev qt6-tools-dev-tools qt6-l1
     qt6-svg-dev libxcb1-dev libxcb-xfixes0-dev libxcb-keysyms1-dev libxcb-xkb-dev
     libxkbcommon-dev libxkbcommon-x11-dev libwayland-dev libwayland-bin
     wayland-protocols"
-test="libgtest-dev libbenchmark-dev unicode-data bzip2 locales git python3"
+test="libgtest-dev libbenchmark-dev unicode-data bzip2 locales git python3 parallel
+    python3-distributed"
 bench="libbenchmark-dev coreutils sed perl gawk sd python3 locales"
 desktop_test="dbus-daemon dbus-bin at-spi2-core libglib2.0-bin procps fonts-dejavu-core
     xvfb openbox xclip xdotool x11-utils x11-xserver-utils x11-xkb-utils
