@@ -20,7 +20,7 @@ import time
 import zlib
 
 import make_corpus
-from operations import KEEPS, PATTERNS, ROWS
+from operations import ENDLESS, ENDLESS_PEAK, KEEPS, PATTERNS, ROWS, STREAM_GOAL, STREAMS
 
 LONGEST = 300  # seconds, after which a run is stopped
 MEGABYTE = 1e6
@@ -71,8 +71,9 @@ class Bench:
         command = row.command.format(nerlo=self.arguments.nerlo, options=path)
         return ["sh", "-c", command] if "|" in command else command.split()
 
-    def run(self, argv, source, environment=None, output=os.devnull):
-        actions = [(os.POSIX_SPAWN_OPEN, 0, source, os.O_RDONLY, 0),
+    def run(self, argv, source, environment=None, output=os.devnull, descriptor=None):
+        actions = [(os.POSIX_SPAWN_OPEN, 0, source, os.O_RDONLY, 0) if descriptor is None else
+                   (os.POSIX_SPAWN_DUP2, descriptor, 0),
                    (os.POSIX_SPAWN_OPEN, 1, output, os.O_WRONLY | os.O_CREAT | os.O_TRUNC, 0o644)]
         begin = time.perf_counter()
         pid = os.posix_spawnp(argv[0], argv, environment or self.environment, file_actions=actions)
@@ -138,6 +139,39 @@ class Bench:
                           ("CPU " if tool.by == "cpu" else "") + number(tool.goal), tool.stretch,
                           verdict(judged, tool.goal, tool.stretch))
         return ratios
+
+    def streams(self):
+        print("The same through a pipe, whose writer is not counted.\n")
+        rows = {row.name: row for row in ROWS}
+        table = Table("operation", "tool", "wall", "CPU", "goal", "verdict")
+        for name, tool_name in STREAMS:
+            row = rows[name]
+            tool = next(rival for rival in row.rivals if rival.name == tool_name)
+            writer, ours = ["cat", self.text(row)], self.ours(row)
+            ratio, _ = self.pairs(lambda: self.run_on_pipe(ours, writer, self.environment),
+                                  lambda: self.run_on_pipe(tool.argv, writer, self.tools))
+            table.add(row.title, tool.name, ratio.wall, ratio.cpu, "CPU " + number(STREAM_GOAL),
+                      verdict(ratio.cpu, STREAM_GOAL))
+        size = 1 if self.arguments.quick else 10
+        print("\nThree operations on %d GB that nobody stores; the peak in MB, which includes the program.\n" % size)
+        table = Table("text", "peak", "goal", "verdict")
+        for title, maker, arguments in ENDLESS:
+            script = maker.format(prose=os.path.join(self.full, "prose.txt"))
+            writer = ["sh", "-c", "{ %s; } 2>/dev/null | head -c %dG" % (script, size)]
+            argv = [self.arguments.nerlo, "clean", "--locale", "en_US", *arguments.split()]
+            peak = self.run_on_pipe(argv, writer, self.environment).peak / MEGABYTE
+            table.add(title, peak, number(ENDLESS_PEAK), verdict(peak, ENDLESS_PEAK))
+
+    def run_on_pipe(self, argv, writer, environment):
+        # Not a FIFO of the cache, which another bench might read.
+        reads, writes = os.pipe()
+        feeder = subprocess.Popen(writer, stdout=writes, env=self.environment)
+        os.close(writes)
+        try:
+            return self.run(argv, "/dev/fd/%d" % reads, environment, descriptor=reads)
+        finally:
+            os.close(reads)
+            feeder.wait()
 
     def clip(self):
         print("A clip of 1 KB in one process, ours divided by one ICU pass of `[ ]+`, compiled each "
@@ -378,7 +412,7 @@ def machine():
 
 
 def main():
-    tables = ("speed", "own-patterns", "clip", "growth", "hostile", "start", "batch", "fields", "library")
+    tables = ("speed", "own-patterns", "streams", "clip", "growth", "hostile", "start", "batch", "fields", "library")
     names = [row.name for row in ROWS + PATTERNS]
     parser = argparse.ArgumentParser(
         prog="bench.sh", description="How nerlo compares with other tools, as ratios.")

@@ -252,3 +252,15 @@ PATTERNS = [
     pattern("leading", "leading numbers", r"(?m)^\d+[.)] ", r"^\d+[.)] "),
     pattern("marks", "repeated marks", r"([!?])\1+", None, "$1"),
 ]
+
+# By a pipe that the text comes through: the rows, with the names of their tools. The goal is the tool's CPU time.
+STREAMS = (("tabs", "tr -d"), ("reply-marks", "tr -d"), ("spaces", "tr -s"), ("white-space", "tr -s"),
+           ("break-runs", "tr, tr"))
+STREAM_GOAL = .7
+# Operations that an endless text goes through, by what makes it, and the most memory in megabytes.
+THREE_LOCAL = "--operation collapse-spaces --operation remove-reply-marks --operation %s"
+ENDLESS = (("prose, on bytes", "while cat {prose}; do :; done", THREE_LOCAL % "remove-tabs"),
+           ("prose, decoded", "while cat {prose}; do :; done", THREE_LOCAL % "change-case --set udChangeCaseOption=2"),
+           ("a letter a line", "yes", THREE_LOCAL % "remove-space-around-return"),
+           ("empty lines", "yes ''", THREE_LOCAL % "change-returns"))
+ENDLESS_PEAK = 20

@@ -69,12 +69,14 @@ std::string jsonLine(const TextStatistics &counts, const std::string &file) {
 
 TextStatistics countFile(const std::string &file, const std::string &locale, Progress &progress) {
     TextReader reader(file, progress);
-    TextStatistics counts;
-    reader.readPieces(engine::lastCountingCut, [&](const std::u16string &piece) {
-        counts += engine::countAll(piece, locale);
-    });
+    engine::StreamCounter counter(locale);
+    std::u16string piece;
+    for (bool more = true; more;) {
+        more = reader.readBlock(piece);
+        counter.feed(piece);
+    }
     progress.addDone(reader.bytes());
-    return counts;
+    return counter.counts();
 }
 
 ExitStatus runCount(const CountArguments &arguments) {

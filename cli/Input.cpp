@@ -9,6 +9,7 @@
 #include <new>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -84,7 +85,10 @@ std::size_t readSome(int descriptor, char *data, std::size_t size, const std::st
         if (count >= 0) {
             return static_cast<std::size_t>(count);
         }
-        if (errno != EINTR) {
+        if (errno == EAGAIN) { // another program has made the pipe or terminal not wait
+            pollfd ready{.fd = descriptor, .events = POLLIN, .revents = 0};
+            poll(&ready, 1, -1);
+        } else if (errno != EINTR) {
             throw Failure(ExitStatus::ioFailed, systemMessage(name, errno));
         }
     }
@@ -115,6 +119,27 @@ Bytes readBytes(int descriptor, const std::string &name, Progress &progress) {
     }
 }
 
+namespace {
+
+bool statusOf(const std::string &file, struct stat &status) {
+    return (file == "-" ? fstat(STDIN_FILENO, &status) : stat(file.c_str(), &status)) == 0;
+}
+
+} // namespace
+
+bool canBeChecked(const std::string &file) {
+    struct stat status {};
+    return !statusOf(file, status) || S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
+}
+
+bool isOutput(const std::string &file) {
+    struct stat status {};
+    struct stat output {};
+    return statusOf(file, status) && fstat(STDOUT_FILENO, &output) == 0 &&
+           S_ISREG(status.st_mode) && status.st_dev == output.st_dev &&
+           status.st_ino == output.st_ino;
+}
+
 TextReader::TextReader(const std::string &file, Progress &progress)
     : name_(nameOf(file))
     , progress_(progress)
@@ -125,32 +150,75 @@ std::size_t TextReader::sizeHint() const {
     return cli::sizeHint(input_.descriptor());
 }
 
-bool TextReader::readBlock(std::u16string &text) {
-    const std::size_t count = readSome(input_.descriptor(), block_.get(), blockSize, name_);
-    if (count == 0) {
-        decoder_.finish();
-    } else {
-        try {
-            decoder_.decode({block_.get(), count}, text);
-        } catch (const std::bad_alloc &) {
-            throw Failure(ExitStatus::ioFailed, systemMessage(name_, ENOMEM));
-        }
-        bytes_ += count;
-        progress_.addRead(count);
-        ending_.append(block_.get() + count - std::min<std::size_t>(count, 2),
-                       block_.get() + count);
-        ending_.erase(0, ending_.size() - std::min<std::size_t>(ending_.size(), 2));
+bool TextReader::readBytes(std::string_view &bytes) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    std::size_t count = 0;
+    bool ended = false;
+    do {
+        const std::size_t more =
+            readSome(input_.descriptor(), block_.get() + count, blockSize - count, name_);
+        count += more;
+        ended = more == 0;
+    } while (!ended && bytes_ == 0 && count < mark.size() &&
+             mark.starts_with(std::string_view(block_.get(), count)));
+    bytes = {block_.get(), count};
+    if (bytes_ == 0 && bytes.starts_with(mark)) {
+        byteOrderMark_ = true;
+        bytes.remove_prefix(mark.size());
     }
-    if (!begun_ && !text.empty()) {
-        begun_ = true;
-        byteOrderMark_ = text.front() == u'\uFEFF';
-        text.erase(0, byteOrderMark_ ? 1 : 0);
+    bytes_ += count;
+    progress_.addRead(count);
+    ending_.append(bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 2)));
+    ending_.erase(0, ending_.size() - std::min<std::size_t>(ending_.size(), 2));
+    return !ended;
+}
+
+void TextReader::refuse(std::size_t invalidAt) const {
+    throw Failure(ExitStatus::ioFailed, name_ + ": invalid UTF-8 at byte " +
+                                            std::to_string(invalidAt + (byteOrderMark_ ? 3 : 0)));
+}
+
+bool TextReader::appendBlock(std::u16string &text) {
+    std::string_view bytes;
+    const bool more = readBytes(bytes);
+    try {
+        decoder_.decode(bytes, text);
+    } catch (const std::bad_alloc &) {
+        throw Failure(ExitStatus::ioFailed, systemMessage(name_, ENOMEM));
+    }
+    if (!more) {
+        decoder_.finish();
     }
     if (decoder_.invalidAt()) {
-        throw Failure(ExitStatus::ioFailed,
-                      name_ + ": invalid UTF-8 at byte " + std::to_string(*decoder_.invalidAt()));
+        refuse(*decoder_.invalidAt());
     }
-    return count != 0;
+    return more;
+}
+
+bool TextReader::readBlock(std::u16string &text) {
+    text.clear();
+    return appendBlock(text);
+}
+
+void TextReader::check() {
+    const off_t begin = lseek(input_.descriptor(), 0, SEEK_CUR);
+    text::Utf8Checker checker;
+    for (bool more = true; more;) {
+        std::string_view bytes;
+        more = readBytes(bytes);
+        while (!bytes.empty()) {
+            checker.next(bytes);
+        }
+        if (!more) {
+            checker.finish();
+        }
+        if (checker.invalidAt()) {
+            refuse(*checker.invalidAt());
+        }
+    }
+    if (begin >= 0 && lseek(input_.descriptor(), begin, SEEK_SET) < 0) {
+        throw Failure(ExitStatus::ioFailed, systemMessage(name_, errno));
+    }
 }
 
 std::string_view TextReader::finalBreak() const {
@@ -162,27 +230,10 @@ std::string_view TextReader::finalBreak() const {
     return ending.substr(ending.size() - (isBreak ? 1 : 0));
 }
 
-void TextReader::readPieces(
-    const std::function<std::size_t(std::u16string_view, std::size_t)> &lastCut,
-    const std::function<void(std::u16string &piece)> &take) {
-    std::u16string piece;
-    std::size_t searched = 0;
-    while (readBlock(piece)) {
-        if (const std::size_t cut = lastCut(piece, searched)) {
-            const std::u16string rest = piece.substr(cut);
-            piece.resize(cut);
-            take(piece);
-            piece.assign(rest);
-        }
-        searched = piece.size();
-    }
-    take(piece);
-}
-
 std::u16string TextReader::readAll() {
     std::u16string text;
     reserveIn(text, sizeHint());
-    while (readBlock(text)) {
+    while (appendBlock(text)) {
     }
     return text;
 }

@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdlib>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -57,6 +56,12 @@ std::size_t readSome(int descriptor, char *data, std::size_t size, const std::st
 // Everything up to the end of the input. Throws as readSome().
 Bytes readBytes(int descriptor, const std::string &name, Progress &progress);
 
+// Whether the name stands for a file that can be read twice, or for one that cannot be read at all;
+// of a pipe and the like every byte comes once.
+bool canBeChecked(const std::string &file);
+// Whether it is the file that standard output goes to.
+bool isOutput(const std::string &file);
+
 // A text that arrives in blocks. A byte order mark in front is no part of it. Every function throws
 // Failure when the file cannot be read or is not well-formed UTF-8.
 class TextReader {
@@ -69,11 +74,16 @@ class TextReader {
     std::size_t sizeHint() const;
     // The whole text.
     std::u16string readAll();
-    // The text in pieces, of which only one is in memory at a time. `lastCut` finds the last place,
-    // at or beyond its second argument, at which a piece may end, and returns 0 where there is
-    // none; `take` may leave anything in the piece.
-    void readPieces(const std::function<std::size_t(std::u16string_view, std::size_t)> &lastCut,
-                    const std::function<void(std::u16string &piece)> &take);
+    // The next piece of it, as it comes, in place of what is in `text`; false at the end, where
+    // there may still be one.
+    bool readBlock(std::u16string &text);
+    // The same in UTF-8 that nobody has looked at: a character may be cut, or bad. Good up to the
+    // next call.
+    bool readBytes(std::string_view &bytes);
+    // For the reader of the bytes: throws the Failure that says where they are not UTF-8.
+    [[noreturn]] void refuse(std::size_t invalidAt) const;
+    // Reads a file that can be read twice to its end and goes back to the beginning.
+    void check();
     // Bytes read so far.
     std::size_t bytes() const { return bytes_; }
     // About what has been read so far: whether a byte order mark was in front, and the line break
@@ -83,7 +93,7 @@ class TextReader {
 
   private:
     // Appends the next block to `text`; false at the end of the text.
-    bool readBlock(std::u16string &text);
+    bool appendBlock(std::u16string &text);
 
     std::string name_;
     Progress &progress_;
@@ -91,7 +101,6 @@ class TextReader {
     text::Utf8Decoder decoder_;
     std::unique_ptr<char[]> block_;
     std::size_t bytes_ = 0;
-    bool begun_ = false; // the first unit has arrived
     bool byteOrderMark_ = false;
     std::string ending_; // the last two bytes
 };

@@ -11,7 +11,9 @@
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <utility>
 
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,6 +31,9 @@ int writeAll(int descriptor, std::string_view bytes) {
         const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
         if (count >= 0) {
             bytes.remove_prefix(static_cast<std::size_t>(count));
+        } else if (errno == EAGAIN) { // another program has made the pipe or terminal not wait
+            pollfd ready{.fd = descriptor, .events = POLLOUT, .revents = 0};
+            poll(&ready, 1, -1);
         } else if (errno != EINTR) {
             return errno;
         }
@@ -178,6 +183,22 @@ void writeOutput(std::span<const CleanText> texts) {
         checkOutput(give(text, output));
         lineOpen = !endsWithBreak(text);
     }
+}
+
+void StreamedOutput::write(std::string_view bytes) {
+    if (bytes.empty()) {
+        return;
+    }
+    if (!std::exchange(begun_, true) && lineOpen_) {
+        writeOutput("\n");
+    }
+    writeOutput(bytes);
+    lineOpen_ = bytes.back() != '\n' && bytes.back() != '\r';
+}
+
+bool outputIsFile() {
+    struct stat status {};
+    return fstat(STDOUT_FILENO, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 bool endsWithBreak(const CleanText &text) {

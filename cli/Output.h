@@ -20,6 +20,22 @@ void writeOutput(std::string_view bytes);
 // The texts one after another, in blocks, so that no second copy of a text is needed. Where one
 // does not end with a line break and another follows, one is put between them.
 void writeOutput(std::span<const CleanText> texts);
+
+// Standard output for texts that come in pieces, with the same line breaks between them.
+class StreamedOutput {
+  public:
+    // To be called before each text.
+    void nextText() { begun_ = false; }
+    // Throws ClosedPipe or Failure.
+    void write(std::string_view bytes);
+
+  private:
+    bool begun_ = false;    // the text at hand
+    bool lineOpen_ = false; // what was written does not end with a line break
+};
+// Whether standard output is a file, on which nobody waits.
+bool outputIsFile();
+
 // Gives standard output back; some file systems tell only now that a write failed. Throws Failure.
 void closeOutput();
 

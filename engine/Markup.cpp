@@ -303,6 +303,10 @@ std::u16string removeReplyQuotes(std::u16string text) {
     return text::removeUnits(std::move(text), replyMarks);
 }
 
+std::string removeReplyQuotes(std::string text) {
+    return text::removeUnits(std::move(text), replyMarks);
+}
+
 std::u16string removeHTMLTags(std::u16string text, bool withScripts) {
     return withScripts ? removeTags(std::move(text)) : removeSpans(std::move(text));
 }

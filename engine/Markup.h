@@ -17,6 +17,8 @@ std::u16string removeBullets(std::u16string text);
 
 // Every ">".
 std::u16string removeReplyQuotes(std::u16string text);
+// The same for UTF-8.
+std::string removeReplyQuotes(std::string text);
 
 // Everything from a "<" to the next ">". With `withScripts`, only what looks like a tag, a comment
 // or a processing instruction, and what stands between script tags.

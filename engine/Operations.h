@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -40,6 +41,8 @@ enum class Reach : std::uint8_t {
     whole,      // everything, as if nothing were protected
 };
 
+struct LocalForm;
+
 struct Operation {
     std::int32_t index;
     std::string_view name;    // for the command line: "sort-lines"
@@ -51,6 +54,9 @@ struct Operation {
     // operation can run on the same pieces. Null for never.
     bool (*inPieces)(const CleaningOptions &options) = nullptr;
     Reach reach = Reach::prose;
+    // How the operation goes over a text without end; null, and nothing for some options, where its
+    // result may hang on what stands further away than the word or the line.
+    std::optional<LocalForm> (*localForm)(const CleaningOptions &options) = nullptr;
 };
 
 // In the order of their indices. The row of the statistics operation returns its text unchanged.

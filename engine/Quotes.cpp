@@ -239,7 +239,11 @@ class Conversion {
     }
 
     void literal(std::u16string_view find, std::u16string_view replacement) {
-        step(text::replaceAll, find, replacement);
+        const auto replaceAll = [](std::u16string text, std::u16string_view all,
+                                   std::u16string_view by) {
+            return text::replaceAll(std::move(text), all, by);
+        };
+        step(replaceAll, find, replacement);
     }
 
     std::u16string take() { return std::move(text_); }
@@ -377,6 +381,40 @@ std::u16string removeSingleQuotes(std::u16string text, bool allQuotes, std::int6
 
 std::u16string removeDoubleQuotes(std::u16string text, bool allQuotes, std::int64_t quoteOption) {
     return remove(std::move(text), allQuotes, styleAt(doubleQuoteStyles, quoteOption), doubleUnits);
+}
+
+std::optional<std::vector<text::StreamedRule>>
+rulesOfConversion(bool doublesToSingles, std::int64_t changeQuotesSingleOption,
+                  std::int64_t changeQuotesDoubleOption, bool changeAll) {
+    const QuoteStyle *find = styleAt(singleQuoteStyles, changeQuotesSingleOption);
+    const QuoteStyle *replace = styleAt(doubleQuoteStyles, changeQuotesDoubleOption);
+    if (doublesToSingles) {
+        std::swap(find, replace);
+    }
+    std::vector<text::StreamedRule> rules;
+    if (!find || !replace) {
+        return rules;
+    }
+    if (changeAll || !isTranslation(*find, *replace)) {
+        return std::nullopt;
+    }
+    rules.push_back(text::StreamedRule::literal(find->left, replace->left));
+    rules.push_back(text::StreamedRule::literal(find->right, replace->right));
+    return rules;
+}
+
+std::vector<text::StreamedRule> rulesOfRemoval(bool doubles, bool allQuotes,
+                                               std::int64_t quoteOption) {
+    if (allQuotes) {
+        return {text::StreamedRule::run(doubles ? doubleUnits : singleUnits, u"")};
+    }
+    const QuoteStyle *style =
+        styleAt(doubles ? Styles(doubleQuoteStyles) : Styles(singleQuoteStyles), quoteOption);
+    std::vector<text::StreamedRule> rules;
+    for (const std::u16string_view mark : {style ? style->left : u"", style ? style->right : u""}) {
+        rules.push_back(text::StreamedRule::literal(mark, u""));
+    }
+    return rules;
 }
 
 } // namespace nerlo::engine

@@ -5,9 +5,12 @@
 #pragma once
 
 #include "engine/QuoteStyles.h"
+#include "text/StreamedRule.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace nerlo::engine {
 
@@ -37,5 +40,13 @@ bool convertsQuotesAlike(bool doublesToSingles, std::int64_t changeQuotesSingleO
 // a spaced mark then stays.
 std::u16string removeSingleQuotes(std::u16string text, bool allQuotes, std::int64_t quoteOption);
 std::u16string removeDoubleQuotes(std::u16string text, bool allQuotes, std::int64_t quoteOption);
+
+// What these do, as rules that are applied one after the other; nothing for a conversion in which a
+// mark's neighbours matter.
+std::optional<std::vector<text::StreamedRule>>
+rulesOfConversion(bool doublesToSingles, std::int64_t changeQuotesSingleOption,
+                  std::int64_t changeQuotesDoubleOption, bool changeAll);
+std::vector<text::StreamedRule> rulesOfRemoval(bool doubles, bool allQuotes,
+                                               std::int64_t quoteOption);
 
 } // namespace nerlo::engine

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace nerlo::engine {
 
@@ -28,9 +29,24 @@ std::uint64_t countParagraphs(std::u16string_view text);
 
 TextStatistics countAll(std::u16string_view text, const std::string &locale);
 
-// The last place, at or beyond `from`, at which a text may be cut so that the counts of the pieces
-// add up to those of the whole: after a LF. 0 where there is none.
-std::size_t lastCountingCut(std::u16string_view text, std::size_t from);
+// Counts a text that comes in pieces, cut anywhere, as countAll() counts the whole. Memory does not
+// grow with it, but with the longest stretch of a script without spaces that no punctuation ends.
+// One thread at a time.
+class StreamCounter {
+  public:
+    explicit StreamCounter(std::string locale)
+        : locale_(std::move(locale)) {}
+
+    void feed(std::u16string_view text);
+    // The counts of all that was fed.
+    TextStatistics counts() const;
+
+  private:
+    std::string locale_;
+    TextStatistics counts_;    // with the breaks as paragraphs
+    std::u16string uncounted_; // its words are not counted yet
+    char16_t last_ = 0;
+};
 
 // Decimal digits, grouped by `locale`'s conventions.
 std::u16string integerToString(std::uint64_t count, const std::string &locale);

@@ -5,6 +5,7 @@
 #include "text/Replace.h"
 #include "text/UnitScan.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace nerlo::engine {
@@ -16,24 +17,8 @@ using text::UnitSet;
 constexpr char16_t space = u' ';
 constexpr char16_t noBreakSpace = u'\u00A0';
 
-// White_Space of the Unicode character database, which is also what "\s" matches.
-constexpr UnitSet whiteSpace = [] {
-    UnitSet set;
-    set.add(u'\t', u'\r');
-    set.add(space, space);
-    set.add(u'\u0085', u'\u0085');
-    set.add(noBreakSpace, noBreakSpace);
-    set.add(u'\u1680', u'\u1680');
-    set.add(u'\u2000', u'\u200A');
-    set.add(u'\u2028', u'\u2029');
-    set.add(u'\u202F', u'\u202F');
-    set.add(u'\u205F', u'\u205F');
-    set.add(u'\u3000', u'\u3000');
-    return set;
-}();
-
+constexpr char noBreakSpaceBytes[] = "\xC2\xA0";
 constexpr UnitSet tabs(u"\t");
-constexpr UnitSet lineBreaks(u"\r\n");
 
 struct ReturnsOption {
     std::int32_t option;
@@ -66,24 +51,58 @@ constexpr std::int32_t customTags = 9;
 
 } // namespace
 
+// White_Space of the Unicode character database, which is also what "\s" matches.
+constexpr UnitSet whiteSpaceUnits = [] {
+    UnitSet set;
+    set.add(u'\t', u'\r');
+    set.add(space, space);
+    set.add(u'\u0085', u'\u0085');
+    set.add(noBreakSpace, noBreakSpace);
+    set.add(u'\u1680', u'\u1680');
+    set.add(u'\u2000', u'\u200A');
+    set.add(u'\u2028', u'\u2029');
+    set.add(u'\u202F', u'\u202F');
+    set.add(u'\u205F', u'\u205F');
+    set.add(u'\u3000', u'\u3000');
+    return set;
+}();
+
+constexpr UnitSet breakUnits(u"\r\n");
+
 std::u16string removeMultipleSpaces(std::u16string text) {
     return text::collapseRuns(text::collapseRuns(std::move(text), space), noBreakSpace);
+}
+
+std::string removeMultipleSpaces(std::string text) {
+    return text::collapseRuns(text::collapseRuns(std::move(text), ' '), noBreakSpaceBytes);
 }
 
 std::u16string removeMultipleTabs(std::u16string text) {
     return text::collapseRuns(std::move(text), u'\t');
 }
 
+std::string removeMultipleTabs(std::string text) {
+    return text::collapseRuns(std::move(text), '\t');
+}
+
 std::u16string removeMultipleTabsToNone(std::u16string text) {
     return text::removeUnits(std::move(text), tabs);
 }
 
+std::string removeMultipleTabsToNone(std::string text) {
+    return text::removeUnits(std::move(text), tabs);
+}
+
 std::u16string removeMultipleSpacesTabsNewLines(std::u16string text) {
-    return text::replaceRuns(std::move(text), whiteSpace, space);
+    return text::replaceRuns(std::move(text), whiteSpaceUnits, space);
 }
 
 std::u16string changeTabsToSpaces(std::u16string text) {
     return text::replaceAll(std::move(text), u"\t", u"    ");
+}
+
+std::string changeTabsToSpaces(std::string text) {
+    return text::replaceAll(std::move(text), "\t", "    ");
 }
 
 std::u16string changeSpacesToTabs(std::u16string text) {
@@ -91,17 +110,22 @@ std::u16string changeSpacesToTabs(std::u16string text) {
     return text::replaceAll(std::move(text), u"\u00A0\u00A0\u00A0\u00A0", u"\t");
 }
 
+std::string changeSpacesToTabs(std::string text) {
+    text = text::replaceAll(std::move(text), "    ", "\t");
+    return text::replaceAll(std::move(text), "\xC2\xA0\xC2\xA0\xC2\xA0\xC2\xA0", "\t");
+}
+
 std::u16string removeAllSpaces(std::u16string text) {
-    return text::removeUnits(std::move(text), whiteSpace);
+    return text::removeUnits(std::move(text), whiteSpaceUnits);
 }
 
 std::u16string removeSpacesStartAndEnd(std::u16string text) {
     std::size_t end = text.size();
-    while (end > 0 && whiteSpace.contains(text[end - 1])) {
+    while (end > 0 && whiteSpaceUnits.contains(text[end - 1])) {
         --end;
     }
     std::size_t begin = 0;
-    while (begin < end && whiteSpace.contains(text[begin])) {
+    while (begin < end && whiteSpaceUnits.contains(text[begin])) {
         ++begin;
     }
     text.resize(end);
@@ -127,6 +151,14 @@ std::u16string change3DotsToEllipsis(std::u16string text) {
 
 std::u16string changeEllipsisTo3Dots(std::u16string text) {
     return text::replaceAll(std::move(text), u"\u2026", u"...");
+}
+
+std::string change3DotsToEllipsis(std::string text) {
+    return text::replaceAll(std::move(text), "...", "\xE2\x80\xA6");
+}
+
+std::string changeEllipsisTo3Dots(std::string text) {
+    return text::replaceAll(std::move(text), "\xE2\x80\xA6", "...");
 }
 
 std::u16string removeHyphens(std::u16string text) {
@@ -186,6 +218,26 @@ std::u16string addPrefixAndSuffixToParagraphs(std::u16string_view text, std::u16
     return result.append(suffix);
 }
 
+std::optional<std::u16string> textOfReturns(std::int32_t option, std::u16string_view custom1) {
+    const bool wraps =
+        std::ranges::any_of(wrappings, [&](const Wrapping &row) { return row.option == option; });
+    const bool expands =
+        option == customIndent && custom1.find_first_of(u"$\\") != std::u16string_view::npos;
+    if (wraps || expands || option == customTags) {
+        return std::nullopt;
+    }
+    std::u16string replacement;
+    for (const ReturnsOption &row : runReplacements) {
+        if (option == row.option) {
+            replacement = row.text;
+        }
+    }
+    if (option == customIndent) {
+        replacement.append(custom1);
+    }
+    return replacement;
+}
+
 std::u16string removeSingleOrMultipleReturns(std::u16string text, std::int32_t option,
                                              std::u16string_view custom1,
                                              std::u16string_view custom2) {
@@ -199,23 +251,15 @@ std::u16string removeSingleOrMultipleReturns(std::u16string text, std::int32_t o
                                                   wrapping.suffix, u"\n");
         }
     }
-    if (option == customIndent && custom1.find_first_of(u"$\\") != std::u16string_view::npos) {
+    const std::optional<std::u16string> replacement = textOfReturns(option, custom1);
+    if (!replacement) {
         text = changeAllBreaks(std::move(text));
         auto regex = text::Regex::compile(u"[\n]+", text::Regex::Case::Sensitive);
         regex->replaceAll(text, std::u16string(u"\n").append(custom1));
         return text;
     }
-    std::u16string replacement;
-    for (const ReturnsOption &row : runReplacements) {
-        if (option == row.option) {
-            replacement = row.text;
-        }
-    }
-    if (option == customIndent) {
-        replacement.append(custom1);
-    }
     // Once the breaks are all LF, a run of breaks is a run of LF; so CR and LF alike make a run.
-    return text::replaceRuns(std::move(text), lineBreaks, replacement);
+    return text::replaceRuns(std::move(text), breakUnits, *replacement);
 }
 
 } // namespace nerlo::engine

@@ -3,7 +3,10 @@
 // Texts are UTF-16. Every function is pure, may run on any thread and never fails.
 #pragma once
 
+#include "text/UnitScan.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,12 +18,18 @@ std::u16string removeMultipleSpaces(std::u16string text);
 std::u16string removeMultipleTabs(std::u16string text);
 // Removes every tab.
 std::u16string removeMultipleTabsToNone(std::u16string text);
+// The same for texts in UTF-8, which need not be decoded for it.
+std::string removeMultipleSpaces(std::string text);
+std::string removeMultipleTabs(std::string text);
+std::string removeMultipleTabsToNone(std::string text);
 // Every run of white space, line breaks included, to one space.
 std::u16string removeMultipleSpacesTabsNewLines(std::u16string text);
 // Every tab to four spaces.
 std::u16string changeTabsToSpaces(std::u16string text);
 // Every four spaces, and every four no-break spaces, to one tab.
 std::u16string changeSpacesToTabs(std::u16string text);
+std::string changeTabsToSpaces(std::string text);
+std::string changeSpacesToTabs(std::string text);
 // Removes every white-space and line-break character.
 std::u16string removeAllSpaces(std::u16string text);
 // Trims white space and line breaks at both ends of the whole text.
@@ -33,6 +42,8 @@ std::u16string removeSpaceBeforeAfterReturn(std::u16string text);
 // "..." to the ellipsis, and back.
 std::u16string change3DotsToEllipsis(std::u16string text);
 std::u16string changeEllipsisTo3Dots(std::u16string text);
+std::string change3DotsToEllipsis(std::string text);
+std::string changeEllipsisTo3Dots(std::string text);
 // The hyphen U+2010 goes, with a space and a line break after it.
 std::u16string removeHyphens(std::u16string text);
 // The same for six dashes, the minus sign and then the hyphen-minus.
@@ -52,5 +63,12 @@ std::u16string addPrefixAndSuffixToParagraphs(std::u16string_view text, std::u16
 std::u16string removeSingleOrMultipleReturns(std::u16string text, std::int32_t option,
                                              std::u16string_view custom1,
                                              std::u16string_view custom2);
+// What a run of line breaks becomes with one of the options 0 to 6; nothing where that takes more
+// than a fixed text.
+std::optional<std::u16string> textOfReturns(std::int32_t option, std::u16string_view custom1);
+
+// What these operations look at, wherever it stands.
+extern const text::UnitSet whiteSpaceUnits;
+extern const text::UnitSet breakUnits;
 
 } // namespace nerlo::engine

@@ -371,4 +371,9 @@ LetterCase letterCase(char16_t unit) {
     return letterCases[unit];
 }
 
+bool isCaseNeutral(char16_t unit) {
+    return !U16_IS_SURROGATE(unit) && u_hasBinaryProperty(unit, UCHAR_CASED) == 0 &&
+           u_hasBinaryProperty(unit, UCHAR_CASE_IGNORABLE) == 0 && u_getCombiningClass(unit) == 0;
+}
+
 } // namespace nerlo::text

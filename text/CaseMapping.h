@@ -23,4 +23,8 @@ enum class LetterCase {
 // Locale-free, of one code unit; a surrogate is caseless.
 LetterCase letterCase(char16_t unit);
 
+// Whether the unit has no case and nothing looks past it to find out the case of another: no mark
+// and nothing that words hold between letters.
+bool isCaseNeutral(char16_t unit);
+
 } // namespace nerlo::text

@@ -5,18 +5,26 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 namespace nerlo::text {
 
 namespace {
 
-void move(char16_t *to, const char16_t *from, std::size_t count) {
+// Texts are of UTF-16 units, or of bytes where that is enough.
+template <class Unit>
+using Text = std::basic_string<Unit>;
+template <class Unit>
+using View = std::basic_string_view<Unit>;
+
+template <class Unit>
+void move(Unit *to, const Unit *from, std::size_t count) {
     std::memmove(to, from, count * sizeof *to);
 }
 
 // Takes the marked units out of a block. Returns the place after the last one kept.
-char16_t *keepUnmarked(char16_t *to, const char16_t *block, std::size_t count,
-                       std::uint64_t marked) {
+template <class Unit>
+Unit *keepUnmarked(Unit *to, const Unit *block, std::size_t count, std::uint64_t marked) {
     if (std::popcount(marked) > 6) {
         for (std::size_t i = 0; i < count; ++i) {
             *to = block[i];
@@ -38,11 +46,11 @@ char16_t *keepUnmarked(char16_t *to, const char16_t *block, std::size_t count,
 
 // Removes the units that `mark` says, block by block: mark(units, count) gets 64 units, or fewer at
 // the end, may change them, and returns their mask.
-template <class Mark>
-std::u16string removeMarked(std::u16string text, Mark mark) {
-    char16_t *to = text.data();
-    char16_t *from = text.data();
-    char16_t *const end = from + text.size();
+template <class Unit, class Mark>
+Text<Unit> removeMarked(Text<Unit> text, Mark mark) {
+    Unit *to = text.data();
+    Unit *from = text.data();
+    Unit *const end = from + text.size();
     while (from < end) {
         const auto count =
             static_cast<std::size_t>(std::min<std::ptrdiff_t>(end - from, scanBlock));
@@ -61,12 +69,14 @@ std::u16string removeMarked(std::u16string text, Mark mark) {
     return text;
 }
 
-std::uint64_t scan(const char16_t *units, std::size_t count, const UnitSet &set) {
+template <class Unit>
+std::uint64_t scan(const Unit *units, std::size_t count, const UnitSet &set) {
     return count == scanBlock ? scanUnits(units, set) : scanTail(units, count, set);
 }
 
 // Where `find` can begin among the 64 units at `units`, by its first and last unit.
-std::uint64_t candidates(const char16_t *units, std::u16string_view find) {
+template <class Unit>
+std::uint64_t candidates(const Unit *units, View<Unit> find) {
     std::uint64_t mask = scanUnit(units, find.front());
     if (mask != 0 && find.size() > 1) {
         mask &= scanUnit(units + find.size() - 1, find.back());
@@ -76,10 +86,10 @@ std::uint64_t candidates(const char16_t *units, std::u16string_view find) {
 
 // Calls found(position) for every non-overlapping occurrence; the text behind the one reported
 // last may change meanwhile.
-template <class Found>
-void forEachOccurrence(std::u16string_view text, std::u16string_view find, Found found) {
+template <class Unit, class Found>
+void forEachOccurrence(View<Unit> text, View<Unit> find, Found found) {
     const auto matches = [&](std::size_t at) {
-        return std::memcmp(text.data() + at, find.data(), find.size() * sizeof(char16_t)) == 0;
+        return std::memcmp(text.data() + at, find.data(), find.size() * sizeof(Unit)) == 0;
     };
     std::size_t free = 0; // where the next occurrence may begin
     std::size_t block = 0;
@@ -106,12 +116,13 @@ void forEachOccurrence(std::u16string_view text, std::u16string_view find, Found
 
 // Replaces parts of a text from front to back, in its own memory; no replacement may be longer than
 // its part.
+template <class Unit>
 class Compaction {
   public:
-    explicit Compaction(std::u16string &text)
+    explicit Compaction(Text<Unit> &text)
         : text_(text) {}
 
-    void replace(std::size_t begin, std::size_t end, std::u16string_view with) {
+    void replace(std::size_t begin, std::size_t end, View<Unit> with) {
         keepUpTo(begin);
         move(text_.data() + to_, with.data(), with.size());
         to_ += with.size();
@@ -131,41 +142,85 @@ class Compaction {
         to_ += at - from_;
     }
 
-    std::u16string &text_;
+    Text<Unit> &text_;
     std::size_t to_ = 0;   // what is written
     std::size_t from_ = 0; // what is read
 };
 
-} // namespace
-
-std::u16string replaceAll(std::u16string text, std::u16string_view find,
-                          std::u16string_view replacement) {
+template <class Unit>
+Text<Unit> replaceEach(Text<Unit> text, View<Unit> find, View<Unit> replacement) {
     if (find.empty() || find.size() > text.size()) {
         return text;
     }
     if (replacement.size() <= find.size()) {
-        Compaction compaction(text);
-        forEachOccurrence(text, find, [&](std::size_t at) {
+        Compaction<Unit> compaction(text);
+        forEachOccurrence<Unit>(text, find, [&](std::size_t at) {
             compaction.replace(at, at + find.size(), replacement);
         });
         compaction.finish();
         return text;
     }
     std::size_t count = 0;
-    forEachOccurrence(text, find, [&](std::size_t) { ++count; });
+    forEachOccurrence<Unit>(text, find, [&](std::size_t) { ++count; });
     if (count == 0) {
         return text;
     }
-    std::u16string result;
+    Text<Unit> result;
     result.reserve(text.size() + count * (replacement.size() - find.size()));
     std::size_t from = 0;
-    forEachOccurrence(text, find, [&](std::size_t at) {
+    forEachOccurrence<Unit>(text, find, [&](std::size_t at) {
         result.append(text, from, at - from);
         result.append(replacement);
         from = at + find.size();
     });
     result.append(text, from);
     return result;
+}
+
+template <class Unit>
+Text<Unit> removeMembers(Text<Unit> text, const UnitSet &set) {
+    return removeMarked(std::move(text), [&](const Unit *units, std::size_t count) {
+        return scan(units, count, set);
+    });
+}
+
+template <class Unit>
+Text<Unit> runsToUnit(Text<Unit> text, const UnitSet &set, Unit unit) {
+    bool inRun = false;
+    return removeMarked(std::move(text), [&](Unit *units, std::size_t count) {
+        const std::uint64_t members = scan(units, count, set);
+        const std::uint64_t followers = members & (members << 1 | (inRun ? 1 : 0));
+        inRun = members >> (count - 1) & 1;
+        for (std::uint64_t first = members & ~followers; first != 0; first &= first - 1) {
+            units[std::countr_zero(first)] = unit;
+        }
+        return followers;
+    });
+}
+
+template <class Unit>
+Text<Unit> runsToOne(Text<Unit> text, Unit unit) {
+    const auto code = static_cast<char16_t>(static_cast<std::make_unsigned_t<Unit>>(unit));
+    const UnitSet set(std::u16string_view(&code, 1));
+    bool inRun = false;
+    return removeMarked(std::move(text), [&](const Unit *units, std::size_t count) {
+        const std::uint64_t members =
+            count == scanBlock ? scanUnit(units, unit) : scanTail(units, count, set);
+        const std::uint64_t followers = members & (members << 1 | (inRun ? 1 : 0));
+        inRun = members >> (count - 1) & 1;
+        return followers;
+    });
+}
+
+} // namespace
+
+std::u16string replaceAll(std::u16string text, std::u16string_view find,
+                          std::u16string_view replacement) {
+    return replaceEach<char16_t>(std::move(text), find, replacement);
+}
+
+std::string replaceAll(std::string text, std::string_view find, std::string_view replacement) {
+    return replaceEach<char>(std::move(text), find, replacement);
 }
 
 std::u16string replaceRanges(std::u16string text, std::span<const Range> ranges,
@@ -208,34 +263,39 @@ std::size_t find(std::u16string_view text, std::size_t from, std::u16string_view
 }
 
 std::u16string removeUnits(std::u16string text, const UnitSet &set) {
-    return removeMarked(std::move(text), [&](const char16_t *units, std::size_t count) {
-        return scan(units, count, set);
-    });
+    return removeMembers(std::move(text), set);
+}
+
+std::string removeUnits(std::string text, const UnitSet &ascii) {
+    return removeMembers(std::move(text), ascii);
 }
 
 std::u16string replaceRuns(std::u16string text, const UnitSet &set, char16_t unit) {
-    bool inRun = false;
-    return removeMarked(std::move(text), [&](char16_t *units, std::size_t count) {
-        const std::uint64_t members = scan(units, count, set);
-        const std::uint64_t followers = members & (members << 1 | (inRun ? 1 : 0));
-        inRun = members >> (count - 1) & 1;
-        for (std::uint64_t first = members & ~followers; first != 0; first &= first - 1) {
-            units[std::countr_zero(first)] = unit;
-        }
-        return followers;
-    });
+    return runsToUnit(std::move(text), set, unit);
 }
 
 std::u16string collapseRuns(std::u16string text, char16_t unit) {
-    const UnitSet set(std::u16string_view(&unit, 1));
-    bool inRun = false;
-    return removeMarked(std::move(text), [&](const char16_t *units, std::size_t count) {
-        const std::uint64_t members =
-            count == scanBlock ? scanUnit(units, unit) : scanTail(units, count, set);
-        const std::uint64_t followers = members & (members << 1 | (inRun ? 1 : 0));
-        inRun = members >> (count - 1) & 1;
-        return followers;
-    });
+    return runsToOne(std::move(text), unit);
+}
+
+std::string collapseRuns(std::string text, char ascii) {
+    return runsToOne(std::move(text), ascii);
+}
+
+std::string collapseRuns(std::string text, std::string_view character) {
+    std::string two(character);
+    two += character;
+    Compaction compaction(text);
+    for (std::size_t at = text.find(two); at != std::string::npos; at = text.find(two, at)) {
+        std::size_t end = at + two.size();
+        while (std::string_view(text).substr(end).starts_with(character)) {
+            end += character.size();
+        }
+        compaction.replace(at, end, character);
+        at = end;
+    }
+    compaction.finish();
+    return text;
 }
 
 std::u16string replaceRuns(std::u16string text, const UnitSet &set,
@@ -277,6 +337,19 @@ std::u16string replaceRuns(std::u16string text, const UnitSet &set,
     }
     result.append(text, from);
     return result;
+}
+
+std::string replaceRuns(std::string text, const UnitSet &ascii, std::string_view replacement) {
+    if (replacement.empty()) {
+        return removeUnits(std::move(text), ascii);
+    }
+    if (replacement.size() == 1) {
+        return runsToUnit(std::move(text), ascii, replacement.front());
+    }
+    // No other character has this byte, so that it can mark the runs.
+    constexpr char mark = '\xFF';
+    return replaceAll(runsToUnit(std::move(text), ascii, mark), std::string_view(&mark, 1),
+                      replacement);
 }
 
 namespace {

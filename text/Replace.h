@@ -41,6 +41,14 @@ std::u16string replaceRuns(std::u16string text, const UnitSet &set,
 // Every run of `unit` becomes one.
 std::u16string collapseRuns(std::u16string text, char16_t unit);
 
+// The same for texts in UTF-8, where sets and units are ASCII. What is found and put in is UTF-8,
+// too.
+std::string replaceAll(std::string text, std::string_view find, std::string_view replacement);
+std::string removeUnits(std::string text, const UnitSet &ascii);
+std::string replaceRuns(std::string text, const UnitSet &ascii, std::string_view replacement);
+std::string collapseRuns(std::string text, char ascii);
+std::string collapseRuns(std::string text, std::string_view character);
+
 struct Replacement {
     std::u16string_view find;
     std::u16string_view replace;

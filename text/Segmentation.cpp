@@ -197,4 +197,19 @@ std::uint64_t countWordSegments(std::u16string_view text, const std::string &loc
                : countWithRules(text, locale);
 }
 
+WordJoint wordJoint(char16_t before, char16_t after) {
+    const auto isPlain = [](char16_t unit) {
+        return unit < 0x80 &&
+               (wordClass(unit) == WordClass::Letter || wordClass(unit) == WordClass::Digit);
+    };
+    // A mark belongs to what stands before it, unless that is a line break.
+    const bool isBreak = before == u'\n' || before == u'\r';
+    const bool isMark = wordClass(after) == WordClass::Ask && u_isalpha(after) == 0;
+    const bool isStop = before == u'\u3001' || before == u'\u3002' || before == u'\uFF0C';
+    if (isBreak || ((isBlank(before) || isStop) && !isMark)) {
+        return WordJoint::apart;
+    }
+    return isPlain(before) && isPlain(after) ? WordJoint::sameWord : WordJoint::unknown;
+}
+
 } // namespace nerlo::text

@@ -25,4 +25,9 @@ void forEachSentence(std::u16string_view text, const std::string &locale,
 std::uint64_t countWordSegments(std::u16string_view text, const std::string &locale,
                                 SegmentRules rules = trustedRules());
 
+// Where a text may be cut between two units for its words to be counted in pieces, whatever else it
+// holds: `apart` where no word goes on, `sameWord` where one does, which both pieces then count.
+enum class WordJoint : std::uint8_t { unknown, apart, sameWord };
+WordJoint wordJoint(char16_t before, char16_t after);
+
 } // namespace nerlo::text

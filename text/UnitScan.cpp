@@ -31,11 +31,45 @@ NERLO_CLONES std::uint64_t scanUnit(const char16_t *units, char16_t unit) {
     return packFlags(flags);
 }
 
-std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &set) {
-    char16_t block[scanBlock] = {};
+NERLO_CLONES std::uint64_t scanUnits(const char *bytes, const UnitSet &ascii) {
+    std::uint8_t flags[scanBlock] = {};
+    for (const UnitSet::UnitRange range : ascii) {
+        const auto first = static_cast<std::uint8_t>(range.first);
+        const auto span = static_cast<std::uint8_t>(range.last - range.first);
+        for (std::size_t i = 0; i < scanBlock; ++i) {
+            const auto distance = static_cast<std::uint8_t>(bytes[i] - first);
+            flags[i] = static_cast<std::uint8_t>(flags[i] | (distance <= span ? 1 : 0));
+        }
+    }
+    return packFlags(flags);
+}
+
+NERLO_CLONES std::uint64_t scanUnit(const char *bytes, char byte) {
+    std::uint8_t flags[scanBlock];
+    for (std::size_t i = 0; i < scanBlock; ++i) {
+        flags[i] = bytes[i] == byte ? 1 : 0;
+    }
+    return packFlags(flags);
+}
+
+namespace {
+
+template <class Unit>
+std::uint64_t scanLess(const Unit *units, std::size_t count, const UnitSet &set) {
+    Unit block[scanBlock] = {};
     std::memcpy(block, units, count * sizeof *units);
     const std::uint64_t mask = scanUnits(block, set);
     return count < scanBlock ? mask & ((std::uint64_t{1} << count) - 1) : mask;
+}
+
+} // namespace
+
+std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &set) {
+    return scanLess(units, count, set);
+}
+
+std::uint64_t scanTail(const char *bytes, std::size_t count, const UnitSet &ascii) {
+    return scanLess(bytes, count, ascii);
 }
 
 std::size_t findUnit(std::u16string_view text, std::size_t from, const UnitSet &set) {

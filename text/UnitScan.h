@@ -81,6 +81,11 @@ std::uint64_t scanUnit(const char16_t *units, char16_t unit);
 // The mask of the `count` (at most 64) units at `units`.
 std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &set);
 
+// The same for UTF-8 and a set of ASCII.
+std::uint64_t scanUnits(const char *bytes, const UnitSet &ascii);
+std::uint64_t scanUnit(const char *bytes, char byte);
+std::uint64_t scanTail(const char *bytes, std::size_t count, const UnitSet &ascii);
+
 // The position of the first unit of the set at or after `from`, or the text's size.
 std::size_t findUnit(std::u16string_view text, std::size_t from, const UnitSet &set);
 std::size_t findUnit(std::u16string_view text, std::size_t from, char16_t unit);

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 
 namespace nerlo::text {
 
@@ -222,6 +223,83 @@ void Utf8Decoder::decode(std::string_view bytes, std::u16string &to) {
 }
 
 void Utf8Decoder::finish() {
+    if (!pending_.empty() && !invalidAt_) {
+        invalidAt_ = consumed_;
+    }
+}
+
+namespace {
+
+NERLO_CLONES std::size_t asciiBlocks(const char *bytes, std::size_t count) {
+    std::size_t at = 0;
+    for (; at + chunk <= count; at += chunk) {
+        unsigned char all = 0;
+        for (std::size_t i = 0; i < chunk; ++i) {
+            all = static_cast<unsigned char>(all | static_cast<unsigned char>(bytes[at + i]));
+        }
+        if (all >= 0x80) {
+            break;
+        }
+    }
+    return at;
+}
+
+// How many bytes at the front are complete, well-formed sequences.
+std::size_t wellFormedPrefix(std::string_view bytes) {
+    const char *at = bytes.data();
+    const char *const end = at + bytes.size();
+    while (at < end) {
+        if (end - at >= static_cast<std::ptrdiff_t>(wordful<char>)) {
+            const std::size_t ascii = asciiPrefix(at);
+            at += ascii;
+            if (ascii == wordful<char>) {
+                at += asciiBlocks(at, static_cast<std::size_t>(end - at));
+                continue;
+            }
+        }
+        do {
+            char32_t character = 0;
+            const std::size_t length = decodeOne(at, static_cast<std::size_t>(end - at), character);
+            if (length == 0) {
+                return static_cast<std::size_t>(at - bytes.data());
+            }
+            at += length;
+        } while (at < end && byteOf(*at) >= 0x80);
+    }
+    return bytes.size();
+}
+
+} // namespace
+
+std::string_view Utf8Checker::next(std::string_view &bytes) {
+    while (!pending_.empty() && !bytes.empty() && !invalidAt_) {
+        pending_.push_back(bytes.front());
+        bytes.remove_prefix(1);
+        if (wellFormedPrefix(pending_) == pending_.size()) {
+            consumed_ += pending_.size();
+            completed_ = std::exchange(pending_, {});
+            return completed_;
+        }
+        if (!mayBeIncomplete(pending_)) {
+            invalidAt_ = consumed_;
+        }
+    }
+    const std::string_view whole =
+        bytes.substr(0, bytes.empty() || invalidAt_ ? 0 : wellFormedPrefix(bytes));
+    const std::string_view rest = bytes.substr(whole.size());
+    consumed_ += whole.size();
+    if (!rest.empty() && !invalidAt_) {
+        if (mayBeIncomplete(rest)) {
+            pending_ = rest;
+        } else {
+            invalidAt_ = consumed_;
+        }
+    }
+    bytes = {};
+    return whole;
+}
+
+void Utf8Checker::finish() {
     if (!pending_.empty() && !invalidAt_) {
         invalidAt_ = consumed_;
     }

@@ -41,6 +41,22 @@ class Utf8Decoder {
     std::optional<std::size_t> invalidAt_;
 };
 
+// The same without decoding.
+class Utf8Checker {
+  public:
+    // Takes bytes from the front of `bytes`, and gives those that with the ones before make whole
+    // characters; good up to the next call. Repeat until there are none left.
+    std::string_view next(std::string_view &bytes);
+    void finish();
+    std::optional<std::size_t> invalidAt() const { return invalidAt_; }
+
+  private:
+    std::string pending_;      // the beginning of a sequence
+    std::string completed_;    // what became of it
+    std::size_t consumed_ = 0; // bytes before it
+    std::optional<std::size_t> invalidAt_;
+};
+
 // Takes from the front of `text` what surely fits into `room`, which must have room for four
 // bytes, and returns the number of bytes written. Repeat until the text is empty. An unpaired
 // surrogate becomes U+FFFD.

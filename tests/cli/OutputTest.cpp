@@ -30,6 +30,7 @@ std::vector<Command> commands() {
         lines += request + "\n";
     }
     return {{{"clean"}, std::string(300000, 'a')},
+            {{"clean", "--operation", "remove-tabs"}, std::string(300000, 'a')},
             {{"count"}, "a"},
             {{"operations"}, ""},
             {{"keys", "--json"}, ""},

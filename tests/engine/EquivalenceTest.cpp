@@ -4,14 +4,17 @@
 #include "engine/LineJoining.h"
 #include "engine/Operations.h"
 #include "engine/Statistics.h"
+#include "engine/StreamCleaner.h"
 #include "engine/Structure.h"
 #include "engine/StructureGuard.h"
 #include "settings/ReadyProfiles.h"
 #include "tests/reference/PlainEngine.h"
 #include "tests/reference/RandomText.h"
+#include "text/Utf.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 
@@ -172,6 +175,43 @@ TEST(RandomTexts, GiveTheSameInPieces) {
     });
 }
 
+TEST(RandomTexts, GiveTheSameInStreams) {
+    std::vector<const engine::Operation *> streaming;
+    for (const engine::Operation &operation : engine::operations()) {
+        if (operation.localForm) {
+            streaming.push_back(&operation);
+        }
+    }
+    repeat(14, 1500, [&](Random &random) {
+        CleaningOptions options = random.options();
+        options.udProtectStructure = false;
+        const CleaningContext context{options, random.locale(), random.oneIn(4) ? 107 : 109};
+        std::vector<const engine::Operation *> steps(1 + random.below(3));
+        for (const engine::Operation *&step : steps) {
+            step = streaming[random.below(streaming.size())];
+        }
+        if (!engine::canStream(steps, options)) {
+            return;
+        }
+        std::string text = text::utf16ToUtf8(
+            random.text(random.oneIn(3) ? reference::quoteTokens() : reference::plainTokens()));
+        std::string expected = text::utf16ToUtf8(
+            engine::runSteps(text::utf8ToUtf16(text).text, steps, context, engine::cachedPiece));
+        engine::StreamCleaner cleaner(steps, context);
+        std::string actual;
+        const std::size_t longest = 1 + random.below(random.oneIn(2) ? 5 : text.size() + 1);
+        for (std::string_view rest = text; !rest.empty();) {
+            const std::size_t size = std::min(1 + random.below(longest), rest.size());
+            cleaner.feed(rest.substr(0, size), actual);
+            rest.remove_prefix(size);
+        }
+        cleaner.finish(actual);
+        ASSERT_EQ(actual, expected)
+            << escaped(text::utf8ToUtf16(text).text) << " through " << steps.front()->name
+            << " and " << steps.size() - 1 << " more, locale " << context.locale;
+    });
+}
+
 TEST(RandomTexts, HaveTheSameCounts) {
     repeat(7, 100000, [](Random &random) {
         const std::u16string text = random.text(reference::plainTokens());
@@ -183,12 +223,13 @@ TEST(RandomTexts, HaveTheSameCounts) {
         ASSERT_TRUE(actual == same)
             << escaped(text) << ": words " << actual.words << " for " << same.words
             << ", paragraphs " << actual.paragraphs << " for " << same.paragraphs;
-        const std::u16string_view whole = text;
-        const std::size_t cut =
-            engine::lastCountingCut(whole.substr(0, random.below(whole.size() + 1)), 0);
-        engine::TextStatistics sum = engine::countAll(whole.substr(0, cut), locale);
-        sum += engine::countAll(whole.substr(cut), locale);
-        ASSERT_TRUE(sum == same) << escaped(text) << " cut at " << cut;
+        engine::StreamCounter counter(locale);
+        for (std::u16string_view rest = text; !rest.empty();) {
+            const std::size_t size = std::min(1 + random.below(9), rest.size());
+            counter.feed(rest.substr(0, size));
+            rest.remove_prefix(size);
+        }
+        ASSERT_TRUE(counter.counts() == same) << escaped(text) << " in pieces";
     });
 }
 
