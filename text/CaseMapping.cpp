@@ -127,14 +127,6 @@ bool hasMappingsOfItsOwn(std::string_view locale, std::initializer_list<std::str
            std::ranges::find(others, language) != others.end();
 }
 
-NERLO_CLONES bool isAscii(const char16_t *units) {
-    char16_t all = 0;
-    for (std::size_t i = 0; i < scanBlock; ++i) {
-        all = static_cast<char16_t>(all | units[i]);
-    }
-    return all < 0x80;
-}
-
 // ASCII letters of the range that begins at `first` have their case flipped.
 NERLO_CLONES void flipCase(char16_t *units, char16_t first) {
     for (std::size_t i = 0; i < scanBlock; ++i) {
@@ -197,17 +189,59 @@ std::size_t tokenEnd(std::u16string_view text, std::size_t at) {
     return at;
 }
 
+// Most texts are of letters whose cases lie a fixed distance apart, and of scripts without case.
+// Maps a block of nothing else; false for any other block, which stays as it was.
+inline __attribute__((always_inline)) bool mapCommon(char16_t *units, bool up) {
+    const auto in = [](char16_t unit, char16_t first, char16_t last) {
+        return static_cast<unsigned>(static_cast<char16_t>(unit - first) <= last - first);
+    };
+    char16_t mapped[scanBlock];
+    unsigned others = 0;
+    for (std::size_t i = 0; i < scanBlock; ++i) {
+        const char16_t unit = units[i];
+        // What has case is asked for by the letters of the case that goes.
+        const auto by32 = up ? in(unit, u'a', u'z') |
+                                   (in(unit, 0xE0, 0xFE) & static_cast<unsigned>(unit != 0xF7)) |
+                                   in(unit, 0x430, 0x44F)
+                             : in(unit, u'A', u'Z') |
+                                   (in(unit, 0xC0, 0xDE) & static_cast<unsigned>(unit != 0xD7)) |
+                                   in(unit, 0x410, 0x42F);
+        const auto by80 = up ? in(unit, 0x450, 0x45F) : in(unit, 0x400, 0x40F);
+        const unsigned distance = by32 * 32 + by80 * 80;
+        mapped[i] = static_cast<char16_t>(up ? unit - distance : unit + distance);
+        const unsigned common = in(unit, 0, 0xFF) | in(unit, 0x400, 0x45F) |
+                                in(unit, 0x590, 0x109F) | in(unit, 0x2000, 0x206F) |
+                                in(unit, 0x2E80, 0xA63F) | in(unit, 0xAC00, 0xD7FF);
+        const unsigned odd =
+            up ? in(unit, 0xB5, 0xB5) | in(unit, 0xDF, 0xDF) | in(unit, 0xFF, 0xFF) : 0;
+        others |= (common ^ 1) | odd;
+    }
+    if (others != 0) {
+        return false;
+    }
+    std::copy_n(mapped, scanBlock, units);
+    return true;
+}
+
+NERLO_CLONES bool lowerCommon(char16_t *units) {
+    return mapCommon(units, false);
+}
+
+NERLO_CLONES bool upperCommon(char16_t *units) {
+    return mapCommon(units, true);
+}
+
 // Maps unit by unit. A unit whose mapping depends on its neighbours hands its whole token to ICU:
 // no mapping looks past a blank, and mapping what is already mapped changes nothing.
 template <class Pages>
 std::u16string mapUnits(std::u16string input, const std::string &locale, Pages &pages,
-                        Mapping mapping, UChar32 (*simple)(UChar32), char16_t asciiFrom) {
+                        Mapping mapping, UChar32 (*simple)(UChar32),
+                        bool (*mapCommonBlock)(char16_t *units)) {
     Rewriting text(std::move(input));
     char16_t *const units = text.data();
     const std::size_t size = text.size();
     for (std::size_t at = 0; at < size;) {
-        if (size - at >= scanBlock && isAscii(units + at)) {
-            flipCase(units + at, asciiFrom);
+        if (size - at >= scanBlock && mapCommonBlock(units + at)) {
             at += scanBlock;
             continue;
         }
@@ -241,14 +275,14 @@ std::u16string toLowercase(std::u16string text, const std::string &locale) {
     if (hasMappingsOfItsOwn(locale, {})) {
         return mapped(text, locale, lower);
     }
-    return mapUnits(std::move(text), locale, lowerCase, lower, u_tolower, u'A');
+    return mapUnits(std::move(text), locale, lowerCase, lower, u_tolower, lowerCommon);
 }
 
 std::u16string toUppercase(std::u16string text, const std::string &locale) {
     if (hasMappingsOfItsOwn(locale, {"el", "ell"})) {
         return mapped(text, locale, upper);
     }
-    return mapUnits(std::move(text), locale, upperCase, upper, u_toupper, u'a');
+    return mapUnits(std::move(text), locale, upperCase, upper, u_toupper, upperCommon);
 }
 
 namespace {

@@ -1,6 +1,7 @@
 #include "text/Utf.h"
 
 #include "text/Simd.h"
+#include "text/UtfVectors.h"
 
 #include <algorithm>
 #include <array>
@@ -132,10 +133,61 @@ bool mayBeIncomplete(std::string_view bytes) {
     return bytes.size() < 3 || (byteOf(bytes[2]) & 0xC0) == 0x80;
 }
 
+NERLO_CLONES std::size_t asciiBlocks(const char *bytes, std::size_t count) {
+    std::size_t at = 0;
+    for (; at + chunk <= count; at += chunk) {
+        unsigned char all = 0;
+        for (std::size_t i = 0; i < chunk; ++i) {
+            all = static_cast<unsigned char>(all | static_cast<unsigned char>(bytes[at + i]));
+        }
+        if (all >= 0x80) {
+            break;
+        }
+    }
+    return at;
+}
+
+// How many bytes at the front are complete, well-formed sequences.
+std::size_t wellFormedPrefix(std::string_view bytes) {
+    const char *at = bytes.data();
+    const char *const end = at + bytes.size();
+    if (hasUtfVectors()) {
+        at += checkUtf8Vectors(bytes);
+        // The last sequence may go on behind them.
+        do {
+            at -= at > bytes.data() ? 1 : 0;
+        } while (at > bytes.data() && (byteOf(*at) & 0xC0) == 0x80);
+    }
+    while (at < end) {
+        if (end - at >= static_cast<std::ptrdiff_t>(wordful<char>)) {
+            const std::size_t ascii = asciiPrefix(at);
+            at += ascii;
+            if (ascii == wordful<char>) {
+                at += asciiBlocks(at, static_cast<std::size_t>(end - at));
+                continue;
+            }
+        }
+        do {
+            char32_t character = 0;
+            const std::size_t length = decodeOne(at, static_cast<std::size_t>(end - at), character);
+            if (length == 0) {
+                return static_cast<std::size_t>(at - bytes.data());
+            }
+            at += length;
+        } while (at < end && byteOf(*at) >= 0x80);
+    }
+    return bytes.size();
+}
+
 // Decodes until the bytes end, do not go on, or `room` may not hold another chunk. Returns the
 // number of bytes taken; the units go to `to`.
 std::size_t decodeBlock(std::string_view bytes, char16_t *const to, std::size_t room,
                         std::size_t &written) {
+    if (hasUtfVectors() && bytes.size() >= 2 * chunk) {
+        const std::size_t size = wellFormedPrefix(bytes.substr(0, room - chunk));
+        written = decodeUtf8Vectors(bytes.substr(0, size), to);
+        return size;
+    }
     const char *at = bytes.data();
     const char *const end = at + bytes.size();
     char16_t *unit = to;
@@ -212,7 +264,7 @@ void Utf8Decoder::decode(std::string_view bytes, std::u16string &to) {
         to.append(block.data(), units);
         consumed_ += taken;
         bytes.remove_prefix(taken);
-        if (!bytes.empty() && units <= block.size() - chunk) { // stopped before it was full
+        if (!bytes.empty() && taken == 0) {
             if (mayBeIncomplete(bytes)) {
                 pending_ = bytes;
                 return;
@@ -227,49 +279,6 @@ void Utf8Decoder::finish() {
         invalidAt_ = consumed_;
     }
 }
-
-namespace {
-
-NERLO_CLONES std::size_t asciiBlocks(const char *bytes, std::size_t count) {
-    std::size_t at = 0;
-    for (; at + chunk <= count; at += chunk) {
-        unsigned char all = 0;
-        for (std::size_t i = 0; i < chunk; ++i) {
-            all = static_cast<unsigned char>(all | static_cast<unsigned char>(bytes[at + i]));
-        }
-        if (all >= 0x80) {
-            break;
-        }
-    }
-    return at;
-}
-
-// How many bytes at the front are complete, well-formed sequences.
-std::size_t wellFormedPrefix(std::string_view bytes) {
-    const char *at = bytes.data();
-    const char *const end = at + bytes.size();
-    while (at < end) {
-        if (end - at >= static_cast<std::ptrdiff_t>(wordful<char>)) {
-            const std::size_t ascii = asciiPrefix(at);
-            at += ascii;
-            if (ascii == wordful<char>) {
-                at += asciiBlocks(at, static_cast<std::size_t>(end - at));
-                continue;
-            }
-        }
-        do {
-            char32_t character = 0;
-            const std::size_t length = decodeOne(at, static_cast<std::size_t>(end - at), character);
-            if (length == 0) {
-                return static_cast<std::size_t>(at - bytes.data());
-            }
-            at += length;
-        } while (at < end && byteOf(*at) >= 0x80);
-    }
-    return bytes.size();
-}
-
-} // namespace
 
 std::string_view Utf8Checker::next(std::string_view &bytes) {
     while (!pending_.empty() && !bytes.empty() && !invalidAt_) {
@@ -320,8 +329,14 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
     const char16_t *const end = at + text.size();
     char *to = room.data();
     const char *const full = to + room.size();
+    const bool vectors = hasUtfVectors();
     while (at < end && full - to >= 4) {
-        if (end - at >= 4) {
+        if (vectors) {
+            encodeUtf8Vectors(at, end, to, full);
+            if (at == end || full - to < 4) {
+                continue;
+            }
+        } else if (end - at >= 4) {
             const std::size_t ascii = copyAsciiOfWord(at, to);
             at += ascii;
             to += ascii;
@@ -360,7 +375,8 @@ std::size_t encodeUtf8(std::u16string_view &text, std::span<char> room) {
             *to++ = static_cast<char>(0xE0 | character >> 12);
             *to++ = static_cast<char>(0x80 | (character >> 6 & 0x3F));
             *to++ = static_cast<char>(0x80 | (character & 0x3F));
-        } while (full - to >= 4 && end - at >= 2 && (at[0] | at[1]) >= 0x80);
+        } while (full - to >= 4 && end - at >= 2 && (at[0] | at[1]) >= 0x80 &&
+                 (!vectors || end - at < static_cast<std::ptrdiff_t>(chunk)));
     }
     text.remove_prefix(static_cast<std::size_t>(at - text.data()));
     return static_cast<std::size_t>(to - room.data());

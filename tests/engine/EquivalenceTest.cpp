@@ -92,6 +92,7 @@ TEST(EveryUnit, HasItsCaseChangedLikeICU) {
                 text.append(u" ");
             }
             text.append(text.size() % 64, u'-');
+            text.append(64, unit); // a block of nothing else
             for (options.udChangeCaseOption = 1; options.udChangeCaseOption <= 3;
                  ++options.udChangeCaseOption) {
                 const CleaningContext context{options, locale};

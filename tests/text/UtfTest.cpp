@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <unicode/unistr.h>
+#include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
 #include <random>
@@ -26,8 +26,11 @@ Utf16Result decodedSlowly(std::string_view bytes) {
             result.invalidAt = start;
             break;
         }
-        const icu::UnicodeString text(character);
-        result.text.append(text.getBuffer(), static_cast<std::size_t>(text.length()));
+        if (character > 0xFFFF) {
+            result.text.push_back(U16_LEAD(character));
+        }
+        result.text.push_back(character > 0xFFFF ? U16_TRAIL(character)
+                                                 : static_cast<char16_t>(character));
     }
     return result;
 }
@@ -46,6 +49,16 @@ void expectSame(const std::string &bytes, std::size_t cut) {
     decoder.finish();
     ASSERT_EQ(decoder.invalidAt(), expected.invalidAt) << "in pieces of " << cut;
     ASSERT_EQ(text, expected.text) << "in pieces of " << cut;
+    Utf8Checker checker;
+    std::string characters;
+    for (std::size_t at = 0; at < bytes.size(); at += cut) {
+        for (std::string_view rest = std::string_view(bytes).substr(at, cut); !rest.empty();) {
+            characters += checker.next(rest);
+        }
+    }
+    checker.finish();
+    ASSERT_EQ(checker.invalidAt(), expected.invalidAt) << "unread, in pieces of " << cut;
+    ASSERT_EQ(characters, bytes.substr(0, expected.invalidAt.value_or(bytes.size())));
 }
 
 TEST(Utf, DecodesEveryShortSequence) {
@@ -81,14 +94,45 @@ TEST(Utf, DecodesAndEncodesRandomTexts) {
         for (std::size_t i = below(round % 50 == 0 ? 20'000 : 60); i > 0; --i) {
             bytes += pieces[below(std::size(pieces))];
         }
-        const std::size_t cut = 1 + below(40);
-        ASSERT_NO_FATAL_FAILURE(expectSame(bytes, cut));
-        const Utf16Result decoded = utf8ToUtf16(bytes);
-        ASSERT_EQ(utf16ToUtf8(decoded.text), bytes);
-        if (!bytes.empty()) {
-            bytes[below(bytes.size())] = static_cast<char>(below(256));
-            ASSERT_NO_FATAL_FAILURE(expectSame(bytes, cut));
+        ASSERT_NO_FATAL_FAILURE(expectSame(bytes, 1 + below(40)));
+        ASSERT_EQ(utf16ToUtf8(utf8ToUtf16(bytes).text), bytes);
+    }
+}
+
+// The vector code looks at blocks, in which a mistake may stand anywhere, at their edges too.
+TEST(Utf, FindsTheMistakesThatICUFinds) {
+    std::mt19937 random(2);
+    const auto below = [&](std::size_t bound) { return random() % bound; };
+    const std::string characters[] = {"a",
+                                      "\xC2\x80",
+                                      "\xD0\xB6",
+                                      "\xE0\xA0\x80",
+                                      "\xED\x9F\xBF",
+                                      "\xEF\xBF\xBF",
+                                      "\xF0\x90\x80\x80",
+                                      "\xF4\x8F\xBF\xBF",
+                                      "some words of ASCII"};
+    constexpr int wanted = 200'000;
+    int malformed = 0;
+    for (int round = 0; malformed < wanted; ++round) {
+        ASSERT_LT(round, 2 * wanted);
+        std::string bytes;
+        for (std::size_t i = 1 + below(40); i > 0; --i) {
+            bytes += characters[below(below(2) == 0 ? 3 : std::size(characters))];
         }
+        const std::size_t at = below(bytes.size());
+        switch (below(3)) {
+        case 0:
+            bytes[at] = static_cast<char>(0x80 + below(0x80));
+            break;
+        case 1:
+            bytes.erase(at, 1);
+            break;
+        default:
+            bytes.insert(at, 1, static_cast<char>(0x80 + below(0x80)));
+        }
+        ASSERT_NO_FATAL_FAILURE(expectSame(bytes, 1 + below(100)));
+        malformed += utf8ToUtf16(bytes).invalidAt ? 1 : 0;
     }
 }
 
