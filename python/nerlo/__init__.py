@@ -96,9 +96,9 @@ _ENDIAN = sys.byteorder[0]
 _utf16 = getattr(codecs, f"utf_16_{_ENDIAN}e_encode")
 _of_utf16 = getattr(codecs, f"utf_16_{_ENDIAN}e_decode")
 
-# Bytes that are cleaned in one call: a list of any length takes no more memory than some times this
-# beside itself and its result.
-_BLOCK = 1 << 21
+# Bytes that are cleaned in one call: some that stay in the processor's caches on the way in and out. A
+# list of any length takes no more memory than some times this beside itself and its result.
+_BLOCK = 1 << 19
 
 
 def _check(status: int, index: int | None = None) -> None:
