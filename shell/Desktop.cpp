@@ -19,8 +19,8 @@ Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &worke
     desktop.hotKeys = desktop.backends->openHotKeys(layout, applicationId);
     desktop.popupLayer = desktop.backends->openPopupLayer();
     desktop.paster = desktop.backends->openPaster(layout);
-    desktop.systemHotKeys =
-        platform::createDesktopHotKeys(layout, workerQueue, platform::DesktopSources::system());
+    desktop.systemHotKeys = platform::createDesktopHotKeys(
+        layout, workerQueue, platform::DesktopSources::system(applicationId));
     const auto configFolder = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
     desktop.loginItem = std::make_unique<platform::AutostartEntry>(
         configFolder.toStdString() + "/autostart",

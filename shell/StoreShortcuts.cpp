@@ -4,6 +4,7 @@
 #include "platform/linux/DesktopHotKeys.h"
 #include "platform/qt/QtMainQueue.h"
 #include "settings/SettingsPaths.h"
+#include "shell/Desktop.h"
 #include "shell/HotKeyCommands.h"
 #include "shell/StatusMenu.h"
 #include "shell/Terminal.h"
@@ -38,8 +39,8 @@ int storeShortcuts(const std::vector<std::string> &wanted) {
         return complain(store.loadError());
     }
     HereQueue here;
-    const auto systemHotKeys =
-        platform::createDesktopHotKeys(*layout.backend, here, platform::DesktopSources::system());
+    const auto systemHotKeys = platform::createDesktopHotKeys(
+        *layout.backend, here, platform::DesktopSources::system(applicationId));
     systemHotKeys->refresh();
     const auto refusal =
         refusalOf(changes, store, *layout.backend, *systemHotKeys, StatusMenu::mainMenu());

@@ -1,6 +1,7 @@
 #include "platform/backends/Backends.h"
 
 #include "platform/Created.h"
+#include "platform/qt/KdeHotKeys.h"
 #include "platform/qt/PortalHotKeys.h"
 #include "platform/qt/QtWindowSystem.h"
 #include "platform/wayland/EventLoop.h"
@@ -112,6 +113,10 @@ Chosen<HotKeyService> Backends::openHotKeys(const KeyboardLayout &layout,
             // Keys grabbed in Xwayland would be missed whenever a Wayland window has the focus.
             if (!wayland::EventLoop::connect(io_, wayland::EventLoop::defaultDisplay())) {
                 return {nullptr, "there is no Wayland compositor"};
+            }
+            if (auto kde = createKdeHotKeys(mainQueue_, layout, applicationId, "Nerlo Pro");
+                kde.backend) {
+                return kde;
             }
             auto portal = createPortalHotKeys(mainQueue_, layout, applicationId);
             return portal.backend ? std::move(portal) : always<HotKeyService, NoHotKeys>();

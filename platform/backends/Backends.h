@@ -53,7 +53,8 @@ class Backends {
     // In the same order; the last never declines and is the us layout.
     Chosen<KeyboardLayout> openKeyboardLayout();
 
-    // On Wayland the desktop portal, else X11; the last never declines and refuses every hot key.
+    // On Wayland KDE's own service, else the desktop portal; else X11. The last never declines and
+    // refuses every hot key.
     // `layout` must outlive the result. `applicationId` is that of the desktop file.
     Chosen<HotKeyService> openHotKeys(const KeyboardLayout &layout,
                                       const std::string &applicationId);

@@ -191,7 +191,13 @@ void collectXfce(const DesktopSources &sources, Collector &collector) {
 // first start, the name. A comma that is a key has a backslash before it.
 void collectKde(const DesktopSources &sources, Collector &collector) {
     const std::string file = sources.configuration("kglobalshortcutsrc");
+    const std::string ourHeading = "[" + sources.ours + "]";
+    bool ours = false;
     forEachLine(file, [&](std::string_view line) {
+        ours = line.starts_with('[') ? line == ourHeading : ours;
+        if (ours) {
+            return;
+        }
         const auto equals = line.find('=');
         if (equals == line.npos || line.starts_with("_k_friendly_name")) {
             return;
@@ -296,7 +302,7 @@ std::string environment(const char *name) {
 
 } // namespace
 
-DesktopSources DesktopSources::system() {
+DesktopSources DesktopSources::system(std::string applicationId) {
     return {environment("XDG_CURRENT_DESKTOP"),
             [](const std::string &name) {
                 const std::string home = environment("XDG_CONFIG_HOME");
@@ -308,7 +314,8 @@ DesktopSources DesktopSources::system() {
                 text.resize(static_cast<std::size_t>(file.gcount()));
                 return text;
             },
-            [](const std::vector<std::string> &command) { return outputOfCommand(command); }};
+            [](const std::vector<std::string> &command) { return outputOfCommand(command); },
+            std::move(applicationId)};
 }
 
 std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,

@@ -22,7 +22,10 @@ struct DesktopSources {
     // The standard output of a program, or empty.
     std::function<std::string(const std::vector<std::string> &command)> output;
 
-    static DesktopSources system();
+    // The group of KDE's list in which the shortcuts of this program stand, which do not count.
+    std::string ours = {};
+
+    static DesktopSources system(std::string applicationId);
 };
 
 // `layout` and `workers` must outlive the result. On any other desktop the list is empty.

@@ -2,8 +2,8 @@
 """nerlo-pro's hot keys: other programs copy, press, paste and store shortcuts.
 
 Each test runs in a session of its own: the x11 ones in x11-session, the others in wayland-session, with
-the real xdg-desktop-portal in front of a backend of ours, or without one. NERLO_PRO names the program
-under test.
+the real xdg-desktop-portal in front of a backend of ours, with KDE's own service, or with neither.
+NERLO_PRO names the program under test.
 """
 import ctypes
 import os
@@ -18,6 +18,7 @@ from desktop_session import Logged, desktop, output_of, wait_until
 from shell_test import BUS_NAME, CONFIG, PORTAL, PROGRAM, Portal
 
 SHIFT, LOCK, SUPER = 1, 2, 64
+META = 0x10000000  # KDE's number for Super
 SCROLL_LOCK = 32  # put there by a test
 
 
@@ -58,6 +59,44 @@ class Keyboard:
             self.x.XUngrabKey(self.display, keycode, modifiers | locked,
                               self.x.XDefaultRootWindow(self.display))
         self.x.XSync(self.display, 0)
+
+
+class Kde:
+    """KDE's own service for global shortcuts, and the user's hand on its settings."""
+
+    OURS = "org.nerlo.NerloPro"
+    NAME = "org.kde.kglobalaccel"
+
+    def __init__(self):
+        self.service = subprocess.Popen(["kglobalaccel5"], stderr=subprocess.DEVNULL,
+                                        env=os.environ | {"QT_QPA_PLATFORM": "offscreen"})
+        bus = dbus.SessionBus()
+        wait_until(lambda: bus.name_has_owner(self.NAME), "KDE's service")
+        self.shortcuts = dbus.Interface(bus.get_object(self.NAME, "/kglobalaccel"),
+                                        "org.kde.KGlobalAccel")
+
+    def call(self, method, component, action, *more):
+        action = dbus.Array([component, action, component.title(), action], signature="s")
+        return getattr(self.shortcuts, method)(action, *more)
+
+    def take(self, action, key):
+        self.call("doRegister", "other", action)
+        self.call("setShortcut", "other", action, dbus.Array([key], signature="i"), dbus.UInt32(6))
+
+    def choose(self, action, key):
+        self.call("setForeignShortcut", self.OURS, action, dbus.Array([key], signature="i"))
+
+    def keys(self, action):
+        return [key for key in self.call("shortcut", self.OURS, action) if key]
+
+    def press(self, action):
+        path = self.shortcuts.getComponent(self.OURS)
+        component = dbus.SessionBus().get_object(self.NAME, path)
+        component.invokeShortcut(action, dbus_interface="org.kde.kglobalaccel.Component")
+
+    def close(self):
+        self.service.terminate()
+        self.service.wait(timeout=20)
 
 
 class HotKeyTest(unittest.TestCase):
@@ -266,6 +305,32 @@ class HotKeyTest(unittest.TestCase):
         self.cleans(self.press)
         portal.portal.terminate()
         self.says("the desktop portal has ended")
+
+    def test_wayland_kde_binds_what_is_stored_and_what_is_chosen_there(self):
+        kde = Kde()
+        self.addCleanup(kde.close)
+        kde.take("sSort", META | ord("T"))
+        self.store("remove-all-spaces=Super+R")
+        self.start()
+        self.finds("clean=Super+V: works")
+        self.finds("remove-all-spaces=Super+R: works")
+        self.cleans(lambda: kde.press("sRemoveAllSpaces"))
+        self.store("sort-lines=Super+T", "refused, taken by Other: sSort")
+        self.store("remove-all-spaces=Super+Shift+F5", "works")
+        self.cleans(lambda: kde.press("sRemoveAllSpaces"))
+        # What the user chooses in the system settings, now or while the program is away, stays.
+        kde.choose("sRemoveAllSpaces", META | ord("Y"))
+        self.finds("remove-all-spaces=Super+Shift+F5: works, with the desktop's keys: Super+Y")
+        output_of(PROGRAM, "--quit")
+        self.start()
+        self.finds("remove-all-spaces=Super+Shift+F5: works, with the desktop's keys: Super+Y")
+        self.cleans(lambda: kde.press("sRemoveAllSpaces"))
+        self.store("remove-all-spaces=Super+U", "works")
+        self.store("remove-all-spaces=")
+        wait_until(lambda: kde.keys("sRemoveAllSpaces") == [], "it is forgotten")
+        self.says('hot key "sSort": taken by Other: sSort')
+        kde.close()
+        self.says("the desktop's global shortcuts have ended")
 
     def test_wayland_without_a_portal_it_says_so_and_works(self):
         self.start()

@@ -32,7 +32,7 @@ HotKeyList read(const std::string &desktop, std::map<std::string, std::string> t
     const auto hotKeys =
         createDesktopHotKeys(layout, workers,
                              {desktop, [&](const std::string &name) { return texts[name]; },
-                              [&](const auto &command) { return texts[join(command)]; }});
+                              [&](const auto &command) { return texts[join(command)]; }, "ours"});
     hotKeys->refresh();
     hotKeys->refresh();
     EXPECT_EQ(workers.size(), 1u); // one reading at a time, and none on this thread
@@ -72,7 +72,8 @@ TEST(DesktopHotKeys, OfEachDesktop) {
                                                   "Expose=none,Ctrl+F9,Toggle\n"
                                                   "Zoom=Meta+\\,,none,Zoom\n"
                                                   "Page=Ctrl+PgUp,none,Up\n"
-                                                  "_launch=Meta+Ctrl+Esc\n"}}),
+                                                  "_launch=Meta+Ctrl+Esc\n"
+                                                  "[ours]\nclean=Meta+V,,\n"}}),
               (HotKeyList{{118, 0x800}, {12, 0x1000}, {43, 0x1000}, {116, 0x100}, {53, 0x1100}}));
     EXPECT_TRUE(read("sway", {{"kglobalshortcutsrc", "a=Meta+V,,"}}).empty());
 }
