@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -100,15 +99,7 @@ void ChooserWindow::arrange() {
     search_->setPalette(colours);
     search_->installEventFilter(this);
     describe(*list_, "chooserList", "sChooserList", "sChooserListTip");
-    list_->setColumnCount(2);
-    list_->setHeaderHidden(true);
-    list_->setRootIsDecorated(false);
-    list_->setUniformRowHeights(true);
-    list_->setTabKeyNavigation(false);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->header()->setStretchLastSection(false);
-    list_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    list_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    setUpPairs(*list_);
     note_->setObjectName("chooserNote");
     note_->setTextFormat(Qt::PlainText);
     note_->setWordWrap(true);

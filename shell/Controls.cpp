@@ -2,7 +2,9 @@
 
 #include "shell/Strings.h"
 
+#include <QHeaderView>
 #include <QTextDocument>
+#include <QTreeWidget>
 #include <QWidget>
 
 namespace nerlo::shell {
@@ -23,6 +25,19 @@ void describeAs(QWidget &widget, const QString &objectName, const QString &name,
 void describe(QWidget &widget, const char *objectName, std::string_view nameKey,
               std::string_view tipKey) {
     describeAs(widget, objectName, localized(nameKey), localized(tipKey));
+}
+
+void setUpPairs(QTreeWidget &list) {
+    list.setColumnCount(2);
+    list.setHeaderHidden(true);
+    list.setRootIsDecorated(false);
+    list.setUniformRowHeights(true);
+    list.setTabKeyNavigation(false);
+    list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list.header()->setStretchLastSection(false);
+    list.header()->setMinimumSectionSize(0);
+    list.header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list.header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
 }
 
 } // namespace nerlo::shell

@@ -5,6 +5,7 @@
 #include <QString>
 #include <string_view>
 
+class QTreeWidget;
 class QWidget;
 
 namespace nerlo::shell {
@@ -19,5 +20,8 @@ void describeAs(QWidget &widget, const QString &objectName, const QString &name,
 // The same by the keys of the texts.
 void describe(QWidget &widget, const char *objectName, std::string_view nameKey,
               std::string_view tipKey);
+
+// A list of names, each with a word behind it: the name has the room that the word leaves.
+void setUpPairs(QTreeWidget &list);
 
 } // namespace nerlo::shell

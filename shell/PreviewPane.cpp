@@ -5,7 +5,6 @@
 #include "shell/StepNames.h"
 #include "shell/Strings.h"
 
-#include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -103,16 +102,7 @@ void PreviewPane::describeParts() {
 }
 
 void PreviewPane::arrange() {
-    steps_->setColumnCount(2);
-    steps_->setHeaderHidden(true);
-    steps_->setRootIsDecorated(false);
-    steps_->setUniformRowHeights(true);
-    steps_->setTabKeyNavigation(false);
-    steps_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    steps_->header()->setStretchLastSection(false);
-    steps_->header()->setMinimumSectionSize(0);
-    steps_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    steps_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    setUpPairs(*steps_);
     steps_->setMinimumHeight(fewestRows * (fontMetrics().height() + 6));
     befores_->addWidget(typed_);
     befores_->addWidget(before_);
