@@ -28,7 +28,7 @@ constexpr QSize usualSize{600, 480};
 constexpr int rowSpacing = 8;
 constexpr int placeRole = Qt::UserRole; // of the item
 // UTF-16 code units; of a longer text the beginning is shown.
-constexpr std::size_t longest = shownWhole;
+constexpr std::size_t longest = 50'000;
 // Keystrokes that follow each other closely make one preview.
 constexpr auto settlesAfter = 30ms;
 // Whoever has called the window may still hold the keys of its shortcut, and with them the

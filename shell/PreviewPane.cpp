@@ -62,7 +62,7 @@ void setNames(QTreeWidgetItem &row, const QString &name, std::size_t changes) {
 PreviewPane::PreviewPane(Program &program)
     : program_(program)
     , mainQueue_(program.parts().mainQueue)
-    , halves_(new QBoxLayout(QBoxLayout::TopToBottom, this))
+    , halves_(new QBoxLayout(QBoxLayout::TopToBottom))
     , typed_(new TypedText)
     , before_(makeShownPane("previewShownBefore", "sPreviewBefore", "sPreviewShownBeforeTip"))
     , befores_(new QStackedWidget)
@@ -107,7 +107,10 @@ void PreviewPane::arrange() {
     befores_->addWidget(typed_);
     befores_->addWidget(before_);
 
-    halves_->setContentsMargins(0, 0, 0, 0);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addLayout(halves_, 1);
+    all->addWidget(note_);
     const auto addPart = [this](const char *key, QWidget *part, QWidget *buddy, int stretch) {
         auto *box = new QVBoxLayout;
         auto *title = new QLabel(localized(key));
@@ -121,7 +124,6 @@ void PreviewPane::arrange() {
     before->addWidget(clear_);
     before->addWidget(take_);
     auto *after = addPart("sPreviewAfter", after_, after_, textStretch);
-    after->addWidget(note_);
     after->addWidget(apply_);
     addPart("sPreviewSteps", steps_, steps_, stepsStretch);
 }
@@ -199,6 +201,7 @@ void PreviewPane::setBefore(std::u16string text) {
 void PreviewPane::setSideBySide(bool sideBySide) {
     halves_->setDirection(sideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     halves_->setStretch(2, sideBySide ? textStretch : stepsStretch);
+    layout()->invalidate(); // it is asked for its size at once
 }
 
 QString PreviewPane::after() const {
@@ -465,6 +468,17 @@ void PreviewPane::tell() {
     }
     note_->setText(notes.join('\n'));
     note_->setVisible(!notes.isEmpty());
+    fitNote();
+}
+
+// A splitter does not ask how high a text of this width is.
+void PreviewPane::fitNote() {
+    note_->setMinimumHeight(std::max(0, note_->heightForWidth(width())));
+}
+
+void PreviewPane::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    fitNote();
 }
 
 } // namespace nerlo::shell

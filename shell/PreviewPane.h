@@ -57,6 +57,7 @@ class PreviewPane final : public QWidget {
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
   private:
     void describeParts();
@@ -87,6 +88,7 @@ class PreviewPane final : public QWidget {
     void showFirstChange();
     void markShown();
     void tell();
+    void fitNote();
 
     Program &program_;
     platform::MainQueue &mainQueue_;

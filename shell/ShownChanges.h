@@ -51,7 +51,7 @@ struct LeftOutWords {
 };
 
 // The longest texts that are shown whole,
-inline constexpr std::size_t shownWhole = 50'000;
+inline constexpr std::size_t shownWhole = 20'000;
 // and what is shown of others; the last part may go a little further.
 inline constexpr std::size_t shownOfLong = 10'000;
 // A longer list of changes than this is of no use for a long text.

@@ -30,6 +30,8 @@ void setUpTextPane(QPlainTextEdit &pane, const char *name, const char *titleKey,
                    const char *tipKey) {
     describe(pane, name, titleKey, tipKey);
     pane.setTabChangesFocus(true);
+    // Lines are wrapped; only the sign of a break may stand a little beyond the edge.
+    pane.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QTextOption option = pane.document()->defaultTextOption();
     option.setAlignment(QStyle::visualAlignment(pane.layoutDirection(), Qt::AlignLeft));
     option.setFlags(option.flags() | QTextOption::ShowTabsAndSpaces |

@@ -1260,7 +1260,7 @@
     </message>
     <message>
         <source>sPreviewMarksAteTags</source>
-        <translation>أخذ خيار «%@» علامات &gt; من وسوم HTML قبل أن يصل إليها خيار «%@». عطّل أحدهما.</translation>
+        <translation>أخذ خيار «%@» علامات ‎&gt;‎ من وسوم HTML قبل أن يصل إليها خيار «%@». عطّل أحدهما.</translation>
     </message>
     <message>
         <source>sLeftOutLines</source>
