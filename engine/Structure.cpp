@@ -222,8 +222,9 @@ bool isTag(View words, std::span<const View> names) {
     return std::ranges::find(names, View(name)) != names.end();
 }
 
-// What ends a block of HTML that begins with these words: a text, "" for a blank line.
-const char16_t *endOfMarkup(View words) {
+// What ends a block of HTML that begins with these words: a text, "" for a blank line. Inside of a
+// paragraph, a tag alone on its line begins none.
+const char16_t *endOfMarkup(View words, bool insideParagraph) {
     if (!words.starts_with(u'<')) {
         return nullptr;
     }
@@ -242,7 +243,7 @@ const char16_t *endOfMarkup(View words) {
     const bool alone = words.size() > 2 && (isAsciiLetter(words[1]) || words[1] == u'/') &&
                        words.find(u'>') == words.size() - 1 && words.find(u"://") == View::npos &&
                        words.find(u'@') == View::npos;
-    return isTag(words, blockTags) || alone ? u"" : nullptr;
+    return isTag(words, blockTags) || (alone && !insideParagraph) ? u"" : nullptr;
 }
 
 // "[name]: address"
@@ -391,6 +392,10 @@ class MarkedStructure {
 
     LineKind inside(View words, std::size_t column, bool apart) {
         auto &line = lines_[at_];
+        if (!apart && isUnderline(words)) {
+            lines_[at_ - 1].kind = LineKind::heading;
+            return LineKind::rule;
+        }
         if (opensFence(words)) {
             return LineKind::fence;
         }
@@ -415,7 +420,7 @@ class MarkedStructure {
         if (isLinkDefinition(words)) {
             return LineKind::data;
         }
-        if ((markupEnd_ = endOfMarkup(words))) {
+        if ((markupEnd_ = endOfMarkup(words, !apart && above_ == LineKind::prose))) {
             return insideMarkup();
         }
         if (isPrompt(words)) {
@@ -438,6 +443,13 @@ class MarkedStructure {
             return far && mark < words.size() ? LineKind::code : LineKind::prose;
         }
         return LineKind::prose;
+    }
+
+    // Tildes as long as the line above make it a heading, as in reStructuredText.
+    bool isUnderline(View words) const {
+        return words.size() > 3 && words[0] == u'~' && runOf(words, u'~') == words.size() &&
+               above_ == LineKind::prose &&
+               lines_[at_ - 1].end - lines_[at_ - 1].words == words.size();
     }
 
     bool opensFence(View words) {
@@ -653,7 +665,9 @@ class Paragraphs {
     void run() {
         if (isSourceCode()) {
             std::ranges::for_each(lines_, [](auto &line) {
-                line.kind = line.kind == LineKind::blank ? line.kind : LineKind::code;
+                const bool stays = line.kind == LineKind::blank || line.kind == LineKind::fence ||
+                                   line.kind == LineKind::rule;
+                line.kind = stays ? line.kind : LineKind::code;
             });
             return;
         }
@@ -709,8 +723,11 @@ class Paragraphs {
         }
         for (std::size_t at = begin + 1; at < end; ++at) {
             const auto &line = lines_[at];
-            if (lines_[at - 1].kind == LineKind::table && line.words - line.begin >= hanging) {
-                lines_[at].kind = LineKind::table; // the rest of a cell
+            const auto &above = lines_[at - 1];
+            const std::size_t indent = line.words - line.begin;
+            const bool same = indent > 0 && indent == above.words - above.begin;
+            if (above.kind == LineKind::table && (indent >= hanging || same)) {
+                lines_[at].kind = LineKind::table; // the rest of a cell, or a row without columns
             }
         }
         if (isListOfValues(begin, end)) {
@@ -776,8 +793,13 @@ class Paragraphs {
             below = (below && words.find(u'|') != View::npos) || isTableRule(words);
             Columns own = columnsOf(lineAt(at), lines_[at].words - lines_[at].begin);
             const std::size_t ownTabs = innerTabs(words);
-            const bool aligned =
-                at > begin && (isAligned(columns, own) || (ownTabs > 0 && ownTabs == tabs));
+            const std::size_t indent = lines_[at].words - lines_[at].begin;
+            const bool hangs = // in the column above, or behind a sign in it: "= words"
+                indent >= hanging && std::ranges::any_of(columns.starts, [&](std::size_t start) {
+                    return start <= indent && indent <= start + 2;
+                });
+            const bool aligned = at > begin && (hangs || isAligned(columns, own) ||
+                                                (ownTabs > 0 && ownTabs == tabs));
             if (aligned || (below && at > begin && isTableRule(words))) {
                 lines_[at - 1].kind = LineKind::table;
             }
