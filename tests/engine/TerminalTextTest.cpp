@@ -59,6 +59,42 @@ TEST(TerminalText, JoinsWhatWasWrapped) {
         unwrapTerminal);
 }
 
+TEST(TerminalText, TellsCutRowsFromWrappedOnes) {
+    expectRows(
+        {{"cut at 40",
+          u"Rows that somebody wrapped at sixty colum\nns of an edit\n"
+          u"or come out of a narrower pane cut in the\n middle of words\n"
+          u"and the rest of each stands below the one\n that is full.\n",
+          u"Rows that somebody wrapped at sixty columns of an edit\n"
+          u"or come out of a narrower pane cut in the middle of words\n"
+          u"and the rest of each stands below the one that is full.\n"},
+         {"a pager's last row is no text",
+          u"The quick brown fox jumps over the lazy dog\nand then it sleeps under the old oak "
+          u"tree\nuntil the morning comes up over the hills\nnotes.txt",
+          u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak tree "
+          u"until the morning comes up over the hills\nnotes.txt"},
+         {"a dash and a sign that came to the begin of a row",
+          u"The quick brown fox jumps over the old lazy dogs\n- as far as it can - and sleeps "
+          u"under the old\noak until the morning of the next day has come\nand is gone, with all "
+          u"its many dreams that took\n>= six hours of sleep.",
+          u"The quick brown fox jumps over the old lazy dogs - as far as it can - and sleeps under "
+          u"the old oak until the morning of the next day has come and is gone, with all its many "
+          u"dreams that took >= six hours of sleep."},
+         {"blanks behind the words of a row",
+          u"The quick brown fox jumps over the lazy \ndog and then it sleeps under an old oak "
+          u"\ntree until the morning.",
+          u"The quick brown fox jumps over the lazy dog and then it sleeps under an old oak tree "
+          u"until the morning."},
+         {"a bar in front of rows of which one has another",
+          u"\u2502 one\n\u2502 two \u2502 three\n\u2502 four", u"one\ntwo \u2502 three\nfour"},
+         {"an underline of tildes opens no fence",
+          u"Heading\n~~~~~~~\nThe quick brown fox jumps over the lazy dog\nand then it sleeps "
+          u"under the old oak tree\nuntil the morning.",
+          u"Heading\n~~~~~~~\nThe quick brown fox jumps over the lazy dog and then it sleeps "
+          u"under the old oak tree until the morning."}},
+        unwrapTerminal);
+}
+
 TEST(TerminalText, LeavesAloneWhatMeansItsLines) {
     for (const std::u16string_view text : {
              u"{\n  \"name\": \"nerlo\",\n  \"list\": [\n    1,\n    2\n  ]\n}\n",
@@ -82,7 +118,16 @@ TEST(TerminalText, LeavesAloneWhatMeansItsLines) {
              u"SYNOPSIS\n       A few words that are set apart from their heading by blanks\n"
              u"       and then go on below, like code would and stay as they\n       are.\n",
              u"A line with two blanks at its end  \nmeans a break.\n",
+             u"commit 5f3c\nAuthor: Some Body Else <somebody.else@example.org>\n"
+             u"Date:   Sun Nov 22 08:11:58 2026 +0000\n\n    subject\n\n"
+             u" engine/Structure.cpp | 2 +-\n engine/Structure.h   | 1 +\n"
+             u" 2 files changed, 2 insertions(+), 1 deletion(-)\n",
+             u"LS(1)             User Commands             LS(1)\n\nNAME\n       ls - list files\n",
+             u"- one item of a list that ends at the very edge\n- and the next one that is as long "
+             u"as the other\n- and one more that is a little bit shorter\n",
          }) {
+        EXPECT_EQ(reference::escaped(unwrapTerminal(unwrapTerminal(std::u16string(text)))),
+                  reference::escaped(std::u16string(text)));
         EXPECT_EQ(reference::escaped(unwrapTerminal(std::u16string(text))),
                   reference::escaped(std::u16string(text)));
     }

@@ -1,0 +1,724 @@
+#include "engine/WrappedLines.h"
+
+#include "engine/ScreenText.h"
+#include "engine/Structure.h"
+#include "text/Characters.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <span>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace nerlo::engine {
+
+namespace {
+
+using View = std::u16string_view;
+using Lines = std::vector<StructuredLine>;
+
+// No terminal is narrower than people can read, nor wider than they can afford.
+constexpr std::size_t leastWidth = 24;
+constexpr std::size_t mostWidth = 400;
+// Up to here a text must fill all its lines to be taken for wrapped: addresses and verses have
+// lines of that length too.
+constexpr std::size_t doubtfulWidth = 36;
+// Blanks that set a block apart from the text around it.
+constexpr std::size_t codeIndent = 4;
+
+bool isOneOf(char16_t unit, View units) {
+    return units.find(unit) != View::npos;
+}
+
+View wordsOf(View text, std::size_t begin, std::size_t end) {
+    const View words = text.substr(begin, end - begin);
+    return words.substr(0, inkEnd(words));
+}
+
+// The first word of a row that has one.
+View firstWord(View row) {
+    row.remove_prefix(indentOf(row));
+    return row.substr(0, std::min(row.find(u' '), row.size()));
+}
+
+// Of the scripts that are broken between any two characters.
+bool isIdeographic(char32_t character) {
+    return text::columnsOf(character) == 2 && !text::isHangul(character) &&
+           character < U'\U0001F000';
+}
+
+bool endsSentence(View row) {
+    return isOneOf(row.back(), u".:;!?");
+}
+
+// A gap inside that is not behind the end of a sentence.
+bool hasGap(View words) {
+    for (std::size_t at = words.find(u"  "); at != View::npos; at = words.find(u"  ", at)) {
+        if (at > 0 && !endsSentence(words.substr(0, at))) {
+            return true;
+        }
+        at = std::min(words.find_first_not_of(u' ', at), words.size());
+    }
+    return false;
+}
+
+// "Name: words", as the heads of mails and commits have them below each other.
+bool isField(View row) {
+    const std::size_t end = row.find_first_of(u" :");
+    return end != View::npos && end > 1 && row[end] == u':' && row[0] >= u'A' && row[0] <= u'Z';
+}
+
+// What a pager writes into its last row.
+bool isStatus(View row) {
+    const std::size_t dot = row.rfind(u'.');
+    const bool file = row.find(u' ') == View::npos && dot != View::npos && dot > 2 &&
+                      row.size() - dot > 1 && row.size() - dot < 6;
+    return row == u":" || row.ends_with(u"(END)") || row.starts_with(u"lines ") ||
+           row.starts_with(u"Manual page ") || row.starts_with(u"--More--") || file;
+}
+
+// Whether a paragraph that shares its looks with code or with a table is prose once it is whole.
+bool isProseWhole(View paragraph) {
+    paragraph.remove_prefix(std::min(paragraph.find_first_not_of(u" \"'([*_`"), paragraph.size()));
+    const Lines lines = scanStructure(paragraph);
+    return lines.size() == 1 && lines[0].kind == LineKind::prose && !hasGap(paragraph);
+}
+
+// Behind the last line that is not blank.
+std::size_t inkedEnd(const Lines &lines) {
+    std::size_t end = lines.size();
+    while (end > 0 && lines[end - 1].kind == LineKind::blank) {
+        --end;
+    }
+    return end;
+}
+
+bool isDoubtful(const StructuredLine &line) {
+    return line.kind == LineKind::code || line.kind == LineKind::table;
+}
+
+// --- rows that the screen cut at its last column
+
+class CutRows {
+  public:
+    explicit CutRows(View text)
+        : text_(text)
+        , lines_(scanStructure(text))
+        , inkedEnd_(inkedEnd(lines_)) {
+        widths_.reserve(lines_.size());
+        for (const auto &line : lines_) {
+            widths_.push_back(columnsOf(rowAt(line)));
+        }
+    }
+
+    // Empty if nothing was cut.
+    std::u16string run() {
+        width_ = widths_.empty() ? 0 : std::ranges::max(widths_);
+        std::u16string result;
+        if (width_ < leastWidth || width_ > mostWidth || !isCut()) {
+            return result;
+        }
+        if (isBrokenElsewhere()) {
+            collectWords();
+        }
+        result.reserve(text_.size());
+        for (std::size_t at = 0; at < lines_.size();) {
+            at = appendLine(result, at);
+        }
+        return result;
+    }
+
+  private:
+    View rowAt(const StructuredLine &line) const { return wordsOf(text_, line.begin, line.end); }
+
+    bool isJoinable(std::size_t at) const {
+        const auto &line = lines_[at];
+        const bool looks = line.words - line.begin < codeIndent && isDoubtful(line);
+        return looks || line.kind == LineKind::prose || line.kind == LineKind::heading ||
+               line.kind == LineKind::data;
+    }
+
+    bool mayGoOn(std::size_t at) const {
+        if (at + 1 >= lines_.size() || widths_[at] == 0 || widths_[at + 1] == 0 ||
+            !isJoinable(at) || lines_[at + 1].kind == LineKind::fence) {
+            return false;
+        }
+        return at + 2 != inkedEnd_ || !isStatus(rowAt(lines_[at + 1]));
+    }
+
+    bool beginsWide(std::size_t at) const {
+        return text::columnsOf(text::characterAt(text_, lines_[at].begin)) == 2;
+    }
+
+    // A cut fills all rows but the last of each line, whatever the words; a wrap at words leaves
+    // most of them short of the edge by less than the next word. The weights are about ten times
+    // the logarithms of how much likelier a row is with a cut.
+    bool isCut() const {
+        int full = 0;
+        int gaps = 0;
+        int score = 0;
+        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
+            if (!mayGoOn(at) || (isIdeographic(lastOf(at)) && beginsWide(at + 1))) {
+                continue;
+            }
+            const View below = rowAt(lines_[at + 1]);
+            const View words = wordsOf(text_, lines_[at].words, lines_[at].end);
+            if (words.find(u' ') == View::npos) {
+                continue; // a word that is longer than the screen is cut in any case
+            }
+            if (widths_[at] == width_) {
+                ++full;
+                gaps += hasGap(words) ? 1 : 0;
+                const std::size_t last = words.size() - words.rfind(u' ');
+                score += indentOf(below) > 1 ? -25 : indentOf(below) == 1 ? 35 : last > 20 ? 3 : 15;
+            } else if (widths_[at] + 1 == width_) {
+                score -= 1;
+            } else if (widths_[at] + 12 > width_ &&
+                       widths_[at] + 1 + columnsOf(firstWord(below)) > width_) {
+                score -= 25;
+            }
+        }
+        const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132;
+        return score >= (usual ? 15 : 40) && gaps * 3 <= full;
+    }
+
+    char32_t lastOf(std::size_t at) const {
+        const View row = rowAt(lines_[at]);
+        return text::characterBefore(row, row.size());
+    }
+
+    bool goesOn(std::size_t at) const {
+        if (!mayGoOn(at) || indentOf(rowAt(lines_[at + 1])) > 1) {
+            return false;
+        }
+        if (widths_[at] == width_) {
+            return !endsWithWord(at);
+        }
+        // The next character was too wide for the last column, or a blank stood in it.
+        return widths_[at] + 1 == width_ && text_[lines_[at + 1].begin] != u' ' &&
+               (beginsWide(at + 1) || !lines_[at + 1].item);
+    }
+
+    // Whether the text had lines of its own before the screen cut it. Then a full row may end where
+    // such a line did.
+    bool isBrokenElsewhere() const {
+        std::size_t full = 0;
+        std::size_t broken = 0;
+        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
+            if (!mayGoOn(at) || lines_[at].kind != LineKind::prose) {
+                continue;
+            }
+            const bool prose = lines_[at + 1].kind == LineKind::prose && !lines_[at + 1].item;
+            full += widths_[at] == width_;
+            broken += prose && widths_[at] + 1 < width_ && widths_[at] * 2 > width_;
+        }
+        return broken * 3 >= full;
+    }
+
+    // The words that no edge has cut.
+    void collectWords() {
+        for (std::size_t at = 0; at < lines_.size(); ++at) {
+            const View row = rowAt(lines_[at]);
+            std::size_t begin = at > 0 && widths_[at - 1] == width_ ? row.find(u' ') : 0;
+            const std::size_t last = widths_[at] == width_ ? row.rfind(u' ') : row.size();
+            while (begin < last && last != View::npos) {
+                const std::size_t end = std::min(row.find_first_of(u" .,;:!?)", begin), last);
+                if (end > begin) {
+                    words_.insert(row.substr(begin, end - begin));
+                }
+                begin = end + 1;
+            }
+        }
+    }
+
+    // Whether the row ends with a word of the text and the next one begins with another.
+    bool endsWithWord(std::size_t at) const {
+        if (words_.empty()) {
+            return false;
+        }
+        const View row = rowAt(lines_[at]);
+        const View above = row.substr(row.find_last_of(u" (") + 1);
+        const View next = firstWord(rowAt(lines_[at + 1]));
+        const View below = next.substr(0, std::min(next.find_first_of(u".,;:!?)"), next.size()));
+        const bool word = words_.contains(below) || (above.size() > 2 && below.size() > 3);
+        return word && words_.contains(above) &&
+               !words_.contains(View(std::u16string(above).append(below)));
+    }
+
+    // Returns the line behind.
+    std::size_t appendLine(std::u16string &result, std::size_t begin) const {
+        std::size_t end = begin;
+        bool doubtful = isDoubtful(lines_[begin]);
+        std::u16string joined;
+        for (; goesOn(end); ++end) {
+            joined.append(rowAt(lines_[end]));
+            if (widths_[end] < width_ && !beginsWide(end + 1)) {
+                joined.push_back(u' ');
+            }
+            doubtful = doubtful || isDoubtful(lines_[end + 1]);
+        }
+        const auto &last = lines_[end];
+        joined.append(text_, last.begin, last.end - last.begin);
+        if (end > begin && doubtful && !lines_[begin].item && !isProseWhole(joined)) {
+            joined.assign(text_, lines_[begin].begin, last.end - lines_[begin].begin);
+        }
+        result.append(joined).append(text_, last.end, last.breakSize);
+        return end + 1;
+    }
+
+    const View text_;
+    const Lines lines_;
+    const std::size_t inkedEnd_; // behind the last line with words
+    std::vector<std::size_t> widths_;
+    std::size_t width_ = 0;
+    std::unordered_set<View> words_;
+};
+
+// --- lines that were broken between words
+
+struct Pair {
+    std::size_t row = 0;     // which may go on in the next one
+    std::size_t begin = 0;   // of the words of the next one
+    std::size_t width = 0;   // columns up to its last word
+    std::size_t least = 0;   // the narrowest screen that could show the row so
+    std::size_t fitting = 0; // columns that it would have with the next word behind it
+    bool wide = false;       // both sides are of a script without blanks
+    bool oneWord = false;
+    bool blank = false;    // the next one begins with the blank that had no room
+    bool marked = false;   // the next one begins like a list item
+    bool doubtful = false; // one of them looks like code or a table
+    bool listed = false;   // its paragraph is mostly a word a line
+    bool rejected = false; // what was joined would not be prose
+};
+
+// What may not stand at the begin of a row, of the scripts that are broken anywhere.
+bool staysBehind(char32_t character) {
+    constexpr View signs = u"\u3001\u3002\uFF0C\uFF0E\u30FB\uFF1A\uFF1B\uFF1F\uFF01\u300D\u300F"
+                           u"\uFF09\u3011\u300B\u3009\u3015\uFF3D\uFF5D\u30FC\u3005\u201D\u2019"
+                           u"\u2026\u3041\u3043\u3045\u3047\u3049\u3063\u3083\u3085\u3087\u30A1"
+                           u"\u30A3\u30A5\u30A7\u30A9\u30C3\u30E3\u30E5\u30E7";
+    return character < 0x10000 && isOneOf(static_cast<char16_t>(character), signs);
+}
+
+// The columns of what a screen moves to the next row in one piece.
+std::size_t columnsOfPiece(View words) {
+    std::size_t at = 0;
+    bool wideBefore = false;
+    while (at < words.size() && words[at] != u' ') {
+        const char32_t character = text::characterAt(words, at);
+        const bool wide = isIdeographic(character);
+        if (wide && wideBefore && !staysBehind(character)) {
+            break;
+        }
+        wideBefore = wide;
+        at += text::sizeOf(character);
+    }
+    return columnsOf(words.substr(0, at));
+}
+
+class WrappedLines {
+  public:
+    explicit WrappedLines(std::u16string text)
+        : text_(std::move(text))
+        , lines_(scanStructure(text_))
+        , inkedEnd_(inkedEnd(lines_)) {
+        if (!lines_.empty()) {
+            findPairs();
+            findWidth();
+        }
+    }
+
+    std::u16string run() {
+        if (width_ == 0) {
+            return std::move(text_);
+        }
+        rejectOthers();
+        std::u16string result;
+        result.reserve(text_.size());
+        std::size_t pair = 0;
+        std::size_t begin = 0;
+        for (std::size_t at = 0; at < lines_.size(); ++at) {
+            const auto &line = lines_[at];
+            while (pair < pairs_.size() && pairs_[pair].row < at) {
+                ++pair;
+            }
+            if (pair < pairs_.size() && pairs_[pair].row == at && isJoined(pairs_[pair])) {
+                appendWords(result, wordsOf(text_, begin, line.end));
+                join(result, pairs_[pair]);
+                begin = pairs_[pair].begin;
+            } else {
+                result.append(text_, begin, line.next() - begin);
+                begin = line.next();
+            }
+        }
+        return result;
+    }
+
+  private:
+    // Without blanks around it.
+    View rowAt(const StructuredLine &line) const {
+        const View row = wordsOf(text_, line.begin, line.end);
+        return row.substr(indentOf(row));
+    }
+
+    // The marks of a quotation.
+    View marksOf(const StructuredLine &line) const {
+        return View(text_).substr(line.begin, line.quoted - line.begin);
+    }
+
+    // Blanks in front, behind the marks of a quotation.
+    std::size_t indentAt(const StructuredLine &line) const {
+        return indentOf(View(text_).substr(line.quoted, line.end - line.quoted));
+    }
+
+    // Some tools leave the blank behind the last word of a row. They break at blanks alone.
+    bool keepsBlank(const StructuredLine &line) const {
+        return line.end > line.begin && text_[line.end - 1] == u' ';
+    }
+
+    static bool isCandidate(const StructuredLine &line) {
+        return line.kind == LineKind::prose || isDoubtful(line);
+    }
+
+    // The sign at the begin of a row makes it a quotation only if others are quoted, too.
+    bool isOneQuoted(std::size_t at) const {
+        const auto isQuoted = [&](std::size_t line) {
+            return line < lines_.size() && lines_[line].quoted > lines_[line].begin;
+        };
+        return isQuoted(at) && !isQuoted(at - 1) && !isQuoted(at + 1);
+    }
+
+    // Whether the words of the line below may go on with those of the line `at`. `first` is the
+    // first line of the paragraph.
+    bool fits(const StructuredLine &first, std::size_t at) const {
+        const auto &above = lines_[at];
+        const auto &below = lines_[at + 1];
+        if ((at + 2 == inkedEnd_ && isStatus(rowAt(below))) ||
+            (isField(rowAt(above)) && isField(rowAt(below)))) {
+            return false;
+        }
+        const bool marked = below.item || isOneQuoted(at + 1);
+        if (!isCandidate(above) || !isCandidate(below) || (below.words == below.end && !marked) ||
+            (above.words == above.end && !above.item)) {
+            return false;
+        }
+        const bool setApart = indentAt(first) >= codeIndent && isDoubtful(first) && !first.item;
+        const std::size_t quoted = isOneQuoted(at + 1) ? below.begin : below.quoted;
+        const View marks = View(text_).substr(below.begin, quoted - below.begin);
+        if (setApart || (marks != marksOf(above) && !(marks.empty() && keepsBlank(above)))) {
+            return false;
+        }
+        const std::size_t indent = indentOf(View(text_).substr(quoted, below.end - quoted));
+        if ((!marked && quoted + indent != below.words) || (indent >= codeIndent && !first.item)) {
+            return false; // a tab, or a block of its own
+        }
+        // Below the words of a list item, where the paragraph begins, or at the edge of the screen,
+        // where one blank may have stood behind a word that filled the row.
+        return indent <= 1 || indent == first.words - first.quoted || indent == indentAt(first) ||
+               (indent < codeIndent && (&above == &first || indent == indentAt(above)));
+    }
+
+    void findPairs() {
+        std::size_t first = 0;  // row of the paragraph
+        std::size_t paired = 0; // pairs of the paragraphs above
+        const auto endParagraph = [&](std::size_t end) {
+            if (isList(paired, end)) {
+                std::for_each(pairs_.begin() + static_cast<std::ptrdiff_t>(paired), pairs_.end(),
+                              [](Pair &pair) { pair.listed = true; });
+            }
+            paired = pairs_.size();
+        };
+        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
+            if (lines_[at].item) {
+                first = at;
+            }
+            if (fits(lines_[first], at) &&
+                !((lines_[at + 1].item || isOneQuoted(at + 1)) && isItem(first, at + 1))) {
+                pairs_.push_back(pairOf(at));
+                const std::size_t indent = indentAt(lines_[at + 1]);
+                pairs_.back().blank = indent == 1 && indentAt(lines_[first]) != 1 &&
+                                      lines_[first].words - lines_[first].quoted != 1;
+            } else {
+                endParagraph(at);
+                first = at + 1;
+            }
+        }
+        endParagraph(lines_.size() - 1);
+    }
+
+    // Whether the line that begins like an item is one, by the lines around it.
+    bool isItem(std::size_t first, std::size_t at) const {
+        const auto &line = lines_[at];
+        const auto isSibling = [&](const StructuredLine &other) {
+            return line.item && other.item && indentAt(other) == indentAt(line);
+        };
+        if (endsSentence(wordsOf(text_, lines_[at - 1].begin, lines_[at - 1].end)) ||
+            isSibling(lines_[first])) {
+            return true;
+        }
+        constexpr std::size_t farthest = 16; // lines that one item may have
+        for (std::size_t below = at + 1; below < std::min(lines_.size(), at + farthest); ++below) {
+            if (isSibling(lines_[below]) || lines_[below].kind == LineKind::blank) {
+                return lines_[below].item;
+            }
+        }
+        return false;
+    }
+
+    // Most lines of the paragraph with the last line `end` are a word each: nobody writes so.
+    bool isList(std::size_t firstPair, std::size_t end) const {
+        if (firstPair == pairs_.size() || pairs_[firstPair].wide) {
+            return false;
+        }
+        const std::size_t begin = pairs_[firstPair].row;
+        std::ptrdiff_t blanks = 0;
+        for (std::size_t at = begin; at <= end; ++at) {
+            blanks += std::ranges::count(wordsOf(text_, lines_[at].words, lines_[at].end), u' ');
+        }
+        return blanks < static_cast<std::ptrdiff_t>(end - begin + 1);
+    }
+
+    Pair pairOf(std::size_t at) const {
+        const auto &next = lines_[at + 1];
+        const View above = wordsOf(text_, lines_[at].begin, lines_[at].end);
+        Pair pair;
+        pair.row = at;
+        pair.marked = next.item || isOneQuoted(at + 1);
+        const View row = View(text_).substr(next.begin, next.end - next.begin);
+        pair.begin = isOneQuoted(at + 1) ? next.begin + indentOf(row)
+                     : next.item         ? next.quoted + indentAt(next)
+                                         : next.words;
+        const View below = wordsOf(text_, pair.begin, next.end);
+        constexpr View column = u"    ";
+        pair.doubtful = isDoubtful(lines_[at]) || isDoubtful(next) ||
+                        above.find(column, indentOf(above)) != View::npos ||
+                        below.find(column) != View::npos;
+        pair.width = columnsOf(above);
+        pair.wide = isIdeographic(text::characterBefore(above, above.size())) &&
+                    isIdeographic(text::characterAt(below, 0));
+        // A word alone may be longer than the screen is wide.
+        pair.oneWord = wordsOf(text_, lines_[at].words, lines_[at].end).find(u' ') == View::npos;
+        pair.least = pair.oneWord ? 0 : pair.width;
+        pair.fitting =
+            pair.width + (pair.wide ? 0 : 1) +
+            (keepsBlank(lines_[at]) ? columnsOf(firstWord(below)) : columnsOfPiece(below));
+        return pair;
+    }
+
+    bool isWrapped(const Pair &pair) const {
+        return pair.least <= width_ && pair.fitting > width_ &&
+               (!pair.blank || pair.width >= width_);
+    }
+    bool isJoined(const Pair &pair) const { return !pair.rejected && isWrapped(pair); }
+
+    void findWidth() {
+        constexpr std::size_t most = 4; // pairs of a paragraph that may not be prose
+        std::vector<Pair> sure;
+        std::vector<Pair> all;
+        std::size_t doubtful = 0;
+        for (const Pair &pair : pairs_) {
+            doubtful = !all.empty() && all.back().row + 1 == pair.row ? doubtful : 0;
+            doubtful += pair.doubtful ? 1 : 0;
+            if (pair.marked || pair.listed || pair.blank) {
+                continue;
+            }
+            if (!pair.doubtful) {
+                sure.push_back(pair);
+            }
+            if (doubtful <= most) {
+                all.push_back(pair);
+            }
+        }
+        width_ = widthOf(sure);
+        if (width_ == 0) {
+            width_ = widthOf(all);
+        }
+        std::size_t exact = 0;
+        std::size_t wrapped = 0;
+        for (const Pair &pair : all) {
+            wrapped += isWrapped(pair);
+            exact += isWrapped(pair) && pair.width >= width_;
+        }
+        justified_ = wrapped > 2 && exact * 4 >= wrapped * 3 && hasGaps();
+    }
+
+    // The width at which most lines are full and none is longer. A pair speaks for the widths from
+    // its own to just below that with the next word, and against all that are larger.
+    std::size_t widthOf(const std::vector<Pair> &pairs) const {
+        std::vector<std::ptrdiff_t> full(mostWidth + 2);
+        std::vector<std::ptrdiff_t> unfilled(mostWidth + 2);
+        std::vector<std::ptrdiff_t> tooLong(mostWidth + 2);
+        std::vector<std::ptrdiff_t> broken(mostWidth + 2); // so early that it was meant
+        std::vector<std::ptrdiff_t> over(mostWidth + 2);   // lines that a screen would have broken
+        for (const Pair &pair : pairs) {
+            const std::size_t from = std::min(pair.least, mostWidth + 1);
+            const std::size_t to = std::min(pair.fitting, mostWidth + 1);
+            ++full[from];
+            --full[to];
+            ++unfilled[to];
+            ++tooLong[0];
+            --tooLong[from];
+            ++broken[std::clamp(pair.width * 3 / 2, to, mostWidth + 1)];
+        }
+        std::size_t widest = 0;
+        for (const auto &line : lines_) {
+            const View row = wordsOf(text_, line.begin, line.end);
+            const std::size_t columns = std::min(columnsOf(row), mostWidth + 1);
+            widest = std::max(widest, std::min(columns, mostWidth));
+            if (isCandidate(line) && line.words - line.begin < codeIndent &&
+                wordsOf(text_, line.words, line.end).find(u' ') != View::npos) {
+                ++over[columns];
+            }
+        }
+        std::ptrdiff_t lines = std::accumulate(over.begin(), over.end(), std::ptrdiff_t{0});
+        std::ptrdiff_t filled = 0;
+        std::ptrdiff_t early = 0;
+        std::ptrdiff_t meant = 0;
+        std::ptrdiff_t longer = 0;
+        std::ptrdiff_t best = 0;
+        std::size_t found = 0;
+        for (std::size_t width = 0; width <= widest; ++width) {
+            filled += full[width];
+            early += unfilled[width];
+            meant += broken[width];
+            longer += tooLong[width];
+            lines -= over[width];
+            const std::ptrdiff_t score = filled - early - 2 * longer;
+            const bool fills = width > doubtfulWidth
+                                   ? 2 * filled > 3 * (early - meant) && 4 * filled > early
+                                   : filled > 8 * early;
+            const bool sure = filled > 1 && fills && filled >= 2 * lines;
+            if (width >= leastWidth && sure && score >= best) {
+                best = score;
+                found = width;
+            }
+        }
+        return found;
+    }
+
+    // Lines that were filled up with blanks between their words.
+    bool hasGaps() const {
+        return std::ranges::any_of(pairs_, [&](const Pair &pair) {
+            const auto &line = lines_[pair.row];
+            return wordsOf(text_, line.words, line.end).find(u"  ") != View::npos;
+        });
+    }
+
+    // A paragraph that looks like code is one unless all its lines are full and it reads as prose.
+    void rejectOthers() {
+        const auto isItem = [&](const Pair &pair) { return pair.marked && !isWrapped(pair); };
+        for (std::size_t begin = 0; begin < pairs_.size();) {
+            std::size_t end = begin + 1;
+            while (!isItem(pairs_[begin]) && end < pairs_.size() && !isItem(pairs_[end]) &&
+                   pairs_[end].row == pairs_[end - 1].row + 1) {
+                ++end;
+            }
+            const auto paragraph = std::span(pairs_).subspan(begin, end - begin);
+            const bool unsure = std::ranges::any_of(
+                paragraph, [](const Pair &pair) { return pair.doubtful || pair.listed; });
+            if (unsure && !isProse(paragraph)) {
+                std::ranges::for_each(paragraph, [](Pair &pair) { pair.rejected = true; });
+            }
+            begin = end;
+        }
+    }
+
+    bool isProse(std::span<const Pair> paragraph) const {
+        if (!std::ranges::all_of(paragraph, [&](const Pair &pair) { return isWrapped(pair); })) {
+            return false;
+        }
+        if (lines_[paragraph.front().row].item ||
+            std::ranges::none_of(paragraph, &Pair::doubtful)) {
+            return true;
+        }
+        std::u16string joined;
+        std::size_t begin = lines_[paragraph.front().row].begin;
+        for (const Pair &pair : paragraph) {
+            joined.append(wordsOf(text_, begin, lines_[pair.row].end)).push_back(u' ');
+            begin = pair.begin;
+        }
+        const auto &last = lines_[paragraph.back().row + 1];
+        return isProseWhole(joined.append(wordsOf(text_, begin, last.end)));
+    }
+
+    void appendWords(std::u16string &result, View words) const {
+        if (!justified_) {
+            result.append(words);
+            return;
+        }
+        const std::size_t indent = indentOf(words);
+        result.append(words.substr(0, indent));
+        for (const char16_t unit : words.substr(indent)) {
+            if (unit != u' ' || result.back() != u' ') {
+                result.push_back(unit);
+            }
+        }
+    }
+
+    void join(std::u16string &result, const Pair &pair) const {
+        const View next = wordsOf(text_, pair.begin, lines_[pair.row + 1].end);
+        if (result.back() == u'\u2010' || result.back() == u'\u00AD') {
+            result.pop_back(); // a hyphen of the formatter's own
+        } else if (pair.blank || keepsBlank(lines_[pair.row]) ||
+                   (!pair.wide && !isCutWord(result, next, pair) && !isHyphenated(result, next) &&
+                    !isCutAddress(result, next, pair))) {
+            result.push_back(u' ');
+        }
+    }
+
+    // A word that fills a row alone was longer than the screen, unless it ends like one.
+    bool isCutWord(View above, View below, const Pair &pair) const {
+        const char32_t next = text::characterAt(below, 0);
+        const bool ends = (isOneOf(above.back(), u"),]") && text::isWordCharacter(next)) ||
+                          (isOneOf(above.back(), u".!?:;") && next >= U'A' && next <= U'Z');
+        return pair.oneWord && pair.width >= width_ && !ends;
+    }
+
+    static bool isHyphenated(View above, View below) {
+        const auto isLetter = [](char16_t unit) { return text::isWordCharacter(unit); };
+        return above.size() > 1 && above.back() == u'-' && isLetter(above[above.size() - 2]) &&
+               isLetter(below[0]);
+    }
+
+    // An address or a path that fills its line to the end and goes on below.
+    bool isCutAddress(View above, View below, const Pair &pair) const {
+        constexpr std::size_t longest = 4096; // rows that go on for ever are looked at in part
+        above.remove_prefix(above.size() - std::min(above.size(), longest));
+        const std::size_t blank = above.find_last_of(u" \n\t");
+        const View token = above.substr(blank == View::npos ? 0 : blank + 1);
+        const View next = below.substr(0, std::min(below.find(u' '), below.size()));
+        const bool address = token.find(u"://") != View::npos || token.starts_with(u"www.");
+        const bool path =
+            token.starts_with(u'/') || token.starts_with(u"~/") || token.starts_with(u"./");
+        const bool closed = isOneOf(token.back(), u")>],;\"'") || isOneOf(next[0], u"[(<!\"'");
+        if ((!address && !path) || token.size() < 8 || closed) {
+            return false;
+        }
+        const bool goesOn = next.size() == below.size() ||
+                            next.find_first_of(u"/=&%?#_0123456789-") != View::npos ||
+                            next.substr(0, next.size() - 1).find(u'.') != View::npos;
+        const bool breaksHere = isOneOf(token.back(), u"/-?&=_.%");
+        return goesOn && (pair.width >= width_ || breaksHere);
+    }
+
+    std::u16string text_;
+    Lines lines_;
+    std::size_t inkedEnd_ = 0; // behind the last line with words
+    std::vector<Pair> pairs_;
+    std::size_t width_ = 0;
+    bool justified_ = false;
+};
+
+} // namespace
+
+std::u16string joinWrappedLines(std::u16string text) {
+    if (auto whole = CutRows(text).run(); !whole.empty()) {
+        text = std::move(whole);
+    }
+    return WrappedLines(std::move(text)).run();
+}
+
+} // namespace nerlo::engine
