@@ -141,9 +141,12 @@ class CutRows {
                line.kind == LineKind::data;
     }
 
+    // A cut row goes on without the marks of a quotation.
+    bool isQuoted(std::size_t at) const { return lines_[at].quoted > lines_[at].begin + 1; }
+
     bool mayGoOn(std::size_t at) const {
         if (at + 1 >= lines_.size() || widths_[at] == 0 || widths_[at + 1] == 0 ||
-            !isJoinable(at) || lines_[at + 1].kind == LineKind::fence) {
+            !isJoinable(at) || lines_[at + 1].kind == LineKind::fence || isQuoted(at + 1)) {
             return false;
         }
         return at + 2 != inkedEnd_ || !isStatus(rowAt(lines_[at + 1]));
@@ -182,7 +185,7 @@ class CutRows {
             }
         }
         const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132;
-        return score >= (usual ? 15 : 40) && gaps * 3 <= full;
+        return score >= (usual ? 30 : 40) && gaps * 3 <= full;
     }
 
     char32_t lastOf(std::size_t at) const {
@@ -215,7 +218,7 @@ class CutRows {
             full += widths_[at] == width_;
             broken += prose && widths_[at] + 1 < width_ && widths_[at] * 2 > width_;
         }
-        return broken * 3 >= full;
+        return broken * 4 >= full;
     }
 
     // The words that no edge has cut.
@@ -693,7 +696,8 @@ class WrappedLines {
         const bool address = token.find(u"://") != View::npos || token.starts_with(u"www.");
         const bool path =
             token.starts_with(u'/') || token.starts_with(u"~/") || token.starts_with(u"./");
-        const bool closed = isOneOf(token.back(), u")>],;\"'") || isOneOf(next[0], u"[(<!\"'");
+        const bool closed = isOneOf(token.back(), u")>],;\"'") || token.ends_with(u">.") ||
+                            isOneOf(next[0], u"[(<!\"'");
         if ((!address && !path) || token.size() < 8 || closed) {
             return false;
         }
