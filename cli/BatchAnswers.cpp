@@ -173,8 +173,10 @@ std::string BatchAnswers::resultOf(std::string_view line, std::string &id) const
         ownOptions.setAllBools(settings::parseOptions(request.options));
     }
     if (settings::lacksLinkRules(own ? ownOptions : defaults_, operation)) {
-        ownOptions = own ? std::move(ownOptions) : defaults_;
-        own = true;
+        if (!own) {
+            ownOptions = defaults_;
+            own = true;
+        }
         settings::addLinkRules(ownOptions);
     }
     engine::CleaningReport report;

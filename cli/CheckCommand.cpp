@@ -7,6 +7,7 @@
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "cli/Rewriting.h"
+#include "text/UnitScan.h"
 
 #include <CLI/App.hpp>
 #include <CLI/Formatter.hpp>
@@ -141,7 +142,7 @@ class Check {
         // A clean writes a text from standard input as it is; a file keeps its last line break.
         const std::string kept = file == "-" ? "" : endingFor(clean, reader);
         const std::u16string ending(kept.begin(), kept.end());
-        if (clean + ending == source) {
+        if (text::sameUnits(source, clean + ending)) {
             progress_.addDone(reader.bytes());
             return;
         }

@@ -3,6 +3,7 @@
 #include "cli/JsonCursor.h"
 #include "engine/Statistics.h"
 #include "settings/JsonText.h"
+#include "text/UnitScan.h"
 #include "text/Utf.h"
 
 #include <algorithm>
@@ -109,19 +110,19 @@ void FieldFilter::clean(std::string_view line, Record &record, Answers &answers)
             checkUtf8(line, 0, line.size());
             continue;
         }
-        const std::u16string text =
+        const std::u16string clean =
             settings_.operation ? engine::runOperation(settings_.operation->index, *source, context)
                                 : engine::runPipeline(*source, context);
         if (!report.empty()) {
             throw BadLine(messageOf(report));
         }
         if (!settings_.counts.empty()) {
-            counts += engine::countAll(text, settings_.locale);
+            counts += engine::countAll(clean, settings_.locale);
         }
-        if (text != *source) {
+        if (!text::sameUnits(clean, *source)) {
             const auto at = static_cast<std::size_t>(literal.data() - line.data());
             answers.lines.append(line, copied, at - copied);
-            settings::appendJson(answers.lines, text);
+            settings::appendJson(answers.lines, clean);
             copied = at + literal.size();
         }
     }

@@ -3,6 +3,7 @@
 #include "engine/CharacterCleaning.h"
 #include "engine/FindReplace.h"
 #include "engine/StructureGuard.h"
+#include "text/UnitScan.h"
 
 #include <algorithm>
 #include <utility>
@@ -99,7 +100,7 @@ class Tracer {
         const std::u16string before = trace_.text;
         trace_.text = run(std::move(trace_.text));
         TraceStep &step = trace_.steps.emplace_back(std::move(known));
-        if (trace_.text != before) {
+        if (!text::sameUnits(trace_.text, before)) {
             list(step, before);
         }
         known_.push_back(knownEnd_);

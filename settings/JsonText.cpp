@@ -108,8 +108,8 @@ void resolveEscapes(std::u16string &text) {
 
 // What does not stand for itself, or may not: an unpaired surrogate has no UTF-8, and the breaks
 // beyond ASCII end a line for many readers of lines.
-constexpr text::UnitSet written{{0, 0x1F},    {'"', '"'},       {'\\', '\\'},
-                                {0x85, 0x85}, {0x2028, 0x2029}, {0xD800, 0xDFFF}};
+constexpr text::UnitSet toEscape{{0, 0x1F},    {'"', '"'},       {'\\', '\\'},
+                                 {0x85, 0x85}, {0x2028, 0x2029}, {0xD800, 0xDFFF}};
 
 void escape(std::u16string &to, char16_t unit) {
     constexpr std::u16string_view named = u"\"\\\b\f\n\r\t";
@@ -132,7 +132,7 @@ std::u16string escaped(std::u16string_view text) {
     std::u16string result;
     result.reserve(text.size() + text.size() / 8);
     std::size_t copied = 0;
-    text::UnitCursor cursor(text, written);
+    text::UnitCursor cursor(text, toEscape);
     for (std::size_t at = cursor.next(); at < text.size(); at = cursor.next()) {
         if (isHigh(text[at]) && at + 1 < text.size() && isLow(text[at + 1])) {
             cursor.next();

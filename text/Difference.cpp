@@ -1,5 +1,7 @@
 #include "text/Difference.h"
 
+#include "text/UnitScan.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -432,8 +434,22 @@ bool holdsEveryLine(std::u16string_view text, const std::vector<std::size_t> &be
     return true;
 }
 
+// Whether the first line of `after` that `before` does not go on with stands nowhere in it: then
+// the lines need not be looked at one by one. Not every such line is found.
+bool bringsANewLine(std::u16string_view before, std::u16string_view after) {
+    constexpr std::u16string_view breaks = u"\n\r";
+    const auto same = std::ranges::mismatch(before, after).in2 - after.begin();
+    const std::size_t last = after.substr(0, static_cast<std::size_t>(same)).find_last_of(breaks);
+    const std::size_t begin = last == std::u16string_view::npos ? 0 : last + 1;
+    const std::size_t end = std::min(after.find_first_of(breaks, begin), after.size());
+    return before.find(after.substr(begin, end - begin)) == std::u16string_view::npos;
+}
+
 // Lines that were moved or left out as a whole are compared as such. False where it was otherwise.
 bool compareLines(std::u16string_view before, std::u16string_view after, const Report &report) {
+    if (bringsANewLine(before, after)) {
+        return false;
+    }
     const std::vector<std::size_t> old = linesOf(before);
     const std::vector<std::size_t> now = linesOf(after);
     if (old.size() < 3 || now.size() < 2 || !holdsEveryLine(before, old, after, now)) {
@@ -460,7 +476,7 @@ bool cutsPair(std::u16string_view text, std::size_t at) {
 Difference differenceOf(std::u16string_view before, std::u16string_view after,
                         std::size_t mostListed) {
     ChangeList list(before, after, mostListed);
-    if (before == after) {
+    if (sameUnits(before, after)) {
         return list.take();
     }
     const Report add = [&](Change part) { list.add(part); };

@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <string_view>
 
@@ -77,6 +78,12 @@ inline constexpr std::size_t scanBlock = 64;
 std::uint64_t scanUnits(const char16_t *units, const UnitSet &set);
 // The same for a single unit.
 std::uint64_t scanUnit(const char16_t *units, char16_t unit);
+
+// Whether the texts are the same; the string's own operator looks at one unit after another.
+inline bool sameUnits(std::u16string_view a, std::u16string_view b) {
+    return a.size() == b.size() &&
+           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0);
+}
 
 // The mask of the `count` (at most 64) units at `units`.
 std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &set);
