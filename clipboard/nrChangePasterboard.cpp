@@ -505,6 +505,20 @@ void nrChangePasterboard::readClipboardText(
     readContent(std::move(reading));
 }
 
+void nrChangePasterboard::putText(std::u16string text, std::function<void(bool)> ended) {
+    ++puts_;
+    pasteboard_.write(plainTextContent(text::utf16ToUtf8(text)), std::nullopt,
+                      alive_.guard([this, ended = std::move(ended)](const PasteboardWrite &result) {
+                          --puts_;
+                          const bool done = result.status == PasteboardStatus::done;
+                          if (done && listener_) {
+                              listener_->addOneCount(result.changeCount);
+                          }
+                          ended(done);
+                          clipboardChanged();
+                      }));
+}
+
 // A clean that has nothing to write is over all the same.
 void nrChangePasterboard::leftAsItIs(platform::ChangeCount source) {
     if (listener_ && pasteboard_.changeCount() == source) {

@@ -147,13 +147,16 @@ class nrChangePasterboard {
     void changePasteboard(Choice choice, std::function<void(bool done)> ended);
 
     // Whether a write of ours is under way, whose count could be taken for another program's.
-    bool writing() const { return !writeBacks_.empty() || restoring_; }
+    bool writing() const { return !writeBacks_.empty() || restoring_ || puts_ > 0; }
 
     // Shows the popup with the counts of `text`, in place of the one that is shown.
     void newCountWindow(std::u16string text);
 
     // The text that a clean would rewrite now; nothing where it would leave the content alone.
     void readClipboardText(std::function<void(std::optional<std::u16string>)> handler);
+
+    // Replaces the content by a text of this program's own, which is no copy to be cleaned.
+    void putText(std::u16string text, std::function<void(bool done)> ended);
 
     enum class Restored {
         done,
@@ -251,6 +254,7 @@ class nrChangePasterboard {
     // In the order in which the cleans ended; the first is being written.
     std::deque<WriteBack> writeBacks_;
     bool restoring_ = false;
+    int puts_ = 0; // under way
     // Our last write: its count, and the content that it replaced. A slower clean of that same
     // content may replace our write, but no other program's.
     std::optional<platform::ChangeCount> ownCount_;

@@ -340,6 +340,20 @@ TEST_F(ClipboardCleanTest, AChoiceIsDoneWhateverElseIsOnAndTellsWhatBecameOfIt) 
     }
 }
 
+TEST_F(ClipboardCleanTest, ATextOfOurOwnIsNoCopyAndEndsWhatCouldBeRestored) {
+    pasteboard.copyText("a b");
+    cleanWith(removeAllSpaces);
+    acknowledged.clear();
+    bool put = false;
+    engine.putText(u"c  d", [&](bool done) { put = done; });
+    EXPECT_TRUE(engine.writing());
+    finish();
+    EXPECT_TRUE(put);
+    EXPECT_EQ(text(), "c  d");
+    EXPECT_EQ(acknowledged, std::vector{pasteboard.changeCount()});
+    EXPECT_NE(engine.restorable(), nrChangePasterboard::Restored::done);
+}
+
 TEST_F(ClipboardCleanTest, AnyOtherIndexStillMakesItPlainText) {
     for (const auto index : {40, -1}) {
         pasteboard.copy(content({{"text/html", "<b>a b</b>"}, {"UTF8_STRING", "a b"}}));
