@@ -2,6 +2,7 @@
 
 #include "text/Replace.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -12,16 +13,21 @@ namespace {
 using text::Range;
 using text::Regex;
 
-constexpr std::u16string_view searchToken = u"{search}";
-constexpr std::u16string_view deleteToken = u"{delete}";
+// What a replacement may begin with. No row is the beginning of another one.
+struct Token {
+    std::u16string_view text;
+    RuleKind kind;
+};
+constexpr Token tokens[] = {
+    {u"{search}", RuleKind::keepMatches},
+    {u"{delete}", RuleKind::replaceMatches},
+    {u"!{search}", RuleKind::keepMatchesUntested},
+    {u"!{delete}", RuleKind::replaceMatchesUntested},
+};
 constexpr std::u16string_view splitMarker = u"%%%%%%SPLIT-ME%%%%%%";
 
 // What is left of the marker in a text that has only a part of it.
 constexpr std::u16string_view splitMarkerCore = u"SPLIT-ME";
-
-bool startsWithToken(std::u16string_view replacement) {
-    return replacement.starts_with(searchToken) || replacement.starts_with(deleteToken);
-}
 
 // One pattern of the user's. Why it could not be used goes into the report, which may be null.
 class UserPattern {
@@ -107,20 +113,34 @@ std::optional<NumberedRule> activeRule(const storage::PropertyValue &item, std::
     return NumberedRule{number, text("find"), text("replace")};
 }
 
-// Begins with a token whose matches are not looked for first.
-bool isUntested(std::u16string_view replacement) {
-    return replacement.starts_with(u'!') && startsWithToken(replacement.substr(1));
+// Nothing where a pattern does not compile or is given up.
+std::optional<std::vector<Range>> matchesIn(std::u16string_view text, const NumberedRule &rule) {
+    if (isPattern(readReplacement(rule.replace).kind)) {
+        auto regex = Regex::compile(rule.find, Regex::Case::Sensitive);
+        return regex ? regex->findAll(text) : std::nullopt;
+    }
+    std::vector<Range> found;
+    for (std::size_t at = 0; !rule.find.empty();) {
+        at = text::find(text, at, rule.find);
+        if (at == text.size()) {
+            break;
+        }
+        found.push_back({at, at + rule.find.size()});
+        at += rule.find.size();
+    }
+    return found;
 }
 
-// A rule whose replacement begins with a token. A pattern that matches the whole of a text, the
-// empty one included, also occurs in it, so that finding no match is the only test.
-std::u16string insertYourPatternForFindReplace(std::u16string text, std::u16string_view replacement,
-                                               UserPattern pattern, bool tested) {
-    if (replacement.starts_with(searchToken)) {
-        const std::u16string_view separator = replacement.substr(searchToken.size());
-        return pattern.keepMatches(std::move(text), separator.empty() ? u"\n" : separator, tested);
-    }
-    return pattern.replaceMatches(std::move(text), replacement.substr(deleteToken.size()));
+// The lines in which a match stands, up to so many units.
+std::u16string linesAround(std::u16string_view text, Range match) {
+    constexpr std::u16string_view breaks = u"\n\r\u2028\u2029";
+    constexpr std::size_t longest = 400;
+    const std::size_t before =
+        match.begin == 0 ? text.npos : text.find_last_of(breaks, match.begin - 1);
+    const std::size_t begin = before == text.npos ? 0 : before + 1;
+    const std::size_t end = std::min(text.find_first_of(breaks, match.end), text.size());
+    return end - begin > longest ? std::u16string()
+                                 : std::u16string(text.substr(begin, end - begin));
 }
 
 } // namespace
@@ -137,21 +157,57 @@ std::u16string insertYourPattern(std::u16string text, std::u16string_view patter
                      : own.replaceMatches(std::move(text), u"");
 }
 
-std::u16string applyRule(std::u16string text, const NumberedRule &rule, CleaningReport *report) {
-    std::u16string_view replacement = rule.replace;
-    const bool untested = isUntested(replacement);
-    if (!untested && !startsWithToken(replacement)) {
-        return replaceString(std::move(text), rule.find, replacement);
+RuleReplacement readReplacement(std::u16string_view replace) {
+    for (const Token &token : tokens) {
+        if (replace.starts_with(token.text)) {
+            return {token.kind, std::u16string(replace.substr(token.text.size()))};
+        }
     }
-    replacement.remove_prefix(untested ? 1 : 0);
-    return insertYourPatternForFindReplace(std::move(text), replacement,
-                                           {rule.find, rule.number, report}, !untested);
+    return {RuleKind::text, std::u16string(replace)};
+}
+
+std::u16string writeReplacement(const RuleReplacement &replacement) {
+    for (const Token &token : tokens) {
+        if (token.kind == replacement.kind) {
+            return std::u16string(token.text) + replacement.argument;
+        }
+    }
+    return replacement.argument;
+}
+
+// A pattern that matches the whole of a text, the empty one included, also occurs in it, so that
+// finding no match is the only test.
+std::u16string applyRule(std::u16string text, const NumberedRule &rule, CleaningReport *report) {
+    const auto [kind, argument] = readReplacement(rule.replace);
+    if (!isPattern(kind)) {
+        return replaceString(std::move(text), rule.find, argument);
+    }
+    UserPattern pattern(rule.find, rule.number, report);
+    if (kind == RuleKind::replaceMatches || kind == RuleKind::replaceMatchesUntested) {
+        return pattern.replaceMatches(std::move(text), argument);
+    }
+    return pattern.keepMatches(std::move(text), argument.empty() ? u"\n" : argument,
+                               kind == RuleKind::keepMatches);
+}
+
+RuleFinds findsOf(std::u16string_view text, const NumberedRule &rule) {
+    const auto matches = matchesIn(text, rule);
+    if (!matches) {
+        return {.matches = {}, .givenUp = !ruleTrouble(rule.find, rule.replace), .example = {}};
+    }
+    return {.matches = matches->size(),
+            .givenUp = false,
+            .example = matches->empty() ? std::u16string() : linesAround(text, matches->front())};
+}
+
+const storage::PropertyArray *activeList(const CleaningOptions &options) {
+    const auto &list = options.udOnlyOneProfile ? options.udFindAndReplaceItems
+                                                : options.udFindAndReplaceItemsProfile;
+    return list ? list->as<storage::PropertyArray>() : nullptr;
 }
 
 std::vector<NumberedRule> activeRules(const CleaningOptions &options) {
-    const auto &list = options.udOnlyOneProfile ? options.udFindAndReplaceItems
-                                                : options.udFindAndReplaceItemsProfile;
-    const auto *items = list ? list->as<storage::PropertyArray>() : nullptr;
+    const storage::PropertyArray *items = activeList(options);
     std::vector<NumberedRule> rules;
     for (std::size_t at = 0; items && at < items->size(); ++at) {
         if (auto rule = activeRule((*items)[at], at + 1)) {
@@ -173,8 +229,19 @@ bool patternIsUsable(std::u16string_view pattern) {
     return pattern.empty() || Regex::compile(pattern, Regex::Case::Sensitive);
 }
 
-bool ruleIsUsable(std::u16string_view find, std::u16string_view replace) {
-    return !(startsWithToken(replace) || isUntested(replace)) || patternIsUsable(find);
+std::optional<text::PatternPlace> ruleTrouble(std::u16string_view find,
+                                              std::u16string_view replace) {
+    text::PatternPlace place;
+    const bool pattern = isPattern(readReplacement(replace).kind) && !find.empty();
+    return pattern && !Regex::compile(find, Regex::Case::Sensitive, &place) ? std::optional(place)
+                                                                            : std::nullopt;
+}
+
+std::size_t ruleGroups(std::u16string_view find, std::u16string_view replace) {
+    const auto regex = isPattern(readReplacement(replace).kind)
+                           ? Regex::compile(find, Regex::Case::Sensitive)
+                           : std::nullopt;
+    return regex ? regex->groups() : 0;
 }
 
 std::vector<std::u16string> splitByMatchesInString(std::u16string_view text,

@@ -79,6 +79,22 @@ void FindReplaceList::setCheckbox(int row, bool on) {
     setInRule(row, "checkbox", on ? 1 : 0);
 }
 
+void FindReplaceList::setSamples(int row, PropertyArray samples) {
+    const bool none = samples.empty();
+    setInRule(row, samplesKey, std::move(samples));
+    if (none && contains(row)) {
+        items_[static_cast<std::size_t>(row)].as<PropertyDictionary>()->remove(samplesKey);
+    }
+}
+
+void FindReplaceList::insert(const PropertyArray &rules, const std::vector<std::uint64_t> &ids) {
+    const auto place =
+        contains(lastClickedRow_) ? lastClickedRow_ + 1 : static_cast<int>(items_.size());
+    items_.insert(items_.begin() + place, rules.begin(), rules.end());
+    ids_.insert(ids_.begin() + place, ids.begin(), ids.end());
+    select(place);
+}
+
 void FindReplaceList::move(const std::vector<int> &rows, int dropRow) {
     std::vector<int> sorted;
     std::ranges::copy_if(rows, std::back_inserter(sorted),

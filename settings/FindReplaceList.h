@@ -23,6 +23,9 @@ class FindReplaceList {
         bool operator==(const ReplacementField &) const = default;
     };
 
+    // In a rule; a key of this edition alone.
+    static constexpr auto samplesKey = "samples";
+
     explicit FindReplaceList(Localize localize);
 
     const storage::PropertyArray &items() const { return items_; }
@@ -46,6 +49,11 @@ class FindReplaceList {
     void setFind(std::u16string text);
     void setReplacement(std::u16string text);
     void setCheckbox(int row, bool on);
+    // An array of dictionaries, see settings/RuleList.h. An empty one takes the key away.
+    void setSamples(int row, storage::PropertyArray samples);
+    // Behind the selected row or, where none is, at the end; the first of them is selected then.
+    // `ids` has one for each.
+    void insert(const storage::PropertyArray &rules, const std::vector<std::uint64_t> &ids);
     // Only the first of the rows is put back: the table selects one row at a time. `dropRow` is
     // the place between rows, from 0 to the number of rows.
     void move(const std::vector<int> &rows, int dropRow);

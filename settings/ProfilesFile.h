@@ -26,6 +26,7 @@ using ProfileRecord = storage::PropertyDictionary;
 struct RecordItem {
     std::uint64_t id; // tells records of equal names apart; of this process only
     storage::PropertyDictionary record;
+    bool operator==(const RecordItem &) const = default;
 };
 using RecordItems = std::vector<RecordItem>;
 using ProfileItem = RecordItem;

@@ -235,14 +235,23 @@ void addLine(std::string &text, const char *word, View value) {
 }
 
 PropertyValue storedRule(const TravelRule &rule) {
-    return PropertyDictionary{
+    PropertyDictionary stored{
         {"checkbox", rule.on}, {"find", rule.find}, {"replace", rule.replace}};
+    if (!rule.samples.empty()) {
+        stored.set(FindReplaceList::samplesKey, storedSamples(rule.samples));
+    }
+    return stored;
 }
 
-bool isSamplesOf(const RecordItem &item, View find, View replace) {
-    const PropertyValue record(item.record);
-    return FindReplaceList::textOf(record, "find") == find &&
-           FindReplaceList::textOf(record, "replace") == replace;
+// Those of the stored rule, and behind them what it lacks of these.
+std::vector<RuleSample> joined(const PropertyValue &stored, const std::vector<RuleSample> &more) {
+    std::vector<RuleSample> samples = samplesOf(stored);
+    for (const RuleSample &sample : more) {
+        if (std::ranges::find(samples, sample) == samples.end()) {
+            samples.push_back(sample);
+        }
+    }
+    return samples;
 }
 
 } // namespace
@@ -304,6 +313,27 @@ SampleResult trySample(const TravelRule &rule, const RuleSample &sample) {
     return result;
 }
 
+std::vector<RuleSample> samplesOf(const PropertyValue &rule) {
+    const auto *record = rule.as<PropertyDictionary>();
+    const PropertyValue *stored = record ? record->find(FindReplaceList::samplesKey) : nullptr;
+    std::vector<RuleSample> samples;
+    if (const auto *array = stored ? stored->as<PropertyArray>() : nullptr) {
+        for (const PropertyValue &sample : *array) {
+            samples.push_back({FindReplaceList::textOf(sample, "before"),
+                               FindReplaceList::textOf(sample, "after")});
+        }
+    }
+    return samples;
+}
+
+PropertyArray storedSamples(const std::vector<RuleSample> &samples) {
+    PropertyArray stored;
+    for (const RuleSample &sample : samples) {
+        stored.emplace_back(PropertyDictionary{{"before", sample.before}, {"after", sample.after}});
+    }
+    return stored;
+}
+
 PropertyArray storedRules(const RuleList &list) {
     PropertyArray stored;
     std::ranges::transform(list.rules, std::back_inserter(stored), storedRule);
@@ -316,8 +346,7 @@ RuleList travelRules(const PropertyArray &stored) {
         if (rule.as<PropertyDictionary>()) {
             list.rules.push_back({FindReplaceList::isOn(rule),
                                   FindReplaceList::textOf(rule, "find"),
-                                  FindReplaceList::textOf(rule, "replace"),
-                                  {}});
+                                  FindReplaceList::textOf(rule, "replace"), samplesOf(rule)});
         }
     }
     return list;
@@ -345,8 +374,10 @@ std::vector<ImportedRule> planImport(const RuleList &list, const PropertyArray &
             }
             const std::size_t row = rowOf(list.rules[at], effect == ImportedRule::Effect::left);
             if (row < stored.size()) {
+                const bool lacksSamples = joined(stored[row], list.rules[at].samples).size() >
+                                          samplesOf(stored[row]).size();
                 taken[row] = true;
-                plan[at] = {effect, row};
+                plan[at] = {lacksSamples ? ImportedRule::Effect::changed : effect, row};
             }
         }
     }
@@ -359,47 +390,15 @@ PropertyArray imported(const RuleList &list, PropertyArray stored) {
         const TravelRule &rule = list.rules[at];
         if (plan[at].effect == ImportedRule::Effect::added) {
             stored.push_back(storedRule(rule));
-        } else {
-            stored[plan[at].row].as<PropertyDictionary>()->set("replace", rule.replace);
+        } else if (plan[at].effect == ImportedRule::Effect::changed) {
+            auto &record = *stored[plan[at].row].as<PropertyDictionary>();
+            record.set("replace", rule.replace);
+            if (auto samples = joined(record, rule.samples); !samples.empty()) {
+                record.set(FindReplaceList::samplesKey, storedSamples(samples));
+            }
         }
     }
     return stored;
-}
-
-void RuleSamplesFile::setSamples(RecordItems &items, const TravelRule &rule) {
-    PropertyArray samples;
-    for (const RuleSample &sample : rule.samples) {
-        samples.emplace_back(
-            PropertyDictionary{{"before", sample.before}, {"after", sample.after}});
-    }
-    const auto item = std::ranges::find_if(
-        items, [&](const RecordItem &one) { return isSamplesOf(one, rule.find, rule.replace); });
-    if (samples.empty()) {
-        if (item != items.end()) {
-            items.erase(item);
-        }
-    } else if (item != items.end()) {
-        item->record.set("samples", std::move(samples));
-    } else {
-        items.push_back(newItem(
-            {{"find", rule.find}, {"replace", rule.replace}, {"samples", std::move(samples)}}));
-    }
-}
-
-std::vector<RuleSample> samplesOf(const RecordItems &items, View find, View replace) {
-    std::vector<RuleSample> samples;
-    for (const RecordItem &item : items) {
-        const PropertyValue *stored = item.record.find("samples");
-        const auto *array = stored ? stored->as<PropertyArray>() : nullptr;
-        if (!array || !isSamplesOf(item, find, replace)) {
-            continue;
-        }
-        for (const PropertyValue &sample : *array) {
-            samples.push_back({FindReplaceList::textOf(sample, "before"),
-                               FindReplaceList::textOf(sample, "after")});
-        }
-    }
-    return samples;
 }
 
 } // namespace nerlo::settings

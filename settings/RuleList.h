@@ -17,7 +17,6 @@
 #pragma once
 
 #include "engine/CleaningReport.h"
-#include "settings/ProfilesFile.h"
 #include "storage/PropertyValue.h"
 
 #include <cstddef>
@@ -69,7 +68,12 @@ struct SampleResult {
 };
 SampleResult trySample(const TravelRule &rule, const RuleSample &sample);
 
-// The rules as the settings hold them, without samples; what is no rule there is left out.
+// The samples of a stored rule stand in it under a key that other editions do not know and keep; a
+// rule without samples has no such key.
+std::vector<RuleSample> samplesOf(const storage::PropertyValue &rule);
+storage::PropertyArray storedSamples(const std::vector<RuleSample> &samples);
+
+// The rules as the settings hold them; what is no rule there is left out.
 storage::PropertyArray storedRules(const RuleList &list);
 RuleList travelRules(const storage::PropertyArray &stored);
 
@@ -77,7 +81,7 @@ RuleList travelRules(const storage::PropertyArray &stored);
 struct ImportedRule {
     enum class Effect : std::uint8_t {
         added,   // at the end of the list
-        changed, // the rule at `row` finds the same and gets another replacement
+        changed, // the rule at `row` finds the same and gets another replacement, or new samples
         left,    // the rule at `row` is the same
     };
     Effect effect = Effect::added;
@@ -87,19 +91,5 @@ struct ImportedRule {
 std::vector<ImportedRule> planImport(const RuleList &list, const storage::PropertyArray &stored);
 // Carries out what planImport() gives for the same lists. Whether a rule is on stays as it is.
 storage::PropertyArray imported(const RuleList &list, storage::PropertyArray stored);
-
-// The samples of the user's rules stand in a file of their own beside the profiles, so that the
-// lists of rules stay as other editions know them. A rule's samples are found by its two texts.
-class RuleSamplesFile : public RecordsFile {
-  public:
-    explicit RuleSamplesFile(std::string path,
-                             storage::FileCalls &calls = storage::FileCalls::system())
-        : RecordsFile(std::move(path), "find", calls) {}
-
-    // Puts the samples of a rule into `items`; none take its record away.
-    void setSamples(RecordItems &items, const TravelRule &rule);
-};
-std::vector<RuleSample> samplesOf(const RecordItems &items, std::u16string_view find,
-                                  std::u16string_view replace);
 
 } // namespace nerlo::settings

@@ -41,8 +41,7 @@ Environment processEnvironment() {
 SettingsPaths SettingsPaths::standard(const Environment &environment) {
     const std::string data = folder(environment, "XDG_DATA_HOME", "/.local/share") + "/Data";
     return {folder(environment, "XDG_CONFIG_HOME", "/.config") + "/defaults.plist",
-            data + "/profiles.nrp", data + "/profilesFR.nrp", data + "/ruleSamples.nrp",
-            data + "/removedProfiles.nrp"};
+            data + "/profiles.nrp", data + "/profilesFR.nrp", data + "/removedProfiles.nrp"};
 }
 
 std::string firstLanguage(const storage::SettingsStore &store) {

@@ -17,7 +17,6 @@ struct SettingsPaths {
     std::string store;             // the settings store
     std::string profiles;          // the profiles
     std::string sharedFindReplace; // the find-and-replace list shared by all profiles
-    std::string ruleSamples;       // the samples of rules
     std::string removedProfiles;   // what was removed of the profiles
 
     // $XDG_CONFIG_HOME and $XDG_DATA_HOME, or what stands for them in the home folder.

@@ -337,34 +337,32 @@ void nrPreferences::profilesAddingCloseWindow(const std::u16string &name, Profil
     if (name.empty()) {
         return;
     }
-    beginning.set("profileName", name);
-    profilesItems_.push_back(file_.newItem(std::move(beginning)));
-    selectedItem_ = static_cast<int>(profilesItems_.size()) - 1;
-    refreshProfilesMenu();
-    profilesSelect();
-    saveChangesInProfiles();
+    asGesture({}, [&] {
+        beginning.set("profileName", name);
+        profilesItems_.push_back(file_.newItem(std::move(beginning)));
+        selectedItem_ = static_cast<int>(profilesItems_.size()) - 1;
+        refreshProfilesMenu();
+        profilesSelect();
+        saveChangesInProfiles();
+    });
 }
 
 void nrPreferences::profilesAddingCancelWindow() {
     profilesAdding_ = false;
 }
 
-void nrPreferences::profilesRemove() {
+bool nrPreferences::profilesRemove() {
     const int tag = popupSelection_.value_or(0);
     if (tag < 0 || static_cast<std::size_t>(tag) >= profilesItems_.size()) {
-        return;
+        return false;
     }
-    const auto [id, record] = profilesItems_[static_cast<std::size_t>(tag)];
-    if (hooks_.confirmRemoval && !hooks_.confirmRemoval(profileNameOf(record))) {
-        return;
-    }
-    // While the question was shown, the list may have changed: other processes may have written.
-    if (std::erase_if(profilesItems_, [id = id](const auto &item) { return item.id == id; }) == 0) {
-        return;
-    }
-    saveProfilesWithArray();
-    refreshProfilesMenu();
-    profilesSelect();
+    asGesture({}, [&] {
+        profilesItems_.erase(profilesItems_.begin() + tag);
+        saveProfilesWithArray();
+        refreshProfilesMenu();
+        profilesSelect();
+    });
+    return true;
 }
 
 std::optional<ProfileRecord> nrPreferences::recordNamed(std::u16string_view name) const {
@@ -393,27 +391,36 @@ std::optional<ProfileRecord> nrPreferences::recordNamed(std::u16string_view name
 // --- Controls ---
 
 void nrPreferences::checkBoxChanged(std::string_view key, bool on) {
-    edited_.set(key, on ? 1 : 0);
-    setAllBoolsInChangePasteboard();
+    asGesture({}, [&] {
+        edited_.set(key, on ? 1 : 0);
+        setAllBoolsInChangePasteboard();
+    });
 }
 
 void nrPreferences::controlTextDidChange(std::string_view key, std::u16string text) {
-    edited_.set(key, std::move(text));
-    setAllBoolsInChangePasteboardForText();
+    asGesture(key, [&] {
+        edited_.set(key, std::move(text));
+        setAllBoolsInChangePasteboardForText();
+    });
 }
 
 void nrPreferences::comboBoxSelectionDidChange(std::string_view key, std::int64_t index) {
-    edited_.choose(key, index);
-    if (key == "udStatisticsDefaultPosition") {
-        store_.set(key, state(key));
-    }
-    setAllBoolsInChangePasteboard();
+    asGesture({}, [&] {
+        edited_.choose(key, index);
+        if (key == "udStatisticsDefaultPosition") {
+            store_.set(key, state(key));
+        }
+        setAllBoolsInChangePasteboard();
+    });
 }
 
 void nrPreferences::sUpdateStatisticksValue(std::u16string text) {
-    store_.set("udStatisticsValue", PropertyValue(text).integerValue());
-    edited_.set("udStatisticsValue", std::move(text));
-    setAllBoolsInChangePasteboard();
+    constexpr auto key = "udStatisticsValue";
+    asGesture(key, [&] {
+        store_.set(key, PropertyValue(text).integerValue());
+        edited_.set(key, std::move(text));
+        setAllBoolsInChangePasteboard();
+    });
 }
 
 bool nrPreferences::customSeparatorEnabled(std::string_view separatorKey) const {
@@ -450,6 +457,7 @@ void nrPreferences::schedule(std::chrono::milliseconds delay) {
 }
 
 void nrPreferences::setAllBoolsInChangePasteboardAfterDelay() {
+    endTyping(); // after a pause
     saveChangesInProfiles();
 }
 
@@ -468,8 +476,10 @@ bool nrPreferences::onlyOneProfile() const {
 }
 
 void nrPreferences::onlyOneProfileChanged(bool on) {
-    edited_.set(onlyOneKey, on ? 1 : 0);
-    OnlyOneProfileAction();
+    asGesture({}, [&] {
+        edited_.set(onlyOneKey, on ? 1 : 0);
+        OnlyOneProfileAction();
+    });
 }
 
 void nrPreferences::OnlyOneProfileAction() {
@@ -549,25 +559,33 @@ void nrPreferences::updateUI(RulesUpdate update) {
     }
 }
 
-void nrPreferences::addNewFindReplace() {
-    // Who makes a first rule wants it applied.
+// Who makes a first rule wants it applied.
+void nrPreferences::switchRulesOn() {
     if (findReplace_.items().empty()) {
         checkBoxChanged(rulesSwitchKey, true);
         if (hooks_.controlsLoaded) {
             hooks_.controlsLoaded();
         }
     }
-    findReplace_.append(sharedFile_.newId());
-    updateUI(RulesUpdate::added);
-    saveCurrentFindReplaceList();
+}
+
+void nrPreferences::addNewFindReplace() {
+    asGesture({}, [&] {
+        switchRulesOn();
+        findReplace_.append(sharedFile_.newId());
+        updateUI(RulesUpdate::added);
+        saveCurrentFindReplaceList();
+    });
 }
 
 void nrPreferences::deleteFindReplace() {
     if (findReplace_.removeSelected()) {
-        updateUI(RulesUpdate::removed);
-        findReplace_.select(-1);
-        updateUI(RulesUpdate::emptyField);
-        saveCurrentFindReplaceList();
+        asGesture({}, [&] {
+            updateUI(RulesUpdate::removed);
+            findReplace_.select(-1);
+            updateUI(RulesUpdate::emptyField);
+            saveCurrentFindReplaceList();
+        });
     }
 }
 
@@ -575,29 +593,77 @@ void nrPreferences::selectedRow(int row) {
     findReplace_.select(row);
 }
 
+// A place in the list, for what is typed there.
+std::string nrPreferences::placeOf(std::string_view part) const {
+    return std::string(part) + std::to_string(findReplace_.lastClickedRow());
+}
+
 void nrPreferences::saveCurrentFindReplace(std::u16string find) {
-    findReplace_.setFind(std::move(find));
-    keepRules();
-    setAllBoolsInChangePasteboardForText();
+    asGesture(placeOf("find"), [&] {
+        findReplace_.setFind(std::move(find));
+        keepRules();
+        setAllBoolsInChangePasteboardForText();
+    });
 }
 
 void nrPreferences::controlTextDidChangeReplace(std::u16string replace) {
-    findReplace_.setReplacement(std::move(replace));
-    keepRules();
-    setAllBoolsInChangePasteboardForText();
+    asGesture(placeOf("replace"), [&] {
+        findReplace_.setReplacement(std::move(replace));
+        keepRules();
+        setAllBoolsInChangePasteboardForText();
+    });
+}
+
+void nrPreferences::setRuleSamples(int row, const std::vector<RuleSample> &samples) {
+    asGesture(placeOf("samples"), [&] {
+        findReplace_.setSamples(row, storedSamples(samples));
+        keepRules();
+        setAllBoolsInChangePasteboardForText();
+    });
 }
 
 void nrPreferences::saveCurrentFindReplaceCheckbox(int row, bool on) {
-    findReplace_.setCheckbox(row, on);
-    keepRules();
-    setAllBoolsInChangePasteboard();
+    asGesture({}, [&] {
+        findReplace_.setCheckbox(row, on);
+        keepRules();
+        setAllBoolsInChangePasteboard();
+    });
 }
 
 void nrPreferences::acceptDrop(const std::vector<int> &rows, int dropRow) {
-    findReplace_.move(rows, dropRow);
-    updateUI(RulesUpdate::changed);
-    keepRules();
-    setAllBoolsInChangePasteboard();
+    asGesture({}, [&] {
+        findReplace_.move(rows, dropRow);
+        updateUI(RulesUpdate::changed);
+        keepRules();
+        setAllBoolsInChangePasteboard();
+    });
+}
+
+void nrPreferences::importRules(const RuleList &list) {
+    asGesture({}, [&] {
+        switchRulesOn();
+        std::vector<std::uint64_t> ids = findReplace_.ids();
+        PropertyArray items = imported(list, findReplace_.items());
+        while (ids.size() < items.size()) {
+            ids.push_back(sharedFile_.newId());
+        }
+        findReplace_.setItems(std::move(items), std::move(ids));
+        updateUI(RulesUpdate::changed);
+        saveCurrentFindReplaceList();
+    });
+}
+
+void nrPreferences::pasteRules(const RuleList &list) {
+    asGesture({}, [&] {
+        switchRulesOn();
+        std::vector<std::uint64_t> ids;
+        for (std::size_t rule = 0; rule < list.rules.size(); ++rule) {
+            ids.push_back(sharedFile_.newId());
+        }
+        findReplace_.insert(storedRules(list), ids);
+        updateUI(RulesUpdate::changed);
+        saveCurrentFindReplaceList();
+    });
 }
 
 void nrPreferences::saveCurrentFindReplaceList() {
@@ -606,6 +672,81 @@ void nrPreferences::saveCurrentFindReplaceList() {
         report(writeSharedList());
     }
     setAllBoolsInChangePasteboard();
+}
+
+// --- History ---
+
+EditedState nrPreferences::editedState() const {
+    EditedState state{profilesItems_, sharedRules_, 0, onlyOneProfile()};
+    const auto place = static_cast<std::size_t>(std::max(selectedItem_, 0));
+    if (place < state.profiles.size()) {
+        state.profiles[place].record = profileSelected();
+        state.selected = state.profiles[place].id;
+    }
+    return state;
+}
+
+void nrPreferences::asGesture(std::string_view typing, const std::function<void()> &change) {
+    if (inGesture_) {
+        change();
+        return;
+    }
+    EditedState before = editedState();
+    inGesture_ = true;
+    try {
+        change();
+    } catch (...) {
+        inGesture_ = false;
+        throw;
+    }
+    inGesture_ = false;
+    history_.add(std::move(before), editedState(), typing);
+    if (hooks_.historyChanged) {
+        hooks_.historyChanged();
+    }
+}
+
+void nrPreferences::undo() {
+    if (canUndo()) {
+        carryOut(history_.undo());
+    }
+}
+
+void nrPreferences::redo() {
+    if (canRedo()) {
+        carryOut(history_.redo());
+    }
+}
+
+// What a gesture had added goes, also where a save or others have completed it since.
+RecordItems nrPreferences::carried(const RecordItems &now, const RecordItems &from,
+                                   const RecordItems &to) {
+    RecordItems items = mergeRecords(from, to, now);
+    const auto isIn = [](const RecordItems &list, std::uint64_t id) {
+        return std::ranges::find(list, id, &RecordItem::id) != list.end();
+    };
+    std::erase_if(
+        items, [&](const RecordItem &item) { return isIn(from, item.id) && !isIn(to, item.id); });
+    return items;
+}
+
+void nrPreferences::carryOut(EditHistory::Change change) {
+    const EditedState now = editedState();
+    const int row = findReplace_.lastClickedRow();
+    profilesItems_ = carried(now.profiles, change.from.profiles, change.to.profiles);
+    sharedRules_ = carried(now.sharedRules, change.from.sharedRules, change.to.sharedRules);
+    edited_.set(onlyOneKey, change.to.onlyOne ? 1 : 0);
+    const auto selected = std::ranges::find(profilesItems_, change.to.selected, &ProfileItem::id);
+    if (selected != profilesItems_.end()) {
+        selectedItem_ = static_cast<int>(selected - profilesItems_.begin());
+    }
+    refreshProfilesMenu();
+    profilesSelect();
+    findReplace_.select(std::min(row, static_cast<int>(findReplace_.items().size()) - 1));
+    updateUI(RulesUpdate::changed);
+    if (hooks_.historyChanged) {
+        hooks_.historyChanged();
+    }
 }
 
 std::string nrPreferences::writeSharedList() {

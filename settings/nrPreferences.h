@@ -7,10 +7,12 @@
 #pragma once
 
 #include "platform/MainQueue.h"
+#include "settings/EditHistory.h"
 #include "settings/EditedProfile.h"
 #include "settings/FindReplaceList.h"
 #include "settings/OptionLists.h"
 #include "settings/ProfilesFile.h"
+#include "settings/RuleList.h"
 #include "settings/SettingsPaths.h"
 #include "storage/SettingsStore.h"
 
@@ -18,6 +20,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace nerlo::settings {
@@ -38,14 +41,13 @@ struct PreferencesHooks {
     std::function<void()> edited; // goes with it, for the preview
     // Stores the first start's hot key. A failure, also an exception, is dropped.
     std::function<void()> setDefaultShortcut;
-    // Whether the profile may go. Without a hook, it may.
-    std::function<bool(const std::u16string &profileName)> confirmRemoval;
     std::function<void()> profilesChanged; // names, their order, or which one is selected
     std::function<void()> controlsLoaded;  // all controls have new states
     std::function<void(RulesUpdate)> updateUI;
     // Goes with the next save that succeeds, which is told by an empty error.
     std::function<void(const std::string &error)> saveFailed;
-    std::function<void()> damaged; // loadErrors() has changed
+    std::function<void()> damaged;        // loadErrors() has changed
+    std::function<void()> historyChanged; // canUndo() or canRedo()
 };
 
 class nrPreferences {
@@ -92,7 +94,8 @@ class nrPreferences {
     // `beginning` is what the new profile holds besides its name.
     void profilesAddingCloseWindow(const std::u16string &name, ProfileRecord beginning = {});
     void profilesAddingCancelWindow();
-    void profilesRemove();
+    // Asks nobody: undo() brings it back. False when there is none to remove.
+    bool profilesRemove();
     // The first profile with this name as it is now, edits and shared rules included; else the
     // ready one with this id.
     std::optional<ProfileRecord> recordNamed(std::u16string_view name) const;
@@ -155,8 +158,29 @@ class nrPreferences {
     void saveCurrentFindReplaceCheckbox(int row, bool on);
     void acceptDrop(const std::vector<int> &rows, int dropRow);
     void saveCurrentFindReplaceList();
+    void setRuleSamples(int row, const std::vector<RuleSample> &samples);
+    // Into the list that is shown, as planImport() tells.
+    void importRules(const RuleList &list);
+    // Behind the selected rule, whatever else is in the list.
+    void pasteRules(const RuleList &list);
+
+    // What was done to profiles, options and rules, gesture by gesture; what is typed into one
+    // place without a pause is one. A profile that was chosen is none.
+    bool canUndo() const { return history_.canUndo(); }
+    bool canRedo() const { return history_.canRedo(); }
+    void undo();
+    void redo();
+    // What comes next is another gesture.
+    void endTyping() { history_.endTyping(); }
 
   private:
+    void asGesture(std::string_view typing, const std::function<void()> &change);
+    EditedState editedState() const;
+    static RecordItems carried(const RecordItems &now, const RecordItems &from,
+                               const RecordItems &to);
+    void carryOut(EditHistory::Change change);
+    std::string placeOf(std::string_view part) const;
+    void switchRulesOn();
     void createDir();
     void refreshProfilesMenu();
     void refreshProfilesMenuItems();
@@ -194,6 +218,8 @@ class nrPreferences {
     bool saveFailed_ = false;
 
     bool profilesAdding_ = false;
+    EditHistory history_;
+    bool inGesture_ = false;
 };
 
 } // namespace nerlo::settings

@@ -19,7 +19,6 @@ namespace {
 using clipboard::CopyRule;
 using clipboard::Looks;
 
-constexpr int profileRole = Qt::UserRole; // where RuleList looks for what stands behind the arrow
 constexpr int shownRows = 5;
 
 struct LooksRow {
@@ -42,7 +41,7 @@ const LooksRow &rowOf(std::optional<Looks> looks) {
 
 CopyTableView::CopyTableView(Program &program)
     : program_(program)
-    , list_(new RuleList) {
+    , list_(new RowList) {
     describe(*list_, "copyTable", "sCopyTable", "sCopyTableTip");
     list_->setFixedHeight(shownRows * (list_->fontMetrics().height() + 6));
     auto *layout = new QGridLayout(this);
@@ -110,11 +109,11 @@ CopyTableView::CopyTableView(Program &program)
             store();
         }
     });
-    connect(list_, &RuleList::dropped, this,
+    connect(list_, &RowList::dropped, this,
             [this](int row, int place) { move(row, place > row ? place - 1 : place); });
-    connect(list_, &RuleList::moveAsked, this,
+    connect(list_, &RowList::moveAsked, this,
             [this](int by) { move(list_->currentRow(), list_->currentRow() + by); });
-    connect(list_, &RuleList::removeAsked, this, [this] {
+    connect(list_, &RowList::removeAsked, this, [this] {
         if (const int row = list_->currentRow(); row >= 0) {
             rules_.erase(rules_.begin() + row);
             store();
@@ -173,7 +172,7 @@ void CopyTableView::describeRow(int row) {
                                 : QString::fromStdU16String(program_.titleOf(rule.profile));
     QListWidgetItem &item = *list_->item(row);
     item.setText(conditionsOf(rule));
-    item.setData(profileRole, profile);
+    item.setData(RowList::resultRole, profile);
     item.setData(Qt::AccessibleDescriptionRole, localized("sCopyProfile") + ": " + profile);
 }
 

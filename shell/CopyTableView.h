@@ -5,10 +5,12 @@
 #pragma once
 
 #include "clipboard/CopyTable.h"
-#include "shell/FindReplaceTable.h"
+#include "shell/RowList.h"
 #include "storage/SettingsStore.h"
 
 #include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <functional>
 #include <vector>
 
@@ -42,7 +44,7 @@ class CopyTableView final : public QWidget {
 
     Program &program_;
     std::vector<clipboard::CopyRule> rules_;
-    RuleList *list_;
+    RowList *list_;
     std::vector<std::pair<QLineEdit *, std::string clipboard::CopyRule::*>> fields_;
     QComboBox *looks_ = nullptr;
     QComboBox *profile_ = nullptr;

@@ -95,7 +95,7 @@ DesktopShell::~DesktopShell() {
     hooks.controlsLoaded = nullptr;
     hooks.edited = nullptr;
     hooks.updateUI = nullptr;
-    hooks.confirmRemoval = nullptr;
+    hooks.historyChanged = nullptr;
     hooks.saveFailed = nullptr;
 }
 
@@ -117,8 +117,10 @@ void DesktopShell::connectPreferences() {
             window_->updateUI(update);
         }
     };
-    hooks.confirmRemoval = [this](const std::u16string &name) {
-        return window_ && window_->confirmRemoval(name);
+    hooks.historyChanged = [this] {
+        if (window_) {
+            window_->historyChanged();
+        }
     };
     hooks.saveFailed = [this](const std::string &error) { setProblem(Problem::profiles, error); };
     updateProfiles();

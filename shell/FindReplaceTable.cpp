@@ -1,188 +1,90 @@
 #include "shell/FindReplaceTable.h"
 
-#include "engine/FindReplace.h"
 #include "shell/Controls.h"
-#include "shell/LeftOutRules.h"
+#include "shell/RowList.h"
+#include "shell/RuleCells.h"
+#include "shell/RuleModel.h"
+#include "shell/RuleTravel.h"
+#include "shell/SampleTable.h"
 #include "shell/Strings.h"
-#include "shortcuts/view/WarningMark.h"
 
+#include <QAccessible>
 #include <QDropEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPainter>
+#include <QMenu>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
+#include <QTimer>
+#include <algorithm>
 
 namespace nerlo::shell {
 
 namespace {
 
-constexpr int replacementRole = Qt::UserRole;
-constexpr auto textBefore = "textBefore"; // property of an editor
-
-// Why a rule does nothing; empty for one that works.
-QString problemOf(const QString &find, const QString &replacement, const QStringList &leftOut) {
-    if (!engine::ruleIsUsable(find.toStdU16String(), replacement.toStdU16String())) {
-        return localized("sPatternUnusable");
-    }
-    return leftOut.contains(find) ? localized("sRuleLeftOut") : QString();
-}
-
-// What is sought in the first half of the row, and behind an arrow what takes its place.
-class RuleDelegate final : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &given,
-               const QModelIndex &index) const override {
-        QStyleOptionViewItem option = given;
-        initStyleOption(&option, index);
-        QRect half = option.rect;
-        half.setLeft(half.center().x());
-        const QString replacement = index.data(replacementRole).toString();
-        if (!replacement.isEmpty()) {
-            constexpr int boxAndMargins = 32;
-            const int mark = option.icon.isNull() ? 0 : option.decorationSize.width() + 4;
-            option.text = option.fontMetrics.elidedText(option.text, Qt::ElideRight,
-                                                        half.width() - boxAndMargins - mark);
-        }
-        const QStyle &style = *option.widget->style();
-        style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
-        if (replacement.isEmpty()) {
-            return;
-        }
-        const bool mirrored = option.direction == Qt::RightToLeft;
-        const QString text = (mirrored ? QStringLiteral("\u2190 ") : QStringLiteral("\u2192 ")) +
-                             QString(replacement).replace('\n', ' ');
-        const QRect place = QStyle::visualRect(option.direction, option.rect, half);
-        const bool selected = option.state & QStyle::State_Selected;
-        style.drawItemText(painter, place,
-                           int(QStyle::visualAlignment(option.direction, Qt::AlignLeft)) |
-                               Qt::AlignVCenter,
-                           option.palette, option.state & QStyle::State_Enabled,
-                           option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()),
-                           selected ? QPalette::HighlightedText : QPalette::Text);
-    }
-    // Each keystroke counts, as in other fields: the profile may be switched, or the program ended,
-    // while the editor is open.
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
-                          const QModelIndex &index) const override {
-        QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
-        editor->setProperty(textBefore, index.data(Qt::EditRole));
-        // Not textEdited(), which is silent when an accessibility tool sets the text.
-        connect(qobject_cast<QLineEdit *>(editor), &QLineEdit::textChanged, this,
-                [this, editor, rule = QPersistentModelIndex(index)](const QString &text) {
-                    if (text != rule.data(Qt::EditRole)) {
-                        emit const_cast<RuleDelegate *>(this)->commitData(editor);
-                    }
-                });
-        return editor;
-    }
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override {
-        // Setting an equal text would still move the cursor to its end.
-        if (qobject_cast<QLineEdit *>(editor)->text() != index.data(Qt::EditRole)) {
-            QStyledItemDelegate::setEditorData(editor, index);
-        }
-    }
-    bool eventFilter(QObject *watched, QEvent *event) override {
-        auto *editor = qobject_cast<QLineEdit *>(watched);
-        if (editor && event->type() == QEvent::KeyPress &&
-            static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-            editor->setText(editor->property(textBefore).toString());
-        }
-        return QStyledItemDelegate::eventFilter(watched, event);
-    }
-    // As wide as the list: what is longer is cut short, and shown whole by the editor.
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
-    }
-};
+constexpr int shownRules = 6; // at least
 
 } // namespace
 
-RuleList::RuleList(QWidget *parent)
-    : QListWidget(parent) {
+RuleTable::RuleTable() {
     setItemDelegate(new RuleDelegate(this));
-    setIconSize(QSize(1, 1) * fontMetrics().height()); // no row is higher for its mark
-    setDragDropMode(QAbstractItemView::InternalMove);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+                    QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setDragDropOverwriteMode(false);
+    // The Tab key goes on to the next control; between cells it goes while one is edited.
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    verticalHeader()->setHighlightSections(false);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setMinimumSectionSize(fontMetrics().height());
 }
 
-void RuleList::dropEvent(QDropEvent *event) {
-    if (event->source() != this || !currentItem()) {
-        event->ignore();
-        return;
+void RuleTable::dropEvent(QDropEvent *event) {
+    const int row = currentIndex().row();
+    const bool below = dropIndicatorPosition() == QAbstractItemView::BelowItem;
+    if (const auto place = acceptRowDrop(*this, *event, below)) {
+        setState(QAbstractItemView::NoState);
+        emit dropped(row, *place);
     }
-    const QModelIndex target = indexAt(event->position().toPoint());
-    int place = target.isValid() ? target.row() : count();
-    if (target.isValid() && (dropIndicatorPosition() == QAbstractItemView::BelowItem)) {
-        ++place;
-    }
-    const int row = currentRow();
-    // The view would take the row away itself after a move.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    setState(QAbstractItemView::NoState);
-    viewport()->update();
-    emit dropped(row, place);
 }
 
-void RuleList::keyPressEvent(QKeyEvent *event) {
-    const bool alt = event->modifiers() == Qt::AltModifier;
-    if (alt && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
-        emit moveAsked(event->key() == Qt::Key_Up ? -1 : 1);
-    } else if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+void RuleTable::keyPressEvent(QKeyEvent *event) {
+    const bool plain = event->modifiers() == Qt::NoModifier;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (const int by = movedBy(*event)) {
+        emit moveAsked(by);
+    } else if (plain && event->key() == Qt::Key_Delete) {
         emit removeAsked();
+    } else if (plain && enter && state() != EditingState && // an editor passes the key on
+               (currentIndex().flags() & Qt::ItemIsEditable)) {
+        edit(currentIndex());
     } else {
-        QListWidget::keyPressEvent(event);
-    }
-}
-
-// What the row shows beside its text; a screen reader gets it as the description.
-void FindReplaceTable::describeRow(QListWidgetItem &item) {
-    const QString replacement = item.data(replacementRole).toString();
-    const QString problem = problemOf(item.text(), replacement, leftOut_);
-    item.setIcon(problem.isEmpty() ? QIcon() : shortcuts::warningIcon());
-    item.setToolTip(problem);
-    QStringList description{problem};
-    if (!replacement.isEmpty()) {
-        description << localized("sFindReplaceWith") + ": " + replacement;
-    }
-    description.removeAll(QString());
-    item.setData(Qt::AccessibleDescriptionRole, description.join('\n'));
-}
-
-void FindReplaceTable::setReport(const engine::CleaningReport &report) {
-    leftOut_.clear();
-    for (const std::size_t rule : leftOutRules(report)) {
-        const auto *item = rule == engine::PatternFailure::ownPattern
-                               ? nullptr
-                               : findTableView->item(static_cast<int>(rule) - 1);
-        if (item) {
-            leftOut_ << item->text();
-        }
-    }
-    const QScopedValueRollback loading(loading_, true);
-    for (int row = 0; row < findTableView->count(); ++row) {
-        describeRow(*findTableView->item(row));
+        QTableView::keyPressEvent(event);
     }
 }
 
 FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
     : preferences_(preferences)
     , onlyOneProfile(new QCheckBox(localized("sOnlyOneProfile")))
-    , findTableView(new RuleList)
-    , replaceTextField(new QLineEdit)
+    , findTableView(new RuleTable)
+    , model_(new RuleModel(preferences, findTableView))
+    , state_(new QLabel)
+    , samples_(new SampleTable)
     , add_(new QPushButton(localized("sFindReplaceAdd")))
     , remove_(new QPushButton(localized("sFindReplaceRemove")))
+    , lists_(new QPushButton(localized("sRuleLists")))
     , up_(new QPushButton(localized("sFindReplaceUp")))
-    , down_(new QPushButton(localized("sFindReplaceDown"))) {
+    , down_(new QPushButton(localized("sFindReplaceDown")))
+    , addSample_(new QPushButton(localized("sRuleSampleAdd"))) {
+    findTableView->setModel(model_);
     describeControls();
     layOut();
-    followList();
+    followTable();
     followButtons();
     connect(onlyOneProfile, &QCheckBox::toggled, this, [this](bool on) {
         if (!loading_) {
@@ -190,115 +92,180 @@ FindReplaceTable::FindReplaceTable(settings::nrPreferences &preferences)
             load();
         }
     });
-    // Not textEdited(), which is silent when an accessibility tool sets the text.
-    connect(replaceTextField, &QLineEdit::textChanged, this, [this](const QString &text) {
-        if (!loading_) {
-            replacementChanged(text);
-        }
-    });
 }
 
 void FindReplaceTable::describeControls() {
     describe(*onlyOneProfile, "sOnlyOneProfile", "sOnlyOneProfile", "sOnlyOneProfileTip");
     describe(*findTableView, "findTableView", "sFindReplaceList", "sFindReplaceListTip");
-    describe(*replaceTextField, "replaceTextField", "sFindReplaceWith", "sFindReplaceWithTip");
     describe(*add_, "addRule", "sFindReplaceAdd", "sFindReplaceAddTip");
     describe(*remove_, "removeRule", "sFindReplaceRemove", "sFindReplaceRemoveTip");
+    describe(*lists_, "ruleLists", "sRuleLists", "sRuleListsTip");
     describe(*up_, "ruleUp", "sFindReplaceUp", "sFindReplaceUpTip");
     describe(*down_, "ruleDown", "sFindReplaceDown", "sFindReplaceDownTip");
+    describe(*addSample_, "addSample", "sRuleSampleAdd", "sRuleSampleAddTip");
+    state_->setObjectName("ruleState");
+    state_->setTextFormat(Qt::PlainText);
+    state_->setWordWrap(true);
+    // Two lines, so that nothing moves while something is typed.
+    state_->setMinimumHeight(2 * fontMetrics().lineSpacing());
+    state_->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    auto *menu = new QMenu(lists_);
+    menu->setObjectName("ruleListsMenu");
+    fillLists(*menu);
+    lists_->setMenu(menu);
 }
 
 void FindReplaceTable::layOut() {
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 4, 0, 0);
-    layout->addWidget(onlyOneProfile, 0, 0, 1, 2);
+    layout->addWidget(onlyOneProfile, 0, 0, 1, 3);
     auto *title = new QLabel(localized("sFindReplaceList"));
     title->setBuddy(findTableView);
-    layout->addWidget(title, 1, 0, 1, 2);
-    layout->addWidget(findTableView, 2, 0, 1, 2);
+    layout->addWidget(title, 1, 0, 1, 3);
+    layout->addWidget(findTableView, 2, 0, 1, 3);
     layout->setRowStretch(2, 1);
-    auto *with = new QLabel(localized("sFindReplaceWith"));
-    with->setBuddy(replaceTextField);
-    layout->addWidget(with, 3, 0);
-    layout->addWidget(replaceTextField, 3, 1);
-    layout->setColumnStretch(1, 1);
-    auto *buttons = new QGridLayout;
-    buttons->addWidget(add_, 0, 0);
-    buttons->addWidget(remove_, 0, 1);
-    buttons->addWidget(up_, 1, 0);
-    buttons->addWidget(down_, 1, 1);
-    layout->addLayout(buttons, 4, 0, 1, 2);
+    layout->addWidget(state_, 3, 0, 1, 3);
+    QPushButton *const buttons[] = {add_, remove_, lists_, up_, down_, addSample_};
+    for (int i = 0; QPushButton * button : buttons) {
+        layout->addWidget(button, 4 + i / 3, i % 3);
+        ++i;
+    }
+    auto *samplesTitle = new QLabel(localized("sRuleSamples"));
+    samplesTitle->setBuddy(samples_);
+    layout->addWidget(samplesTitle, 6, 0, 1, 3);
+    layout->addWidget(samples_, 7, 0, 1, 3);
+
+    QHeaderView &header = *findTableView->horizontalHeader();
+    header.setSectionResizeMode(QHeaderView::Stretch);
+    for (const int narrow : {RuleModel::on, RuleModel::found}) {
+        header.setSectionResizeMode(narrow, QHeaderView::ResizeToContents);
+    }
+    const int row = findTableView->verticalHeader()->defaultSectionSize();
+    findTableView->setMinimumHeight(header.sizeHint().height() + shownRules * row);
+    findTableView->setMinimumWidth(26 * findTableView->fontMetrics().averageCharWidth() * 2);
 }
 
-void FindReplaceTable::followList() {
-    connect(findTableView, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (!loading_) {
-            preferences_.selectedRow(row);
-            showField();
+void FindReplaceTable::followTable() {
+    connect(findTableView->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &current) {
+                if (!loading_) {
+                    rowSelected(current.row());
+                }
+            });
+    connect(model_, &RuleModel::rowChanged, this, [this](int changed) {
+        if (changed == row()) {
+            showRule();
         }
     });
-    connect(findTableView, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) {
-        if (!loading_) {
-            rowChanged(*item);
-        }
-    });
-    connect(findTableView, &RuleList::dropped, this,
-            [this](int row, int place) { preferences_.acceptDrop({row}, place); });
-    connect(findTableView, &RuleList::moveAsked, this, &FindReplaceTable::moveSelected);
-    connect(findTableView, &RuleList::removeAsked, this, &FindReplaceTable::removeSelected);
+    connect(findTableView, &RuleTable::dropped, this,
+            [this](int dropped, int place) { preferences_.acceptDrop({dropped}, place); });
+    connect(findTableView, &RuleTable::moveAsked, this, &FindReplaceTable::moveSelected);
+    connect(findTableView, &RuleTable::removeAsked, this, &FindReplaceTable::removeSelected);
+    connect(findTableView, &RuleTable::copyAsked, this, &FindReplaceTable::copyRule);
+    connect(findTableView, &RuleTable::pasteAsked, this, &FindReplaceTable::pasteAsked);
+    connect(samples_, &SampleTable::edited, this,
+            [this] { preferences_.setRuleSamples(row(), samples_->samples()); });
 }
 
 void FindReplaceTable::followButtons() {
     connect(up_, &QPushButton::clicked, this, [this] { moveSelected(-1); });
     connect(down_, &QPushButton::clicked, this, [this] { moveSelected(1); });
     connect(remove_, &QPushButton::clicked, this, &FindReplaceTable::removeSelected);
-    connect(add_, &QPushButton::clicked, this, [this] {
-        preferences_.addNewFindReplace();
-        findTableView->setFocus();
-        if (auto *item = findTableView->currentItem()) {
-            findTableView->editItem(item);
+    connect(add_, &QPushButton::clicked, this, &FindReplaceTable::addRule);
+    connect(addSample_, &QPushButton::clicked, this, &FindReplaceTable::addSample);
+}
+
+void FindReplaceTable::addRule() {
+    preferences_.addNewFindReplace();
+    findTableView->setFocus();
+    const QModelIndex cell = model_->index(row(), RuleModel::find);
+    findTableView->setCurrentIndex(cell); // from which the Tab key goes on
+    findTableView->edit(cell);
+}
+
+// The first place of the preview that the rule finds, with what it makes of that: to be looked
+// over.
+void FindReplaceTable::addSample() {
+    const settings::RuleTrial *trial = model_->trial(row());
+    settings::RuleSample sample;
+    if (trial) {
+        sample = {trial->finds.example, trial->exampleAfter};
+    }
+    const auto there = samples_->samples();
+    samples_->add(std::ranges::find(there, sample) == there.end() ? sample
+                                                                  : settings::RuleSample());
+}
+
+void FindReplaceTable::fillLists(QMenu &menu) {
+    const auto add = [this](QMenu &to, const QString &title, const char *name, auto run) {
+        QAction *action = to.addAction(title);
+        action->setObjectName(name);
+        connect(action, &QAction::triggered, this, run);
+        return action;
+    };
+    add(menu, localized("sRuleCopy"), "copyRule", [this] { copyRule(); });
+    add(menu, localized("sRulePaste"), "pasteRule", [this] { emit pasteAsked(); });
+    menu.addSeparator();
+    add(menu, localized("sRulesImport"), "importRules", [this] {
+        if (const auto path = askForRuleFile(window())) {
+            importFile(*path);
         }
     });
-}
-
-void FindReplaceTable::rowChanged(QListWidgetItem &item) {
-    const int row = findTableView->row(&item);
-    const auto &rule = preferences_.findReplaceList().items().at(static_cast<std::size_t>(row));
-    const bool on = item.checkState() == Qt::Checked;
-    if (on != settings::FindReplaceList::isOn(rule)) {
-        preferences_.saveCurrentFindReplaceCheckbox(row, on);
-    }
-    const std::u16string find = item.text().toStdU16String();
-    if (find != settings::FindReplaceList::textOf(rule, "find")) {
-        preferences_.selectedRow(row);
-        preferences_.saveCurrentFindReplace(find);
-        const QScopedValueRollback loading(loading_, true);
-        describeRow(item);
-        showField();
+    add(menu, localized("sRulesExport"), "exportRules", [this] { exportRules(); });
+    menu.addSeparator();
+    for (const auto &[title, path] : starterLists()) {
+        add(menu, QString(title).replace('&', "&&"), "starterList",
+            [this, path = path] { importFile(path); });
     }
 }
 
-void FindReplaceTable::replacementChanged(const QString &replacement) {
-    preferences_.controlTextDidChangeReplace(replacement.toStdU16String());
-    if (auto *item = findTableView->currentItem()) {
-        const QScopedValueRollback loading(loading_, true);
-        item->setData(replacementRole, replacement);
-        describeRow(*item);
+void FindReplaceTable::importFile(const QString &path) {
+    const auto list = readRuleFile(path, window());
+    if (list && confirmImport(*list, preferences_.findReplaceList().items(), window())) {
+        preferences_.importRules(*list);
     }
-    replaceTextField->setPlaceholderText(
-        QString::fromStdU16String(preferences_.findReplaceList().field().placeholder));
+}
+
+void FindReplaceTable::exportRules() {
+    exportRuleFile(settings::travelRules(preferences_.findReplaceList().items()), window());
+}
+
+void FindReplaceTable::copyRule() {
+    if (row() >= 0) {
+        emit copyAsked(
+            QString::fromStdString(settings::writeRuleList({u"", {model_->rule(row())}})));
+    }
+}
+
+void FindReplaceTable::pasteText(const QString &text) {
+    const auto parsed = settings::parseRuleList(text.toStdString());
+    if (parsed.list && !parsed.list->rules.empty()) {
+        preferences_.pasteRules(*parsed.list);
+        findTableView->setFocus();
+    } else {
+        state_->setText(localized("sRulePasteNothing"));
+    }
 }
 
 void FindReplaceTable::removeSelected() {
+    const int place = row();
     preferences_.deleteFindReplace();
-    showField(); // says so if no row is selected
+    if (place >= 0) {
+        const int last = model_->rowCount() - 1;
+        findTableView->setCurrentIndex(
+            model_->index(std::min(place, last), RuleModel::find)); // none in an empty list
+        rowSelected(findTableView->currentIndex().row());
+        emit removed();
+    }
+    showRule(); // says so if no row is selected
 }
 
 QString FindReplaceTable::searchTexts() const {
     QString texts;
-    for (const auto *key :
-         {"sOnlyOneProfile", "sOnlyOneProfileTip", "sFindReplaceList", "sFindReplaceListTip",
-          "sFindReplaceWith", "sFindReplaceWithTip", "sFindReplaceAdd", "sFindReplaceRemove"}) {
+    for (const auto *key : {"sOnlyOneProfile", "sOnlyOneProfileTip", "sFindReplaceList",
+                            "sFindReplaceListTip", "sFindReplaceWith", "sFindReplaceWithTip",
+                            "sFindReplaceAdd", "sFindReplaceRemove", "sRuleSamples", "sRuleLists",
+                            "sRulesImport", "sRulesExport", "sRuleKindReplace", "sRuleKindKeep"}) {
         texts += localized(key) + ' ';
     }
     return texts;
@@ -312,65 +279,81 @@ void FindReplaceTable::load() {
 
 void FindReplaceTable::reload() {
     const QScopedValueRollback loading(loading_, true);
-    findTableView->clear();
-    for (const storage::PropertyValue &rule : preferences_.findReplaceList().items()) {
-        addItem(rule);
+    const int column = std::max(findTableView->currentIndex().column(), int(RuleModel::find));
+    model_->reload();
+    if (row() >= 0) {
+        findTableView->setCurrentIndex(model_->index(row(), column));
     }
-    findTableView->setCurrentRow(preferences_.findReplaceList().lastClickedRow());
-    showField();
+    rowSelected(row());
 }
 
-void FindReplaceTable::addItem(const storage::PropertyValue &rule) {
-    auto *item = new QListWidgetItem(
-        QString::fromStdU16String(settings::FindReplaceList::textOf(rule, "find")));
-    item->setData(replacementRole,
-                  QString::fromStdU16String(settings::FindReplaceList::textOf(rule, "replace")));
-    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable |
-                   Qt::ItemIsUserCheckable | Qt::ItemIsDragEnabled);
-    item->setCheckState(settings::FindReplaceList::isOn(rule) ? Qt::Checked : Qt::Unchecked);
-    describeRow(*item);
-    findTableView->addItem(item);
+void FindReplaceTable::rowSelected(int selected) {
+    preferences_.selectedRow(selected);
+    samples_->setSamples(row() < 0 ? std::vector<settings::RuleSample>()
+                                   : model_->rule(row()).samples);
+    showRule();
 }
 
-void FindReplaceTable::showField() {
-    const QScopedValueRollback loading(loading_, true);
+QString FindReplaceTable::stateOf(int selected) const {
+    if (const QString problem = model_->problem(selected); !problem.isEmpty()) {
+        return problem;
+    }
+    if (const QString broken = model_->brokenSample(selected); !broken.isEmpty()) {
+        return broken;
+    }
+    const settings::RuleTrial *trial = model_->trial(selected);
+    const std::size_t matches = trial ? trial->finds.matches.value_or(0) : 0;
+    return !trial ? QString()
+           : matches == 0
+               ? localized("sRuleFindsNothing")
+               : filled(localized("sRuleFinds"), {QLocale().toString(qulonglong(matches))});
+}
+
+void FindReplaceTable::showRule() {
     const auto &list = preferences_.findReplaceList();
-    const auto &field = list.field();
-    const QString text = QString::fromStdU16String(field.text);
-    if (replaceTextField->text() != text) {
-        replaceTextField->setText(text);
-    }
-    replaceTextField->setPlaceholderText(QString::fromStdU16String(field.placeholder));
-    replaceTextField->setEnabled(field.enabled);
-    const int row = list.lastClickedRow();
     const int count = static_cast<int>(list.items().size());
-    up_->setEnabled(row > 0);
-    down_->setEnabled(row >= 0 && row + 1 < count);
+    const bool any = row() >= 0;
+    state_->setText(any ? stateOf(row()) : QString::fromStdU16String(list.field().text));
+    if (!any && samples_->hasFocus()) {
+        findTableView->setFocus(); // not to whatever comes next
+    }
+    samples_->setEnabled(any);
+    addSample_->setEnabled(any);
+    const settings::RuleTrial *trial = any ? model_->trial(row()) : nullptr;
+    samples_->setResults(trial ? trial->samples : std::vector<settings::SampleResult>());
+    up_->setEnabled(row() > 0);
+    down_->setEnabled(any && row() + 1 < count);
+}
+
+void FindReplaceTable::setReport(const engine::CleaningReport &report) {
+    model_->setReport(report);
+}
+
+void FindReplaceTable::setTrials(const std::vector<settings::RuleTrial> &trials) {
+    model_->setTrials(trials);
 }
 
 void FindReplaceTable::updateUI(settings::RulesUpdate update) {
     if (update == settings::RulesUpdate::emptyField) {
-        showField();
+        showRule();
     } else {
         reload();
     }
-    if (update == settings::RulesUpdate::reload && findTableView->count() > 0) {
-        findTableView->scrollToItem(findTableView->item(0));
+    if (update == settings::RulesUpdate::reload) {
+        findTableView->scrollToTop();
     } else if (update == settings::RulesUpdate::added) {
         findTableView->scrollToBottom();
     }
 }
 
 void FindReplaceTable::moveSelected(int by) {
-    const auto &list = preferences_.findReplaceList();
-    const int row = list.lastClickedRow();
-    const int place = row + by;
-    if (row < 0 || place < 0 || place >= static_cast<int>(list.items().size())) {
+    const int from = row();
+    const int place = from + by;
+    if (from < 0 || place < 0 || place >= model_->rowCount()) {
         return;
     }
-    preferences_.acceptDrop({row}, place);
-    preferences_.selectedRow(place);
-    reload();
+    preferences_.acceptDrop({from}, place);
+    findTableView->setCurrentIndex(model_->index(place, RuleModel::find));
 }
 
 } // namespace nerlo::shell

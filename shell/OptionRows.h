@@ -44,6 +44,8 @@ class OptionPage final : public QWidget {
     void load();
     // Of the find-and-replace table; see nrPreferences. Nothing on pages without it.
     void updateRules(settings::RulesUpdate update);
+    // The table of rules; null on pages without it.
+    FindReplaceTable *rules() const { return rules_; }
     // Marks what the last clean left out.
     void setReport(const engine::CleaningReport &report);
     // The fields stand below each other, whatever their labels say.

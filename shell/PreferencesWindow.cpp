@@ -5,11 +5,15 @@
 #include "shell/Alerts.h"
 #include "shell/Controls.h"
 #include "shell/CopyTableView.h"
+#include "shell/FieldHistory.h"
+#include "shell/FindReplaceTable.h"
 #include "shell/Mnemonics.h"
 #include "shell/Program.h"
 #include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -134,6 +138,7 @@ void PreferencesWindow::layOut() {
     below->addWidget(pageList_);
     below->addWidget(splitter_, 1);
     layout->addLayout(below, 1);
+    layout->addWidget(makeDeletedBar());
     layout->addWidget(notice_);
     setCentralWidget(content);
 }
@@ -147,6 +152,9 @@ void PreferencesWindow::makePages() {
         auto *widget = new OptionPage(page, preferences_, makeRecorder);
         optionPages_.push_back(widget);
         addPage(localized(page.title), widget);
+        if (FindReplaceTable *rules = widget->rules()) {
+            followRules(*rules);
+        }
     }
     splitter_->addWidget(preview_); // now, because the Tab key goes on to what came last
     splitter_->setStretchFactor(0, 3);
@@ -163,7 +171,65 @@ void PreferencesWindow::makePages() {
     });
 }
 
+void PreferencesWindow::followRules(FindReplaceTable &rules) {
+    connect(preview_, &PreviewPane::rulesTried, &rules, &FindReplaceTable::setTrials);
+    connect(&rules, &FindReplaceTable::removed, this, &PreferencesWindow::tellDeleted);
+    connect(&rules, &FindReplaceTable::copyAsked, this, [this](const QString &text) {
+        program_.engine().putText(text.toStdU16String(), [](bool) {});
+    });
+    connect(&rules, &FindReplaceTable::pasteAsked, this, [this, &rules] {
+        program_.engine().readClipboardText(
+            alive_.guard([&rules](const std::optional<std::u16string> &text) {
+                rules.pasteText(QString::fromStdU16String(text.value_or(std::u16string())));
+            }));
+    });
+}
+
+QWidget *PreferencesWindow::makeDeletedBar() {
+    deleted_ = new QWidget;
+    deleted_->setObjectName("deleted");
+    deleted_->setAccessibleName(localized("sDeleted"));
+    auto *layout = new QHBoxLayout(deleted_);
+    layout->setContentsMargins(6, 0, 6, 0);
+    layout->addWidget(new QLabel(localized("sDeleted")));
+    auto *undo = new QPushButton(localized(Table::menu, "Undo"));
+    undo->setObjectName("undoDeletion");
+    setTip(*undo, localized("sDeletedTip"));
+    connect(undo, &QPushButton::clicked, this, [this] { preferences_.undo(); });
+    layout->addWidget(undo);
+    layout->addStretch();
+    deleted_->hide();
+    return deleted_;
+}
+
+// Until something else is done.
+void PreferencesWindow::tellDeleted() {
+    deleted_->show();
+    QAccessibleEvent event(deleted_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void PreferencesWindow::historyChanged() {
+    deleted_->hide();
+}
+
+// A text field keeps Ctrl+Z for itself, but is of no use where nothing was typed into it.
+bool PreferencesWindow::eventFilter(QObject *watched, QEvent *event) {
+    const auto *field =
+        event->type() == QEvent::ShortcutOverride ? qobject_cast<QWidget *>(watched) : nullptr;
+    if (isTextField(field) && field->window() == this) {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        if ((key.matches(QKeySequence::Undo) && !fieldCan(true, field)) ||
+            (key.matches(QKeySequence::Redo) && !fieldCan(false, field))) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void PreferencesWindow::connectKeys() {
+    qApp->installEventFilter(this);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_, [this] {
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
@@ -270,7 +336,11 @@ QWidget *PreferencesWindow::makeTop() {
     addProfile_ = makeButton("addProfile", "sProfileAdd", "sProfileAddTip");
     removeProfile_ = makeButton("removeProfile", "sProfileRemove", "sProfileRemoveTip");
     connect(addProfile_, &QPushButton::clicked, this, &PreferencesWindow::addProfile);
-    connect(removeProfile_, &QPushButton::clicked, this, [this] { preferences_.profilesRemove(); });
+    connect(removeProfile_, &QPushButton::clicked, this, [this] {
+        if (preferences_.profilesRemove()) {
+            tellDeleted();
+        }
+    });
     layout->addWidget(label);
     layout->addWidget(profilesPopupButton_);
     layout->addWidget(addProfile_);
@@ -466,15 +536,6 @@ void PreferencesWindow::addProfile() {
               : ready < 0            ? preferences_.profileSelected()
                                      : settings::readyRecord(
                                            settings::readyProfiles()[static_cast<std::size_t>(ready)], name));
-}
-
-bool PreferencesWindow::confirmRemoval(const std::u16string &name) {
-    return runAlert({Alert::Style::warning,
-                     localized("Do you want remove this profile?"),
-                     filled(localized("Profile: %@"), {QString::fromStdU16String(name)}),
-                     {localized("Yes"), localized("No")},
-                     1},
-                    this) == 0;
 }
 
 void PreferencesWindow::remember() {

@@ -3,6 +3,7 @@
 // It shows the state in nrPreferences and reports edits to it. Main thread only.
 #pragma once
 
+#include "platform/Alive.h"
 #include "settings/nrPreferences.h"
 #include "shell/OptionRows.h"
 #include "shell/PreviewPane.h"
@@ -22,6 +23,7 @@ class QSplitter;
 namespace nerlo::shell {
 
 class CopyTableView;
+class FindReplaceTable;
 class Program;
 
 class PreferencesWindow final : public QMainWindow {
@@ -52,13 +54,15 @@ class PreferencesWindow final : public QMainWindow {
     void updateUI(settings::RulesUpdate update);
     void edited();
 
-    // Asks, and adds or removes.
+    void historyChanged();
+
+    // Asks, and adds.
     void addProfile();
-    bool confirmRemoval(const std::u16string &name);
 
     PreviewPane &preview() { return *preview_; }
 
   protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -69,6 +73,9 @@ class PreferencesWindow final : public QMainWindow {
     void describeParts();
     void layOut();
     void makePages();
+    void followRules(FindReplaceTable &rules);
+    QWidget *makeDeletedBar();
+    void tellDeleted();
     void connectKeys();
     void openAsRemembered(); // with the height and the page that were left
     void fitPages();
@@ -90,6 +97,7 @@ class PreferencesWindow final : public QMainWindow {
     QStackedWidget *pages_;
     QLabel *nothingFound_;
     QLabel *notice_;
+    QWidget *deleted_ = nullptr; // a line that offers to bring back what was deleted
     std::map<std::string_view, QLabel *> commandProblems_; // by hot key
     PreviewPane *preview_;
     QSplitter *splitter_;
@@ -98,6 +106,7 @@ class PreferencesWindow final : public QMainWindow {
     int pageBeforeSearch_ = -1;
     int previewBesideFrom_ = 0; // width of the window
     bool loading_ = false;
+    platform::Alive alive_;
 
     CopyTableView *copyTable_ = nullptr;
     std::vector<QCheckBox *> general_; // one for each of generalBoxes

@@ -347,14 +347,20 @@ void PreviewPane::run() {
             run();
         }
     });
+    auto tried = alive_.guardOn(mainQueue_, [this](const std::vector<settings::RuleTrial> &trials) {
+        emit rulesTried(trials);
+    });
     program_.parts().workerQueue.post(
-        [changed = std::move(changed), ended = std::move(ended),
+        [changed = std::move(changed), tried = std::move(tried), ended = std::move(ended),
          job = PreviewJob{text, options_, program_.locale(), leftOutWords(), stop_.get_token()}] {
             std::optional<PreviewSteps> made;
             try {
                 if (auto changes = previewChanges(job)) {
                     changed(std::move(*changes));
-                    made = previewSteps(job);
+                    if (auto trials = previewRules(job)) {
+                        tried(std::move(*trials));
+                        made = previewSteps(job);
+                    }
                 }
             } catch (const std::exception &) {
                 // Only for want of memory. The preview stays as it was.

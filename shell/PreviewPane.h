@@ -51,6 +51,8 @@ class PreviewPane final : public QWidget {
     // A changed place was clicked: the option of this operation is wanted, told by the key of its
     // shortcut.
     void optionAsked(const std::string &hotKey);
+    // What the rules of the options do to the text; see settings/RuleTrials.h.
+    void rulesTried(const std::vector<settings::RuleTrial> &trials);
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -40,6 +40,13 @@ std::optional<ShownChanges> previewChanges(const PreviewJob &job) {
                         job.words);
 }
 
+std::optional<std::vector<settings::RuleTrial>> previewRules(const PreviewJob &job) {
+    const engine::CleaningOptions options = optionsOf(job);
+    auto trials =
+        settings::tryRules(*job.text, {.options = options, .locale = job.locale}, job.stop);
+    return job.stop.stop_requested() ? std::nullopt : std::optional(std::move(trials));
+}
+
 std::optional<PreviewSteps> previewSteps(const PreviewJob &job) {
     PreviewSteps result;
     const engine::CleaningOptions options = optionsOf(job);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/Operations.h"
+#include "settings/RuleTrials.h"
 #include "shell/ShownChanges.h"
 #include "storage/PropertyValue.h"
 
@@ -49,6 +50,8 @@ struct PreviewSteps {
 
 // Soon,
 std::optional<ShownChanges> previewChanges(const PreviewJob &job);
+// in twice that time,
+std::optional<std::vector<settings::RuleTrial>> previewRules(const PreviewJob &job);
 // and in some ten times that time.
 std::optional<PreviewSteps> previewSteps(const PreviewJob &job);
 

@@ -2,6 +2,7 @@
 
 #include "engine/Operations.h"
 #include "settings/SettingsKeys.h"
+#include "shell/FieldHistory.h"
 #include "shell/Mnemonics.h"
 #include "shell/PreferencesLayout.h"
 #include "shell/Program.h"
@@ -192,19 +193,25 @@ void StatusMenu::makeEditActions() {
     for (const EditCommand &command : editCommands) {
         auto *action = new QAction(title(command.title), this);
         action->setShortcut(QKeySequence(command.keys));
-        connect(action, &QAction::triggered, this, [slot = command.slot] {
-            QWidget *widget = QApplication::focusWidget();
-            if (!widget) {
-                return;
-            }
-            if (!slot) {
-                sendDelete(widget);
-            } else if (widget->metaObject()->indexOfSlot((QByteArray(slot) + "()").constData()) >=
-                       0) {
-                QMetaObject::invokeMethod(widget, slot);
-            }
-        });
+        connect(action, &QAction::triggered, this, [this, slot = command.slot] { edit(slot); });
         edit_.push_back(action);
+    }
+}
+
+// In what has the keyboard; what cannot be undone there is undone in the profiles.
+void StatusMenu::edit(const char *slot) {
+    QWidget *widget = QApplication::focusWidget();
+    const QByteArray name(slot);
+    const bool undoes = name == "undo" && !fieldCan(true, widget);
+    const bool redoes = name == "redo" && !fieldCan(false, widget);
+    if (undoes) {
+        program_.preferences().undo();
+    } else if (redoes) {
+        program_.preferences().redo();
+    } else if (widget && !slot) {
+        sendDelete(widget);
+    } else if (widget && widget->metaObject()->indexOfSlot(name + "()") >= 0) {
+        QMetaObject::invokeMethod(widget, slot);
     }
 }
 

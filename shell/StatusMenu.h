@@ -52,6 +52,7 @@ class StatusMenu final : public QObject {
     void nameRestorable();
     void nameProgram();
     void makeEditActions();
+    void edit(const char *slot);
     void fillProfiles(QMenu &menu, int selected);
 
     Program &program_;

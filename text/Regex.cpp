@@ -306,6 +306,11 @@ bool Regex::Matcher::setText(std::u16string_view text) {
     return U_SUCCESS(status);
 }
 
+std::size_t Regex::groups() const {
+    UErrorCode status = U_ZERO_ERROR;
+    return static_cast<std::size_t>(uregex_groupCount(matcher_->expression, &status));
+}
+
 std::optional<bool> Regex::occursIn(std::u16string_view text) {
     Walk walk(*matcher_, text);
     const bool found = walk.next();

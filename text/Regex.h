@@ -38,6 +38,9 @@ class Regex {
     Regex &operator=(Regex &&) noexcept;
     ~Regex();
 
+    // Capturing groups of the pattern, named ones included.
+    std::size_t groups() const;
+
     // Nothing when the budget ran out (or the text is longer than the matcher can address, 2^31 - 1
     // units).
     std::optional<bool> occursIn(std::u16string_view text);

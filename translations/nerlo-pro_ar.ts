@@ -95,23 +95,6 @@
         <translation>أدخل اسم ملف الإعدادات الجديد وانقر «موافق»</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>أتريد إزالة ملف الإعدادات هذا؟</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>ملف الإعدادات: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>نعم</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>لا</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>موافق</translation>
     </message>
@@ -1110,6 +1093,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>نص الاستبدال</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>مفعّلة</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>هل تُطبَّق القاعدة.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>ما تبحث عنه القاعدة: نص، أو نمط إن كان نوعها كذلك.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>يُبحث عن النص كما هو؛ والنمط تعبير نمطي.
+بلا اختبار: حين لا يبقى إلا المطابقات، يصبح النص الخالي منها فارغًا.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>عدد</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>كم مرة تجد القاعدة شيئًا في نص المعاينة.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>نص</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>نمط: استبدال</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>نمط: إبقاء المطابقات</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>نمط: استبدال بلا اختبار</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>نمط: إبقاء المطابقات بلا اختبار</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>لا معنى للنمط عند الحرف %@، ولذلك لا يجد شيئًا.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>لا تجد شيئًا في نص المعاينة.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>عدد ما وُجد في نص المعاينة: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>المثال %@ لا يتحقق. القاعدة تجعله هكذا: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>أمثلة القاعدة المحددة</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>ما ينبغي أن تفعله القاعدة بنص. تُجرَّب كلها عند كل تغيير.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>النتيجة</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>يتحقق</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>لا يتحقق</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>أضف مثالًا</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>يأخذ أول موضع تجده القاعدة في المعاينة لمراجعته.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>المزيد</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>ينسخ القواعد ويلصقها، ويستورد القوائم ويصدّرها، ويعرض قوائم جاهزة.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>انسخ القاعدة</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>الصق قواعد</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>استورد قائمة…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>صدّر القائمة…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>ما تفعله القائمة «%@» بقواعدك:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>الأثر</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>تُضاف</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>تتغير</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>تبقى</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>استورد</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>هذه ليست قائمة قواعد يمكن قراءتها.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>تعذرت كتابة القائمة.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>لا توجد قواعد في الحافظة.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>حُذف.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>يعيد ما حُذف.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Geben Sie den Namen des neuen Profils ein und klicken Sie auf OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Möchten Sie dieses Profil entfernen?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Profil: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@ Nachher: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Ersatztext</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>An</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Ob die Regel angewandt wird.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Was die Regel sucht: einen Text oder, je nach Art, ein Muster.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Ein Text wird gefunden, wie er dasteht; ein Muster ist ein regulärer Ausdruck.
+Ungeprüft: Wo nur Treffer bleiben, wird ein Text ohne Treffer leer.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Treffer</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Wie oft die Regel im Text der Vorschau etwas findet.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Muster: ersetzen</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Muster: Treffer behalten</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Muster: ersetzen, ungeprüft</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Muster: Treffer behalten, ungeprüft</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Das Muster ergibt ab Zeichen %@ keinen Sinn und findet deshalb nichts.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Findet nichts im Text der Vorschau.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Treffer im Text der Vorschau: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Beispiel %@ stimmt nicht. Die Regel macht daraus: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Beispiele der gewählten Regel</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Was die Regel aus einem Text machen soll. Bei jeder Änderung werden alle geprüft.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Stimmt</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Stimmt nicht</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Beispiel hinzufügen</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Nimmt die erste Stelle der Vorschau, die die Regel findet, zum Durchsehen.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Kopiert Regeln und fügt sie ein, importiert und exportiert Listen und bietet fertige an.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Regel kopieren</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Regeln einfügen</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Liste importieren …</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Liste exportieren …</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Was die Liste „%@“ mit Ihren Regeln macht:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Wirkung</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Bleibt</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Das ist keine lesbare Liste von Regeln.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Die Liste konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>In der Zwischenablage sind keine Regeln.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Gelöscht.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Holt zurück, was gelöscht wurde.</translation>
     </message>
     <message>
         <source>Reverse</source>

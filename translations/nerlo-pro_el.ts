@@ -95,23 +95,6 @@
         <translation>Δώστε το όνομα του νέου προφίλ και πατήστε Εντάξει</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Να αφαιρεθεί αυτό το προφίλ;</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Προφίλ: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Ναι</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Όχι</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>Εντάξει</translation>
     </message>
@@ -1111,6 +1094,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Κείμενο αντικατάστασης</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Ενεργός</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Αν εφαρμόζεται ο κανόνας.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Εύρεση</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Τι αναζητά ο κανόνας: κείμενο ή, αν το λέει το είδος του, μοτίβο.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Είδος</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Ένα κείμενο αναζητείται όπως είναι· ένα μοτίβο είναι κανονική έκφραση.
+Χωρίς έλεγχο: όπου μένουν μόνο οι αντιστοιχίες, κείμενο χωρίς καμία γίνεται κενό.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Βρέθηκαν</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Πόσες φορές βρίσκει κάτι ο κανόνας στο κείμενο της προεπισκόπησης.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Κείμενο</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Μοτίβο: αντικατάσταση</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Μοτίβο: διατήρηση αντιστοιχιών</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Μοτίβο: αντικατάσταση, χωρίς έλεγχο</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Μοτίβο: διατήρηση αντιστοιχιών, χωρίς έλεγχο</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Το μοτίβο δεν έχει νόημα στον χαρακτήρα %@, γι’ αυτό δεν βρίσκει τίποτα.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Δεν βρίσκει τίποτα στο κείμενο της προεπισκόπησης.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Βρέθηκαν στο κείμενο της προεπισκόπησης: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Το δείγμα %@ δεν ισχύει. Ο κανόνας το κάνει έτσι: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Δείγματα του επιλεγμένου κανόνα</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Τι πρέπει να κάνει ο κανόνας ένα κείμενο. Όλα δοκιμάζονται σε κάθε αλλαγή.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Αποτέλεσμα</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Ισχύει</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Δεν ισχύει</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Προσθήκη δείγματος</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Παίρνει το πρώτο σημείο της προεπισκόπησης που βρίσκει ο κανόνας, για έλεγχο.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Περισσότερα</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Αντιγράφει και επικολλά κανόνες, εισάγει και εξάγει λίστες και προσφέρει έτοιμες.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Αντιγραφή του κανόνα</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Επικόλληση κανόνων</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Εισαγωγή λίστας…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Εξαγωγή της λίστας…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Τι κάνει η λίστα «%@» στους κανόνες σας:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Επίδραση</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Προστίθεται</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Αλλάζει</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Μένει</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Εισαγωγή</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Αυτό δεν είναι λίστα κανόνων που μπορεί να διαβαστεί.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Δεν ήταν δυνατή η εγγραφή της λίστας.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>Δεν υπάρχουν κανόνες στο πρόχειρο.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Διαγράφηκε.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Επαναφέρει ό,τι διαγράφηκε.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Insert new profile name and click OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Do you want remove this profile?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile's name.</extracomment>
-        <translation>Profile: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Yes</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1112,6 +1095,171 @@ After: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Replacement text</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Whether the rule is applied.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>What the rule looks for: a text, or a pattern if its kind says so.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>A text is found as it stands; a pattern is a regular expression.
+Untested: where only matches are kept, a text without any becomes empty.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Found</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>How often the rule finds something in the text of the preview.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Pattern: replace</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Pattern: keep matches</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Pattern: replace, untested</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Pattern: keep matches, untested</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>The pattern makes no sense at character %@, so it finds nothing.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Finds nothing in the text of the preview.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Found in the text of the preview: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Sample %@ does not hold. The rule makes this of it: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Samples of the selected rule</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>What the rule is to make of a text. All are tried at each change.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Holds</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Does not hold</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Take a sample</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Takes the first place in the preview that the rule finds, to be looked over.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>More</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Copies and pastes rules, imports and exports lists, and offers ready ones.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Copy the rule</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Paste rules</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Import a list…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Export the list…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>What the list “%@” does to your rules:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Effect</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Added</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Stays</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>This is no list of rules that can be read.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>The list could not be written.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>There are no rules on the clipboard.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Deleted.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Brings back what was deleted.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Escriba el nombre del nuevo perfil y pulse Aceptar</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>¿Quiere quitar este perfil?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Perfil: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Sí</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
@@ -1111,6 +1094,171 @@ Después: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Texto de reemplazo</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Activa</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Si la regla se aplica.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Lo que busca la regla: un texto, o un patrón si su tipo lo indica.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Un texto se busca tal cual; un patrón es una expresión regular.
+Sin comprobar: cuando solo se conservan las coincidencias, un texto que no tiene ninguna queda vacío.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Hallado</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Cuántas veces encuentra algo la regla en el texto de la vista previa.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Patrón: reemplazar</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Patrón: conservar coincidencias</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Patrón: reemplazar, sin comprobar</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Patrón: conservar coincidencias, sin comprobar</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>El patrón no tiene sentido en el carácter %@, así que no encuentra nada.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>No encuentra nada en el texto de la vista previa.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Hallado en el texto de la vista previa: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>El ejemplo %@ no se cumple. La regla hace esto con él: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Ejemplos de la regla seleccionada</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Lo que la regla debe hacer con un texto. Todos se prueban en cada cambio.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Se cumple</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>No se cumple</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Añadir un ejemplo</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Toma el primer lugar de la vista previa que encuentra la regla, para revisarlo.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Copia y pega reglas, importa y exporta listas y ofrece algunas ya hechas.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Copiar la regla</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Pegar reglas</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Importar una lista…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Exportar la lista…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Lo que la lista «%@» hace con sus reglas:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Efecto</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Añadida</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Cambiada</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Se queda</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Esto no es una lista de reglas legible.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>No se pudo escribir la lista.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>No hay reglas en el portapapeles.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Eliminado.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Recupera lo que se eliminó.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Saisissez le nom du nouveau profil et cliquez sur OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Voulez-vous supprimer ce profil ?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Profil : %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Non</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@ Après : 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Texte de remplacement</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Active</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Indique si la règle est appliquée.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Ce que la règle cherche : un texte, ou un motif si son type le dit.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Un texte est cherché tel quel ; un motif est une expression régulière.
+Sans test : quand seules les correspondances restent, un texte qui n’en a pas devient vide.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Trouvé</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Combien de fois la règle trouve quelque chose dans le texte de l’aperçu.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Motif : remplacer</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Motif : garder les correspondances</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Motif : remplacer, sans test</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Motif : garder les correspondances, sans test</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Le motif n’a pas de sens au caractère %@ et ne trouve donc rien.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Ne trouve rien dans le texte de l’aperçu.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Trouvé dans le texte de l’aperçu : %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>L’exemple %@ n’est pas respecté. La règle en fait ceci : %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Exemples de la règle sélectionnée</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Ce que la règle doit faire d’un texte. Tous sont essayés à chaque modification.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Respecté</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Non respecté</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Ajouter un exemple</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Prend le premier endroit de l’aperçu que la règle trouve, à vérifier.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Copie et colle des règles, importe et exporte des listes et en propose de toutes prêtes.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Copier la règle</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Coller des règles</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Importer une liste…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Exporter la liste…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Ce que la liste « %@ » fait de vos règles :</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Effet</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Ajoutée</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Modifiée</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Inchangée</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Ce n’est pas une liste de règles lisible.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>La liste n’a pas pu être écrite.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>Il n’y a pas de règles dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Supprimé.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Rétablit ce qui a été supprimé.</translation>
     </message>
     <message>
         <source>Reverse</source>

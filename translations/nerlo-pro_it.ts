@@ -95,23 +95,6 @@
         <translation>Inserisca il nome del nuovo profilo e faccia clic su OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Rimuovere questo profilo?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Profilo: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Sì</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@ Dopo: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Testo sostitutivo</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Attiva</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Se la regola viene applicata.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Ciò che la regola cerca: un testo, o un modello se il tipo lo dice.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Un testo si cerca così com’è; un modello è un’espressione regolare.
+Senza verifica: dove restano solo le corrispondenze, un testo che non ne ha diventa vuoto.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Trovati</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Quante volte la regola trova qualcosa nel testo dell’anteprima.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Modello: sostituisci</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Modello: tieni le corrispondenze</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Modello: sostituisci, senza verifica</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Modello: tieni le corrispondenze, senza verifica</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Il modello non ha senso al carattere %@ e perciò non trova nulla.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Non trova nulla nel testo dell’anteprima.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Trovati nel testo dell’anteprima: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>L’esempio %@ non vale. La regola ne fa questo: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Esempi della regola selezionata</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Ciò che la regola deve fare di un testo. Tutti vengono provati a ogni modifica.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Vale</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Non vale</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Aggiungi un esempio</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Prende il primo punto dell’anteprima che la regola trova, da controllare.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Altro</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Copia e incolla regole, importa ed esporta elenchi e ne offre di pronti.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Copia la regola</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Incolla regole</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Importa un elenco…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Esporta l’elenco…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Che cosa fa l’elenco “%@” alle regole:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Effetto</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Aggiunta</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Modificata</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Resta</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Non è un elenco di regole leggibile.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Impossibile scrivere l’elenco.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>Negli appunti non ci sono regole.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Eliminato.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Riporta ciò che è stato eliminato.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>新しいプロファイルの名前を入力して OK をクリックしてください</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>このプロファイルを削除しますか？</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>プロファイル：%@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>はい</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>いいえ</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1110,6 +1093,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>置換テキスト</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>ルールを適用するかどうか。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>ルールが探すもの。テキスト、または種類によってはパターン。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>テキストはそのまま検索され、パターンは正規表現です。
+確認なし：一致だけを残す場合、一致のないテキストは空になります。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>一致数</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>プレビューのテキストでルールが見つける回数。</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>パターン：置換</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>パターン：一致を残す</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>パターン：置換（確認なし）</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>パターン：一致を残す（確認なし）</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>パターンの %@ 文字目が正しくないため、何も見つかりません。</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>プレビューのテキストには何も見つかりません。</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>プレビューのテキストでの一致：%@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>例 %@ は成り立ちません。ルールの結果：%@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>選択したルールの例</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>ルールがテキストをどう変えるべきか。変更のたびにすべて試されます。</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>成り立つ</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>成り立たない</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>例を追加</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>プレビューで最初に一致した箇所を例にします。内容を確認してください。</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>ルールのコピーと貼り付け、リストの読み込みと書き出し、用意されたリストの利用。</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>ルールをコピー</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>ルールを貼り付け</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>リストを読み込む…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>リストを書き出す…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>リスト「%@」によるルールの変更：</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>変更あり</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>そのまま</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>読み込む</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>読み取れるルールのリストではありません。</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>リストを書き込めませんでした。</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>クリップボードにルールがありません。</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>削除しました。</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>削除したものを元に戻します。</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Wpisz nazwę nowego profilu i kliknij OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Czy usunąć ten profil?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Profil: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Tak</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nie</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@ Po: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Tekst zastępczy</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Wł.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Czy reguła jest stosowana.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Znajdź</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Czego szuka reguła: tekstu albo wzorca, jeśli tak mówi jej rodzaj.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Rodzaj</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Tekst jest szukany dosłownie; wzorzec to wyrażenie regularne.
+Bez sprawdzenia: gdy zostają tylko dopasowania, tekst bez żadnego staje się pusty.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Trafienia</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Ile razy reguła coś znajduje w tekście podglądu.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Wzorzec: zamień</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Wzorzec: zachowaj dopasowania</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Wzorzec: zamień, bez sprawdzenia</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Wzorzec: zachowaj dopasowania, bez sprawdzenia</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Wzorzec nie ma sensu przy znaku %@, więc niczego nie znajduje.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Niczego nie znajduje w tekście podglądu.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Trafienia w tekście podglądu: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Przykład %@ się nie zgadza. Reguła robi z niego: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Przykłady wybranej reguły</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Co reguła ma zrobić z tekstem. Wszystkie są sprawdzane przy każdej zmianie.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Wynik</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Zgadza się</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Nie zgadza się</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Dodaj przykład</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Bierze pierwsze miejsce podglądu, które reguła znajduje, do przejrzenia.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Więcej</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Kopiuje i wkleja reguły, importuje i eksportuje listy oraz proponuje gotowe.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Kopiuj regułę</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Wklej reguły</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Importuj listę…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Eksportuj listę…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Co lista „%@” zrobi z regułami:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Skutek</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Dodana</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Zmieniona</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Zostaje</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importuj</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>To nie jest lista reguł, którą da się odczytać.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Nie udało się zapisać listy.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>W schowku nie ma reguł.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Usunięto.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Przywraca to, co usunięto.</translation>
     </message>
     <message>
         <source>Reverse</source>

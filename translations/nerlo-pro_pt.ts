@@ -95,23 +95,6 @@
         <translation>Digite o nome do novo perfil e clique em OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Deseja remover este perfil?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Perfil: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Sim</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Não</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@ Depois: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Texto de substituição</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Ativa</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Se a regra é aplicada.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Localizar</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>O que a regra procura: um texto, ou um padrão se o tipo assim o disser.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Um texto é procurado tal como está; um padrão é uma expressão regular.
+Sem teste: onde só ficam as correspondências, um texto sem nenhuma fica vazio.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Achados</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Quantas vezes a regra acha algo no texto da pré-visualização.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Padrão: substituir</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Padrão: manter correspondências</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Padrão: substituir, sem teste</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Padrão: manter correspondências, sem teste</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>O padrão não faz sentido no caractere %@ e por isso não acha nada.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Não acha nada no texto da pré-visualização.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Achados no texto da pré-visualização: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>O exemplo %@ não se cumpre. A regra faz dele isto: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Exemplos da regra selecionada</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>O que a regra deve fazer de um texto. Todos são testados a cada alteração.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Cumpre-se</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Não se cumpre</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Adicionar um exemplo</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Usa o primeiro lugar da pré-visualização que a regra acha, para ser revisto.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Mais</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Copia e cola regras, importa e exporta listas e oferece algumas prontas.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Copiar a regra</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Colar regras</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Importar uma lista…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Exportar a lista…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>O que a lista “%@” faz às suas regras:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Efeito</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Adicionada</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Alterada</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Fica</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Isto não é uma lista de regras legível.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Não foi possível gravar a lista.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>Não há regras na área de transferência.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Eliminado.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Traz de volta o que foi eliminado.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Введите имя нового профиля и нажмите OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Удалить этот профиль?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Профиль: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Да</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Нет</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Текст замены</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Применяется ли правило.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Найти</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Что ищет правило: текст или, если так указано в виде, шаблон.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Текст ищется как есть; шаблон — это регулярное выражение.
+Без проверки: если остаются только совпадения, текст без них становится пустым.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Найдено</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Сколько раз правило что-то находит в тексте предпросмотра.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Шаблон: заменить</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Шаблон: оставить совпадения</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Шаблон: заменить, без проверки</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Шаблон: оставить совпадения, без проверки</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Шаблон не имеет смысла на символе %@ и поэтому ничего не находит.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Ничего не находит в тексте предпросмотра.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Найдено в тексте предпросмотра: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Пример %@ не выполняется. Правило делает из него: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Примеры выбранного правила</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Что правило должно сделать с текстом. Все проверяются при каждом изменении.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Выполняется</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Не выполняется</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Добавить пример</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Берёт первое место предпросмотра, которое находит правило, для проверки.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Ещё</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Копирует и вставляет правила, импортирует и экспортирует списки и предлагает готовые.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Копировать правило</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Вставить правила</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Импортировать список…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Экспортировать список…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Что список «%@» сделает с вашими правилами:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Действие</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Добавлено</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Изменено</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Остаётся</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Импортировать</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Это не список правил, который можно прочитать.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Не удалось записать список.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>В буфере обмена нет правил.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Удалено.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Возвращает удалённое.</translation>
     </message>
     <message>
         <source>Reverse</source>

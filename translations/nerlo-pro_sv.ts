@@ -95,23 +95,6 @@
         <translation>Ange namnet på den nya profilen och klicka på OK</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Vill du ta bort den här profilen?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Profil: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nej</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1111,6 +1094,171 @@ Efter: 1#2#</translation>
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Ersättningstext</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>På</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Om regeln tillämpas.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Sök</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Vad regeln letar efter: en text, eller ett mönster om dess typ säger det.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>En text hittas som den står; ett mönster är ett reguljärt uttryck.
+Oprövat: där bara träffar behålls blir en text utan träffar tom.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Träffar</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Hur ofta regeln hittar något i förhandsvisningens text.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Mönster: ersätt</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Mönster: behåll träffar</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Mönster: ersätt, oprövat</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Mönster: behåll träffar, oprövat</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Mönstret saknar mening vid tecken %@ och hittar därför inget.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Hittar inget i förhandsvisningens text.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Träffar i förhandsvisningens text: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Exempel %@ stämmer inte. Regeln gör detta av det: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Exempel för den valda regeln</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Vad regeln ska göra av en text. Alla prövas vid varje ändring.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Resultat</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Stämmer</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Stämmer inte</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Lägg till ett exempel</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Tar det första stället i förhandsvisningen som regeln hittar, för att ses över.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Mer</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Kopierar och klistrar in regler, importerar och exporterar listor och erbjuder färdiga.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Kopiera regeln</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Klistra in regler</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Importera en lista…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Exportera listan…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Vad listan ”%@” gör med dina regler:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Verkan</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Tillagd</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Ändrad</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Blir kvar</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Importera</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Det här är ingen lista med regler som går att läsa.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Listan kunde inte skrivas.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>Det finns inga regler på urklippet.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Borttaget.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Hämtar tillbaka det som togs bort.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>Введіть назву нового профілю й натисніть «Гаразд»</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>Вилучити цей профіль?</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>Профіль: %@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Так</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Ні</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>Гаразд</translation>
     </message>
@@ -1111,6 +1094,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>Текст заміни</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>Увімк.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>Чи застосовується правило.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>Знайти</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>Що шукає правило: текст або, якщо так каже його вид, шаблон.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>Текст шукається як є; шаблон — це регулярний вираз.
+Без перевірки: якщо лишаються тільки збіги, текст без них стає порожнім.</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>Знайдено</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>Скільки разів правило щось знаходить у тексті попереднього перегляду.</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>Шаблон: замінити</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>Шаблон: лишити збіги</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>Шаблон: замінити, без перевірки</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>Шаблон: лишити збіги, без перевірки</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>Шаблон не має сенсу на символі %@, тому нічого не знаходить.</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>Нічого не знаходить у тексті попереднього перегляду.</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>Знайдено в тексті попереднього перегляду: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>Приклад %@ не справджується. Правило робить із нього: %@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>Приклади вибраного правила</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>Що правило має зробити з текстом. Усі перевіряються за кожної зміни.</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>Справджується</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>Не справджується</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>Додати приклад</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>Бере перше місце попереднього перегляду, яке знаходить правило, для перевірки.</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>Ще</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>Копіює та вставляє правила, імпортує й експортує списки та пропонує готові.</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>Копіювати правило</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>Вставити правила</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>Імпортувати список…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>Експортувати список…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>Що список «%@» зробить із вашими правилами:</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>Дія</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>Додано</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>Змінено</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>Лишається</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>Імпортувати</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>Це не список правил, який можна прочитати.</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>Не вдалося записати список.</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>У буфері обміну немає правил.</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>Видалено.</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>Повертає видалене.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -95,23 +95,6 @@
         <translation>输入新配置的名称并单击“确定”</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>要移除此配置吗？</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>配置：%@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>否</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>确定</translation>
     </message>
@@ -1110,6 +1093,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>替换文本</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>是否应用此规则。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>规则要找的内容：文本，或按其类型为模式。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>文本按原样查找；模式是正则表达式。
+不检查：只保留匹配时，没有匹配的文本会变为空。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>找到</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>规则在预览文本中找到的次数。</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>模式：替换</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>模式：保留匹配</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>模式：替换（不检查）</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>模式：保留匹配（不检查）</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>模式在第 %@ 个字符处无效，因此找不到任何内容。</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>在预览文本中找不到任何内容。</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>在预览文本中找到：%@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>示例 %@ 不成立。规则的结果是：%@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>所选规则的示例</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>规则应把文本变成什么。每次更改都会全部测试。</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>成立</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>不成立</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>添加示例</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>取预览中规则找到的第一处，供您检查。</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>复制和粘贴规则，导入和导出列表，并提供现成的列表。</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>复制规则</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>粘贴规则</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>导入列表…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>导出列表…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>列表“%@”对您的规则的影响：</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>影响</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>不变</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>这不是可读取的规则列表。</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>无法写入列表。</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>剪贴板上没有规则。</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>已删除。</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>恢复已删除的内容。</translation>
     </message>
     <message>
         <source>Reverse</source>

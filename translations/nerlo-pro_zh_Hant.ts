@@ -95,23 +95,6 @@
         <translation>輸入新設定檔的名稱並按一下「確定」</translation>
     </message>
     <message>
-        <source>Do you want remove this profile?</source>
-        <translation>要移除此設定檔嗎？</translation>
-    </message>
-    <message>
-        <source>Profile: %@</source>
-        <extracomment>%@ is the profile&apos;s name.</extracomment>
-        <translation>設定檔：%@</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>否</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>確定</translation>
     </message>
@@ -1110,6 +1093,171 @@
     <message>
         <source>sFindReplacePlaceholderString</source>
         <translation>取代文字</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOn</source>
+        <translation>啟用</translation>
+    </message>
+    <message>
+        <source>sRuleColumnOnTip</source>
+        <translation>是否套用此規則。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFind</source>
+        <translation>尋找</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFindTip</source>
+        <translation>規則要找的內容：文字，或依其類型為模式。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKind</source>
+        <translation>類型</translation>
+    </message>
+    <message>
+        <source>sRuleColumnKindTip</source>
+        <translation>文字依原樣尋找；模式是規則運算式。
+不檢查：只保留相符內容時，沒有相符內容的文字會變成空白。</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFound</source>
+        <translation>找到</translation>
+    </message>
+    <message>
+        <source>sRuleColumnFoundTip</source>
+        <translation>規則在預覽文字中找到的次數。</translation>
+    </message>
+    <message>
+        <source>sRuleKindText</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplace</source>
+        <translation>模式：取代</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeep</source>
+        <translation>模式：保留相符內容</translation>
+    </message>
+    <message>
+        <source>sRuleKindReplaceUntested</source>
+        <translation>模式：取代（不檢查）</translation>
+    </message>
+    <message>
+        <source>sRuleKindKeepUntested</source>
+        <translation>模式：保留相符內容（不檢查）</translation>
+    </message>
+    <message>
+        <source>sRulePatternAt</source>
+        <translation>模式在第 %@ 個字元處無效，因此找不到任何內容。</translation>
+    </message>
+    <message>
+        <source>sRuleFindsNothing</source>
+        <translation>在預覽文字中找不到任何內容。</translation>
+    </message>
+    <message>
+        <source>sRuleFinds</source>
+        <translation>在預覽文字中找到：%@</translation>
+    </message>
+    <message>
+        <source>sRuleSampleBroken</source>
+        <translation>範例 %@ 不成立。規則的結果是：%@</translation>
+    </message>
+    <message>
+        <source>sRuleSamples</source>
+        <translation>所選規則的範例</translation>
+    </message>
+    <message>
+        <source>sRuleSamplesTip</source>
+        <translation>規則應把文字變成什麼。每次變更都會全部測試。</translation>
+    </message>
+    <message>
+        <source>sRuleSampleResult</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>sRuleSampleHolds</source>
+        <translation>成立</translation>
+    </message>
+    <message>
+        <source>sRuleSampleFails</source>
+        <translation>不成立</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAdd</source>
+        <translation>加入範例</translation>
+    </message>
+    <message>
+        <source>sRuleSampleAddTip</source>
+        <translation>取預覽中規則找到的第一處，供您檢查。</translation>
+    </message>
+    <message>
+        <source>sRuleLists</source>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>sRuleListsTip</source>
+        <translation>複製和貼上規則，匯入和匯出清單，並提供現成的清單。</translation>
+    </message>
+    <message>
+        <source>sRuleCopy</source>
+        <translation>複製規則</translation>
+    </message>
+    <message>
+        <source>sRulePaste</source>
+        <translation>貼上規則</translation>
+    </message>
+    <message>
+        <source>sRulesImport</source>
+        <translation>匯入清單…</translation>
+    </message>
+    <message>
+        <source>sRulesExport</source>
+        <translation>匯出清單…</translation>
+    </message>
+    <message>
+        <source>sRulesImportTitle</source>
+        <translation>清單「%@」對您的規則的影響：</translation>
+    </message>
+    <message>
+        <source>sRuleEffect</source>
+        <translation>影響</translation>
+    </message>
+    <message>
+        <source>sRuleAdded</source>
+        <translation>加入</translation>
+    </message>
+    <message>
+        <source>sRuleChanged</source>
+        <translation>變更</translation>
+    </message>
+    <message>
+        <source>sRuleStays</source>
+        <translation>不變</translation>
+    </message>
+    <message>
+        <source>sRulesImportDo</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>sRulesUnreadable</source>
+        <translation>這不是可讀取的規則清單。</translation>
+    </message>
+    <message>
+        <source>sRulesNotWritten</source>
+        <translation>無法寫入清單。</translation>
+    </message>
+    <message>
+        <source>sRulePasteNothing</source>
+        <translation>剪貼簿上沒有規則。</translation>
+    </message>
+    <message>
+        <source>sDeleted</source>
+        <translation>已刪除。</translation>
+    </message>
+    <message>
+        <source>sDeletedTip</source>
+        <translation>復原已刪除的內容。</translation>
     </message>
     <message>
         <source>Reverse</source>

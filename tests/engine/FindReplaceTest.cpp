@@ -20,6 +20,34 @@ std::u16string apply(PropertyArray rules, const std::u16string &text) {
     return replaceStringInFindReplace(text, options);
 }
 
+TEST(FindReplace, ARulesKindIsToldByTheBeginningOfItsReplacement) {
+    const struct {
+        std::u16string_view stored;
+        RuleKind kind;
+        std::u16string_view argument;
+    } rows[] = {
+        {u"x", RuleKind::text, u"x"},
+        {u"x{delete}", RuleKind::text, u"x{delete}"},
+        {u"!x", RuleKind::text, u"!x"},
+        {u"!!{delete}", RuleKind::text, u"!!{delete}"},
+        {u"{delete}", RuleKind::replaceMatches, u""},
+        {u"{delete}{search}$1", RuleKind::replaceMatches, u"{search}$1"},
+        {u"{search}, ", RuleKind::keepMatches, u", "},
+        {u"!{search}", RuleKind::keepMatchesUntested, u""},
+        {u"!{delete}!", RuleKind::replaceMatchesUntested, u"!"},
+    };
+    for (const auto &row : rows) {
+        const RuleReplacement read = readReplacement(row.stored);
+        EXPECT_EQ(read, (RuleReplacement{row.kind, std::u16string(row.argument)}));
+        EXPECT_EQ(writeReplacement(read), row.stored);
+    }
+    EXPECT_EQ(ruleTrouble(u"a(b", u"x"), std::nullopt);
+    EXPECT_EQ(ruleTrouble(u"", u"{delete}"), std::nullopt);
+    EXPECT_EQ(ruleTrouble(u"ab)c", u"{delete}"), (text::PatternPlace{1, 3}));
+    EXPECT_EQ(ruleGroups(u"(a)(?:b)(?<n>c)", u"{delete}"), 2U);
+    EXPECT_EQ(ruleGroups(u"(a)", u"{delete"), 0U);
+}
+
 TEST(FindReplace, AppliesARule) {
     struct Case {
         const char *shows;

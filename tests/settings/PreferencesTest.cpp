@@ -211,10 +211,6 @@ TEST_F(Profiles, AddSelectAndRemove) {
     EXPECT_EQ(store.integerForKey("udStatisticsDelaySwitcher"), 1);
     EXPECT_EQ(store.integerForKey("udStatisticsDefaultPosition"), 5);
 
-    preferences.hooks().confirmRemoval = [](const std::u16string &) { return false; };
-    preferences.profilesRemove();
-    EXPECT_EQ(names().size(), 2u);
-    preferences.hooks().confirmRemoval = {};
     preferences.profilesRemove();
     preferences.profilesRemove();
     EXPECT_EQ(profilesIn(paths), PropertyArray());
@@ -226,6 +222,75 @@ TEST_F(Profiles, AddSelectAndRemove) {
     EXPECT_EQ(valueIn(again[0], "profileName"), PropertyValue(u"profile 1"));
     EXPECT_EQ(valueIn(again[0], "udSort"), PropertyValue(1));
     EXPECT_EQ(again[0].as<PropertyDictionary>()->size(), profileKeys().size() - 1);
+}
+
+TEST_F(Profiles, WhatWasDoneIsTakenBackAndDoneAgain) {
+    start();
+    const auto shown = [&] {
+        return std::tuple(names(), preferences.selectedItem(), preferences.onlyOneProfile(),
+                          preferences.state("udSort"), preferences.state("udPrefixTextField"),
+                          preferences.findReplaceList().items());
+    };
+    const RuleList list{u"", {{true, u"x", u"y", {{u"x", u"y"}}}, {true, u"z", u"", {}}}};
+    const std::function<void()> gestures[] = {
+        [&] { preferences.checkBoxChanged("udSort", true); },
+        [&] {
+            preferences.controlTextDidChange("udPrefixTextField", u"a");
+            preferences.controlTextDidChange("udPrefixTextField", u"ab");
+        },
+        [&] { preferences.addNewFindReplace(); },
+        [&] {
+            preferences.saveCurrentFindReplace(u"x");
+            preferences.saveCurrentFindReplace(u"xy");
+        },
+        [&] {
+            preferences.setRuleSamples(0, {{u"xy", u""}});
+        },
+        [&] { preferences.importRules(list); },
+        [&] { preferences.acceptDrop({0}, 2); },
+        [&] {
+            preferences.selectedRow(0);
+            preferences.pasteRules(list);
+        },
+        [&] { preferences.deleteFindReplace(); },
+        [&] { preferences.profilesAddingCloseWindow(u"B"); },
+        [&] { preferences.onlyOneProfileChanged(true); },
+        [&] { preferences.pasteRules(list); },
+        [&] { preferences.profilesRemove(); },
+    };
+    std::vector<decltype(shown())> states{shown()};
+    for (const auto &gesture : gestures) {
+        gesture();
+        states.push_back(shown());
+        ASSERT_FALSE(states.back() == states[states.size() - 2]) << states.size();
+        queue.advance(5s); // saved, which ends what is typed
+    }
+    for (int round = 0; round < 2; ++round) {
+        for (auto at = states.size() - 1; at-- > 0;) {
+            preferences.undo();
+            ASSERT_EQ(shown() == states[at], true) << at;
+            queue.advance(round * 5s);
+        }
+        EXPECT_FALSE(preferences.canUndo());
+        for (std::size_t at = 1; at < states.size(); ++at) {
+            preferences.redo();
+            ASSERT_EQ(shown() == states[at], true) << at;
+        }
+        EXPECT_FALSE(preferences.canRedo());
+    }
+    // What others have done meanwhile stays, and what is typed and taken back was nothing.
+    preferences.checkBoxChanged("udAddSuffix", true);
+    queue.advance(5s);
+    elsewhere([](ProfilesFile &, ProfileItems &items) { items[0].record.set("udAddPrefix", 1); });
+    preferences.profilesFileChanged();
+    preferences.undo();
+    EXPECT_EQ(preferences.state("udAddSuffix"), PropertyValue(0));
+    EXPECT_EQ(preferences.state("udAddPrefix"), PropertyValue(1));
+    preferences.controlTextDidChange("udPrefixTextField", u"c");
+    preferences.controlTextDidChange("udPrefixTextField", u"ab");
+    EXPECT_FALSE(preferences.canRedo());
+    preferences.undo();
+    EXPECT_EQ(names().size(), 2U) << "the removal of a profile was the last gesture";
 }
 
 TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
@@ -272,15 +337,9 @@ TEST_F(Profiles, TheOneThatWasMeantIsSelectedAndRemovedWhateverOthersRemoveMeanw
     preferences.selectedPlaceChanged();
     EXPECT_EQ(preferences.profileName(), u"D");
 
-    preferences.hooks().confirmRemoval = [&](const std::u16string &) {
-        othersRemoveTheFirst();
-        preferences.profilesFileChanged();
-        return true;
-    };
-    preferences.profilesRemove();
+    othersRemoveTheFirst();
+    EXPECT_TRUE(preferences.profilesRemove()); // nobody has told of the other process yet
     EXPECT_EQ(names(), (std::vector<std::u16string>{u"E"}));
-    preferences.profilesRemove(); // the other process was faster
-    EXPECT_EQ(profilesIn(paths), PropertyArray());
 }
 
 TEST_F(Profiles, AFailedWriteIsReportedAndTriedAgainAtTheEnd) {

@@ -27,7 +27,6 @@ using test::MemoryMainQueue;
 inline SettingsPaths pathsIn(const TemporaryFolder &folder) {
     return {folder / "config/nerlo-pro/defaults.plist", folder / "data/nerlo-pro/Data/profiles.nrp",
             folder / "data/nerlo-pro/Data/profilesFR.nrp",
-            folder / "data/nerlo-pro/Data/ruleSamples.nrp",
             folder / "data/nerlo-pro/Data/removedProfiles.nrp"};
 }
 

@@ -1,5 +1,6 @@
 #include "settings/RuleList.h"
-#include "tests/TemporaryFolder.h"
+#include "settings/FindReplaceList.h"
+#include "settings/RuleTrials.h"
 #include "tests/reference/RandomText.h"
 
 #include <gtest/gtest.h>
@@ -150,26 +151,52 @@ TEST(AnImport, AddsAndChangesAndLeaves) {
     EXPECT_EQ(storedRules(RuleList{u"", {list.rules[2]}})[0], result[4]);
 }
 
-TEST(Samples, StandBesideTheRulesInAFileOfTheirOwn) {
-    const test::TemporaryFolder folder;
-    TravelRule rule{true, u"a", u"b", {{u"xa", u"xb"}, {u"", u""}}};
-    {
-        RuleSamplesFile file(folder / "samples.nrp");
-        RecordItems items = file.load();
-        file.setSamples(items, rule);
-        file.setSamples(items, {true, u"a", u"c", {{u"a", u"c"}}});
-        ASSERT_EQ(file.save(items), "");
+// Other editions read and keep what they do not know in a rule, and a rule without samples has no
+// more in it than theirs.
+TEST(Samples, StandInTheirRule) {
+    const PropertyArray mine{stored(u"a", u"1"), stored(u"b", u"2")};
+    const RuleList list{u"",
+                        {{true, u"a", u"1", {{u"xa", u"x1"}}}, {true, u"c", u"3", {{u"c", u"3"}}}}};
+    EXPECT_EQ(planImport(list, mine)[0], (ImportedRule{ImportedRule::Effect::changed, 0}));
+    const PropertyArray result = imported(list, mine);
+    EXPECT_EQ(result[1], mine[1]);
+    EXPECT_EQ(travelRules(result).rules[0].samples, list.rules[0].samples);
+    EXPECT_EQ(travelRules(result).rules[2], list.rules[1]);
+    EXPECT_EQ(imported(list, result), result);
+
+    FindReplaceList edited([](std::u16string_view key) { return std::u16string(key); });
+    edited.setItems(result);
+    edited.setSamples(0, {});
+    EXPECT_EQ(edited.items()[0], mine[0]);
+}
+
+// A rule is tried on what the steps and the rules before it leave, and so are rules that are off.
+TEST(RulesOnTrial, FindWhatTheyWouldFindInAClean) {
+    engine::CleaningOptions options;
+    options.udRemoveAllTabs = true;
+    options.udFindAndReplaceItemsProfile.emplace(
+        storedRules({u"",
+                     {{true, u"\t", u"x", {}},
+                      {true, u"a", u"bb", {{u"a", u"bb"}, {u"a", u"a"}}},
+                      {false, u"(b)(b)", u"{delete}$2-$1", {}},
+                      {true, u"b", u"c", {}},
+                      {true, u"(", u"{delete}", {}},
+                      {true, u"(x+x+)+y", u"{delete}", {}}}}));
+    std::u16string text(60, u'x');
+    text += u"\na\t b\n";
+    const auto trials = tryRules(text, {options, "en_US"});
+    ASSERT_EQ(trials.size(), 6U);
+    const std::optional<std::size_t> counts[] = {0, 1, 1, 3, {}, {}};
+    for (std::size_t at = 0; at < trials.size(); ++at) {
+        EXPECT_EQ(trials[at].finds.matches, counts[at]) << at;
     }
-    RuleSamplesFile file(folder / "samples.nrp");
-    RecordItems items = file.load();
-    EXPECT_EQ(samplesOf(items, u"a", u"b"), rule.samples);
-    EXPECT_EQ(samplesOf(items, u"a", u"x"), std::vector<RuleSample>());
-    rule.samples.pop_back();
-    file.setSamples(items, rule);
-    EXPECT_EQ(samplesOf(items, u"a", u"b"), rule.samples);
-    rule.samples.clear();
-    file.setSamples(items, rule);
-    EXPECT_EQ(items.size(), 1U);
+    EXPECT_EQ(trials[1].finds.example, u"a b");
+    EXPECT_EQ(trials[1].exampleAfter, u"bb b");
+    EXPECT_EQ(trials[2].exampleAfter, u"b-b b");
+    EXPECT_TRUE(trials[1].samples[0].holds);
+    EXPECT_FALSE(trials[1].samples[1].holds);
+    EXPECT_FALSE(trials[4].finds.givenUp);
+    EXPECT_TRUE(trials[5].finds.givenUp);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "shell/FindReplaceTable.h"
 #include "shell/KeySequences.h"
 #include "shell/Mnemonics.h"
+#include "shell/RuleModel.h"
 #include "shell/StatusMenu.h"
 #include "shell/Strings.h"
 #include "shell/TipsWindow.h"
@@ -16,11 +17,14 @@
 #include <QAccessible>
 #include <QAction>
 #include <QClipboard>
+#include <QCompleter>
+#include <QHeaderView>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -45,7 +49,7 @@ class Preferences : public ProgramFixture {
         hooks.controlsLoaded = [this] { window->controlsLoaded(); };
         hooks.edited = [this] { window->edited(); };
         hooks.updateUI = [this](settings::RulesUpdate update) { window->updateUI(update); };
-        hooks.confirmRemoval = [this](const auto &name) { return window->confirmRemoval(name); };
+        hooks.historyChanged = [this] { window->historyChanged(); };
         window->show();
     }
     template <class Widget>
@@ -114,21 +118,14 @@ TEST_F(Preferences, ProfilesAreAddedSwitchedAndRemoved) {
     EXPECT_EQ(popup.currentIndex(), 0);
     EXPECT_TRUE(control<QCheckBox>("udRemoveBullets").isChecked());
     preferences.profilesSelect(1);
-    Alert asked;
-    int answer = 1;
-    setAlertAnswers({[&](const Alert &alert) {
-                         asked = alert;
-                         return answer;
-                     },
-                     {}});
-    control<QPushButton>("removeProfile").click();
-    EXPECT_EQ(popup.count(), 2);
-    EXPECT_EQ(asked.informative, "Profile: Mail & more");
-    EXPECT_EQ(asked.buttons, (QStringList{"Yes", "No"}));
-    EXPECT_EQ(asked.buttons[asked.focused], "No");
-    answer = 0;
+    auto &deleted = control<QWidget>("deleted");
+    EXPECT_FALSE(deleted.isVisible());
     control<QPushButton>("removeProfile").click();
     EXPECT_EQ(popup.count(), 1);
+    EXPECT_TRUE(deleted.isVisible());
+    control<QPushButton>("undoDeletion").click();
+    EXPECT_EQ(popup.currentText(), "Mail & more");
+    control<QPushButton>("removeProfile").click();
     const auto original = preferences.profileSelected();
     for (beginning = 1; beginning <= 2; ++beginning) {
         add("another");
@@ -209,84 +206,251 @@ TEST_F(Preferences, TheTabKeyGoesFromThePagesToTheOptionsToThePreview) {
     EXPECT_TRUE(stops.contains("udRemoveAllTabs"));
 }
 
-TEST_F(Preferences, RulesAreAddedEditedMovedAndDeletedByKeyboard) {
-    showPage(6);
-    auto &list = control<RuleList>("findTableView");
-    const auto finds = [&] {
+class Rules : public Preferences {
+  protected:
+    void SetUp() override {
+        Preferences::SetUp();
+        showPage(rulesPage);
+        table().setFocus();
+        while (rows() > 0) {
+            preferences.selectedRow(0);
+            preferences.deleteFindReplace();
+        }
+    }
+    static constexpr int rulesPage = 7;
+    RuleTable &table() { return control<RuleTable>("findTableView"); }
+    QAbstractItemModel &model() { return *table().model(); }
+    int rows() { return model().rowCount(); }
+    QModelIndex cell(int row, int column) { return model().index(row, column); }
+    QString shown(int row, int column) { return cell(row, column).data().toString(); }
+    std::u16string stored(int row, const char *key) {
+        return settings::FindReplaceList::textOf(
+            preferences.findReplaceList().items().at(static_cast<std::size_t>(row)), key);
+    }
+    // The editor that is open.
+    template <class Editor>
+    Editor &editor() {
+        const auto editors = table().viewport()->findChildren<Editor *>();
+        EXPECT_FALSE(editors.isEmpty());
+        return *editors.last();
+    }
+    // Ends what is edited, once the key has been dealt with.
+    void press(Qt::Key key, QWidget &in) {
+        QTest::keyClick(&in, key);
+        QCoreApplication::processEvents();
+    }
+    QString finds() {
         QString all;
-        for (int row = 0; row < list.count(); ++row) {
-            all += list.item(row)->text();
+        for (int row = 0; row < rows(); ++row) {
+            all += shown(row, RuleModel::find);
         }
         return all;
-    };
-    while (list.count() > 0) {
-        list.setCurrentRow(0);
-        QTest::keyClick(&list, Qt::Key_Delete);
     }
-    auto &field = control<QLineEdit>("replaceTextField");
-    EXPECT_FALSE(field.isEnabled());
+    void add(const std::vector<settings::TravelRule> &rules) {
+        preferences.pasteRules({u"", rules});
+    }
+    bool told(int row) { return !cell(row, RuleModel::found).data(Qt::DecorationRole).isNull(); }
+    QString state() { return control<QLabel>("ruleState").text(); }
+};
+
+TEST_F(Rules, AreAddedEditedMovedAndDeletedByKeyboard) {
     for (const char *find : {"a", "b", "c"}) {
         control<QPushButton>("addRule").click();
-        list.item(list.count() - 1)->setText(find);
+        editor<QLineEdit>().selectAll();
+        QTest::keyClicks(&editor<QLineEdit>(), find);
+        press(Qt::Key_Return, editor<QLineEdit>());
     }
-    EXPECT_TRUE(field.isEnabled());
-    QTest::keyClicks(&field, "new");
-    EXPECT_EQ(
-        settings::FindReplaceList::textOf(preferences.findReplaceList().items()[2], "replace"),
-        u"new");
-    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
+    table().setCurrentIndex(cell(2, RuleModel::replace));
+    QTest::keyClicks(&table(), "n");
+    QTest::keyClicks(&editor<QLineEdit>(), "ew");
+    EXPECT_EQ(stored(2, "replace"), u"new");
+    press(Qt::Key_Return, editor<QLineEdit>());
+    QTest::keyClick(&table(), Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(finds(), "acb");
-    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
-    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier); // at the top already
+    QTest::keyClick(&table(), Qt::Key_Up, Qt::AltModifier);
+    QTest::keyClick(&table(), Qt::Key_Up, Qt::AltModifier); // at the top already
     EXPECT_EQ(finds(), "cab");
-    QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(&table(), Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(finds(), "acb");
-    EXPECT_EQ(field.text(), "new");
+    EXPECT_EQ(stored(1, "replace"), u"new");
     // What is typed into a row counts at once, and Escape takes it back.
-    const auto stored = [&](int row) {
-        return settings::FindReplaceList::textOf(
-            preferences.findReplaceList().items()[static_cast<std::size_t>(row)], "find");
-    };
-    list.editItem(list.item(2));
-    QLineEdit *editor = list.viewport()->findChildren<QLineEdit *>().last();
-    QTest::keyClick(editor, Qt::Key_Home);
-    QTest::keyClicks(editor, "xy");
-    EXPECT_EQ(stored(2), u"xyb");
-    QTest::keyClick(editor, Qt::Key_Escape);
-    EXPECT_EQ(stored(2), u"b");
-    list.setCurrentRow(1);
-    // Of a pattern that is none the row tells, as long as it is to be one.
-    const auto told = [&] { return !list.item(1)->icon().isNull(); };
-    list.item(1)->setText("(c");
-    EXPECT_FALSE(told());
-    field.clear();
-    QTest::keyClicks(&field, "!{delete}");
-    EXPECT_TRUE(told());
-    EXPECT_TRUE(list.item(1)->data(Qt::AccessibleDescriptionRole).toString().endsWith("{delete}"));
-    preferences.hooks().updateUI(settings::RulesUpdate::changed);
-    EXPECT_TRUE(told());
-    list.item(1)->setText("c");
-    EXPECT_FALSE(told());
-    // So does a rule that the last clean left out, until it is changed.
-    using engine::PatternFailure;
-    window->setReport({{2, PatternFailure::Why::GivenUp, {}}});
-    EXPECT_TRUE(told());
-    EXPECT_TRUE(list.item(0)->icon().isNull());
-    list.item(1)->setText("cc");
-    EXPECT_FALSE(told());
-    list.item(1)->setText("c");
-    window->setReport({});
-    EXPECT_FALSE(told());
-    list.item(0)->setCheckState(Qt::Unchecked);
+    table().edit(cell(2, RuleModel::find));
+    QTest::keyClick(&editor<QLineEdit>(), Qt::Key_Home);
+    QTest::keyClicks(&editor<QLineEdit>(), "xy");
+    EXPECT_EQ(stored(2, "find"), u"xyb");
+    press(Qt::Key_Escape, editor<QLineEdit>());
+    EXPECT_EQ(stored(2, "find"), u"b");
+    table().setCurrentIndex(cell(0, RuleModel::on));
+    QTest::keyClick(&table(), Qt::Key_Space);
     EXPECT_FALSE(settings::FindReplaceList::isOn(preferences.findReplaceList().items()[0]));
-    emit list.dropped(0, 3);
+    emit table().dropped(0, 3);
     EXPECT_EQ(finds(), "cba");
     // The new order is saved without any other edit.
     queue.advance(1s);
     EXPECT_NE(preferences.profileSelected().find("sFindAndReplaceItemsProfile"), nullptr);
-    list.setCurrentRow(1);
-    QTest::keyClick(&list, Qt::Key_Delete);
+    table().setCurrentIndex(cell(1, RuleModel::find));
+    QTest::keyClick(&table(), Qt::Key_Delete);
     EXPECT_EQ(finds(), "ca");
+    // What was deleted is offered back, as long as nothing else is done.
+    auto &deleted = control<QWidget>("deleted");
+    EXPECT_TRUE(deleted.isVisible());
+    control<QPushButton>("undoDeletion").click();
+    EXPECT_FALSE(deleted.isVisible());
+    EXPECT_EQ(finds(), "cba");
+    for (const QModelIndex &index : {cell(0, RuleModel::on), cell(0, RuleModel::replace)}) {
+        EXPECT_NE(index.data(Qt::AccessibleTextRole).toString(), "");
+    }
+    // The next one is selected, down to the last.
+    for (int left = rows(); left > 0; --left) {
+        EXPECT_EQ(rows(), left);
+        QTest::keyClick(&table(), Qt::Key_Delete);
+    }
+    EXPECT_EQ(rows(), 0);
+}
+
+TEST_F(Rules, KindsStandForTheTokensOfTheStoredText) {
+    add({{true, u"a", u"{search}, ", {}}, {true, u"(b)", u"x{delete}", {}}});
+    EXPECT_EQ(shown(0, RuleModel::kind), localized("sRuleKindKeep"));
+    EXPECT_EQ(shown(0, RuleModel::replace), ", ");
+    EXPECT_EQ(shown(1, RuleModel::kind), localized("sRuleKindText"));
+    EXPECT_EQ(shown(1, RuleModel::replace), "x{delete}");
+    table().edit(cell(1, RuleModel::kind));
+    QTest::keyClick(&editor<QComboBox>(), Qt::Key_Down);
+    EXPECT_EQ(stored(1, "replace"), u"{delete}x{delete}");
+    press(Qt::Key_Escape, editor<QComboBox>());
+    EXPECT_EQ(stored(1, "replace"), u"x{delete}");
+    // A token that is typed becomes the kind.
+    table().edit(cell(1, RuleModel::replace));
+    editor<QLineEdit>().selectAll();
+    QTest::keyClicks(&editor<QLineEdit>(), "{delete}");
+    EXPECT_EQ(shown(1, RuleModel::kind), localized("sRuleKindReplace"));
+    EXPECT_EQ(editor<QLineEdit>().text(), "");
+    press(Qt::Key_Return, editor<QLineEdit>());
+    // The groups of the pattern are offered.
+    table().edit(cell(1, RuleModel::replace));
+    QTest::keyClicks(&editor<QLineEdit>(), "<$");
+    QCompleter &groups = *editor<QLineEdit>().findChild<QCompleter *>();
+    EXPECT_EQ(groups.completionCount(), 2);
+    QTest::keyClick(groups.popup(), Qt::Key_Down);
+    QTest::keyClick(groups.popup(), Qt::Key_Return);
+    EXPECT_EQ(stored(1, "replace"), u"{delete}<$1");
+}
+
+TEST_F(Rules, SayWhatIsWrongWithThem) {
+    add({{true, u"x", u"", {}}, {true, u"ab(c", u"y", {}}});
+    EXPECT_FALSE(told(1));
+    preferences.selectedRow(1);
+    model().setData(cell(1, RuleModel::kind), int(engine::RuleKind::replaceMatches));
+    EXPECT_TRUE(told(1));
+    table().setCurrentIndex(cell(1, RuleModel::find));
+    EXPECT_EQ(state(), filled(localized("sRulePatternAt"), {"4"}));
+    model().setData(cell(1, RuleModel::find), "c");
+    EXPECT_FALSE(told(1));
+    // So does a rule that the last clean left out, until it is changed.
+    window->setReport({{2, engine::PatternFailure::Why::GivenUp, {}}});
+    EXPECT_TRUE(told(1));
+    EXPECT_FALSE(told(0));
+    EXPECT_EQ(state(), localized("sRuleLeftOut"));
+    model().setData(cell(1, RuleModel::find), "cc");
+    EXPECT_FALSE(told(1));
+    window->setReport({});
+    // What the preview finds is told beside each rule.
+    previewed("x cc x");
+    EXPECT_EQ(shown(0, RuleModel::found), "2");
+    EXPECT_EQ(shown(1, RuleModel::found), "1");
+    EXPECT_EQ(state(), filled(localized("sRuleFinds"), {"1"}));
+    model().setData(cell(1, RuleModel::find), "z");
+    EXPECT_EQ(shown(1, RuleModel::found), "") << "it is no longer what was tried";
+    previewed("x cc x");
+    EXPECT_EQ(state(), localized("sRuleFindsNothing"));
+}
+
+TEST_F(Rules, KeepSamplesThatAreTriedAtEachEdit) {
+    add({{true, u"(\\d+) EUR", u"{delete}$1 €", {}}});
+    previewed(u"5 EUR\n7 EUR"_qs);
+    auto &samples = control<QTableWidget>("ruleSamples");
+    control<QPushButton>("addSample").click(); // from the preview
+    ASSERT_EQ(samples.rowCount(), 2);
+    EXPECT_EQ(samples.item(0, 1)->text(), u"5 €"_qs);
+    EXPECT_EQ(settings::samplesOf(preferences.findReplaceList().items()[0]),
+              (std::vector<settings::RuleSample>{{u"5 EUR", u"5 €"}}));
+    samples.item(1, 0)->setText("x");
+    samples.item(1, 1)->setText("y");
+    ASSERT_EQ(samples.rowCount(), 3) << "one more to be filled in";
+    const auto broken = [&](int row) { return samples.item(row, 0)->background() != QBrush(); };
+    previewed("5 EUR");
+    EXPECT_FALSE(broken(0));
+    EXPECT_TRUE(broken(1));
+    EXPECT_TRUE(told(0));
+    EXPECT_EQ(state(), filled(localized("sRuleSampleBroken"), {"2", "x"}));
+    samples.setCurrentCell(1, 0);
+    QTest::keyClick(&samples, Qt::Key_Delete);
+    model().setData(cell(0, RuleModel::replace), "$1 euro");
+    previewed("5 EUR");
+    EXPECT_TRUE(broken(0));
+    preferences.undo();
+    previewed("5 EUR");
+    EXPECT_FALSE(told(0));
+    EXPECT_EQ(samples.rowCount(), 2);
+}
+
+TEST_F(Rules, TravelByFileAndByClipboard) {
+    add({{true, u"a", u"1", {{u"a", u"1"}}}, {true, u"b", u"2", {}}});
+    table().setCurrentIndex(cell(0, RuleModel::find));
+    table().copy();
+    finishWork();
+    EXPECT_TRUE(QString::fromStdString(pasteboard.bytes("text/plain")).startsWith("nerlo-rules 1"));
+    table().setCurrentIndex(cell(1, RuleModel::find));
+    table().paste();
+    finishWork();
+    EXPECT_EQ(finds(), "aba");
+    EXPECT_EQ(settings::samplesOf(preferences.findReplaceList().items()[2]).size(), 1U);
+    pasteboard.copyText("no rules");
+    table().paste();
+    finishWork();
+    EXPECT_EQ(state(), localized("sRulePasteNothing"));
+    EXPECT_EQ(rows(), 3);
+
+    // A list that comes along is shown before it is taken.
+    QAction *starter =
+        window->findChild<QMenu *>("ruleListsMenu")->findChild<QAction *>("starterList");
+    for (const bool wanted : {false, true}) {
+        QTimer::singleShot(0, window.get(), [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->findChild<QTableWidget *>("importPlan")->item(0, 0)->text(),
+                      localized("sRuleAdded"));
+            wanted ? dialog->accept() : dialog->reject();
+        });
+        starter->trigger();
+        EXPECT_EQ(rows() > 3, wanted);
+    }
+    preferences.undo();
+    EXPECT_EQ(finds(), "aba");
+}
+
+TEST_F(Rules, TheMenuUndoesWhereTheKeyboardIs) {
+    StatusMenu menu(program);
+    menu.fillMenuBar(*window->menuBar());
+    const auto edit = window->menuBar()->actions()[2]->menu()->actions();
+    QAction &undo = *edit[0];
+    QAction &redo = *edit[1];
+    QApplication::setActiveWindow(window.get());
+    add({{true, u"a", u"", {}}});
+    table().setFocus();
+    undo.trigger();
+    EXPECT_EQ(rows(), 0);
+    redo.trigger();
+    EXPECT_EQ(rows(), 1);
+    // A field takes back what was typed into it, and then what was done elsewhere.
+    auto &search = control<QLineEdit>("search");
+    search.setFocus();
+    QTest::keyClicks(&search, "list");
+    undo.trigger();
+    EXPECT_EQ(search.text(), "");
+    EXPECT_EQ(rows(), 1);
+    undo.trigger();
+    EXPECT_EQ(rows(), 0);
 }
 
 TEST_F(Preferences, APatternThatIsNoneIsToldWhereItIsTyped) {

@@ -52,13 +52,12 @@ class ProgramFixture : public testing::Test {
     Desktop desktop = makeDesktop();
     test::MemoryPasteboard &pasteboard =
         static_cast<test::MemoryPasteboard &>(*desktop.clipboard.backend);
-    Program program{
-        {queue,
-         worker,
-         desktop,
-         {folder / "defaults.plist", folder / "Data/profiles.nrp", folder / "Data/profilesFR.nrp",
-          folder / "Data/ruleSamples.nrp", folder / "Data/removedProfiles.nrp"},
-         {}}};
+    Program program{{queue,
+                     worker,
+                     desktop,
+                     {folder / "defaults.plist", folder / "Data/profiles.nrp",
+                      folder / "Data/profilesFR.nrp", folder / "Data/removedProfiles.nrp"},
+                     {}}};
     settings::nrPreferences &preferences = program.preferences();
     storage::SettingsStore &store = program.store();
 };

@@ -12,11 +12,11 @@ class ShellFixture : public test::ClipboardFixture {
   protected:
     test::TemporaryFolder folder;
     test::MemorySettingsStore store;
-    settings::nrPreferences preferences{
-        store,
-        queue,
-        {folder / "defaults.plist", folder / "Data/profiles.nrp", folder / "Data/profilesFR.nrp",
-         folder / "Data/ruleSamples.nrp", folder / "Data/removedProfiles.nrp"}};
+    settings::nrPreferences preferences{store,
+                                        queue,
+                                        {folder / "defaults.plist", folder / "Data/profiles.nrp",
+                                         folder / "Data/profilesFR.nrp",
+                                         folder / "Data/removedProfiles.nrp"}};
 };
 
 } // namespace nerlo::shell
