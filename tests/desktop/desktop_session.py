@@ -343,7 +343,7 @@ def desktop():
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 REGISTRY = "org.a11y.atspi.Registry"
-CHECK_BOX, LIST_ITEM, BUTTON, SPIN_BUTTON, TEXT = 7, 32, 43, 52, 61
+CHECK_BOX, LIST_ITEM, BUTTON, SPIN_BUTTON, TABLE_CELL, TEXT = 7, 32, 43, 52, 56, 61
 CHECKED, SHOWING = 4, 25
 
 
@@ -407,6 +407,14 @@ class Eyes:
     def shows(self, role, name):
         return next((node for node in self.shown()
                      if self.role(node) == role and self.attribute(node, "Name") == name), None)
+
+    def key(self, name):
+        """The keys that press what has this name: "alt+k"."""
+        def bound():
+            keys = (self.call(node, "org.a11y.atspi.Action", "GetKeyBinding", 0)
+                    for node in self.shown() if self.attribute(node, "Name") == name)
+            return next((str(key).lower() for key in keys if key), None)
+        return wait_until(bound, "keys for " + name)
 
     def text(self, node):
         return str(self.call(node, "org.a11y.atspi.Text", "GetText", 0, -1))

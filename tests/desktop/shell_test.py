@@ -15,8 +15,8 @@ import unittest
 import dbus
 import dbus.service
 
-from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TEXT, WAYLAND, Eyes,
-                             Program, ask, desktop, output_of, wait_until)
+from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TABLE_CELL, TEXT, WAYLAND,
+                             Eyes, Program, ask, desktop, output_of, wait_until)
 
 PROGRAM = os.environ["NERLO_PRO"]
 SESSION = os.environ["NERLO_SESSION_DIR"]
@@ -185,16 +185,16 @@ class ShellTest(unittest.TestCase):
 
     def add_rule(self, find, replace):
         self.click(BUTTON, "Add a rule")
-        self.eyes.find(LIST_ITEM, "New rule")
-        self.press_until(["ctrl+a", *find, "Return"], lambda: self.eyes.shows(LIST_ITEM, find),
+        self.eyes.find(TABLE_CELL, "New rule")
+        self.press_until(["ctrl+a", *find], lambda: self.eyes.shows(TABLE_CELL, find),
                          "the rule has its text")
-        self.write("Replace with", replace)
+        self.desktop.keys("Tab", "Tab", *replace, "Return")
         wait_until(lambda: self.rules()[-1:] == [(find, replace)], "the rule is saved")
 
     def drag(self, source, target):
         """One row of a list over the upper edge of another."""
-        x, y = self.eyes.middle(self.eyes.find(LIST_ITEM, source))
-        end_x, end_y, _, _ = self.eyes.extents(self.eyes.find(LIST_ITEM, target))
+        x, y = self.eyes.middle(self.eyes.find(TABLE_CELL, source))
+        end_x, end_y, _, _ = self.eyes.extents(self.eyes.find(TABLE_CELL, target))
         end_x += 20
         self.desktop.move(x, y)
         self.desktop.button(True)
