@@ -3,6 +3,7 @@
 #include <unicode/uset.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace nerlo::text {
@@ -82,8 +83,17 @@ void CodePoints::add(char32_t first, char32_t last) {
 }
 
 void CodePoints::add(const CodePoints &other) {
-    for (const Span &span : other.spans_) {
-        add(span.first, span.last);
+    std::vector<Span> both;
+    both.reserve(spans_.size() + other.spans_.size());
+    std::ranges::merge(spans_, other.spans_, std::back_inserter(both), {}, &Span::first,
+                       &Span::first);
+    spans_.clear();
+    for (const Span &span : both) {
+        if (!spans_.empty() && span.first <= spans_.back().last + 1) {
+            spans_.back().last = std::max(spans_.back().last, span.last);
+        } else {
+            spans_.push_back(span);
+        }
     }
 }
 

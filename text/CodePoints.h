@@ -15,6 +15,7 @@ class CodePoints {
     struct Span {
         char32_t first;
         char32_t last;
+        bool operator==(const Span &) const = default;
     };
 
     CodePoints() = default;
@@ -37,6 +38,8 @@ class CodePoints {
     CodePoints complement() const;
     // With all characters that differ from these in case alone.
     CodePoints withOtherCases() const;
+
+    bool operator==(const CodePoints &) const = default;
 
     // In order; none touches the next.
     const std::vector<Span> &spans() const { return spans_; }

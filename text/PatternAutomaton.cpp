@@ -210,7 +210,7 @@ Found PatternAutomaton::anyBegins(std::size_t from, std::size_t until, std::size
         at += next.width;
         if (to & initial) {
             floor = at;
-            if (!reader_.toNextBegin(at) || at > until) {
+            if (!reader_.toNextBegin(at, until)) {
                 return Found::No;
             }
             if (at != floor) {
@@ -222,7 +222,7 @@ Found PatternAutomaton::anyBegins(std::size_t from, std::size_t until, std::size
 }
 
 Found PatternAutomaton::find(std::size_t from, std::size_t until, Range &match) {
-    if (!reader_.toNextBegin(from) || from > until) {
+    if (!reader_.toNextBegin(from, until)) {
         return Found::No;
     }
     // Where matches follow each other closely, the first place is often right.
@@ -235,7 +235,7 @@ Found PatternAutomaton::find(std::size_t from, std::size_t until, Range &match) 
     if (found != Found::Yes) {
         return found;
     }
-    for (; reader_.toNextBegin(floor); floor += reader_.nextAt(floor).width) {
+    for (; reader_.toNextBegin(floor, until); floor += reader_.nextAt(floor).width) {
         found = matchAt(floor, match);
         if (found != Found::No) {
             return found;

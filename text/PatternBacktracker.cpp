@@ -28,7 +28,7 @@ Range PatternBacktracker::group(std::size_t number) const {
 }
 
 Found PatternBacktracker::find(std::size_t from, std::size_t until, Range &match) {
-    while (reader_.toNextBegin(from) && from <= until) {
+    while (reader_.toNextBegin(from, until)) {
         const Found found = matchAt(from, match);
         if (found != Found::No) {
             return found;

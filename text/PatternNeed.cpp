@@ -23,6 +23,12 @@ class NeedFinder {
     PatternNeed find() {
         read(tree_.root);
         close();
+        for (const CodePoints &set : tree_.sets) {
+            need_.around.add(set);
+        }
+        if (tree_.hasFolded) {
+            need_.around = CodePoints(0, lastCodePoint);
+        }
         return std::move(need_);
     }
 
@@ -46,7 +52,6 @@ class NeedFinder {
         case Kind::Folded:
         case Kind::Again:
             close();
-            collect(node);
             break;
         case Kind::Assert:
             break; // takes no character
@@ -54,7 +59,6 @@ class NeedFinder {
     }
 
     void readSet(const CodePoints &points) {
-        need_.around.add(points);
         if (points.sizeUpToTwo() != 1) {
             close();
             return;
@@ -68,24 +72,11 @@ class NeedFinder {
     void readRepeat(const PatternNode &node) {
         if (node.least == 0) {
             close();
-            collect(node);
             return;
         }
         read(node.parts.front()); // the first time round
         if (node.most > 1) {
             close();
-        }
-    }
-
-    // Only for what matches consist of.
-    void collect(const PatternNode &node) {
-        if (node.kind == Kind::Folded) {
-            need_.around = CodePoints(0, lastCodePoint);
-        } else if (node.kind == Kind::Set) {
-            need_.around.add(tree_.sets[node.number]);
-        }
-        for (const PatternNode &part : node.parts) {
-            collect(part);
         }
     }
 

@@ -266,9 +266,9 @@ bool PatternReader::holds(Assertion assertion, std::uint32_t context, const Colu
 }
 
 // Moves `at` to the next place where a match may begin; false if there is none.
-bool PatternReader::toNextBegin(std::size_t &at) {
+bool PatternReader::toNextBegin(std::size_t &at, std::size_t until) {
     if (mayBeEmpty_) {
-        return true;
+        return at <= until;
     }
     if (cursor_) {
         const std::size_t from = std::exchange(at, cursor_->nextFrom(at));
@@ -278,7 +278,7 @@ bool PatternReader::toNextBegin(std::size_t &at) {
         }
     }
     const std::uint8_t *const classOf = classes_.ofUnits();
-    for (std::size_t width = 1; at < text_.size(); at += width) {
+    for (std::size_t width = 1; at < text_.size() && at <= until; at += width) {
         const std::uint8_t number = classOf[text_[at]];
         const Next next = number == classes_.pair() ? nextAt(at) : Next{number, 1};
         if (begins_[next.column] != 0) {

@@ -76,8 +76,11 @@ class PatternReader {
     // How many of ten thousand places of ordinary text toNextBegin() stops at.
     unsigned begins() const;
 
-    // Moves `at` to the next place where a match may begin; false if there is none.
-    bool toNextBegin(std::size_t &at);
+    // Moves `at` to the next place where a match may begin; false if there is none up to `until`,
+    // where what is behind `until` may be looked at.
+    bool toNextBegin(std::size_t &at, std::size_t until);
+    // From now on nothing behind `until` is: for texts searched in many short parts.
+    void searchInParts() { firstUnits_.reset(); }
 
   private:
     PatternReader(PatternProgram program, CharacterClasses classes, std::size_t firstOwnSet);

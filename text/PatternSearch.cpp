@@ -17,6 +17,8 @@ PatternSearch::PatternSearch(const PatternTree &tree, PatternNeed need,
     }
     if (need_.places >= reader_->begins()) {
         need_.literal.clear();
+    } else if (!need_.literal.empty() && hasStretches_) {
+        reader_->searchInParts();
     }
 }
 
@@ -39,6 +41,7 @@ void PatternSearch::setText(std::u16string_view text) {
         automaton_->start();
     }
     literalAt_.reset();
+    stretchEnd_ = 0;
 }
 
 Found PatternSearch::findUntil(std::size_t from, std::size_t until, Range &match) {
@@ -84,12 +87,15 @@ Found PatternSearch::find(std::size_t from, Range &match) {
         if (!hasStretches_) {
             return findUntil(from, size, match);
         }
-        const std::size_t end = reader_->endOfStretch(*literalAt_);
-        const Found found = findUntil(reader_->beginOfStretch(*literalAt_, from), end, match);
+        if (*literalAt_ >= stretchEnd_) {
+            stretchEnd_ = reader_->endOfStretch(*literalAt_);
+        }
+        const std::size_t begin = reader_->beginOfStretch(*literalAt_, from);
+        const Found found = findUntil(begin, stretchEnd_, match);
         if (found != Found::No) {
             return found;
         }
-        from = end;
+        from = stretchEnd_;
     }
     return Found::No;
 }

@@ -44,6 +44,7 @@ class PatternSearch {
     PatternNeed need_; // no literal if looking for it is not worth it
     bool hasStretches_;
     std::optional<std::size_t> literalAt_; // where it is next
+    std::size_t stretchEnd_ = 0;           // of the stretch looked at last
     Range match_;
 };
 

@@ -210,8 +210,11 @@ class Parser {
     bool addSet(PatternNode &node, CodePoints points) {
         PatternNode &made = node.parts.emplace_back();
         made.kind = Kind::Set;
-        made.number = tree_.sets.size();
-        tree_.sets.push_back(std::move(points));
+        const auto known = std::ranges::find(tree_.sets, points);
+        made.number = static_cast<std::size_t>(known - tree_.sets.begin());
+        if (known == tree_.sets.end()) {
+            tree_.sets.push_back(std::move(points));
+        }
         return true;
     }
 
@@ -488,6 +491,7 @@ class Parser {
             PatternNode &made = node.parts.emplace_back();
             made.kind = Kind::Folded;
             made.folded = folded;
+            tree_.hasFolded = true;
         }
         return true;
     }

@@ -58,6 +58,7 @@ struct PatternTree {
     std::vector<CodePoints> sets;
     std::size_t groups = 0;
     bool hasAgain = false;
+    bool hasFolded = false;
 };
 
 // The pattern must be one that ICU compiles.

@@ -48,7 +48,7 @@ std::uint64_t weightOfStep(std::u16string_view pattern, std::int32_t groups) {
 }
 
 // Shorter texts are done before our own search is made.
-constexpr std::size_t smallestForSearch = 2048;
+constexpr std::size_t smallestForSearch = 4096;
 
 // Where a text is counted by pieces, a step may look at most of a piece.
 constexpr std::uint64_t weightOfFarStep = 8;

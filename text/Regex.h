@@ -1,4 +1,5 @@
-// Regular expressions in ICU's syntax, with ICU's replacement templates.
+// Regular expressions in ICU's syntax, with ICU's replacement templates. Long texts are searched by
+// text/PatternSearch.h where it knows the pattern, with the same matches.
 //
 // Positions count UTF-16 code units. A Regex belongs to one thread at a time. Every run of a
 // pattern has a budget of steps and of backtracking memory, so that no pattern can hang or crash

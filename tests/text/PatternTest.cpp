@@ -226,7 +226,7 @@ TEST(RandomPatterns, ReplaceAsIcuDoesInLongTexts) {
         const std::u16string pattern = patterns.pattern();
         Plain plain(pattern);
         auto regex = Regex::compile(pattern, Regex::Case::Sensitive);
-        std::u16string text = patterns.text(3000);
+        std::u16string text = patterns.text(6000);
         std::u16string replaced;
         const std::string expected = plain.isGood() ? plain.matches(text, replaced) : "";
         if (!plain.isGood() || !PatternSearch::make(pattern, false)) {
