@@ -139,10 +139,10 @@ class Regex::Walk {
             if (number == 0) {
                 return match_;
             }
-            if (!std::exchange(groupsAreOfMatch_, true)) {
-                good_ = good_ && search_->findGroups() == Found::Yes;
+            if (std::exchange(groupsAreOfMatch_, true) || search_->findGroups() == Found::Yes) {
+                return search_->group(static_cast<std::size_t>(number));
             }
-            return search_->group(static_cast<std::size_t>(number));
+            goOnWithIcuFromMatch();
         }
         const std::int64_t begin = uregex_start64(matcher_.expression, number, &status_);
         const std::int64_t end = uregex_end64(matcher_.expression, number, &status_);
@@ -159,6 +159,17 @@ class Regex::Walk {
         if (good_ && matcher_.firstUnits) {
             cursor_.emplace(text_, *matcher_.firstUnits);
         }
+    }
+
+    // When the groups take too much work for our own search.
+    void goOnWithIcuFromMatch() {
+        search_ = nullptr;
+        beginWithIcu();
+        const bool found =
+            good_ && uregex_find64(matcher_.expression, static_cast<std::int64_t>(match_.begin),
+                                   &status_) != 0;
+        good_ = found && U_SUCCESS(status_) && !matcher_.budget.isSpent();
+        end_ = match_.end;
     }
 
     Found nextBySearch() {

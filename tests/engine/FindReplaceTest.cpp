@@ -156,6 +156,7 @@ TEST(CustomPattern, WorksOnLongTextsWhereItIsSound) {
     EXPECT_EQ(insertYourPattern(lines, u"(?:.|\\n)*x", 1), u"");
     EXPECT_EQ(insertYourPattern(std::u16string(100'000, u'a') + u'!', u"(a+)+$", 1), u"");
     EXPECT_EQ(insertYourPattern(std::u16string(900'000, u'b'), u"(?:b|c)*", 0), u"");
+    EXPECT_EQ(apply({rule(u"(b|c)*", u"{delete}$1")}, std::u16string(900'000, u'b')), u"b");
 }
 
 TEST(FindReplace, TellsWhichRulesCouldNotBeUsed) {
