@@ -7,6 +7,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 namespace nerlo {
 
@@ -22,6 +23,11 @@ void expectRows(std::initializer_list<Row> rows, Run run) {
         EXPECT_EQ(reference::escaped(run(row.text)), reference::escaped(row.expected))
             << row.shows << ": \"" << reference::escaped(row.text) << '"';
     }
+}
+
+// Of a function that is there for UTF-8 too, the one for UTF-16.
+inline void expectRows(std::initializer_list<Row> rows, std::u16string (*run)(std::u16string)) {
+    expectRows<>(rows, [run](std::u16string text) { return run(std::move(text)); });
 }
 
 } // namespace nerlo
