@@ -36,19 +36,25 @@ bool isInHost(char16_t unit) {
 // Walks over the places at which something may begin.
 class InlineScan {
   public:
-    InlineScan(View text, char16_t sign, bool tagsGo)
+    InlineScan(View text, const text::UnitSet &signs, std::span<const std::size_t> breaks,
+               bool tagsGo)
         : text_(text)
-        , sign_(sign)
+        , signs_(signs)
+        , breaks_(breaks)
         , tagsGo_(tagsGo) {}
 
     std::vector<Range> run() {
-        text::UnitSet marks(u"`\\<@:]'\u2019");
-        marks.add(sign_, sign_);
-        marks.add(u'w', u'w');
-        text::UnitCursor cursor(text_, marks);
+        // Wider than they need be, because each range takes its time.
+        text::UnitSet marks{{u':', u'@'}, {u'[', u'`'}};
+        marks.add(u'\'', u'\'');
+        marks.add(u'\u2019', u'\u2019');
+        for (const auto &range : signs_) {
+            marks.add(range.first, range.last);
+        }
+        text::UnitCursor cursor(text_, marks, u'w');
         for (std::size_t at = cursor.next(); at < text_.size();) {
-            const std::size_t next = std::max(at + 1, after(at));
-            at = next == at + 1 ? cursor.next() : cursor.nextFrom(next);
+            const std::size_t next = after(at);
+            at = next <= at + 1 ? cursor.next() : cursor.nextFrom(next);
         }
         return std::move(ranges_);
     }
@@ -60,7 +66,7 @@ class InlineScan {
         case u'`':
             return code(at);
         case u'\\': // a mark behind it is none
-            return at + 1 < text_.size() && text_[at + 1] != sign_ ? at + 2 : at + 1;
+            return at + 1 < text_.size() && !signs_.contains(text_[at + 1]) ? at + 2 : at + 1;
         case u'<':
             return tag(at);
         case u'@':
@@ -73,11 +79,13 @@ class InlineScan {
         case u'\u2019':
             return isInsideWord(at) ? add(at, at + 1) : at;
         case u'w':
-            return startsWord(at) && text_.substr(at).starts_with(u"www.") ? address(at, at) : at;
+            return text_.substr(at).starts_with(u"www.") && startsWord(at) ? address(at, at) : at;
         default:
-            return text_[at] == sign_ ? add(at, at + 1) : at;
+            return signs_.contains(text_[at]) && !isBreak(at) ? add(at, at + 1) : at;
         }
     }
+
+    bool isBreak(std::size_t at) const { return std::ranges::binary_search(breaks_, at); }
 
     std::size_t add(std::size_t begin, std::size_t end) {
         while (!ranges_.empty() && ranges_.back().begin >= begin) {
@@ -121,10 +129,11 @@ class InlineScan {
                     break;
                 }
             }
-            for (std::size_t run = text_.find(u'`', at); run < paragraphEnd_;) {
+            const View paragraph = text_.substr(0, paragraphEnd_);
+            for (std::size_t run = text::findUnit(paragraph, at, u'`'); run < paragraphEnd_;) {
                 const std::size_t end = std::min(text_.find_first_not_of(u'`', run), text_.size());
                 closers_[end - run].push_back(run);
-                run = text_.find(u'`', end);
+                run = text::findUnit(paragraph, end, u'`');
             }
             for (auto &[size, places] : closers_) {
                 std::ranges::reverse(places);
@@ -165,7 +174,8 @@ class InlineScan {
             inside.find_first_of(u" \n") == View::npos &&
             (inside.find(u':') != View::npos || inside.find(u'@') != View::npos) &&
             inside.find(u'=') == View::npos;
-        return tagsGo_ && !isAddress ? close + 1 : add(at, close + 1);
+        const bool goes = tagsGo_ && !isAddress && text::findUnit(inside, 0, signs_) == inside.size();
+        return goes ? close + 1 : add(at, close + 1);
     }
 
     std::size_t mail(std::size_t at) {
@@ -196,7 +206,7 @@ class InlineScan {
     // From `begin` on, over `at`. What ends a sentence does not belong to it.
     std::size_t address(std::size_t begin, std::size_t at) {
         std::size_t end = at;
-        while (end < text_.size() && isInAddress(text_[end]) && text_[end] != sign_) {
+        while (end < text_.size() && isInAddress(text_[end]) && !signs_.contains(text_[end])) {
             ++end;
         }
         while (end > at && isOneOf(text_[end - 1], u".,;:!?'")) {
@@ -210,7 +220,7 @@ class InlineScan {
         std::size_t depth = 0;
         for (std::size_t end = at + 1; end < text_.size() && end < at + longestLink; ++end) {
             const char16_t unit = text_[end];
-            if (isOneOf(unit, u"\r\n")) {
+            if (isOneOf(unit, u"\r\n") || (signs_.contains(unit) && isBreak(end))) {
                 break;
             }
             depth += unit == u'(' ? 1 : 0;
@@ -225,7 +235,8 @@ class InlineScan {
     static constexpr std::size_t longestLink = 2048;
 
     const View text_;
-    const char16_t sign_;
+    const text::UnitSet &signs_;
+    const std::span<const std::size_t> breaks_;
     const bool tagsGo_;
     std::vector<Range> ranges_;
     std::size_t paragraphEnd_ = 0;
@@ -236,8 +247,9 @@ class InlineScan {
 
 } // namespace
 
-std::vector<Range> findInlineStructure(View text, char16_t sign, bool tagsGo) {
-    return InlineScan(text, sign, tagsGo).run();
+std::vector<Range> findInlineStructure(View text, const text::UnitSet &signs,
+                                       std::span<const std::size_t> breaks, bool tagsGo) {
+    return InlineScan(text, signs, breaks, tagsGo).run();
 }
 
 } // namespace nerlo::engine

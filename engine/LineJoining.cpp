@@ -3,10 +3,10 @@
 #include "engine/Whitespace.h"
 #include "text/Ascii.h"
 #include "text/CaseMapping.h"
-#include "text/Range.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 #include <vector>
 
@@ -190,19 +190,90 @@ bool isIdeograph(char16_t unit) {
            (unit < 0xD800 || unit > 0xF8FF);
 }
 
-// A paragraph, line by line.
-class WrappedParagraph {
-  public:
-    explicit WrappedParagraph(std::u16string_view text)
-        : text_(text) {}
+bool isBlank(char16_t unit) {
+    return unit == u' ' || unit == u'\u00A0' || unit == u'\t';
+}
 
-    // Units of the lines' words; [begin, end) of the text.
-    void addLine(std::size_t begin, std::size_t end) { lines_.push_back({begin, end}); }
-    void clear() { lines_.clear(); }
+// Joins the lines of wrapped paragraphs in the text's own memory. The result is never longer: each
+// line break gives way to one unit at most.
+class WrappedParagraphs {
+  public:
+    WrappedParagraphs(std::u16string &text, bool withSpace)
+        : text_(text)
+        , withSpace_(withSpace) {}
+
+    void run() {
+        const std::u16string_view all = text_;
+        text::UnitCursor cursor(all, lineBreaks);
+        for (std::size_t at = 0; at < all.size();) {
+            const std::size_t end = cursor.next();
+            const bool pair = all.substr(end).starts_with(u"\r\n");
+            const std::size_t next = std::min((pair ? cursor.next() : end) + 1, all.size());
+            if (!addLine(at, end)) {
+                endParagraph(next);
+            }
+            at = next;
+        }
+        endParagraph(all.size());
+        text_.resize(to_);
+    }
+
+  private:
+    // The words of a line.
+    struct Line {
+        std::size_t begin;
+        std::size_t end;
+        std::size_t wordEnd; // of the first one
+        bool hasBlanks;      // more than one between them
+    };
+
+    // False for a blank line.
+    bool addLine(std::size_t begin, std::size_t end) {
+        while (begin < end && isBlank(text_[begin])) {
+            ++begin;
+        }
+        while (end > begin && isBlank(text_[end - 1])) {
+            --end;
+        }
+        if (begin < end) {
+            lines_.push_back(lineOf(begin, end));
+        }
+        return begin < end;
+    }
+
+    // Its first blanks are mostly among its first units, which are looked at all at once: a loop
+    // would jump anew at each word.
+    Line lineOf(std::size_t begin, std::size_t end) const {
+        if (begin + text::scanBlock <= text_.size()) {
+            const std::uint64_t blanks = text::scanUnit(text_.data() + begin, u' ');
+            const std::uint64_t more = blanks & (blanks - 1);
+            if (more != 0) {
+                const auto first = static_cast<std::size_t>(std::countr_zero(blanks));
+                const auto second = static_cast<std::size_t>(std::countr_zero(more));
+                return {begin, end, std::min(end, begin + first), begin + second < end};
+            }
+        }
+        const std::u16string_view line = std::u16string_view(text_).substr(begin, end - begin);
+        const std::size_t word = text::findUnit(line, 0, u' ');
+        return {begin, end, begin + word, text::findUnit(line, word + 1, u' ') < line.size()};
+    }
+
+    // What stands behind the last line, up to `next`, goes with the paragraph.
+    void endParagraph(std::size_t next) {
+        if (isWrapped()) {
+            for (std::size_t at = 0; at < lines_.size(); ++at) {
+                putLine(at);
+            }
+            begin_ = lines_.back().end;
+        }
+        put(begin_, next);
+        begin_ = next;
+        lines_.clear();
+    }
 
     bool isWrapped() const {
         std::size_t width = 0;
-        for (const text::Range &line : lines_) {
+        for (const Line &line : lines_) {
             width = std::max(width, line.end - line.begin);
         }
         bool goesOn = false; // some line begins as no sentence and no name does
@@ -217,53 +288,64 @@ class WrappedParagraph {
         return goesOn && width >= (isIdeograph(firstOf(0)) ? leastWrappedIdeographs : leastWrapped);
     }
 
-    void append(std::u16string &result, bool withSpace) const {
-        for (std::size_t at = 0; at < lines_.size(); ++at) {
-            std::u16string_view line = lineAt(at);
-            const bool last = at + 1 == lines_.size();
-            if (last || staysApart(at)) {
-                result.append(line);
-                result.append(last ? u"" : u"\n");
-                continue;
+    void putLine(std::size_t at) {
+        const std::size_t begin = lines_[at].begin;
+        const std::size_t end = lines_[at].end;
+        const bool last = at + 1 == lines_.size();
+        if (last || staysApart(at)) {
+            put(begin, end);
+            if (!last) {
+                text_[to_++] = u'\n';
             }
-            const bool hyphen = isHyphenated(at);
-            const bool apart =
-                withSpace && !hyphen && !(isIdeograph(line.back()) && isIdeograph(firstOf(at + 1)));
-            line.remove_suffix(hyphen ? 1 : 0);
-            result.append(line).append(apart ? u" " : u"");
+            return;
+        }
+        const bool hyphen = isHyphenated(at);
+        const bool apart =
+            withSpace_ && !hyphen && !(isIdeograph(lastOf(at)) && isIdeograph(firstOf(at + 1)));
+        put(begin, hyphen ? end - 1 : end);
+        if (apart) {
+            text_[to_++] = u' ';
         }
     }
 
-  private:
+    void put(std::size_t begin, std::size_t end) {
+        if (to_ != begin) {
+            std::char_traits<char16_t>::move(text_.data() + to_, text_.data() + begin, end - begin);
+        }
+        to_ += end - begin;
+    }
+
     std::u16string_view lineAt(std::size_t at) const {
-        return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
+        return std::u16string_view(text_).substr(lines_[at].begin,
+                                                 lines_[at].end - lines_[at].begin);
     }
     char16_t firstOf(std::size_t at) const { return text_[lines_[at].begin]; }
+    char16_t lastOf(std::size_t at) const { return text_[lines_[at].end - 1]; }
 
     // Units that the line would have with the next word behind it.
     std::size_t roomOf(std::size_t at) const {
-        const std::u16string_view next = lineAt(at + 1);
+        const Line &next = lines_[at + 1];
         const std::size_t word =
-            isIdeograph(next[0]) ? 1 : std::min(next.find(u' '), next.size()) + 1;
-        return lineAt(at).size() + word;
+            isIdeograph(text_[next.begin]) ? 1 : next.wordEnd - next.begin + 1;
+        return lines_[at].end - lines_[at].begin + word;
     }
 
-    // A line of a list of names or paths has no blanks.
+    // A line of a list of names or paths has no blanks, or one.
     bool hasWords(std::size_t at) const {
-        return isIdeograph(firstOf(at)) || std::ranges::count(lineAt(at), u' ') > 1;
+        return isIdeograph(firstOf(at)) || lines_[at].hasBlanks;
     }
 
     // Whether a screen of a usual width may have cut a word here, so that no blank belongs there.
     bool isCut(std::size_t at, std::size_t width) const {
         const bool usual = width == 80 || width == 100 || width == 120 || width == 132;
-        return usual && lineAt(at).size() == width && text::isAsciiLetter(lineAt(at).back()) &&
+        return usual && lineAt(at).size() == width && text::isAsciiLetter(lastOf(at)) &&
                text::isAsciiLetter(firstOf(at + 1));
     }
 
     // A letter alone would end no sentence any more once it is joined to the line above.
     bool staysApart(std::size_t at) const {
-        return lineAt(at).size() > 1 && checkLineForEndSentenceChar(lineAt(at), false) &&
-               text::letterCase(firstOf(at + 1)) != LetterCase::Other;
+        return text::letterCase(firstOf(at + 1)) != LetterCase::Other && lineAt(at).size() > 1 &&
+               checkLineForEndSentenceChar(lineAt(at), false);
     }
 
     bool isHyphenated(std::size_t at) const {
@@ -273,46 +355,18 @@ class WrappedParagraph {
                text::letterCase(firstOf(at + 1)) == LetterCase::Other;
     }
 
-    const std::u16string_view text_;
-    std::vector<text::Range> lines_;
+    std::u16string &text_;
+    const bool withSpace_;
+    std::vector<Line> lines_; // of the paragraph at hand
+    std::size_t begin_ = 0;   // of that paragraph
+    std::size_t to_ = 0;
 };
 
 } // namespace
 
 std::u16string joinWrappedLines(std::u16string text, bool withSpace) {
-    constexpr std::u16string_view blanks = u" \u00A0\t";
-    const std::u16string_view all = text;
-    std::u16string result;
-    result.reserve(text.size());
-    WrappedParagraph paragraph(all);
-    std::size_t begin = 0; // of the paragraph
-    const auto endParagraph = [&](std::size_t end, std::size_t next) {
-        if (paragraph.isWrapped()) {
-            paragraph.append(result, withSpace);
-            result.append(all.substr(end, next - end));
-        } else {
-            result.append(all.substr(begin, next - begin));
-        }
-        paragraph.clear();
-        begin = next;
-    };
-    std::size_t inkedEnd = 0;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = text::findUnit(text, at, lineBreaks);
-        const std::u16string_view line = all.substr(at, end - at);
-        const std::size_t first = line.find_first_not_of(blanks);
-        const bool pair = all.substr(end).starts_with(u"\r\n");
-        const std::size_t next = std::min(text.size(), end + (pair ? 2 : 1));
-        if (first != std::u16string_view::npos) {
-            inkedEnd = at + line.find_last_not_of(blanks) + 1;
-            paragraph.addLine(at + first, inkedEnd);
-        } else {
-            endParagraph(inkedEnd, next);
-        }
-        at = next;
-    }
-    endParagraph(inkedEnd, text.size());
-    return result;
+    WrappedParagraphs(text, withSpace).run();
+    return text;
 }
 
 } // namespace nerlo::engine

@@ -1,11 +1,11 @@
 #include "engine/Structure.h"
 
 #include "text/Ascii.h"
+#include "text/Range.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstdint>
 #include <span>
 
@@ -14,18 +14,17 @@ namespace nerlo::engine {
 namespace {
 
 using View = std::u16string_view;
-using Lines = std::span<StructuredLine>;
+using Lines = std::vector<StructuredLine>;
 using text::isAsciiDigit;
 using text::isAsciiLetter;
 
-// Breaks, and what prose seldom has and everything else mostly: tabs, brackets but for round ones,
-// operators, signs of Markdown and of frames.
+// Breaks, and what prose seldom has and code and tables mostly: tabs, brackets but for round ones,
+// operators, signs of frames.
 constexpr text::UnitSet marks = [] {
     text::UnitSet set;
     set.add(u'\0', u'\x1F');
     set.add(u'#', u'$');
-    set.add(u':', u'>');
-    set.add(u'@', u'@');
+    set.add(u':', u'@'); // the "?" comes along: each range takes its time
     set.add(u'[', u'`');
     set.add(u'{', u'~');
     set.add(u'\u2500', u'\u257F');
@@ -67,30 +66,25 @@ std::size_t runOf(View text, char16_t unit) {
 // Walks over the breaks of a text and tells for each line whether it has marks or wide gaps.
 class LineScan {
   public:
-    explicit LineScan(View text)
-        : text_(text) {}
+    LineScan(View text, Lines &lines)
+        : text_(text)
+        , lines_(lines)
+        , cursor_(text, marks, u' ')
+        , at_(cursor_.next()) {}
 
-    std::vector<StructuredLine> run() {
-        lines_.reserve(text_.size() / 48);
-        for (std::size_t block = 0; block < text_.size(); block += text::scanBlock) {
-            const std::size_t count = std::min(text::scanBlock, text_.size() - block);
-            const bool whole = count == text::scanBlock;
-            const char16_t *const units = text_.data() + block;
-            std::uint64_t found =
-                whole ? text::scanUnits(units, marks) : text::scanTail(units, count, marks);
-            std::uint64_t gaps =
-                whole ? text::scanUnit(units, u' ') : text::scanTail(units, count, blank);
-            const std::uint64_t last = gaps >> 63;
-            gaps &= gaps << 1 | blankBefore_;
-            blankBefore_ = last;
-            for (found |= gaps; found != 0; found &= found - 1) {
-                take(block + static_cast<std::size_t>(std::countr_zero(found)));
+    // Adds the lines that end in the next `count` units or so. False at the end of the text.
+    bool advance(std::size_t count) {
+        for (const std::size_t end = begin_ + count; at_ < text_.size(); at_ = cursor_.next()) {
+            take(at_);
+            if (begin_ >= end) {
+                at_ = cursor_.nextFrom(begin_);
+                return true;
             }
         }
         if (begin_ < text_.size()) {
             endLine(text_.size(), 0);
         }
-        return std::move(lines_);
+        return false;
     }
 
   private:
@@ -98,30 +92,35 @@ class LineScan {
         const char16_t unit = text_[at];
         if (unit == u'\n' || unit == u'\r') {
             if (at >= begin_) {
-                endLine(at, text_.substr(at, 2) == u"\r\n" ? 2 : 1);
+                const bool pair = unit == u'\r' && at + 1 < text_.size() && text_[at + 1] == u'\n';
+                endLine(at, pair ? 2 : 1);
             }
-        } else if (unit <= u' ' || unit == u'|' || unit >= u'\u2500') {
+        } else if (unit == u' ') {
+            // Behind a sentence, two blanks are no gap.
+            const char16_t before = at > begin_ ? text_[at - 1] : u' ';
+            tabular_ = tabular_ || (before != u'.' && before != u'!' && before != u'?');
+        } else if (unit < u' ' || unit == u'|' || unit >= u'\u2500') {
             tabular_ = true;
         } else {
-            marked_ = true;
+            marked_ = marked_ || unit != u'?';
         }
     }
 
     void endLine(std::size_t end, std::uint8_t breakSize) {
-        lines_.push_back(
-            {begin_, end, begin_, end, LineKind::blank, breakSize, false, marked_, tabular_});
+        const char16_t last = end > begin_ ? text_[end - 1] : u'\0';
+        lines_.push_back({begin_, end, begin_, begin_, LineKind::blank, breakSize, false, marked_,
+                          tabular_, last == u' ' || last == u'\\'});
         begin_ = end + breakSize;
         marked_ = tabular_ = false;
     }
 
-    static constexpr text::UnitSet blank = text::UnitSet(u" ");
-
     const View text_;
-    std::size_t begin_ = 0;
-    std::vector<StructuredLine> lines_;
+    Lines &lines_;
+    text::UnitCursor cursor_; // over breaks, marks and gaps
+    std::size_t at_;
+    std::size_t begin_ = 0; // of the line at hand
     bool marked_ = false;
     bool tabular_ = false;
-    std::uint64_t blankBefore_ = 0; // the last unit of the block above is a blank
 };
 
 // A line of three or more of one sign, blanks between them allowed: "---", "* * *".
@@ -175,7 +174,7 @@ std::size_t listMark(View words) {
 
 // "-rw-r--r-- 1 root": a line of a list of files.
 bool isFileMode(View words) {
-    return words.size() > 10 && (words[1] == u'r' || words[1] == u'-') &&
+    return words.size() > 10 && (words[1] == u'-' || words[1] == u'r') &&
            View(u"-dlbcps").find(words[0]) != View::npos &&
            words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
 }
@@ -267,50 +266,73 @@ bool goesOnInPatch(View line) {
            line.starts_with(u"rename ") || line.starts_with(u"Binary ");
 }
 
+// Where the line at `at` ends, and where the next one begins.
+text::Range endOfLine(View text, std::size_t at) {
+    static constexpr text::UnitSet breaks(u"\r\n");
+    const std::size_t end = text::findUnit(text, at, breaks);
+    const std::size_t size = text.substr(end).starts_with(u"\r\n") ? 2 : 1;
+    return {end, std::min(end + size, text.size())};
+}
+
+// Where YAML between two "---" at the very top ends, with the break behind it; 0 for none.
+std::size_t endOfFrontMatter(View text) {
+    std::size_t at = text.starts_with(u"---") ? endOfLine(text, 0).begin : 0;
+    if (at != 3) {
+        return 0;
+    }
+    at = endOfLine(text, 0).end;
+    for (bool first = true; at < text.size(); first = false) {
+        const text::Range end = endOfLine(text, at);
+        const View line = text.substr(at, end.begin - at);
+        if (trimmed(line).empty() || (first && line.find(u':') == View::npos)) {
+            return 0;
+        }
+        if (line == u"---" || line == u"...") {
+            return end.end;
+        }
+        at = end.end;
+    }
+    return 0;
+}
+
 // The first pass: what a line says by itself and by the lines above it.
 class MarkedStructure {
   public:
-    MarkedStructure(View text, Lines lines)
+    MarkedStructure(View text, Lines &lines)
         : text_(text)
-        , lines_(lines) {}
+        , lines_(lines)
+        , frontMatter_(endOfFrontMatter(text)) {}
 
-    void run() {
-        at_ = frontMatter();
+    // Takes the lines that have been added since the last call.
+    void advance() {
         for (; at_ < lines_.size(); ++at_) {
-            line_ = text_.substr(lines_[at_].begin, lines_[at_].end - lines_[at_].begin);
-            lines_[at_].kind = isPlain() ? plain() : next();
-            above_ = lines_[at_].kind;
+            auto &line = lines_[at_];
+            if (line.begin < frontMatter_) {
+                line.kind = LineKind::data;
+                continue;
+            }
+            line_ = text_.substr(line.begin, line.end - line.begin);
+            line.kind = isPlain() ? plain() : next();
+            above_ = line.kind;
         }
     }
 
   private:
-    View lineAt(std::size_t at) const {
-        return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
-    }
-
-    // YAML between two "---" at the very top. Returns the line below it.
-    std::size_t frontMatter() {
-        if (lines_.size() < 3 || lineAt(0) != u"---" || lineAt(1).find(u':') == View::npos) {
-            return 0;
-        }
-        for (std::size_t at = 1; at < lines_.size() && !trimmed(lineAt(at)).empty(); ++at) {
-            if (lineAt(at) == u"---" || lineAt(at) == u"...") {
-                std::ranges::for_each(lines_.first(at + 1),
-                                      [](auto &line) { line.kind = LineKind::data; });
-                return at + 1;
-            }
-        }
-        return 0;
-    }
-
     // Whether a look at the beginning is enough to see that the line is prose, or goes with the
     // lines around it.
     bool isPlain() const {
         const bool word =
             line_.size() > 1 && isAsciiLetter(line_[0]) && line_[1] != u'.' && line_[1] != u')';
-        return word && !isInsideBlock() && !line_.starts_with(u"diff ") &&
-               !line_.starts_with(u"Index: ") && !line_.starts_with(u"PS ") &&
-               !(lines_[at_].marked && beginsWithHost(line_)) && !isFileMode(line_);
+        return word && !isInsideBlock() && !mayBeginBlock();
+    }
+
+    bool mayBeginBlock() const {
+        if (lines_[at_].marked && (line_.starts_with(u"Index: ") || beginsWithHost(line_))) {
+            return true;
+        }
+        const bool mayBe = line_[1] == u'i' || line_[1] == u'S' || line_[1] == u'r' || line_[1] == u'-';
+        return mayBe &&
+               (line_.starts_with(u"diff ") || line_.starts_with(u"PS ") || isFileMode(line_));
     }
 
     bool isInsideBlock() const { return fenceSize_ > 0 || signature_ || markupEnd_ || patch_; }
@@ -321,7 +343,6 @@ class MarkedStructure {
         }
         blankAbove_ = false;
         quotedAbove_ = false;
-        lines_[at_].words = lines_[at_].begin;
         return LineKind::prose;
     }
 
@@ -490,7 +511,8 @@ class MarkedStructure {
     }
 
     const View text_;
-    const Lines lines_;
+    Lines &lines_;
+    const std::size_t frontMatter_; // where it ends
     std::size_t at_ = 0;
     View line_;
     LineKind above_ = LineKind::blank;
@@ -566,14 +588,13 @@ bool isAligned(const Columns &a, const Columns &b) {
 
 // Separators of a list of values: not followed by a blank, nor between digits.
 std::size_t separators(View words) {
+    static constexpr text::UnitSet units(u",;");
     std::size_t count = 0;
-    for (std::size_t at = 0; at + 1 < words.size(); ++at) {
-        const bool comma = words[at] == u',';
-        if (comma || words[at] == u';') {
-            const bool number =
-                comma && at > 0 && isAsciiDigit(words[at - 1]) && isAsciiDigit(words[at + 1]);
-            count += isBlank(words[at + 1]) || number ? 0 : 1;
-        }
+    text::UnitCursor cursor(words, units);
+    for (std::size_t at = cursor.next(); at + 1 < words.size(); at = cursor.next()) {
+        const bool number = words[at] == u',' && at > 0 && isAsciiDigit(words[at - 1]) &&
+                            isAsciiDigit(words[at + 1]);
+        count += isBlank(words[at + 1]) || number ? 0 : 1;
     }
     return count;
 }
@@ -601,30 +622,29 @@ bool isWordy(View words) {
     return plain > 5 && plain * 5 >= all * 3;
 }
 
-std::size_t hashOf(char16_t first, char16_t second) {
-    return (first * 31u + second) % 256;
+// By the first three units, which every start that begins with a letter has.
+constexpr std::size_t hashOf(View start) {
+    return ((start[0] * 31u + start[1]) * 31u + start[2]) % 1024;
 }
 
-// Whether a line that begins with a letter may begin like code, by its first two units.
-const std::array<bool, 256> &codeHashes() {
-    static const auto hashes = [] {
-        std::array<bool, 256> found{};
-        for (const View start : codeStarts) {
-            if (start.size() > 1) {
-                found[hashOf(start[0], start[1])] = true;
-            }
+constexpr auto codeHashes = [] {
+    std::array<bool, 1024> found{};
+    for (const View start : codeStarts) {
+        if (isAsciiLetter(start[0])) {
+            found.at(hashOf(start)) = true;
         }
-        return found;
-    }();
-    return hashes;
-}
+    }
+    return found;
+}();
 
 bool beginsLikeCode(View words) {
-    const bool mayBegin =
-        !isAsciiLetter(words[0]) || (words.size() > 1 && codeHashes()[hashOf(words[0], words[1])]);
-    return mayBegin && std::ranges::any_of(codeStarts, [&](View start) {
-               return words[0] == start[0] && words.starts_with(start);
-           });
+    const bool word = isAsciiLetter(words[0]);
+    if (word && (words.size() < 3 || !codeHashes[hashOf(words)])) {
+        return false;
+    }
+    return std::ranges::any_of(codeStarts, [&](View start) {
+        return words[0] == start[0] && words.starts_with(start);
+    });
 }
 
 bool looksLikeCode(View words) {
@@ -650,61 +670,65 @@ bool looksLikeCode(View words) {
 
 // Whether a line that has no marks needs that closer look.
 bool mayBeCode(View line) {
-    const View end = line.size() > 1 ? line.substr(line.size() - 2) : line;
-    return end.ends_with(u'(') || end == u")," || end == u"\"," || beginsLikeCode(line);
+    const bool comma = line.size() > 1 && line.back() == u',';
+    const char16_t last = comma ? line[line.size() - 2] : line.back();
+    return (comma ? last == u')' || last == u'"' : last == u'(') || beginsLikeCode(line);
 }
 
 // The second pass: what lines say together. Takes each run of lines that the first pass left as
 // prose.
 class Paragraphs {
   public:
-    Paragraphs(View text, Lines lines)
+    Paragraphs(View text, Lines &lines)
         : text_(text)
         , lines_(lines) {}
 
-    void run() {
-        if (isSourceCode()) {
-            std::ranges::for_each(lines_, [](auto &line) {
+    // Takes the lines up to `end`, of which the first pass knows all.
+    void advance(std::size_t end) {
+        for (; at_ < end; ++at_) {
+            auto &line = lines_[at_];
+            const bool prose = line.kind == LineKind::prose;
+            if (prose || line.kind == LineKind::code) {
+                ++inked_;
+                line.codeLike = looksLikeCodeAt(at_);
+                code_ += line.codeLike ? 1 : 0;
+            }
+            if (prose) {
+                add(line);
+            } else {
+                endRun();
+            }
+        }
+    }
+
+    void finish() {
+        endRun();
+        // A file of a program: what is prose in it are comments.
+        if (inked_ > 3 && code_ * 4 > inked_) {
+            for (StructuredLine &line : lines_) {
                 const bool stays = line.kind == LineKind::blank || line.kind == LineKind::fence ||
                                    line.kind == LineKind::rule;
                 line.kind = stays ? line.kind : LineKind::code;
-            });
-            return;
-        }
-        for (std::size_t begin = 0; begin < lines_.size();) {
-            std::size_t end = begin;
-            while (end < lines_.size() && lines_[end].kind == LineKind::prose) {
-                ++end;
             }
-            if (end > begin) {
-                paragraph(begin, end);
-            }
-            begin = std::max(end, begin + 1);
         }
     }
 
   private:
+    // Lines of prose below each other.
+    struct Run {
+        std::size_t lines = 0;
+        std::size_t code = 0;
+        std::size_t leastIndent = View::npos;
+        std::size_t mostIndent = 0; // below the first line
+        bool tabular = false;
+        bool marked = false; // has items or quotations
+    };
+
     View wordsAt(std::size_t at) const {
         return text_.substr(lines_[at].words, lines_[at].end - lines_[at].words);
     }
     View lineAt(std::size_t at) const {
         return text_.substr(lines_[at].begin, lines_[at].end - lines_[at].begin);
-    }
-
-    // A file of a program: what is prose in it are comments.
-    bool isSourceCode() {
-        std::size_t inked = 0;
-        std::size_t code = 0;
-        code_.resize(lines_.size());
-        for (std::size_t at = 0; at < lines_.size(); ++at) {
-            const LineKind kind = lines_[at].kind;
-            if (kind == LineKind::prose || kind == LineKind::code) {
-                ++inked;
-                code_[at] = looksLikeCodeAt(at);
-                code += code_[at] ? 1 : 0;
-            }
-        }
-        return inked > 3 && code * 4 > inked;
     }
 
     static constexpr std::size_t hanging = 8;
@@ -714,33 +738,57 @@ class Paragraphs {
         return !words.empty() && (lines_[at].marked || mayBeCode(words)) && looksLikeCode(words);
     }
 
-    void paragraph(std::size_t begin, std::size_t end) {
-        const bool tabular = std::any_of(lines_.begin() + static_cast<std::ptrdiff_t>(begin),
-                                         lines_.begin() + static_cast<std::ptrdiff_t>(end),
-                                         [](const StructuredLine &line) { return line.tabular; });
-        if (tabular) {
-            tables(begin, end);
+    void add(const StructuredLine &line) {
+        const std::size_t indent = line.words - line.begin;
+        run_.leastIndent = std::min(run_.leastIndent, indent);
+        run_.mostIndent = run_.lines > 0 ? std::max(run_.mostIndent, indent) : 0;
+        run_.tabular = run_.tabular || line.tabular;
+        run_.marked = run_.marked || line.item || line.quoted > line.begin;
+        run_.code += line.codeLike ? 1 : 0;
+        ++run_.lines;
+    }
+
+    void endRun() {
+        if (run_.lines > 0) {
+            paragraph(at_ - run_.lines, at_);
+            run_ = {};
         }
+    }
+
+    void paragraph(std::size_t begin, std::size_t end) {
+        if (run_.tabular) {
+            tables(begin, end);
+            hangingCells(begin, end);
+        }
+        if (isListOfValues(begin, end)) {
+            become(LineKind::table, begin, end);
+        } else if (isMostlyCode(begin, end) || isIndentedUnevenly()) {
+            become(LineKind::code, begin, end);
+        }
+    }
+
+    // Of the lines that are no table.
+    bool isMostlyCode(std::size_t begin, std::size_t end) const {
+        std::size_t code = run_.code;
+        std::size_t counted = run_.lines;
+        for (std::size_t at = begin; run_.tabular && at < end; ++at) {
+            const bool table = lines_[at].kind == LineKind::table;
+            counted -= table ? 1 : 0;
+            code -= table && lines_[at].codeLike ? 1 : 0;
+        }
+        return code > 0 && code * 2 >= counted;
+    }
+
+    // The rest of what stands in a cell, below it, or a row without columns.
+    void hangingCells(std::size_t begin, std::size_t end) {
         for (std::size_t at = begin + 1; at < end; ++at) {
             const auto &line = lines_[at];
             const auto &above = lines_[at - 1];
             const std::size_t indent = line.words - line.begin;
             const bool same = indent > 0 && indent == above.words - above.begin;
             if (above.kind == LineKind::table && (indent >= hanging || same)) {
-                lines_[at].kind = LineKind::table; // the rest of a cell, or a row without columns
+                lines_[at].kind = LineKind::table;
             }
-        }
-        if (isListOfValues(begin, end)) {
-            become(LineKind::table, begin, end);
-        }
-        std::size_t code = 0;
-        std::size_t counted = 0;
-        for (std::size_t at = begin; at < end; ++at) {
-            counted += lines_[at].kind == LineKind::prose ? 1 : 0;
-            code += lines_[at].kind == LineKind::prose && code_[at] ? 1 : 0;
-        }
-        if ((code > 0 && code * 2 >= counted) || isIndentedUnevenly(begin, end)) {
-            become(LineKind::code, begin, end);
         }
     }
 
@@ -761,19 +809,8 @@ class Paragraphs {
     }
 
     // Below its first line, prose outside of lists keeps to one edge.
-    bool isIndentedUnevenly(std::size_t begin, std::size_t end) const {
-        std::size_t least = View::npos;
-        std::size_t most = 0;
-        for (std::size_t at = begin; at < end; ++at) {
-            const auto &line = lines_[at];
-            if (line.item || line.quoted > line.begin) {
-                return false;
-            }
-            const std::size_t indent = line.words - line.begin;
-            least = std::min(least, indent);
-            most = at > begin ? std::max(most, indent) : 0;
-        }
-        return most > least + 1;
+    bool isIndentedUnevenly() const {
+        return !run_.marked && run_.mostIndent > run_.leastIndent + 1;
     }
 
     void tables(std::size_t begin, std::size_t end) {
@@ -818,20 +855,36 @@ class Paragraphs {
     }
 
     const View text_;
-    const Lines lines_;
-    std::vector<bool> code_; // lines that look like it
+    Lines &lines_;
+    std::size_t at_ = 0;
+    Run run_; // the lines above it that are prose
+    std::size_t inked_ = 0;
+    std::size_t code_ = 0; // lines that look like it
 };
 
 } // namespace
 
 std::vector<StructuredLine> splitLines(View text) {
-    return LineScan(text).run();
+    Lines lines;
+    LineScan(text, lines).advance(text.size() + 1);
+    return lines;
 }
 
 std::vector<StructuredLine> scanStructure(View text) {
-    auto lines = splitLines(text);
-    MarkedStructure(text, lines).run();
-    Paragraphs(text, lines).run();
+    Lines lines;
+    lines.reserve(text.size() / 48);
+    LineScan scan(text, lines);
+    MarkedStructure marked(text, lines);
+    Paragraphs paragraphs(text, lines);
+    // In parts, so that all passes over one find it in the cache.
+    constexpr std::size_t part = 16 * 1024;
+    for (bool more = true; more;) {
+        more = scan.advance(part);
+        marked.advance();
+        // The next line may make a heading of the last one.
+        paragraphs.advance(more && !lines.empty() ? lines.size() - 1 : lines.size());
+    }
+    paragraphs.finish();
     return lines;
 }
 

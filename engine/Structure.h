@@ -37,6 +37,8 @@ struct StructuredLine {
     bool item = false;          // a list mark stands before the words
     bool marked = false;        // has signs that are seldom in prose
     bool tabular = false;       // has tabs, bars or gaps
+    bool mayBreak = false;      // ends in a blank or a backslash
+    bool codeLike = false;      // looks like code by itself
 
     // Where the line below begins; the text's size for the last.
     std::size_t next() const { return end + breakSize; }

@@ -3,12 +3,12 @@
 #include "engine/InlineStructure.h"
 #include "engine/LineJoining.h"
 #include "engine/Markup.h"
+#include "engine/StepStream.h"
 #include "engine/Structure.h"
 #include "text/Characters.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -21,11 +21,13 @@ using View = std::u16string_view;
 constexpr text::UnitSet lineBreaks(u"\r\n");
 using Steps = std::span<const Operation *const>;
 
-// What stands in a text for a break that stays, with the marks behind it; no word has it.
-constexpr char16_t breakSign = u'\uFDD0';
-// What stands in for code or an address: a letter without cases, so that words and sentences are
-// still seen around it.
-constexpr char16_t wordSign = u'\uA000';
+// What stands in a text for code or an address: a letter without cases, so that words and sentences
+// are still seen around it. Of runes, as hardly any text has them.
+constexpr char16_t wordSign = u'\u16F8';
+// What stands for a break that stays, with the marks behind it: the number of no character, so that
+// no word has it and no rule takes it for anything.
+constexpr char16_t breakSign = u'\u16F9';
+constexpr text::UnitSet signs{{wordSign, breakSign}};
 
 constexpr View blanks = u" \u00A0";
 
@@ -46,7 +48,9 @@ std::u16string removeLineEnds(std::u16string text, const CleaningContext &) {
         const std::size_t from = begin == 0 ? 0 : inkBegin(line);
         const std::size_t till = end == text.size() ? line.size() : inkEnd(line);
         if (from < till) {
-            std::char_traits<char16_t>::move(text.data() + to, line.data() + from, till - from);
+            if (to != begin + from) {
+                std::char_traits<char16_t>::move(text.data() + to, line.data() + from, till - from);
+            }
             to += till - from;
         }
         if (end < text.size()) {
@@ -63,65 +67,62 @@ std::u16string joinLines(std::u16string text, const CleaningContext &context) {
                             context.options.udChangeWrongInsertedReturnsOption == 1);
 }
 
+bool always(const CleaningOptions &) {
+    return true;
+}
+
 // What the guard runs in place of operations that know nothing of structure.
 const Operation *guarded(const Operation *step) {
-    static const Operation joints{33, {}, {}, {}, joinLines};
-    static const Operation lineEnds{21, {}, {}, {}, removeLineEnds};
+    static const Operation joints{33, {}, {}, {}, joinLines, nullptr, Reach::lineJoints};
+    static const Operation lineEnds{21, {}, {}, {}, removeLineEnds, always};
     return step->reach == Reach::lineJoints ? &joints
            : step->reach == Reach::lineEnds ? &lineEnds
                                             : step;
 }
 
-bool runsOnProse(const Operation *step) {
-    return step->reach == Reach::prose || step->reach == Reach::lineJoints ||
-           step->reach == Reach::lineEnds;
+std::vector<const Operation *> onProse(Steps steps) {
+    std::vector<const Operation *> some;
+    for (const Operation *const step : steps) {
+        if (step->reach == Reach::prose || step->reach == Reach::lineJoints ||
+            step->reach == Reach::lineEnds) {
+            some.push_back(guarded(step));
+        }
+    }
+    return some;
 }
 
-// A text in which signs stand for the literals, in their order.
-struct Signed {
-    std::u16string text;
-    std::vector<std::u16string> literals;
-
-    void add(char16_t sign, View literal) {
-        text.push_back(sign);
-        literals.emplace_back(literal);
-    }
-};
-
-std::u16string withLiterals(std::u16string &&text, char16_t sign,
-                            const std::vector<std::u16string> &literals) {
-    if (literals.empty()) {
-        return std::move(text);
-    }
-    std::u16string result;
-    std::size_t from = 0;
-    for (const std::u16string &literal : literals) {
-        const std::size_t at = text.find(sign, from);
-        result.append(text, from, at - from).append(literal);
-        from = at + 1;
-    }
-    return result.append(text, from);
+// Of the steps that can be cut, only the one for breaks puts in a text of the user's.
+bool putsSignsIn(const CleaningOptions &options) {
+    const std::u16string text = options.udChangeReturnsCustom1.stringValue();
+    return text::findUnit(text, 0, signs) < text.size();
 }
 
 constexpr std::int32_t removeTagsOperation = 11;
 
-// Code and addresses, and the sign itself where the text has it.
-Signed withoutInlineStructure(std::u16string &&text, bool tagsGo) {
-    Signed result;
-    const auto ranges = findInlineStructure(text, wordSign, tagsGo);
-    if (ranges.empty()) {
-        result.text = std::move(text);
-        return result;
+// What signs of one kind stand for, in their order.
+class Literals {
+  public:
+    void add(View literal) {
+        if (next_ == ends_.size()) {
+            units_.clear();
+            ends_.clear();
+            next_ = 0;
+        }
+        units_.append(literal);
+        ends_.push_back(units_.size());
     }
-    std::size_t from = 0;
-    for (const text::Range &range : ranges) {
-        result.text.append(text, from, range.begin - from);
-        result.add(wordSign, View(text).substr(range.begin, range.end - range.begin));
-        from = range.end;
+
+    // The first one that was not taken yet. The next add() ends its life.
+    View take() {
+        const std::size_t begin = next_ == 0 ? 0 : ends_[next_ - 1];
+        return View(units_).substr(begin, ends_[next_++] - begin);
     }
-    result.text.append(text, from);
-    return result;
-}
+
+  private:
+    std::u16string units_;
+    std::vector<std::size_t> ends_;
+    std::size_t next_ = 0;
+};
 
 class Guard {
   public:
@@ -129,16 +130,15 @@ class Guard {
         : text_(text)
         , context_(context)
         , pieceSize_(pieceSize)
-        , lines_(scanStructure(text)) {
+        , lines_(scanStructure(text))
+        , stream_(onProse(steps), context, signs, putsSignsIn(context.options),
+                  [this](View done) { appendCleaned(done); }) {
         for (const Operation *const step : steps) {
             marksGo_ = marksGo_ || step->reach == Reach::quoteMarks;
             bulletsGo_ = bulletsGo_ || step->reach == Reach::bullets;
             lineEndsGo_ = lineEndsGo_ || step->reach == Reach::lineEnds;
             links_ = step->reach == Reach::addresses ? step : links_;
             tagsGo_ = tagsGo_ || step->index == removeTagsOperation;
-            if (runsOnProse(step)) {
-                steps_.push_back(guarded(step));
-            }
         }
         for (StructuredLine &line : lines_) {
             if (tagsGo_ && line.kind == LineKind::markup) {
@@ -204,16 +204,15 @@ class Guard {
     // Two blanks or a backslash at the end of a line mean its break.
     bool isMeant(std::size_t at) const {
         const View line = cut(lines_[at].words, lines_[at].end);
-        if (line.size() < 2 || (line.back() != u' ' && line.back() != u'\\')) {
+        if (!lines_[at].mayBreak || line.size() < 2) {
             return false;
         }
         const std::size_t ink = inkEnd(line);
         return ink > 0 && (line.substr(ink) == u"  " || ink == line.size()) && goesOn(at + 1);
     }
 
-    // Paragraphs with nothing but blank lines between them, from the line `at` on. Returns the line
-    // below them.
-    std::size_t paragraphs(std::size_t at) {
+    // Of paragraphs with nothing but blank lines between them, from the line `at` on.
+    std::size_t lastOfParagraphs(std::size_t at) const {
         std::size_t last = at;
         for (std::size_t row = at + 1; row < lines_.size(); ++row) {
             if (isPlain(row)) {
@@ -222,48 +221,59 @@ class Guard {
                 break;
             }
         }
+        return last;
+    }
+
+    // Returns the line below them.
+    std::size_t paragraphs(std::size_t at) {
+        const std::size_t last = lastOfParagraphs(at);
         const StructuredLine &end = lines_[last];
-        Signed signs;
         std::size_t from = lines_[at].begin;
+        if (lineEndsGo_ && at > 0) {
+            from += inkBegin(cut(from, lines_[at].end));
+        }
         for (std::size_t row = at; row < last; ++row) {
+            const auto &line = lines_[row];
             if (isMeant(row)) {
-                const auto &line = lines_[row];
                 const std::size_t ink = line.begin + inkEnd(cut(line.begin, line.end));
-                appendWords(signs, cut(from, ink));
-                signs.add(breakSign, cut(ink, line.next()));
+                block_.append(cut(from, ink));
+                addBreak(cut(ink, line.next()));
                 from = line.next();
+            } else if (line.begin == line.end && line.next() - from >= pieceSize_) {
+                // Nothing inside a sentence reaches across an empty line.
+                block_.append(cut(from, line.next()));
+                from = line.next();
+                clean(false);
             }
         }
         const bool stripped = lineEndsGo_ && end.end < end.next();
         const View words = cut(from, end.end);
-        appendWords(signs, words.substr(0, stripped ? inkEnd(words) : words.size()));
-        if (lineEndsGo_ && at > 0) {
-            signs.text.erase(0, inkBegin(signs.text));
-        }
-        result_.append(clean(std::move(signs))).append(cut(end.end, end.next()));
+        block_.append(words.substr(0, stripped ? inkEnd(words) : words.size()));
+        clean(true);
+        result_.append(cut(end.end, end.next()));
         return last + 1;
     }
 
     // A paragraph in a list or a quotation.
     std::size_t markedParagraph(std::size_t at) {
         const std::size_t begin = result_.size();
-        result_.append(marksOf(at));
+        appendMarks(result_, at);
         const bool marked = result_.size() > begin;
-        Signed signs;
         std::size_t row = at;
         for (bool more = true; more; row += more ? 1 : 0) {
             const auto &line = lines_[row];
             const View words = cut(line.words, line.end);
             const bool kept = isMeant(row) || !lineEndsGo_ || line.end == line.next();
             more = goesOn(row + 1);
-            appendWords(signs, words.substr(0, more || !kept ? inkEnd(words) : words.size()));
+            block_.append(words.substr(0, more || !kept ? inkEnd(words) : words.size()));
             if (more) {
-                std::u16string literal(kept ? words.substr(inkEnd(words)) : View());
-                literal.append(cut(line.end, line.next())).append(marksOf(row + 1));
-                signs.add(breakSign, literal);
+                literal_.assign(kept ? words.substr(inkEnd(words)) : View());
+                literal_.append(cut(line.end, line.next()));
+                appendMarks(literal_, row + 1);
+                addBreak(literal_);
             }
         }
-        result_.append(clean(std::move(signs)));
+        clean(true);
         if (marked || row > at) {
             markFixed(begin);
         }
@@ -271,30 +281,25 @@ class Guard {
         return row + 1;
     }
 
-    static void appendWords(Signed &signs, View words) {
-        std::size_t from = 0;
-        for (std::size_t at = text::findUnit(words, 0, breakSign); at < words.size();
-             at = text::findUnit(words, from, breakSign)) {
-            signs.text.append(words.substr(from, at - from));
-            signs.add(breakSign, words.substr(at, 1));
-            from = at + 1;
-        }
-        signs.text.append(words.substr(from));
+    void addBreak(View literal) {
+        breakPlaces_.push_back(block_.size());
+        block_.push_back(breakSign);
+        blockBreaks_.add(literal);
     }
 
     // What stands in front of the words of a line, without what is to go.
-    std::u16string marksOf(std::size_t at) {
+    void appendMarks(std::u16string &to, std::size_t at) {
         const auto &line = lines_[at];
-        std::u16string marks(cut(line.begin, line.quoted));
-        if (marksGo_ && isQuotedProse(at)) {
-            marks.clear();
+        if (!marksGo_ || !isQuotedProse(at)) {
+            to.append(cut(line.begin, line.quoted));
         }
         const View mark = cut(line.quoted, line.words);
         if (bulletsGo_ && line.item) {
             // An "o" is a bullet behind a break only.
-            return marks.append(removeBullets(std::u16string(u"\n").append(mark)), 1);
+            to.append(removeBullets(std::u16string(u"\n").append(mark)), 1);
+        } else {
+            to.append(mark);
         }
-        return marks.append(mark);
     }
 
     // Whether the line is part of a quotation of nothing but prose.
@@ -311,54 +316,82 @@ class Guard {
         return isQuoted(at) && quotedProse_;
     }
 
-    std::u16string clean(Signed &&breaks) const {
-        Signed words = withoutInlineStructure(std::move(breaks.text), tagsGo_);
-        std::u16string text;
-        if (words.literals.empty() && breaks.literals.empty()) {
-            text = runSteps(std::move(words.text), steps_, context_, pieceSize_);
-        } else {
-            text = cleanAround(words.text);
-        }
-        for (std::u16string &word : words.literals) {
-            if (links_ && !word.starts_with(u'`')) {
-                word = links_->run(std::move(word), context_);
-            }
-        }
-        text = withLiterals(std::move(text), wordSign, words.literals);
-        return withLiterals(std::move(text), breakSign, breaks.literals);
+    // Gives the block to the steps; with `last`, its text ends here.
+    void clean(bool last) {
+        hideInlineStructure();
+        breakPlaces_.clear();
+        stream_.put(block_, last);
     }
 
-    // Without the steps that take a sign out or put one in.
-    std::u16string cleanAround(const std::u16string &words) const {
-        const auto hasAllSigns = [&](View text) {
-            return std::ranges::all_of(std::array{wordSign, breakSign}, [&](char16_t sign) {
-                return std::ranges::count(text, sign) == std::ranges::count(words, sign);
-            });
-        };
-        std::u16string all = runSteps(words, steps_, context_, pieceSize_);
-        if (hasAllSigns(all)) {
-            return all;
-        }
-        std::u16string text = words;
-        for (const Operation *const step : steps_) {
-            std::u16string next = runSteps(text, {&step, 1}, context_, pieceSize_);
-            if (hasAllSigns(next)) {
-                text = std::move(next);
+    // Code, addresses, and the signs themselves where the text has them.
+    void hideInlineStructure() {
+        std::size_t to = 0;
+        std::size_t from = 0;
+        auto place = breakPlaces_.cbegin();
+        const auto keepUpTo = [&](std::size_t end) {
+            if (to != from) {
+                std::char_traits<char16_t>::move(&block_[to], &block_[from], end - from);
             }
+            to += end - from;
+            for (; place != breakPlaces_.cend() && *place < end; ++place) {
+                breaks_.add(blockBreaks_.take());
+            }
+        };
+        for (const text::Range &range :
+             findInlineStructure(block_, signs, breakPlaces_, tagsGo_)) {
+            keepUpTo(range.begin);
+            from = range.begin;
+            literal_.clear();
+            for (; place != breakPlaces_.cend() && *place < range.end; from = *place++ + 1) {
+                literal_.append(block_, from, *place - from).append(blockBreaks_.take());
+            }
+            words_.add(literal_.append(block_, from, range.end - from));
+            block_[to++] = wordSign;
+            from = range.end;
         }
-        return text;
+        keepUpTo(block_.size());
+        block_.resize(to);
+    }
+
+    void appendCleaned(View text) {
+        std::size_t from = 0;
+        text::UnitCursor cursor(text, signs);
+        for (std::size_t at = cursor.next(); at < text.size(); at = cursor.next()) {
+            result_.append(text.substr(from, at - from));
+            if (text[at] == breakSign) {
+                result_.append(breaks_.take());
+            } else {
+                appendWord(words_.take());
+            }
+            from = at + 1;
+        }
+        result_.append(text.substr(from));
+    }
+
+    void appendWord(View word) {
+        if (links_ && word.size() > 1 && !word.starts_with(u'`')) {
+            result_.append(links_->run(std::u16string(word), context_));
+        } else {
+            result_.append(word);
+        }
     }
 
     const View text_;
     const CleaningContext &context_;
     const std::size_t pieceSize_;
     std::vector<StructuredLine> lines_;
-    std::vector<const Operation *> steps_;
+    StepStream stream_;
     bool marksGo_ = false;
     bool bulletsGo_ = false;
     bool lineEndsGo_ = false;
     bool tagsGo_ = false;
     const Operation *links_ = nullptr; // what is to be done to addresses
+    std::u16string block_; // words that the steps have not seen yet, with signs in them
+    std::vector<std::size_t> breakPlaces_; // in it, of the signs that stand for breaks
+    Literals blockBreaks_;                 // what these stand for
+    Literals words_;                       // what the signs in the text further on stand for
+    Literals breaks_;
+    std::u16string literal_;
     std::u16string result_;
     text::Range fixed_;
     std::size_t quotationEnd_ = 0; // of the quotation looked at last

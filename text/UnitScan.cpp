@@ -31,6 +31,14 @@ NERLO_CLONES std::uint64_t scanUnit(const char16_t *units, char16_t unit) {
     return packFlags(flags);
 }
 
+NERLO_CLONES std::uint64_t scanPairs(const char16_t *units, char16_t unit) {
+    std::uint8_t flags[scanBlock];
+    for (std::size_t i = 0; i < scanBlock; ++i) {
+        flags[i] = ((units[i] ^ unit) | (units[i + 1] ^ unit)) == 0 ? 1 : 0;
+    }
+    return packFlags(flags);
+}
+
 NERLO_CLONES std::uint64_t scanUnits(const char *bytes, const UnitSet &ascii) {
     std::uint8_t flags[scanBlock] = {};
     for (const UnitSet::UnitRange range : ascii) {
@@ -70,6 +78,12 @@ std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &
 
 std::uint64_t scanTail(const char *bytes, std::size_t count, const UnitSet &ascii) {
     return scanLess(bytes, count, ascii);
+}
+
+std::uint64_t scanTailPairs(const char16_t *units, std::size_t count, char16_t unit) {
+    char16_t block[scanBlock + 1] = {};
+    std::memcpy(block, units, count * sizeof *units);
+    return scanPairs(block, unit);
 }
 
 std::size_t findUnit(std::u16string_view text, std::size_t from, const UnitSet &set) {

@@ -78,6 +78,8 @@ inline constexpr std::size_t scanBlock = 64;
 std::uint64_t scanUnits(const char16_t *units, const UnitSet &set);
 // The same for a single unit.
 std::uint64_t scanUnit(const char16_t *units, char16_t unit);
+// Bit i says whether units[i] and units[i + 1] are both `unit`. Reads exactly 65 units.
+std::uint64_t scanPairs(const char16_t *units, char16_t unit);
 
 // Whether the texts are the same; the string's own operator looks at one unit after another.
 inline bool sameUnits(std::u16string_view a, std::u16string_view b) {
@@ -87,6 +89,8 @@ inline bool sameUnits(std::u16string_view a, std::u16string_view b) {
 
 // The mask of the `count` (at most 64) units at `units`.
 std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &set);
+// The same for pairs in them; `unit` is not 0.
+std::uint64_t scanTailPairs(const char16_t *units, std::size_t count, char16_t unit);
 
 // The same for UTF-8 and a set of ASCII.
 std::uint64_t scanUnits(const char *bytes, const UnitSet &ascii);
@@ -102,10 +106,12 @@ std::size_t countUnits(std::u16string_view text, const UnitSet &set);
 // Walks the positions of a set in a text in order, keeping the mask of the block at hand.
 class UnitCursor {
   public:
-    // Both must outlive the cursor.
-    UnitCursor(std::u16string_view text, const UnitSet &set)
+    // Both must outlive the cursor. With `pair`, two of that unit in a row are a position too: that
+    // of the first.
+    UnitCursor(std::u16string_view text, const UnitSet &set, char16_t pair = u'\0')
         : text_(text)
-        , set_(set) {
+        , set_(set)
+        , pair_(pair) {
         load();
     }
 
@@ -142,6 +148,10 @@ class UnitCursor {
         const std::size_t left = text_.size() - block_;
         all_ = left >= scanBlock ? scanUnits(text_.data() + block_, set_)
                                  : scanTail(text_.data() + block_, left, set_);
+        if (pair_ != u'\0') {
+            all_ |= left > scanBlock ? scanPairs(text_.data() + block_, pair_)
+                                     : scanTailPairs(text_.data() + block_, left, pair_);
+        }
         mask_ = all_;
     }
     std::size_t end() {
@@ -152,6 +162,7 @@ class UnitCursor {
 
     std::u16string_view text_;
     const UnitSet &set_;
+    const char16_t pair_;
     std::size_t block_ = 0;
     std::uint64_t all_ = 0;  // of the block
     std::uint64_t mask_ = 0; // those of its bits that have not been given yet

@@ -36,8 +36,8 @@ TEST(StructureGuard, TidiesProseAndLeavesStructure) {
           u"See  `a  b`, <a  b=\"c\">, https://a.org/b__c  and  me@a.org .",
           u"See `a  b`, <a  b=\"c\">, https://a.org/b__c and me@a.org ."},
          {"a break that is meant", u"one  \ntwo \\\nthree", u"one  \ntwo \\\nthree"},
-         {"signs of its own", u"a  \uFDD0  b\n\uA000 c `\uA000\uFDD0`",
-          u"a \uFDD0 b\n\uA000 c `\uA000\uFDD0`"}},
+         {"signs of its own", u"a  \u16F9  b\n\u16F8 c `\u16F8\u16F9`",
+          u"a \u16F9 b\n\u16F8 c `\u16F8\u16F9`"}},
         [](const std::u16string &text) { return clean(text, spacesAndBreaks); });
 }
 

@@ -38,7 +38,7 @@ constexpr std::u16string_view structures =
     u"\n%\\%\n\\\n%"
     u"<b>%</b>%<!--%-->%<div>%https://a.org/b%me@b.org%www.c.de%[d](e f)%[d]: "
     u"e%{%}%;%=%(%)%,%.%:%-- \n%"
-    u"$ ls%a%B%word%Words%one two%\u65E5\u672C%\u3002%import a%return b;%x = 1%\uFDD0%\uA000%"
+    u"$ ls%a%B%word%Words%one two%\u65E5\u672C%\u3002%import a%return b;%x = 1%\u16F9%\u16F8%"
     u"The quick brown fox jumps over the lazy dog%and then it sleeps under the old oak tree again%"
     u"diff --git%@@ -1%+%-";
 
