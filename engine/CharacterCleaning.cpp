@@ -582,17 +582,23 @@ std::u16string CharacterClass::cleaned(std::u16string text) const {
     return text::findUnit(text, 0, units) < text.size() ? clean(std::move(text), count) : text;
 }
 
-std::u16string cleanCharacters(std::u16string text, const CleaningOptions &options) {
-    const bool ascii = text::findUnit(text, 0, notable) == text.size();
+std::u16string cleanCharactersAlone(std::u16string text, const CleaningOptions &options) {
+    if (text::findUnit(text, 0, notable) == text.size()) {
+        return text;
+    }
     for (const CharacterClass &row : classes) {
-        if (ascii && row.clean != removeMarkdown) {
-            continue;
-        }
-        if (row.isOn(options)) {
+        if (row.clean != removeMarkdown && row.isOn(options)) {
             text = row.cleaned(std::move(text));
         }
     }
     return text;
+}
+
+std::u16string cleanCharacters(std::u16string text, const CleaningOptions &options) {
+    static constexpr const CharacterClass &markdown = *(std::end(classes) - 1);
+    static_assert(markdown.clean == removeMarkdown);
+    text = cleanCharactersAlone(std::move(text), options);
+    return markdown.isOn(options) ? markdown.cleaned(std::move(text)) : text;
 }
 
 } // namespace nerlo::engine

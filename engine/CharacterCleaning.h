@@ -33,5 +33,7 @@ std::span<const CharacterClass> characterClasses();
 
 // All classes that are on. A second run changes nothing.
 std::u16string cleanCharacters(std::u16string text, const CleaningOptions &options);
+// The same, but for the marks of Markdown.
+std::u16string cleanCharactersAlone(std::u16string text, const CleaningOptions &options);
 
 } // namespace nerlo::engine

@@ -174,7 +174,8 @@ class InlineScan {
             inside.find_first_of(u" \n") == View::npos &&
             (inside.find(u':') != View::npos || inside.find(u'@') != View::npos) &&
             inside.find(u'=') == View::npos;
-        const bool goes = tagsGo_ && !isAddress && text::findUnit(inside, 0, signs_) == inside.size();
+        const bool goes =
+            tagsGo_ && !isAddress && text::findUnit(inside, 0, signs_) == inside.size();
         return goes ? close + 1 : add(at, close + 1);
     }
 

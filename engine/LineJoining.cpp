@@ -325,15 +325,12 @@ class WrappedParagraphs {
     // Units that the line would have with the next word behind it.
     std::size_t roomOf(std::size_t at) const {
         const Line &next = lines_[at + 1];
-        const std::size_t word =
-            isIdeograph(text_[next.begin]) ? 1 : next.wordEnd - next.begin + 1;
+        const std::size_t word = isIdeograph(text_[next.begin]) ? 1 : next.wordEnd - next.begin + 1;
         return lines_[at].end - lines_[at].begin + word;
     }
 
     // A line of a list of names or paths has no blanks, or one.
-    bool hasWords(std::size_t at) const {
-        return isIdeograph(firstOf(at)) || lines_[at].hasBlanks;
-    }
+    bool hasWords(std::size_t at) const { return isIdeograph(firstOf(at)) || lines_[at].hasBlanks; }
 
     // Whether a screen of a usual width may have cut a word here, so that no blank belongs there.
     bool isCut(std::size_t at, std::size_t width) const {

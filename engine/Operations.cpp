@@ -279,10 +279,8 @@ constexpr Operation table[] = {
     {39, "repair-encoding", "sRepairEncoding", "undo that text was read in a wrong charset", repair,
      nullptr, Reach::whole},
     {40, "clean-characters", "sCleanCharacters",
-     "take out characters that nobody sees, and odd ones to plain ones", removeOddCharacters,
-     nullptr, Reach::whole},
-    {41, "rejoin-words", "sRejoinWords", "rejoin words that were cut at line ends", rejoin, nullptr,
-     Reach::whole},
+     "take out characters that nobody sees, and odd ones to plain ones", removeOddCharacters},
+    {41, "rejoin-words", "sRejoinWords", "rejoin words that were cut at line ends", rejoin},
     {42, "clean-links", "sCleanLinks", "take tracking parameters out of web addresses",
      cleanAddresses, nullptr, Reach::addresses},
 };

@@ -330,7 +330,8 @@ class MarkedStructure {
         if (lines_[at_].marked && (line_.starts_with(u"Index: ") || beginsWithHost(line_))) {
             return true;
         }
-        const bool mayBe = line_[1] == u'i' || line_[1] == u'S' || line_[1] == u'r' || line_[1] == u'-';
+        const bool mayBe =
+            line_[1] == u'i' || line_[1] == u'S' || line_[1] == u'r' || line_[1] == u'-';
         return mayBe &&
                (line_.starts_with(u"diff ") || line_.starts_with(u"PS ") || isFileMode(line_));
     }
@@ -642,9 +643,8 @@ bool beginsLikeCode(View words) {
     if (word && (words.size() < 3 || !codeHashes[hashOf(words)])) {
         return false;
     }
-    return std::ranges::any_of(codeStarts, [&](View start) {
-        return words[0] == start[0] && words.starts_with(start);
-    });
+    return std::ranges::any_of(
+        codeStarts, [&](View start) { return words[0] == start[0] && words.starts_with(start); });
 }
 
 bool looksLikeCode(View words) {

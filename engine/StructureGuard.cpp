@@ -1,7 +1,9 @@
 #include "engine/StructureGuard.h"
 
+#include "engine/CharacterCleaning.h"
 #include "engine/InlineStructure.h"
 #include "engine/LineJoining.h"
+#include "engine/MarkdownMarks.h"
 #include "engine/Markup.h"
 #include "engine/StepStream.h"
 #include "engine/Structure.h"
@@ -67,6 +69,10 @@ std::u16string joinLines(std::u16string text, const CleaningContext &context) {
                             context.options.udChangeWrongInsertedReturnsOption == 1);
 }
 
+std::u16string cleanCharactersOfProse(std::u16string text, const CleaningContext &context) {
+    return cleanCharactersAlone(std::move(text), context.options);
+}
+
 bool always(const CleaningOptions &) {
     return true;
 }
@@ -75,9 +81,11 @@ bool always(const CleaningOptions &) {
 const Operation *guarded(const Operation *step) {
     static const Operation joints{33, {}, {}, {}, joinLines, nullptr, Reach::lineJoints};
     static const Operation lineEnds{21, {}, {}, {}, removeLineEnds, always};
-    return step->reach == Reach::lineJoints ? &joints
-           : step->reach == Reach::lineEnds ? &lineEnds
-                                            : step;
+    static const Operation characters{cleanCharactersOperation, {}, {}, {}, cleanCharactersOfProse};
+    return step->reach == Reach::lineJoints          ? &joints
+           : step->reach == Reach::lineEnds          ? &lineEnds
+           : step->index == cleanCharactersOperation ? &characters
+                                                     : step;
 }
 
 std::vector<const Operation *> onProse(Steps steps) {
@@ -139,6 +147,9 @@ class Guard {
             lineEndsGo_ = lineEndsGo_ || step->reach == Reach::lineEnds;
             links_ = step->reach == Reach::addresses ? step : links_;
             tagsGo_ = tagsGo_ || step->index == removeTagsOperation;
+            if (step->index == cleanCharactersOperation) {
+                apostrophe_ = cleanCharactersAlone(apostrophe_, context.options);
+            }
         }
         for (StructuredLine &line : lines_) {
             if (tagsGo_ && line.kind == LineKind::markup) {
@@ -337,8 +348,7 @@ class Guard {
                 breaks_.add(blockBreaks_.take());
             }
         };
-        for (const text::Range &range :
-             findInlineStructure(block_, signs, breakPlaces_, tagsGo_)) {
+        for (const text::Range &range : findInlineStructure(block_, signs, breakPlaces_, tagsGo_)) {
             keepUpTo(range.begin);
             from = range.begin;
             literal_.clear();
@@ -369,7 +379,9 @@ class Guard {
     }
 
     void appendWord(View word) {
-        if (links_ && word.size() > 1 && !word.starts_with(u'`')) {
+        if (word == u"\u2019") {
+            result_.append(apostrophe_);
+        } else if (links_ && word.size() > 1 && !word.starts_with(u'`')) {
             result_.append(links_->run(std::u16string(word), context_));
         } else {
             result_.append(word);
@@ -385,7 +397,8 @@ class Guard {
     bool bulletsGo_ = false;
     bool lineEndsGo_ = false;
     bool tagsGo_ = false;
-    const Operation *links_ = nullptr; // what is to be done to addresses
+    const Operation *links_ = nullptr;      // what is to be done to addresses
+    std::u16string apostrophe_ = u"\u2019"; // what becomes of one
     std::u16string block_; // words that the steps have not seen yet, with signs in them
     std::vector<std::size_t> breakPlaces_; // in it, of the signs that stand for breaks
     Literals blockBreaks_;                 // what these stand for
@@ -414,6 +427,10 @@ std::u16string trimmed(std::u16string text, text::Range fixed) {
     return text;
 }
 
+bool has(Steps steps, std::int32_t operation) {
+    return std::ranges::find(steps, operation, &Operation::index) != steps.end();
+}
+
 } // namespace
 
 Steps guardedSteps(Steps steps) {
@@ -432,6 +449,10 @@ std::u16string runGuarded(std::u16string text, Steps steps, const CleaningContex
         const bool trims = std::ranges::any_of(
             guarded, [](const Operation *step) { return step->reach == Reach::textEnds; });
         text = trims ? trimmed(std::move(result), guard.fixed()) : std::move(result);
+        if (context.options.udCleanCharactersMarkdown && has(guarded, cleanCharactersOperation)) {
+            std::size_t count = 0;
+            text = removeMarkdown(std::move(text), count);
+        }
     }
     return runSteps(std::move(text), {guarded.end(), steps.end()}, context, pieceSize);
 }

@@ -217,31 +217,52 @@ CleaningOptions withRulesUpTo(std::size_t number, const CleaningOptions &options
     return some;
 }
 
+CleaningOptions withClassesUpTo(const CharacterClass &last, const CleaningOptions &options) {
+    CleaningOptions some = options;
+    const auto rows = characterClasses();
+    for (const CharacterClass &row :
+         rows.subspan(static_cast<std::size_t>(&last - rows.data()) + 1)) {
+        some.*row.otherwise = row.usual;
+    }
+    return some;
+}
+
 // What the guard protects is told from the text that its first step is given. So the text behind
 // each step is what the steps up to there make of that one.
 void traceGuarded(Tracer &tracer, Steps steps, const CleaningContext &context) {
     const std::u16string given = tracer.text();
     struct Stage {
         std::size_t steps;
-        std::size_t rule;
+        std::size_t rule = 0;
+        const CharacterClass *characters = nullptr;
     };
     std::vector<Stage> stages;
     for (std::size_t at = 0; at < steps.size(); ++at) {
-        if (steps[at]->index != findReplaceOperation) {
-            stages.push_back({at + 1, 0});
-            continue;
-        }
-        for (const NumberedRule &rule : activeRules(context.options)) {
-            stages.push_back({at + 1, rule.number});
+        if (steps[at]->index == findReplaceOperation) {
+            for (const NumberedRule &rule : activeRules(context.options)) {
+                stages.push_back({at + 1, rule.number});
+            }
+        } else if (steps[at]->index == cleanCharactersOperation) {
+            for (const CharacterClass &row : characterClasses()) {
+                if (row.isOn(context.options)) {
+                    stages.push_back({at + 1, 0, &row});
+                }
+            }
+        } else {
+            stages.push_back({at + 1});
         }
     }
     for (const Stage &stage : stages) {
         const CleaningOptions options =
-            stage.rule == 0 ? context.options : withRulesUpTo(stage.rule, context.options);
+            stage.characters  ? withClassesUpTo(*stage.characters, context.options)
+            : stage.rule != 0 ? withRulesUpTo(stage.rule, context.options)
+                              : context.options;
         const bool last = &stage == &stages.back(); // what could not be done is told once
         const CleaningContext part{options, context.locale, context.actualVersion,
                                    last ? context.report : nullptr};
-        tracer.step({.operation = steps[stage.steps - 1], .rule = stage.rule},
+        tracer.step({.operation = steps[stage.steps - 1],
+                     .rule = stage.rule,
+                     .characters = stage.characters ? stage.characters->name : std::string_view()},
                     [&](const std::u16string &) {
                         return runGuarded(given, steps.first(stage.steps), part, cachedPiece);
                     });

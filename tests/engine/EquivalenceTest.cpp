@@ -291,7 +291,7 @@ TEST(RandomTexts, KeepTheirStructureWithAnyOptions) {
         options.udProtectStructure = true;
         // These move lines, and take them away.
         options.udSort = options.udRemoveDuplicateLines = false;
-        options.udRemoveHTMLTags = false;
+        options.udRemoveHTMLTags = options.udCleanCharactersMarkdown = false;
         const engine::CleaningContext context{options, random.locale()};
         const std::vector<const engine::Operation *> steps = engine::operationsSwitchedOn(options);
         const auto guarded = engine::guardedSteps(steps);

@@ -35,6 +35,7 @@ TEST(StructureGuard, TidiesProseAndLeavesStructure) {
          {"code and addresses in prose",
           u"See  `a  b`, <a  b=\"c\">, https://a.org/b__c  and  me@a.org .",
           u"See `a  b`, <a  b=\"c\">, https://a.org/b__c and me@a.org ."},
+         {"a break behind an address", u"https://a.org  \nb  c", u"https://a.org  \nb c"},
          {"a break that is meant", u"one  \ntwo \\\nthree", u"one  \ntwo \\\nthree"},
          {"signs of its own", u"a  \u16F9  b\n\u16F8 c `\u16F8\u16F9`",
           u"a \u16F9 b\n\u16F8 c `\u16F8\u16F9`"}},
@@ -74,6 +75,25 @@ TEST(StructureGuard, ApostrophesAreNoQuotes) {
                [](const std::u16string &text) {
                    return clean(text, {{"udChangeQuotes", 1}});
                });
+}
+
+TEST(StructureGuard, CharactersAndWordsOfCodeStay) {
+    expectRows({{"characters", u"It\u2019s so\u2026\n\n    it\u2019s\u2026\n\n# It\u2019s",
+                 u"It's so...\n\n    it\u2019s\u2026\n\n# It\u2019s"},
+                {"behind code in the same line", u"`\u2026` is\u2026", u"`\u2026` is..."},
+                {"words", u"A transfor-\nmation, as any transformation\n\n```\na transfor-\nmation",
+                 u"A transformation,\nas any transformation\n\n```\na transfor-\nmation"}},
+               [](const std::u16string &text) {
+                   return clean(text, {{"udCleanCharacters", 1},
+                                       {"udCleanCharactersPlainMarks", 1},
+                                       {"udRejoinWords", 1}});
+               });
+    EXPECT_EQ(clean(u"# A **b**\n\n```\n a  b\n```\n\nc  d",
+                    {{"udCleanCharacters", 1},
+                     {"udCleanCharactersMarkdown", 1},
+                     {"udChangeMultipleSpacesToSingleSpace", 1}}),
+              u"A b\n\n a  b\n\nc d")
+        << "what marks of Markdown tell is still known when they go";
 }
 
 TEST(StructureGuard, HoldsForSingleOperationsToo) {
