@@ -215,8 +215,8 @@ class WaylandDesktop(Desktop):
     KEYMAP = ('xkb_keymap { xkb_keycodes { include "evdev+aliases(qwerty)" }; '
               'xkb_types { include "complete" }; xkb_compat { include "complete" }; '
               'xkb_symbols { include "pc+us+inet(evdev)" }; };\0').encode()
-    CODES = {"Escape": 1, "7": 8, "9": 10, "0": 11, "minus": 12, "Return": 28, "ctrl": 29, "shift": 42,
-             "alt": 56, "space": 57, "Up": 103, "Down": 108, "Delete": 111, "super": 125}
+    CODES = {"Escape": 1, "7": 8, "9": 10, "0": 11, "minus": 12, "Tab": 15, "Return": 28, "ctrl": 29,
+             "shift": 42, "alt": 56, "space": 57, "Up": 103, "Down": 108, "Delete": 111, "super": 125}
     CODES |= {letter: first + place
               for first, row in ((16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm"))
               for place, letter in enumerate(row)}
