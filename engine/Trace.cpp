@@ -242,7 +242,7 @@ void traceGuarded(Tracer &tracer, Steps steps, const CleaningContext &context) {
             for (const NumberedRule &rule : activeRules(context.options)) {
                 stages.push_back({at + 1, rule.number});
             }
-        } else if (steps[at]->index == cleanCharactersOperation) {
+        } else if (steps[at]->index == cleanCharactersOperation && tracer.how().characterClasses) {
             for (const CharacterClass &row : characterClasses()) {
                 if (row.isOn(context.options)) {
                     stages.push_back({at + 1, 0, &row});
