@@ -8,7 +8,7 @@ import plistlib
 import time
 import unittest
 
-from desktop_session import TABLE_CELL, Eyes, Program, desktop, wait_until
+from desktop_session import TABLE_CELL, Eyes, Program, desktop, output_of, wait_until
 
 CONFIG = os.environ["XDG_CONFIG_HOME"] + "/nerlo-pro"
 DATA = os.environ["XDG_DATA_HOME"] + "/nerlo-pro/Data"
@@ -40,6 +40,17 @@ class RulesTest(unittest.TestCase):
 
     def cell(self, name):
         wait_until(lambda: self.eyes.shows(TABLE_CELL, name), "the cell " + name)
+
+    def windows(self):
+        return output_of("xdotool", "search", "--onlyvisible", "--class", "nerlo-pro").split()
+
+    def choose(self, place):
+        """An item of the menu. Keys that come while a menu opens or closes may go elsewhere."""
+        before = self.windows()
+        self.press(self.eyes.key("More"))
+        wait_until(lambda: len(self.windows()) > len(before), "the menu is open")
+        self.press(*["Down"] * place, "Return")
+        wait_until(lambda: self.windows() == before, "the menu is closed")
 
     def saved(self):
         try:
@@ -86,9 +97,9 @@ class RulesTest(unittest.TestCase):
         wait_until(lambda: self.saved() == [], "the rule is gone")
         self.press("ctrl+z")
         wait_until(lambda: self.saved() == [rule], "the rule is back")
-        self.press(self.eyes.key("More"), "Down", "Return")
+        self.choose(1)
         wait_until(lambda: self.desktop.paste().startswith("nerlo-rules 1\n"), "it is copied")
-        self.press(self.eyes.key("More"), "Down", "Down", "Return")
+        self.choose(2)
         wait_until(lambda: self.saved() == [rule] * 2, "it is pasted")
         self.press("ctrl+shift+z", "ctrl+z")
         wait_until(lambda: self.saved() == [rule], "the paste is undone")
