@@ -15,6 +15,13 @@ namespace nerlo::test {
 
 using Arguments = std::vector<std::string>;
 
+// What a process takes under a sanitizer does not tell what it takes without.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+inline constexpr bool peakTellsMemory = false;
+#else
+inline constexpr bool peakTellsMemory = true;
+#endif
+
 // A running program, killed with the object if it still runs. Its output goes to a file: with a
 // pipe, a child that it leaves behind would keep the reader waiting.
 class Process {

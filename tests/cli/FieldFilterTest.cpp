@@ -221,7 +221,7 @@ TEST(Batch, CompressedInputIsUnpacked) {
         }
         const Ended ended = NerloRun{batch, bombs, {}, "exec >/dev/null"}.toEnd();
         EXPECT_EQ(ended.status, 0) << ended.err;
-        EXPECT_LT(ended.peakKilobytes, 100 << 10);
+        EXPECT_TRUE(!peakTellsMemory || ended.peakKilobytes < 100 << 10);
     }
     for (const char *name : {"plain.gz", "plain.zst"}) {
         std::ofstream(folder / name) << line;

@@ -79,7 +79,8 @@ TEST(Stream, MemoryStaysSmallWhateverComes) {
                                "' | head -c 6000000 >$0.pipe; } & exec <$0.pipe >/dev/null"};
         const Ended ended = run.toEnd();
         EXPECT_EQ(ended.status, 0) << ended.err;
-        EXPECT_LT(ended.peakKilobytes, 20'000) << row.operations << " on lines of " << row.line;
+        EXPECT_TRUE(!peakTellsMemory || ended.peakKilobytes < 20'000)
+            << ended.peakKilobytes << ": " << row.operations << " on lines of " << row.line;
     }
 }
 

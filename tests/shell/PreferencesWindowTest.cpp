@@ -40,7 +40,12 @@ class Preferences : public ProgramFixture {
     std::unique_ptr<PreferencesWindow> window;
 
     void SetUp() override { open(); }
-    void TearDown() override { setAlertAnswers({}); }
+    // A cell that is being edited ends that while the window goes.
+    void TearDown() override {
+        setAlertAnswers({});
+        preferences.hooks() = {};
+        window.reset();
+    }
 
     void open() {
         window = std::make_unique<PreferencesWindow>(program);
