@@ -101,8 +101,9 @@ std::optional<ChosenName> askForName(const NameQuestion &question, QWidget *pare
     auto *buttons = new QDialogButtonBox;
     QObject::connect(buttons->addButton(localized("OK"), QDialogButtonBox::AcceptRole),
                      &QPushButton::clicked, &dialog, &QDialog::accept);
-    QObject::connect(buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole),
-                     &QPushButton::clicked, &dialog, &QDialog::reject);
+    QObject::connect(
+        buttons->addButton(localized(Table::shortcut, "Cancel"), QDialogButtonBox::RejectRole),
+        &QPushButton::clicked, &dialog, &QDialog::reject);
     for (QWidget *widget : {static_cast<QWidget *>(message), static_cast<QWidget *>(field),
                             static_cast<QWidget *>(label), static_cast<QWidget *>(beginning),
                             static_cast<QWidget *>(buttons)}) {

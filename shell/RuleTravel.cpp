@@ -76,8 +76,9 @@ bool confirmImport(const settings::RuleList &list, const storage::PropertyArray 
     auto *buttons = new QDialogButtonBox;
     auto *import = buttons->addButton(localized("sRulesImportDo"), QDialogButtonBox::AcceptRole);
     QObject::connect(import, &QPushButton::clicked, &dialog, &QDialog::accept);
-    QObject::connect(buttons->addButton(localized("Cancel"), QDialogButtonBox::RejectRole),
-                     &QPushButton::clicked, &dialog, &QDialog::reject);
+    QObject::connect(
+        buttons->addButton(localized(Table::shortcut, "Cancel"), QDialogButtonBox::RejectRole),
+        &QPushButton::clicked, &dialog, &QDialog::reject);
     layout->addWidget(buttons);
     import->setDefault(true);
     import->setFocus();
