@@ -1,4 +1,5 @@
-// Main thread only.
+// Text fields and the keys for undo and redo: who of a field and its window takes them. Main thread
+// only.
 #pragma once
 
 class QWidget;

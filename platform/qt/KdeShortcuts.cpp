@@ -170,7 +170,10 @@ void KdeShortcuts::listen() {
     }
     call(QStringLiteral("getComponent"), {component_}, [this](const QDBusMessage &reply) {
         const auto path = reply.arguments().value(0).value<QDBusObjectPath>().path();
-        listening_ = !path.isEmpty();
+        if (path.isEmpty()) {
+            listening_ = false; // the next one asks again
+            return;
+        }
         bus_.connect(service, path, componentInterface, QStringLiteral("globalShortcutPressed"),
                      this, SLOT(onPressed(QDBusMessage)));
     });
