@@ -4,7 +4,7 @@
 #include "cli/Input.h"
 #include "cli/Output.h"
 #include "settings/Listings.h"
-#include "settings/ProfilesFile.h"
+#include "settings/ProfileTravel.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "storage/FileSettingsStore.h"
@@ -16,7 +16,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <filesystem>
 #include <memory>
 
 namespace nerlo::cli {
@@ -103,6 +102,19 @@ struct Profiles {
     void save() { orFail(file.save(items)); }
 };
 
+struct Store {
+    storage::FileSettingsStore values;
+
+    explicit Store(const settings::SettingsPaths &paths)
+        : values(paths.store) {
+        orFail(values.loadError());
+    }
+    void save() {
+        values.synchronize();
+        orFail(values.error());
+    }
+};
+
 // One line for each.
 std::string readyLines() {
     std::string text;
@@ -144,49 +156,23 @@ void show(const std::string &nameOrIndex, bool asJson) {
     writeOutput(asJson ? object.dump(2) + "\n" : text);
 }
 
-// One profile, or a list of them as the program's own file holds it.
-PropertyArray readProfiles(const std::string &file) {
+void importFile(const std::string &file) {
     Progress progress;
     const InputFile input(file);
     const Bytes bytes = readBytes(input.descriptor(), nameOf(file), progress);
-    auto parsed = storage::parsePropertyList(bytes.view());
-    if (!parsed.value) {
-        throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + parsed.error);
-    }
-    auto *array = parsed.value->as<PropertyArray>();
-    PropertyArray records = array ? std::move(*array) : PropertyArray{*parsed.value};
-    for (PropertyValue &value : records) {
-        auto *record = value.as<PropertyDictionary>();
-        const bool known =
-            record && std::ranges::any_of(*record, [](const auto &entry) {
-                return settings::findKey(entry.first, settings::SettingScope::Profile) != nullptr;
-            });
-        if (!known) {
-            throw Failure(ExitStatus::ioFailed, nameOf(file) + ": no profile of settings keys");
-        }
-        if (settings::profileNameOf(*record).empty()) {
-            const std::string name = std::filesystem::path(nameOf(file)).stem().string();
-            record->set("profileName", text::utf8ToUtf16(name).text);
-        }
-    }
-    return records;
-}
-
-void importFile(const std::string &file) {
-    PropertyArray records = readProfiles(file);
+    settings::ReadProfiles read = settings::parseProfiles(bytes.view(), nameOf(file));
+    orFail(read.error);
     Profiles profiles;
-    for (PropertyValue &record : records) {
-        profiles.add(std::move(*record.as<PropertyDictionary>()));
+    for (PropertyDictionary &record : read.records) {
+        profiles.add(std::move(record));
     }
     profiles.save();
 }
 
 void selectPlace(const settings::SettingsPaths &paths, std::size_t place) {
-    storage::FileSettingsStore store(paths.store);
-    orFail(store.loadError());
-    store.set(settings::selectedProfileKey, static_cast<std::int64_t>(place));
-    store.synchronize();
-    orFail(store.error());
+    Store store(paths);
+    store.values.set(settings::selectedProfileKey, static_cast<std::int64_t>(place));
+    store.save();
 }
 
 std::u16string newName(const std::string &name) {
@@ -198,8 +184,14 @@ std::u16string newName(const std::string &name) {
 
 void rename(const std::string &nameOrIndex, const std::string &name) {
     Profiles profiles;
-    profiles.items[profiles.placeOf(nameOrIndex)].record.set("profileName", newName(name));
+    Store store(profiles.paths);
+    PropertyDictionary &record = profiles.items[profiles.placeOf(nameOrIndex)].record;
+    const std::u16string before = settings::profileNameOf(record);
+    const std::u16string after = newName(name);
+    record.set("profileName", after);
     profiles.save();
+    settings::renameInCopyTable(store.values, profiles.items, before, after);
+    store.save();
 }
 
 void duplicate(const std::string &nameOrIndex, const std::string &name) {
@@ -251,17 +243,12 @@ void restore(const std::string &name) {
 
 void exportTo(const std::string &nameOrIndex, const std::string &file) {
     const Profiles profiles;
-    const PropertyValue profile(profiles.find(nameOrIndex));
+    const PropertyDictionary record = profiles.find(nameOrIndex);
     if (file == "-") {
-        writeOutput(storage::writePropertyList(profile));
+        writeOutput(storage::writePropertyList(record));
         return;
     }
-    std::error_code ignored;
-    const auto status = std::filesystem::status(file, ignored);
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-        throw Failure(ExitStatus::ioFailed, file + ": not a regular file");
-    }
-    orFail(storage::replaceWithPropertyList(file, profile));
+    orFail(settings::exportProfile(file, record));
 }
 
 struct Arguments {

@@ -6,6 +6,8 @@ namespace nerlo::settings {
 
 namespace {
 
+constexpr std::size_t valuesOfARow = 8; // of the table of copies
+
 std::size_t valuesOf(const RecordItems &items) {
     std::size_t values = 0;
     for (const RecordItem &item : items) {
@@ -19,7 +21,9 @@ std::size_t valuesOf(const RecordItems &items) {
 }
 
 std::size_t valuesOf(const EditedState &state) {
-    return valuesOf(state.profiles) + valuesOf(state.sharedRules);
+    const auto *rows = state.copyTable ? state.copyTable->as<storage::PropertyArray>() : nullptr;
+    return valuesOf(state.profiles) + valuesOf(state.sharedRules) +
+           (rows ? rows->size() * valuesOfARow : 0);
 }
 
 } // namespace

@@ -164,6 +164,17 @@ std::string RemovedProfilesFile::add(ProfileRecord record) {
     return save(items);
 }
 
+std::string RemovedProfilesFile::take(const ProfileRecord &record) {
+    RecordItems items = load();
+    const auto found = std::find_if(items.rbegin(), items.rend(),
+                                    [&](const RecordItem &item) { return item.record == record; });
+    if (found == items.rend()) {
+        return {};
+    }
+    items.erase(std::next(found).base());
+    return save(items);
+}
+
 int selectedPlace(std::int64_t stored, std::size_t count) {
     const auto size = static_cast<std::int64_t>(count);
     if (stored > size && size > 0) {

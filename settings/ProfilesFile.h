@@ -117,6 +117,8 @@ class RemovedProfilesFile : public RecordsFile {
     // Puts the record behind the others, of which the oldest goes when there are too many. Empty
     // when done, else why it could not be written.
     std::string add(ProfileRecord record);
+    // Takes out the newest one like this, if there is any. Empty when done.
+    std::string take(const ProfileRecord &record);
 };
 
 // The list of rules that all profiles may share.

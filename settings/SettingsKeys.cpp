@@ -59,7 +59,7 @@ constexpr StoreKey storeKeys[] = {
      "neither a status-bar item nor an entry in the taskbar"},
     {"disableAutomaticallyClearFormatting", SettingKind::Boolean, "application",
      "leave copies from spreadsheets alone"},
-    {"copyTable", SettingKind::List, "profile", "which profile cleans which copy"},
+    {copyTableKey, SettingKind::List, "profile", "which profile cleans which copy"},
     {"preferencesPage", SettingKind::Integer, "application", "the page that is open"},
     {"preferencesHeight", SettingKind::Integer, "application", "height of the window"},
     {"firstRunPreferences", SettingKind::Boolean, "start", "the first start has been handled"},

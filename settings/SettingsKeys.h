@@ -56,6 +56,8 @@ inline constexpr CommandHotKey commandHotKeys[] = {
 
 // In the store: the place of the selected profile.
 inline constexpr const char *selectedProfileKey = "udSelectedProfileItem";
+// In the store: which profile cleans which copy.
+inline constexpr const char *copyTableKey = "copyTable";
 
 // Profile keys in the order in which a profile is written, then the keys of the store. Made once;
 // any thread.

@@ -1,10 +1,12 @@
 #include "settings/nrPreferences.h"
 
 #include "settings/Migration.h"
+#include "settings/ProfileTravel.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "storage/PropertyList.h"
 #include "storage/SafeFile.h"
+#include "text/Utf.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,6 +30,17 @@ ProfileRecord firstProfile() {
     return {{"profileName", u"profile 1"}};
 }
 
+bool isIn(const RecordItems &items, std::uint64_t id) {
+    return std::ranges::find(items, id, &RecordItem::id) != items.end();
+}
+
+// "Mail" of "Mail 2".
+std::u16string_view withoutNumber(std::u16string_view name) {
+    const auto last = name.find_last_not_of(u"0123456789");
+    const bool numbered = last != name.npos && last > 0 && name[last] == u' ';
+    return numbered && last + 1 < name.size() ? name.substr(0, last) : name;
+}
+
 } // namespace
 
 nrPreferences *nrPreferences::sharedInstance() {
@@ -46,6 +59,7 @@ nrPreferences::nrPreferences(storage::SettingsStore &store, platform::MainQueue 
     , calls_(calls)
     , optionLists_(settings::optionLists(localize_))
     , file_(paths_.profiles, calls)
+    , removed_(paths_.removedProfiles, calls)
     , sharedFile_(paths_.sharedFindReplace, calls)
     , findReplace_(localize_) {
     if (!instance) {
@@ -356,6 +370,9 @@ bool nrPreferences::profilesRemove() {
     if (tag < 0 || static_cast<std::size_t>(tag) >= profilesItems_.size()) {
         return false;
     }
+    if (!keepSelected()) {
+        return false;
+    }
     asGesture({}, [&] {
         profilesItems_.erase(profilesItems_.begin() + tag);
         saveProfilesWithArray();
@@ -363,6 +380,121 @@ bool nrPreferences::profilesRemove() {
         profilesSelect();
     });
     return true;
+}
+
+// Among the removed ones, as it is edited.
+bool nrPreferences::keepSelected() {
+    return report(removed_.add(profileSelected())).empty();
+}
+
+int nrPreferences::placeOf(std::uint64_t id) const {
+    const auto item = std::ranges::find(profilesItems_, id, &ProfileItem::id);
+    return item == profilesItems_.end() ? -1 : static_cast<int>(item - profilesItems_.begin());
+}
+
+void nrPreferences::profilesRename(std::uint64_t id, const std::u16string &name) {
+    const int place = placeOf(id);
+    if (place < 0 || name.empty()) {
+        return;
+    }
+    ProfileRecord &record = profilesItems_[static_cast<std::size_t>(place)].record;
+    const std::u16string before = profileNameOf(record);
+    if (before == name) {
+        return;
+    }
+    asGesture({}, [&] {
+        record.set("profileName", name);
+        if (place == selectedItem_) {
+            edited_.set("profileName", name);
+        }
+        renameInCopyTable(store_, profilesItems_, before, name);
+        refreshProfilesMenu();
+        saveChangesInProfiles();
+    });
+}
+
+void nrPreferences::profilesMove(int from, int place) {
+    const int count = static_cast<int>(profilesItems_.size());
+    if (from < 0 || from >= count || place < 0 || place > count) {
+        return;
+    }
+    asGesture({}, [&] {
+        const std::uint64_t selected = editedState().selected;
+        const auto begin = profilesItems_.begin();
+        if (place > from) {
+            std::rotate(begin + from, begin + from + 1, begin + place);
+        } else {
+            std::rotate(begin + place, begin + from, begin + from + 1);
+        }
+        selectedItem_ = placeOf(selected);
+        refreshProfilesMenu();
+        saveChangesInProfiles();
+        store_.set(selectedProfileKey, selectedItem_);
+    });
+}
+
+void nrPreferences::profilesDuplicate() {
+    const auto isThere = [&](const std::u16string &name) {
+        return std::ranges::any_of(profilesItems_, [&](const ProfileItem &item) {
+            return profileNameOf(item.record) == name;
+        });
+    };
+    const std::u16string current = profileName();
+    std::u16string name;
+    for (int number = 2; name.empty() || isThere(name); ++number) {
+        name = std::u16string(withoutNumber(current)) + u' ' +
+               text::utf8ToUtf16(std::to_string(number)).text;
+    }
+    profilesAdd();
+    profilesAddingCloseWindow(name, profileSelected());
+}
+
+ProfileRecord nrPreferences::firstProfileRecord() const {
+    return firstStartProfile(language_);
+}
+
+bool nrPreferences::profilesReset(ProfileRecord beginning) {
+    const auto place = static_cast<std::size_t>(std::max(selectedItem_, 0));
+    if (place >= profilesItems_.size() || !keepSelected()) {
+        return false;
+    }
+    asGesture({}, [&] {
+        beginning.set("profileName", profileName());
+        profilesItems_[place].record = std::move(beginning);
+        profilesSelect();
+        saveChangesInProfiles();
+    });
+    return true;
+}
+
+bool nrPreferences::profilesImport(std::vector<ProfileRecord> records) {
+    bool saved = false;
+    asGesture({}, [&] {
+        const bool first = profilesItems_.empty();
+        for (ProfileRecord &record : records) {
+            profilesItems_.push_back(file_.newItem(std::move(record)));
+        }
+        refreshProfilesMenu();
+        if (first) {
+            profilesSelect(0); // else what stands for no profile would be saved in its place
+        }
+        saved = saveChangesInProfiles();
+    });
+    return saved;
+}
+
+ProfileItems nrPreferences::removedProfiles() {
+    ProfileItems items = removed_.load();
+    std::ranges::reverse(items);
+    return items;
+}
+
+void nrPreferences::profilesRestore(std::uint64_t id) {
+    const ProfileItems items = removed_.load();
+    const auto found = std::ranges::find(items, id, &ProfileItem::id);
+    if (found != items.end() && profilesImport({found->record})) {
+        report(removed_.take(found->record));
+    }
 }
 
 std::optional<ProfileRecord> nrPreferences::recordNamed(std::u16string_view name) const {
@@ -674,10 +806,20 @@ void nrPreferences::saveCurrentFindReplaceList() {
     setAllBoolsInChangePasteboard();
 }
 
+void nrPreferences::copyTableChanged(storage::PropertyArray rows, std::string_view typing) {
+    asGesture(typing, [&] {
+        store_.set(copyTableKey, std::move(rows));
+        schedule(textFieldDelay); // after which what is typed is another gesture
+    });
+}
+
 // --- History ---
 
 EditedState nrPreferences::editedState() const {
     EditedState state{profilesItems_, sharedRules_, 0, onlyOneProfile()};
+    if (const PropertyValue *rows = store_.find(copyTableKey)) {
+        state.copyTable = *rows;
+    }
     const auto place = static_cast<std::size_t>(std::max(selectedItem_, 0));
     if (place < state.profiles.size()) {
         state.profiles[place].record = profileSelected();
@@ -722,9 +864,6 @@ void nrPreferences::redo() {
 RecordItems nrPreferences::carried(const RecordItems &now, const RecordItems &from,
                                    const RecordItems &to) {
     RecordItems items = mergeRecords(from, to, now);
-    const auto isIn = [](const RecordItems &list, std::uint64_t id) {
-        return std::ranges::find(list, id, &RecordItem::id) != list.end();
-    };
     std::erase_if(
         items, [&](const RecordItem &item) { return isIn(from, item.id) && !isIn(to, item.id); });
     return items;
@@ -734,7 +873,9 @@ void nrPreferences::carryOut(EditHistory::Change change) {
     const EditedState now = editedState();
     const int row = findReplace_.lastClickedRow();
     profilesItems_ = carried(now.profiles, change.from.profiles, change.to.profiles);
+    keepRemoved(now.profiles, profilesItems_);
     sharedRules_ = carried(now.sharedRules, change.from.sharedRules, change.to.sharedRules);
+    carryOutCopyTable(change);
     edited_.set(onlyOneKey, change.to.onlyOne ? 1 : 0);
     const auto selected = std::ranges::find(profilesItems_, change.to.selected, &ProfileItem::id);
     if (selected != profilesItems_.end()) {
@@ -746,6 +887,33 @@ void nrPreferences::carryOut(EditHistory::Change change) {
     updateUI(RulesUpdate::changed);
     if (hooks_.historyChanged) {
         hooks_.historyChanged();
+    }
+}
+
+// Its rows have no ids: what others have made of the table meanwhile stays as a whole.
+void nrPreferences::carryOutCopyTable(const EditHistory::Change &change) {
+    if (change.from.copyTable == change.to.copyTable ||
+        !(editedState().copyTable == change.from.copyTable)) {
+        return;
+    }
+    if (change.to.copyTable) {
+        store_.set(copyTableKey, *change.to.copyTable);
+    } else {
+        store_.remove(copyTableKey);
+    }
+}
+
+// Whatever way a profile goes, it can be restored; one that is back need not be.
+void nrPreferences::keepRemoved(const ProfileItems &before, const ProfileItems &after) {
+    for (const ProfileItem &item : before) {
+        if (!isIn(after, item.id)) {
+            report(removed_.add(item.record));
+        }
+    }
+    for (const ProfileItem &item : after) {
+        if (!isIn(before, item.id)) {
+            report(removed_.take(item.record));
+        }
     }
 }
 

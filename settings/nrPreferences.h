@@ -94,8 +94,26 @@ class nrPreferences {
     // `beginning` is what the new profile holds besides its name.
     void profilesAddingCloseWindow(const std::u16string &name, ProfileRecord beginning = {});
     void profilesAddingCancelWindow();
-    // Asks nobody: undo() brings it back. False when there is none to remove.
+    // Asks nobody: undo() brings it back, and it is kept among the removed ones. False when there
+    // is none to remove, or when it could not be kept.
     bool profilesRemove();
+    // Rows of the table of copies go on meaning it. Nothing for an empty name, or when the profile
+    // of this id has gone.
+    void profilesRename(std::uint64_t id, const std::u16string &name);
+    // `place` is between profiles, from 0 to their number.
+    void profilesMove(int from, int place);
+    // Of the selected one, at the end, and selects it. It has the same name with a number.
+    void profilesDuplicate();
+    // The selected one holds `beginning` from now on; what it held is kept among the removed ones.
+    // False as for profilesRemove().
+    bool profilesReset(ProfileRecord beginning);
+    ProfileRecord firstProfileRecord() const; // of a first start
+    // Adds them at the end and selects none of them. False when they could not be saved yet.
+    bool profilesImport(std::vector<ProfileRecord> records);
+    // The newest first, as their file has them now.
+    ProfileItems removedProfiles();
+    // At the end, as profilesImport(); by its id in removedProfiles().
+    void profilesRestore(std::uint64_t id);
     // The first profile with this name as it is now, edits and shared rules included; else the
     // ready one with this id.
     std::optional<ProfileRecord> recordNamed(std::u16string_view name) const;
@@ -164,8 +182,11 @@ class nrPreferences {
     // Behind the selected rule, whatever else is in the list.
     void pasteRules(const RuleList &list);
 
-    // What was done to profiles, options and rules, gesture by gesture; what is typed into one
-    // place without a pause is one. A profile that was chosen is none.
+    // Stores the table of copies. `typing`: the place where it is typed, if it is.
+    void copyTableChanged(storage::PropertyArray rows, std::string_view typing = {});
+
+    // What was done to profiles, options, rules and copies, gesture by gesture; what is typed into
+    // one place without a pause is one. A profile that was chosen is none.
     bool canUndo() const { return history_.canUndo(); }
     bool canRedo() const { return history_.canRedo(); }
     void undo();
@@ -179,6 +200,10 @@ class nrPreferences {
     static RecordItems carried(const RecordItems &now, const RecordItems &from,
                                const RecordItems &to);
     void carryOut(EditHistory::Change change);
+    void carryOutCopyTable(const EditHistory::Change &change);
+    void keepRemoved(const ProfileItems &before, const ProfileItems &after);
+    bool keepSelected();
+    int placeOf(std::uint64_t id) const;
     std::string placeOf(std::string_view part) const;
     void switchRulesOn();
     void createDir();
@@ -207,6 +232,7 @@ class nrPreferences {
     std::vector<OptionList> optionLists_;
 
     ProfilesFile file_;
+    RemovedProfilesFile removed_;
     ProfileItems profilesItems_;
     EditedProfile edited_;
     int selectedItem_ = 0;

@@ -155,6 +155,11 @@ TEST_F(Profiles, WhatCannotBeUsedIsNamedAndNothingIsChanged) {
          writeXml(PropertyDictionary{{"a", 1}}),
          1,
          "settings keys"},
+        {"an empty list",
+         {"profiles", "import", "-"},
+         writeXml(PropertyArray{}),
+         1,
+         "settings keys"},
         {"no file", {"profiles", "import", folder / "nothing"}, "", 1, "nothing"},
         {"a folder in the way", {"profiles", "export", "0", folder.path()}, "", 1, "regular"},
     };

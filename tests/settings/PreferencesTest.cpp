@@ -229,7 +229,8 @@ TEST_F(Profiles, WhatWasDoneIsTakenBackAndDoneAgain) {
     const auto shown = [&] {
         return std::tuple(names(), preferences.selectedItem(), preferences.onlyOneProfile(),
                           preferences.state("udSort"), preferences.state("udPrefixTextField"),
-                          preferences.findReplaceList().items());
+                          preferences.findReplaceList().items(),
+                          store.values().find(copyTableKey) ? *store.find(copyTableKey) : 0);
     };
     const RuleList list{u"", {{true, u"x", u"y", {{u"x", u"y"}}}, {true, u"z", u"", {}}}};
     const std::function<void()> gestures[] = {
@@ -254,6 +255,21 @@ TEST_F(Profiles, WhatWasDoneIsTakenBackAndDoneAgain) {
         },
         [&] { preferences.deleteFindReplace(); },
         [&] { preferences.profilesAddingCloseWindow(u"B"); },
+        [&] {
+            for (const char16_t *typed : {u"default", u"B"}) {
+                preferences.copyTableChanged(PropertyArray{PropertyDictionary{{"profile", typed}}},
+                                             "copy");
+            }
+        },
+        [&] { preferences.profilesRename(preferences.profilesItems()[1].id, u"B 2"); },
+        [&] { preferences.profilesDuplicate(); },
+        [&] { preferences.profilesMove(2, 0); },
+        [&] {
+            preferences.profilesImport({{{"profileName", u"C"}}});
+        },
+        [&] {
+            preferences.profilesReset({{"udSort", 1}});
+        },
         [&] { preferences.onlyOneProfileChanged(true); },
         [&] { preferences.pasteRules(list); },
         [&] { preferences.profilesRemove(); },
@@ -290,7 +306,65 @@ TEST_F(Profiles, WhatWasDoneIsTakenBackAndDoneAgain) {
     preferences.controlTextDidChange("udPrefixTextField", u"ab");
     EXPECT_FALSE(preferences.canRedo());
     preferences.undo();
-    EXPECT_EQ(names().size(), 2U) << "the removal of a profile was the last gesture";
+    EXPECT_EQ(names().size(), 4U) << "the removal of a profile was the last gesture";
+}
+
+TEST_F(Profiles, WhatGoesIsKeptAndWhatRefersToAProfileFollowsIt) {
+    putBytes(paths.profiles, writeXml(named({u"A", u"B", u"B"})));
+    preferences.initProfilesItems();
+    const auto removed = [&] {
+        std::vector<std::u16string> names;
+        for (const ProfileItem &item : preferences.removedProfiles()) {
+            names.push_back(profileNameOf(item.record));
+        }
+        return names;
+    };
+    using Names = std::vector<std::u16string>;
+    store.set(copyTableKey, PropertyArray{PropertyDictionary{{"profile", u"B"}}, 7});
+    const auto meant = [&] {
+        return valueIn((*store.find(copyTableKey)->as<PropertyArray>())[0], "profile");
+    };
+    preferences.profilesRename(preferences.profilesItems()[1].id, u"");
+    preferences.profilesRename(preferences.profilesItems()[1].id, u"C");
+    EXPECT_EQ(meant(), PropertyValue(u"B")) << "there is another one";
+    preferences.profilesRename(preferences.profilesItems()[2].id, u"D");
+    EXPECT_EQ(meant(), PropertyValue(u"D"));
+    preferences.profilesMove(0, 3);
+    EXPECT_EQ(names(), (Names{u"C", u"D", u"A"}));
+    EXPECT_EQ(store.integerForKey(selectedProfileKey), 2) << "the same profile at another place";
+    EXPECT_EQ(profilesIn(paths).size(), 3U);
+    EXPECT_EQ(saved("profileName", 2), PropertyValue(u"A"));
+
+    // An edit that waits goes with what is removed or reset.
+    preferences.checkBoxChanged("udSort", true);
+    EXPECT_TRUE(preferences.profilesReset({{"udAddPrefix", 1}}));
+    EXPECT_EQ(preferences.state("udSort"), PropertyValue(0));
+    EXPECT_EQ(saved("udAddPrefix", 2), PropertyValue(1));
+    preferences.profilesRemove();
+    EXPECT_EQ(removed(), (Names{u"A", u"A"}));
+    preferences.undo();
+    EXPECT_EQ(removed(), (Names{u"A"})) << "it is back";
+    preferences.redo();
+    EXPECT_EQ(removed().size(), 2U);
+    preferences.profilesRestore(preferences.removedProfiles()[1].id);
+    EXPECT_EQ(saved("udSort", 2), PropertyValue(1));
+    EXPECT_EQ(removed().size(), 1U);
+    EXPECT_EQ(preferences.profileName(), u"C") << "none is selected by it";
+
+    // With no profile left, what is imported is not taken for the one that stands for none.
+    while (preferences.profilesRemove()) {
+    }
+    preferences.profilesImport({{{"profileName", u"E"}, {"udSort", 1}}, {{"profileName", u"F"}}});
+    EXPECT_EQ(preferences.profileName(), u"E");
+    EXPECT_EQ(saved("udSort"), PropertyValue(1));
+
+    // What cannot be kept stays.
+    std::filesystem::remove(folder / "data/nerlo-pro/Data/.lock");
+    std::filesystem::create_directories(folder / "data/nerlo-pro/Data/.lock");
+    EXPECT_FALSE(preferences.profilesRemove());
+    EXPECT_FALSE(preferences.profilesReset({}));
+    EXPECT_NE(failure, "");
+    EXPECT_EQ(preferences.state("udSort"), PropertyValue(1));
 }
 
 TEST_F(Profiles, AnotherProcessesProfileAppearsAndIsNotOverwritten) {
