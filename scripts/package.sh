@@ -28,7 +28,6 @@ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=None \
     -DNERLO_NOTICES_nerlo-pro="$json" -DNERLO_NOTICES_libnerlo1="$json"
 cmake --build "$build"
 
-desktop-file-validate "$root/packaging/org.nerlo.NerloPro.desktop"
 appstreamcli validate --no-net "$build/packaging/org.nerlo.NerloPro.metainfo.xml"
 for manual in "$root"/packaging/man/*; do
     warnings=$(LC_ALL=C.UTF-8 man --warnings -E UTF-8 -l -Tutf8 -Z "$manual" 2>&1 >/dev/null)
@@ -37,6 +36,7 @@ done
 
 rm -f "$build"/*.deb
 (umask 022 && cd "$build" && cpack)
+desktop-file-validate "$build/packaging/org.nerlo.NerloPro.desktop" # it is made by the installation
 # Unlike CPack, dpkg-deb makes no file newer than SOURCE_DATE_EPOCH.
 for package in "$build"/*.deb; do
     rm -rf "$build/unpacked"

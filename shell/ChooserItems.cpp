@@ -77,13 +77,10 @@ void addRules(std::vector<ChooserItem> &items, const settings::nrPreferences &pr
 
 void addOperations(std::vector<ChooserItem> &items, const settings::nrPreferences &preferences) {
     const auto options = optionsOf(preferences.profileSelected());
-    for (const auto &operation : engine::operations()) {
-        if (operation.index != engine::statisticsOperation) { // it has no result
-            items.push_back(
-                {localized(operation.hotKey),
-                 localized("sChooserOperation"),
-                 QString::fromUtf8(operation.name.data(), qsizetype(operation.name.size())),
-                 {options, operation.index, {}}});
+    for (auto &item : operationItems()) {
+        if (item.choice.operation != engine::statisticsOperation) { // it has no result
+            item.choice.options = options;
+            items.push_back(std::move(item));
         }
     }
 }
@@ -109,6 +106,17 @@ int rank(const ChooserItem &item, const QString &text, const QStringList &words)
 }
 
 } // namespace
+
+std::vector<ChooserItem> operationItems() {
+    std::vector<ChooserItem> items;
+    for (const auto &operation : engine::operations()) {
+        items.push_back({localized(operation.hotKey),
+                         localized("sChooserOperation"),
+                         QString::fromUtf8(operation.name.data(), qsizetype(operation.name.size())),
+                         {nullptr, operation.index, {}}});
+    }
+    return items;
+}
 
 std::vector<ChooserItem> chooserItems(const settings::nrPreferences &preferences) {
     std::vector<ChooserItem> items;

@@ -12,6 +12,7 @@
 #include "shell/Program.h"
 #include "shell/QuitSignals.h"
 #include "shell/RunningProgram.h"
+#include "shell/SearchRunner.h"
 #include "shell/StoreShortcuts.h"
 #include "shell/Strings.h"
 #include "shell/Terminal.h"
@@ -162,6 +163,7 @@ int main(int argc, char **argv) {
     shell::Program program(
         {mainQueue, workerQueue, desktop, settings::SettingsPaths::standard(), productLinks()});
     bus.serve(program);
+    const shell::SearchRunner searchRunner(program);
     const shell::QuitSignals quitSignals([&] { program.quit(); });
     program.start();
     for (const auto &request : commandLine.requests) {

@@ -1892,6 +1892,10 @@
         <source>sChooserKeysPaste</source>
         <translation>‏Enter: إلى الحافظة · Shift+Enter: لصقه أيضًا · Esc: ترك كل شيء كما كان</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>نظّف نظف تنظيف</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

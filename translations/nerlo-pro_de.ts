@@ -1893,6 +1893,10 @@ MIT-Lizenz</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter: in die Zwischenablage · Umschalt+Enter: auch einfügen · Esc: alles lassen, wie es war</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>bereinigen säubern reinigen</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

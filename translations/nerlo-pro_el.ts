@@ -1893,6 +1893,10 @@
         <source>sChooserKeysPaste</source>
         <translation>Enter: στο πρόχειρο · Shift+Enter: και επικόλληση · Esc: καμία αλλαγή</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>καθαρισμός καθάρισε</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

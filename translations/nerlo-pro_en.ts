@@ -1907,6 +1907,11 @@ MIT licence</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter: to the clipboard · Shift+Enter: paste it too · Esc: leave all as it was</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <extracomment>Words for cleaning, with blanks between them, each one word: one of them begins what is typed into the desktop&apos;s search.</extracomment>
+        <translation>clean clear</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1893,6 +1893,10 @@ Licencia MIT</translation>
         <source>sChooserKeysPaste</source>
         <translation>Intro: al portapapeles · Mayús+Intro: pegar también · Esc: dejarlo todo como estaba</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>limpiar</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

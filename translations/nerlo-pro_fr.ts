@@ -1893,6 +1893,10 @@ Licence MIT</translation>
         <source>sChooserKeysPaste</source>
         <translation>Entrée : vers le presse-papiers · Maj+Entrée : coller aussi · Échap : ne rien changer</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>nettoyer</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

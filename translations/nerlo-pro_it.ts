@@ -1893,6 +1893,10 @@ Licenza MIT</translation>
         <source>sChooserKeysPaste</source>
         <translation>Invio: negli appunti · Maiusc+Invio: incolla anche · Esc: lascia tutto com’era</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>ripulisci ripulire pulisci pulire</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1892,6 +1892,10 @@ MIT ライセンス</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter：クリップボードへ · Shift+Enter：貼り付けも · Esc：何も変えない</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>整形 クリーン</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1893,6 +1893,10 @@ Licencja MIT</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter: do schowka · Shift+Enter: także wklej · Esc: zostaw bez zmian</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>oczyść oczyszczanie wyczyść</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

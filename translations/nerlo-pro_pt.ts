@@ -1893,6 +1893,10 @@ Licença MIT</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter: para a área de transferência · Shift+Enter: colar também · Esc: deixar tudo como estava</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>limpar</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

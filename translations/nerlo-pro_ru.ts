@@ -1893,6 +1893,10 @@
         <source>sChooserKeysPaste</source>
         <translation>Enter: в буфер обмена · Shift+Enter: ещё и вставить · Esc: ничего не менять</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>очистить</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

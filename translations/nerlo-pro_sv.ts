@@ -1893,6 +1893,10 @@ MIT-licens</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter: till urklipp · Skift+Enter: klistra också in · Esc: lämna allt som det var</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>rensa</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -1893,6 +1893,10 @@
         <source>sChooserKeysPaste</source>
         <translation>Enter: у буфер обміну · Shift+Enter: ще й вставити · Esc: нічого не змінювати</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>очистити</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

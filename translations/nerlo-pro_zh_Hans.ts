@@ -1892,6 +1892,10 @@ MIT 许可证</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter：放入剪贴板 · Shift+Enter：同时粘贴 · Esc：保持原样</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>清理</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

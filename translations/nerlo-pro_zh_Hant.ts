@@ -1892,6 +1892,10 @@ MIT 授權</translation>
         <source>sChooserKeysPaste</source>
         <translation>Enter：放入剪貼簿 · Shift+Enter：同時貼上 · Esc：保持原樣</translation>
     </message>
+    <message>
+        <source>sRunnerWords</source>
+        <translation>清理</translation>
+    </message>
 </context>
 <context>
     <name>Menu</name>

@@ -17,7 +17,7 @@ import unittest
 
 import dbus
 
-from desktop_session import WAYLAND, Logged, Program, copy, desktop, paste, read, wait_until
+from desktop_session import WAYLAND, Logged, Program, ask, copy, desktop, paste, read, wait_until
 
 PROGRAM = os.environ["NERLO_PRO"]
 OWNER = os.environ["NERLO_OWNER"]
@@ -363,6 +363,22 @@ class ClipboardTest(unittest.TestCase):
                             program.process.send_signal(end)
                         self.assertEqual(program.process.wait(20), 0)
                     wait_until(lambda: paste() == clean, "the text is still there")
+
+    def test_the_search_of_the_desktop_runs_operations(self):
+        self.start()
+
+        def search(method, *arguments):
+            return ask(dbus.SessionBus(), Program.BUS_NAME, "/org/nerlo/NerloPro/Runner",
+                       "org.kde.krunner1", method, *arguments)
+        for query, names in (("Clean all  tabs", ["remove-tabs", "collapse-white-space"]),
+                             ("cle", ["clean"]), ("cl", []), ("cleaner", []), ("all tabs", [])):
+            (found,) = search("Match", query)
+            self.assertEqual(found.signature, "(sssida{sv})", "what the search can read")
+            self.assertEqual([str(match[0]) for match in found], names, query)
+        copy(b"one\ttwo")
+        self.assertRaises(dbus.DBusException, search, "Run", "no-such", "")
+        search("Run", "remove-tabs", "")
+        self.expect_clean(b"onetwo")
 
     def test_one_program_per_session(self):
         program = self.start()
