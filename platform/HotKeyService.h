@@ -40,6 +40,9 @@ struct HotKeyStatus {
     // UTF-8, one line. Refused: why, in English. Active: the keys in the desktop's own words where
     // it chose them, else empty.
     std::string text;
+    // Refused: who has the combination and for what, in the desktop's own words; empty where it
+    // does not tell. UTF-8, one line.
+    std::string owner = {};
     bool operator==(const HotKeyStatus &) const = default;
 };
 

@@ -20,7 +20,7 @@ Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &worke
     desktop.popupLayer = desktop.backends->openPopupLayer();
     desktop.paster = desktop.backends->openPaster(layout);
     desktop.systemHotKeys = platform::createDesktopHotKeys(
-        layout, workerQueue, platform::DesktopSources::system(applicationId));
+        layout, workerQueue, mainQueue, platform::DesktopSources::system(applicationId));
     const auto configFolder = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
     desktop.loginItem = std::make_unique<platform::AutostartEntry>(
         configFolder.toStdString() + "/autostart",

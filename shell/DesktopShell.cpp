@@ -1,10 +1,10 @@
 #include "shell/DesktopShell.h"
 
 #include "engine/Operations.h"
+#include "platform/qt/QtKeys.h"
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/ChooserWindow.h"
-#include "shell/KeySequences.h"
 #include "shell/LeftOutRules.h"
 #include "shell/PreferencesWindow.h"
 #include "shell/Program.h"
@@ -142,8 +142,9 @@ void DesktopShell::updateProfiles() {
 
 void DesktopShell::updateCleanShortcut() {
     const auto shortcut = shortcuts::storedShortcut(program_.store(), settings::cleanHotKey);
-    menu_->setCleanShortcut(shortcut ? keySequence(*shortcut, program_.shortcutTexts())
-                                     : QKeySequence());
+    const auto &layout = program_.shortcutTexts().layout();
+    menu_->setCleanShortcut(
+        shortcut ? platform::qtKeyOf(shortcut->keyCode(), shortcut->carbonFlags(), layout) : 0);
 }
 
 void DesktopShell::updateHotKeys() {

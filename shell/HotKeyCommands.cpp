@@ -153,6 +153,11 @@ std::string refusalOf(std::span<const ShortcutChange> changes, const storage::Se
             shortcut.keyCodeString(english).empty()) {
             return keys + " cannot be a global shortcut.";
         }
+        if (const auto taken = shortcut.takenBySystem(systemHotKeys)) {
+            return keys + " is a shortcut of this desktop" +
+                   (taken->owner.empty() ? "" : " (" + taken->owner + ")") +
+                   "; most can be changed in its keyboard settings.";
+        }
         shortcuts::ShortcutError error;
         if (shortcut.isTakenError(&error, english, systemHotKeys, mainMenu)) {
             return keys + ": " + text::utf16ToUtf8(error.localizedDescription);

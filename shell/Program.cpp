@@ -2,7 +2,6 @@
 
 #include "engine/Operations.h"
 #include "settings/LinkRulesFile.h"
-#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "settings/UserLocale.h"
 #include "shell/Doctor.h"
@@ -192,8 +191,28 @@ bool Program::selectProfile(const std::string &nameOrPlace) {
     const auto *item = settings::findProfile(items, nameOrPlace);
     if (item) {
         switchProfile(static_cast<int>(item - items.data()));
+        return true;
     }
-    return item != nullptr;
+    const auto *ready = settings::findReadyProfile(nameOrPlace);
+    if (ready) {
+        selectReady(*ready);
+    }
+    return ready != nullptr;
+}
+
+// Under its name in the user's language; added where there is none of that name.
+void Program::selectReady(const settings::ReadyProfile &ready) {
+    const auto name = localized(ready.titleKey).toStdU16String();
+    const auto &items = preferences_.profilesItems();
+    const auto named = std::ranges::find_if(items, [&](const settings::ProfileItem &item) {
+        return settings::profileNameOf(item.record) == name;
+    });
+    if (named != items.end()) {
+        switchProfile(static_cast<int>(named - items.begin()));
+    } else {
+        preferences_.profilesAdd();
+        preferences_.profilesAddingCloseWindow(name, settings::readyRecord(ready, name));
+    }
 }
 
 void Program::switchProfile(int place) {
@@ -244,14 +263,10 @@ void Program::setNeverInLastProgram(bool never) {
 }
 
 void Program::chooseFirstRules(bool gentle) {
-    const auto *ready = settings::findReadyProfile(std::string_view("gentle"));
-    const auto title = localized(ready->titleKey);
-    if (!gentle) {
+    if (gentle) {
+        selectReady(*settings::findReadyProfile(std::string_view("gentle")));
+    } else {
         switchProfile(0);
-    } else if (!selectProfile(title.toStdString())) {
-        preferences_.profilesAdd();
-        const auto name = title.toStdU16String();
-        preferences_.profilesAddingCloseWindow(name, settings::readyRecord(*ready, name));
     }
 }
 

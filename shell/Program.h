@@ -9,6 +9,7 @@
 #include "platform/MainQueue.h"
 #include "platform/WorkerQueue.h"
 #include "platform/linux/FolderWatch.h"
+#include "settings/ReadyProfiles.h"
 #include "settings/SettingsPaths.h"
 #include "settings/nrPreferences.h"
 #include "shell/Desktop.h"
@@ -68,7 +69,8 @@ class Program final {
     void restore(std::function<void(clipboard::nrChangePasterboard::Restored)> handler);
     // Returns whether it is on now.
     bool setAutomatic(AutomaticMode mode);
-    // By name, or by place in decimal digits; UTF-8. False when there is none.
+    // By name, or by place in decimal digits, else a ready one by its id; UTF-8. False when there
+    // is none.
     bool selectProfile(const std::string &nameOrPlace);
     // The one at this place in the list, counted from 0.
     void switchProfile(int place);
@@ -121,6 +123,7 @@ class Program final {
 
   private:
     void connect();
+    void selectReady(const settings::ReadyProfile &ready);
     clipboard::CopyTable copyTable() const;
     void tellDamages(); // those of the start, and again when there is a new one
     void registerHotKeys();

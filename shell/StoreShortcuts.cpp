@@ -40,7 +40,7 @@ int storeShortcuts(const std::vector<std::string> &wanted) {
     }
     HereQueue here;
     const auto systemHotKeys = platform::createDesktopHotKeys(
-        *layout.backend, here, platform::DesktopSources::system(applicationId));
+        *layout.backend, here, mainQueue, platform::DesktopSources::system(applicationId));
     systemHotKeys->refresh();
     const auto refusal =
         refusalOf(changes, store, *layout.backend, *systemHotKeys, StatusMenu::mainMenu());

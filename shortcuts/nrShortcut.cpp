@@ -118,7 +118,7 @@ std::optional<std::uint64_t> takeModifier(std::u16string_view &name, const Short
     return flag;
 }
 
-constexpr std::u16string_view takenBySystem =
+constexpr std::u16string_view takenByDesktop =
     u"The key combination \"%@\" can't be used because it's already used by a system-wide keyboard "
     u"shortcut. If you really want to use this key combination, most shortcuts can be changed in "
     u"the Keyboard panel in System Preferences.";
@@ -145,7 +145,7 @@ std::u16string textByLayout(std::uint64_t keyCode, const platform::KeyboardLayou
 
 void fill(ShortcutError *error, std::u16string message) {
     if (error) {
-        *error = {"NSCocoaErrorDomain", 0, std::move(message)};
+        *error = {"NSCocoaErrorDomain", 0, std::move(message), {}};
     }
 }
 
@@ -347,14 +347,25 @@ bool nrShortcut::shouldBypass(const ShortcutTexts &texts) const {
     return text == u"W" || text == u"Q";
 }
 
+std::optional<platform::SystemHotKey>
+nrShortcut::takenBySystem(platform::SystemHotKeys &hotKeys) const {
+    for (auto &taken : hotKeys.symbolicHotKeys()) {
+        if (taken.code == keyCode_ && taken.modifiers == carbonFlags()) {
+            return std::move(taken);
+        }
+    }
+    return std::nullopt;
+}
+
 bool nrShortcut::isTakenError(ShortcutError *error, const ShortcutTexts &texts,
                               platform::SystemHotKeys &systemHotKeys,
                               std::span<const MenuItem> mainMenu) const {
-    for (const auto &taken : systemHotKeys.symbolicHotKeys()) {
-        if (taken.code == keyCode_ && taken.modifiers == carbonFlags()) {
-            fill(error, texts.formatted(takenBySystem, {description(texts)}));
-            return true;
+    if (const auto taken = takenBySystem(systemHotKeys)) {
+        fill(error, texts.formatted(takenByDesktop, {description(texts)}));
+        if (error) {
+            error->owner = taken->owner;
         }
+        return true;
     }
     return isKeyEquivalent(keyCodeStringForKeyEquivalent(texts), modifierFlags_, mainMenu, error,
                            texts);

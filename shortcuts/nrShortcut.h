@@ -18,7 +18,8 @@
 
 namespace nerlo::platform {
 class SystemHotKeys;
-}
+struct SystemHotKey;
+} // namespace nerlo::platform
 
 namespace nerlo::shortcuts {
 
@@ -41,6 +42,8 @@ struct ShortcutError {
     std::string domain; // "NSCocoaErrorDomain"
     std::int64_t code = 0;
     std::u16string localizedDescription;
+    // The desktop's words for who has it, UTF-8; empty where it does not tell, and for menu items.
+    std::string owner;
 };
 
 class nrShortcut {
@@ -95,6 +98,8 @@ class nrShortcut {
     bool isValid() const;
     // Whether it is one of the reserved commands, close window and quit.
     bool shouldBypass(const ShortcutTexts &texts) const;
+    // The desktop's own shortcut with these keys.
+    std::optional<platform::SystemHotKey> takenBySystem(platform::SystemHotKeys &hotKeys) const;
     // Whether the desktop or an item of the menu uses it. A null `error` is not filled.
     bool isTakenError(ShortcutError *error, const ShortcutTexts &texts,
                       platform::SystemHotKeys &systemHotKeys,

@@ -1,5 +1,6 @@
 #include "platform/linux/DesktopHotKeys.h"
 
+#include "platform/Alive.h"
 #include "platform/linux/CommandOutput.h"
 #include "storage/EnvironmentVariable.h"
 #include "text/Ascii.h"
@@ -23,6 +24,7 @@ constexpr std::size_t mostHotKeys = 4096;
 constexpr std::size_t mostCustomBindings = 64;
 constexpr auto longestReading = std::chrono::seconds(2);
 constexpr std::size_t largestFile = std::size_t{1} << 20;
+constexpr std::size_t longestOwner = 160; // bytes
 
 std::optional<std::uint32_t> modifierOf(std::string_view name) {
     const struct {
@@ -62,12 +64,29 @@ std::string symbolOfQtName(std::string_view name) {
 struct NamedHotKey {
     std::string symbol;
     std::uint32_t modifiers = 0;
+    std::string owner;
+    bool operator==(const NamedHotKey &) const = default;
 };
+
+// "KWin, Close Window", or what there is of it.
+std::string ownerOf(std::string_view program, std::string_view what) {
+    const char *const between = program.empty() || what.empty() ? "" : ", ";
+    std::string owner = std::string(program) + between + std::string(what);
+    return owner.size() > longestOwner ? std::string() : owner;
+}
+
+// "toggle-overview" as "toggle overview".
+std::string asWords(std::string_view name) {
+    std::string words(name);
+    std::ranges::replace_if(
+        words, [](char c) { return c == '-' || c == '_'; }, ' ');
+    return words;
+}
 
 class Collector {
   public:
     // "<Super><Shift>v"; anything else is dropped.
-    void addAccelerator(std::string_view text) {
+    void addAccelerator(std::string_view text, const std::string &owner) {
         std::uint32_t modifiers = 0;
         while (!text.empty() && text.front() == '<') {
             const auto end = text.find('>');
@@ -79,11 +98,11 @@ class Collector {
             text.remove_prefix(end + 1);
         }
         // The window manager's name for the key above Tab, which differs between layouts.
-        add(text == "Above_Tab" ? std::string("grave") : std::string(text), modifiers);
+        add(text == "Above_Tab" ? std::string("grave") : std::string(text), modifiers, owner);
     }
 
     // "Meta+Shift+V", "Ctrl++".
-    void addQtSequence(std::string_view text) {
+    void addQtSequence(std::string_view text, const std::string &owner) {
         std::uint32_t modifiers = 0;
         for (;;) {
             const auto plus = text.find('+');
@@ -97,15 +116,23 @@ class Collector {
             modifiers |= *modifier;
             text.remove_prefix(plus + 1);
         }
-        add(symbolOfQtName(text), modifiers);
+        add(symbolOfQtName(text), modifiers, owner);
+    }
+
+    std::size_t size() const { return hotKeys_.size(); }
+    // Those from this place on belong to the program that is named after them.
+    void nameProgram(std::size_t from, std::string_view program) {
+        for (; from < hotKeys_.size(); ++from) {
+            hotKeys_[from].owner = ownerOf(program, hotKeys_[from].owner);
+        }
     }
 
     std::vector<NamedHotKey> take() { return std::move(hotKeys_); }
 
   private:
-    void add(std::string symbol, std::uint32_t modifiers) {
+    void add(std::string symbol, std::uint32_t modifiers, const std::string &owner) {
         if (!symbol.empty() && symbol.size() <= 64 && hotKeys_.size() < mostHotKeys) {
-            hotKeys_.push_back({std::move(symbol), modifiers});
+            hotKeys_.push_back({std::move(symbol), modifiers, owner});
         }
     }
 
@@ -135,6 +162,12 @@ void forEachQuoted(std::string_view text, Function function) {
     }
 }
 
+// What stands behind this beginning of a line, up to the next blank.
+std::string_view wordBehind(std::string_view line, std::string_view beginning) {
+    line.remove_prefix(beginning.size());
+    return line.substr(0, line.find(' '));
+}
+
 // Lines such as "org.gnome.shell.keybindings toggle-overview ['<Super>s']". One process lists them
 // all; the user's own bindings, whose schema has a path for each, take one more for each.
 void collectGnome(const DesktopSources &sources, Collector &collector) {
@@ -147,26 +180,52 @@ void collectGnome(const DesktopSources &sources, Collector &collector) {
     const std::string paths = mediaKeys + " custom-keybindings ";
     std::vector<std::string> custom;
     forEachLine(sources.output({"gsettings", "list-recursively"}), [&](std::string_view line) {
-        const bool ofPaths = line.starts_with(paths);
-        if (std::ranges::none_of(schemas, [&](auto &name) { return line.starts_with(name); })) {
+        const auto schema =
+            std::ranges::find_if(schemas, [&](auto &name) { return line.starts_with(name); });
+        if (schema == schemas.end()) {
             return;
         }
+        const bool ofPaths = line.starts_with(paths);
+        const auto owner = ownerOf("GNOME", asWords(wordBehind(line, *schema)));
         forEachQuoted(line, [&](std::string_view text) {
             if (!ofPaths) {
-                collector.addAccelerator(text);
+                collector.addAccelerator(text, owner);
             } else if (text.starts_with('/') && custom.size() < mostCustomBindings) {
                 custom.emplace_back(text);
             }
         });
     });
+    const std::string customSchema = mediaKeys + ".custom-keybinding";
     for (const auto &path : custom) {
         if (std::chrono::steady_clock::now() > end) {
             return;
         }
-        forEachQuoted(sources.output({"gsettings", "get", mediaKeys + ".custom-keybinding:" + path,
-                                      "binding"}),
-                      [&](std::string_view text) { collector.addAccelerator(text); });
+        const auto first = collector.size();
+        std::string name;
+        forEachLine(sources.output({"gsettings", "list-recursively", customSchema + ':' + path}),
+                    [&](std::string_view line) {
+                        const bool binding = line.starts_with(customSchema + " binding ");
+                        const bool names = line.starts_with(customSchema + " name ");
+                        forEachQuoted(line, [&](std::string_view text) {
+                            if (binding) {
+                                collector.addAccelerator(text, {});
+                            } else if (names) {
+                                name = text;
+                            }
+                        });
+                    });
+        collector.nameProgram(first, ownerOf("GNOME", name));
     }
+}
+
+// A command line as it stands, the window manager's "cycle_windows_key" as "cycle windows".
+std::string xfceCommand(std::string_view command) {
+    constexpr std::string_view ending = "_key";
+    if (!command.ends_with(ending)) {
+        return std::string(command);
+    }
+    command.remove_suffix(ending.size());
+    return asWords(command);
 }
 
 // Lines such as "/xfwm4/custom/<Alt>Tab cycle_windows_key". "default" is the template from which
@@ -181,46 +240,68 @@ void collectXfce(const DesktopSources &sources, Collector &collector) {
         forEachLine(list, [&](std::string_view line) {
             if (line.starts_with(folder)) {
                 line.remove_prefix(folder.size());
-                collector.addAccelerator(line.substr(0, line.find_first_of(" \t")));
+                const auto blank = std::min(line.find_first_of(" \t"), line.size());
+                const auto what = std::min(line.find_first_not_of(" \t", blank), line.size());
+                collector.addAccelerator(line.substr(0, blank),
+                                         ownerOf("Xfce", xfceCommand(line.substr(what))));
             }
         });
     }
 }
 
+// The fields of a line of KDE's list, each of one or more texts: in it "\\t" parts keys, and a
+// comma that is a key has a backslash before it.
+std::array<std::vector<std::string>, 3> kdeFields(std::string_view value) {
+    std::array<std::vector<std::string>, 3> fields;
+    std::size_t field = 0;
+    std::string text;
+    const auto finish = [&] { fields.at(field).push_back(std::exchange(text, {})); };
+    for (std::size_t at = 0; at < value.size(); ++at) {
+        if (value[at] == ',' && field + 1 < fields.size()) {
+            finish();
+            ++field;
+        } else if (value[at] != '\\' || at + 1 == value.size()) {
+            text += value[at];
+        } else if (value[++at] == 't') {
+            finish();
+        } else {
+            text += value[at];
+        }
+    }
+    finish();
+    return fields;
+}
+
 // Lines such as "Window Close=Alt+F4\tMeta+Q,Alt+F4,Close Window": the present keys, those of the
-// first start, the name. A comma that is a key has a backslash before it.
+// first start, the name. The program's name stands on a line somewhere among its keys.
 void collectKde(const DesktopSources &sources, Collector &collector) {
     const std::string file = sources.configuration("kglobalshortcutsrc");
     const std::string ourHeading = "[" + sources.ours + "]";
     bool ours = false;
+    std::size_t first = 0;
+    std::string program;
+    const auto endGroup = [&] {
+        collector.nameProgram(first, std::exchange(program, {}));
+        first = collector.size();
+    };
     forEachLine(file, [&](std::string_view line) {
-        ours = line.starts_with('[') ? line == ourHeading : ours;
-        if (ours) {
-            return;
-        }
         const auto equals = line.find('=');
-        if (equals == line.npos || line.starts_with("_k_friendly_name")) {
-            return;
-        }
-        std::string sequence;
-        const auto finish = [&] {
-            if (sequence != "none") {
-                collector.addQtSequence(sequence);
-            }
-            sequence.clear();
-        };
-        const auto value = line.substr(equals + 1);
-        for (std::size_t at = 0; at < value.size() && value[at] != ','; ++at) {
-            if (value[at] != '\\' || at + 1 == value.size()) {
-                sequence += value[at];
-            } else if (value[++at] == 't') {
-                finish();
-            } else {
-                sequence += value[at];
+        if (line.starts_with('[')) {
+            endGroup();
+            ours = line == ourHeading;
+        } else if (equals != line.npos && line.starts_with("_k_friendly_name")) {
+            program = line.substr(equals + 1);
+        } else if (equals != line.npos && !ours) {
+            const auto fields = kdeFields(line.substr(equals + 1));
+            for (const std::string &sequence : fields[0]) {
+                if (sequence != "none") {
+                    collector.addQtSequence(sequence,
+                                            fields[2].empty() ? std::string() : fields[2].front());
+                }
             }
         }
-        finish();
     });
+    endGroup();
 }
 
 struct Desktop {
@@ -249,29 +330,43 @@ std::vector<NamedHotKey> readHotKeys(const DesktopSources &sources) {
 
 class DesktopHotKeys final : public SystemHotKeys {
   public:
-    DesktopHotKeys(const KeyboardLayout &layout, WorkerQueue &workers, DesktopSources sources)
+    DesktopHotKeys(const KeyboardLayout &layout, WorkerQueue &workers, MainQueue &mainQueue,
+                   DesktopSources sources)
         : layout_(layout)
         , workers_(workers)
+        , mainQueue_(mainQueue)
         , shared_(std::make_shared<Shared>(std::move(sources))) {}
 
     void refresh() override {
         if (shared_->reading.exchange(true)) {
             return;
         }
-        workers_.post([shared = shared_] {
+        auto tell = alive_.guardOn(mainQueue_, [this] {
+            if (changed_) {
+                changed_();
+            }
+        });
+        workers_.post([shared = shared_, tell = std::move(tell)] {
             auto hotKeys = readHotKeys(shared->sources);
             const std::lock_guard lock(shared->mutex);
+            if (hotKeys != shared->hotKeys) {
+                tell();
+            }
             shared->hotKeys = std::move(hotKeys);
             shared->reading = false;
         });
     }
 
+    void setChangedHandler(std::function<void()> changed) override {
+        changed_ = std::move(changed);
+    }
+
     std::vector<SystemHotKey> symbolicHotKeys() override {
         const std::lock_guard lock(shared_->mutex);
         std::vector<SystemHotKey> result;
-        for (const auto &[symbol, modifiers] : shared_->hotKeys) {
+        for (const auto &[symbol, modifiers, owner] : shared_->hotKeys) {
             if (const auto key = layout_.keyOfSymbol(symbol)) {
-                const SystemHotKey hotKey{*key, modifiers};
+                const SystemHotKey hotKey{*key, modifiers, owner};
                 if (std::ranges::find(result, hotKey) == result.end()) {
                     result.push_back(hotKey);
                 }
@@ -293,7 +388,10 @@ class DesktopHotKeys final : public SystemHotKeys {
 
     const KeyboardLayout &layout_;
     WorkerQueue &workers_;
+    MainQueue &mainQueue_;
     std::shared_ptr<Shared> shared_;
+    std::function<void()> changed_;
+    Alive alive_;
 };
 
 std::string environment(const char *name) {
@@ -319,8 +417,9 @@ DesktopSources DesktopSources::system(std::string applicationId) {
 }
 
 std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,
-                                                    WorkerQueue &workers, DesktopSources sources) {
-    return std::make_unique<DesktopHotKeys>(layout, workers, std::move(sources));
+                                                    WorkerQueue &workers, MainQueue &mainQueue,
+                                                    DesktopSources sources) {
+    return std::make_unique<DesktopHotKeys>(layout, workers, mainQueue, std::move(sources));
 }
 
 } // namespace nerlo::platform

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/KeyboardLayout.h"
+#include "platform/MainQueue.h"
 #include "platform/SystemHotKeys.h"
 #include "platform/WorkerQueue.h"
 
@@ -28,8 +29,9 @@ struct DesktopSources {
     static DesktopSources system(std::string applicationId);
 };
 
-// `layout` and `workers` must outlive the result. On any other desktop the list is empty.
+// `layout` and the queues must outlive the result. On any other desktop the list is empty.
 std::unique_ptr<SystemHotKeys> createDesktopHotKeys(const KeyboardLayout &layout,
-                                                    WorkerQueue &workers, DesktopSources sources);
+                                                    WorkerQueue &workers, MainQueue &mainQueue,
+                                                    DesktopSources sources);
 
 } // namespace nerlo::platform

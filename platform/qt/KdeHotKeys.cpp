@@ -1,58 +1,19 @@
 #include "platform/qt/KdeHotKeys.h"
 
 #include "platform/Alive.h"
-#include "platform/VirtualKeys.h"
 #include "platform/qt/KdeShortcuts.h"
+#include "platform/qt/QtKeys.h"
 
 #include <QKeySequence>
 
 #include <algorithm>
 #include <map>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 namespace nerlo::platform {
 
 namespace {
-
-// 0 for a key that the toolkit has no number for.
-int keyOf(const HotKeyRequest &request, const KeyboardLayout &layout) {
-    const auto *row = findVirtualKey(request.keyCode);
-    std::u16string_view name;
-    if (row) {
-        name = row->name.empty() ? row->text : row->name;
-    }
-    constexpr std::u16string_view keypad = u"Keypad ";
-    int key = 0;
-    if (name.starts_with(keypad)) {
-        name.remove_prefix(keypad.size());
-        key = Qt::KeypadModifier;
-    }
-    if (name.empty()) {
-        const std::u16string text = layout.textOfKey(request.keyCode);
-        if (text.size() != 1) {
-            return 0;
-        }
-        key |= QChar(text.front()).toUpper().unicode();
-    } else {
-        const QKeySequence named(QStringView(name).toString(), QKeySequence::PortableText);
-        if (named.isEmpty()) {
-            return 0;
-        }
-        key |= named[0].key();
-    }
-    const std::pair<std::uint32_t, int> modifiers[] = {{hotKeyCommand, Qt::CTRL},
-                                                       {hotKeyControl, Qt::META},
-                                                       {hotKeyOption, Qt::ALT},
-                                                       {hotKeyShift, Qt::SHIFT}};
-    for (const auto &[ours, toolkits] : modifiers) {
-        if ((request.modifiers & ours) != 0) {
-            key |= toolkits;
-        }
-    }
-    return key;
-}
 
 class KdeHotKeys final : public HotKeyService {
   public:
@@ -87,7 +48,7 @@ class KdeHotKeys final : public HotKeyService {
     void removeHandler() override { pressed_ = nullptr; }
 
     Registration registerHotKey(const HotKeyRequest &request) override {
-        const int key = keyOf(request, layout_);
+        const int key = qtKeyOf(request.keyCode, request.modifiers, layout_);
         if (key == 0) {
             return {0, "the desktop has no name for this key"};
         }
@@ -155,21 +116,23 @@ class KdeHotKeys final : public HotKeyService {
     void bind(Handle handle) {
         const Entry &entry = entries_.at(handle);
         shortcuts_.bind(actionOf(entry.request), QString::fromStdString(entry.request.title),
-                        entry.key, [this, handle](int key, const QString &why) {
+                        entry.key,
+                        [this, handle](int key, const QString &why, const QString &owner) {
                             if (entries_.contains(handle) && !suspended_) {
-                                take(handle, key, why);
+                                take(handle, key, why, owner);
                             }
                         });
     }
 
-    void take(Handle handle, int key, const QString &why) {
+    void take(Handle handle, int key, const QString &why, const QString &owner = {}) {
         Entry &entry = entries_.at(handle);
-        HotKeyStatus status{HotKeyState::refused, why.toStdString()};
+        HotKeyStatus status{HotKeyState::refused, why.toStdString(), owner.toStdString()};
         if (key != 0) {
             const bool ours = key == entry.key;
             status = {HotKeyState::active,
                       ours ? ""
-                           : QKeySequence(key).toString(QKeySequence::NativeText).toStdString()};
+                           : QKeySequence(key).toString(QKeySequence::NativeText).toStdString(),
+                      {}};
         }
         if (status == entry.status) {
             return;

@@ -59,7 +59,7 @@ int keyIn(const QDBusMessage &reply) {
                : 0;
 }
 
-// "KWin: Kill Window", by the service's list of those that have a key; empty if nobody else has it.
+// "KWin, Kill Window", by the service's list of those that have a key; empty if nobody else has it.
 QString ownerIn(const QDBusMessage &reply, const QString &ourComponent) {
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) {
         return {};
@@ -78,7 +78,7 @@ QString ownerIn(const QDBusMessage &reply, const QString &ourComponent) {
             keys >> defaults;
         argument.endStructure();
         if (component != ourComponent) {
-            owner = shown(componentName) + QStringLiteral(": ") + shown(title);
+            owner = shown(componentName) + QStringLiteral(", ") + shown(title);
         }
     }
     argument.endArray();
@@ -140,7 +140,7 @@ void KdeShortcuts::bind(const QString &action, const QString &title, int key, Bo
         call(QStringLiteral("setShortcut"), {id, wanted, flags},
              [=, this](const QDBusMessage &now) {
                  if (const int given = keyIn(now); given != 0) {
-                     bound(given, {});
+                     bound(given, {}, {});
                  } else {
                      tellOwner(key, bound);
                  }
@@ -151,8 +151,10 @@ void KdeShortcuts::bind(const QString &action, const QString &title, int key, Bo
 void KdeShortcuts::tellOwner(int key, const Bound &bound) {
     call(QStringLiteral("getGlobalShortcutsByKey"), {key}, [=, this](const QDBusMessage &reply) {
         const QString owner = ownerIn(reply, component_);
-        bound(0, owner.isEmpty() ? QStringLiteral("another program has taken this key combination")
-                                 : QStringLiteral("taken by ") + owner);
+        bound(0,
+              owner.isEmpty() ? QStringLiteral("another program has taken this key combination")
+                              : QStringLiteral("taken by ") + owner,
+              owner);
     });
 }
 

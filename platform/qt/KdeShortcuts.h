@@ -21,8 +21,9 @@ class KdeShortcuts : public QObject {
     static bool isThere(const QDBusConnection &bus);
 
     // Binds `key`, the toolkit's key and modifiers as one number. `bound` gets the key that is
-    // bound now, which is another one where the user has chosen so, or 0 and why there is none.
-    using Bound = std::function<void(int key, const QString &why)>;
+    // bound now, which is another one where the user has chosen so, or 0, why there is none, and,
+    // where that is known, who has it ("KWin, Kill Window").
+    using Bound = std::function<void(int key, const QString &why, const QString &owner)>;
     void bind(const QString &action, const QString &title, int key, Bound bound);
     // Gives the key back. The service still knows the action.
     void release(const QString &action);

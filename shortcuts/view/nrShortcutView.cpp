@@ -185,7 +185,8 @@ QString nrShortcutView::warning() const {
     if (!shortcutValue_ || status.state != platform::HotKeyState::refused) {
         return {};
     }
-    return fromTable(QString::fromStdString(status.text).toStdU16String());
+    return status.owner.empty() ? fromTable(QString::fromStdString(status.text).toStdU16String())
+                                : spokenValue() + ": " + QString::fromStdString(status.owner);
 }
 
 QString nrShortcutView::spokenValue() const {
@@ -409,10 +410,13 @@ void nrShortcutView::refuseTaken(const nrShortcut &shortcut, const ShortcutError
     activateEventMonitoring(false);
     activateResignObserver(false);
     const QPointer<nrShortcutView> alive(this);
-    context_.alert(
-        window(), QString::fromStdU16String(error.localizedDescription),
-        QString::fromStdU16String(context_.texts.formatted(
-            u"The key combination \"%@\" can't be used!", {shortcut.description(context_.texts)})));
+    auto informative = QString::fromStdU16String(context_.texts.formatted(
+        u"The key combination \"%@\" can't be used!", {shortcut.description(context_.texts)}));
+    if (!error.owner.empty()) {
+        informative += '\n' + QString::fromStdU16String(shortcut.description(context_.texts)) +
+                       ": " + QString::fromStdString(error.owner);
+    }
+    context_.alert(window(), QString::fromStdU16String(error.localizedDescription), informative);
     if (!alive || !recording_) {
         return;
     }

@@ -1,10 +1,10 @@
 #include "shell/PreferencesWindow.h"
 
 #include "engine/Operations.h"
+#include "platform/qt/QtKeys.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "shell/Alerts.h"
 #include "shell/FindReplaceTable.h"
-#include "shell/KeySequences.h"
 #include "shell/Mnemonics.h"
 #include "shell/RuleModel.h"
 #include "shell/StatusMenu.h"
@@ -896,22 +896,25 @@ TEST_F(Menu, TheProgramOfTheLastCopyIsLeftAloneAndTheRowsAreSaid) {
 
 TEST(StatusMenu, ShowsAShortcutAsTheToolkitNamesIt) {
     const platform::XkbKeyboardLayout german(platform::xkb::Keymap::fromNames("de"));
-    const shortcuts::ShortcutTexts texts(german);
     const auto shown = [&](std::uint64_t key, std::uint64_t modifiers) {
-        return keySequence({key, modifiers}, texts).toString(QKeySequence::PortableText);
+        const shortcuts::nrShortcut shortcut(key, modifiers);
+        return QKeySequence(platform::qtKeyOf(key, shortcut.carbonFlags(), german))
+            .toString(QKeySequence::PortableText);
     };
     EXPECT_EQ(shown(9, shortcuts::controlModifier), "Meta+V");
     EXPECT_EQ(shown(9, shortcuts::allModifiers), "Meta+Ctrl+Alt+Shift+V");
     const QString keys =
-        "6=Y 33=\u00dc 122=F1 80=F19 49=Space 36=Return 48=Tab 51=Backspace 53=Esc 71=NumLock "
-        "76=Enter 78=- 84=2 65=. 114=Ins 115=Home 116=PgUp 117=Del 119=End 121=PgDown 123=Left "
+        "6=Y 33=\u00dc 27=\u00df 122=F1 80=F19 49=Space 36=Return 48=Tab 51=Backspace 53=Esc "
+        "71=NumLock 76=Num+Enter 78=Num+- 84=Num+2 65=Num+. 114=Ins 115=Home 116=PgUp 117=Del "
+        "119=End 121=PgDown 123=Left "
         "124=Right 125=Down 126=Up";
     for (const QString &key : keys.split(' ')) {
         EXPECT_EQ(shown(key.section('=', 0, 0).toULongLong(), shortcuts::commandModifier),
                   "Ctrl+" + key.section('=', 1))
             << key.toStdString();
     }
-    for (const std::uint64_t none : {90U, 27U, 56U}) { // F20, a sharp s, a modifier
+    for (const std::uint64_t none : {std::uint64_t{90}, std::uint64_t{56}, // F20, a modifier
+                                     shortcuts::nrShortcut::absentKey}) {
         EXPECT_EQ(shown(none, shortcuts::commandModifier), "");
     }
 }

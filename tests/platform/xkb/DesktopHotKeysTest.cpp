@@ -1,6 +1,7 @@
 #include "platform/linux/DesktopHotKeys.h"
 #include "platform/linux/CommandOutput.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
+#include "tests/fakes/MemoryMainQueue.h"
 #include "tests/fakes/MemoryWorkerQueue.h"
 
 #include <gtest/gtest.h>
@@ -11,13 +12,9 @@
 
 namespace nerlo::platform {
 
-static void PrintTo(const SystemHotKey &hotKey, std::ostream *out) {
-    *out << hotKey.code << '/' << hotKey.modifiers;
-}
-
 namespace {
 
-using HotKeyList = std::vector<SystemHotKey>;
+using HotKeyList = std::vector<std::string>; // "118/2048 GNOME, close"
 
 HotKeyList read(const std::string &desktop, std::map<std::string, std::string> texts) {
     static const XkbKeyboardLayout layout(xkb::Keymap::fromNames("de"));
@@ -29,33 +26,50 @@ HotKeyList read(const std::string &desktop, std::map<std::string, std::string> t
         return text;
     };
     test::MemoryWorkerQueue workers;
+    test::MemoryMainQueue queue;
     const auto hotKeys =
-        createDesktopHotKeys(layout, workers,
+        createDesktopHotKeys(layout, workers, queue,
                              {desktop, [&](const std::string &name) { return texts[name]; },
                               [&](const auto &command) { return texts[join(command)]; }, "ours"});
     hotKeys->refresh();
     hotKeys->refresh();
     EXPECT_EQ(workers.size(), 1u); // one reading at a time, and none on this thread
     EXPECT_TRUE(hotKeys->symbolicHotKeys().empty());
+    int told = 0;
+    hotKeys->setChangedHandler([&] { ++told; });
     workers.runAll();
-    return hotKeys->symbolicHotKeys();
+    hotKeys->refresh();
+    workers.runAll();
+    queue.runPosted();
+    HotKeyList list;
+    for (const auto &hotKey : hotKeys->symbolicHotKeys()) {
+        list.push_back(std::to_string(hotKey.code) + '/' + std::to_string(hotKey.modifiers) + ' ' +
+                       hotKey.owner);
+    }
+    EXPECT_LE(told, 1) << "the second reading has found nothing new";
+    EXPECT_TRUE(told == 1 || list.empty());
+    return list;
 }
 
 TEST(DesktopHotKeys, OfEachDesktop) {
-    EXPECT_EQ(read("ubuntu:GNOME",
-                   {{"gsettings list-recursively",
-                     "org.gnome.desktop.a11y.keyboard enable ['<Alt>F6']\n"
-                     "org.gnome.desktop.wm.keybindings close ['<Alt>F4']\n"
-                     "org.gnome.desktop.wm.keybindings maximize @as []\n"
-                     "org.gnome.desktop.wm.keybindings panel ['<Primary><Shift>z', '<Mod4>F2']\n"
-                     "org.gnome.desktop.wm.keybindings group ['<Super>Above_Tab', '<Hyper>a']\n"
-                     "org.gnome.settings-daemon.plugins.media-keys custom-keybindings "
-                     "['/custom0/', 'no path']\n"},
-                    {"gsettings get org.gnome.settings-daemon.plugins.media-keys.custom-keybinding:"
-                     "/custom0/ binding",
-                     "'<Super>v'"}}),
-              // The German layout has Z where others have Y.
-              (HotKeyList{{118, 0x800}, {16, 0x300}, {120, 0x1000}, {50, 0x1000}, {9, 0x1000}}));
+    EXPECT_EQ(
+        read("ubuntu:GNOME",
+             {{"gsettings list-recursively",
+               "org.gnome.desktop.a11y.keyboard enable ['<Alt>F6']\n"
+               "org.gnome.desktop.wm.keybindings close ['<Alt>F4']\n"
+               "org.gnome.desktop.wm.keybindings maximize @as []\n"
+               "org.gnome.desktop.wm.keybindings panel ['<Primary><Shift>z', '<Mod4>F2']\n"
+               "org.gnome.desktop.wm.keybindings group ['<Super>Above_Tab', '<Hyper>a']\n"
+               "org.gnome.settings-daemon.plugins.media-keys custom-keybindings "
+               "['/custom0/', 'no path']\n"},
+              {"gsettings list-recursively "
+               "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding:/custom0/",
+               "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding binding "
+               "'<Super>v'\n"
+               "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding name 'Notes'"}}),
+        // The German layout has Z where others have Y.
+        (HotKeyList{"118/2048 GNOME, close", "16/768 GNOME, panel", "120/4096 GNOME, panel",
+                    "50/4096 GNOME, group", "9/4096 GNOME, Notes"}));
     EXPECT_EQ(
         read("XFCE", {{"xfconf-query -c xfce4-keyboard-shortcuts -l -v",
                        "/commands/custom/<Alt>F2   xfce4-appfinder --collapsed\n"
@@ -65,7 +79,8 @@ TEST(DesktopHotKeys, OfEachDesktop) {
                        "/xfwm4/default/<Primary>F1       workspace_1_key\n"
                        "/xfwm4/default/<Primary>F1/more  true\n"
                        "/xfwm4/default/<Alt>KP_1         move_window_workspace_1_key\n"}}),
-        (HotKeyList{{120, 0x800}, {122, 0x100}, {83, 0x800}}));
+        (HotKeyList{"120/2048 Xfce, xfce4-appfinder --collapsed", "122/256 Xfce, workspace 1",
+                    "83/2048 Xfce, move window workspace 1"}));
     EXPECT_EQ(read("KDE", {{"kglobalshortcutsrc", "[kwin]\n"
                                                   "_k_friendly_name=KWin\n"
                                                   "Close=Alt+F4\\tMeta+Q,Alt+F4,Close Window\n"
@@ -74,7 +89,8 @@ TEST(DesktopHotKeys, OfEachDesktop) {
                                                   "Page=Ctrl+PgUp,none,Up\n"
                                                   "_launch=Meta+Ctrl+Esc\n"
                                                   "[ours]\nclean=Meta+V,,\n"}}),
-              (HotKeyList{{118, 0x800}, {12, 0x1000}, {43, 0x1000}, {116, 0x100}, {53, 0x1100}}));
+              (HotKeyList{"118/2048 KWin, Close Window", "12/4096 KWin, Close Window",
+                          "43/4096 KWin, Zoom", "116/256 KWin, Up", "53/4352 KWin"}));
     EXPECT_TRUE(read("sway", {{"kglobalshortcutsrc", "a=Meta+V,,"}}).empty());
 }
 
