@@ -118,6 +118,7 @@ CopyTableView::CopyTableView(Program &program)
             rules_.erase(rules_.begin() + row);
             store();
             load();
+            emit removed();
         }
     });
     observation_ = program.store().observe(clipboard::copyTableKey, [this] {
@@ -134,8 +135,9 @@ QLineEdit *CopyTableView::addField(QFormLayout &form, const char *name, const ch
     form.addRow(new QLabel(localized(key)), field);
     fields_.emplace_back(field, member);
     // Not textEdited(), which is silent when an accessibility tool sets the text.
-    connect(field, &QLineEdit::textChanged, this, [this, member](const QString &text) {
-        edit([&](CopyRule &rule) { rule.*member = text.trimmed().toStdString(); });
+    connect(field, &QLineEdit::textChanged, this, [this, member, name](const QString &text) {
+        edit([&](CopyRule &rule) { rule.*member = text.trimmed().toStdString(); },
+             name + std::to_string(list_->currentRow()));
     });
     return field;
 }
@@ -236,20 +238,20 @@ void CopyTableView::showRow() {
     }
 }
 
-void CopyTableView::edit(const std::function<void(CopyRule &)> &change) {
+void CopyTableView::edit(const std::function<void(CopyRule &)> &change, const std::string &place) {
     const int row = list_->currentRow();
     if (loading_ || row < 0) {
         return;
     }
     change(rules_[static_cast<std::size_t>(row)]);
-    store();
+    store(place);
     const QScopedValueRollback loading(loading_, true);
     describeRow(row);
 }
 
-void CopyTableView::store() {
+void CopyTableView::store(const std::string &place) {
     const QScopedValueRollback storing(storing_, true);
-    program_.setCopyRules(rules_);
+    program_.setCopyRules(rules_, place);
 }
 
 void CopyTableView::move(int from, int to) {

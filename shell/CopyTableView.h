@@ -30,13 +30,18 @@ class CopyTableView final : public QWidget {
     void profilesChanged();
     QString searchTexts() const;
 
+  signals:
+    void removed(); // a row has gone
+
   private:
     void load();
     void showRow();
     void describeRow(int row);
     QString conditionsOf(const clipboard::CopyRule &rule) const;
-    void edit(const std::function<void(clipboard::CopyRule &)> &change);
-    void store();
+    // `place`: where it is typed, if it is.
+    void edit(const std::function<void(clipboard::CopyRule &)> &change,
+              const std::string &place = {});
+    void store(const std::string &place = {});
     void move(int from, int to);
     QLineEdit *addField(QFormLayout &form, const char *name, const char *key,
                         std::string clipboard::CopyRule::*member);

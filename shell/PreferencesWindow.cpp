@@ -1,6 +1,5 @@
 #include "shell/PreferencesWindow.h"
 
-#include "settings/ReadyProfiles.h"
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Controls.h"
@@ -8,6 +7,7 @@
 #include "shell/FieldHistory.h"
 #include "shell/FindReplaceTable.h"
 #include "shell/Mnemonics.h"
+#include "shell/ProfilesPage.h"
 #include "shell/Program.h"
 #include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
@@ -77,6 +77,14 @@ QStringList wordsOf(const QString &text) {
     return text.toLower().split(' ', Qt::SkipEmptyParts);
 }
 
+// For a page that is found as a whole.
+PreferencesWindow::Filter filterOf(const QString &texts) {
+    return [texts = texts.toLower()](const QStringList &words) {
+        return std::ranges::all_of(words,
+                                   [&](const QString &word) { return texts.contains(word); });
+    };
+}
+
 } // namespace
 
 PreferencesWindow::PreferencesWindow(Program &program)
@@ -88,6 +96,7 @@ PreferencesWindow::PreferencesWindow(Program &program)
     , nothingFound_(new QLabel)
     , notice_(new QLabel)
     , preview_(new PreviewPane(program))
+    , profilesPage_(new ProfilesPage(preferences_))
     , splitter_(new QSplitter) {
     setObjectName("preferencesWindow");
     setWindowTitle(localized("sPreferencesWindowName"));
@@ -147,15 +156,21 @@ void PreferencesWindow::makePages() {
     const RecorderMaker makeRecorder = [this](const std::string &hotKey) {
         return program_.windows().makeRecorder(hotKey);
     };
-    addPage(localized("sPageGeneral"), makeGeneralPage(makeRecorder));
+    QWidget *general = makeGeneralPage(makeRecorder);
+    addPage(localized("sPageGeneral"), general, filterOf(generalTexts_));
     for (const PreferencesPage &page : preferencesPages()) {
         auto *widget = new OptionPage(page, preferences_, makeRecorder);
         optionPages_.push_back(widget);
-        addPage(localized(page.title), widget);
+        addPage(localized(page.title), widget,
+                [widget](const QStringList &words) { return widget->filter(words); });
         if (FindReplaceTable *rules = widget->rules()) {
             followRules(*rules);
         }
     }
+    const QString profiles = localized(Table::menu, "Profiles");
+    connect(profilesPage_, &ProfilesPage::done, this, &PreferencesWindow::tellDone);
+    profilesPage_->takeDropsOn(*this);
+    addPage(profiles, profilesPage_, filterOf(profiles + ' ' + profilesPage_->searchTexts()));
     splitter_->addWidget(preview_); // now, because the Tab key goes on to what came last
     splitter_->setStretchFactor(0, 3);
     splitter_->setStretchFactor(1, 2);
@@ -173,7 +188,7 @@ void PreferencesWindow::makePages() {
 
 void PreferencesWindow::followRules(FindReplaceTable &rules) {
     connect(preview_, &PreviewPane::rulesTried, &rules, &FindReplaceTable::setTrials);
-    connect(&rules, &FindReplaceTable::removed, this, &PreferencesWindow::tellDeleted);
+    connect(&rules, &FindReplaceTable::removed, this, [this] { tellDone({}); });
     connect(&rules, &FindReplaceTable::copyAsked, this, [this](const QString &text) {
         program_.engine().putText(text.toStdU16String(), [](bool) {});
     });
@@ -188,10 +203,11 @@ void PreferencesWindow::followRules(FindReplaceTable &rules) {
 QWidget *PreferencesWindow::makeDeletedBar() {
     deleted_ = new QWidget;
     deleted_->setObjectName("deleted");
-    deleted_->setAccessibleName(localized("sDeleted"));
     auto *layout = new QHBoxLayout(deleted_);
     layout->setContentsMargins(6, 0, 6, 0);
-    layout->addWidget(new QLabel(localized("sDeleted")));
+    whatWasDone_ = new QLabel;
+    whatWasDone_->setTextFormat(Qt::PlainText);
+    layout->addWidget(whatWasDone_);
     auto *undo = new QPushButton(localized(Table::menu, "Undo"));
     undo->setObjectName("undoDeletion");
     setTip(*undo, localized("sDeletedTip"));
@@ -202,8 +218,10 @@ QWidget *PreferencesWindow::makeDeletedBar() {
     return deleted_;
 }
 
-// Until something else is done.
-void PreferencesWindow::tellDeleted() {
+// Until something else is done. Empty: something has gone.
+void PreferencesWindow::tellDone(const QString &what) {
+    whatWasDone_->setText(what.isEmpty() ? localized("sDeleted") : what);
+    deleted_->setAccessibleName(whatWasDone_->text());
     deleted_->show();
     QAccessibleEvent event(deleted_, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
@@ -328,23 +346,20 @@ QWidget *PreferencesWindow::makeTop() {
     label->setBuddy(profilesPopupButton_);
     connect(profilesPopupButton_, &QComboBox::activated, this,
             [this](int index) { preferences_.profilesSwitch(index); });
-    const auto makeButton = [](const char *name, const char *titleKey, const char *tipKey) {
+    // Whatever their names are, they leave room for the search.
+    profilesPopupButton_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    const auto addButton = [&](const char *name, const char *titleKey, const char *tipKey) {
         auto *button = new QPushButton(localized(titleKey));
         describe(*button, name, titleKey, tipKey);
+        layout->addWidget(button);
         return button;
     };
-    addProfile_ = makeButton("addProfile", "sProfileAdd", "sProfileAddTip");
-    removeProfile_ = makeButton("removeProfile", "sProfileRemove", "sProfileRemoveTip");
-    connect(addProfile_, &QPushButton::clicked, this, &PreferencesWindow::addProfile);
-    connect(removeProfile_, &QPushButton::clicked, this, [this] {
-        if (preferences_.profilesRemove()) {
-            tellDeleted();
-        }
-    });
     layout->addWidget(label);
     layout->addWidget(profilesPopupButton_);
-    layout->addWidget(addProfile_);
-    layout->addWidget(removeProfile_);
+    connect(addButton("addProfile", "sProfileAdd", "sProfileAddTip"), &QPushButton::clicked,
+            profilesPage_, &ProfilesPage::addProfile);
+    connect(addButton("manageProfiles", "sProfilesManage", "sProfilesManageTip"),
+            &QPushButton::clicked, this, [this] { showPage(*profilesPage_); });
     return top;
 }
 
@@ -392,6 +407,7 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
         });
     }
     copyTable_ = new CopyTableView(program_);
+    connect(copyTable_, &CopyTableView::removed, this, [this] { tellDone({}); });
     addGroup("sCopyTable")->addWidget(copyTable_);
     layout->addStretch();
 
@@ -399,11 +415,10 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     for (const QCheckBox *box : page->findChildren<QCheckBox *>()) {
         generalTexts_ += ' ' + box->text() + ' ' + box->accessibleDescription();
     }
-    generalTexts_ = generalTexts_.toLower();
     return page;
 }
 
-void PreferencesWindow::addPage(const QString &title, QWidget *page) {
+void PreferencesWindow::addPage(const QString &title, QWidget *page, Filter filter) {
     auto *scroll = new QScrollArea;
     scroll->setWidget(page);
     scroll->setWidgetResizable(true);
@@ -415,6 +430,16 @@ void PreferencesWindow::addPage(const QString &title, QWidget *page) {
     page->setAccessibleName(title);
     pages_->addWidget(scroll);
     pageList_->addItem(title);
+    filters_.push_back(std::move(filter));
+}
+
+void PreferencesWindow::showPage(const QWidget &page) {
+    search_->clear(); // it may hide the page
+    for (int i = 0; i < pages_->count(); ++i) {
+        if (static_cast<QScrollArea *>(pages_->widget(i))->widget() == &page) {
+            pageList_->setCurrentRow(i);
+        }
+    }
 }
 
 void PreferencesWindow::search(const QString &text) {
@@ -424,10 +449,7 @@ void PreferencesWindow::search(const QString &text) {
     }
     int firstHit = -1;
     for (int i = 0; i < pageList_->count(); ++i) {
-        const bool hit =
-            i == 0 ? std::ranges::all_of(
-                         words, [&](const QString &word) { return generalTexts_.contains(word); })
-                   : optionPages_[static_cast<std::size_t>(i - 1)]->filter(words);
+        const bool hit = filters_[static_cast<std::size_t>(i)](words);
         pageList_->item(i)->setHidden(!hit);
         if (hit && firstHit < 0) {
             firstHit = i;
@@ -445,9 +467,9 @@ void PreferencesWindow::search(const QString &text) {
 
 void PreferencesWindow::showOption(std::string_view hotKey) {
     search_->clear(); // it may hide the option
-    for (std::size_t i = 0; i < optionPages_.size(); ++i) {
-        if (optionPages_[i]->point(hotKey)) {
-            pageList_->setCurrentRow(static_cast<int>(i) + 1);
+    for (OptionPage *page : optionPages_) {
+        if (page->point(hotKey)) {
+            showPage(*page);
             return;
         }
     }
@@ -488,11 +510,11 @@ void PreferencesWindow::profilesChanged() {
     profilesPopupButton_->clear();
     for (const settings::ProfileItem &item : preferences_.profilesItems()) {
         profilesPopupButton_->addItem(
-            QString::fromStdU16String(settings::profileNameOf(item.record)));
+            shortName(QString::fromStdU16String(settings::profileNameOf(item.record))));
     }
     profilesPopupButton_->setCurrentIndex(preferences_.popupSelection().value_or(-1));
     copyTable_->profilesChanged();
-    removeProfile_->setEnabled(profilesPopupButton_->currentIndex() >= 0);
+    profilesPage_->profilesChanged();
 }
 
 void PreferencesWindow::controlsLoaded() {
@@ -509,33 +531,6 @@ void PreferencesWindow::updateUI(settings::RulesUpdate update) {
 
 void PreferencesWindow::edited() {
     preview_->setOptions(preferences_.profileSelected());
-}
-
-void PreferencesWindow::addProfile() {
-    preferences_.profilesAdd();
-    const QString current = QString::fromStdU16String(preferences_.profileName());
-    NameQuestion question{
-        localized("Insert new profile name and click OK"),
-        localized("sProfileName"),
-        localized("sProfileBegin"),
-        {{localized("sProfileEmpty"), {}}, {filled(localized("sProfileCopy"), {current}), {}}}};
-    const auto firstReady = question.beginnings.size();
-    for (const settings::ReadyProfile &ready : settings::readyProfiles()) {
-        const QString title = localized(ready.titleKey);
-        question.beginnings.push_back({filled(localized("sReady"), {title}), title});
-    }
-    const auto chosen = askForName(question, this);
-    if (!chosen) {
-        preferences_.profilesAddingCancelWindow();
-        return;
-    }
-    const auto name = chosen->name.toStdU16String();
-    const auto ready = chosen->beginning - firstReady;
-    preferences_.profilesAddingCloseWindow(
-        name, chosen->beginning == 0 ? settings::ProfileRecord()
-              : ready < 0            ? preferences_.profileSelected()
-                                     : settings::readyRecord(
-                                           settings::readyProfiles()[static_cast<std::size_t>(ready)], name));
 }
 
 void PreferencesWindow::remember() {

@@ -14,6 +14,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <functional>
 #include <map>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,7 @@ namespace nerlo::shell {
 
 class CopyTableView;
 class FindReplaceTable;
+class ProfilesPage;
 class Program;
 
 class PreferencesWindow final : public QMainWindow {
@@ -33,6 +35,9 @@ class PreferencesWindow final : public QMainWindow {
     // Settings of the window itself, in the store.
     static constexpr auto heightKey = "preferencesHeight"; // device-independent pixels
     static constexpr auto pageKey = "preferencesPage";     // counted from 0
+
+    // Whether a page has something with all the words (in lower case); it may hide the rest.
+    using Filter = std::function<bool(const QStringList &words)>;
 
     // `program` must outlive the window.
     explicit PreferencesWindow(Program &program);
@@ -56,9 +61,6 @@ class PreferencesWindow final : public QMainWindow {
 
     void historyChanged();
 
-    // Asks, and adds.
-    void addProfile();
-
     PreviewPane &preview() { return *preview_; }
 
   protected:
@@ -75,12 +77,13 @@ class PreferencesWindow final : public QMainWindow {
     void makePages();
     void followRules(FindReplaceTable &rules);
     QWidget *makeDeletedBar();
-    void tellDeleted();
+    void tellDone(const QString &what);
     void connectKeys();
     void openAsRemembered(); // with the height and the page that were left
     void fitPages();
     void placePreview();
-    void addPage(const QString &title, QWidget *page);
+    void addPage(const QString &title, QWidget *page, Filter filter);
+    void showPage(const QWidget &page);
     void search(const QString &text);
     void showOption(std::string_view hotKey);
     void remember();
@@ -91,18 +94,19 @@ class PreferencesWindow final : public QMainWindow {
 
     QLineEdit *search_ = nullptr;
     QComboBox *profilesPopupButton_ = nullptr;
-    QPushButton *addProfile_ = nullptr;
-    QPushButton *removeProfile_ = nullptr;
     QListWidget *pageList_;
     QStackedWidget *pages_;
     QLabel *nothingFound_;
     QLabel *notice_;
-    QWidget *deleted_ = nullptr; // a line that offers to bring back what was deleted
+    QWidget *deleted_ = nullptr; // a line that offers to take back what was done last
+    QLabel *whatWasDone_ = nullptr;
     std::map<std::string_view, QLabel *> commandProblems_; // by hot key
     PreviewPane *preview_;
+    ProfilesPage *profilesPage_;
     QSplitter *splitter_;
     std::vector<OptionPage *> optionPages_;
-    QString generalTexts_; // what a search looks at, in lower case
+    std::vector<Filter> filters_; // of the pages
+    QString generalTexts_;        // what a search looks at
     int pageBeforeSearch_ = -1;
     int previewBesideFrom_ = 0; // width of the window
     bool loading_ = false;

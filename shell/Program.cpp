@@ -238,8 +238,8 @@ std::vector<clipboard::CopyRule> Program::copyRules() const {
     return stored ? clipboard::copyRules(stored) : clipboard::offeredRules();
 }
 
-void Program::setCopyRules(const std::vector<clipboard::CopyRule> &rules) {
-    store_.set(clipboard::copyTableKey, clipboard::storedRules(rules));
+void Program::setCopyRules(const std::vector<clipboard::CopyRule> &rules, std::string_view place) {
+    preferences_.copyTableChanged(clipboard::storedRules(rules), place);
 }
 
 bool Program::neverInLastProgram() const {

@@ -90,7 +90,8 @@ class Program final {
 
     // Which profile cleans which copy: what is stored, or else the rows that are offered.
     std::vector<clipboard::CopyRule> copyRules() const;
-    void setCopyRules(const std::vector<clipboard::CopyRule> &rules);
+    // As a gesture that can be taken back; `place` is where it is typed, if it is.
+    void setCopyRules(const std::vector<clipboard::CopyRule> &rules, std::string_view place = {});
     // Whether copies from the program of the last copy are left alone, by a row that says nothing
     // else. It does nothing where the program is not known.
     std::string lastProgram() const { return watcher_.lastProgram(); } // empty: not known; UTF-8

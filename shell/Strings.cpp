@@ -67,6 +67,12 @@ QString filled(QString text, std::initializer_list<QString> values) {
     return text;
 }
 
+QString shortName(const QString &name) {
+    constexpr int most = 60;
+    const QString line = name.left(10 * most).simplified();
+    return line.size() > most ? line.left(most) + QChar(0x2026) : line;
+}
+
 std::u16string localizedUtf16(Table table, std::u16string_view key) {
     const auto utf8 = QStringView(key).toUtf8();
     return localized(table, {utf8.data(), static_cast<std::size_t>(utf8.size())}).toStdU16String();

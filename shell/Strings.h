@@ -27,6 +27,9 @@ QString localized(std::string_view key);
 // again.
 QString filled(QString text, std::initializer_list<QString> values);
 
+// A name that a file may have given, in one line of a length that a menu can show.
+QString shortName(const QString &name);
+
 // For the layers without Qt: keys and texts in UTF-16.
 std::u16string localizedUtf16(Table table, std::u16string_view key);
 

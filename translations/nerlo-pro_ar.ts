@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>يزيل ملف الإعدادات المحدد بعد السؤال.</translation>
+        <translation>يزيل ملف الإعدادات المحدد. «استعادة» تعيده.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>إدارة…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>يعرض قائمة ملفات الإعدادات لإعادة تسميتها ونسخها وترتيبها واستيرادها وتصديرها.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>ملف الإعدادات المحدد هو المستخدم. F2 لإعادة تسميته، وAlt مع السهم لأعلى أو لأسفل لنقله، وDelete لإزالته. يمكن إسقاط ملفات إعدادات هنا.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>تكرار</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>يضيف نسخة من ملف الإعدادات المحدد في نهاية القائمة.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>إعادة تسمية</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>يعطي ملف الإعدادات المحدد اسمًا آخر، ويتبعه جدول النسخ.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>ينقل ملف الإعدادات المحدد لأعلى، هنا وفي القوائم.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>ينقل ملف الإعدادات المحدد لأسفل، هنا وفي القوائم.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>إعادة الضبط إلى</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>يعطي ملف الإعدادات المحدد قيمًا أخرى: قيم التشغيل الأول أو قيم ملف جاهز. ويمكن استعادة ما كان عليه.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>قيم التشغيل الأول</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>تصدير…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>يكتب ملف الإعدادات المحدد في ملف، لحاسوب آخر أو لشخص آخر.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>استيراد…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>يضيف ملفات الإعدادات الموجودة في ملف، ولا يستبدل أيًا منها.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>استعادة</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>يعيد أحد ملفات الإعدادات التي أُزيلت مؤخرًا.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>أُضيف: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>تعذّرت قراءة ملف الإعدادات.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>تعذّرت كتابة ملف الإعدادات.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1257,7 +1341,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>يعيد ما حُذف.</translation>
+        <translation>يتراجع عن ذلك.</translation>
     </message>
     <message>
         <source>Reverse</source>

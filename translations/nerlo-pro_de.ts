@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Entfernt nach einer Rückfrage das gewählte Profil.</translation>
+        <translation>Entfernt das gewählte Profil. „Wiederherstellen“ holt es zurück.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Verwalten…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Zeigt die Liste der Profile: zum Umbenennen, Kopieren, Ordnen, Importieren und Exportieren.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Das gewählte Profil wird benutzt. F2 benennt es um, Alt+Auf und Alt+Ab verschieben es, Entf entfernt es. Dateien mit Profilen können hier abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Fügt am Ende der Liste eine Kopie des gewählten Profils hinzu.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Gibt dem gewählten Profil einen anderen Namen. Die Tabelle der Kopien richtet sich danach.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Verschiebt das gewählte Profil nach oben, hier und in den Menüs.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Verschiebt das gewählte Profil nach unten, hier und in den Menüs.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Zurücksetzen auf</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Gibt dem gewählten Profil andere Werte: die eines ersten Starts oder eines fertigen Profils. Was es war, lässt sich wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Werte eines ersten Starts</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Schreibt das gewählte Profil in eine Datei, für einen anderen Rechner oder Menschen.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Fügt die Profile einer Datei hinzu. Keines wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Holt eines der zuletzt entfernten Profile zurück.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Hinzugefügt: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Das Profil konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Das Profil konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Ungeprüft: Wo nur Treffer bleiben, wird ein Text ohne Treffer leer.</translatio
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Holt zurück, was gelöscht wurde.</translation>
+        <translation>Nimmt das zurück.</translation>
     </message>
     <message>
         <source>Reverse</source>

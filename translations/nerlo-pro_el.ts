@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Αφαιρεί το επιλεγμένο προφίλ, μετά από ερώτηση.</translation>
+        <translation>Αφαιρεί το επιλεγμένο προφίλ. Η «Επαναφορά» το φέρνει πίσω.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Διαχείριση…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Εμφανίζει τη λίστα των προφίλ, για μετονομασία, αντιγραφή, ταξινόμηση, εισαγωγή και εξαγωγή.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Χρησιμοποιείται το επιλεγμένο προφίλ. Το F2 το μετονομάζει, τα Alt+Πάνω και Alt+Κάτω το μετακινούν, το Delete το αφαιρεί. Εδώ μπορούν να αποτεθούν αρχεία προφίλ.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Αντίγραφο</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Προσθέτει ένα αντίγραφο του επιλεγμένου προφίλ στο τέλος της λίστας.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Μετονομασία</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Δίνει άλλο όνομα στο επιλεγμένο προφίλ. Ο πίνακας των αντιγραφών το ακολουθεί.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Μετακινεί το επιλεγμένο προφίλ προς τα πάνω, εδώ και στα μενού.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Μετακινεί το επιλεγμένο προφίλ προς τα κάτω, εδώ και στα μενού.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Επαναφορά σε</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Δίνει στο επιλεγμένο προφίλ άλλες τιμές: της πρώτης εκκίνησης ή ενός έτοιμου προφίλ. Ό,τι ήταν μπορεί να επανέλθει.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Τιμές της πρώτης εκκίνησης</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Εξαγωγή…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Γράφει το επιλεγμένο προφίλ σε αρχείο, για άλλον υπολογιστή ή άνθρωπο.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Εισαγωγή…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Προσθέτει τα προφίλ ενός αρχείου. Κανένα δεν αντικαθίσταται.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Επαναφορά</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Φέρνει πίσω ένα από τα προφίλ που αφαιρέθηκαν τελευταία.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Προστέθηκε: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Δεν ήταν δυνατή η ανάγνωση του προφίλ.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Δεν ήταν δυνατή η εγγραφή του προφίλ.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Επαναφέρει ό,τι διαγράφηκε.</translation>
+        <translation>Το αναιρεί.</translation>
     </message>
     <message>
         <source>Reverse</source>

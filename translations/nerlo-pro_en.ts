@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Removes the selected profile, after a question.</translation>
+        <translation>Removes the selected profile. “Restore” brings it back.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Manage…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Shows the list of profiles: to rename, copy, sort, import and export them.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>The selected profile is the one that is used. F2 renames it, Alt+Up and Alt+Down move it, Delete removes it. Files of profiles can be dropped here.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Adds a copy of the selected profile at the end of the list.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Gives the selected profile another name. The table of copies follows it.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Moves the selected profile up, here and in the menus.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Moves the selected profile down, here and in the menus.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Reset to</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Gives the selected profile other values: those of a first start, or of a ready profile. What it was can be restored.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Values of a first start</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Export…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Writes the selected profile to a file, for another computer or person.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Import…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Adds the profiles of a file. None is replaced.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Brings back one of the profiles that were removed last.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Added: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>The profile could not be read.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>The profile could not be written.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1259,7 +1343,7 @@ Untested: where only matches are kept, a text without any becomes empty.</transl
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Brings back what was deleted.</translation>
+        <translation>Takes this back.</translation>
     </message>
     <message>
         <source>Reverse</source>

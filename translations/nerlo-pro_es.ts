@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Quita el perfil seleccionado, después de preguntar.</translation>
+        <translation>Quita el perfil seleccionado. «Restaurar» lo recupera.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Gestionar…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Muestra la lista de perfiles para cambiarles el nombre, copiarlos, ordenarlos, importarlos y exportarlos.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>El perfil seleccionado es el que se usa. F2 le cambia el nombre, Alt+Arriba y Alt+Abajo lo mueven, Supr lo quita. Aquí se pueden soltar archivos de perfiles.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Añade una copia del perfil seleccionado al final de la lista.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Da otro nombre al perfil seleccionado. La tabla de copias lo sigue.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Sube el perfil seleccionado, aquí y en los menús.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Baja el perfil seleccionado, aquí y en los menús.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Restablecer a</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Da otros valores al perfil seleccionado: los de un primer inicio o los de un perfil listo. Lo que era se puede restaurar.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Valores de un primer inicio</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Escribe el perfil seleccionado en un archivo, para otro equipo u otra persona.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Añade los perfiles de un archivo. Ninguno se reemplaza.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Recupera uno de los últimos perfiles quitados.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Añadido: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>No se pudo leer el perfil.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>No se pudo escribir el perfil.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Sin comprobar: cuando solo se conservan las coincidencias, un texto que no tiene
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Recupera lo que se eliminó.</translation>
+        <translation>Deshace esto.</translation>
     </message>
     <message>
         <source>Reverse</source>

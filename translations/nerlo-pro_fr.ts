@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Supprime le profil choisi, après confirmation.</translation>
+        <translation>Retire le profil sélectionné. « Restaurer » le ramène.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Gérer…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Affiche la liste des profils, pour les renommer, copier, classer, importer et exporter.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Le profil sélectionné est celui qui sert. F2 le renomme, Alt+Haut et Alt+Bas le déplacent, Suppr le retire. On peut déposer ici des fichiers de profils.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Ajoute une copie du profil sélectionné à la fin de la liste.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Donne un autre nom au profil sélectionné. Le tableau des copies suit.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Monte le profil sélectionné, ici et dans les menus.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Descend le profil sélectionné, ici et dans les menus.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Réinitialiser à</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Donne d’autres valeurs au profil sélectionné : celles d’un premier démarrage ou d’un profil tout prêt. L’ancien état peut être restauré.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Valeurs d’un premier démarrage</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Écrit le profil sélectionné dans un fichier, pour un autre ordinateur ou une autre personne.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Ajoute les profils d’un fichier. Aucun n’est remplacé.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Ramène un des derniers profils retirés.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Ajouté : %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Le profil n’a pas pu être lu.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Le profil n’a pas pu être écrit.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Sans test : quand seules les correspondances restent, un texte qui n’en a pas 
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Rétablit ce qui a été supprimé.</translation>
+        <translation>Annule cela.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Rimuove il profilo selezionato, dopo una conferma.</translation>
+        <translation>Rimuove il profilo selezionato. «Ripristina» lo riporta.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Gestisci…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Mostra l’elenco dei profili, per rinominarli, copiarli, ordinarli, importarli ed esportarli.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Il profilo selezionato è quello in uso. F2 lo rinomina, Alt+Su e Alt+Giù lo spostano, Canc lo rimuove. Qui si possono trascinare file di profili.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Duplica</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Aggiunge una copia del profilo selezionato in fondo all’elenco.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Dà un altro nome al profilo selezionato. La tabella delle copie lo segue.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Sposta in alto il profilo selezionato, qui e nei menu.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Sposta in basso il profilo selezionato, qui e nei menu.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Reimposta a</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Dà altri valori al profilo selezionato: quelli di un primo avvio o di un profilo pronto. Quello che era si può ripristinare.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Valori di un primo avvio</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Esporta…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Scrive il profilo selezionato in un file, per un altro computer o un’altra persona.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importa…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Aggiunge i profili di un file. Nessuno viene sostituito.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Riporta uno degli ultimi profili rimossi.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Aggiunto: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Non è stato possibile leggere il profilo.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Non è stato possibile scrivere il profilo.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Senza verifica: dove restano solo le corrispondenze, un testo che non ne ha dive
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Riporta ciò che è stato eliminato.</translation>
+        <translation>Annulla questa azione.</translation>
     </message>
     <message>
         <source>Reverse</source>

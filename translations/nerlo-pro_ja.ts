@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>選択中のプロファイルを、確認のうえ削除します。</translation>
+        <translation>選択中のプロファイルを削除します。「復元」で元に戻せます。</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>管理…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>プロファイルの一覧を表示し、名前の変更、コピー、並べ替え、読み込み、書き出しを行います。</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>選択されているプロファイルが使われます。F2 で名前を変更、Alt+↑ と Alt+↓ で移動、Delete で削除します。プロファイルのファイルをここにドロップできます。</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>選択中のプロファイルのコピーを一覧の末尾に追加します。</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>選択中のプロファイルに別の名前を付けます。コピーの表もそれに従います。</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>選択中のプロファイルを、ここでもメニューでも上に移します。</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>選択中のプロファイルを、ここでもメニューでも下に移します。</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>選択中のプロファイルを、初回起動時の値または用意されたプロファイルの値にします。元の状態は復元できます。</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>初回起動時の値</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>書き出す…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>選択中のプロファイルを、ほかのコンピュータや人のためにファイルに書き出します。</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>読み込む…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>ファイルのプロファイルを追加します。置き換えられるものはありません。</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>最近削除したプロファイルの一つを元に戻します。</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>追加しました: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>プロファイルを読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>プロファイルを書き込めませんでした。</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1257,7 +1341,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>削除したものを元に戻します。</translation>
+        <translation>これを取り消します。</translation>
     </message>
     <message>
         <source>Reverse</source>

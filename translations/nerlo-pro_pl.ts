@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Usuwa wybrany profil po potwierdzeniu.</translation>
+        <translation>Usuwa wybrany profil. „Przywróć” go odzyskuje.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Zarządzaj…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Pokazuje listę profili: do zmiany nazw, kopiowania, porządkowania, importu i eksportu.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Używany jest wybrany profil. F2 zmienia jego nazwę, Alt+Góra i Alt+Dół przesuwają go, Delete usuwa. Można tu upuścić pliki z profilami.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Powiel</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Dodaje kopię wybranego profilu na końcu listy.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Zmień nazwę</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Nadaje wybranemu profilowi inną nazwę. Tabela kopii ją przejmuje.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Przesuwa wybrany profil w górę, tutaj i w menu.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Przesuwa wybrany profil w dół, tutaj i w menu.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Resetuj do</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Nadaje wybranemu profilowi inne wartości: z pierwszego uruchomienia albo gotowego profilu. To, czym był, można przywrócić.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Wartości pierwszego uruchomienia</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Eksportuj…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Zapisuje wybrany profil do pliku, dla innego komputera lub innej osoby.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importuj…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Dodaje profile z pliku. Żaden nie jest zastępowany.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Przywróć</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Odzyskuje jeden z ostatnio usuniętych profili.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Dodano: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Nie udało się odczytać profilu.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Nie udało się zapisać profilu.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Bez sprawdzenia: gdy zostają tylko dopasowania, tekst bez żadnego staje się p
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Przywraca to, co usunięto.</translation>
+        <translation>Cofa to.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Remove o perfil selecionado, depois de uma pergunta.</translation>
+        <translation>Remove o perfil selecionado. «Restaurar» trá-lo de volta.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Gerir…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Mostra a lista de perfis, para mudar o nome, copiar, ordenar, importar e exportar.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>O perfil selecionado é o que é usado. F2 muda-lhe o nome, Alt+Cima e Alt+Baixo movem-no, Delete remove-o. Pode largar aqui ficheiros de perfis.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Adiciona uma cópia do perfil selecionado no fim da lista.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Mudar nome</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Dá outro nome ao perfil selecionado. A tabela das cópias acompanha.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Move o perfil selecionado para cima, aqui e nos menus.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Move o perfil selecionado para baixo, aqui e nos menus.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Repor para</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Dá outros valores ao perfil selecionado: os de um primeiro arranque ou os de um perfil pronto. O que era pode ser restaurado.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Valores de um primeiro arranque</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Escreve o perfil selecionado num ficheiro, para outro computador ou outra pessoa.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Adiciona os perfis de um ficheiro. Nenhum é substituído.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Traz de volta um dos últimos perfis removidos.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Adicionado: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Não foi possível ler o perfil.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Não foi possível escrever o perfil.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Sem teste: onde só ficam as correspondências, um texto sem nenhuma fica vazio.
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Traz de volta o que foi eliminado.</translation>
+        <translation>Anula isto.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Удаляет выбранный профиль после подтверждения.</translation>
+        <translation>Удаляет выбранный профиль. «Восстановить» вернёт его.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Управление…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Показывает список профилей: их можно переименовать, скопировать, упорядочить, импортировать и экспортировать.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Используется выбранный профиль. F2 переименовывает его, Alt+Вверх и Alt+Вниз перемещают, Delete удаляет. Сюда можно перетащить файлы профилей.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Дублировать</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Добавляет копию выбранного профиля в конец списка.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Даёт выбранному профилю другое имя. Таблица копий следует за ним.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Перемещает выбранный профиль вверх, здесь и в меню.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Перемещает выбранный профиль вниз, здесь и в меню.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Сбросить на</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Даёт выбранному профилю другие значения: первого запуска или готового профиля. Прежнее можно восстановить.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Значения первого запуска</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Экспорт…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Записывает выбранный профиль в файл — для другого компьютера или человека.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Импорт…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Добавляет профили из файла. Ни один не заменяется.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Возвращает один из недавно удалённых профилей.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Добавлено: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Не удалось прочитать профиль.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Не удалось записать профиль.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Возвращает удалённое.</translation>
+        <translation>Отменяет это.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Tar bort den valda profilen, efter en fråga.</translation>
+        <translation>Tar bort den valda profilen. ”Återställ” hämtar tillbaka den.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Hantera…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Visar listan över profiler, för att byta namn på, kopiera, ordna, importera och exportera dem.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Den valda profilen är den som används. F2 byter namn på den, Alt+Upp och Alt+Ned flyttar den, Delete tar bort den. Filer med profiler kan släppas här.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Duplicera</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Lägger till en kopia av den valda profilen sist i listan.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Byt namn</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Ger den valda profilen ett annat namn. Tabellen över kopior följer med.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Flyttar den valda profilen uppåt, här och i menyerna.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Flyttar den valda profilen nedåt, här och i menyerna.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Ställ om till</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Ger den valda profilen andra värden: de vid en första start eller de i en färdig profil. Det den var kan återställas.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Värden vid en första start</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Exportera…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Skriver den valda profilen till en fil, för en annan dator eller person.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Importera…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Lägger till profilerna i en fil. Ingen ersätts.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Återställ</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Hämtar tillbaka en av de senast borttagna profilerna.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Tillagt: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Profilen kunde inte läsas.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Profilen kunde inte skrivas.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@ Oprövat: där bara träffar behålls blir en text utan träffar tom.</translati
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Hämtar tillbaka det som togs bort.</translation>
+        <translation>Tar tillbaka detta.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>Вилучає вибраний профіль після підтвердження.</translation>
+        <translation>Вилучає вибраний профіль. «Відновити» поверне його.</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>Керування…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>Показує список профілів: їх можна перейменувати, скопіювати, впорядкувати, імпортувати й експортувати.</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>Використовується вибраний профіль. F2 перейменовує його, Alt+Вгору й Alt+Вниз переміщують, Delete вилучає. Сюди можна перетягнути файли профілів.</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>Дублювати</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>Додає копію вибраного профілю в кінець списку.</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>Перейменувати</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>Дає вибраному профілю інше ім’я. Таблиця копій іде за ним.</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>Переміщує вибраний профіль угору, тут і в меню.</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>Переміщує вибраний профіль униз, тут і в меню.</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>Скинути до</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>Дає вибраному профілю інші значення: першого запуску або готового профілю. Попереднє можна відновити.</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>Значення першого запуску</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>Експорт…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>Записує вибраний профіль у файл — для іншого комп’ютера чи людини.</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>Імпорт…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>Додає профілі з файлу. Жоден не замінюється.</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>Відновити</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>Повертає один з нещодавно вилучених профілів.</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>Додано: %@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>Не вдалося прочитати профіль.</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>Не вдалося записати профіль.</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1258,7 +1342,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>Повертає видалене.</translation>
+        <translation>Скасовує це.</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>询问后移除所选配置。</translation>
+        <translation>移除所选配置。“恢复”可将其找回。</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>管理…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>显示配置列表，可重命名、复制、排序、导入和导出。</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>所选的配置即为正在使用的。F2 重命名，Alt+↑ 和 Alt+↓ 移动，Delete 移除。可将配置的文件拖放到此处。</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>在列表末尾添加所选配置的副本。</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>为所选配置另取名称，复制表随之更新。</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>将所选配置上移，此处和菜单中均生效。</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>将所选配置下移，此处和菜单中均生效。</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>重置为</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>将所选配置改为首次启动时的值或现成配置的值。原来的内容可以恢复。</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>首次启动时的值</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>将所选配置写入文件，供其他电脑或他人使用。</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>添加文件中的配置，不会替换任何现有项。</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>找回最近移除的配置之一。</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>已添加：%@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>无法读取配置。</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>无法写入配置。</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1257,7 +1341,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>恢复已删除的内容。</translation>
+        <translation>撤销此操作。</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -88,7 +88,91 @@
     </message>
     <message>
         <source>sProfileRemoveTip</source>
-        <translation>詢問後移除所選的設定檔。</translation>
+        <translation>移除所選設定檔。「還原」可將其找回。</translation>
+    </message>
+    <message>
+        <source>sProfilesManage</source>
+        <translation>管理…</translation>
+    </message>
+    <message>
+        <source>sProfilesManageTip</source>
+        <translation>顯示設定檔清單，可重新命名、複製、排序、匯入和匯出。</translation>
+    </message>
+    <message>
+        <source>sProfilesListTip</source>
+        <translation>所選的設定檔即為使用中的。F2 重新命名，Alt+↑ 和 Alt+↓ 移動，Delete 移除。可將設定檔的檔案拖放到此處。</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicate</source>
+        <translation>製作副本</translation>
+    </message>
+    <message>
+        <source>sProfileDuplicateTip</source>
+        <translation>在清單末尾加入所選設定檔的副本。</translation>
+    </message>
+    <message>
+        <source>sProfileRename</source>
+        <translation>重新命名</translation>
+    </message>
+    <message>
+        <source>sProfileRenameTip</source>
+        <translation>為所選設定檔另取名稱，複製表隨之更新。</translation>
+    </message>
+    <message>
+        <source>sProfileUpTip</source>
+        <translation>將所選設定檔上移，此處和選單中均生效。</translation>
+    </message>
+    <message>
+        <source>sProfileDownTip</source>
+        <translation>將所選設定檔下移，此處和選單中均生效。</translation>
+    </message>
+    <message>
+        <source>sProfileReset</source>
+        <translation>重設為</translation>
+    </message>
+    <message>
+        <source>sProfileResetTip</source>
+        <translation>將所選設定檔改為首次啟動時的值或現成設定檔的值。原來的內容可以還原。</translation>
+    </message>
+    <message>
+        <source>sProfileFirstStart</source>
+        <translation>首次啟動時的值</translation>
+    </message>
+    <message>
+        <source>sProfileExport</source>
+        <translation>匯出…</translation>
+    </message>
+    <message>
+        <source>sProfileExportTip</source>
+        <translation>將所選設定檔寫入檔案，供其他電腦或他人使用。</translation>
+    </message>
+    <message>
+        <source>sProfileImport</source>
+        <translation>匯入…</translation>
+    </message>
+    <message>
+        <source>sProfileImportTip</source>
+        <translation>加入檔案中的設定檔，不會取代任何現有項目。</translation>
+    </message>
+    <message>
+        <source>sProfileRestore</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>sProfileRestoreTip</source>
+        <translation>找回最近移除的設定檔之一。</translation>
+    </message>
+    <message>
+        <source>sProfilesAdded</source>
+        <translation>已加入：%@</translation>
+    </message>
+    <message>
+        <source>sProfileUnreadable</source>
+        <translation>無法讀取設定檔。</translation>
+    </message>
+    <message>
+        <source>sProfileNotWritten</source>
+        <translation>無法寫入設定檔。</translation>
     </message>
     <message>
         <source>Insert new profile name and click OK</source>
@@ -1257,7 +1341,7 @@
     </message>
     <message>
         <source>sDeletedTip</source>
-        <translation>復原已刪除的內容。</translation>
+        <translation>復原此操作。</translation>
     </message>
     <message>
         <source>Reverse</source>

@@ -6,6 +6,7 @@
 #include "shell/Alerts.h"
 #include "shell/FindReplaceTable.h"
 #include "shell/Mnemonics.h"
+#include "shell/ProfilesPage.h"
 #include "shell/RuleModel.h"
 #include "shell/StatusMenu.h"
 #include "shell/Strings.h"
@@ -18,8 +19,10 @@
 #include <QAction>
 #include <QClipboard>
 #include <QCompleter>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -142,6 +145,115 @@ TEST_F(Preferences, ProfilesAreAddedSwitchedAndRemoved) {
     }
 }
 
+TEST_F(Preferences, TheListOfProfilesIsEditedByKeysButtonsAndFiles) {
+    control<QPushButton>("manageProfiles").click();
+    auto &list = control<QListWidget>("profilesList");
+    ASSERT_TRUE(list.isVisible());
+    const auto names = [&] {
+        QStringList shown;
+        for (int row = 0; row < list.count(); ++row) {
+            shown << list.item(row)->text() + (row == list.currentRow() ? "*" : "");
+        }
+        EXPECT_EQ(list.currentRow(), preferences.selectedItem());
+        EXPECT_EQ(list.currentRow(), control<QComboBox>("profilesPopupButton").currentIndex());
+        return shown.join(' ').toStdString();
+    };
+    const auto type = [&](const char *name) {
+        const auto editors = list.viewport()->findChildren<QLineEdit *>();
+        ASSERT_FALSE(editors.isEmpty());
+        QLineEdit *editor = editors.last();
+        editor->selectAll();
+        QTest::keyClick(editor, Qt::Key_Delete);
+        QTest::keyClicks(editor, name);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents(); // the editor ends
+        QCoreApplication::processEvents(); // and the name is taken
+    };
+    control<QPushButton>("duplicateProfile").click();
+    EXPECT_EQ(names(), "default default 2*");
+    type("");
+    EXPECT_EQ(names(), "default default 2*") << "an empty name is none";
+    QTest::keyClick(&list, Qt::Key_F2);
+    type("work");
+    EXPECT_EQ(names(), "default work*");
+    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
+    QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier); // at the top already
+    EXPECT_EQ(names(), "work* default");
+    emit static_cast<RowList &>(list).dropped(0, 2);
+    EXPECT_EQ(names(), "default work*");
+    control<QPushButton>("duplicateProfile").click();
+    QTest::keyClick(&list, Qt::Key_Up);
+    EXPECT_EQ(names(), "default work* work 2");
+
+    // Another process takes a row away while a name is typed: the name is of no other row.
+    QTest::keyClick(&list, Qt::Key_F2);
+    preferences.savePending();
+    settings::ProfilesFile other(folder / "Data/profiles.nrp");
+    auto items = other.load();
+    items.erase(items.begin() + 1);
+    EXPECT_EQ(other.save(items), "");
+    preferences.profilesFileChanged();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names(), "default work 2*");
+
+    QTest::keyClick(&list, Qt::Key_Up);
+    auto &deleted = control<QWidget>("deleted");
+    QTest::keyClick(&list, Qt::Key_Delete);
+    EXPECT_EQ(names(), "work 2*");
+    EXPECT_EQ(deleted.accessibleName(), "Deleted.");
+    auto &restore = *control<QPushButton>("restoreProfile").menu();
+    emit restore.aboutToShow();
+    ASSERT_EQ(restore.actions().size(), 1);
+    restore.actions()[0]->trigger();
+    EXPECT_EQ(names(), "work 2* default");
+    EXPECT_EQ(deleted.accessibleName(), "Added: default");
+    control<QPushButton>("undoDeletion").click();
+    EXPECT_EQ(names(), "work 2*");
+    EXPECT_TRUE(stored("udRemoveBullets"));
+    control<QPushButton>("resetProfile").menu()->actions()[3]->trigger();
+    EXPECT_FALSE(stored("udRemoveBullets"));
+    EXPECT_TRUE(stored("udRemoveReplyQuotes")) << "the ready one for mails";
+    EXPECT_EQ(names(), "work 2*");
+}
+
+TEST_F(Preferences, FilesOfProfilesAreDroppedAnywhereAndHostileOnesAreNamed) {
+    test::putBytes(folder / "hostile\n\xff.plist", std::string(100, '<'));
+    const auto drop = [&](QStringList files, QWidget &on) {
+        QStringList told;
+        setAlertAnswers({[&](const Alert &alert) {
+                             told << alert.informative;
+                             return 0;
+                         },
+                         {}});
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &file : files) {
+            urls << QUrl::fromLocalFile(QString::fromStdString(folder / "") + file);
+        }
+        data.setUrls(urls);
+        const QPoint at = on.rect().center();
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&on, &enter);
+        EXPECT_EQ(enter.isAccepted(), !files.isEmpty());
+        QDropEvent dropped(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                           Qt::NoModifier);
+        QApplication::sendEvent(&on, &dropped);
+        QCoreApplication::processEvents();
+        return told.join('\n').toStdString();
+    };
+    auto &page = *window->findChild<ProfilesPage *>();
+    page.exportTo(QString::fromStdString(folder / "mine.plist"));
+    EXPECT_EQ(drop({"mine.plist", "gone"}, *window), folder / "gone" + ": not there");
+    EXPECT_EQ(preferences.profilesItems().size(), 2U);
+    EXPECT_EQ(preferences.selectedItem(), 0) << "a file does not change what is cleaned";
+    EXPECT_TRUE(preferences.profilesItems()[1].record.find("udRemoveBullets")->boolValue());
+    EXPECT_NE(drop({"hostile\n\xff.plist", ""}, *window), "");
+    EXPECT_EQ(drop({}, *window), "");
+    EXPECT_EQ(preferences.profilesItems().size(), 2U);
+    control<QPushButton>("undoDeletion").click();
+    EXPECT_EQ(preferences.profilesItems().size(), 1U);
+}
+
 TEST_F(Preferences, RowsOfTheTableOfCopiesAreEditedAndStored) {
     showPage(0);
     auto &list = control<QListWidget>("copyTable");
@@ -169,6 +281,16 @@ TEST_F(Preferences, RowsOfTheTableOfCopiesAreEditedAndStored) {
     EXPECT_FALSE(rules()[2].on);
     control<QPushButton>("removeCopyRow").click();
     EXPECT_EQ(rules().size(), 3u);
+    control<QPushButton>("undoDeletion").click();
+    ASSERT_EQ(rules().size(), 4u);
+    EXPECT_EQ(row(2), "Code, Program: kate, Format: text/rtf -> Mail");
+    for (int gestures = 0; gestures < 6; ++gestures) {
+        preferences.undo(); // moved, profile, looks, format, program as a whole, added
+    }
+    EXPECT_EQ(rules().size(), 3u);
+    EXPECT_TRUE(rules()[0].on);
+    preferences.undo();
+    EXPECT_EQ(store.find(clipboard::copyTableKey), nullptr) << "what is offered";
     // Another process stores another table.
     store.set(clipboard::copyTableKey, storage::PropertyArray{});
     EXPECT_EQ(list.count(), 0);
