@@ -145,6 +145,9 @@ QLineEdit *CopyTableView::addField(QFormLayout &form, const char *name, const ch
 QComboBox *CopyTableView::addChoice(QFormLayout &form, const char *name, const char *key) {
     auto *box = new QComboBox;
     describe(*box, name, key, std::string(key) + "Tip");
+    // As wide as the form, not as the longest name.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     form.addRow(new QLabel(localized(key)), box);
     return box;
 }
@@ -217,7 +220,7 @@ void CopyTableView::showRow() {
     profile_->addItem(localized("sLeaveAlone"), QString());
     const auto add = [&](const QString &title, const QString &name) {
         if (profile_->findData(name) < 0) {
-            profile_->addItem(title, name);
+            profile_->addItem(shortName(title), name);
         }
     };
     for (const settings::ProfileItem &item : program_.preferences().profilesItems()) {

@@ -49,7 +49,6 @@ ProfilesPage::ProfilesPage(settings::nrPreferences &preferences)
     layout->setContentsMargins(12, 8, 12, 12);
     auto *hint = new QLabel(localized("sProfilesListTip"));
     hint->setWordWrap(true);
-    hint->setBuddy(list_);
     layout->addWidget(hint, 0, 0, 1, columns);
     layout->addWidget(list_, 1, 0, 1, columns);
     layout->setRowStretch(1, 1);
