@@ -95,7 +95,10 @@ Chosen<Pasteboard> Backends::openPasteboard() {
 Chosen<ActiveApplication> Backends::openActiveApplication() {
     return firstOf<ActiveApplication>(
         [&] { return createWaylandActiveApplication(mainQueue_, io_); },
-        [&] { return createX11ActiveApplication(mainQueue_, x11()); },
+        [&] {
+            return createX11ActiveApplication(mainQueue_, x11(),
+                                              !wayland::EventLoop::defaultDisplay().empty());
+        },
         [] { return always<ActiveApplication, NoActiveApplication>(); });
 }
 

@@ -29,8 +29,8 @@ Toplevels::Toplevels(wl_display *display) {
 }
 
 Toplevels::~Toplevels() {
-    for (const auto &[handle, window] : windows_) {
-        zwlr_foreign_toplevel_handle_v1_destroy(handle);
+    for (const auto &[handle, window] : windows()) {
+        zwlr_foreign_toplevel_handle_v1_destroy(static_cast<Handle *>(handle));
     }
     if (manager_) {
         zwlr_foreign_toplevel_manager_v1_destroy(manager_);
@@ -42,48 +42,29 @@ void Toplevels::add(Handle *handle) {
         .title = [](void *, Handle *, const char *) {},
         .app_id =
             [](void *self, Handle *of, const char *appId) {
-                static_cast<Toplevels *>(self)->windows_[of].appId = appId;
+                static_cast<Toplevels *>(self)->windows()[of].appId = appId;
             },
         .output_enter = [](void *, Handle *, wl_output *) {},
         .output_leave = [](void *, Handle *, wl_output *) {},
         .state = [](void *self, Handle *of,
                     wl_array *states) { static_cast<Toplevels *>(self)->setState(of, *states); },
         .done = [](void *self, Handle *of) { static_cast<Toplevels *>(self)->completed(of); },
-        .closed = [](void *self, Handle *of) { static_cast<Toplevels *>(self)->closed(of); },
+        .closed =
+            [](void *self, Handle *of) {
+                static_cast<Toplevels *>(self)->closed(of);
+                zwlr_foreign_toplevel_handle_v1_destroy(of);
+            },
         .parent = [](void *, Handle *, Handle *) {},
     };
-    windows_[handle];
+    windows()[handle];
     zwlr_foreign_toplevel_handle_v1_add_listener(handle, &listener, this);
 }
 
 void Toplevels::setState(Handle *handle, const wl_array &states) {
     const std::span values(static_cast<const std::uint32_t *>(states.data),
                            states.size / sizeof(std::uint32_t));
-    windows_[handle].inFront =
+    windows()[handle].inFront =
         std::ranges::find(values, ZWLR_FOREIGN_TOPLEVEL_HANDLE_V1_STATE_ACTIVATED) != values.end();
-}
-
-void Toplevels::completed(Handle *handle) {
-    const Window &window = windows_[handle];
-    if (!window.inFront) {
-        if (handle == front_) {
-            front_ = nullptr;
-        }
-    } else if (handle != front_ || window.appId != frontAppId_) {
-        front_ = handle;
-        frontAppId_ = window.appId;
-        if (activated_) {
-            activated_(frontAppId_);
-        }
-    }
-}
-
-void Toplevels::closed(Handle *handle) {
-    if (handle == front_) {
-        front_ = nullptr;
-    }
-    windows_.erase(handle);
-    zwlr_foreign_toplevel_handle_v1_destroy(handle);
 }
 
 } // namespace nerlo::platform::wayland

@@ -4,8 +4,10 @@
 #include "platform/Pasteboard.h"
 #include "platform/SpreadsheetLinks.h"
 #include "platform/wayland/EventLoop.h"
+#include "platform/wayland/PlasmaWindows.h"
 #include "platform/wayland/Toplevels.h"
 
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -15,7 +17,7 @@ namespace {
 
 using wayland::Clock;
 using wayland::EventLoop;
-using wayland::Toplevels;
+using wayland::WindowList;
 
 // A connection of its own, which lives only while somebody listens: every change of a window's
 // title comes over it and would wake an idle program.
@@ -34,41 +36,60 @@ class Tracking {
             declined = "the Wayland compositor does not answer";
             return nullptr;
         }
-        if (!tracking->toplevels_->available()) {
-            declined = "the Wayland compositor has no foreign-toplevel management";
+        tracking->chooseList();
+        if (!tracking->windows_) {
+            declined = "the Wayland compositor does not tell this program of other windows (KWin "
+                       "tells a program that is installed)";
             return nullptr;
         }
-        // Brings in the windows that are there already.
+        // Brings in the windows that are there already, and what KWin tells of them when asked.
+        tracking->loop_->roundTrip(pasteboardStallLimit);
         tracking->loop_->roundTrip(pasteboardStallLimit);
         return tracking;
     }
 
     ~Tracking() {
         loop_->stop(Clock::now(), Clock::now());
-        toplevels_.reset();
+        windows_.reset();
+        lists_ = {};
     }
 
     // `activated` runs on the I/O thread.
-    void report(Toplevels::Activated activated) {
-        toplevels_->report(std::move(activated));
+    void report(WindowList::Activated activated) {
+        windows_->report(std::move(activated));
         loop_->start({});
     }
+
+    const char *protocol() const { return windows_->protocol(); }
 
   private:
     explicit Tracking(std::unique_ptr<EventLoop> loop)
         : loop_(std::move(loop))
-        , toplevels_(std::make_unique<Toplevels>(loop_->display())) {}
+        , lists_{std::make_unique<wayland::Toplevels>(loop_->display()),
+                 std::make_unique<wayland::PlasmaWindows>(loop_->display())} {}
+
+    void chooseList() {
+        for (auto &list : lists_) {
+            if (!windows_ && list->available()) {
+                windows_ = std::move(list);
+            }
+            list.reset();
+        }
+    }
 
     std::unique_ptr<EventLoop> loop_;
-    std::unique_ptr<Toplevels> toplevels_;
+    std::array<std::unique_ptr<WindowList>, 2> lists_; // until one of them is chosen
+    std::unique_ptr<WindowList> windows_;
 };
 
 class WaylandActiveApplication final : public ActiveApplication {
   public:
-    WaylandActiveApplication(MainQueue &mainQueue, IoThread &io, std::string display)
+    WaylandActiveApplication(MainQueue &mainQueue, IoThread &io, std::string display,
+                             std::string protocol)
         : mainQueue_(mainQueue)
         , io_(io)
-        , display_(std::move(display)) {}
+        , display_(std::move(display))
+        , protocol_(std::move(protocol)) {}
 
     void setActivatedHandler(Handler activated) override {
         tracking_.reset();
@@ -88,12 +109,13 @@ class WaylandActiveApplication final : public ActiveApplication {
             });
     }
 
-    std::string description() const override { return "Wayland, foreign-toplevel management"; }
+    std::string description() const override { return "Wayland, " + protocol_; }
 
   private:
     MainQueue &mainQueue_;
     IoThread &io_;
     std::string display_;
+    std::string protocol_;
     Alive alive_; // of one handler after the other
     std::unique_ptr<Tracking> tracking_;
 };
@@ -104,10 +126,12 @@ Created<ActiveApplication> createWaylandActiveApplication(MainQueue &mainQueue, 
                                                           const std::string &display) {
     const std::string name = display.empty() ? EventLoop::defaultDisplay() : display;
     std::string declined;
-    if (!Tracking::begin(io, name, declined)) {
+    const auto tracking = Tracking::begin(io, name, declined);
+    if (!tracking) {
         return {nullptr, std::move(declined)};
     }
-    return {std::make_unique<WaylandActiveApplication>(mainQueue, io, name), {}};
+    return {std::make_unique<WaylandActiveApplication>(mainQueue, io, name, tracking->protocol()),
+            {}};
 }
 
 } // namespace nerlo::platform

@@ -1,4 +1,5 @@
-// The application in front on a Wayland desktop whose compositor has foreign-toplevel management.
+// The application in front on a Wayland desktop whose compositor tells of the windows of others: by
+// foreign-toplevel management, or KWin's own protocol.
 #pragma once
 
 #include "platform/ActiveApplication.h"

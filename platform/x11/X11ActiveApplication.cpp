@@ -92,9 +92,11 @@ class ActiveWindow final : public SharedConnection::Listener {
 
 class X11ActiveApplication final : public ActiveApplication {
   public:
-    X11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared)
+    X11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared,
+                         bool amongOthers)
         : mainQueue_(mainQueue)
-        , shared_(std::move(shared)) {}
+        , shared_(std::move(shared))
+        , amongOthers_(amongOthers) {}
     ~X11ActiveApplication() override { setActivatedHandler(nullptr); }
 
     void setActivatedHandler(Handler activated) override {
@@ -111,23 +113,29 @@ class X11ActiveApplication final : public ActiveApplication {
         });
     }
 
-    std::string description() const override { return "X11, _NET_ACTIVE_WINDOW"; }
+    std::string description() const override {
+        const std::string x11 = "X11, _NET_ACTIVE_WINDOW";
+        return amongOthers_ ? x11 + "; Wayland windows are not told apart" : x11;
+    }
 
   private:
     MainQueue &mainQueue_;
     std::shared_ptr<SharedConnection> shared_;
+    bool amongOthers_;
     Alive alive_;                          // of one handler after the other
     std::unique_ptr<ActiveWindow> window_; // on the I/O thread; null: nobody listens
 };
 
 } // namespace
 
-Created<ActiveApplication>
-createX11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> connection) {
+Created<ActiveApplication> createX11ActiveApplication(MainQueue &mainQueue,
+                                                      std::shared_ptr<SharedConnection> connection,
+                                                      bool amongOthers) {
     if (!connection) {
         return {nullptr, x11::noDisplay};
     }
-    return {std::make_unique<X11ActiveApplication>(mainQueue, std::move(connection)), {}};
+    return {std::make_unique<X11ActiveApplication>(mainQueue, std::move(connection), amongOthers),
+            {}};
 }
 
 } // namespace nerlo::platform

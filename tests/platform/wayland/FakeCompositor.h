@@ -48,6 +48,9 @@ class FakeCompositor {
     // The path of the socket.
     std::string display() const { return folder_ / "socket"; }
 
+    // Runs it on the compositor's thread.
+    void run(const std::function<void()> &task);
+
     void copy(std::vector<std::string> formats, Owner owner);
     // A copy of one text by an owner that behaves.
     void copyText(const std::string &text);
@@ -81,7 +84,6 @@ class FakeCompositor {
         const wl_interface *interface;
     };
 
-    void run(const std::function<void()> &task);
     void serve();
     wl_global *offer(const wl_interface *interface);
     wl_resource *make(wl_client *client, const wl_interface *interface, int version,
