@@ -2,9 +2,11 @@
 
 #include "text/Ascii.h"
 #include "text/CaseMapping.h"
+#include "text/UnitClasses.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
+#include <bit>
 #include <map>
 
 namespace nerlo::engine {
@@ -33,30 +35,58 @@ bool isInHost(char16_t unit) {
     return isAsciiLetter(unit) || isAsciiDigit(unit) || unit == u'.' || unit == u'-';
 }
 
-// Walks over the places at which something may begin.
+constexpr text::UnitClasses classes = [] {
+    text::UnitClasses some;
+    some.add(0, inlineMarks);
+    some.add(1, text::UnitSet(u"w"));
+    return some;
+}();
+
+// Walks over the places of a text in order.
+class PlaceCursor {
+  public:
+    explicit PlaceCursor(const PlacedText &text)
+        : places_(text.places)
+        , begin_(text.begin)
+        , end_(text.begin + text.text.size()) {}
+
+    // The first place at or behind `from`, or the text's size.
+    std::size_t nextFrom(std::size_t from) const {
+        const std::size_t at = begin_ + from;
+        if (at >= end_) {
+            return end_ - begin_;
+        }
+        std::size_t word = at / 64;
+        std::uint64_t mask = places_[word] & ~std::uint64_t{0} << at % 64;
+        while (mask == 0) {
+            if (++word * 64 >= end_) {
+                return end_ - begin_;
+            }
+            mask = places_[word];
+        }
+        const std::size_t place = word * 64 + static_cast<std::size_t>(std::countr_zero(mask));
+        return std::min(place, end_) - begin_;
+    }
+
+  private:
+    const InlinePlaces &places_;
+    const std::size_t begin_;
+    const std::size_t end_;
+};
+
 class InlineScan {
   public:
-    InlineScan(View text, const text::UnitSet &signs, std::span<const std::size_t> breaks,
-               bool tagsGo)
+    InlineScan(View text, std::span<const std::size_t> breaks, bool tagsGo,
+               std::vector<Range> &ranges)
         : text_(text)
-        , signs_(signs)
         , breaks_(breaks)
-        , tagsGo_(tagsGo) {}
+        , tagsGo_(tagsGo)
+        , ranges_(ranges) {}
 
-    std::vector<Range> run() {
-        // Wider than they need be, because each range takes its time.
-        text::UnitSet marks{{u':', u'@'}, {u'[', u'`'}};
-        marks.add(u'\'', u'\'');
-        marks.add(u'\u2019', u'\u2019');
-        for (const auto &range : signs_) {
-            marks.add(range.first, range.last);
+    void run(const PlaceCursor &cursor) {
+        for (std::size_t at = cursor.nextFrom(0); at < text_.size();) {
+            at = cursor.nextFrom(std::max(at + 1, after(at)));
         }
-        text::UnitCursor cursor(text_, marks, u'w');
-        for (std::size_t at = cursor.next(); at < text_.size();) {
-            const std::size_t next = after(at);
-            at = next <= at + 1 ? cursor.next() : cursor.nextFrom(next);
-        }
-        return std::move(ranges_);
     }
 
   private:
@@ -66,7 +96,8 @@ class InlineScan {
         case u'`':
             return code(at);
         case u'\\': // a mark behind it is none
-            return at + 1 < text_.size() && !signs_.contains(text_[at + 1]) ? at + 2 : at + 1;
+            return at + 1 < text_.size() && !structureSigns.contains(text_[at + 1]) ? at + 2
+                                                                                    : at + 1;
         case u'<':
             return tag(at);
         case u'@':
@@ -78,10 +109,12 @@ class InlineScan {
         case u'\'':
         case u'\u2019':
             return isInsideWord(at) ? add(at, at + 1) : at;
-        case u'w':
-            return text_.substr(at).starts_with(u"www.") && startsWord(at) ? address(at, at) : at;
+        case u'w': // the second one
+            return at > 0 && text_.substr(at - 1).starts_with(u"www.") && startsWord(at - 1)
+                       ? address(at - 1, at - 1)
+                       : at;
         default:
-            return signs_.contains(text_[at]) && !isBreak(at) ? add(at, at + 1) : at;
+            return structureSigns.contains(text_[at]) && !isBreak(at) ? add(at, at + 1) : at;
         }
     }
 
@@ -175,7 +208,7 @@ class InlineScan {
             (inside.find(u':') != View::npos || inside.find(u'@') != View::npos) &&
             inside.find(u'=') == View::npos;
         const bool goes =
-            tagsGo_ && !isAddress && text::findUnit(inside, 0, signs_) == inside.size();
+            tagsGo_ && !isAddress && text::findUnit(inside, 0, structureSigns) == inside.size();
         return goes ? close + 1 : add(at, close + 1);
     }
 
@@ -207,7 +240,8 @@ class InlineScan {
     // From `begin` on, over `at`. What ends a sentence does not belong to it.
     std::size_t address(std::size_t begin, std::size_t at) {
         std::size_t end = at;
-        while (end < text_.size() && isInAddress(text_[end]) && !signs_.contains(text_[end])) {
+        while (end < text_.size() && isInAddress(text_[end]) &&
+               !structureSigns.contains(text_[end])) {
             ++end;
         }
         while (end > at && isOneOf(text_[end - 1], u".,;:!?'")) {
@@ -221,7 +255,7 @@ class InlineScan {
         std::size_t depth = 0;
         for (std::size_t end = at + 1; end < text_.size() && end < at + longestLink; ++end) {
             const char16_t unit = text_[end];
-            if (isOneOf(unit, u"\r\n") || (signs_.contains(unit) && isBreak(end))) {
+            if (isOneOf(unit, u"\r\n") || (structureSigns.contains(unit) && isBreak(end))) {
                 break;
             }
             depth += unit == u'(' ? 1 : 0;
@@ -236,10 +270,9 @@ class InlineScan {
     static constexpr std::size_t longestLink = 2048;
 
     const View text_;
-    const text::UnitSet &signs_;
     const std::span<const std::size_t> breaks_;
     const bool tagsGo_;
-    std::vector<Range> ranges_;
+    std::vector<Range> &ranges_;
     std::size_t paragraphEnd_ = 0;
     std::map<std::size_t, std::vector<std::size_t>> closers_; // places of marks by their number
     std::size_t noTagFrom_ = 0;
@@ -248,9 +281,23 @@ class InlineScan {
 
 } // namespace
 
-std::vector<Range> findInlineStructure(View text, const text::UnitSet &signs,
-                                       std::span<const std::size_t> breaks, bool tagsGo) {
-    return InlineScan(text, signs, breaks, tagsGo).run();
+void findInlinePlaces(View text, InlinePlaces &places) {
+    places.clear();
+    std::uint64_t before = 0;
+    for (std::size_t at = 0; at < text.size(); at += text::scanBlock) {
+        const std::size_t left = std::min(text.size() - at, text::scanBlock);
+        const text::ClassMasks found = left == text::scanBlock
+                                           ? text::scanClasses(text.data() + at, classes)
+                                           : text::scanTailClasses(text.data() + at, left, classes);
+        places.push_back(found[0] | (found[1] & (found[1] << 1 | before >> 63)));
+        before = found[1];
+    }
+}
+
+void findInlineStructure(const PlacedText &text, std::span<const std::size_t> breaks, bool tagsGo,
+                         std::vector<Range> &ranges) {
+    ranges.clear();
+    InlineScan(text.text, breaks, tagsGo, ranges).run(PlaceCursor(text));
 }
 
 } // namespace nerlo::engine

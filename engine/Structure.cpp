@@ -2,10 +2,12 @@
 
 #include "text/Ascii.h"
 #include "text/Range.h"
+#include "text/UnitClasses.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <span>
 
@@ -18,17 +20,27 @@ using Lines = std::vector<StructuredLine>;
 using text::isAsciiDigit;
 using text::isAsciiLetter;
 
-// Breaks, and what prose seldom has and code and tables mostly: tabs, brackets but for round ones,
-// operators, signs of frames.
-constexpr text::UnitSet marks = [] {
-    text::UnitSet set;
-    set.add(u'\0', u'\x1F');
-    set.add(u'#', u'$');
-    set.add(u':', u'@'); // the "?" comes along: each range takes its time
-    set.add(u'[', u'`');
-    set.add(u'{', u'~');
-    set.add(u'\u2500', u'\u257F');
-    return set;
+// What is looked for in each line.
+enum Class : std::size_t {
+    control,   // breaks, tabs and the like
+    blank,     // the space
+    separator, // of values
+    mark,      // what prose seldom has and code mostly: brackets but for round ones, operators
+    bar,       // between columns, and what frames are drawn with
+    inlineMark,
+    letterW,
+};
+constexpr text::UnitClasses classes = [] {
+    text::UnitClasses some;
+    some.add(control, {{u'\0', u'\x1F'}});
+    some.add(blank, text::UnitSet(u" "));
+    some.add(separator, text::UnitSet(u",;"));
+    some.add(mark,
+             {{u'#', u'$'}, {u':', u'>'}, {u'@', u'@'}, {u'[', u'`'}, {u'{', u'{'}, {u'}', u'~'}});
+    some.add(bar, {{u'|', u'|'}, {u'\u2500', u'\u257F'}});
+    some.add(inlineMark, inlineMarks);
+    some.add(letterW, text::UnitSet(u"w"));
+    return some;
 }();
 
 bool isBlank(char16_t unit) {
@@ -66,61 +78,105 @@ std::size_t runOf(View text, char16_t unit) {
 // Walks over the breaks of a text and tells for each line whether it has marks or wide gaps.
 class LineScan {
   public:
-    LineScan(View text, Lines &lines)
+    // With `places`, adds the places at which something may stand inside lines.
+    LineScan(View text, Lines &lines, InlinePlaces *places)
         : text_(text)
         , lines_(lines)
-        , cursor_(text, marks, u' ')
-        , at_(cursor_.next()) {}
+        , places_(places) {}
 
     // Adds the lines that end in the next `count` units or so. False at the end of the text.
     bool advance(std::size_t count) {
-        for (const std::size_t end = begin_ + count; at_ < text_.size(); at_ = cursor_.next()) {
-            take(at_);
-            if (begin_ >= end) {
-                at_ = cursor_.nextFrom(begin_);
-                return true;
-            }
+        const std::size_t end = std::min(text_.size(), block_ + count);
+        for (; block_ < end; block_ += text::scanBlock) {
+            const std::size_t left = text_.size() - block_;
+            take(left >= text::scanBlock
+                     ? text::scanClasses(text_.data() + block_, classes)
+                     : text::scanTailClasses(text_.data() + block_, left, classes));
         }
-        if (begin_ < text_.size()) {
+        if (block_ >= text_.size() && begin_ < text_.size()) {
             endLine(text_.size(), 0);
         }
-        return false;
+        return block_ < text_.size();
     }
 
   private:
-    void take(std::size_t at) {
-        const char16_t unit = text_[at];
-        if (unit == u'\n' || unit == u'\r') {
-            if (at >= begin_) {
-                const bool pair = unit == u'\r' && at + 1 < text_.size() && text_[at + 1] == u'\n';
-                endLine(at, pair ? 2 : 1);
+    // With the bit of the unit before.
+    static std::uint64_t shifted(std::uint64_t mask, std::uint64_t before) {
+        return mask << 1 | before >> 63;
+    }
+
+    void take(const text::ClassMasks &found) {
+        const std::uint64_t gaps = found[blank] & shifted(found[blank], before_[blank]);
+        const std::uint64_t ink = ~(found[control] | found[blank]);
+        marks_ = found[mark];
+        values_ = shifted(found[separator], before_[separator]) & ink;
+        columns_ = found[bar] | (gaps != 0 ? wideGaps(gaps) : 0);
+        if (places_) {
+            const std::uint64_t twice = found[letterW] & shifted(found[letterW], before_[letterW]);
+            places_->push_back(found[inlineMark] | twice);
+        }
+        before_ = found;
+        std::uint64_t rest = ~std::uint64_t{0};
+        for (std::uint64_t left = found[control]; left != 0; left &= left - 1) {
+            const auto bit = static_cast<std::size_t>(std::countr_zero(left));
+            const std::uint64_t below = (std::uint64_t{1} << bit) - 1;
+            notice(rest & below);
+            rest = ~below;
+            takeControl(block_ + bit);
+        }
+        notice(rest);
+    }
+
+    // What a part of the block says about the line at hand.
+    void notice(std::uint64_t part) {
+        marked_ = marked_ || (marks_ & part) != 0;
+        valued_ = valued_ || (values_ & part) != 0;
+        tabular_ = tabular_ || (columns_ & part) != 0;
+    }
+
+    // Those at whose end there is more than how some people end a sentence.
+    std::uint64_t wideGaps(std::uint64_t gaps) const {
+        std::uint64_t wide = gaps;
+        for (std::uint64_t left = gaps; left != 0; left &= left - 1) {
+            const std::size_t at = block_ + static_cast<std::size_t>(std::countr_zero(left));
+            const char16_t before = at > 1 ? text_[at - 2] : u' ';
+            if (before == u'.' || before == u'!' || before == u'?') {
+                wide &= ~(left & (~left + 1));
             }
-        } else if (unit == u' ') {
-            // Behind a sentence, two blanks are no gap.
-            const char16_t before = at > begin_ ? text_[at - 1] : u' ';
-            tabular_ = tabular_ || (before != u'.' && before != u'!' && before != u'?');
-        } else if (unit < u' ' || unit == u'|' || unit >= u'\u2500') {
-            tabular_ = true;
-        } else {
-            marked_ = marked_ || unit != u'?';
+        }
+        return wide;
+    }
+
+    void takeControl(std::size_t at) {
+        const char16_t unit = text_[at];
+        if (unit != u'\n' && unit != u'\r') {
+            tabular_ = valued_ = true;
+        } else if (at >= begin_) {
+            const bool pair = unit == u'\r' && at + 1 < text_.size() && text_[at + 1] == u'\n';
+            endLine(at, pair ? 2 : 1);
         }
     }
 
     void endLine(std::size_t end, std::uint8_t breakSize) {
         const char16_t last = end > begin_ ? text_[end - 1] : u'\0';
         lines_.push_back({begin_, end, begin_, begin_, LineKind::blank, breakSize, false, marked_,
-                          tabular_, last == u' ' || last == u'\\'});
+                          tabular_, valued_, last == u' ' || last == u'\\'});
         begin_ = end + breakSize;
-        marked_ = tabular_ = false;
+        marked_ = tabular_ = valued_ = false;
     }
 
     const View text_;
     Lines &lines_;
-    text::UnitCursor cursor_; // over breaks, marks and gaps
-    std::size_t at_;
+    InlinePlaces *const places_;
+    std::size_t block_ = 0;     // the units up to it have been looked at
+    text::ClassMasks before_{}; // of the block before
+    std::uint64_t marks_ = 0;
+    std::uint64_t values_ = 0;
+    std::uint64_t columns_ = 0;
     std::size_t begin_ = 0; // of the line at hand
     bool marked_ = false;
     bool tabular_ = false;
+    bool valued_ = false;
 };
 
 // A line of three or more of one sign, blanks between them allowed: "---", "* * *".
@@ -317,6 +373,9 @@ class MarkedStructure {
         }
     }
 
+    // The first lines are there no more.
+    void forget(std::size_t count) { at_ -= count; }
+
   private:
     // Whether a look at the beginning is enough to see that the line is prose, or goes with the
     // lines around it.
@@ -366,7 +425,7 @@ class MarkedStructure {
             quotedAbove_ = false;
             return LineKind::blank;
         }
-        const bool blankAbove = blankAbove_ || at_ == 0;
+        const bool blankAbove = blankAbove_ || line.begin == 0;
         blankAbove_ = false;
         if (line_ == u"-- " || (line_ == u"--" && blankAbove)) {
             signature_ = true;
@@ -701,17 +760,15 @@ class Paragraphs {
         }
     }
 
-    void finish() {
-        endRun();
-        // A file of a program: what is prose in it are comments.
-        if (inked_ > 3 && code_ * 4 > inked_) {
-            for (StructuredLine &line : lines_) {
-                const bool stays = line.kind == LineKind::blank || line.kind == LineKind::fence ||
-                                   line.kind == LineKind::rule;
-                line.kind = stays ? line.kind : LineKind::code;
-            }
-        }
-    }
+    void finish() { endRun(); }
+
+    // The lines of which all is known.
+    std::size_t known() const { return at_ - run_.lines; }
+
+    void forget(std::size_t count) { at_ -= count; }
+
+    // A file of a program: what is prose in it are comments.
+    bool isProgram() const { return inked_ > 3 && code_ * 4 > inked_; }
 
   private:
     // Lines of prose below each other.
@@ -800,7 +857,7 @@ class Paragraphs {
 
     // As many separators in the first two lines, and no prose between them.
     bool isListOfValues(std::size_t begin, std::size_t end) const {
-        if (end - begin < 2) {
+        if (end - begin < 2 || !lines_[begin].valued || !lines_[begin + 1].valued) {
             return false;
         }
         const std::size_t first = separators(wordsAt(begin));
@@ -866,14 +923,13 @@ class Paragraphs {
 
 std::vector<StructuredLine> splitLines(View text) {
     Lines lines;
-    LineScan(text, lines).advance(text.size() + 1);
+    LineScan(text, lines, nullptr).advance(text.size());
     return lines;
 }
 
-std::vector<StructuredLine> scanStructure(View text) {
+bool scanStructure(View text, const LinesFound &found, InlinePlaces *places) {
     Lines lines;
-    lines.reserve(text.size() / 48);
-    LineScan scan(text, lines);
+    LineScan scan(text, lines, places);
     MarkedStructure marked(text, lines);
     Paragraphs paragraphs(text, lines);
     // In parts, so that all passes over one find it in the cache.
@@ -881,10 +937,32 @@ std::vector<StructuredLine> scanStructure(View text) {
     for (bool more = true; more;) {
         more = scan.advance(part);
         marked.advance();
-        // The next line may make a heading of the last one.
-        paragraphs.advance(more && !lines.empty() ? lines.size() - 1 : lines.size());
+        if (more && !lines.empty()) {
+            // The next line may make a heading of the last one.
+            paragraphs.advance(lines.size() - 1);
+        } else {
+            paragraphs.advance(lines.size());
+            paragraphs.finish();
+        }
+        const std::size_t known = paragraphs.known();
+        found({lines.data(), known});
+        lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(known));
+        marked.forget(known);
+        paragraphs.forget(known);
     }
-    paragraphs.finish();
+    return paragraphs.isProgram();
+}
+
+std::vector<StructuredLine> scanStructure(View text) {
+    Lines lines;
+    const bool program = scanStructure(text, [&](std::span<const StructuredLine> some) {
+        lines.insert(lines.end(), some.begin(), some.end());
+    });
+    for (StructuredLine &line : lines) {
+        const bool stays = !program || line.kind == LineKind::blank ||
+                           line.kind == LineKind::fence || line.kind == LineKind::rule;
+        line.kind = stays ? line.kind : LineKind::code;
+    }
     return lines;
 }
 

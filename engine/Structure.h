@@ -5,8 +5,12 @@
 // are UTF-16, places count units. Pure, any thread.
 #pragma once
 
+#include "engine/InlineStructure.h"
+
 #include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -37,6 +41,7 @@ struct StructuredLine {
     bool item = false;          // a list mark stands before the words
     bool marked = false;        // has signs that are seldom in prose
     bool tabular = false;       // has tabs, bars or gaps
+    bool valued = false;        // may have separators of values
     bool mayBreak = false;      // ends in a blank or a backslash
     bool codeLike = false;      // looks like code by itself
 
@@ -49,5 +54,12 @@ struct StructuredLine {
 std::vector<StructuredLine> splitLines(std::u16string_view text);
 
 std::vector<StructuredLine> scanStructure(std::u16string_view text);
+
+// The same in parts: `found` is given some lines after the other, in order. True where the text is
+// a program's; then all its lines are code but for blank ones, fences and rules, whatever `found`
+// was told. Adds to `places`, where it is given, where something may stand inside the lines.
+using LinesFound = std::function<void(std::span<const StructuredLine>)>;
+bool scanStructure(std::u16string_view text, const LinesFound &found,
+                   InlinePlaces *places = nullptr);
 
 } // namespace nerlo::engine

@@ -23,14 +23,6 @@ using View = std::u16string_view;
 constexpr text::UnitSet lineBreaks(u"\r\n");
 using Steps = std::span<const Operation *const>;
 
-// What stands in a text for code or an address: a letter without cases, so that words and sentences
-// are still seen around it. Of runes, as hardly any text has them.
-constexpr char16_t wordSign = u'\u16F8';
-// What stands for a break that stays, with the marks behind it: the number of no character, so that
-// no word has it and no rule takes it for anything.
-constexpr char16_t breakSign = u'\u16F9';
-constexpr text::UnitSet signs{{wordSign, breakSign}};
-
 constexpr View blanks = u" \u00A0";
 
 std::size_t inkBegin(View words) {
@@ -102,7 +94,7 @@ std::vector<const Operation *> onProse(Steps steps) {
 // Of the steps that can be cut, only the one for breaks puts in a text of the user's.
 bool putsSignsIn(const CleaningOptions &options) {
     const std::u16string text = options.udChangeReturnsCustom1.stringValue();
-    return text::findUnit(text, 0, signs) < text.size();
+    return text::findUnit(text, 0, structureSigns) < text.size();
 }
 
 constexpr std::int32_t removeTagsOperation = 11;
@@ -132,14 +124,128 @@ class Literals {
     std::size_t next_ = 0;
 };
 
+bool isIndented(View text, const StructuredLine &line) {
+    return line.begin < line.end && blanks.find(text[line.begin]) != View::npos;
+}
+
+bool hasInk(View line) {
+    return line.find_first_not_of(u" \t\u00A0") != View::npos;
+}
+
+// From the first line with ink to the last one.
+text::Range inkedLines(View text) {
+    const View noInk = u" \t\u00A0\r\n";
+    const std::size_t first = text.find_first_not_of(noInk);
+    if (first == View::npos) {
+        return {};
+    }
+    const std::size_t last = text.find_last_not_of(noInk);
+    return {text.find_last_of(u"\r\n", first) + 1, text::findUnit(text, last, lineBreaks)};
+}
+
+// A text that takes the place of another one, unit by unit: where it has grown beyond what is done
+// with, it goes on in memory of its own.
+class TextInPlace {
+  public:
+    explicit TextInPlace(std::u16string &text)
+        : text_(text) {}
+
+    // The units up to `end` may be overwritten from now on.
+    void free(std::size_t end) { free_ = end; }
+
+    // May be a part of the old text that is free from now on.
+    void append(View more) {
+        if (longer_.empty() && size_ + more.size() <= free_) {
+            std::char_traits<char16_t>::move(text_.data() + size_, more.data(), more.size());
+        } else {
+            if (longer_.empty()) {
+                longer_.reserve(text_.size() + more.size());
+                longer_.assign(text_, 0, size_);
+            }
+            longer_.append(more);
+        }
+        size_ += more.size();
+    }
+
+    std::size_t size() const { return size_; }
+
+    void finish() {
+        if (longer_.empty()) {
+            text_.resize(size_);
+        } else {
+            text_ = std::move(longer_);
+        }
+    }
+
+  private:
+    std::u16string &text_;
+    std::u16string longer_;
+    std::size_t size_ = 0;
+    std::size_t free_ = 0;
+};
+
+// The lines of a text, of which paragraphs of prose, with blank lines between them, count as one:
+// but for those in lists and quotations, and up to a break that may be meant.
+class GuardedLines {
+  public:
+    explicit GuardedLines(View text)
+        : text_(text) {}
+
+    void add(const StructuredLine &line) {
+        const bool isProse = line.kind == LineKind::prose && line.words < line.end;
+        if (inProse_ && isPlain(line)) {
+            addProse(line);
+        } else if (isMarked_ && isProse && !line.item) {
+            lines_.push_back(line); // the paragraph in the list or the quotation goes on
+        } else {
+            const bool isBlank = line.kind == LineKind::blank;
+            inList_ = line.item || (inList_ && (isBlank || isIndented(text_, line)));
+            isMarked_ = isProse && (inList_ || line.quoted > line.begin);
+            inProse_ = isBlank ? inProse_ : isProse && !isMarked_;
+            if (inProse_ && !isBlank) {
+                prose_ = lines_.size();
+            }
+            lines_.push_back(line);
+        }
+    }
+
+    // Whether the line is words alone, not those of a list item or a quotation.
+    static bool isPlain(const StructuredLine &line) {
+        return line.kind == LineKind::prose && !line.item && line.quoted == line.begin;
+    }
+
+    std::vector<StructuredLine> lines() && { return std::move(lines_); }
+
+  private:
+    void addProse(const StructuredLine &line) {
+        if (lines_[prose_].mayBreak) {
+            prose_ = lines_.size();
+            lines_.push_back(line);
+            return;
+        }
+        lines_.resize(prose_ + 1);
+        StructuredLine &last = lines_.back();
+        last.end = line.end;
+        last.breakSize = line.breakSize;
+        last.mayBreak = line.mayBreak;
+    }
+
+    const View text_;
+    std::vector<StructuredLine> lines_;
+    bool inList_ = false;
+    bool isMarked_ = false;
+    bool inProse_ = false;
+    std::size_t prose_ = 0; // the line that the prose above was added to
+};
+
 class Guard {
   public:
-    Guard(View text, Steps steps, const CleaningContext &context, std::size_t pieceSize)
+    Guard(std::u16string &text, Steps steps, const CleaningContext &context, std::size_t pieceSize)
         : text_(text)
         , context_(context)
         , pieceSize_(pieceSize)
-        , lines_(scanStructure(text))
-        , stream_(onProse(steps), context, signs, putsSignsIn(context.options),
+        , result_(text)
+        , stream_(onProse(steps), context, structureSigns, putsSignsIn(context.options),
                   [this](View done) { appendCleaned(done); }) {
         for (const Operation *const step : steps) {
             marksGo_ = marksGo_ || step->reach == Reach::quoteMarks;
@@ -151,21 +257,18 @@ class Guard {
                 apostrophe_ = cleanCharactersAlone(apostrophe_, context.options);
             }
         }
-        for (StructuredLine &line : lines_) {
-            if (tagsGo_ && line.kind == LineKind::markup) {
-                line.kind = LineKind::prose;
-            }
-        }
     }
 
-    std::u16string run() {
-        result_.reserve(text_.size());
+    void run() {
+        if (!findLines()) {
+            fixed_ = inkedLines(text_);
+            return;
+        }
         bool inList = false;
         for (std::size_t at = 0; at < lines_.size();) {
             const auto &line = lines_[at];
-            const bool indented =
-                line.begin < line.end && blanks.find(text_[line.begin]) != View::npos;
-            inList = line.item || (inList && (indented || line.kind == LineKind::blank));
+            inList =
+                line.item || (inList && (isIndented(text_, line) || line.kind == LineKind::blank));
             if (line.kind != LineKind::prose || line.words == line.end) {
                 appendFixed(at++);
             } else if (inList || line.quoted > line.begin) {
@@ -174,7 +277,7 @@ class Guard {
                 at = paragraphs(at);
             }
         }
-        return std::move(result_);
+        result_.finish();
     }
 
     // From the first to behind the last unit of the result that is protected.
@@ -182,6 +285,23 @@ class Guard {
 
   private:
     View cut(std::size_t begin, std::size_t end) const { return text_.substr(begin, end - begin); }
+
+    // False where nothing is prose.
+    bool findLines() {
+        GuardedLines lines(text_);
+        const bool program = scanStructure(
+            text_,
+            [&](std::span<const StructuredLine> some) {
+                for (StructuredLine line : some) {
+                    const bool goes = tagsGo_ && line.kind == LineKind::markup;
+                    line.kind = goes ? LineKind::prose : line.kind;
+                    lines.add(line);
+                }
+            },
+            &places_);
+        lines_ = std::move(lines).lines();
+        return !program;
+    }
 
     void markFixed(std::size_t begin) {
         fixed_.begin = fixed_.end == 0 ? begin : fixed_.begin;
@@ -191,19 +311,17 @@ class Guard {
     void appendFixed(std::size_t at) {
         const auto &line = lines_[at];
         const std::size_t begin = result_.size();
-        if (!marksGo_ || !isQuotedProse(at)) { // else it is a blank line of a quotation
-            result_.append(cut(line.begin, line.end));
-        }
-        if (View(result_).find_first_not_of(u" \t\u00A0", begin) != View::npos) {
-            markFixed(begin);
+        const View all = cut(line.begin, line.end);
+        const bool inked = hasInk(all);
+        result_.free(line.next());
+        const bool goes = marksGo_ && isQuotedProse(at); // a blank line of a quotation
+        if (!goes) {
+            result_.append(all);
+            if (inked) {
+                markFixed(begin);
+            }
         }
         result_.append(cut(line.end, line.next()));
-    }
-
-    // Whether the line is words alone, not those of a list item or a quotation.
-    bool isPlain(std::size_t at) const {
-        const auto &line = lines_[at];
-        return line.kind == LineKind::prose && !line.item && line.quoted == line.begin;
     }
 
     // Whether the paragraph of the line above goes on.
@@ -226,7 +344,7 @@ class Guard {
     std::size_t lastOfParagraphs(std::size_t at) const {
         std::size_t last = at;
         for (std::size_t row = at + 1; row < lines_.size(); ++row) {
-            if (isPlain(row)) {
+            if (GuardedLines::isPlain(lines_[row])) {
                 last = row;
             } else if (lines_[row].kind != LineKind::blank) {
                 break;
@@ -245,38 +363,66 @@ class Guard {
         }
         for (std::size_t row = at; row < last; ++row) {
             const auto &line = lines_[row];
+            from = cleanPieces(from, line.next());
             if (isMeant(row)) {
                 const std::size_t ink = line.begin + inkEnd(cut(line.begin, line.end));
-                block_.append(cut(from, ink));
+                source_.append(cut(from, ink));
                 addBreak(cut(ink, line.next()));
                 from = line.next();
-            } else if (line.begin == line.end && line.next() - from >= pieceSize_) {
-                // Nothing inside a sentence reaches across an empty line.
-                block_.append(cut(from, line.next()));
-                from = line.next();
-                clean(false);
             }
         }
+        from = cleanPieces(from, end.end);
         const bool stripped = lineEndsGo_ && end.end < end.next();
         const View words = cut(from, end.end);
-        block_.append(words.substr(0, stripped ? inkEnd(words) : words.size()));
-        clean(true);
+        cleanPiece(from, from + (stripped ? inkEnd(words) : words.size()), true);
+        result_.free(end.next());
         result_.append(cut(end.end, end.next()));
         return last + 1;
     }
 
+    // Cleans what is large enough of the paragraphs up to `end`; returns where the rest begins.
+    // Nothing inside a sentence reaches across an empty line.
+    std::size_t cleanPieces(std::size_t from, std::size_t end) {
+        while (end - from >= pieceSize_) {
+            const std::size_t next = behindEmptyLine(from, from + pieceSize_);
+            if (next > end) {
+                break;
+            }
+            cleanPiece(from, next, false);
+            from = next;
+        }
+        return from;
+    }
+
+    // Where the first empty line behind `from` ends, at `least` or later; npos for none.
+    std::size_t behindEmptyLine(std::size_t from, std::size_t least) const {
+        const auto isBreak = [&](std::size_t at) {
+            return text_[at] == u'\n' || text_[at] == u'\r';
+        };
+        std::size_t at = std::max(from, least - std::min<std::size_t>(least, 2));
+        for (at = text::findUnit(text_, at, lineBreaks); at < text_.size();
+             at = text::findUnit(text_, at, lineBreaks)) {
+            const bool isSecond = at > 0 && text_[at] == u'\n' && text_[at - 1] == u'\r';
+            const std::size_t next = at + (text_.substr(at).starts_with(u"\r\n") ? 2 : 1);
+            if (!isSecond && next >= least && (at == from || isBreak(at - 1))) {
+                return next;
+            }
+            at = next;
+        }
+        return View::npos;
+    }
+
     // A paragraph in a list or a quotation.
     std::size_t markedParagraph(std::size_t at) {
-        const std::size_t begin = result_.size();
-        appendMarks(result_, at);
-        const bool marked = result_.size() > begin;
+        marks_.clear();
+        appendMarks(marks_, at);
         std::size_t row = at;
         for (bool more = true; more; row += more ? 1 : 0) {
             const auto &line = lines_[row];
             const View words = cut(line.words, line.end);
             const bool kept = isMeant(row) || !lineEndsGo_ || line.end == line.next();
             more = goesOn(row + 1);
-            block_.append(words.substr(0, more || !kept ? inkEnd(words) : words.size()));
+            source_.append(words.substr(0, more || !kept ? inkEnd(words) : words.size()));
             if (more) {
                 literal_.assign(kept ? words.substr(inkEnd(words)) : View());
                 literal_.append(cut(line.end, line.next()));
@@ -284,18 +430,23 @@ class Guard {
                 addBreak(literal_);
             }
         }
-        clean(true);
-        if (marked || row > at) {
+        const auto &last = lines_[row];
+        const std::size_t begin = result_.size();
+        result_.free(last.end);
+        result_.append(marks_);
+        cleanPiece(last.end, last.end, true);
+        if (!marks_.empty() || row > at) {
             markFixed(begin);
         }
-        result_.append(cut(lines_[row].end, lines_[row].next()));
+        result_.free(last.next());
+        result_.append(cut(last.end, last.next()));
         return row + 1;
     }
 
     void addBreak(View literal) {
-        breakPlaces_.push_back(block_.size());
-        block_.push_back(breakSign);
-        blockBreaks_.add(literal);
+        breakPlaces_.push_back(source_.size());
+        source_.push_back(breakSign);
+        sourceBreaks_.add(literal);
     }
 
     // What stands in front of the words of a line, without what is to go.
@@ -327,45 +478,51 @@ class Guard {
         return isQuoted(at) && quotedProse_;
     }
 
-    // Gives the block to the steps; with `last`, its text ends here.
-    void clean(bool last) {
-        hideInlineStructure();
-        breakPlaces_.clear();
+    // Gives what waits, and the words from `from` to `end` behind it, to the steps. With `last`,
+    // their text ends here.
+    void cleanPiece(std::size_t from, std::size_t end, bool last) {
+        if (source_.empty()) {
+            hideInlineStructure({cut(from, end), places_, from});
+        } else {
+            source_.append(cut(from, end));
+            findInlinePlaces(source_, sourcePlaces_);
+            hideInlineStructure({source_, sourcePlaces_});
+            source_.clear();
+            breakPlaces_.clear();
+        }
+        result_.free(end);
         stream_.put(block_, last);
     }
 
-    // Code, addresses, and the signs themselves where the text has them.
-    void hideInlineStructure() {
-        std::size_t to = 0;
+    // Puts it into the block, without code and addresses, and without the signs where it has them.
+    void hideInlineStructure(const PlacedText &source) {
+        findInlineStructure(source, breakPlaces_, tagsGo_, ranges_);
         std::size_t from = 0;
         auto place = breakPlaces_.cbegin();
         const auto keepUpTo = [&](std::size_t end) {
-            if (to != from) {
-                std::char_traits<char16_t>::move(&block_[to], &block_[from], end - from);
-            }
-            to += end - from;
+            block_.append(source.text, from, end - from);
             for (; place != breakPlaces_.cend() && *place < end; ++place) {
-                breaks_.add(blockBreaks_.take());
+                breaks_.add(sourceBreaks_.take());
             }
         };
-        for (const text::Range &range : findInlineStructure(block_, signs, breakPlaces_, tagsGo_)) {
+        block_.clear();
+        for (const text::Range &range : ranges_) {
             keepUpTo(range.begin);
             from = range.begin;
             literal_.clear();
             for (; place != breakPlaces_.cend() && *place < range.end; from = *place++ + 1) {
-                literal_.append(block_, from, *place - from).append(blockBreaks_.take());
+                literal_.append(source.text, from, *place - from).append(sourceBreaks_.take());
             }
-            words_.add(literal_.append(block_, from, range.end - from));
-            block_[to++] = wordSign;
+            words_.add(literal_.append(source.text, from, range.end - from));
+            block_.push_back(wordSign);
             from = range.end;
         }
-        keepUpTo(block_.size());
-        block_.resize(to);
+        keepUpTo(source.text.size());
     }
 
     void appendCleaned(View text) {
         std::size_t from = 0;
-        text::UnitCursor cursor(text, signs);
+        text::UnitCursor cursor(text, structureSigns);
         for (std::size_t at = cursor.next(); at < text.size(); at = cursor.next()) {
             result_.append(text.substr(from, at - from));
             if (text[at] == breakSign) {
@@ -392,6 +549,8 @@ class Guard {
     const CleaningContext &context_;
     const std::size_t pieceSize_;
     std::vector<StructuredLine> lines_;
+    InlinePlaces places_;
+    TextInPlace result_;
     StepStream stream_;
     bool marksGo_ = false;
     bool bulletsGo_ = false;
@@ -399,13 +558,16 @@ class Guard {
     bool tagsGo_ = false;
     const Operation *links_ = nullptr;      // what is to be done to addresses
     std::u16string apostrophe_ = u"\u2019"; // what becomes of one
-    std::u16string block_; // words that the steps have not seen yet, with signs in them
-    std::vector<std::size_t> breakPlaces_; // in it, of the signs that stand for breaks
-    Literals blockBreaks_;                 // what these stand for
-    Literals words_;                       // what the signs in the text further on stand for
+    std::u16string source_; // words that are no stretch of the text, with signs for breaks
+    std::vector<std::size_t> breakPlaces_; // in it, of these signs
+    Literals sourceBreaks_;                // what these stand for
+    InlinePlaces sourcePlaces_;
+    std::u16string block_; // words for the steps, with signs in them
+    Literals words_;       // what the signs in the blocks stand for
     Literals breaks_;
+    std::vector<text::Range> ranges_;
+    std::u16string marks_;
     std::u16string literal_;
-    std::u16string result_;
     text::Range fixed_;
     std::size_t quotationEnd_ = 0; // of the quotation looked at last
     bool quotedProse_ = false;
@@ -445,10 +607,10 @@ std::u16string runGuarded(std::u16string text, Steps steps, const CleaningContex
     text = runSteps(std::move(text), {steps.begin(), guarded.begin()}, context, pieceSize);
     if (!guarded.empty()) {
         Guard guard(text, guarded, context, pieceSize);
-        std::u16string result = guard.run();
+        guard.run();
         const bool trims = std::ranges::any_of(
             guarded, [](const Operation *step) { return step->reach == Reach::textEnds; });
-        text = trims ? trimmed(std::move(result), guard.fixed()) : std::move(result);
+        text = trims ? trimmed(std::move(text), guard.fixed()) : std::move(text);
         if (context.options.udCleanCharactersMarkdown && has(guarded, cleanCharactersOperation)) {
             std::size_t count = 0;
             text = removeMarkdown(std::move(text), count);
