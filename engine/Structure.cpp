@@ -9,6 +9,7 @@
 #include <array>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 #include <span>
 
 namespace nerlo::engine {
@@ -62,6 +63,13 @@ View trimmed(View line) {
     return line;
 }
 
+// Of a literal, whose length the compiler knows; a view would count it anew each time.
+template <std::size_t size>
+bool begins(View text, const char16_t (&literal)[size]) {
+    return text.size() >= size - 1 &&
+           std::memcmp(text.data(), literal, (size - 1) * sizeof *literal) == 0;
+}
+
 // Columns in front of `at`; a tab goes to the next multiple of four.
 std::size_t columnOf(View line, std::size_t at) {
     std::size_t column = 0;
@@ -73,6 +81,64 @@ std::size_t columnOf(View line, std::size_t at) {
 
 std::size_t runOf(View text, char16_t unit) {
     return std::min(text.find_first_not_of(unit), text.size());
+}
+
+constexpr std::array<View, 40> codeStarts{
+    u"#include", u"#define",  u"#if",    u"#!",      u"//",      u"/*",      u"*/",     u"def ",
+    u"class ",   u"import ",  u"return", u"if (",    u"if(",     u"for (",   u"for(",   u"while (",
+    u"else:",    u"else {",   u"elif ",  u"} ",      u"}",       u"{",       u"]",      u"const ",
+    u"let ",     u"var ",     u"fn ",    u"func ",   u"pub ",    u"static ", u"using ", u"package ",
+    u"public ",  u"private ", u"void ",  u"SELECT ", u"export ", u"@",       u"\"",     u"<"};
+
+// By the first three units, which every start that begins with a letter has.
+constexpr std::size_t hashOf(View start) {
+    return ((start[0] * 31u + start[1]) * 31u + start[2]) % 1024;
+}
+
+constexpr auto codeHashes = [] {
+    std::array<bool, 1024> found{};
+    for (const View start : codeStarts) {
+        if (isAsciiLetter(start[0])) {
+            found.at(hashOf(start)) = true;
+        }
+    }
+    return found;
+}();
+
+bool beginsLikeCode(View words) {
+    const bool word = isAsciiLetter(words[0]);
+    if (word && (words.size() < 3 || !codeHashes[hashOf(words)])) {
+        return false;
+    }
+    return std::ranges::any_of(
+        codeStarts, [&](View start) { return words[0] == start[0] && words.starts_with(start); });
+}
+
+// Whether a line may look like code although it has no marks.
+bool mayBeCode(View line) {
+    const bool comma = line.size() > 1 && line.back() == u',';
+    const char16_t last = comma ? line[line.size() - 2] : line.back();
+    return (comma ? last == u')' || last == u'"' : last == u'(') || beginsLikeCode(line);
+}
+
+// "-rw-r--r-- 1 root": a line of a list of files.
+bool isFileMode(View words) {
+    return words.size() > 10 && (words[1] == u'-' || words[1] == u'r') &&
+           View(u"-dlbcps").find(words[0]) != View::npos &&
+           words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
+}
+
+// Whether a look at both ends of a line without marks, tabs and gaps is enough to see that it is
+// prose, or goes with the lines around it.
+bool isOrdinary(View line) {
+    if (line.size() < 3 || !isAsciiLetter(line[0]) || line[1] == u'.' || line[1] == u')') {
+        return false;
+    }
+    const bool mayBeginBlock = line[1] == u'S' ? begins(line, u"PS ")
+                               : line[1] == u'r' || line[1] == u'-'
+                                   ? isFileMode(line)
+                                   : line[1] == u'i' && begins(line, u"diff ");
+    return !mayBeginBlock && !mayBeCode(line);
 }
 
 // Walks over the breaks of a text and tells for each line whether it has marks or wide gaps.
@@ -159,8 +225,15 @@ class LineScan {
 
     void endLine(std::size_t end, std::uint8_t breakSize) {
         const char16_t last = end > begin_ ? text_[end - 1] : u'\0';
-        lines_.push_back({begin_, end, begin_, begin_, LineKind::blank, breakSize, false, marked_,
-                          tabular_, valued_, last == u' ' || last == u'\\'});
+        StructuredLine &line = lines_.emplace_back();
+        line.begin = line.quoted = line.words = begin_;
+        line.end = end;
+        line.breakSize = breakSize;
+        line.marked = marked_;
+        line.tabular = tabular_;
+        line.valued = valued_;
+        line.mayBreak = last == u' ' || last == u'\\';
+        line.ordinary = !marked_ && !tabular_ && isOrdinary(text_.substr(begin_, end - begin_));
         begin_ = end + breakSize;
         marked_ = tabular_ = valued_ = false;
     }
@@ -228,13 +301,6 @@ std::size_t listMark(View words) {
     return firstInk(words, size);
 }
 
-// "-rw-r--r-- 1 root": a line of a list of files.
-bool isFileMode(View words) {
-    return words.size() > 10 && (words[1] == u'-' || words[1] == u'r') &&
-           View(u"-dlbcps").find(words[0]) != View::npos &&
-           words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
-}
-
 // "user@host" at the beginning.
 bool beginsWithHost(View words) {
     const std::size_t sign = words.find_first_of(u"@ ");
@@ -243,8 +309,9 @@ bool beginsWithHost(View words) {
 
 // "$ make", "user@host:~/dir$ ls", ">>> x", "PS C:\> dir".
 bool isPrompt(View words) {
-    for (const View sign : {View(u"$ "), View(u"% "), View(u">>> "), View(u"... "),
-                            View(u"\u276F "), View(u"\u279C "), View(u"PS ")}) {
+    static constexpr std::array<View, 7> signs{u"$ ",      u"% ",      u">>> ", u"... ",
+                                               u"\u276F ", u"\u279C ", u"PS "};
+    for (const View sign : signs) {
         if (words.starts_with(sign)) {
             return sign != u"PS " || words.find(u"> ") != View::npos;
         }
@@ -266,7 +333,7 @@ constexpr std::array<View, 34> blockTags{
 constexpr std::array<View, 4> rawTags{u"script", u"pre", u"style", u"textarea"};
 
 bool isTag(View words, std::span<const View> names) {
-    std::size_t at = words.starts_with(u"</") ? 2 : 1;
+    std::size_t at = begins(words, u"</") ? 2 : 1;
     std::u16string name;
     for (; at < words.size() && name.size() < 12 &&
            (isAsciiLetter(words[at]) || isAsciiDigit(words[at]));
@@ -283,16 +350,16 @@ const char16_t *endOfMarkup(View words, bool insideParagraph) {
     if (!words.starts_with(u'<')) {
         return nullptr;
     }
-    if (words.starts_with(u"<!--")) {
+    if (begins(words, u"<!--")) {
         return u"-->";
     }
-    if (words.starts_with(u"<?")) {
+    if (begins(words, u"<?")) {
         return u"?>";
     }
-    if (words.starts_with(u"<!")) {
+    if (begins(words, u"<!")) {
         return u">";
     }
-    if (!words.starts_with(u"</") && isTag(words, rawTags)) {
+    if (!begins(words, u"</") && isTag(words, rawTags)) {
         return u"</";
     }
     const bool alone = words.size() > 2 && (isAsciiLetter(words[1]) || words[1] == u'/') &&
@@ -308,31 +375,29 @@ bool isLinkDefinition(View words) {
 }
 
 bool isPatchHead(View line) {
-    return line.starts_with(u"diff --git ") || line.starts_with(u"@@ -") ||
-           line.starts_with(u"Index: ");
+    return begins(line, u"diff --git ") || begins(line, u"@@ -") || begins(line, u"Index: ");
 }
 
 bool goesOnInPatch(View line) {
     if (line.empty()) {
         return false;
     }
-    return View(u" +-@\\").find(line[0]) != View::npos || line.starts_with(u"index ") ||
-           line.starts_with(u"diff ") || line.starts_with(u"new file") ||
-           line.starts_with(u"deleted file") || line.starts_with(u"similarity ") ||
-           line.starts_with(u"rename ") || line.starts_with(u"Binary ");
+    return View(u" +-@\\").find(line[0]) != View::npos || begins(line, u"index ") ||
+           begins(line, u"diff ") || begins(line, u"new file") || begins(line, u"deleted file") ||
+           begins(line, u"similarity ") || begins(line, u"rename ") || begins(line, u"Binary ");
 }
 
 // Where the line at `at` ends, and where the next one begins.
 text::Range endOfLine(View text, std::size_t at) {
     static constexpr text::UnitSet breaks(u"\r\n");
     const std::size_t end = text::findUnit(text, at, breaks);
-    const std::size_t size = text.substr(end).starts_with(u"\r\n") ? 2 : 1;
+    const std::size_t size = begins(text.substr(end), u"\r\n") ? 2 : 1;
     return {end, std::min(end + size, text.size())};
 }
 
 // Where YAML between two "---" at the very top ends, with the break behind it; 0 for none.
 std::size_t endOfFrontMatter(View text) {
-    std::size_t at = text.starts_with(u"---") ? endOfLine(text, 0).begin : 0;
+    std::size_t at = begins(text, u"---") ? endOfLine(text, 0).begin : 0;
     if (at != 3) {
         return 0;
     }
@@ -368,7 +433,7 @@ class MarkedStructure {
                 continue;
             }
             line_ = text_.substr(line.begin, line.end - line.begin);
-            line.kind = isPlain() ? plain() : next();
+            line.kind = line.ordinary && !isInsideBlock() ? ordinary() : next();
             above_ = line.kind;
         }
     }
@@ -377,27 +442,9 @@ class MarkedStructure {
     void forget(std::size_t count) { at_ -= count; }
 
   private:
-    // Whether a look at the beginning is enough to see that the line is prose, or goes with the
-    // lines around it.
-    bool isPlain() const {
-        const bool word =
-            line_.size() > 1 && isAsciiLetter(line_[0]) && line_[1] != u'.' && line_[1] != u')';
-        return word && !isInsideBlock() && !mayBeginBlock();
-    }
-
-    bool mayBeginBlock() const {
-        if (lines_[at_].marked && (line_.starts_with(u"Index: ") || beginsWithHost(line_))) {
-            return true;
-        }
-        const bool mayBe =
-            line_[1] == u'i' || line_[1] == u'S' || line_[1] == u'r' || line_[1] == u'-';
-        return mayBe &&
-               (line_.starts_with(u"diff ") || line_.starts_with(u"PS ") || isFileMode(line_));
-    }
-
     bool isInsideBlock() const { return fenceSize_ > 0 || signature_ || markupEnd_ || patch_; }
 
-    LineKind plain() {
+    LineKind ordinary() {
         if (content_ > 0 && (blankAbove_ || above_ != LineKind::prose)) {
             content_ = 0;
         }
@@ -448,7 +495,7 @@ class MarkedStructure {
         const std::size_t quote = words;
         std::size_t behind = words; // the marks and one blank each
         while (words < line_.size() && line_[words] == u'>' &&
-               !line_.substr(words).starts_with(u">>> ")) {
+               !begins(line_.substr(words), u">>> ")) {
             behind = words + 1;
             behind += behind < line_.size() && isBlank(line_[behind]) ? 1 : 0;
             words = firstInk(line_, words + 1);
@@ -659,13 +706,6 @@ std::size_t separators(View words) {
     return count;
 }
 
-constexpr std::array<View, 40> codeStarts{
-    u"#include", u"#define",  u"#if",    u"#!",      u"//",      u"/*",      u"*/",     u"def ",
-    u"class ",   u"import ",  u"return", u"if (",    u"if(",     u"for (",   u"for(",   u"while (",
-    u"else:",    u"else {",   u"elif ",  u"} ",      u"}",       u"{",       u"]",      u"const ",
-    u"let ",     u"var ",     u"fn ",    u"func ",   u"pub ",    u"static ", u"using ", u"package ",
-    u"public ",  u"private ", u"void ",  u"SELECT ", u"export ", u"@",       u"\"",     u"<"};
-
 // Most of its words are letters alone, as in a sentence.
 bool isWordy(View words) {
     std::size_t plain = 0;
@@ -680,30 +720,6 @@ bool isWordy(View words) {
         at = firstInk(words, end);
     }
     return plain > 5 && plain * 5 >= all * 3;
-}
-
-// By the first three units, which every start that begins with a letter has.
-constexpr std::size_t hashOf(View start) {
-    return ((start[0] * 31u + start[1]) * 31u + start[2]) % 1024;
-}
-
-constexpr auto codeHashes = [] {
-    std::array<bool, 1024> found{};
-    for (const View start : codeStarts) {
-        if (isAsciiLetter(start[0])) {
-            found.at(hashOf(start)) = true;
-        }
-    }
-    return found;
-}();
-
-bool beginsLikeCode(View words) {
-    const bool word = isAsciiLetter(words[0]);
-    if (word && (words.size() < 3 || !codeHashes[hashOf(words)])) {
-        return false;
-    }
-    return std::ranges::any_of(
-        codeStarts, [&](View start) { return words[0] == start[0] && words.starts_with(start); });
 }
 
 bool looksLikeCode(View words) {
@@ -727,13 +743,6 @@ bool looksLikeCode(View words) {
     return beginsLikeCode(words) && last != u'.';
 }
 
-// Whether a line that has no marks needs that closer look.
-bool mayBeCode(View line) {
-    const bool comma = line.size() > 1 && line.back() == u',';
-    const char16_t last = comma ? line[line.size() - 2] : line.back();
-    return (comma ? last == u')' || last == u'"' : last == u'(') || beginsLikeCode(line);
-}
-
 // The second pass: what lines say together. Takes each run of lines that the first pass left as
 // prose.
 class Paragraphs {
@@ -749,7 +758,7 @@ class Paragraphs {
             const bool prose = line.kind == LineKind::prose;
             if (prose || line.kind == LineKind::code) {
                 ++inked_;
-                line.codeLike = looksLikeCodeAt(at_);
+                line.codeLike = !line.ordinary && looksLikeCodeAt(at_);
                 code_ += line.codeLike ? 1 : 0;
             }
             if (prose) {

@@ -44,6 +44,7 @@ struct StructuredLine {
     bool valued = false;        // may have separators of values
     bool mayBreak = false;      // ends in a blank or a backslash
     bool codeLike = false;      // looks like code by itself
+    bool ordinary = false;      // nothing in it says that it is something else than prose
 
     // Where the line below begins; the text's size for the last.
     std::size_t next() const { return end + breakSize; }
