@@ -49,7 +49,8 @@ class Bench:
     def corpus(self, megabytes, *flags):
         with open(make_corpus.__file__, "rb") as file:  # texts of another version of that script are made anew
             maker_sum = zlib.crc32(file.read())
-        folder = self.folder("%s%g-%08x" % ("hostile-" if flags else "text-", megabytes, maker_sum))
+        kind = flags[0].strip("-") if flags else "text"
+        folder = self.folder("%s-%g-%08x" % (kind, megabytes, maker_sum))
         # In a process of its own, because a child's peak is never reported below what its parent
         # used.
         maker = [sys.executable, make_corpus.__file__, *flags, folder, str(megabytes)]
@@ -222,6 +223,21 @@ class Bench:
             table.add(row.title, ratio.wall, ratio.cpu, "20", verdict(ratio.cpu, 20), peak,
                       number(row.memory) + (" + 8 MB" if allowance else ""),
                       verdict(peak, row.memory + allowance))
+
+    def guard(self):
+        print("The first-start pipeline with udProtectStructure divided by the same without it, %g MB.\n"
+              % self.arguments.mb)
+        row = next(row for row in ROWS if row.name == "first-start")
+        plain = self.ours(row)
+        guarded = plain + ["--set", "udProtectStructure=1"]
+        table = Table("text", "wall", "CPU", "least CPU", "goal", "verdict")
+        folder = self.corpus(self.arguments.mb, "--guarded")
+        for name in make_corpus.GUARDED:
+            text = os.path.join(folder, name + ".txt")
+            self.run(plain, text)  # warms up
+            ratio, runs = self.pairs(lambda: self.run(guarded, text), lambda: self.run(plain, text))
+            least = min(on.cpu for on, _ in runs) / min(off.cpu for _, off in runs)
+            table.add(name, ratio.wall, ratio.cpu, least, "CPU 1.15", verdict(ratio.cpu, 1.15))
 
     def hostile(self):
         print("Hostile texts, every operation: CPU time at 4 MB divided by 1 MB, and divided by that "
@@ -427,7 +443,8 @@ def machine():
 
 
 def main():
-    tables = ("speed", "own-patterns", "streams", "clip", "growth", "hostile", "start", "batch", "fields", "library")
+    tables = ("speed", "own-patterns", "streams", "clip", "growth", "hostile", "guard", "start", "batch", "fields",
+              "library")
     names = [row.name for row in ROWS + PATTERNS]
     parser = argparse.ArgumentParser(
         prog="bench.sh", description="How nerlo compares with other tools, as ratios.")

@@ -4,6 +4,7 @@
   make_corpus.py FOLDER MB       prose, everyday, mixed, misread, html and lines, MB megabytes each (of lines
                                  as many as there are in 64 MB by the million), and the clip of 1 KB
   make_corpus.py --hostile FOLDER MB
+  make_corpus.py --guarded FOLDER MB   prose without marks, however its lines end; and prose with all that it may have
 
 Texts that exist already are left as they are.
 """
@@ -64,9 +65,9 @@ class Writer:
             words.insert(self.random.randrange(1, len(words)), str(self.random.randrange(99999)))
         return " ".join(words) + self.random.choice((".", ".", ".", ".", "?", "!", " .", "..."))
 
-    def wrapped(self, text, line_break):
+    def wrapped(self, text, line_break, width=None):
         """Broken at a fixed width as mail and PDF files are, some words divided."""
-        lines, line, width = [], "", self.random.choice((64, 72, 78))
+        lines, line, width = [], "", width or self.random.choice((64, 72, 78))
         for word in text.split(" "):
             if line and len(line) + len(word) >= width:
                 if len(word) > 7 and word.isalpha() and self.chance(.3):
@@ -100,6 +101,24 @@ class Writer:
             bullet = self.random.choice(BULLETS) + " "
             text = bullet + text.replace(end, end + bullet)
         return text + end * (1 if self.chance(.3) else 2)
+
+    def sentences(self):
+        return " ".join(self.sentence() for _ in range(self.random.randint(2, 7)))
+
+    def plain(self):
+        return self.wrapped(self.sentences(), "\n") + "\n\n"
+
+    def crlf(self):
+        return self.wrapped(self.sentences(), "\r\n") + "\r\n\r\n"
+
+    def wrapped72(self):
+        return self.wrapped(self.sentences(), "\n", 72) + "\n\n"
+
+    def unwrapped(self):
+        return self.sentences() + "\n\n"
+
+    def short(self):
+        return self.sentence() + "\n" * (2 if self.chance(.7) else 1)
 
     def everyday(self):
         """Prose with what people's patterns look for, one to three in a paragraph."""
@@ -248,6 +267,9 @@ HOSTILE = {
 }
 
 
+GUARDED = ("plain", "crlf", "wrapped72", "unwrapped", "short", "prose")
+
+
 def write_hostile(file, name, size):
     unit, tail = (part.encode() for part in HOSTILE[name])
     head = b"<a " if name == "one-big-tag" else b""
@@ -263,7 +285,7 @@ def make(folder, name, write, *arguments):
 
 
 def main():
-    arguments = [argument for argument in sys.argv[1:] if argument != "--hostile"]
+    arguments = [argument for argument in sys.argv[1:] if not argument.startswith("--")]
     if len(arguments) != 2:
         sys.exit(__doc__)
     folder, megabytes = arguments[0], float(arguments[1])
@@ -272,6 +294,10 @@ def main():
     if "--hostile" in sys.argv:
         for name in HOSTILE:
             make(folder, name, write_hostile, name, size)
+        return
+    if "--guarded" in sys.argv:
+        for name in GUARDED:
+            make(folder, name, write_text, name, size)
         return
     for kind in ("prose", "everyday", "mixed", "misread", "html"):
         make(folder, kind, write_text, kind, size)

@@ -97,8 +97,6 @@ bool putsSignsIn(const CleaningOptions &options) {
     return text::findUnit(text, 0, structureSigns) < text.size();
 }
 
-constexpr std::int32_t removeTagsOperation = 11;
-
 // What signs of one kind stand for, in their order.
 class Literals {
   public:
@@ -227,7 +225,7 @@ class GuardedLines {
         StructuredLine &last = lines_.back();
         last.end = line.end;
         last.breakSize = line.breakSize;
-        last.mayBreak = line.mayBreak;
+        last.mayBreak = line.mayBreak && line.end - line.words > 1;
     }
 
     const View text_;
@@ -252,7 +250,7 @@ class Guard {
             bulletsGo_ = bulletsGo_ || step->reach == Reach::bullets;
             lineEndsGo_ = lineEndsGo_ || step->reach == Reach::lineEnds;
             links_ = step->reach == Reach::addresses ? step : links_;
-            tagsGo_ = tagsGo_ || step->index == removeTagsOperation;
+            tagsGo_ = tagsGo_ || step->index == tagsOperation;
             if (step->index == cleanCharactersOperation) {
                 apostrophe_ = cleanCharactersAlone(apostrophe_, context.options);
             }
@@ -293,8 +291,9 @@ class Guard {
             text_,
             [&](std::span<const StructuredLine> some) {
                 for (StructuredLine line : some) {
-                    const bool goes = tagsGo_ && line.kind == LineKind::markup;
-                    line.kind = goes ? LineKind::prose : line.kind;
+                    if (tagsGo_ && line.kind == LineKind::markup) {
+                        line.kind = line.words < line.end ? LineKind::prose : LineKind::blank;
+                    }
                     lines.add(line);
                 }
             },

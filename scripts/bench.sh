@@ -3,8 +3,9 @@
 #
 # Installs and builds what is missing, makes seeded texts under build/bench/, runs `nerlo` and the
 # other tools in turn on them and prints ratios as Markdown tables: against the tools, people's own
-# patterns against perl, growth and memory, hostile texts, start-up, batch, the library. Everything
-# takes three quarters of an hour, --quick a few minutes; --help tells the rest.
+# patterns against perl, growth and memory, hostile texts, what the guard of structure costs,
+# start-up, batch, the library. Everything takes three quarters of an hour, --quick a few minutes;
+# --help tells the rest.
 set -eu
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$root/build/bench # of its own, so that nobody's other build changes its options

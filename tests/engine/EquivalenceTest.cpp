@@ -308,6 +308,25 @@ TEST(RandomTexts, KeepTheirStructureWithAnyOptions) {
     });
 }
 
+TEST(RandomTexts, GiveTheSameThroughTheGuardInBlocks) {
+    repeat(14, 1200, [](Random &random) {
+        const CleaningOptions options = random.options();
+        const engine::CleaningContext context{options, random.locale()};
+        const std::vector<const engine::Operation *> all = engine::operationsSwitchedOn(options);
+        const auto steps = engine::guardedSteps(all);
+        const std::u16string text =
+            random.oneIn(4) ? random.text(reference::wrappedTokens()) : structuredText(random);
+        ASSERT_EQ(escaped(engine::runGuarded(text, steps, context, 1 + random.below(400))),
+                  escaped(steps.empty() ? text : reference::runGuarded(text, steps, context)))
+            << escaped(text);
+        for (const engine::StructuredLine &line : engine::splitLines(text)) {
+            const std::u16string words = text.substr(line.begin, line.end - line.begin);
+            ASSERT_EQ(line.marked, words.find_first_of(u"#$:;<=>@[\\]^_`{}~") != words.npos)
+                << escaped(words);
+        }
+    });
+}
+
 TEST(RandomTexts, ChangeNoMoreInASecondGentleClean) {
     CleaningOptions options;
     options.setAllBools(settings::readyRecord(*settings::findReadyProfile("gentle"), u"gentle"));

@@ -5,6 +5,7 @@
 
 #include "engine/Operations.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,11 @@ std::u16string runOperation(std::int32_t index, const std::u16string &text,
 
 // Word for word what engine::joinWrappedLines() says of wrapped paragraphs.
 std::u16string joinWrappedLines(const std::u16string &text, bool withSpace);
+
+// Steps that structure is protected from, each on one paragraph after the other.
+std::u16string runGuarded(const std::u16string &text,
+                          std::span<const engine::Operation *const> steps,
+                          const engine::CleaningContext &context);
 
 std::u16string smartQuotes(std::u16string text, const std::u16string &leftFind,
                            const std::u16string &rightFind, const std::u16string &leftReplace,
