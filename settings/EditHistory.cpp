@@ -22,7 +22,7 @@ std::size_t valuesOf(const RecordItems &items) {
 
 std::size_t valuesOf(const EditedState &state) {
     const auto *rows = state.copyTable ? state.copyTable->as<storage::PropertyArray>() : nullptr;
-    return valuesOf(state.profiles) + valuesOf(state.sharedRules) +
+    return valuesOf(state.profiles) + valuesOf(state.sharedRules) + state.shortcuts.size() +
            (rows ? rows->size() * valuesOfARow : 0);
 }
 

@@ -1,5 +1,5 @@
-// What a person did to profiles, options, rules and the table of copies, to be taken back and done
-// again.
+// What a person did to profiles, options, rules, shortcuts and the table of copies, to be taken
+// back and done again.
 //
 // States are kept as values; to take one back, only what the gesture changed is put back into the
 // state of then, so that what other processes have changed meanwhile stays. Main thread only.
@@ -21,6 +21,8 @@ struct EditedState {
     RecordItems sharedRules;
     std::uint64_t selected = 0; // the id of the selected profile
     bool onlyOne = false;       // one list of rules for all profiles
+    // Of the commands that have one, as they are stored.
+    storage::PropertyDictionary shortcuts{};
     // Which profile cleans which copy, as it is stored; nothing where it is not.
     std::optional<storage::PropertyValue> copyTable{};
     bool operator==(const EditedState &) const = default;

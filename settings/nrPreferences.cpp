@@ -816,7 +816,7 @@ void nrPreferences::copyTableChanged(storage::PropertyArray rows, std::string_vi
 // --- History ---
 
 EditedState nrPreferences::editedState() const {
-    EditedState state{profilesItems_, sharedRules_, 0, onlyOneProfile()};
+    EditedState state{profilesItems_, sharedRules_, 0, onlyOneProfile(), storedShortcuts()};
     if (const PropertyValue *rows = store_.find(copyTableKey)) {
         state.copyTable = *rows;
     }
@@ -826,6 +826,17 @@ EditedState nrPreferences::editedState() const {
         state.selected = state.profiles[place].id;
     }
     return state;
+}
+
+storage::PropertyDictionary nrPreferences::storedShortcuts() const {
+    storage::PropertyDictionary shortcuts;
+    for (const SettingsKey &key : settingsKeys()) {
+        const auto *value = key.kind == SettingKind::HotKey ? store_.find(key.key) : nullptr;
+        if (value) {
+            shortcuts.set(key.key, *value);
+        }
+    }
+    return shortcuts;
 }
 
 void nrPreferences::asGesture(std::string_view typing, const std::function<void()> &change) {
@@ -869,7 +880,39 @@ RecordItems nrPreferences::carried(const RecordItems &now, const RecordItems &fr
     return items;
 }
 
+// A gesture changes shortcuts or what profiles are made of, never both: one of shortcuts leaves
+// alone which profile is selected.
 void nrPreferences::carryOut(EditHistory::Change change) {
+    if (change.from.shortcuts != change.to.shortcuts) {
+        carryShortcuts(change);
+    } else {
+        carryProfiles(change);
+    }
+    if (hooks_.historyChanged) {
+        hooks_.historyChanged();
+    }
+}
+
+// One that others have changed meanwhile stays.
+void nrPreferences::carryShortcuts(const EditHistory::Change &change) {
+    const auto same = [](const PropertyValue *one, const PropertyValue *other) {
+        return one && other ? *one == *other : one == other;
+    };
+    for (const SettingsKey &key : settingsKeys()) {
+        const auto *from = change.from.shortcuts.find(key.key);
+        const auto *to = change.to.shortcuts.find(key.key);
+        if (same(from, to) || !same(from, store_.find(key.key))) {
+            continue;
+        }
+        if (to) {
+            store_.set(key.key, *to);
+        } else {
+            store_.remove(key.key);
+        }
+    }
+}
+
+void nrPreferences::carryProfiles(const EditHistory::Change &change) {
     const EditedState now = editedState();
     const int row = findReplace_.lastClickedRow();
     profilesItems_ = carried(now.profiles, change.from.profiles, change.to.profiles);
@@ -885,9 +928,6 @@ void nrPreferences::carryOut(EditHistory::Change change) {
     profilesSelect();
     findReplace_.select(std::min(row, static_cast<int>(findReplace_.items().size()) - 1));
     updateUI(RulesUpdate::changed);
-    if (hooks_.historyChanged) {
-        hooks_.historyChanged();
-    }
 }
 
 // Its rows have no ids: what others have made of the table meanwhile stays as a whole.

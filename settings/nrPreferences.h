@@ -182,11 +182,14 @@ class nrPreferences {
     // Behind the selected rule, whatever else is in the list.
     void pasteRules(const RuleList &list);
 
+    // What `change` does to the stored shortcuts, and nothing else, is one gesture.
+    void changeShortcuts(const std::function<void()> &change) { asGesture({}, change); }
+
     // Stores the table of copies. `typing`: the place where it is typed, if it is.
     void copyTableChanged(storage::PropertyArray rows, std::string_view typing = {});
 
-    // What was done to profiles, options, rules and copies, gesture by gesture; what is typed into
-    // one place without a pause is one. A profile that was chosen is none.
+    // What was done to profiles, options, rules, shortcuts and copies, gesture by gesture; what
+    // is typed into one place without a pause is one. A profile that was chosen is none.
     bool canUndo() const { return history_.canUndo(); }
     bool canRedo() const { return history_.canRedo(); }
     void undo();
@@ -204,6 +207,9 @@ class nrPreferences {
     void keepRemoved(const ProfileItems &before, const ProfileItems &after);
     bool keepSelected();
     int placeOf(std::uint64_t id) const;
+    storage::PropertyDictionary storedShortcuts() const;
+    void carryShortcuts(const EditHistory::Change &change);
+    void carryProfiles(const EditHistory::Change &change);
     std::string placeOf(std::string_view part) const;
     void switchRulesOn();
     void createDir();

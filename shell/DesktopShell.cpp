@@ -60,7 +60,9 @@ DesktopShell::DesktopShell(Program &program)
                      runAlert({Alert::Style::critical, message, informative, {}}, parent);
                  },
                  {},
-                 platform::keyboardCanBeGrabbed()}
+                 platform::keyboardCanBeGrabbed(),
+                 [&program](const auto &change) { program.preferences().changeShortcuts(change); }}
+    , shortcutList_(program)
     , menu_(std::make_unique<StatusMenu>(program))
     , tray_(std::make_unique<TrayIcon>(menu_->menu()))
     , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
@@ -82,6 +84,7 @@ DesktopShell::DesktopShell(Program &program)
     cleanShortcut_ =
         program_.store().observe(settings::cleanHotKey, [this] { updateCleanShortcut(); });
     hotKeyStatus_ = program_.hotKeys().observeStatus([this] { updateHotKeys(); });
+    program_.parts().desktop.systemHotKeys->setChangedHandler([this] { updateHotKeys(); });
     connectPreferences();
     program_.engine().setReportHandler([this](const auto &report) { showReport(report); });
     updateRestorable();
@@ -89,6 +92,7 @@ DesktopShell::DesktopShell(Program &program)
 
 DesktopShell::~DesktopShell() {
     program_.parts().mainQueue.cancel(settle_);
+    program_.parts().desktop.systemHotKeys->setChangedHandler(nullptr);
     program_.engine().setReportHandler(nullptr);
     auto &hooks = program_.preferences().hooks();
     hooks.profilesChanged = nullptr;
@@ -150,23 +154,19 @@ void DesktopShell::updateCleanShortcut() {
 void DesktopShell::updateHotKeys() {
     updateCleanShortcut(); // a new keyboard layout names its key anew
     QStringList refused;
-    const auto update = [&](std::string_view key) {
-        const auto status = program_.hotKeys().status(key);
-        QString problem;
-        if (status.state == platform::HotKeyState::refused) {
-            problem = status.text.empty() ? localized("sShortcutRefused")
-                                          : localized(Table::shortcut, status.text);
-            refused.push_back(localized(key) + ": " + problem);
+    for (const ListedCommand &command : shortcutList_.commands()) {
+        const auto state = program_.hotKeys().status(command.hotKey).state;
+        const bool isRefused = state == platform::HotKeyState::refused;
+        if (!isRefused && !window_) {
+            continue; // nobody would see it, and to look through all costs time at the start
+        }
+        const QString conflict = shortcutList_.conflict(command.hotKey);
+        if (isRefused) {
+            refused.push_back(command.title + ", " + conflict);
         }
         if (window_) {
-            window_->setHotKeyProblem(key, problem);
+            window_->setHotKeyProblem(command.hotKey, conflict);
         }
-    };
-    for (const auto &command : settings::commandHotKeys) {
-        update(command.key);
-    }
-    for (const engine::Operation &operation : engine::operations()) {
-        update(operation.hotKey);
     }
     if (!refused.empty() && !program_.parts().desktop.hotKeys.backend->available()) {
         refused = {filled(localized("sShortcutsUnavailable"), {cleanCommand})};
@@ -211,7 +211,7 @@ void DesktopShell::applyTaskbarEntry(QWidget &window) {
     }
 }
 
-QWidget *DesktopShell::makeRecorder(const std::string &hotKey) {
+shortcuts::nrShortcutView *DesktopShell::makeRecorder(const std::string &hotKey) {
     program_.parts().desktop.systemHotKeys->refresh(); // known by the time somebody records
     auto *recorder = new shortcuts::nrShortcutView(recording_);
     recorder->setAssociatedUserDefaultsKey(hotKey);

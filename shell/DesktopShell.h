@@ -8,6 +8,7 @@
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
 #include "shell/ShellWindows.h"
+#include "shell/ShortcutList.h"
 #include "shell/StatusMenu.h"
 #include "shell/TrayIcon.h"
 #include "shortcuts/UserDefaultsHotKeys.h"
@@ -37,7 +38,8 @@ class DesktopShell final : public ShellWindows {
     // The menu bar's items, with which a shortcut may collide.
     StatusMenu &menu() { return *menu_; }
     // A control that records the shortcut of a settings key.
-    QWidget *makeRecorder(const std::string &hotKey);
+    shortcuts::nrShortcutView *makeRecorder(const std::string &hotKey);
+    ShortcutList &shortcutList() { return shortcutList_; }
     // Puts the original back, and says so when that cannot be.
     void restore();
     // Names in the menu what a restore would bring back.
@@ -87,6 +89,7 @@ class DesktopShell final : public ShellWindows {
 
     Program &program_;
     const shortcuts::ShortcutViewContext recording_;
+    ShortcutList shortcutList_;
     std::unique_ptr<StatusMenu> menu_;
     std::unique_ptr<TrayIcon> tray_;
     const std::unique_ptr<platform::TaskbarHint> taskbar_; // null where there is none

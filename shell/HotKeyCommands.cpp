@@ -67,10 +67,15 @@ std::string finding(const platform::HotKeyStatus &status) {
 
 } // namespace
 
+std::optional<shortcuts::nrShortcut> firstStartShortcut(std::string_view hotKey) {
+    return hotKey == cleanHotKey
+               ? std::optional(shortcuts::nrShortcut(keyV, shortcuts::controlModifier))
+               : std::nullopt;
+}
+
 void setDefaultShortcut(shortcuts::UserDefaultsHotKeys &hotKeys) {
     if (!hotKeys.store().find(cleanHotKey)) {
-        hotKeys.setGlobalShortcut(shortcuts::nrShortcut(keyV, shortcuts::controlModifier),
-                                  cleanHotKey);
+        hotKeys.setGlobalShortcut(firstStartShortcut(cleanHotKey), cleanHotKey);
     }
 }
 

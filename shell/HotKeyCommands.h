@@ -23,7 +23,10 @@ class SettingsStore;
 
 namespace nerlo::shell {
 
-// What a first start stores: Super+V cleans the clipboard, unless it has a shortcut already.
+// The shortcut that a command has after a first start: Super+V cleans the clipboard, the others
+// have none.
+std::optional<shortcuts::nrShortcut> firstStartShortcut(std::string_view hotKey);
+// What a first start stores, unless the clipboard's clean has a shortcut already.
 void setDefaultShortcut(shortcuts::UserDefaultsHotKeys &hotKeys);
 
 // Tells `say` of each hot key that the desktop refuses, once for each reason. Returns what must

@@ -71,10 +71,11 @@ void addFileChooser(QLineEdit &field) {
 
 } // namespace
 
-QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey,
-                      const QString &command) {
-    QWidget *recorder = make && !hotKey.empty() ? make(hotKey) : nullptr;
+QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey, const QString &command,
+                      QWidget &row) {
+    auto *recorder = make && !hotKey.empty() ? make(hotKey) : nullptr;
     if (recorder) {
+        recorder->setQuietIn(row);
         recorder->setObjectName("shortcut." + QString::fromStdString(hotKey));
         recorder->setAccessibleName(filled(localized("sShortcutOf"), {command}));
         recorder->setFixedWidth(std::max(recorderWidth, recorder->sizeHint().width()));
@@ -83,6 +84,22 @@ QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey,
         }
     }
     return recorder;
+}
+
+QLabel *makeProblem() {
+    auto *label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    // Beginning with the name of a key, the line would stand where those of that script do.
+    label->setAlignment(QStyle::visualAlignment(label->layoutDirection(), Qt::AlignLeft) |
+                        Qt::AlignAbsolute);
+    label->hide();
+    return label;
+}
+
+void showProblem(QLabel &label, const QString &problem) {
+    label.setText(problem);
+    label.setVisible(!problem.isEmpty());
 }
 
 OptionPage::OptionPage(const PreferencesPage &page, settings::nrPreferences &preferences,
@@ -113,13 +130,11 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
     QString texts =
         localized(page_.title) + ' ' + box->text() + ' ' + localized(tooltipKey(row.key));
     grid->addWidget(box, 0, 0, 1, 3);
-    if (QWidget *recorder = shell::makeRecorder(makeRecorder, row.hotKey, box->text())) {
+    if (QWidget *recorder = shell::makeRecorder(makeRecorder, row.hotKey, box->text(), *widget)) {
         grid->addWidget(recorder, 0, 3, Qt::AlignTop);
     }
-    auto *problem = new QLabel;
+    auto *problem = makeProblem();
     problem->setObjectName("problem." + QString::fromStdString(row.hotKey));
-    problem->setWordWrap(true);
-    problem->hide();
     grid->addWidget(problem, 1, 0, 1, 4);
     int line = 2;
     QHBoxLayout *pair = nullptr;
@@ -430,8 +445,7 @@ bool OptionPage::point(std::string_view hotKey) {
 void OptionPage::setHotKeyProblem(std::string_view hotKey, const QString &problem) {
     for (const Row &row : rows_) {
         if (!row.hotKey.empty() && row.hotKey == hotKey) {
-            row.problem->setText(problem);
-            row.problem->setVisible(!problem.isEmpty());
+            showProblem(*row.problem, problem);
         }
     }
 }

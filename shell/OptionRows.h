@@ -6,6 +6,7 @@
 #include "engine/CleaningReport.h"
 #include "settings/nrPreferences.h"
 #include "shell/PreferencesLayout.h"
+#include "shortcuts/view/nrShortcutView.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -25,11 +26,18 @@ class QVBoxLayout;
 
 namespace nerlo::shell {
 
-// Makes the control that records the shortcut of a settings key; null where there is none.
-using RecorderMaker = std::function<QWidget *(const std::string &hotKey)>;
+// Makes the control that records the shortcut of a settings key.
+using RecorderMaker = std::function<shortcuts::nrShortcutView *(const std::string &hotKey)>;
 
-// A recorder with its name, for the row of a command.
-QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey, const QString &command);
+// A recorder with its name, for the row of a command, in which it is quiet; null where the command
+// has no settings key.
+QWidget *makeRecorder(const RecorderMaker &make, const std::string &hotKey, const QString &command,
+                      QWidget &row);
+
+// A line for why a shortcut does not work, hidden at first.
+QLabel *makeProblem();
+// Shows the line unless it is empty.
+void showProblem(QLabel &label, const QString &problem);
 
 class FindReplaceTable;
 

@@ -10,6 +10,7 @@
 #include "shell/ProfilesPage.h"
 #include "shell/Program.h"
 #include "shell/ScreenRoom.h"
+#include "shell/ShortcutPage.h"
 #include "shell/Strings.h"
 
 #include <QAccessible>
@@ -171,6 +172,11 @@ void PreferencesWindow::makePages() {
     connect(profilesPage_, &ProfilesPage::done, this, &PreferencesWindow::tellDone);
     profilesPage_->takeDropsOn(*this);
     addPage(profiles, profilesPage_, filterOf(profiles + ' ' + profilesPage_->searchTexts()));
+    shortcutPage_ = new ShortcutPage(program_.windows().shortcutList(), makeRecorder);
+    connect(shortcutPage_, &ShortcutPage::resetDone, this,
+            [this] { tellDone(localized("sShortcutsAreReset")); });
+    addPage(localized("sPageShortcuts"), shortcutPage_,
+            [this](const QStringList &words) { return shortcutPage_->filter(words); });
     splitter_->addWidget(preview_); // now, because the Tab key goes on to what came last
     splitter_->setStretchFactor(0, 3);
     splitter_->setStretchFactor(1, 2);
@@ -377,19 +383,19 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     QVBoxLayout *cleaning = addGroup("sGroupCleaning");
     generalTexts_ = localized("sPageGeneral");
     for (const auto &row : settings::commandHotKeys) {
-        auto *line = new QHBoxLayout;
+        auto *widget = new QWidget;
+        auto *line = new QHBoxLayout(widget);
+        line->setContentsMargins(0, 0, 0, 0);
         const QString command = localized(row.key);
         auto *label = new QLabel(command);
         setTip(*label, localized(std::string(row.key) + "Tip"));
         line->addWidget(label, 1);
-        if (QWidget *recorder = shell::makeRecorder(makeRecorder, std::string(row.key), command)) {
-            label->setBuddy(recorder);
-            line->addWidget(recorder);
-        }
-        cleaning->addLayout(line);
-        auto *problem = new QLabel;
-        problem->setWordWrap(true);
-        problem->hide();
+        QWidget *recorder =
+            shell::makeRecorder(makeRecorder, std::string(row.key), command, *widget);
+        label->setBuddy(recorder);
+        line->addWidget(recorder);
+        cleaning->addWidget(widget);
+        auto *problem = makeProblem();
         cleaning->addWidget(problem);
         commandProblems_[row.key] = problem;
         generalTexts_ += ' ' + command;
@@ -486,12 +492,12 @@ void PreferencesWindow::updateGeneral() {
 
 void PreferencesWindow::setHotKeyProblem(std::string_view hotKey, const QString &problem) {
     if (const auto found = commandProblems_.find(hotKey); found != commandProblems_.end()) {
-        found->second->setText(problem);
-        found->second->setVisible(!problem.isEmpty());
+        showProblem(*found->second, problem);
     }
     for (OptionPage *page : optionPages_) {
         page->setHotKeyProblem(hotKey, problem);
     }
+    shortcutPage_->update(hotKey);
 }
 
 void PreferencesWindow::setNotice(const QString &notice) {

@@ -27,6 +27,7 @@ class CopyTableView;
 class FindReplaceTable;
 class ProfilesPage;
 class Program;
+class ShortcutPage;
 
 class PreferencesWindow final : public QMainWindow {
     Q_OBJECT
@@ -107,6 +108,7 @@ class PreferencesWindow final : public QMainWindow {
     std::vector<OptionPage *> optionPages_;
     std::vector<Filter> filters_; // of the pages
     QString generalTexts_;        // what a search looks at
+    ShortcutPage *shortcutPage_ = nullptr;
     int pageBeforeSearch_ = -1;
     int previewBesideFrom_ = 0; // width of the window
     bool loading_ = false;

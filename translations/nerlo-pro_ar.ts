@@ -208,6 +208,30 @@
         <translation>اختصار يعمل في كل التطبيقات.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>الاختصارات</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>إعادة كل الاختصارات</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>يصبح لكل أمر اختصاره كما عند أول تشغيل؛ ومعظمها بلا اختصار.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>إعادة الاختصار: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>كما عند أول تشغيل.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>أُعيدت كل الاختصارات.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>رفض النظام هذا الاختصار. قد يكون برنامج آخر يستخدمه.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>Ein Tastenkürzel, das in jeder Anwendung wirkt.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Alle Tastenkürzel zurücksetzen</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Jeder Befehl bekommt das Tastenkürzel wie beim ersten Start; die meisten haben keines.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Tastenkürzel zurücksetzen: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Wie beim ersten Start.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Alle Tastenkürzel sind zurückgesetzt.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Das System hat dieses Tastenkürzel abgelehnt. Vielleicht benutzt es ein anderes Programm.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>Μια συντόμευση που λειτουργεί σε κάθε εφαρμογή.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Συντομεύσεις</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Επαναφορά όλων των συντομεύσεων</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Κάθε εντολή παίρνει τη συντόμευση της πρώτης εκκίνησης· οι περισσότερες δεν έχουν.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Επαναφορά συντόμευσης: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Όπως στην πρώτη εκκίνηση.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Έγινε επαναφορά όλων των συντομεύσεων.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Το σύστημα απέρριψε αυτή τη συντόμευση. Ίσως τη χρησιμοποιεί άλλο πρόγραμμα.</translation>
     </message>

@@ -208,6 +208,31 @@
         <translation>A shortcut that works in every application.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Shortcuts</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Reset all shortcuts</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Gives each command the shortcut that it had at the first start; most have none.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <extracomment>Name of a button, for screen readers; %@ is the command.</extracomment>
+        <translation>Reset shortcut: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>As at the first start.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>All shortcuts are reset.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>The system refused this shortcut. Another program may use it.</translation>
     </message>

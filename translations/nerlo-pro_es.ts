@@ -208,6 +208,30 @@
         <translation>Un atajo que funciona en todas las aplicaciones.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Atajos</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Restablecer todos los atajos</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Cada orden recibe el atajo del primer inicio; la mayoría no tiene ninguno.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Restablecer el atajo: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Como en el primer inicio.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Se han restablecido todos los atajos.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>El sistema rechazó este atajo. Puede que otro programa lo use.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>Un raccourci qui fonctionne dans toutes les applications.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Raccourcis</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Réinitialiser tous les raccourcis</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Chaque commande reçoit le raccourci du premier démarrage ; la plupart n’en ont pas.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Réinitialiser le raccourci : %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Comme au premier démarrage.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Tous les raccourcis sont réinitialisés.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Le système a refusé ce raccourci. Un autre programme l’utilise peut-être.</translation>
     </message>

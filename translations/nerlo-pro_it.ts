@@ -208,6 +208,30 @@
         <translation>Una scorciatoia che funziona in ogni applicazione.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Scorciatoie</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Ripristina tutte le scorciatoie</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Ogni comando riceve la scorciatoia del primo avvio; la maggior parte non ne ha.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Ripristina la scorciatoia: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Come al primo avvio.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Tutte le scorciatoie sono state ripristinate.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Il sistema ha rifiutato questa scorciatoia. Forse la usa un altro programma.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>すべてのアプリケーションで働くショートカットです。</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>ショートカット</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>すべてのショートカットをリセット</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>各コマンドのショートカットを最初に起動したときの状態に戻します。ほとんどのコマンドにはありません。</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>ショートカットをリセット：%@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>最初に起動したときの状態に戻します。</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>すべてのショートカットをリセットしました。</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>このショートカットはシステムに拒否されました。ほかのプログラムが使っている可能性があります。</translation>
     </message>

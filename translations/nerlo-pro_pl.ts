@@ -208,6 +208,30 @@
         <translation>Skrót działający we wszystkich programach.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Skróty</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Przywróć wszystkie skróty</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Każde polecenie dostaje skrót z pierwszego uruchomienia; większość nie ma żadnego.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Przywróć skrót: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Jak przy pierwszym uruchomieniu.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Przywrócono wszystkie skróty.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>System odrzucił ten skrót. Może go używać inny program.</translation>
     </message>

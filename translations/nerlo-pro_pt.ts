@@ -208,6 +208,30 @@
         <translation>Um atalho que funciona em todos os aplicativos.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Atalhos</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Redefinir todos os atalhos</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Cada comando recebe o atalho do primeiro início; a maioria não tem nenhum.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Redefinir o atalho: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Como no primeiro início.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Todos os atalhos foram redefinidos.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>O sistema recusou este atalho. Talvez outro programa o use.</translation>
     </message>

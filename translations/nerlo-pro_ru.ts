@@ -208,6 +208,30 @@
         <translation>Комбинация клавиш, которая действует во всех приложениях.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Комбинации клавиш</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Сбросить все комбинации</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Каждая команда получает комбинацию, которая была при первом запуске; у большинства её нет.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Сбросить комбинацию: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Как при первом запуске.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Все комбинации сброшены.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Система отклонила эту комбинацию клавиш. Возможно, её использует другая программа.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>En genväg som fungerar i alla program.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Genvägar</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Återställ alla genvägar</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Varje kommando får den genväg som det hade vid första starten; de flesta har ingen.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Återställ genvägen: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Som vid första starten.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Alla genvägar är återställda.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Systemet nekade genvägen. Ett annat program kanske använder den.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>Комбінація клавіш, що діє в усіх програмах.</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>Комбінації клавіш</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>Скинути всі комбінації</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>Кожна команда отримує комбінацію, яка була під час першого запуску; у більшості її немає.</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>Скинути комбінацію: %@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>Як під час першого запуску.</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>Усі комбінації скинуто.</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>Система відхилила цю комбінацію клавіш. Можливо, її використовує інша програма.</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>在所有应用程序中都有效的快捷键。</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>重置所有快捷键</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>让每个命令恢复首次启动时的快捷键；大多数命令没有快捷键。</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>重置快捷键：%@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>恢复首次启动时的状态。</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>所有快捷键已重置。</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>系统拒绝了此快捷键。可能有其他程序正在使用。</translation>
     </message>

@@ -208,6 +208,30 @@
         <translation>在所有應用程式中都有效的快捷鍵。</translation>
     </message>
     <message>
+        <source>sPageShortcuts</source>
+        <translation>快捷鍵</translation>
+    </message>
+    <message>
+        <source>sShortcutsReset</source>
+        <translation>重設所有快捷鍵</translation>
+    </message>
+    <message>
+        <source>sShortcutsResetTip</source>
+        <translation>讓每個指令恢復首次啟動時的快捷鍵；大多數指令沒有快捷鍵。</translation>
+    </message>
+    <message>
+        <source>sShortcutReset</source>
+        <translation>重設快捷鍵：%@</translation>
+    </message>
+    <message>
+        <source>sShortcutResetTip</source>
+        <translation>恢復首次啟動時的狀態。</translation>
+    </message>
+    <message>
+        <source>sShortcutsAreReset</source>
+        <translation>所有快捷鍵已重設。</translation>
+    </message>
+    <message>
         <source>sShortcutRefused</source>
         <translation>系統拒絕了此快捷鍵。可能有其他程式正在使用。</translation>
     </message>

@@ -55,7 +55,7 @@ class ShortcutAccessible final : public QAccessibleWidget {
             view().setRecording(!view().recording());
         } else if (name == deleteAction && view().isEnabled()) {
             view().setRecording(false);
-            view().setShortcutValue(std::nullopt);
+            view().record(std::nullopt);
         } else {
             QAccessibleWidget::doAction(name);
         }

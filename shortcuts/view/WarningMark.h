@@ -1,4 +1,5 @@
-// The warning sign beside a control whose setting does not work.
+// Signs that are drawn: beside a control whose setting does not work, and on a button that resets
+// one.
 #pragma once
 
 #include <QColor>
@@ -18,5 +19,7 @@ void drawWarningMark(QPainter &painter, const QRectF &area, const QColor &color)
 
 // The same, in the colours that the program has when it is shown.
 QIcon warningIcon();
+// An arrow that turns back, likewise.
+QIcon resetIcon();
 
 } // namespace nerlo::shortcuts

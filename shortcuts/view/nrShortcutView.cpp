@@ -56,6 +56,22 @@ void drawGlyph(QPainter &painter, const QRectF &area, const QString &glyph, cons
     painter.fillPath(place.map(shape), color);
 }
 
+// Drawn, because not every font has the sign.
+void drawKeyboard(QPainter &painter, const QRectF &area, const QColor &color) {
+    const qreal unit = std::min(area.width(), area.height()) / 24; // of a drawing 22 wide, 14 high
+    const auto box = [&](qreal x, qreal y, qreal width, qreal height) {
+        const QPointF middle = area.center();
+        return QRectF(middle.x() + x * unit, middle.y() + y * unit, width * unit, height * unit);
+    };
+    painter.setPen(QPen(color, 1.3));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(box(-11, -7, 22, 14), 2.5 * unit, 2.5 * unit);
+    for (const qreal x : {-8.0, -3.7, 0.7, 5.0}) {
+        painter.fillRect(box(x, -4, 3, 2.6), color);
+    }
+    painter.fillRect(box(-5, 1.6, 10, 2.6), color);
+}
+
 } // namespace
 
 nrShortcutView::nrShortcutView(const ShortcutViewContext &context, QWidget *parent)
@@ -98,6 +114,14 @@ void nrShortcutView::setShortcutValue(const std::optional<nrShortcut> &value) {
 
 void nrShortcutView::setShortcutValueObserver(std::function<void()> changed) {
     observer_ = std::move(changed);
+}
+
+void nrShortcutView::record(const std::optional<nrShortcut> &value) {
+    if (context_.asGesture) {
+        context_.asGesture([&] { setShortcutValue(value); });
+    } else {
+        setShortcutValue(value);
+    }
 }
 
 void nrShortcutView::setAssociatedUserDefaultsKey(const std::string &key) {
@@ -153,6 +177,21 @@ void nrShortcutView::setShortcutPlaceholder(const QString &placeholder) {
 void nrShortcutView::setAppearance(Appearance appearance) {
     appearance_ = appearance;
     update();
+}
+
+void nrShortcutView::setQuietIn(QWidget &row) {
+    row_ = &row;
+    row.installEventFilter(this); // told of the pointer
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
+    update();
+}
+
+bool nrShortcutView::quiet() const {
+    if (!row_ || shortcutValue_ || recording_ || row_->underMouse()) {
+        return false;
+    }
+    const QWidget *focus = QApplication::focusWidget();
+    return !focus || !row_->isAncestorOf(focus);
 }
 
 QString nrShortcutView::fromTable(std::u16string_view key) const {
@@ -311,6 +350,12 @@ void nrShortcutView::activateResignObserver(bool active) {
 
 bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
     switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::Leave:
+        if (watched == row_) {
+            update();
+        }
+        return false;
     case QEvent::WindowDeactivate:
         if (watched == observedWindow_) {
             setRecording(false);
@@ -352,7 +397,7 @@ bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
 bool nrShortcutView::monitor(const KeyEvent &event) {
     const nrShortcut shortcut = nrShortcut::shortcutWithEvent(event);
     if (shortcut.keyCode() == deleteKey || shortcut.keyCode() == forwardDeleteKey) {
-        setShortcutValue(std::nullopt);
+        record(std::nullopt);
         setRecording(false);
         return true;
     }
@@ -382,7 +427,7 @@ bool nrShortcutView::monitor(const KeyEvent &event) {
         refuseTaken(shortcut, error);
         return true;
     }
-    setShortcutValue(shortcut);
+    record(shortcut);
     setRecording(false);
     return true;
 }
@@ -452,7 +497,7 @@ void nrShortcutView::keyPressEvent(QKeyEvent *event) {
         break;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
-        setShortcutValue(std::nullopt);
+        record(std::nullopt);
         break;
     default:
         QWidget::keyPressEvent(event);
@@ -470,7 +515,7 @@ void nrShortcutView::mousePressEvent(QMouseEvent *event) {
             setRecording(false);
         }
     } else if (onButton) {
-        setShortcutValue(std::nullopt);
+        record(std::nullopt);
     } else {
         setRecording(true);
     }
@@ -490,6 +535,13 @@ void nrShortcutView::paintEvent(QPaintEvent *) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette &colors = palette();
     const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    if (quiet()) {
+        QColor color = colors.color(group, QPalette::Text);
+        color.setAlphaF(0.6f);
+        const QRect end(width() - buttonWidth() - 2, 2, buttonWidth(), height() - 4);
+        drawKeyboard(painter, QStyle::visualRect(layoutDirection(), rect(), end), color);
+        return;
+    }
     const bool active = recording_ || hasFocus();
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
 

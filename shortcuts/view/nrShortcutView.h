@@ -40,6 +40,8 @@ struct ShortcutViewContext {
     // Whether the control takes the whole keyboard while it records, so that combinations of the
     // desktop and of other programs reach it. Only X11 lets a window do so.
     bool grabsKeyboard = false;
+    // Runs what the user does to a shortcut, so that it can be taken back; empty: as it is.
+    std::function<void(const std::function<void()> &change)> asGesture = {};
 };
 
 class nrShortcutView : public QWidget, public ShortcutControl {
@@ -47,6 +49,9 @@ class nrShortcutView : public QWidget, public ShortcutControl {
 
   public:
     enum class Appearance { framed, flat };
+    // `row` is an ancestor. As long as there is no shortcut, and neither the pointer nor the
+    // keyboard is in the row, the control shows nothing but a small keyboard at its end.
+    void setQuietIn(QWidget &row);
 
     explicit nrShortcutView(const ShortcutViewContext &context, QWidget *parent = nullptr);
     ~nrShortcutView() override;
@@ -54,6 +59,8 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     std::optional<nrShortcut> shortcutValue() const override { return shortcutValue_; }
     void setShortcutValue(const std::optional<nrShortcut> &value) override;
     void setShortcutValueObserver(std::function<void()> changed) override;
+    // The same as a gesture of the user.
+    void record(const std::optional<nrShortcut> &value);
     // Run after each change of the value.
     std::function<void(nrShortcutView &)> shortcutValueChange;
 
@@ -100,6 +107,7 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     void resetToolTips();
     int buttonWidth() const;
     void setHinting(bool hinting);
+    bool quiet() const;
     void announce();
     // A key-down or modifier change while recording; false to let it through.
     bool monitor(const KeyEvent &event);
@@ -119,6 +127,7 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     bool monitoring_ = false;
     bool unusable_ = false; // the last key cannot be used
     QPointer<QWidget> observedWindow_;
+    QPointer<QWidget> row_; // in which it is quiet; null for never
     Appearance appearance_ = Appearance::framed;
     std::unique_ptr<GlobalHotKeys::Suspension> suspension_; // while recording
     UserDefaultsHotKeys::Observation statusObservation_;

@@ -1,0 +1,177 @@
+#include "shell/ShortcutPage.h"
+
+#include "shell/Controls.h"
+#include "shell/Strings.h"
+#include "shortcuts/view/WarningMark.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace nerlo::shell {
+
+namespace {
+
+QLabel *makeHeading(const QString &page) {
+    auto *heading = new QLabel(page);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    heading->setContentsMargins(0, 10, 0, 0);
+    return heading;
+}
+
+} // namespace
+
+ShortcutPage::ShortcutPage(ShortcutList &list, const RecorderMaker &makeRecorder)
+    : list_(list) {
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 8, 12, 12);
+    layout->setSpacing(2);
+    auto *resetAll = new QPushButton(localized("sShortcutsReset"));
+    describe(*resetAll, "resetShortcuts", "sShortcutsReset", "sShortcutsResetTip");
+    layout->addWidget(resetAll, 0, Qt::AlignTrailing);
+    connect(resetAll, &QPushButton::clicked, this, [this] {
+        list_.resetAll();
+        emit resetDone();
+    });
+    QLabel *heading = nullptr;
+    for (const ListedCommand &command : list.commands()) {
+        if (!heading || heading->text() != command.page) {
+            heading = makeHeading(command.page);
+            layout->addWidget(heading);
+        }
+        addRow(command, heading, makeRecorder);
+        layout->addWidget(rows_.back().widget);
+    }
+    layout->addStretch();
+    makeStop(rows_.front().recorder);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) {
+        if (std::ranges::find(rows_, now, &Row::recorder) != rows_.end()) {
+            makeStop(now);
+        }
+    });
+}
+
+void ShortcutPage::addRow(const ListedCommand &command, QLabel *heading,
+                          const RecorderMaker &makeRecorder) {
+    auto *widget = new QWidget;
+    auto *grid = new QGridLayout(widget);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(0);
+    grid->setColumnStretch(0, 1);
+    auto *title = new QLabel(command.title);
+    title->setTextFormat(Qt::PlainText);
+    setTip(*title, command.tip);
+    grid->addWidget(title, 0, 0);
+    auto *reset = new QToolButton;
+    reset->setAutoRaise(true);
+    reset->setIcon(shortcuts::resetIcon());
+    describeAs(*reset, "reset." + QString::fromStdString(command.hotKey),
+               filled(localized("sShortcutReset"), {command.title}),
+               localized("sShortcutResetTip"));
+    auto kept = reset->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    reset->setSizePolicy(kept);
+    grid->addWidget(reset, 0, 1);
+    QWidget *recorder = shell::makeRecorder(makeRecorder, command.hotKey, command.title, *widget);
+    recorder->setObjectName("listed." + QString::fromStdString(command.hotKey));
+    grid->addWidget(recorder, 0, 2);
+    auto *conflict = makeProblem();
+    grid->addWidget(conflict, 1, 0, 1, 3);
+    rows_.push_back({&command, heading, widget, conflict, reset, recorder});
+    show(rows_.back());
+    connect(reset, &QToolButton::clicked, this, [this, &command, recorder] {
+        recorder->setFocus(); // the button goes
+        list_.reset(command);
+    });
+}
+
+void ShortcutPage::update(std::string_view hotKey) {
+    const auto row = std::ranges::find_if(
+        rows_, [&](const Row &candidate) { return candidate.command->hotKey == hotKey; });
+    if (row != rows_.end()) {
+        show(*row);
+    }
+}
+
+void ShortcutPage::show(const Row &row) {
+    showProblem(*row.conflict, list_.conflict(row.command->hotKey));
+    row.reset->setVisible(!list_.isAsAtFirst(*row.command));
+}
+
+bool ShortcutPage::filter(const QStringList &words) {
+    for (const Row &row : rows_) {
+        row.heading->hide();
+    }
+    for (const Row &row : rows_) {
+        const bool matches = list_.matches(*row.command, words);
+        row.widget->setVisible(matches);
+        row.heading->setVisible(matches || !row.heading->isHidden());
+    }
+    const auto shown = shownRows();
+    const bool stopIsShown = std::ranges::any_of(
+        shown, [](const Row *row) { return row->recorder->focusPolicy() == Qt::StrongFocus; });
+    if (!shown.empty() && !stopIsShown) {
+        makeStop(shown.front()->recorder);
+    }
+    return !shown.empty();
+}
+
+std::vector<const ShortcutPage::Row *> ShortcutPage::shownRows() const {
+    std::vector<const Row *> shown;
+    for (const Row &row : rows_) {
+        if (!row.widget->isHidden()) {
+            shown.push_back(&row);
+        }
+    }
+    return shown;
+}
+
+// The only one that the Tab key stops at: nobody wants to go through all rows to get past the list.
+void ShortcutPage::makeStop(const QWidget *recorder) {
+    for (const Row &row : rows_) {
+        const auto policy = row.recorder == recorder ? Qt::StrongFocus : Qt::ClickFocus;
+        row.recorder->setFocusPolicy(policy);
+        row.reset->setFocusPolicy(policy);
+    }
+}
+
+void ShortcutPage::keyPressEvent(QKeyEvent *event) {
+    const auto shown = shownRows();
+    const auto current = std::ranges::find(shown, QApplication::focusWidget(), &Row::recorder);
+    if (current == shown.end()) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    auto next = current;
+    switch (event->key()) {
+    case Qt::Key_Up:
+        next = current == shown.begin() ? current : current - 1;
+        break;
+    case Qt::Key_Down:
+        next = current + 1 == shown.end() ? current : current + 1;
+        break;
+    case Qt::Key_Home:
+        next = shown.begin();
+        break;
+    case Qt::Key_End:
+        next = shown.end() - 1;
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    (*next)->recorder->setFocus(Qt::TabFocusReason);
+    for (QWidget *above = parentWidget(); above; above = above->parentWidget()) {
+        if (auto *scroll = qobject_cast<QScrollArea *>(above)) {
+            scroll->ensureWidgetVisible((*next)->recorder);
+        }
+    }
+}
+
+} // namespace nerlo::shell
