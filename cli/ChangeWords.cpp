@@ -36,10 +36,13 @@ bool canBeSeen(char32_t character) {
     return !blank && text::isShown(character);
 }
 
-std::string codeOf(char32_t character) {
-    char code[16];
-    std::snprintf(code, sizeof code, "U+%04X", static_cast<unsigned>(character));
-    return code;
+// Written by hand: of thousands of findings most show a space.
+void appendCode(std::string &to, char32_t character) {
+    to += "U+";
+    for (int shift = character > 0xFFFFF ? 20 : character > 0xFFFF ? 16 : 12; shift >= 0;
+         shift -= 4) {
+        to += "0123456789ABCDEF"[character >> shift & 0xF];
+    }
 }
 
 } // namespace
@@ -63,7 +66,8 @@ std::string shown(std::u16string_view text) {
         if (count == mostShown) {
             result += "\u2026";
         } else {
-            result += inQuotes ? text::utf16ToUtf8(text.substr(at, size)) : codeOf(character);
+            inQuotes ? void(result += text::utf16ToUtf8(text.substr(at, size)))
+                     : appendCode(result, character);
         }
         at += size;
     }

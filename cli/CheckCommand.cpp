@@ -134,21 +134,35 @@ class Check {
         engine::CleaningReport patterns;
         const engine::CleaningContext context{
             .options = options_.of(file), .locale = arguments_.locale, .report = &patterns};
-        // A plain clean is faster than a trace, and most files are clean.
-        const std::u16string clean = engine::runPipeline(source, context);
-        if (!patterns.empty()) {
-            throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + messageOf(patterns));
-        }
+        const auto checkPatterns = [&] {
+            if (!patterns.empty()) {
+                throw Failure(ExitStatus::ioFailed, nameOf(file) + ": " + messageOf(patterns));
+            }
+        };
         // A clean writes a text from standard input as it is; a file keeps its last line break.
-        const std::string kept = file == "-" ? "" : endingFor(clean, reader);
-        const std::u16string ending(kept.begin(), kept.end());
-        if (text::sameUnits(source, clean + ending)) {
-            progress_.addDone(reader.bytes());
-            return;
+        const auto endingOf = [&](const std::u16string &clean) {
+            const std::string kept = file == "-" ? "" : endingFor(clean, reader);
+            return std::u16string(kept.begin(), kept.end());
+        };
+        // A plain clean is faster than a trace, and most files are clean; but where one is not, the
+        // next will not be either, and then it would be in vain.
+        if (!expectsChanges_ || context.options.udProtectStructure) {
+            const std::u16string clean = engine::runPipeline(source, context);
+            checkPatterns();
+            if (text::sameUnits(source, clean + endingOf(clean))) {
+                progress_.addDone(reader.bytes());
+                return;
+            }
         }
         const engine::Trace trace = engine::tracePipeline(source, context, SIZE_MAX);
+        checkPatterns();
+        const std::u16string ending = endingOf(trace.text);
         const std::vector<Finding> findings = findingsOf(source, trace, ending);
         progress_.addDone(reader.bytes());
+        expectsChanges_ = !findings.empty();
+        if (findings.empty()) {
+            return;
+        }
         tell(file, findings);
         if (arguments_.fix) {
             rewrite(file, reader, trace.text);
@@ -179,6 +193,7 @@ class Check {
     Progress progress_;
     ExitStatus status_ = ExitStatus::done;
     bool found_ = false;
+    bool expectsChanges_ = false; // as the file before had some
 };
 
 void refuseStandardInput(const std::vector<std::string> &files, const std::string &option) {

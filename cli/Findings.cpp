@@ -24,6 +24,9 @@ using text::Change;
 std::vector<Change> changesOfAll(const engine::Trace &trace, std::u16string_view ending) {
     std::vector<Change> all;
     for (const engine::TraceStep &step : trace.steps) {
+        if (step.places.empty()) {
+            continue;
+        }
         std::vector<Change> changes;
         changes.reserve(step.places.size());
         for (const engine::TracedChange &place : step.places) {
@@ -59,9 +62,11 @@ bool isIn(const std::vector<Change> &changes, text::Range place) {
 }
 
 std::string line(const std::string &path, const Finding &finding, bool) {
-    return withoutControls(path) + ":" + std::to_string(finding.begin.line) + ":" +
-           std::to_string(finding.begin.column) + ": " + effectOf(*finding.change) + " (" +
-           nameOf(*finding.step) + ")\n";
+    std::string words = withoutControls(path);
+    words.append(":").append(std::to_string(finding.begin.line));
+    words.append(":").append(std::to_string(finding.begin.column));
+    words.append(": ").append(effectOf(*finding.change));
+    return words.append(" (").append(nameOf(*finding.step)).append(")\n");
 }
 
 std::string arrayHead() {

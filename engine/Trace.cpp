@@ -30,6 +30,9 @@ using Places = std::span<const TracedChange>;
 // The place, seen from the other side of a step. What the step changed goes with it if it lies in
 // the place; if it only overlaps, the whole change belongs to the place.
 Range carried(Range place, Places changes, Direction way) {
+    if (changes.empty()) {
+        return place;
+    }
     const auto from = [&](const TracedChange &one) { return one.change.*way.from; };
     const auto to = [&](const TracedChange &one) { return one.change.*way.to; };
     const auto first = std::ranges::partition_point(
@@ -97,11 +100,11 @@ class Tracer {
         if (how_.stop.stop_requested()) {
             return;
         }
-        const std::u16string before = trace_.text;
+        before_.assign(trace_.text);
         trace_.text = run(std::move(trace_.text));
         TraceStep &step = trace_.steps.emplace_back(std::move(known));
-        if (!text::sameUnits(trace_.text, before)) {
-            list(step, before);
+        if (!text::sameUnits(trace_.text, before_)) {
+            list(step, before_);
         }
         known_.push_back(knownEnd_);
         knownEnd_ = carriedEnd(knownEnd_, step.places, forward);
@@ -174,6 +177,7 @@ class Tracer {
     std::size_t mostPlaces_;
     const Tracing &how_;
     Trace trace_;
+    std::u16string before_; // what the last step was given; its memory serves the next
     // As carriedEnd(): of the present text, and of what each step was given.
     std::size_t knownEnd_ = everything;
     std::vector<std::size_t> known_;

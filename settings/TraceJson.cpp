@@ -29,17 +29,32 @@ std::string placesJson(const engine::TraceStep &step, std::u16string_view source
 } // namespace
 
 void TextPosition::moveTo(std::u16string_view text, std::size_t to) {
-    for (; offset < to; ++offset) {
-        const char16_t unit = text[offset];
-        const bool beforeFeed = offset + 1 < text.size() && text[offset + 1] == u'\n';
-        if (unit == u'\n' || (unit == u'\r' && !beforeFeed)) {
-            ++line;
-            lineByFeeds += unit == u'\n' ? 1 : 0;
-            column = 1;
-        } else if (!text::cutsPair(text, offset)) {
-            ++column;
+    const auto isPlain = [](char16_t unit) { return unit > u'\r' && (unit & 0xFC00) != 0xDC00; };
+    while (offset < to) {
+        const std::size_t begin = offset;
+        std::size_t at = begin;
+        while (at < to && isPlain(text[at])) {
+            ++at;
+        }
+        column += at - begin;
+        offset = at;
+        if (at < to) {
+            passSpecial(text);
         }
     }
+}
+
+void TextPosition::passSpecial(std::u16string_view text) {
+    const char16_t unit = text[offset];
+    const bool beforeFeed = offset + 1 < text.size() && text[offset + 1] == u'\n';
+    if (unit == u'\n' || (unit == u'\r' && !beforeFeed)) {
+        ++line;
+        lineByFeeds += unit == u'\n' ? 1 : 0;
+        column = 1;
+    } else if (!text::cutsPair(text, offset)) {
+        ++column;
+    }
+    ++offset;
 }
 
 std::string jsonMembers(const engine::TraceStep &step) {

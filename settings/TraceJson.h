@@ -24,6 +24,9 @@ struct TextPosition {
 
     // `text` is the same each time, and `to` never lies before the offset.
     void moveTo(std::u16string_view text, std::size_t to);
+
+  private:
+    void passSpecial(std::u16string_view text);
 };
 
 // Members of a JSON object, without braces: operation, and rule or characters where there are some.

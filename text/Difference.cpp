@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <optional>
 #include <span>
@@ -16,11 +17,33 @@ namespace nerlo::text {
 
 namespace {
 
-// Units at the end of both texts that are the same, and not already so at their beginning.
+// How many items at the beginning are the same, looked at in words of eight bytes.
+template <class Item>
+std::size_t sameAtBegin(std::span<const Item> before, std::span<const Item> after) {
+    constexpr std::size_t inWord = sizeof(std::uint64_t) / sizeof(Item);
+    const std::size_t size = std::min(before.size(), after.size());
+    std::size_t at = 0;
+    for (; at + inWord <= size; at += inWord) {
+        std::uint64_t one = 0;
+        std::uint64_t other = 0;
+        std::memcpy(&one, before.data() + at, sizeof one);
+        std::memcpy(&other, after.data() + at, sizeof other);
+        if (one != other) {
+            break;
+        }
+    }
+    while (at < size && before[at] == after[at]) {
+        ++at;
+    }
+    return at;
+}
+
+std::size_t sameAtBegin(std::u16string_view before, std::u16string_view after) {
+    return sameAtBegin<char16_t>(std::span(before), std::span(after));
+}
+
+// Units at the end of both texts that are the same.
 std::size_t sameAtEnd(std::u16string_view before, std::u16string_view after) {
-    const auto begin = std::ranges::mismatch(before, after).in1 - before.begin();
-    before.remove_prefix(static_cast<std::size_t>(begin));
-    after.remove_prefix(static_cast<std::size_t>(begin));
     const auto same = std::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend());
     return static_cast<std::size_t>(same.first - before.rbegin());
 }
@@ -30,11 +53,10 @@ Change trimmed(Change change, std::u16string_view before, std::u16string_view af
     const auto partOf = [](std::u16string_view text, Range range) {
         return text.substr(range.begin, range.end - range.begin);
     };
-    const auto same =
-        std::ranges::mismatch(partOf(before, change.before), partOf(after, change.after));
-    const auto size = same.in1 - partOf(before, change.before).begin();
-    change.before.begin += static_cast<std::size_t>(size);
-    change.after.begin += static_cast<std::size_t>(size);
+    const std::size_t atBegin =
+        sameAtBegin(partOf(before, change.before), partOf(after, change.after));
+    change.before.begin += atBegin;
+    change.after.begin += atBegin;
     const std::size_t atEnd = sameAtEnd(partOf(before, change.before), partOf(after, change.after));
     change.before.end -= atEnd;
     change.after.end -= atEnd;
@@ -179,34 +201,38 @@ class Comparison {
     }
 
     Place behindEqual(Place at, Place end) const {
-        const std::size_t size = std::min(end.before - at.before, end.after - at.after);
-        const auto from = before_.begin() + static_cast<std::ptrdiff_t>(at.before);
-        const auto there = std::mismatch(from, from + static_cast<std::ptrdiff_t>(size),
-                                         after_.begin() + static_cast<std::ptrdiff_t>(at.after));
-        const auto same = static_cast<std::size_t>(there.first - from);
+        const std::size_t same =
+            sameAtBegin(before_.subspan(at.before, end.before - at.before),
+                        after_.subspan(at.after, end.after - at.after));
         return {at.before + same, at.after + same};
     }
 
     // How far into `before` one comes on a diagonal (items of `before` less items of `after`).
     struct Reached {
-        int before = unreachable;
-        bool leftOut = false; // by leaving out an item of `before`, else by putting one in
+        int before;
+        bool leftOut; // by leaving out an item of `before`, else by putting one in
     };
     static constexpr int unreachable = -1;
-    static constexpr int middle = mostEdits + 1;
-    using Row = std::array<Reached, 2 * mostEdits + 3>; // a cell for each diagonal
+    static constexpr int middle = mostEdits + 2;
+    using Row = std::array<Reached, 2 * mostEdits + 5>; // a cell for each diagonal
 
     struct Goal {
         int edits;
         int diagonal;
     };
 
-    // Diagonals are negative where more was put in than left out; a row has one cell more on
-    // either side.
+    // Diagonals are negative where more was put in than left out; a row has two cells more on
+    // either side, which nothing reaches.
     static constexpr std::size_t cellOf(int diagonal) {
         return static_cast<std::size_t>(middle + diagonal);
     }
     Row &rowOf(int edits) { return rows_[static_cast<std::size_t>(edits)]; }
+    // The cells that the next row will look at.
+    void clear(int edits) {
+        for (int diagonal = -edits - 2; diagonal <= edits + 2; ++diagonal) {
+            rowOf(edits)[cellOf(diagonal)] = {unreachable, false};
+        }
+    }
 
     // Goes on from `at` with as few edits as can be until the sequences have met or are at their
     // ends, and tells them. If they do not meet: as far as one comes, or nothing unless `anyway`.
@@ -216,11 +242,11 @@ class Comparison {
     }
 
     std::optional<Goal> search(Place at, Place end, bool anyway) {
-        rowOf(0).fill({});
+        clear(0);
         rowOf(0)[cellOf(0)].before = 0;
         Goal furthest{0, 0};
         for (int edits = 1; edits <= mostEdits; ++edits) {
-            rowOf(edits).fill({});
+            clear(edits);
             std::int64_t best = -1;
             for (int diagonal = -edits; diagonal <= edits; diagonal += 2) {
                 Reached &cell = rowOf(edits)[cellOf(diagonal)];
@@ -370,7 +396,7 @@ class Comparison {
     std::span<const Item> after_;
     Effort effort_;
     const Report &report_;
-    std::array<Row, mostEdits + 1> rows_;
+    std::array<Row, mostEdits + 1> rows_; // each is cleared before it is used
     std::vector<std::pair<std::uint64_t, std::size_t>> grams_;
 };
 
@@ -437,12 +463,17 @@ bool holdsEveryLine(std::u16string_view text, const std::vector<std::size_t> &be
 // Whether the first line of `after` that `before` does not go on with stands nowhere in it: then
 // the lines need not be looked at one by one. Not every such line is found.
 bool bringsANewLine(std::u16string_view before, std::u16string_view after) {
-    constexpr std::u16string_view breaks = u"\n\r";
-    const auto same = std::ranges::mismatch(before, after).in2 - after.begin();
-    const std::size_t last = after.substr(0, static_cast<std::size_t>(same)).find_last_of(breaks);
+    constexpr UnitSet breaks(u"\n\r");
+    const std::size_t last =
+        after.substr(0, sameAtBegin(before, after)).find_last_of(std::u16string_view(u"\n\r"));
     const std::size_t begin = last == std::u16string_view::npos ? 0 : last + 1;
-    const std::size_t end = std::min(after.find_first_of(breaks, begin), after.size());
-    return before.find(after.substr(begin, end - begin)) == std::u16string_view::npos;
+    const std::u16string_view line = after.substr(begin, findUnit(after, begin, breaks) - begin);
+    for (std::size_t at = 0; at <= before.size(); at = findUnit(before, at, breaks) + 1) {
+        if (before.substr(at).starts_with(line)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // Lines that were moved or left out as a whole are compared as such. False where it was otherwise.
@@ -480,8 +511,13 @@ Difference differenceOf(std::u16string_view before, std::u16string_view after,
         return list.take();
     }
     const Report add = [&](Change part) { list.add(part); };
+    const std::size_t begin = sameAtBegin(before, after);
+    if (begin == after.size()) { // its end was cut off
+        add({{begin, before.size()}, {begin, begin}});
+        return list.take();
+    }
     if (!compareLines(before, after, add)) {
-        const std::size_t same = sameAtEnd(before, after);
+        const std::size_t same = sameAtEnd(before.substr(begin), after.substr(begin));
         Comparison<char16_t>(before.substr(0, before.size() - same),
                              after.substr(0, after.size() - same), forUnits, add)
             .run();
