@@ -177,8 +177,9 @@ class AnswerWriter {
     std::_Exit(static_cast<int>(status));
 }
 
-// Some lines to what becomes of them. Any thread.
-using Work = OrderedWorkers::Work;
+// From some lines to what becomes of them.
+using LineWorkers = OrderedWorkers<std::string, Answers>;
+using Work = std::function<Answers(std::string_view lines)>;
 
 ExitStatus run(const BatchArguments &arguments, const BadLines &badLines, const Work &work) {
     Progress progress;
@@ -190,7 +191,7 @@ ExitStatus run(const BatchArguments &arguments, const BadLines &badLines, const 
         return writer.finish();
     }
     {
-        OrderedWorkers workers(arguments.jobs, work, [&](const std::vector<Answers> &ready) {
+        LineWorkers workers(arguments.jobs, work, [&](const std::vector<Answers> &ready) {
             try {
                 for (const Answers &each : ready) {
                     writer.add(each);
@@ -203,7 +204,8 @@ ExitStatus run(const BatchArguments &arguments, const BadLines &badLines, const 
                 endNow(failure.status);
             }
         });
-        reader.run([&](std::string_view lines) { workers.push(std::string(lines)); }, [] {});
+        reader.run([&](std::string_view lines) { workers.push(std::string(lines), lines.size()); },
+                   [] {});
     }
     return writer.finish();
 }

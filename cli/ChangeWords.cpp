@@ -39,8 +39,10 @@ bool canBeSeen(char32_t character) {
 // Written by hand: of thousands of findings most show a space.
 void appendCode(std::string &to, char32_t character) {
     to += "U+";
-    for (int shift = character > 0xFFFFF ? 20 : character > 0xFFFF ? 16 : 12; shift >= 0;
-         shift -= 4) {
+    for (int shift = character > 0xFFFFF  ? 20
+                     : character > 0xFFFF ? 16
+                                          : 12;
+         shift >= 0; shift -= 4) {
         to += "0123456789ABCDEF"[character >> shift & 0xF];
     }
 }

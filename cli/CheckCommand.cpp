@@ -4,6 +4,7 @@
 #include "cli/CommonArguments.h"
 #include "cli/Findings.h"
 #include "cli/Input.h"
+#include "cli/OrderedWorkers.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
 #include "cli/Rewriting.h"
@@ -13,10 +14,16 @@
 #include <CLI/Formatter.hpp>
 
 #include <algorithm>
+#include <atomic>
+#include <exception>
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
+#include <ranges>
+#include <span>
+#include <thread>
 #include <utility>
 
 namespace nerlo::cli {
@@ -54,7 +61,9 @@ class OptionsByFile {
     explicit OptionsByFile(const OptionArguments &arguments)
         : arguments_(arguments) {}
 
+    // Any thread.
     const engine::CleaningOptions &of(const std::string &file) {
+        const std::lock_guard lock(mutex_);
         return read(isChosen() || file == "-" ? "" : nearest(file));
     }
 
@@ -85,6 +94,7 @@ class OptionsByFile {
     }
 
     const OptionArguments &arguments_;
+    std::mutex mutex_;                           // guards what is known
     std::map<std::string, std::string> nearest_; // by folder
     std::map<std::string, engine::CleaningOptions> options_;
 };
@@ -99,6 +109,25 @@ const FindingFormat &formatOf(const std::string &name) {
     return *format;
 }
 
+using Files = std::span<const std::string>;
+
+// In bytes, of those that have a size.
+std::size_t sizeOf(Files files) {
+    std::size_t sum = 0;
+    for (const std::string &file : files) {
+        std::error_code none;
+        const std::uintmax_t size = std::filesystem::file_size(file, none);
+        sum += none ? 0 : size;
+    }
+    return sum;
+}
+
+// What is to be told about one file.
+struct Checked {
+    std::string findings;
+    std::optional<Failure> failure;
+};
+
 class Check {
   public:
     explicit Check(const CheckArguments &arguments)
@@ -112,15 +141,15 @@ class Check {
 
     ExitStatus run(const std::vector<std::string> &files) {
         writeOutput(format_.head());
-        for (const std::string &file : files) {
-            try {
-                checkFile(file);
-            } catch (const Failure &failure) {
-                // The other files are checked all the same, so that every bad one is named.
-                progress_.stop();
-                report(failure.what());
-                status_ = failure.status;
+        const auto threads =
+            std::min<std::size_t>(std::thread::hardware_concurrency(), files.size());
+        // Signals are held back in one thread alone while a file is replaced.
+        if (threads < 2 || arguments_.fix) {
+            for (const std::string &file : files) {
+                tell(checked(file));
             }
+        } else {
+            runInThreads(static_cast<unsigned>(threads), files);
         }
         progress_.stop();
         writeOutput(format_.tail);
@@ -128,7 +157,54 @@ class Check {
     }
 
   private:
-    void checkFile(const std::string &file) {
+    void runInThreads(unsigned threads, const std::vector<std::string> &files) {
+        std::exception_ptr stopped; // by an output that takes no more
+        std::atomic<bool> going = true;
+        {
+            OrderedWorkers<Files, std::vector<Checked>> workers(
+                threads,
+                [&](const Files &some) {
+                    std::vector<Checked> results;
+                    for (std::size_t at = 0; at < some.size() && going; ++at) {
+                        results.push_back(checked(some[at]));
+                    }
+                    return results;
+                },
+                [&](const std::vector<std::vector<Checked>> &ready) {
+                    try {
+                        for (const Checked &one : std::views::join(ready)) {
+                            tell(one);
+                        }
+                    } catch (...) {
+                        stopped = std::current_exception();
+                        going = false;
+                    }
+                });
+            const std::size_t few = std::clamp<std::size_t>(files.size() / threads / 16, 1, 16);
+            for (Files rest = files; !rest.empty();) {
+                const Files some = rest.first(std::min(few, rest.size()));
+                workers.push(some, sizeOf(some));
+                rest = rest.subspan(some.size());
+            }
+        }
+        if (stopped) {
+            std::rethrow_exception(stopped);
+        }
+    }
+
+    // The other files are checked all the same where one fails, so that every bad one is named.
+    Checked checked(const std::string &file) {
+        Checked result;
+        try {
+            check(file, result.findings);
+        } catch (const Failure &failure) {
+            result.failure = failure;
+        }
+        return result;
+    }
+
+    // Any thread, unless files are cleaned.
+    void check(const std::string &file, std::string &told) {
         TextReader reader(file, progress_);
         const std::u16string source = reader.readAll();
         engine::CleaningReport patterns;
@@ -156,44 +232,56 @@ class Check {
         }
         const engine::Trace trace = engine::tracePipeline(source, context, SIZE_MAX);
         checkPatterns();
-        const std::u16string ending = endingOf(trace.text);
-        const std::vector<Finding> findings = findingsOf(source, trace, ending);
+        const std::vector<Finding> findings = findingsOf(source, trace, endingOf(trace.text));
         progress_.addDone(reader.bytes());
         expectsChanges_ = !findings.empty();
         if (findings.empty()) {
             return;
         }
-        tell(file, findings);
+        told = wordsOf(file, findings);
         if (arguments_.fix) {
             rewrite(file, reader, trace.text);
         }
     }
 
-    void tell(const std::string &file, const std::vector<Finding> &findings) {
-        if (changed_) {
-            changed_->read(file);
+    std::string wordsOf(const std::string &file, const std::vector<Finding> &findings) const {
+        std::optional<ChangedLines> changed = changed_;
+        if (changed) {
+            changed->read(file);
         }
-        std::string lines;
+        std::string words;
         for (const Finding &finding : findings) {
-            if (!changed_ || changed_->hold(finding.begin.lineByFeeds, finding.end.lineByFeeds)) {
-                lines += format_.one(nameOf(file), finding, !found_);
-                found_ = true;
+            if (!changed || changed->hold(finding.begin.lineByFeeds, finding.end.lineByFeeds)) {
+                words += words.empty() ? "" : format_.between;
+                words += format_.one(nameOf(file), finding);
             }
         }
-        if (!lines.empty()) {
+        return words;
+    }
+
+    void tell(const Checked &file) {
+        if (file.failure) {
             progress_.stop();
-            writeOutput(lines);
+            report(file.failure->what());
+            status_ = file.failure->status;
+        }
+        if (!file.findings.empty()) {
+            progress_.stop();
+            if (std::exchange(found_, true)) {
+                writeOutput(format_.between);
+            }
+            writeOutput(file.findings);
         }
     }
 
     const CheckArguments &arguments_;
     const FindingFormat &format_;
     OptionsByFile options_;
-    std::optional<ChangedLines> changed_;
+    std::optional<ChangedLines> changed_; // of no file yet
     Progress progress_;
     ExitStatus status_ = ExitStatus::done;
     bool found_ = false;
-    bool expectsChanges_ = false; // as the file before had some
+    std::atomic<bool> expectsChanges_ = false; // as the file before had some
 };
 
 void refuseStandardInput(const std::vector<std::string> &files, const std::string &option) {

@@ -61,7 +61,7 @@ bool isIn(const std::vector<Change> &changes, text::Range place) {
            place.end <= change->before.end;
 }
 
-std::string line(const std::string &path, const Finding &finding, bool) {
+std::string line(const std::string &path, const Finding &finding) {
     std::string words = withoutControls(path);
     words.append(":").append(std::to_string(finding.begin.line));
     words.append(":").append(std::to_string(finding.begin.column));
@@ -70,12 +70,11 @@ std::string line(const std::string &path, const Finding &finding, bool) {
 }
 
 std::string arrayHead() {
-    return "[";
+    return "[\n";
 }
 
-std::string jsonObject(const std::string &path, const Finding &finding, bool first) {
-    return std::string(first ? "\n" : ",\n") + "{\"path\":" + jsonOfName(path) + "," +
-           jsonMembers(*finding.step) + "," +
+std::string jsonObject(const std::string &path, const Finding &finding) {
+    return "{\"path\":" + jsonOfName(path) + "," + jsonMembers(*finding.step) + "," +
            jsonMembers(*finding.change, finding.begin, finding.end) + "}";
 }
 
@@ -90,7 +89,7 @@ std::string sarifHead() {
     return "{\"version\":\"2.1.0\",\"$schema\":\"https://json.schemastore.org/sarif-2.1.0.json\","
            "\"runs\":[{\"columnKind\":\"unicodeCodePoints\",\"tool\":{\"driver\":{"
            "\"name\":\"nerlo\",\"rules\":[\n" +
-           rules + "]}},\"results\":[";
+           rules + "]}},\"results\":[\n";
 }
 
 std::string uriOf(const std::string &path) {
@@ -109,13 +108,12 @@ std::string uriOf(const std::string &path) {
     return uri;
 }
 
-std::string sarifResult(const std::string &path, const Finding &finding, bool first) {
+std::string sarifResult(const std::string &path, const Finding &finding) {
     const auto place = [](const char *line, const char *column, const TextPosition &position) {
         return "\"" + std::string(line) + "\":" + std::to_string(position.line) + ",\"" + column +
                "\":" + std::to_string(position.column);
     };
-    return std::string(first ? "\n" : ",\n") + "{\"ruleId\":\"" +
-           std::string(finding.step->operation->name) +
+    return "{\"ruleId\":\"" + std::string(finding.step->operation->name) +
            "\",\"level\":\"warning\",\"message\":{\"text\":" +
            jsonOfName(effectOf(*finding.change)) +
            "},\"locations\":[{\"physicalLocation\":{\"artifactLocation\":{\"uri\":" +
@@ -139,7 +137,7 @@ std::string escapedForWorkflow(const std::string &text, std::string_view escaped
     return result;
 }
 
-std::string workflowCommand(const std::string &path, const Finding &finding, bool) {
+std::string workflowCommand(const std::string &path, const Finding &finding) {
     const auto number = [](const char *name, std::size_t value) {
         return "," + std::string(name) + "=" + std::to_string(value);
     };
@@ -157,10 +155,10 @@ std::string nothing() {
 }
 
 constexpr std::array<FindingFormat, 4> formats{{
-    {"text", nothing, line, ""},
-    {"json", arrayHead, jsonObject, "\n]\n"},
-    {"sarif", sarifHead, sarifResult, "]}]}\n"},
-    {"github", nothing, workflowCommand, ""},
+    {"text", nothing, line, "", ""},
+    {"json", arrayHead, jsonObject, ",\n", "]\n"},
+    {"sarif", sarifHead, sarifResult, ",\n", "]}]}\n"},
+    {"github", nothing, workflowCommand, "", ""},
 }};
 
 } // namespace

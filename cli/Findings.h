@@ -27,8 +27,9 @@ std::vector<Finding> findingsOf(std::u16string_view source, const engine::Trace 
 struct FindingFormat {
     std::string_view name;
     std::string (*head)();
-    // `path` as it was given, of any bytes. `first` of all that are told.
-    std::string (*one)(const std::string &path, const Finding &finding, bool first);
+    // `path` as it was given, of any bytes.
+    std::string (*one)(const std::string &path, const Finding &finding);
+    std::string_view between; // two findings
     std::string_view tail;
 };
 std::span<const FindingFormat> findingFormats();

@@ -201,9 +201,8 @@ class Comparison {
     }
 
     Place behindEqual(Place at, Place end) const {
-        const std::size_t same =
-            sameAtBegin(before_.subspan(at.before, end.before - at.before),
-                        after_.subspan(at.after, end.after - at.after));
+        const std::size_t same = sameAtBegin(before_.subspan(at.before, end.before - at.before),
+                                             after_.subspan(at.after, end.after - at.after));
         return {at.before + same, at.after + same};
     }
 
