@@ -16,6 +16,8 @@ using Op = PatternInstruction::Op;
 // A scan that often goes a shorter way than this costs more than it saves.
 constexpr std::size_t worthJumping = 16;
 
+constexpr UnitSet lineEnds{{u'\n', u'\r'}, {u'\u0085', u'\u0085'}, {u'\u2028', u'\u2029'}};
+
 constexpr char16_t asciiEnd = 0x80;
 constexpr unsigned placesOfOthers = 150; // characters outside ASCII, in ten thousand of prose
 
@@ -148,10 +150,21 @@ void PatternReader::findBegins() {
     }
 }
 
+// Whether every way to a character leads by the assertion.
+bool PatternReader::beginsAtLineStart() const {
+    std::uint32_t at = program_.start;
+    while (program_.code[at].op == Op::Save) {
+        at = program_.code[at].next;
+    }
+    return program_.code[at].op == Op::Assert &&
+           program_.code[at].assertion == Assertion::LineStart;
+}
+
 void PatternReader::findFirstUnits() {
     if (mayBeEmpty_) {
         return;
     }
+    onlyAtLineStart_ = beginsAtLineStart();
     UnitSet units;
     const auto &runs = classes_.runs();
     for (std::size_t at = 0; at < runs.size(); ++at) {
@@ -181,8 +194,8 @@ void PatternReader::setText(std::u16string_view text) {
     text_ = text;
     shortJumps_ = 0;
     cursor_.reset();
-    if (firstUnits_) {
-        cursor_.emplace(text_, *firstUnits_);
+    if (!inParts_ && (onlyAtLineStart_ || firstUnits_)) {
+        cursor_.emplace(text_, onlyAtLineStart_ ? lineEnds : *firstUnits_);
     }
     const std::size_t size = text.size();
     const auto isLineEnd = [&](std::size_t at) {
@@ -265,10 +278,26 @@ bool PatternReader::holds(Assertion assertion, std::uint32_t context, const Colu
     return isEdge == (assertion == Assertion::WordEdge);
 }
 
-// Moves `at` to the next place where a match may begin; false if there is none.
+// The same for patterns that begin with a line.
+bool PatternReader::toNextLine(std::size_t &at, std::size_t until) {
+    if (at > 0 && !lineEnds.contains(text_[at - 1])) {
+        at = cursor_->nextFrom(at) + 1;
+    }
+    while (at < text_.size() && at <= until) {
+        if (begins_[nextAt(at).column] != 0) {
+            return true;
+        }
+        at = cursor_->nextFrom(at) + 1;
+    }
+    return false;
+}
+
 bool PatternReader::toNextBegin(std::size_t &at, std::size_t until) {
     if (mayBeEmpty_) {
         return at <= until;
+    }
+    if (cursor_ && onlyAtLineStart_) {
+        return toNextLine(at, until);
     }
     if (cursor_) {
         const std::size_t from = std::exchange(at, cursor_->nextFrom(at));

@@ -80,13 +80,15 @@ class PatternReader {
     // where what is behind `until` may be looked at.
     bool toNextBegin(std::size_t &at, std::size_t until);
     // From now on nothing behind `until` is: for texts searched in many short parts.
-    void searchInParts() { firstUnits_.reset(); }
+    void searchInParts() { inParts_ = true; }
 
   private:
     PatternReader(PatternProgram program, CharacterClasses classes, std::size_t firstOwnSet);
     Next nextBefore(std::size_t at) const;
+    bool toNextLine(std::size_t &at, std::size_t until);
     void addColumns(std::size_t firstOwnSet);
     void findBegins();
+    bool beginsAtLineStart() const;
     void findFirstUnits();
 
     PatternProgram program_;
@@ -97,11 +99,13 @@ class PatternReader {
     std::uint32_t contextMask_ = 0;
     std::vector<std::uint8_t> begins_; // by column: a match may begin with it
     bool mayBeEmpty_ = false;
+    bool onlyAtLineStart_ = false;
+    bool inParts_ = false;
     std::optional<UnitSet> firstUnits_;
 
     std::u16string_view text_;
     std::size_t plainEnd_ = 0;
-    std::optional<UnitCursor> cursor_;
+    std::optional<UnitCursor> cursor_; // over first units, or over line ends
     std::size_t shortJumps_ = 0;
 };
 

@@ -154,23 +154,23 @@ TEST(OrderedWorkers, DeliverInOrderWhateverEndsFirst) {
     std::promise<void> secondAnswered;
     std::string delivered;
     {
-        cli::OrderedWorkers workers(
+        cli::OrderedWorkers<std::string, std::string> workers(
             2,
-            [&](std::string_view request) {
+            [&](const std::string &request) {
                 if (request == "1") {
                     secondAnswered.get_future().wait();
                 } else if (request == "2") {
                     secondAnswered.set_value();
                 }
-                return cli::Answers{.lines = std::string(request)};
+                return request;
             },
-            [&](const std::vector<cli::Answers> &ready) {
-                for (const cli::Answers &answers : ready) {
-                    delivered += answers.lines;
+            [&](const std::vector<std::string> &ready) {
+                for (const std::string &answer : ready) {
+                    delivered += answer;
                 }
             });
         for (const char *request : {"1", "2", "3"}) {
-            workers.push(request);
+            workers.push(request, 1);
         }
     }
     EXPECT_EQ(delivered, "123");

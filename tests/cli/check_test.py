@@ -49,6 +49,10 @@ def changed_lines():
         ended = run(nerlo, "check", "--diff-from", "HEAD", "--", name)
         shown = re.sub(r"[\x00-\x1f]", "?", name)
         expect(name, ended.stdout, f"{shown}:5:4: removes U+0020 (collapse-spaces)\n")
+    alone = [run(nerlo, "check", "--format=json", "--", name).stdout[2:-2] for name in NAMES]
+    together = run(nerlo, "check", "--format=json", "--", *NAMES, "no-such", *NAMES)
+    expect("in order", together.stdout, "[\n" + ",\n".join(alone * 2) + "]\n")
+    expect("one bad", together.stderr.count("no-such"), 1)
     write("new.txt", BAD)
     expect("new", run(nerlo, "check", "--diff-from", "HEAD", "new.txt").returncode, 1)
     for ref in ("no-such", "--output=owned", "HEAD..HEAD", ""):
