@@ -2,8 +2,7 @@
 
 #include <unicode/utf16.h>
 
-#include <algorithm>
-#include <string_view>
+#include <string>
 #include <utility>
 
 namespace nerlo::text {
@@ -85,28 +84,11 @@ class NeedFinder {
         if (run.empty()) {
             return;
         }
-        const auto rarestOf = [&run](std::size_t except) {
-            std::size_t rarest = except == 0 && run.size() > 1 ? 1 : 0;
-            for (std::size_t at = 0; at < run.size(); ++at) {
-                if (at != except && commonness(run[at]) < commonness(run[rarest])) {
-                    rarest = at;
-                }
-            }
-            return rarest;
-        };
-        const std::size_t rarest = rarestOf(run.size());
-        const std::size_t second = rarestOf(rarest);
-        const unsigned places = placesOf(run[rarest], run[second], run.size());
-        if (places < best_) {
-            best_ = places;
-            need_ = {run, rarest, second, places, std::move(need_.around)};
+        Literal literal = literalOf(run);
+        if (literal.places < best_) {
+            best_ = literal.places;
+            need_.literal = std::move(literal);
         }
-    }
-
-    static unsigned placesOf(char16_t rarest, char16_t second, std::size_t size) {
-        constexpr unsigned all = 10'000;
-        return size == 1 ? commonness(rarest)
-                         : std::max(1u, 4 * commonness(rarest) * commonness(second) / all);
     }
 
     static constexpr char32_t lastCodePoint = 0x10FFFF;
@@ -118,22 +100,6 @@ class NeedFinder {
 };
 
 } // namespace
-
-unsigned commonness(char16_t unit) {
-    if (unit == u' ') {
-        return 1600;
-    }
-    constexpr std::u16string_view letters = u"etaoinsrhldcumfpgwybvkxjqz";
-    constexpr unsigned most = 1000;
-    const std::size_t rank = letters.find(unit);
-    if (rank != letters.npos) {
-        return most / static_cast<unsigned>(1 + rank / 3);
-    }
-    constexpr std::u16string_view usual = u",.-'\"\n\r";
-    constexpr unsigned ofUsual = 100;
-    constexpr unsigned ofOthers = 10;
-    return usual.find(unit) != usual.npos ? ofUsual : ofOthers;
-}
 
 PatternNeed neededBy(const PatternTree &tree) {
     return NeedFinder(tree).find();

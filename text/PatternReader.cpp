@@ -1,6 +1,6 @@
 #include "text/PatternReader.h"
 
-#include "text/PatternNeed.h"
+#include "text/PatternLiteral.h"
 
 #include <unicode/utf16.h>
 

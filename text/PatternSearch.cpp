@@ -1,7 +1,5 @@
 #include "text/PatternSearch.h"
 
-#include <algorithm>
-#include <bit>
 #include <utility>
 
 namespace nerlo::text {
@@ -15,9 +13,9 @@ PatternSearch::PatternSearch(const PatternTree &tree, PatternNeed need,
     if (!tree.hasAgain) {
         automaton_.emplace(*reader_);
     }
-    if (need_.places >= reader_->begins()) {
-        need_.literal.clear();
-    } else if (!need_.literal.empty() && hasStretches_) {
+    if (need_.literal.places >= reader_->begins()) {
+        need_.literal = {};
+    } else if (!need_.literal.units.empty() && hasStretches_) {
         reader_->searchInParts();
     }
 }
@@ -57,30 +55,14 @@ bool PatternSearch::toLiteral(std::size_t from) {
     if (literalAt_ && *literalAt_ >= from) {
         return *literalAt_ < text.size();
     }
-    const std::u16string &literal = need_.literal;
-    const std::size_t blocks = text.size() < literal.size() ? 0 : text.size() - literal.size() + 1;
-    std::size_t at = from;
-    for (; at + scanBlock <= blocks; at += scanBlock) {
-        std::uint64_t both = scanUnit(text.data() + at + need_.rarest, literal[need_.rarest]);
-        both &= both == 0 || need_.second == need_.rarest
-                    ? both
-                    : scanUnit(text.data() + at + need_.second, literal[need_.second]);
-        for (; both != 0; both &= both - 1) {
-            const std::size_t begin = at + static_cast<std::size_t>(std::countr_zero(both));
-            if (text.substr(begin).starts_with(literal)) {
-                literalAt_ = begin;
-                return true;
-            }
-        }
-    }
-    literalAt_ = std::min(text.find(literal, at), text.size());
+    literalAt_ = findLiteral(text, from, need_.literal);
     return *literalAt_ < text.size();
 }
 
 // A match lies within a stretch of the characters that matches consist of, and the literal in it.
 Found PatternSearch::find(std::size_t from, Range &match) {
     const std::size_t size = reader_->text().size();
-    if (need_.literal.empty()) {
+    if (need_.literal.units.empty()) {
         return findUntil(from, size, match);
     }
     while (toLiteral(from)) {

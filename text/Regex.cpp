@@ -1,6 +1,7 @@
 #include "text/Regex.h"
 
 #include "text/CountedText.h"
+#include "text/PatternLiteral.h"
 #include "text/PatternSearch.h"
 #include "text/PatternSyntax.h"
 #include "text/Replace.h"
@@ -70,10 +71,12 @@ struct Regex::Matcher {
     URegularExpression *expression = nullptr;
     std::size_t patternSize = 0;
     std::optional<UnitSet> firstUnits; // of which one begins every match
+    RequiredLiteral required;
     FarLooks farLooks = FarLooks::Never;
     std::uint64_t weight = 1;
     StepBudget budget;
-    std::uint64_t charge = 0; // for each report
+    std::uint64_t charge = 0;            // for each report
+    std::int64_t stopBehind = INT64_MAX; // where no match begins
     CountedText counted;
     std::u16string pattern;
     bool ignoresCase = false;
@@ -90,8 +93,9 @@ struct Regex::Matcher {
         return !budget.isSpent();
     }
 
-    static UBool goOnFinding(const void *context, std::int64_t) {
-        return !static_cast<const Matcher *>(context)->budget.isSpent();
+    static UBool goOnFinding(const void *context, std::int64_t at) {
+        const auto *const matcher = static_cast<const Matcher *>(context);
+        return at <= matcher->stopBehind && !matcher->budget.isSpent();
     }
 
     bool looksFarIn(std::u16string_view text) const {
@@ -159,6 +163,9 @@ class Regex::Walk {
         if (good_ && matcher_.firstUnits) {
             cursor_.emplace(text_, *matcher_.firstUnits);
         }
+        const Literal &literal = matcher_.required.literal;
+        hasLiteral_ = !literal.units.empty() && !(literal.ignoresCase && foldsIntoAscii(text_));
+        matcher_.stopBehind = INT64_MAX;
     }
 
     // When the groups take too much work for our own search.
@@ -203,22 +210,71 @@ class Regex::Walk {
     bool find() {
         if (goesOnFrom_) {
             const std::size_t at = *std::exchange(goesOnFrom_, std::nullopt);
-            return at <= text_.size() &&
-                   uregex_find64(matcher_.expression, static_cast<std::int64_t>(at), &status_) != 0;
+            return at <= text_.size() && findFrom(at);
         }
-        if (cursor_) {
-            const std::size_t at = cursor_->nextFrom(end_);
-            if (at == text_.size()) {
+        for (std::size_t from = end_; toLiteral(from); from = lastLiteral_ + 1) {
+            if (findBetween(from, std::max(from, literalsBegin_))) {
+                return true;
+            }
+            // All places up to the last literal have been tried.
+            const bool stopped =
+                hasLiteral_ && status_ == U_REGEX_STOPPED_BY_CALLER && !matcher_.budget.isSpent();
+            if (!stopped) {
                 return false;
             }
-            if (at - end_ >= worthJumping) {
-                matcher_.budget.done += stepsForJump;
-                return uregex_find64(matcher_.expression, static_cast<std::int64_t>(at),
-                                     &status_) != 0;
+            status_ = U_ZERO_ERROR;
+        }
+        return false;
+    }
+
+    // Whether a literal that every match holds stands at or behind `from`. Then literalsBegin_ and
+    // lastLiteral_ are of the next ones between which jumping is not worth it.
+    bool toLiteral(std::size_t from) {
+        if (!hasLiteral_ || (lastLiteral_ != none && from <= lastLiteral_)) {
+            return true;
+        }
+        const auto &[literal, inLine] = matcher_.required;
+        std::size_t next = findLiteral(text_, from, literal);
+        if (next == text_.size()) {
+            return false;
+        }
+        literalsBegin_ = inLine ? beginOfLine(next, from) : from;
+        do {
+            lastLiteral_ = next;
+            next = findLiteral(text_, next + 1, literal);
+        } while (next != text_.size() &&
+                 (!inLine || beginOfLine(next, lastLiteral_) - lastLiteral_ < worthJumping));
+        matcher_.stopBehind = static_cast<std::int64_t>(lastLiteral_);
+        return true;
+    }
+
+    std::size_t beginOfLine(std::size_t at, std::size_t least) const {
+        while (at > least && !CodePoints::lineEnds().contains(text_[at - 1])) {
+            --at;
+        }
+        return at;
+    }
+
+    // The next match; it does not begin before `least`. The last find went on up to `from`.
+    bool findBetween(std::size_t from, std::size_t least) {
+        if (cursor_) {
+            least = cursor_->nextFrom(least);
+            if (least == text_.size()) {
+                return false;
             }
         }
-        return uregex_findNext(matcher_.expression, &status_) != 0;
+        if (least - end_ >= worthJumping) {
+            matcher_.budget.done += stepsForJump;
+            return findFrom(least);
+        }
+        return from == end_ ? uregex_findNext(matcher_.expression, &status_) != 0 : findFrom(least);
     }
+
+    bool findFrom(std::size_t at) {
+        return uregex_find64(matcher_.expression, static_cast<std::int64_t>(at), &status_) != 0;
+    }
+
+    static constexpr std::size_t none = std::u16string_view::npos;
 
     Matcher &matcher_;
     std::u16string_view text_;
@@ -229,6 +285,9 @@ class Regex::Walk {
     std::optional<std::size_t> goesOnFrom_; // where ICU begins in its place
     std::optional<UnitCursor> cursor_;
     std::size_t end_ = 0; // of the last match
+    bool hasLiteral_ = false;
+    std::size_t literalsBegin_ = 0;
+    std::size_t lastLiteral_ = none;
     UErrorCode status_ = U_ZERO_ERROR;
     bool good_ = true;
 };
@@ -277,6 +336,7 @@ std::optional<Regex> Regex::compile(std::u16string_view pattern, Case letterCase
     if (letterCase == Case::Sensitive) {
         matcher->firstUnits = firstUnits(pattern);
     }
+    matcher->required = requiredLiteral(pattern, letterCase == Case::Insensitive);
     uregex_setMatchCallback(matcher->expression, Matcher::goOn, matcher.get(), &status);
     return U_SUCCESS(status) ? std::optional(Regex(std::move(matcher))) : std::nullopt;
 }
@@ -308,11 +368,12 @@ bool Regex::Matcher::setText(std::u16string_view text) {
             return false;
         }
         uregex_setUText(expression, pieces, &status);
-        uregex_setFindProgressCallback(expression, goOnFinding, this, &status);
     } else {
         uregex_setText(expression, text.empty() ? u"" : text.data(), size32(text.size()), &status);
-        uregex_setFindProgressCallback(expression, nullptr, nullptr, &status);
     }
+    const bool asks = looksFarIn(text) || !required.literal.units.empty();
+    uregex_setFindProgressCallback(expression, asks ? goOnFinding : nullptr, asks ? this : nullptr,
+                                   &status);
     uregex_setStackLimit(expression, memoryBudget(text.size()), &status);
     return U_SUCCESS(status);
 }

@@ -2,6 +2,7 @@
 // random texts, the same ones on every machine. NERLO_EQUIVALENCE_FACTOR multiplies how many: 20 is
 // 100,000 patterns.
 #include "tests/reference/RandomText.h"
+#include "text/PatternLiteral.h"
 #include "text/PatternSearch.h"
 #include "text/Regex.h"
 
@@ -9,6 +10,7 @@
 #include <unicode/uregex.h>
 #include <unicode/utf16.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace nerlo::text {
@@ -34,10 +36,17 @@ constexpr std::u16string_view inTexts =
     u"\u212A|\u017F|\u00C9|\u0301|\u200D|\uFB01|\u0130|\u1E9E|\uFB03|\u2028|\u0085|\f|\v|"
     u"\U0001F389|\U00010400|\U00010428|";
 
+// What only ICU knows.
+constexpr std::u16string_view wildKinds =
+    u"\\p{L}|\\p{Lu}|\\P{L}|\\h|\\R|\\X|[[:alpha:]-[b]]|[a[^b]]|\\Qa.b\\E|\\x41|ab|\U0001F389s";
+constexpr std::u16string_view wildQuantifiers = u"*+|++|?+|{2}+|{0}|{0,1}+|{1}";
+constexpr std::u16string_view wildOpenings = u"(?=|(?!|(?<=|(?<!|(?>|(?-i:|(?x:";
+
 class Patterns {
   public:
-    explicit Patterns(Random &random)
-        : random_(random) {}
+    explicit Patterns(Random &random, bool wild = false)
+        : random_(random)
+        , wild_(wild) {}
 
     std::u16string pattern() { return (random_.oneIn(3) ? one(flags) : u"") + choice(2); }
 
@@ -56,7 +65,21 @@ class Patterns {
         return made;
     }
 
+    // With much between that no pattern asks for.
+    std::u16string scattered() {
+        std::u16string made;
+        for (std::size_t parts = random_.below(5); parts > 0; --parts) {
+            made += text(random_.below(12)) + std::u16string(random_.below(60), u'z') +
+                    (random_.oneIn(2) ? u"\n" : u"");
+        }
+        return made;
+    }
+
   private:
+    std::u16string one(std::u16string_view row, std::u16string_view wildRow) {
+        return one(wild_ && random_.oneIn(4) ? wildRow : row);
+    }
+
     std::u16string one(std::u16string_view row) {
         const auto tokens = reference::tokensOf(row, u'|');
         return std::u16string(tokens[random_.below(tokens.size())]);
@@ -77,7 +100,7 @@ class Patterns {
         case 1:
             return one(characters);
         case 2:
-            return one(kinds);
+            return one(kinds, wildKinds);
         case 3:
             return random_.oneIn(3) ? u"." : set();
         case 4:
@@ -85,7 +108,7 @@ class Patterns {
         case 5:
             return random_.oneIn(4) ? u"\\1" : one(characters);
         default:
-            return one(openings) + choice(depth - 1) + u")";
+            return one(openings, wildOpenings) + choice(depth - 1) + u")";
         }
     }
 
@@ -97,13 +120,15 @@ class Patterns {
                 const std::u16string part = atom(depth);
                 const bool isAssertion = part.size() == 1 ? part == u"^" || part == u"$"
                                                           : part.size() == 2 && part[0] == u'\\';
-                made += part + (isAssertion || random_.oneIn(2) ? u"" : one(quantifiers));
+                made += part +
+                        (isAssertion || random_.oneIn(2) ? u"" : one(quantifiers, wildQuantifiers));
             }
         } while (random_.oneIn(4));
         return made;
     }
 
     Random &random_;
+    bool wild_;
 };
 
 // ICU's own search. It counts its steps to the limit, so that a runaway pattern ends it the same
@@ -216,6 +241,54 @@ TEST(RandomPatterns, MatchWhatTheyDoInIcu) {
         }
     }
     EXPECT_GT(compared, rounds(5000));
+}
+
+// Those that are left to ICU are searched where a literal stands that they need.
+TEST(RandomPatterns, MatchTheSameWhereALiteralIsNeeded) {
+    Random random(17);
+    Patterns patterns(random, true);
+    std::size_t jumping = 0;
+    for (std::size_t left = rounds(5000); left > 0;) {
+        const std::u16string pattern = patterns.pattern();
+        Plain plain(pattern);
+        auto regex = Regex::compile(pattern, Regex::Case::Sensitive);
+        const RequiredLiteral required = requiredLiteral(pattern, false);
+        if (!plain.isGood() || required.literal.units.empty()) {
+            continue;
+        }
+        --left;
+        for (int count = 0; count < 3; ++count) {
+            const std::u16string text = patterns.scattered();
+            std::u16string replaced;
+            const std::string expected = plain.matches(text, replaced);
+            if (!plain.isGood()) {
+                break;
+            }
+            jumping += required.inLine && !expected.empty() ? 1 : 0;
+            const auto matches = regex->findAll(text);
+            ASSERT_TRUE(matches && listed(*matches) == expected)
+                << escaped(pattern) << " on " << escaped(text) << "\n"
+                << expected << "\n"
+                << (matches ? listed(*matches) : "nothing");
+        }
+    }
+    EXPECT_GT(jumping, rounds(200));
+}
+
+TEST(CaseFolding, OfWhichCharactersIsAsciiIsKnown) {
+    for (char32_t character = 0x80; character <= 0x10FFFF; ++character) {
+        const std::u32string folded = foldedCase(std::u32string(1, character));
+        const bool hasAscii =
+            std::ranges::any_of(folded, [](char32_t one) { return one < U'\x80'; });
+        std::u16string units;
+        if (!U_IS_SURROGATE(character)) {
+            char16_t both[U16_MAX_LENGTH];
+            std::int32_t size = 0;
+            U16_APPEND_UNSAFE(both, size, character);
+            units.assign(both, static_cast<std::size_t>(size));
+        }
+        ASSERT_EQ(hasAscii, foldsIntoAscii(units)) << static_cast<unsigned>(character);
+    }
 }
 
 // The whole way, with groups.
