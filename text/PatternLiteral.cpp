@@ -165,14 +165,13 @@ class LiteralReader {
     }
 
     void readGroup() {
-        for (const std::u16string_view look : {u"?=", u"?!", u"?<=", u"?<!"}) {
-            if (take(look)) { // takes no character
-                const Known before = known_;
-                const bool inLine = inLine_;
-                readChoice();
-                known_ = before;
-                inLine_ = inLine;
-                failed_ = failed_ || !take(u")");
+        if (take(u"?=")) {
+            readLook(true);
+            return;
+        }
+        for (const std::u16string_view look : {u"?!", u"?<=", u"?<!"}) {
+            if (take(look)) {
+                readLook(false);
                 return;
             }
         }
@@ -187,6 +186,21 @@ class LiteralReader {
             readChoice();
             failed_ = failed_ || !take(u")");
         }
+    }
+
+    // Takes no character. What is ahead stands behind the beginning of the match, and that is all
+    // that is asked of a literal.
+    void readLook(bool ahead) {
+        Known before = known_;
+        const bool inLine = inLine_;
+        readChoice();
+        close();
+        failed_ = failed_ || !take(u")");
+        if (ahead) {
+            before.best = std::move(known_.best);
+        }
+        known_ = std::move(before);
+        inLine_ = inLine;
     }
 
     // True behind flags that are no group.
@@ -222,9 +236,9 @@ class LiteralReader {
         failed_ = failed_ || isAt(u"]");
         for (std::size_t depth = 1; depth > 0 && !failed_;) {
             const char16_t unit = takeUnit();
-            plain = plain && unit >= u' ' && unit < 0x80 && unit != u'\\' && unit != u'[';
+            plain = plain && unit >= u' ' && unit < 0x80 && unit != u'[';
             if (unit == u'\\') {
-                failed_ = failed_ || takeUnit() == u'Q';
+                plain = escapeInSet() && plain;
             } else if (unit == u'[') {
                 ++depth;
                 take(u"^");
@@ -236,37 +250,44 @@ class LiteralReader {
         passUnknown(plain);
     }
 
+    // Whether it stays in line.
+    bool escapeInSet() {
+        const char16_t unit = takeUnit();
+        failed_ = failed_ || unit == u'Q';
+        return unit == u'p' ? takeProperty()
+                            : inLineKinds.find(unit) != inLineKinds.npos ||
+                                  (!isLetterOrDigit(unit) && unit < 0x80);
+    }
+
     void readEscape() {
         const char16_t unit = takeUnit();
         constexpr std::u16string_view edges = u"bBAZz";
-        constexpr std::u16string_view inLine = u"wdh";
         constexpr std::u16string_view others = u"WDHsSvVRXntrfae123456789";
         if (unit == u'Q') {
             while (!failed_ && !take(u"\\E")) {
                 add(takeUnit());
             }
         } else if (unit == u'p' || unit == u'P') {
-            readProperty(unit == u'p');
+            passUnknown(takeProperty() && unit == u'p');
         } else if (!isLetterOrDigit(unit) && unit < 0x80) {
             add(unit);
         } else if (edges.find(unit) == edges.npos) {
-            passUnknown(inLine.find(unit) != inLine.npos);
-            failed_ =
-                failed_ || (inLine.find(unit) == inLine.npos && others.find(unit) == others.npos);
+            const bool staysInLine = inLineKinds.find(unit) != inLineKinds.npos;
+            passUnknown(staysInLine);
+            failed_ = failed_ || (!staysInLine && others.find(unit) == others.npos);
         }
     }
 
     // Letters, marks, numbers, punctuation and symbols are no line ends; other names may be.
-    void readProperty(bool isIn) {
+    bool takeProperty() {
         failed_ = failed_ || !take(u"{");
         const std::size_t end = std::min(pattern_.find(u'}', at_), pattern_.size());
         const std::u16string_view name = pattern_.substr(at_, end - at_);
         failed_ = failed_ || end == pattern_.size();
         at_ = failed_ ? at_ : end + 1;
         constexpr std::u16string_view kinds = u"LMNPS";
-        passUnknown(isIn && !name.empty() && name.size() <= 2 &&
-                    kinds.find(name.front()) != kinds.npos &&
-                    (name.size() == 1 || (name[1] >= u'a' && name[1] <= u'z')));
+        return !name.empty() && name.size() <= 2 && kinds.find(name.front()) != kinds.npos &&
+               (name.size() == 1 || (name[1] >= u'a' && name[1] <= u'z'));
     }
 
     void add(char16_t unit) {
@@ -303,6 +324,8 @@ class LiteralReader {
             known_.best = {std::move(literal), known_.runInLine};
         }
     }
+
+    static constexpr std::u16string_view inLineKinds = u"wdh";
 
     std::u16string_view pattern_;
     std::size_t at_ = 0;

@@ -1,4 +1,4 @@
-// A literal that every match of a pattern holds, so that a text is searched only where that stands.
+// A literal that every match of a pattern needs, so that a text is searched only where that stands.
 //
 // For patterns that are left to ICU: they are read only so far as is needed to be sure, and where
 // that fails there is no literal. Units are UTF-16. Any thread.
@@ -26,8 +26,8 @@ std::size_t findLiteral(std::u16string_view text, std::size_t from, const Litera
 unsigned commonness(char16_t unit);
 
 struct RequiredLiteral {
-    Literal literal;
-    bool inLine = false; // what a match holds before it is no line end
+    Literal literal;     // stands at or behind the beginning of each match
+    bool inLine = false; // no line end is between
 };
 // The pattern must be one that ICU compiles.
 RequiredLiteral requiredLiteral(std::u16string_view pattern, bool ignoresCase);

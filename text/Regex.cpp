@@ -227,7 +227,7 @@ class Regex::Walk {
         return false;
     }
 
-    // Whether a literal that every match holds stands at or behind `from`. Then literalsBegin_ and
+    // Whether a literal that every match needs stands at or behind `from`. Then literalsBegin_ and
     // lastLiteral_ are of the next ones between which jumping is not worth it.
     bool toLiteral(std::size_t from) {
         if (!hasLiteral_ || (lastLiteral_ != none && from <= lastLiteral_)) {
