@@ -27,6 +27,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -176,6 +177,7 @@ struct nerlo_cleaner {
     const engine::Operation *operation; // null for all that is on
     std::string locale;
     engine::CleaningOptions options;
+    std::vector<const engine::Operation *> steps; // those that are on: short texts are many
 };
 
 namespace {
@@ -191,7 +193,9 @@ nerlo_cleaner cleanerOf(const char *profile, std::string_view options, const cha
             settings.set(key, value);
         }
     }
-    return {row, localeOf(locale), settings::preparedOptions(settings, row)};
+    engine::CleaningOptions prepared = settings::preparedOptions(settings, row);
+    auto steps = engine::operationsSwitchedOn(prepared);
+    return {row, localeOf(locale), std::move(prepared), std::move(steps)};
 }
 
 class Context {
@@ -201,9 +205,14 @@ class Context {
         , context_{.options = cleaner.options, .locale = cleaner.locale, .report = &report_} {}
 
     std::u16string clean(std::u16string text) {
-        const engine::Operation *const operation = cleaner_.operation;
-        text = operation ? engine::runOperation(operation->index, std::move(text), context_)
-                         : engine::runPipeline(std::move(text), context_);
+        if (const engine::Operation *const operation = cleaner_.operation) {
+            text = engine::runOperation(operation->index, std::move(text), context_);
+        } else if (cleaner_.options.udProtectStructure) {
+            text = engine::runPipeline(std::move(text), context_);
+        } else {
+            text = engine::runSteps(std::move(text), cleaner_.steps, context_,
+                                    engine::cachedPiece);
+        }
         checkReport();
         return text;
     }

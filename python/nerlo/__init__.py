@@ -10,6 +10,7 @@ time. Everything here may be called on any thread.
 from __future__ import annotations
 
 import array
+import bisect
 import codecs
 import ctypes
 import itertools
@@ -99,6 +100,8 @@ _of_utf16 = getattr(codecs, f"utf_16_{_ENDIAN}e_decode")
 # Bytes that are cleaned in one call: some that stay in the processor's caches on the way in and out. A
 # list of any length takes no more memory than some times this beside itself and its result.
 _BLOCK = 1 << 19
+# Texts that are taken from an iterator at a time, however long they are.
+_SOME = 256
 
 
 def _check(status: int, index: int | None = None) -> None:
@@ -138,18 +141,48 @@ def _taken(memory: ctypes.c_void_p, size: int) -> bytes:
         _library.nerlo_free(memory)
 
 
-def _blocks(texts: Iterable[str]) -> Iterator[list[bytes]]:
-    block: list[bytes] = []
-    size = 0
-    for index, text in enumerate(texts):
-        encoded = _encoded(text, index, _utf16)
-        block.append(encoded)
-        size += len(encoded)
-        if size >= _BLOCK:
-            yield block
-            block, size = [], 0
-    if block:
-        yield block
+def _blocks(texts: Iterable[str]) -> Iterator[list[str]]:
+    rest = iter(texts)
+    while some := list(itertools.islice(rest, _SOME)):
+        try:
+            ends = list(itertools.accumulate(map(len, some)))
+        except TypeError:
+            ends = [0] * len(some)  # the text that is none is told with its place
+        begin = passed = 0
+        while begin < len(some):
+            end = max(bisect.bisect_right(ends, passed + _BLOCK // 2, begin), begin + 1)
+            yield some[begin:end]
+            begin, passed = end, ends[end - 1]
+
+
+def _joined(block: list[str], index: int | None) -> tuple[bytes, array.array[int]]:
+    """The texts as UTF-16, and the bytes up to the end of each."""
+    try:
+        joined = "".join(block)
+        encoded = _utf16(joined)[0]
+        if len(encoded) == 2 * len(joined):
+            return encoded, array.array("L", map((2).__mul__, itertools.accumulate(map(len, block))))
+    except (TypeError, UnicodeEncodeError):
+        pass
+    # Characters take two units here and there, or a text is at fault.
+    each = [_encoded(text, None if index is None else index + at, _utf16)
+            for at, text in enumerate(block)]
+    return b"".join(each), array.array("L", itertools.accumulate(map(len, each)))
+
+
+def _cut(encoded: bytes, ends: array.array[int]) -> list[str]:
+    """The texts that end there."""
+    try:
+        joined = _of_utf16(encoded, "strict", True)[0]
+        if len(encoded) == 2 * len(joined):
+            halves = [end >> 1 for end in ends]
+            return [joined[begin:end] for begin, end in zip(itertools.chain((0,), halves), halves)]
+    except UnicodeDecodeError:
+        pass
+    # A rule may put half a pair of surrogates there, which no text can hold.
+    data = memoryview(encoded)
+    return [_of_utf16(data[begin:end], "replace", True)[0]
+            for begin, end in zip(itertools.chain((0,), ends), ends)]
 
 
 class Cleaner:
@@ -193,7 +226,7 @@ class Cleaner:
     def clean(self, texts: str | Iterable[str]) -> str | list[str]:
         """The clean text, or texts. Of a list each is cleaned by itself; if one fails, all do."""
         if isinstance(texts, str):
-            return self._clean_block([_encoded(texts, None, _utf16)], None)[0]
+            return self._clean_block([texts], None)[0]
         clean: list[str] = []
         for block in _blocks(texts):
             clean += self._clean_block(block, len(clean))
@@ -208,19 +241,16 @@ class Cleaner:
                                       ctypes.byref(size)))
         return json.loads(_taken(memory, size.value))
 
-    def _clean_block(self, block: list[bytes], index: int | None) -> list[str]:
+    def _clean_block(self, block: list[str], index: int | None) -> list[str]:
         """`index` is that of the first text, None where there is only one."""
         # "L" is as large as size_t. The places of the results replace those of the texts.
-        ends = array.array("L", itertools.accumulate(map(len, block)))
+        encoded, ends = _joined(block, index)
         places = ends.buffer_info()[0]
         memory, failed = ctypes.c_void_p(), ctypes.c_size_t()
-        status = _library.nerlo_clean_many_utf16(self._handle, b"".join(block), places, len(block),
+        status = _library.nerlo_clean_many_utf16(self._handle, encoded, places, len(block),
                                                  ctypes.byref(memory), places, ctypes.byref(failed))
         _check(status, None if index is None else index + failed.value)
-        data = memoryview(_taken(memory, ends[-1]))
-        # A rule may put half a pair of surrogates there, which no text can hold.
-        return [_of_utf16(data[begin:end], "replace", True)[0]
-                for begin, end in zip(itertools.chain((0,), ends), ends)]
+        return _cut(_taken(memory, ends[-1]), ends)
 
 
 def _restored(profile: str | None, operation: str | int | None, locale: str | None,
