@@ -102,6 +102,9 @@ std::optional<settings::RuleList> readRuleFile(const QString &path, QWidget *par
                   path + "\n" + why,
                   {localized("OK")}},
                  parent);
+    } else if (path.startsWith(':')) {
+        const QString title = QString::fromStdU16String(parsed.list->title);
+        parsed.list->title = localized(title.toStdString()).toStdU16String();
     }
     return std::move(parsed.list);
 }
@@ -139,16 +142,13 @@ void exportRuleFile(settings::RuleList list, QWidget *parent) {
 std::vector<std::pair<QString, QString>> starterLists() {
     std::vector<std::pair<QString, QString>> lists;
     for (const QFileInfo &info : QDir(":/rules").entryInfoList({filePattern})) {
-        QFile file(info.filePath());
-        if (file.open(QFile::ReadOnly)) {
-            const QByteArray bytes = file.readAll();
-            const auto parsed = settings::parseRuleList(bytes.toStdString());
-            if (parsed.list) {
-                lists.emplace_back(QString::fromStdU16String(parsed.list->title), info.filePath());
-            }
+        if (const auto list = readRuleFile(info.filePath(), nullptr)) {
+            lists.emplace_back(QString::fromStdU16String(list->title), info.filePath());
         }
     }
-    std::ranges::sort(lists);
+    std::ranges::sort(lists, [](const auto &a, const auto &b) {
+        return a.first.localeAwareCompare(b.first) < 0;
+    });
     return lists;
 }
 

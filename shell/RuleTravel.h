@@ -19,7 +19,8 @@ namespace nerlo::shell {
 bool confirmImport(const settings::RuleList &list, const storage::PropertyArray &stored,
                    QWidget *parent);
 
-// Of a file or a resource; says so where there is none in it.
+// Of a file, or of a list that comes along, whose title is then the user's language's; says so
+// where there is none in it.
 std::optional<settings::RuleList> readRuleFile(const QString &path, QWidget *parent);
 // Asks for a file, and writes the list there under the file's name as its title.
 void exportRuleFile(settings::RuleList list, QWidget *parent);

@@ -1308,6 +1308,26 @@
         <translation>ينسخ القواعد ويلصقها، ويستورد القوائم ويصدّرها، ويعرض قوائم جاهزة.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>التواريخ إلى ISO ‏(2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>الفواصل العشرية إلى نقاط</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>إزالة أرقام الحواشي</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>إزالة محثات الصدفة</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>علامات الترقيم الطباعية إلى بسيطة</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>انسخ القاعدة</translation>
     </message>

@@ -1309,6 +1309,26 @@ Ungeprüft: Wo nur Treffer bleiben, wird ein Text ohne Treffer leer.</translatio
         <translation>Kopiert Regeln und fügt sie ein, importiert und exportiert Listen und bietet fertige an.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Datumsangaben nach ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Dezimalkommas zu Punkten</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Fußnotenziffern entfernen</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Eingabezeichen der Shell entfernen</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Typografische Zeichen zu einfachen</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Regel kopieren</translation>
     </message>

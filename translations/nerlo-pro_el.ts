@@ -1309,6 +1309,26 @@
         <translation>Αντιγράφει και επικολλά κανόνες, εισάγει και εξάγει λίστες και προσφέρει έτοιμες.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Ημερομηνίες σε ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Υποδιαστολές από κόμμα σε τελεία</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Αφαίρεση αριθμών υποσημειώσεων</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Αφαίρεση προτροπών φλοιού</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Τυπογραφική στίξη σε απλή</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Αντιγραφή του κανόνα</translation>
     </message>

@@ -1311,6 +1311,26 @@ Untested: where only matches are kept, a text without any becomes empty.</transl
         <translation>Copies and pastes rules, imports and exports lists, and offers ready ones.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Dates to ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Decimal commas to points</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Footnote numbers out</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Shell prompts out</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Typographic punctuation to plain</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Copy the rule</translation>
     </message>

@@ -1309,6 +1309,26 @@ Sin comprobar: cuando solo se conservan las coincidencias, un texto que no tiene
         <translation>Copia y pega reglas, importa y exporta listas y ofrece algunas ya hechas.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Fechas a ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Comas decimales a puntos</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Quitar números de notas al pie</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Quitar indicadores del terminal</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Puntuación tipográfica a simple</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Copiar la regla</translation>
     </message>

@@ -1309,6 +1309,26 @@ Sans test : quand seules les correspondances restent, un texte qui n’en a pas 
         <translation>Copie et colle des règles, importe et exporte des listes et en propose de toutes prêtes.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Dates en ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Virgules décimales en points</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Retirer les numéros de notes</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Retirer les invites du shell</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Ponctuation typographique en simple</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Copier la règle</translation>
     </message>

@@ -1309,6 +1309,26 @@ Senza verifica: dove restano solo le corrispondenze, un testo che non ne ha dive
         <translation>Copia e incolla regole, importa ed esporta elenchi e ne offre di pronti.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Date in ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Virgole decimali in punti</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Togli i numeri delle note</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Togli i prompt della shell</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Punteggiatura tipografica in semplice</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Copia la regola</translation>
     </message>

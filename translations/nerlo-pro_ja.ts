@@ -1308,6 +1308,26 @@
         <translation>ルールのコピーと貼り付け、リストの読み込みと書き出し、用意されたリストの利用。</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>日付を ISO 形式に (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>小数点のコンマをピリオドに</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>脚注番号を取り除く</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>シェルのプロンプトを取り除く</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>約物を単純な記号に</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>ルールをコピー</translation>
     </message>

@@ -1309,6 +1309,26 @@ Bez sprawdzenia: gdy zostają tylko dopasowania, tekst bez żadnego staje się p
         <translation>Kopiuje i wkleja reguły, importuje i eksportuje listy oraz proponuje gotowe.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Daty do ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Przecinki dziesiętne na kropki</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Usuń numery przypisów</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Usuń znaki zachęty powłoki</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Znaki typograficzne na proste</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Kopiuj regułę</translation>
     </message>

@@ -1309,6 +1309,26 @@ Sem teste: onde só ficam as correspondências, um texto sem nenhuma fica vazio.
         <translation>Copia e cola regras, importa e exporta listas e oferece algumas prontas.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Datas para ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Vírgulas decimais em pontos</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Remover números de notas de rodapé</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Remover prompts do terminal</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Pontuação tipográfica em simples</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Copiar a regra</translation>
     </message>

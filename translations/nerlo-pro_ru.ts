@@ -1309,6 +1309,26 @@
         <translation>Копирует и вставляет правила, импортирует и экспортирует списки и предлагает готовые.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Даты в ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Десятичные запятые в точки</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Убрать номера сносок</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Убрать приглашения оболочки</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Типографские знаки в простые</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Копировать правило</translation>
     </message>

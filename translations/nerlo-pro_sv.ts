@@ -1309,6 +1309,26 @@ Oprövat: där bara träffar behålls blir en text utan träffar tom.</translati
         <translation>Kopierar och klistrar in regler, importerar och exporterar listor och erbjuder färdiga.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Datum till ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Decimalkomman till punkter</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Ta bort fotnotssiffror</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Ta bort skalprompter</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Typografiska tecken till enkla</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Kopiera regeln</translation>
     </message>

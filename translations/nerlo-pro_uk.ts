@@ -1309,6 +1309,26 @@
         <translation>Копіює та вставляє правила, імпортує й експортує списки та пропонує готові.</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>Дати в ISO (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>Десяткові коми на крапки</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>Прибрати номери виносок</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>Прибрати запрошення оболонки</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>Типографські знаки на прості</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>Копіювати правило</translation>
     </message>

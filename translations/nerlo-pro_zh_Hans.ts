@@ -1308,6 +1308,26 @@
         <translation>复制和粘贴规则，导入和导出列表，并提供现成的列表。</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>日期改为 ISO 格式 (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>小数逗号改为小数点</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>去掉脚注编号</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>去掉命令行提示符</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>排版标点改为普通标点</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>复制规则</translation>
     </message>

@@ -1308,6 +1308,26 @@
         <translation>複製和貼上規則，匯入和匯出清單，並提供現成的清單。</translation>
     </message>
     <message>
+        <source>Dates to ISO (2024-12-03)</source>
+        <translation>日期改為 ISO 格式 (2024-12-03)</translation>
+    </message>
+    <message>
+        <source>Decimal commas to points</source>
+        <translation>小數逗號改為小數點</translation>
+    </message>
+    <message>
+        <source>Footnote numbers out</source>
+        <translation>移除註腳編號</translation>
+    </message>
+    <message>
+        <source>Shell prompts out</source>
+        <translation>移除命令列提示字元</translation>
+    </message>
+    <message>
+        <source>Typographic punctuation to plain</source>
+        <translation>排版標點改為一般標點</translation>
+    </message>
+    <message>
         <source>sRuleCopy</source>
         <translation>複製規則</translation>
     </message>

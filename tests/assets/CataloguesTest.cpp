@@ -210,6 +210,15 @@ TEST(Catalogues, EveryKeyInTheShellHasAText) {
                 << source.fileName().toStdString() << ": " << key.toStdString();
         }
     }
+    const auto lists = QDir(NERLO_SOURCE_DIR "/assets/rules").entryInfoList({"*.nerlo-rules"});
+    ASSERT_FALSE(lists.empty());
+    for (const auto &info : lists) {
+        QFile file(info.filePath());
+        ASSERT_TRUE(file.open(QFile::ReadOnly));
+        static const QRegularExpression line("^title (.+)$", QRegularExpression::MultilineOption);
+        const QString key = line.match(file.readAll()).captured(1);
+        EXPECT_TRUE(keys.contains(key)) << info.fileName().toStdString() << key.toStdString();
+    }
 }
 
 } // namespace
