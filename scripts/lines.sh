@@ -1,7 +1,7 @@
 #!/bin/bash
 # lines.sh: how many lines of code each folder has, and the share of the tests in all of them.
 #
-# Counted are the tracked C, C++, Python and shell files, session scripts without a suffix included, with
+# Counted are the tracked C, C++, JavaScript, Python and shell files, session scripts without a suffix included, with
 # their comments but without blank lines; tests are the files below tests/, fakes and fuzz targets
 # included. Catalogues, build files and documentation count nowhere.
 set -eu
@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 git ls-files -z | while IFS= read -r -d '' file; do
     case $file in
-    *.c | *.cpp | *.h | *.py | *.sh) ;;
+    *.c | *.cpp | *.h | *.js | *.py | *.sh) ;;
     *)
         [ -f "$file" ] && [ -x "$file" ] && IFS= read -r first <"$file" && [[ $first == '#!'* ]] ||
             continue

@@ -24,7 +24,7 @@ test="libgtest-dev libbenchmark-dev unicode-data bzip2 locales git python3 paral
 bench="libbenchmark-dev coreutils sed perl gawk sd python3 locales"
 desktop_test="dbus-daemon dbus-bin at-spi2-core libglib2.0-bin procps fonts-dejavu-core
     xvfb openbox xclip xdotool x11-utils x11-xserver-utils x11-xkb-utils
-    sway mutter xwayland wl-clipboard grim foot python3 python3-dbus python3-gi
+    sway mutter gnome-shell xwayland wl-clipboard grim foot python3 python3-dbus python3-gi
     xdg-desktop-portal libkf5globalaccel-bin"
 package="dpkg-dev lintian appstream desktop-file-utils man-db groff"
 style="git clang-format-14 clang-tidy-14"

@@ -64,9 +64,8 @@ std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
     }
     // Without a display the toolkit's application object would abort the process.
     platform::Backends backends(mainQueue);
-    const auto clipboard = backends.openPasteboard();
-    if (!clipboard.backend) {
-        for (const auto &why : clipboard.declined) {
+    if (const auto whyNot = backends.whyNoDisplay(); !whyNot.empty()) {
+        for (const auto &why : whyNot) {
             complain(why);
         }
         return complain("there is no display whose clipboard could be cleaned");

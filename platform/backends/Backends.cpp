@@ -1,6 +1,7 @@
 #include "platform/backends/Backends.h"
 
 #include "platform/Created.h"
+#include "platform/qt/GnomePasteboard.h"
 #include "platform/qt/KdeHotKeys.h"
 #include "platform/qt/PortalHotKeys.h"
 #include "platform/qt/QtWindowSystem.h"
@@ -87,8 +88,21 @@ std::shared_ptr<x11::SharedConnection> Backends::x11() {
     return connection;
 }
 
+std::vector<std::string> Backends::whyNoDisplay() {
+    auto chosen = firstOf<Pasteboard>([&] { return createWaylandPasteboard(mainQueue_, io_); },
+                                      [&] { return createX11Pasteboard(mainQueue_, io_); });
+    return chosen.backend ? std::vector<std::string>() : std::move(chosen.declined);
+}
+
 Chosen<Pasteboard> Backends::openPasteboard() {
     return firstOf<Pasteboard>([&] { return createWaylandPasteboard(mainQueue_, io_); },
+                               [&]() -> Created<Pasteboard> {
+                                   // X11 sessions have a better way than the extension.
+                                   return wayland::EventLoop::defaultDisplay().empty()
+                                              ? Created<Pasteboard>{nullptr,
+                                                                    "this is not GNOME on Wayland"}
+                                              : createGnomePasteboard(mainQueue_);
+                               },
                                [&] { return createX11Pasteboard(mainQueue_, io_); });
 }
 

@@ -44,7 +44,15 @@ class Backends {
     // For others that wait for the system.
     IoThread &io() { return io_; }
 
-    // Wayland, then X11 (under a Wayland compositor: its Xwayland). Null without any display.
+    // Why there is no display with a clipboard, one English line for each kind; empty if there is
+    // one.
+    std::vector<std::string> whyNoDisplay();
+
+    // The rest uses the toolkit's connection to the session bus, which belongs to the application
+    // object that is there at its first use.
+
+    // Wayland, GNOME's extension, then X11 (under a Wayland compositor: its Xwayland). Null without
+    // any display.
     Chosen<Pasteboard> openPasteboard();
 
     // In the same order; the last never declines and never learns of an application.

@@ -6,8 +6,9 @@
 #pragma once
 
 #include "platform/linux/IoThread.h"
-#include "platform/wayland/Transfer.h"
+#include "platform/linux/Transfer.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -20,6 +21,8 @@
 struct wl_display;
 
 namespace nerlo::platform::wayland {
+
+using Clock = std::chrono::steady_clock;
 
 class EventLoop {
   public:

@@ -22,7 +22,6 @@ namespace {
 
 using namespace std::chrono_literals;
 using wayland::EventLoop;
-using wayland::FileDescriptor;
 using wayland::Registry;
 
 // The window that had the keyboard goes on another connection, and the compositor may hear of that

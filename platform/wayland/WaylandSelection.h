@@ -6,10 +6,10 @@
 #pragma once
 
 #include "platform/Pasteboard.h"
+#include "platform/linux/Transfer.h"
 #include "platform/wayland/DataControl.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/Registry.h"
-#include "platform/wayland/Transfer.h"
 
 #include <cstdint>
 #include <deque>

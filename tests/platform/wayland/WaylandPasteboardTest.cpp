@@ -2,8 +2,8 @@
 // not.
 #include "platform/wayland/WaylandPasteboard.h"
 
+#include "platform/linux/Transfer.h"
 #include "platform/wayland/DataControl.h"
-#include "platform/wayland/Transfer.h"
 #include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/PasteboardUser.h"
 #include "tests/platform/wayland/FakeCompositor.h"
@@ -30,7 +30,6 @@ using test::content;
 using test::FakeCompositor;
 using test::Strings;
 using wayland::dataControls;
-using wayland::FileDescriptor;
 
 // Made before the clipboard under test and destroyed after it.
 struct Around {
@@ -214,9 +213,9 @@ TEST(WaylandPasteboard, ReceiversThatDoNotReadHoldUpNothing) {
     Desktop desktop;
     const std::string large(10 << 20, 'l');
     ASSERT_EQ(desktop.write(content({"text/plain"}, large)).status, PasteboardStatus::done);
-    std::vector<wayland::Pipe> stuck;
+    std::vector<Pipe> stuck;
     for (int i = 0; i < 200; ++i) {
-        stuck.push_back(wayland::makePipe());
+        stuck.push_back(makePipe());
         desktop.compositor.requestFrom("text/plain", stuck.back().writer.get());
         // The receiver may change the flags of the file description that we write to, and makes it
         // blocking.
@@ -224,7 +223,7 @@ TEST(WaylandPasteboard, ReceiversThatDoNotReadHoldUpNothing) {
     }
     const FileDescriptor folder(open("/", O_RDONLY | O_CLOEXEC));
     desktop.compositor.requestFrom("text/plain", folder.get());
-    wayland::Pipe gone = wayland::makePipe();
+    Pipe gone = makePipe();
     gone.reader = {};
     desktop.compositor.requestFrom("text/plain", gone.writer.get());
     EXPECT_EQ(desktop.compositor.paste("never offered"), "");
@@ -319,7 +318,7 @@ TEST(WaylandPasteboard, AnyOrderOfEvents) {
             },
             [&] { desktop.pasteboard->readFormats([&](const PasteboardFormats &) { ++ended; }); },
             [&] {
-                auto pipe = wayland::makePipe();
+                auto pipe = makePipe();
                 desktop.compositor.requestFrom("text/plain", pipe.writer.get());
                 hang({}, pipe.reader.release());
             },
@@ -412,23 +411,23 @@ TEST(WaylandPasteboard, HandlersEndWithIt) {
 
 // An owner that sends a little now and then is ended by the time limit of the whole transfer.
 TEST(WaylandTransfer, EndsAtItsLimits) {
-    auto pipe = wayland::makePipe();
-    std::optional<wayland::IncomingTransfer::Outcome> outcome;
-    const auto end = wayland::Clock::now() + 1h;
-    wayland::IncomingTransfer transfer(
+    auto pipe = makePipe();
+    std::optional<IncomingTransfer::Outcome> outcome;
+    const auto end = std::chrono::steady_clock::now() + 1h;
+    IncomingTransfer transfer(
         std::move(pipe.reader), {std::make_shared<std::size_t>(10), 1min, end},
-        [&](wayland::IncomingTransfer::Outcome got, const std::string &) { outcome = got; });
+        [&](IncomingTransfer::Outcome got, const std::string &) { outcome = got; });
     EXPECT_LT(transfer.deadline(), end);
     say(pipe.writer.get(), "0123456789");
     EXPECT_TRUE(transfer.advance());
     say(pipe.writer.get(), "x");
     EXPECT_FALSE(transfer.advance());
-    EXPECT_EQ(outcome, wayland::IncomingTransfer::Outcome::tooLarge);
+    EXPECT_EQ(outcome, IncomingTransfer::Outcome::tooLarge);
 
-    pipe = wayland::makePipe();
-    const auto now = wayland::Clock::now();
-    wayland::IncomingTransfer trickle(std::move(pipe.reader),
-                                      {std::make_shared<std::size_t>(10), 1min, now + 1s}, {});
+    pipe = makePipe();
+    const auto now = std::chrono::steady_clock::now();
+    IncomingTransfer trickle(std::move(pipe.reader),
+                             {std::make_shared<std::size_t>(10), 1min, now + 1s}, {});
     say(pipe.writer.get(), "0");
     EXPECT_TRUE(trickle.advance());
     EXPECT_EQ(trickle.deadline(), now + 1s);

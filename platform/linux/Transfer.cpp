@@ -1,4 +1,4 @@
-#include "platform/wayland/Transfer.h"
+#include "platform/linux/Transfer.h"
 
 #include <algorithm>
 #include <array>
@@ -12,9 +12,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace nerlo::platform::wayland {
+namespace nerlo::platform {
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
 
 // A turn of one transfer, so that a fast one does not keep the others waiting.
 constexpr std::size_t turn = std::size_t{1} << 20;
@@ -168,4 +170,4 @@ Pipe makePipe() {
     return made;
 }
 
-} // namespace nerlo::platform::wayland
+} // namespace nerlo::platform

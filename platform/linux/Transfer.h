@@ -8,9 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace nerlo::platform::wayland {
-
-using Clock = std::chrono::steady_clock;
+namespace nerlo::platform {
 
 // A file descriptor that closes itself.
 class FileDescriptor {
@@ -40,21 +38,21 @@ class Transfer {
     virtual bool advance() = 0;
     // Over without success: out of time, or no longer wanted.
     virtual void abandon() = 0;
-    Clock::time_point deadline() const { return deadline_; }
+    std::chrono::steady_clock::time_point deadline() const { return deadline_; }
 
   protected:
     explicit Transfer(FileDescriptor fd)
         : fd_(std::move(fd)) {}
     FileDescriptor fd_;
-    Clock::time_point deadline_ = Clock::time_point::max();
+    std::chrono::steady_clock::time_point deadline_ = std::chrono::steady_clock::time_point::max();
 };
 
 struct TransferLimits {
     // Bytes that still may come, by this transfer or others; those of one that fails are given
     // back.
     std::shared_ptr<std::size_t> room;
-    Clock::duration silence; // the longest wait for the next byte
-    Clock::time_point end;   // of the whole transfer
+    std::chrono::steady_clock::duration silence; // the longest wait for the next byte
+    std::chrono::steady_clock::time_point end;   // of the whole transfer
 };
 
 // Reads to the end of the pipe.
@@ -82,8 +80,9 @@ class IncomingTransfer final : public Transfer {
 class OutgoingTransfer final : public Transfer {
   public:
     // Null when `fd` is not a pipe or socket: writing to anything else could block.
-    static std::unique_ptr<OutgoingTransfer>
-    create(FileDescriptor fd, std::shared_ptr<const std::string> data, Clock::duration silence);
+    static std::unique_ptr<OutgoingTransfer> create(FileDescriptor fd,
+                                                    std::shared_ptr<const std::string> data,
+                                                    std::chrono::steady_clock::duration silence);
 
     short events() const override;
     bool advance() override;
@@ -91,12 +90,12 @@ class OutgoingTransfer final : public Transfer {
 
   private:
     OutgoingTransfer(FileDescriptor fd, bool socket, std::shared_ptr<const std::string> data,
-                     Clock::duration silence);
+                     std::chrono::steady_clock::duration silence);
 
     bool socket_;
     std::shared_ptr<const std::string> data_;
     std::size_t written_ = 0;
-    Clock::duration silence_;
+    std::chrono::steady_clock::duration silence_;
 };
 
 // The reading and the writing end of a new pipe; the reading end does not block. Both -1 when the
@@ -107,4 +106,4 @@ struct Pipe {
 };
 Pipe makePipe();
 
-} // namespace nerlo::platform::wayland
+} // namespace nerlo::platform

@@ -1,0 +1,71 @@
+#!/usr/bin/python3
+"""The desktop program in GNOME, by the extension of the Shell. Copies and pastes come from programs
+in Xwayland, whose clipboard the Shell joins with its own.
+
+NERLO_PRO names the program under test, NERLO_OWNER a clipboard owner with several formats.
+"""
+import contextlib
+import os
+import time
+import unittest
+
+import dbus
+
+from desktop_session import Logged, Program, ask, paste, read, wait_until
+
+SHELL = "org.nerlo.NerloPro.Shell"
+
+
+def owner(*arguments):
+    return contextlib.closing(Logged(os.environ["NERLO_OWNER"], *arguments, ready="owned"))
+
+
+def formats():
+    return (read("xclip", "-o", "-sel", "c", "-t", "TARGETS") or b"").decode().split("\n")
+
+
+class GnomeTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.program = Program("--automatic", "on")
+        cls.addClassCleanup(cls.program.close)
+
+    def expect(self, text):
+        wait_until(lambda: "TEXT" in formats() and paste() == text, f"the clean text {text[:20]!r}")
+
+    def test_what_is_cleaned_comes_back_with_all_its_formats(self):
+        self.assertIn("GNOME, by the Shell's extension", self.program.property("Backend"))
+        html, rtf = b"<b>one</b>   two", b"{\\rtf1 one   two}"
+        with owner("UTF8_STRING=one   two", "text/html=" + html.decode(),
+                   "text/rtf=" + rtf.decode()) as copied:
+            self.expect(b"one two")
+            wait_until(lambda: "replaced" in copied.lines, "the copy is replaced")
+        self.assertNotIn("text/html", formats())
+        self.assertEqual(self.program.call("Restore")[0], "done")
+        wait_until(lambda: paste() == b"one   two", "the original")
+        self.assertEqual((paste("text/html"), paste("text/rtf")), (html, rtf))
+
+    def test_a_secret_stays_one_when_the_shell_keeps_its_text(self):
+        with owner("x-kde-passwordManagerHint=secret", "UTF8_STRING=p  w"):
+            wait_until(lambda: paste() == b"p  w", "the secret")
+            time.sleep(1)  # the Shell reads it
+        wait_until(lambda: "TARGETS" in formats(), "the Shell offers what it has kept")
+        self.program.call("Operation", 1)
+        time.sleep(1.5)  # and the next tick
+        self.assertEqual(paste(), b"p  w")
+
+    def test_a_large_text_passes(self):
+        text = b"many words  " * 300_000
+        path = os.path.join(os.environ["NERLO_SESSION_DIR"], "large")
+        with open(path, "wb") as file:
+            file.write(text)
+        with owner("UTF8_STRING=@" + path):
+            self.expect(text.replace(b"  ", b" ").rstrip())
+
+    def test_the_extension_listens_to_the_program_alone(self):
+        with self.assertRaisesRegex(dbus.DBusException, "AccessDenied"):
+            ask(self.program.bus, SHELL, "/org/nerlo/NerloPro/Shell", SHELL, "State")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
