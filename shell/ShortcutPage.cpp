@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -28,14 +27,14 @@ QLabel *makeHeading(const QString &page) {
 } // namespace
 
 ShortcutPage::ShortcutPage(ShortcutList &list, const RecorderMaker &makeRecorder)
-    : list_(list) {
+    : list_(list)
+    , resetAll_(new QPushButton(localized("sShortcutsReset"))) {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 8, 12, 12);
     layout->setSpacing(2);
-    auto *resetAll = new QPushButton(localized("sShortcutsReset"));
-    describe(*resetAll, "resetShortcuts", "sShortcutsReset", "sShortcutsResetTip");
-    layout->addWidget(resetAll, 0, Qt::AlignTrailing);
-    connect(resetAll, &QPushButton::clicked, this, [this] {
+    describe(*resetAll_, "resetShortcuts", "sShortcutsReset", "sShortcutsResetTip");
+    layout->addWidget(resetAll_, 0, Qt::AlignTrailing);
+    connect(resetAll_, &QPushButton::clicked, this, [this] {
         list_.resetAll();
         emit resetDone();
     });
@@ -102,6 +101,8 @@ void ShortcutPage::update(std::string_view hotKey) {
 void ShortcutPage::show(const Row &row) {
     showProblem(*row.conflict, list_.conflict(row.command->hotKey));
     row.reset->setVisible(!list_.isAsAtFirst(*row.command));
+    resetAll_->setEnabled(
+        std::ranges::any_of(rows_, [](const Row &other) { return !other.reset->isHidden(); }));
 }
 
 bool ShortcutPage::filter(const QStringList &words) {

@@ -8,6 +8,7 @@
 #include "shell/ShortcutList.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 #include <QWidget>
 #include <string_view>
@@ -49,6 +50,7 @@ class ShortcutPage final : public QWidget {
     void makeStop(const QWidget *recorder);
 
     ShortcutList &list_;
+    QPushButton *resetAll_;
     std::vector<Row> rows_;
 };
 

@@ -112,6 +112,8 @@ TEST_F(Shortcuts, StandInOneListThatIsSearchedAndWalkedByKeys) {
     EXPECT_EQ(recorder("sClearFormatingFromClipboard")->focusPolicy(), Qt::ClickFocus);
     window.findChild<QAbstractButton *>("reset.sSort")->click();
     EXPECT_EQ(keys("sSort"), "");
+    EXPECT_FALSE(window.findChild<QAbstractButton *>("resetShortcuts")->isEnabled())
+        << "nothing is left to reset";
 }
 
 } // namespace
