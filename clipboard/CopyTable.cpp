@@ -204,6 +204,10 @@ CopyDecision decide(std::span<const CopyRow> table, const Copy &copy, bool onDem
     return {};
 }
 
+CopyRow putBackRow() {
+    return {{.on = true, .format = putBackFormat}};
+}
+
 // Where nothing tells the program, the formats that only cells have tell the spreadsheet.
 CopyTable spreadsheetRows(std::string_view program) {
     CopyTable rows;

@@ -61,7 +61,7 @@ std::vector<CopyRule> offeredRules();
 // A row as it is used: with the options of its profile.
 struct CopyRow {
     CopyRule rule;
-    std::size_t number = 0; // from 1, as people see it; 0 for the spreadsheet exception
+    std::size_t number = 0; // from 1, as people see it; 0 for one that is not theirs
     std::u16string title{}; // of the profile
     std::shared_ptr<const engine::CleaningOptions> options{}; // null: left alone
 };
@@ -90,6 +90,11 @@ struct DecidedCopy {
     std::optional<CopyRow> row{};
 };
 
+// What a clipboard manager offers again when the program of a copy has gone, which nobody has
+// copied.
+inline constexpr auto putBackFormat = "application/x-kde-onlyReplaceEmpty";
+// The row that leaves it alone.
+CopyRow putBackRow();
 // The rows of the spreadsheet exception, for the program in front (empty where it is not known).
 CopyTable spreadsheetRows(std::string_view program);
 

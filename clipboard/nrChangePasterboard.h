@@ -146,6 +146,9 @@ class nrChangePasterboard {
     // As above. `ended` runs later, with whether the result is on the clipboard.
     void changePasteboard(Choice choice, std::function<void(bool done)> ended);
 
+    // Whether the content of this count was our last write.
+    bool wrote(platform::ChangeCount count) const { return ownCount_ == count; }
+
     // Whether a write of ours is under way, whose count could be taken for another program's.
     bool writing() const { return !writeBacks_.empty() || restoring_ || puts_ > 0; }
 

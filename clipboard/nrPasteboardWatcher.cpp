@@ -98,9 +98,15 @@ void nrPasteboardWatcher::update() {
         return;
     }
     noteProgram(count);
+    CopyTable exceptions =
+        disableAppsState_ ? spreadsheetRows(currentAppBundle_.value_or("")) : CopyTable();
+    // The copy has been dealt with already, be it by leaving it alone. Only our own content cannot
+    // have gone: what is put back in its place is a copy whose program was gone before it was seen.
+    if (!engine_.wrote(changeCount_)) {
+        exceptions.push_back(putBackRow());
+    }
     changeCount_ = count;
-    engine_.changePasteboard(disableAppsState_ ? spreadsheetRows(currentAppBundle_.value_or(""))
-                                               : CopyTable());
+    engine_.changePasteboard(std::move(exceptions));
 }
 
 void nrPasteboardWatcher::addOneCount(platform::ChangeCount written) {

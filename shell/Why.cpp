@@ -55,6 +55,9 @@ std::string reasonOf(const DecidedCopy &decided) {
     if (!decided.row) {
         return "no row of the table fits";
     }
+    if (decided.row->rule.format == clipboard::putBackFormat) {
+        return "a clipboard manager has put it back when its program had gone";
+    }
     return decided.row->number == 0
                ? "copies from spreadsheets are excepted"
                : "row " + std::to_string(decided.row->number) + " of the table fits (" +

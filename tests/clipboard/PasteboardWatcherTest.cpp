@@ -157,6 +157,24 @@ TEST_P(PasteboardWatcherTest, StopsAndStartsAfresh) {
     EXPECT_EQ(cleans(), 1u);
 }
 
+TEST_P(PasteboardWatcherTest, WhatIsPutBackWhenItsProgramHasGoneIsNoNewCopy) {
+    watcher.start();
+    advance(2s);
+    pasteboard.copyText("stays its program's");
+    advance(500ms);
+    finish();
+    copyLink(putBackFormat);
+    advance(500ms);
+    EXPECT_EQ(cleans(), 0u) << "the copy was dealt with";
+    copyLink("text/html");
+    advance(500ms);
+    finish();
+    EXPECT_EQ(pasteboard.bytes("text/html"), "") << "now it is ours";
+    copyLink(putBackFormat);
+    advance(500ms);
+    EXPECT_EQ(cleans(), 1u) << "a copy that was never seen";
+}
+
 TEST_P(PasteboardWatcherTest, SparesLinkedCellsOnlyWhereTheExceptionHolds) {
     const auto calcLink = R"(application/x-openoffice-link;windows_formatname="Link")";
     const auto calcCells = R"(application/x-openoffice-sylk;windows_formatname="Sylk")";
