@@ -123,20 +123,24 @@ void PortalSession::introduce() {
             });
 }
 
+// The first session after each start has the same name: by it a desktop that is told no application
+// finds what the user has chosen before. Those after it have others, because an earlier one lasts
+// until they are bound.
 void PortalSession::createSession() {
-    request(QStringLiteral("CreateSession"), {},
-            {{QStringLiteral("session_handle_token"), QStringLiteral("nerlo%1").arg(++tokens_)}},
-            [this](const QVariantMap &results) {
-                const auto handle = results.value(QStringLiteral("session_handle"));
-                next_ = handle.metaType() == QMetaType::fromType<QDBusObjectPath>()
-                            ? handle.value<QDBusObjectPath>().path()
-                            : handle.toString();
-                if (next_.isEmpty()) {
-                    fail(QStringLiteral("the desktop portal gave no session"));
-                } else {
-                    bindShortcuts();
-                }
-            });
+    request(
+        QStringLiteral("CreateSession"), {},
+        {{QStringLiteral("session_handle_token"), QStringLiteral("nerlo_pro%1").arg(++sessions_)}},
+        [this](const QVariantMap &results) {
+            const auto handle = results.value(QStringLiteral("session_handle"));
+            next_ = handle.metaType() == QMetaType::fromType<QDBusObjectPath>()
+                        ? handle.value<QDBusObjectPath>().path()
+                        : handle.toString();
+            if (next_.isEmpty()) {
+                fail(QStringLiteral("the desktop portal gave no session"));
+            } else {
+                bindShortcuts();
+            }
+        });
 }
 
 void PortalSession::bindShortcuts() {
@@ -257,6 +261,7 @@ void PortalSession::close(QString &session) {
 void PortalSession::nameOwnerChanged(bool there) {
     // A portal that has been started anew does not know our session.
     introduced_ = false;
+    sessions_ = 0;
     if (there && session_.isEmpty() && awaitedRequest_.isEmpty() && !available_) {
         bind(std::exchange(shortcuts_, {}));
     } else if (!there && !shortcuts_.isEmpty() && !(session_.isEmpty() && next_.isEmpty())) {

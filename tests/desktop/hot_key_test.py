@@ -269,9 +269,15 @@ class HotKeyTest(unittest.TestCase):
         clean = "sClearFormatingFromClipboard LOGO+v Clear formating from clipboard"
         # Nothing but what the user has set.
         self.binds(clean, "sRemoveAllSpaces LOGO+SHIFT+r Remove all spaces")
-        self.finds("remove-all-spaces=Super+Shift+R: works, with the desktop's keys: "
-                   "Press LOGO+SHIFT+r")
+        works = ("remove-all-spaces=Super+Shift+R: works, with the desktop's keys: "
+                 "Press LOGO+SHIFT+r")
+        self.finds(works)
         self.cleans(self.press)
+        self.program.close()
+        self.start()
+        self.finds(works)
+        first, again = self.portal("names").split()
+        self.assertEqual(first, again, "by its name a desktop knows the program again")
         self.store("remove-all-spaces=Ctrl+R")
         self.binds(clean, "sRemoveAllSpaces CTRL+r Remove all spaces")
         self.cleans(self.press)
