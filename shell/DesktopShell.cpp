@@ -172,6 +172,28 @@ void DesktopShell::updateHotKeys() {
         refused = {filled(localized("sShortcutsUnavailable"), {cleanCommand})};
     }
     setProblem(Problem::shortcuts, refused.join('\n').toStdString());
+    if (tipsController_) {
+        tipsController_->setNotice(cleanShortcutNotice());
+    }
+}
+
+QString DesktopShell::cleanShortcutNotice() const {
+    const std::string key(settings::cleanHotKey);
+    if (program_.hotKeys().status(key).state != platform::HotKeyState::refused) {
+        return {};
+    }
+    const auto &desktop = program_.parts().desktop;
+    if (desktop.hotKeys.backend->available()) {
+        return shortcutList_.conflict(key) + '\n' +
+               filled(localized("sTipShortcutTaken"), {localized("sPageShortcuts")});
+    }
+    const QString byHand = filled(localized("sShortcutsUnavailable"), {cleanCommand});
+    const auto shortcut = shortcuts::storedShortcut(program_.store(), key);
+    const auto taken = shortcut ? shortcut->takenBySystem(*desktop.systemHotKeys) : std::nullopt;
+    return !taken || taken->owner.empty()
+               ? byHand
+               : QString::fromStdU16String(shortcut->description(program_.shortcutTexts())) + ": " +
+                     QString::fromStdString(taken->owner) + '\n' + byHand;
 }
 
 void DesktopShell::start() {
@@ -316,6 +338,10 @@ void DesktopShell::showTips(bool firstStart) {
     tipsController_->askForRules(firstStart
                                      ? [this](bool gentle) { program_.chooseFirstRules(gentle); }
                                      : std::function<void(bool)>());
+    if (firstStart) { // who has the keys is told as soon as it has been read
+        program_.parts().desktop.systemHotKeys->refresh();
+    }
+    tipsController_->setNotice(cleanShortcutNotice());
     tipsController_->setPage(0);
     present(*tipsController_);
 }

@@ -80,6 +80,8 @@ class DesktopShell final : public ShellWindows {
     void updateProfiles();
     void updateCleanShortcut();
     void updateHotKeys();
+    // Who has the keys of the clean, or why it has none; empty where they work.
+    QString cleanShortcutNotice() const;
     void updateNotice();
     void showReport(const engine::CleaningReport &report);
     void present(QWidget &window);

@@ -71,6 +71,7 @@ TipsWindow::TipsWindow(bool atEachStart, std::function<void(bool)> closed)
     , picture_(new QLabel)
     , title_(new QLabel)
     , text_(new QLabel)
+    , notice_(new QLabel)
     , question_(makeQuestion())
     , dots_(new PageDots(tips))
     , previous_(new QPushButton(localized("sTipsPrevious")))
@@ -102,6 +103,11 @@ void TipsWindow::describeParts() {
     next_->setObjectName("tipsNext");
     dots_->setObjectName("tipsDots");
     dots_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    notice_->setObjectName("tipNotice");
+    notice_->setAlignment(Qt::AlignCenter);
+    notice_->setWordWrap(true);
+    notice_->setFixedWidth(pictureSize.width());
+    notice_->hide();
     atEachStart_->setObjectName("tipsAtStart");
     atEachStart_->setAccessibleName(atEachStart_->text());
     setTip(*atEachStart_, localized("sTipsAtStartTip"));
@@ -128,6 +134,7 @@ void TipsWindow::layOut() {
     layout->addWidget(picture_, 0, Qt::AlignHCenter);
     layout->addWidget(title_);
     layout->addWidget(text_);
+    layout->addWidget(notice_, 0, Qt::AlignHCenter);
     layout->addWidget(question_);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(previous_);
@@ -193,6 +200,14 @@ void TipsWindow::askForRules(std::function<void(bool)> chosen) {
     showPage();
 }
 
+void TipsWindow::setNotice(const QString &text) {
+    notice_->setText(text);
+    QSizePolicy policy = notice_->sizePolicy();
+    policy.setRetainSizeWhenHidden(!text.isEmpty());
+    notice_->setSizePolicy(policy);
+    showPage();
+}
+
 int TipsWindow::count() {
     return tips;
 }
@@ -212,6 +227,7 @@ void TipsWindow::showPage() {
     dots_->setAccessibleName(
         localized("sTipsPage").arg(locale().toString(page_ + 1), locale().toString(tips)));
     question_->setVisible(page_ == 0 && rulesChosen_);
+    notice_->setVisible(page_ == 0 && !notice_->text().isEmpty());
     previous_->setEnabled(page_ > 0);
     const QString next = localized(page_ + 1 < tips ? "sTipsNext" : "sTipsDone");
     next_->setText(next);

@@ -42,6 +42,8 @@ class TipsWindow final : public QDialog {
     // The first page asks for the rules to begin with, all of them or the gentle ones, of which the
     // former are chosen. With null, which it is at first, nothing is asked.
     void askForRules(std::function<void(bool gentle)> chosen);
+    // One line on the first page, on what does not work here; empty for none.
+    void setNotice(const QString &text);
 
     static int count();
     int page() const { return page_; }
@@ -66,6 +68,7 @@ class TipsWindow final : public QDialog {
     QLabel *title_;
     QLabel *text_;
     QRadioButton *allRules_ = nullptr;
+    QLabel *notice_;
     QWidget *question_;
     PageDots *dots_;
     QPushButton *previous_;

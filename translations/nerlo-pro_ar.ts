@@ -2021,6 +2021,10 @@
         <translation>‏Enter: إلى الحافظة · Shift+Enter: لصقه أيضًا · Esc: ترك كل شيء كما كان</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>اختر مفاتيح أخرى في صفحة «%@» من التفضيلات.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>نظّف نظف تنظيف</translation>
     </message>

@@ -2022,6 +2022,10 @@ MIT-Lizenz</translation>
         <translation>Enter: in die Zwischenablage · Umschalt+Enter: auch einfügen · Esc: alles lassen, wie es war</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Wählen Sie auf der Seite „%@“ der Einstellungen andere Tasten.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>bereinigen säubern reinigen</translation>
     </message>

@@ -2022,6 +2022,10 @@
         <translation>Enter: στο πρόχειρο · Shift+Enter: και επικόλληση · Esc: καμία αλλαγή</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Επιλέξτε άλλα πλήκτρα στη σελίδα «%@» των προτιμήσεων.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>καθαρισμός καθάρισε</translation>
     </message>

@@ -2037,6 +2037,11 @@ MIT licence</translation>
         <translation>Enter: to the clipboard · Shift+Enter: paste it too · Esc: leave all as it was</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <extracomment>%@ is the name of the page.</extracomment>
+        <translation>Choose other keys on the page “%@” of the preferences.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <extracomment>Words for cleaning, with blanks between them, each one word: one of them begins what is typed into the desktop&apos;s search.</extracomment>
         <translation>clean clear</translation>

@@ -2022,6 +2022,10 @@ Licencia MIT</translation>
         <translation>Intro: al portapapeles · Mayús+Intro: pegar también · Esc: dejarlo todo como estaba</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Elija otras teclas en la página «%@» de las preferencias.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>limpiar</translation>
     </message>

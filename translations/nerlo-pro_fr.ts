@@ -2022,6 +2022,10 @@ Licence MIT</translation>
         <translation>Entrée : vers le presse-papiers · Maj+Entrée : coller aussi · Échap : ne rien changer</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Choisissez d’autres touches à la page « %@ » des préférences.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>nettoyer</translation>
     </message>

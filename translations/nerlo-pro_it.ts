@@ -2022,6 +2022,10 @@ Licenza MIT</translation>
         <translation>Invio: negli appunti · Maiusc+Invio: incolla anche · Esc: lascia tutto com’era</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Scelga altri tasti nella pagina «%@» delle preferenze.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>ripulisci ripulire pulisci pulire</translation>
     </message>

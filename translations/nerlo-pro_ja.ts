@@ -2021,6 +2021,10 @@ MIT ライセンス</translation>
         <translation>Enter：クリップボードへ · Shift+Enter：貼り付けも · Esc：何も変えない</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>設定のページ「%@」で別のキーを選んでください。</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>整形 クリーン</translation>
     </message>

@@ -2022,6 +2022,10 @@ Licencja MIT</translation>
         <translation>Enter: do schowka · Shift+Enter: także wklej · Esc: zostaw bez zmian</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Wybierz inne klawisze na stronie „%@” preferencji.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>oczyść oczyszczanie wyczyść</translation>
     </message>

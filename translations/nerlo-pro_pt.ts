@@ -2022,6 +2022,10 @@ Licença MIT</translation>
         <translation>Enter: para a área de transferência · Shift+Enter: colar também · Esc: deixar tudo como estava</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Escolha outras teclas na página “%@” das preferências.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>limpar</translation>
     </message>

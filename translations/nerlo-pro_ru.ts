@@ -2022,6 +2022,10 @@
         <translation>Enter: в буфер обмена · Shift+Enter: ещё и вставить · Esc: ничего не менять</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Выберите другие клавиши на странице «%@» параметров.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>очистить</translation>
     </message>

@@ -2022,6 +2022,10 @@ MIT-licens</translation>
         <translation>Enter: till urklipp · Skift+Enter: klistra också in · Esc: lämna allt som det var</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Välj andra tangenter på sidan ”%@” i inställningarna.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>rensa</translation>
     </message>

@@ -2022,6 +2022,10 @@
         <translation>Enter: у буфер обміну · Shift+Enter: ще й вставити · Esc: нічого не змінювати</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>Виберіть інші клавіші на сторінці «%@» параметрів.</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>очистити</translation>
     </message>

@@ -2021,6 +2021,10 @@ MIT 许可证</translation>
         <translation>Enter：放入剪贴板 · Shift+Enter：同时粘贴 · Esc：保持原样</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>请在首选项的“%@”页选择其他按键。</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>清理</translation>
     </message>

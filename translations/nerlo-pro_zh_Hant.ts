@@ -2021,6 +2021,10 @@ MIT 授權</translation>
         <translation>Enter：放入剪貼簿 · Shift+Enter：同時貼上 · Esc：保持原樣</translation>
     </message>
     <message>
+        <source>sTipShortcutTaken</source>
+        <translation>請在偏好設定的「%@」頁選擇其他按鍵。</translation>
+    </message>
+    <message>
         <source>sRunnerWords</source>
         <translation>清理</translation>
     </message>

@@ -54,6 +54,7 @@ class PortalHotKeys final : public HotKeyService {
     // The desktop keeps the keys while we are suspended; pressing them runs nothing.
     void setSuspended(bool suspended) override { suspended_ = suspended; }
 
+    bool available() const override { return missing_.empty(); }
     std::string description() const override {
         return missing_.empty() ? "the desktop portal's GlobalShortcuts" : missing_;
     }
