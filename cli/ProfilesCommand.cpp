@@ -190,7 +190,7 @@ void rename(const std::string &nameOrIndex, const std::string &name) {
     const std::u16string after = newName(name);
     record.set("profileName", after);
     profiles.save();
-    settings::renameInCopyTable(store.values, profiles.items, before, after);
+    settings::renameInStore(store.values, profiles.items, before, after);
     store.save();
 }
 

@@ -21,7 +21,7 @@ struct EditedState {
     RecordItems sharedRules;
     std::uint64_t selected = 0; // the id of the selected profile
     bool onlyOne = false;       // one list of rules for all profiles
-    // Of the commands that have one, as they are stored.
+    // Of the commands and profiles that have one, as they are stored.
     storage::PropertyDictionary shortcuts{};
     // Which profile cleans which copy, as it is stored; nothing where it is not.
     std::optional<storage::PropertyValue> copyTable{};

@@ -22,6 +22,36 @@ bool holdsSettings(const ProfileRecord &record) {
     });
 }
 
+void renameInCopyTable(storage::SettingsStore &store, const std::u16string &from,
+                       const std::u16string &to) {
+    const PropertyValue *stored = store.find(copyTableKey);
+    const auto *rows = stored ? stored->as<PropertyArray>() : nullptr;
+    if (!rows) {
+        return;
+    }
+    PropertyArray renamed = *rows;
+    for (PropertyValue &value : renamed) {
+        auto *row = value.as<storage::PropertyDictionary>();
+        const PropertyValue *profile = row ? row->find("profile") : nullptr;
+        if (profile && profile->stringValue() == from) {
+            row->set("profile", to);
+        }
+    }
+    store.set(copyTableKey, std::move(renamed));
+}
+
+void moveShortcut(storage::SettingsStore &store, const std::string &from, const std::string &to) {
+    const PropertyValue *stored = store.find(from);
+    if (!stored) {
+        return;
+    }
+    const PropertyValue shortcut = *stored;
+    store.remove(from); // first, so that the keys are free
+    if (!store.find(to)) {
+        store.set(to, shortcut);
+    }
+}
+
 } // namespace
 
 ReadProfiles parseProfiles(std::string_view bytes, const std::string &source) {
@@ -68,24 +98,14 @@ std::string exportProfile(const std::string &path, const ProfileRecord &record) 
     return storage::replaceWithPropertyList(path, record);
 }
 
-void renameInCopyTable(storage::SettingsStore &store, const ProfileItems &items,
-                       const std::u16string &from, const std::u16string &to) {
-    const PropertyValue *stored = store.find(copyTableKey);
-    const auto *rows = stored ? stored->as<PropertyArray>() : nullptr;
+void renameInStore(storage::SettingsStore &store, const ProfileItems &items,
+                   const std::u16string &from, const std::u16string &to) {
     const bool stillMeant = std::ranges::any_of(
         items, [&](const ProfileItem &item) { return profileNameOf(item.record) == from; });
-    if (!rows || stillMeant) {
-        return;
+    if (!stillMeant) {
+        renameInCopyTable(store, from, to);
+        moveShortcut(store, profileHotKey(from), profileHotKey(to));
     }
-    PropertyArray renamed = *rows;
-    for (PropertyValue &value : renamed) {
-        auto *row = value.as<storage::PropertyDictionary>();
-        const PropertyValue *profile = row ? row->find("profile") : nullptr;
-        if (profile && profile->stringValue() == from) {
-            row->set("profile", to);
-        }
-    }
-    store.set(copyTableKey, std::move(renamed));
 }
 
 } // namespace nerlo::settings

@@ -26,10 +26,10 @@ ReadProfiles readProfiles(const std::string &path);
 // Writes the profile as XML. Empty when done, else why not; then the file is as it was.
 std::string exportProfile(const std::string &path, const ProfileRecord &record);
 
-// Main thread: rows of the stored table of copies that name the profile `from` now name `to`.
-// `items` are the profiles after the change: while another one still has the old name, the rows
-// mean that.
-void renameInCopyTable(storage::SettingsStore &store, const ProfileItems &items,
-                       const std::u16string &from, const std::u16string &to);
+// What the store says of the profile `from`, it says of `to` from now on: rows of the table of
+// copies, and a shortcut, unless `to` has one. `items` are the profiles after the change: while
+// another one still has the old name, that one is meant. Main thread.
+void renameInStore(storage::SettingsStore &store, const ProfileItems &items,
+                   const std::u16string &from, const std::u16string &to);
 
 } // namespace nerlo::settings

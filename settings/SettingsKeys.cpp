@@ -259,6 +259,10 @@ const SettingsKey *findKey(std::string_view key, SettingScope scope) {
     return row == settingsKeys().end() ? nullptr : &*row;
 }
 
+std::string profileHotKey(std::u16string_view name) {
+    return std::string(profileHotKeyPrefix) + text::utf16ToUtf8(name);
+}
+
 PropertyDictionary firstStartProfile(std::string_view language) {
     PropertyDictionary profile{{"profileName", u"default"}};
     for (const FirstStart &row : firstStartValues) {

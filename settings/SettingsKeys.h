@@ -56,6 +56,9 @@ inline constexpr CommandHotKey commandHotKeys[] = {
 
 // In the store: the place of the selected profile.
 inline constexpr const char *selectedProfileKey = "udSelectedProfileItem";
+// In the store: the shortcut that selects the profile of a name, under this and the name in UTF-8.
+inline constexpr std::string_view profileHotKeyPrefix = "selectProfile:";
+std::string profileHotKey(std::u16string_view name);
 // In the store: which profile cleans which copy.
 inline constexpr const char *copyTableKey = "copyTable";
 

@@ -407,7 +407,7 @@ void nrPreferences::profilesRename(std::uint64_t id, const std::u16string &name)
         if (place == selectedItem_) {
             edited_.set("profileName", name);
         }
-        renameInCopyTable(store_, profilesItems_, before, name);
+        renameInStore(store_, profilesItems_, before, name);
         refreshProfilesMenu();
         saveChangesInProfiles();
     });
@@ -836,6 +836,11 @@ storage::PropertyDictionary nrPreferences::storedShortcuts() const {
             shortcuts.set(key.key, *value);
         }
     }
+    for (const auto &[key, value] : store_.values()) {
+        if (key.starts_with(profileHotKeyPrefix)) {
+            shortcuts.set(key, value);
+        }
+    }
     return shortcuts;
 }
 
@@ -880,12 +885,13 @@ RecordItems nrPreferences::carried(const RecordItems &now, const RecordItems &fr
     return items;
 }
 
-// A gesture changes shortcuts or what profiles are made of, never both: one of shortcuts leaves
-// alone which profile is selected.
+// A gesture of shortcuts alone leaves alone which profile is selected.
 void nrPreferences::carryOut(EditHistory::Change change) {
-    if (change.from.shortcuts != change.to.shortcuts) {
-        carryShortcuts(change);
-    } else {
+    const EditedState &from = change.from;
+    const EditedState &to = change.to;
+    carryShortcuts(change);
+    if (!(from.profiles == to.profiles && from.sharedRules == to.sharedRules &&
+          from.onlyOne == to.onlyOne && from.copyTable == to.copyTable)) {
         carryProfiles(change);
     }
     if (hooks_.historyChanged) {
@@ -898,17 +904,24 @@ void nrPreferences::carryShortcuts(const EditHistory::Change &change) {
     const auto same = [](const PropertyValue *one, const PropertyValue *other) {
         return one && other ? *one == *other : one == other;
     };
-    for (const SettingsKey &key : settingsKeys()) {
-        const auto *from = change.from.shortcuts.find(key.key);
-        const auto *to = change.to.shortcuts.find(key.key);
-        if (same(from, to) || !same(from, store_.find(key.key))) {
-            continue;
+    const auto carry = [&](const std::string &key) {
+        const auto *from = change.from.shortcuts.find(key);
+        const auto *to = change.to.shortcuts.find(key);
+        if (same(from, to) || !same(from, store_.find(key))) {
+            return;
         }
         if (to) {
-            store_.set(key.key, *to);
+            store_.set(key, *to);
         } else {
-            store_.remove(key.key);
+            store_.remove(key);
         }
+    };
+    // Those that go are first, so that their keys are free for those that come.
+    for (const auto &[key, value] : change.from.shortcuts) {
+        carry(key);
+    }
+    for (const auto &[key, value] : change.to.shortcuts) {
+        carry(key);
     }
 }
 

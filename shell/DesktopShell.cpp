@@ -22,6 +22,7 @@
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
+#include <set>
 #include <utility>
 
 namespace nerlo::shell {
@@ -136,23 +137,41 @@ void DesktopShell::updateProfiles() {
         names.push_back(QString::fromStdU16String(settings::profileNameOf(item.record)));
     }
     menu_->setProfiles(names, program_.preferences().selectedItem());
+    updateProfileShortcuts();
     if (window_) {
         window_->profilesChanged();
     }
     if (program_.complete()) {
+        program_.followProfileShortcuts();
         program_.stateChanged();
     }
 }
 
-void DesktopShell::updateCleanShortcut() {
-    const auto shortcut = shortcuts::storedShortcut(program_.store(), settings::cleanHotKey);
+QKeySequence DesktopShell::storedKeys(std::string_view hotKey) const {
+    const auto shortcut = shortcuts::storedShortcut(program_.store(), hotKey);
     const auto &layout = program_.shortcutTexts().layout();
-    menu_->setCleanShortcut(
-        shortcut ? platform::qtKeyOf(shortcut->keyCode(), shortcut->carbonFlags(), layout) : 0);
+    return shortcut ? platform::qtKeyOf(shortcut->keyCode(), shortcut->carbonFlags(), layout) : 0;
+}
+
+void DesktopShell::updateCleanShortcut() {
+    menu_->setCleanShortcut(storedKeys(settings::cleanHotKey));
+}
+
+// Of profiles of one name, the first is the one that it selects.
+void DesktopShell::updateProfileShortcuts() {
+    std::set<std::u16string> names;
+    QList<QKeySequence> keys;
+    for (const settings::ProfileItem &item : program_.preferences().profilesItems()) {
+        const std::u16string name = settings::profileNameOf(item.record);
+        const bool first = names.insert(name).second;
+        keys.push_back(first ? storedKeys(settings::profileHotKey(name)) : QKeySequence());
+    }
+    menu_->setProfileShortcuts(keys);
 }
 
 void DesktopShell::updateHotKeys() {
     updateCleanShortcut(); // a new keyboard layout names its key anew
+    updateProfileShortcuts();
     QStringList refused;
     for (const ListedCommand &command : shortcutList_.commands()) {
         const auto state = program_.hotKeys().status(command.hotKey).state;
@@ -166,6 +185,14 @@ void DesktopShell::updateHotKeys() {
         }
         if (window_) {
             window_->setHotKeyProblem(command.hotKey, conflict);
+        }
+    }
+    for (const auto &[key, hotKey] : program_.hotKeys().registeredUserDefaultsHotKeys()) {
+        const auto status = hotKey->status();
+        if (key.starts_with(settings::profileHotKeyPrefix) &&
+            status.state == platform::HotKeyState::refused) {
+            refused.push_back(QString::fromStdString(hotKey->title) + ": " +
+                              localized(Table::shortcut, status.text));
         }
     }
     if (!refused.empty() && !program_.parts().desktop.hotKeys.backend->available()) {

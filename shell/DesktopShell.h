@@ -78,7 +78,9 @@ class DesktopShell final : public ShellWindows {
     void makePreferencesWindow();
     void connectPreferences();
     void updateProfiles();
+    QKeySequence storedKeys(std::string_view hotKey) const;
     void updateCleanShortcut();
+    void updateProfileShortcuts();
     void updateHotKeys();
     // Who has the keys of the clean, or why it has none; empty where they work.
     QString cleanShortcutNotice() const;

@@ -19,18 +19,30 @@ namespace {
 using settings::cleanHotKey;
 using settings::CommandHotKey;
 using settings::commandHotKeys;
+using settings::profileHotKeyPrefix;
 
 constexpr std::uint64_t keyV = 9;
 
-std::string_view nameOfCommand(std::string_view key) {
+constexpr std::string_view profileCommand = "profile:"; // and the profile's name
+
+std::string nameOfCommand(std::string_view key) {
+    if (key.starts_with(profileHotKeyPrefix)) {
+        key.remove_prefix(profileHotKeyPrefix.size());
+        return std::string(profileCommand) + std::string(key);
+    }
     const auto rows = engine::operations();
     const auto row = std::ranges::find(rows, key, &engine::Operation::hotKey);
-    return row != rows.end() ? row->name
-                             : std::ranges::find(commandHotKeys, key, &CommandHotKey::key)->name;
+    return std::string(row != rows.end()
+                           ? row->name
+                           : std::ranges::find(commandHotKeys, key, &CommandHotKey::key)->name);
 }
 
 // Empty when no command has this name or index.
 std::string keyOfCommand(std::string_view name) {
+    if (name.starts_with(profileCommand) && name.size() > profileCommand.size()) {
+        name.remove_prefix(profileCommand.size());
+        return std::string(profileHotKeyPrefix) + std::string(name);
+    }
     if (const auto *operation = engine::findOperation(name)) {
         return std::string(operation->hotKey);
     }
@@ -47,6 +59,11 @@ storedShortcuts(const storage::SettingsStore &store) {
     }
     for (const auto &operation : engine::operations()) {
         stored.emplace(operation.hotKey, shortcuts::storedShortcut(store, operation.hotKey));
+    }
+    for (const auto &[key, value] : store.values()) {
+        if (key.starts_with(profileHotKeyPrefix)) {
+            stored.emplace(key, shortcuts::storedShortcut(store, key));
+        }
     }
     return stored;
 }
@@ -102,11 +119,11 @@ std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &ho
     std::vector<std::string> lines;
     for (const auto &[key, hotKey] : hotKeys.registeredUserDefaultsHotKeys()) {
         if (const auto shortcut = shortcuts::storedShortcut(hotKeys.store(), key)) {
-            lines.push_back(std::string(nameOfCommand(key)) + "=" +
+            lines.push_back(nameOfCommand(key) + "=" +
                             text::utf16ToUtf8(shortcut->spelledOutName(english)) + ": " +
                             finding(hotKey->status()));
         } else if (hotKeys.store().find(key)) {
-            lines.push_back(std::string(nameOfCommand(key)) + ": what is stored is no shortcut");
+            lines.push_back(nameOfCommand(key) + ": what is stored is no shortcut");
         }
     }
     return lines;
@@ -169,7 +186,7 @@ std::string refusalOf(std::span<const ShortcutChange> changes, const storage::Se
         }
         for (const auto &[key, other] : after) {
             if (key != change.key && other == shortcut) {
-                return keys + " is the shortcut of '" + std::string(nameOfCommand(key)) + "'.";
+                return keys + " is the shortcut of '" + nameOfCommand(key) + "'.";
             }
         }
     }

@@ -39,8 +39,8 @@ std::shared_ptr<void> reportRefusedHotKeys(shortcuts::UserDefaultsHotKeys &hotKe
 std::vector<std::string> hotKeyFindings(const shortcuts::UserDefaultsHotKeys &hotKeys,
                                         const platform::KeyboardLayout &layout);
 
-// What "clean=Super+V" asks for. The name is "clean", "choose" or an operation's, or its index;
-// without keys the shortcut goes.
+// What "clean=Super+V" asks for. The name is "clean", "choose", "profile:Mail" or an operation's,
+// or its index; without keys the shortcut goes.
 struct ShortcutChange {
     std::string key; // settings key
     std::optional<shortcuts::nrShortcut> shortcut;

@@ -97,7 +97,9 @@ PreferencesWindow::PreferencesWindow(Program &program)
     , nothingFound_(new QLabel)
     , notice_(new QLabel)
     , preview_(new PreviewPane(program))
-    , profilesPage_(new ProfilesPage(preferences_))
+    , profilesPage_(new ProfilesPage(
+          preferences_,
+          [&program](const std::string &hotKey) { return program.windows().makeRecorder(hotKey); }))
     , splitter_(new QSplitter) {
     setObjectName("preferencesWindow");
     setWindowTitle(localized("sPreferencesWindowName"));
@@ -365,7 +367,10 @@ QWidget *PreferencesWindow::makeTop() {
     connect(addButton("addProfile", "sProfileAdd", "sProfileAddTip"), &QPushButton::clicked,
             profilesPage_, &ProfilesPage::addProfile);
     connect(addButton("manageProfiles", "sProfilesManage", "sProfilesManageTip"),
-            &QPushButton::clicked, this, [this] { showPage(*profilesPage_); });
+            &QPushButton::clicked, this, [this] {
+                showPage(*profilesPage_);
+                profilesPage_->setFocus();
+            });
     return top;
 }
 

@@ -2,6 +2,7 @@
 
 #include "settings/ProfileTravel.h"
 #include "settings/ReadyProfiles.h"
+#include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Controls.h"
 #include "shell/Strings.h"
@@ -40,7 +41,7 @@ QStringList localFiles(const QDropEvent &event) {
 
 } // namespace
 
-ProfilesPage::ProfilesPage(settings::nrPreferences &preferences)
+ProfilesPage::ProfilesPage(settings::nrPreferences &preferences, const RecorderMaker &makeRecorder)
     : preferences_(preferences)
     , list_(new RowList) {
     describeAs(*list_, "profilesList", localized(Table::menu, "Profiles"),
@@ -52,8 +53,37 @@ ProfilesPage::ProfilesPage(settings::nrPreferences &preferences)
     layout->addWidget(hint, 0, 0, 1, columns);
     layout->addWidget(list_, 1, 0, 1, columns);
     layout->setRowStretch(1, 1);
+    setFocusProxy(list_);
+    makeRecorderRow(makeRecorder);
     makeButtons();
     followList();
+}
+
+void ProfilesPage::makeRecorderRow(const RecorderMaker &makeRecorder) {
+    auto *row = new QWidget;
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *label = new QLabel(localized("sProfileShortcut"));
+    setTip(*label, localized("sProfileShortcutTip"));
+    layout->addWidget(label, 1);
+    recorder_ = dynamic_cast<shortcuts::nrShortcutView *>(
+        shell::makeRecorder(makeRecorder, std::string(settings::profileHotKeyPrefix),
+                            localized("sProfileShortcut"), *row));
+    layout->addWidget(recorder_);
+    label->setBuddy(recorder_);
+    static_cast<QGridLayout *>(QWidget::layout())->addWidget(row, 2, 0, 1, columns);
+}
+
+// It belongs to the first profile of the name.
+void ProfilesPage::updateRecorder() {
+    const auto name = preferences_.profileName();
+    const std::string key = settings::profileHotKey(name);
+    const bool any = preferences_.popupSelection().has_value() && !name.empty();
+    if (recorder_->associatedUserDefaultsKey() != key) {
+        recorder_->setRecording(false);
+        recorder_->setAssociatedUserDefaultsKey(key);
+    }
+    recorder_->setEnabled(any);
 }
 
 void ProfilesPage::makeButtons() {
@@ -88,7 +118,7 @@ void ProfilesPage::makeButtons() {
             connect(button, &QPushButton::clicked, this, row.run);
         }
         const int at = static_cast<int>(made.size());
-        layout->addWidget(button, 2 + at / columns, at % columns);
+        layout->addWidget(button, 3 + at / columns, at % columns);
         made.push_back(button);
     }
     ofRow_.assign(made.begin(), made.begin() + ofRow);
@@ -145,11 +175,13 @@ void ProfilesPage::profilesChanged() {
     }
     up_->setEnabled(selected > 0);
     down_->setEnabled(selected >= 0 && selected + 1 < list_->count());
+    updateRecorder();
     restore_->setEnabled(!preferences_.removedProfiles().empty());
 }
 
 QString ProfilesPage::searchTexts() const {
-    QString texts = list_->accessibleName() + ' ' + list_->accessibleDescription();
+    QString texts = list_->accessibleName() + ' ' + list_->accessibleDescription() + ' ' +
+                    localized("sProfileShortcut");
     for (const QPushButton *button : findChildren<QPushButton *>()) {
         texts += ' ' + button->accessibleName() + ' ' + button->accessibleDescription();
     }

@@ -5,7 +5,9 @@
 #pragma once
 
 #include "settings/nrPreferences.h"
+#include "shell/OptionRows.h"
 #include "shell/RowList.h"
+#include "shortcuts/view/nrShortcutView.h"
 
 #include <QPushButton>
 #include <QStringList>
@@ -18,7 +20,7 @@ class ProfilesPage final : public QWidget {
     Q_OBJECT
 
   public:
-    explicit ProfilesPage(settings::nrPreferences &preferences);
+    ProfilesPage(settings::nrPreferences &preferences, const RecorderMaker &makeRecorder);
 
     // Shows the profiles that there are now.
     void profilesChanged();
@@ -40,7 +42,9 @@ class ProfilesPage final : public QWidget {
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
+    void makeRecorderRow(const RecorderMaker &makeRecorder);
     void makeButtons();
+    void updateRecorder();
     void followList();
     void fillReset(QMenu &menu);
     void fillRestore(QMenu &menu);
@@ -56,6 +60,7 @@ class ProfilesPage final : public QWidget {
     RowList *list_;
     std::vector<std::uint64_t> shown_; // the ids of the rows
     std::vector<QPushButton *> ofRow_; // of use with a selected row
+    shortcuts::nrShortcutView *recorder_ = nullptr;
     QPushButton *up_ = nullptr;
     QPushButton *down_ = nullptr;
     QPushButton *restore_ = nullptr;

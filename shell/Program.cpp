@@ -144,6 +144,7 @@ void Program::start() {
 }
 
 void Program::registerHotKeys() {
+    takesHotKeys_ = true;
     const auto bind = [this](std::string_view key, std::function<void()> run) {
         hotKeys_.registerGlobalShortcutWithUserDefaultsKey(std::string(key), std::move(run),
                                                            localized(key).toStdString());
@@ -153,6 +154,43 @@ void Program::registerHotKeys() {
     for (const auto &operation : engine::operations()) {
         bind(operation.hotKey, [this, index = operation.index] { runOperation(index); });
     }
+    profileShortcuts_ = store_.observeAll([this] { followProfileShortcuts(); });
+    followProfileShortcuts();
+}
+
+// Those that are stored, of profiles that there are.
+void Program::followProfileShortcuts() {
+    if (!takesHotKeys_) {
+        return;
+    }
+    std::set<std::string> names;
+    for (const settings::ProfileItem &item : preferences_.profilesItems()) {
+        names.insert(text::utf16ToUtf8(settings::profileNameOf(item.record)));
+    }
+    std::vector<std::string> gone;
+    for (const auto &[key, hotKey] : hotKeys_.registeredUserDefaultsHotKeys()) {
+        if (key.starts_with(settings::profileHotKeyPrefix) &&
+            !names.contains(key.substr(settings::profileHotKeyPrefix.size()))) {
+            gone.push_back(key);
+        }
+    }
+    for (const std::string &key : gone) {
+        hotKeys_.unregisterGlobalShortcutWithUserDefaultsKey(key);
+    }
+    for (const std::string &name : names) {
+        bindProfile(name);
+    }
+}
+
+void Program::bindProfile(const std::string &name) {
+    const std::string key = std::string(settings::profileHotKeyPrefix) + name;
+    if (!store_.find(key) || hotKeys_.registeredUserDefaultsHotKeys().contains(key)) {
+        return;
+    }
+    // Later: the profile may turn out to be gone, and its hot key with it.
+    hotKeys_.registerGlobalShortcutWithUserDefaultsKey(
+        key, [this, name] { parts_.mainQueue.post([this, name] { selectProfile(name); }); },
+        filled(localized("sSelectsProfile"), {QString::fromStdString(name)}).toStdString());
 }
 
 void Program::followOtherProcesses() {

@@ -121,6 +121,8 @@ class Program final {
     const std::string &locale() const { return locale_; }
     // Tells the listener.
     void stateChanged();
+    // The profiles have changed, or their shortcuts.
+    void followProfileShortcuts();
 
   private:
     void connect();
@@ -128,6 +130,7 @@ class Program final {
     clipboard::CopyTable copyTable() const;
     void tellDamages(); // those of the start, and again when there is a new one
     void registerHotKeys();
+    void bindProfile(const std::string &name); // to the shortcut that is stored for it, if one is
     void followOtherProcesses();
 
     Parts parts_;
@@ -148,6 +151,8 @@ class Program final {
     storage::SettingsStore::Observation automaticMode_;
     storage::SettingsStore::Observation selectedProfile_;
     storage::SettingsStore::Observation copyTable_;
+    storage::SettingsStore::Observation profileShortcuts_;
+    bool takesHotKeys_ = false;
     std::shared_ptr<void> refusals_;
     std::set<std::string> toldDamages_; // on the terminal
 };

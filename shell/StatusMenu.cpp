@@ -268,10 +268,23 @@ void StatusMenu::nameRestorable() {
 }
 
 void StatusMenu::setProfiles(const QStringList &names, int selected) {
-    profileNames_ = names;
+    profileNames_.clear();
+    for (const QString &name : names) {
+        profileNames_.push_back(shortName(name));
+    }
     fillProfiles(*profiles_, selected);
     fillProfiles(*trayProfiles_, selected);
     setShownOverBus(overBus_);
+}
+
+void StatusMenu::setProfileShortcuts(const QList<QKeySequence> &keys) {
+    for (QMenu *menu : {profiles_.get(), trayProfiles_.get()}) {
+        const auto actions = menu->actions();
+        for (int place = 0; place < actions.size(); ++place) {
+            actions[place]->setShortcut(keys.value(place));
+            actions[place]->setShortcutVisibleInContextMenu(true);
+        }
+    }
 }
 
 void StatusMenu::setShownOverBus(bool overBus) {
@@ -291,6 +304,8 @@ void StatusMenu::fillProfiles(QMenu &menu, int selected) {
         auto *action = menu.addAction(escaped(profileNames_[place]));
         action->setCheckable(true);
         action->setChecked(place == selected);
+        // The hot key itself works everywhere; in the menu it is only shown.
+        action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this,
                 [this, place] { program_.switchProfile(place); });
     }

@@ -38,6 +38,8 @@ class StatusMenu final : public QObject {
     void setRestorable(const std::optional<QString> &words);
     // `selected` is -1 for none.
     void setProfiles(const QStringList &names, int selected);
+    // Shown beside them; one for each, empty for none.
+    void setProfileShortcuts(const QList<QKeySequence> &keys);
     // Whether menu() is shown by a panel over the bus, which reads a title in its own way.
     void setShownOverBus(bool overBus);
     // Shown beside "Clear formating from clipboard".

@@ -175,6 +175,18 @@
         <translation>تعذّرت كتابة ملف الإعدادات.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>اختصار يحدده</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>في أي برنامج، يجعل هذا الاختصار ملف الإعدادات المحدد هو المستخدم. وتعرضه القائمة.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>تحديد ملف الإعدادات “%@”</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>أدخل اسم ملف الإعدادات الجديد وانقر «موافق»</translation>
     </message>

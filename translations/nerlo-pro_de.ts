@@ -175,6 +175,18 @@
         <translation>Das Profil konnte nicht geschrieben werden.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Tastenkürzel, das es wählt</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>In jedem Programm macht dieses Tastenkürzel das gewählte Profil zu dem, das benutzt wird. Das Menü zeigt es.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Profil „%@“ wählen</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Geben Sie den Namen des neuen Profils ein und klicken Sie auf OK</translation>
     </message>

@@ -175,6 +175,18 @@
         <translation>Δεν ήταν δυνατή η εγγραφή του προφίλ.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Συντόμευση που το επιλέγει</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>Σε κάθε πρόγραμμα, αυτή η συντόμευση θέτει σε χρήση το επιλεγμένο προφίλ. Το μενού την εμφανίζει.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Επιλογή του προφίλ «%@»</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Δώστε το όνομα του νέου προφίλ και πατήστε Εντάξει</translation>
     </message>

@@ -175,6 +175,18 @@
         <translation>The profile could not be written.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Shortcut that selects it</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>In every program, this shortcut makes the selected profile the one that is used. The menu shows it.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Select the profile “%@”</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Insert new profile name and click OK</translation>
     </message>

@@ -175,6 +175,18 @@
         <translation>No se pudo escribir el perfil.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Atajo que lo selecciona</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>En cualquier programa, este atajo hace que se use el perfil seleccionado. El menú lo muestra.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Seleccionar el perfil «%@»</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Escriba el nombre del nuevo perfil y pulse Aceptar</translation>
     </message>

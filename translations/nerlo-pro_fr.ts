@@ -175,6 +175,18 @@
         <translation>Le profil n’a pas pu être écrit.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Raccourci qui le sélectionne</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>Dans tout programme, ce raccourci fait du profil sélectionné celui qui sert. Le menu l’affiche.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Sélectionner le profil « %@ »</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Saisissez le nom du nouveau profil et cliquez sur OK</translation>
     </message>

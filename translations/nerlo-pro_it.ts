@@ -175,6 +175,18 @@
         <translation>Non è stato possibile scrivere il profilo.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Scorciatoia che lo seleziona</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>In ogni programma, questa scorciatoia fa sì che si usi il profilo selezionato. Il menu la mostra.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Seleziona il profilo «%@»</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Inserisca il nome del nuovo profilo e faccia clic su OK</translation>
     </message>

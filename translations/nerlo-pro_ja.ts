@@ -175,6 +175,18 @@
         <translation>プロファイルを書き込めませんでした。</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>選択するショートカット</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>どのプログラムでも、このショートカットで選択中のプロファイルが使われるようになります。メニューに表示されます。</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>プロファイル「%@」を選択</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>新しいプロファイルの名前を入力して OK をクリックしてください</translation>
     </message>

@@ -175,6 +175,18 @@
         <translation>Nie udało się zapisać profilu.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Skrót, który go wybiera</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>W każdym programie ten skrót sprawia, że używany jest wybrany profil. Menu go pokazuje.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Wybierz profil „%@”</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Wpisz nazwę nowego profilu i kliknij OK</translation>
     </message>

@@ -175,6 +175,18 @@
         <translation>Não foi possível escrever o perfil.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Atalho que o seleciona</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>Em qualquer programa, este atalho faz com que se use o perfil selecionado. O menu mostra-o.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Selecionar o perfil «%@»</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Digite o nome do novo perfil e clique em OK</translation>
     </message>

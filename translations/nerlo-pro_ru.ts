@@ -175,6 +175,18 @@
         <translation>Не удалось записать профиль.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Комбинация клавиш, которая его выбирает</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>В любой программе эти клавиши включают выбранный профиль. Меню их показывает.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Выбрать профиль «%@»</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Введите имя нового профиля и нажмите OK</translation>
     </message>

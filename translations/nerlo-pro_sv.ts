@@ -175,6 +175,18 @@
         <translation>Profilen kunde inte skrivas.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Genväg som väljer den</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>I alla program gör den här genvägen att den valda profilen används. Menyn visar den.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Välj profilen ”%@”</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Ange namnet på den nya profilen och klicka på OK</translation>
     </message>

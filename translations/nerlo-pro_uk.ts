@@ -175,6 +175,18 @@
         <translation>Не вдалося записати профіль.</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>Клавіші, що його вибирають</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>У будь-якій програмі ці клавіші вмикають вибраний профіль. Меню їх показує.</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>Вибрати профіль «%@»</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>Введіть назву нового профілю й натисніть «Гаразд»</translation>
     </message>

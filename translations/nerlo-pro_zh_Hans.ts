@@ -175,6 +175,18 @@
         <translation>无法写入配置。</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>选择它的快捷键</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>在任何应用程序中，此快捷键都会启用所选配置。菜单中会显示它。</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>选择配置“%@”</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>输入新配置的名称并单击“确定”</translation>
     </message>

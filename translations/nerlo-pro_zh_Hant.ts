@@ -175,6 +175,18 @@
         <translation>無法寫入設定檔。</translation>
     </message>
     <message>
+        <source>sProfileShortcut</source>
+        <translation>選擇它的快捷鍵</translation>
+    </message>
+    <message>
+        <source>sProfileShortcutTip</source>
+        <translation>在任何應用程式中，此快捷鍵都會啟用所選設定檔。選單中會顯示它。</translation>
+    </message>
+    <message>
+        <source>sSelectsProfile</source>
+        <translation>選擇設定檔「%@」</translation>
+    </message>
+    <message>
         <source>Insert new profile name and click OK</source>
         <translation>輸入新設定檔的名稱並按一下「確定」</translation>
     </message>

@@ -91,18 +91,20 @@ class TrayHost(dbus.service.Object):
         return ask(self.bus, self.items[-1], path, interface, method, *arguments)
 
     def menu(self):
-        """{label: (id, checked)} of the whole menu."""
+        """{label: (id, checked)} of the whole menu; keys has the shortcuts that are shown."""
         path = self.call("/StatusNotifierItem", dbus.PROPERTIES_IFACE, "Get",
                          "org.kde.StatusNotifierItem", "Menu")[0]
         self.menu_path = str(path)
-        found = {}
+        found, self.keys = {}, {}
 
         def walk(item):
             number, properties, children = item
             if "label" in properties:
                 # As a panel shows it: "_" marks a letter, and "__" is one of the text.
-                found[re.sub("_(.)", r"\1", str(properties["label"]))] = (
-                    int(number), int(properties.get("toggle-state", -1)))
+                label = re.sub("_(.)", r"\1", str(properties["label"]))
+                found[label] = (int(number), int(properties.get("toggle-state", -1)))
+                self.keys[label] = "+".join(key for chord in properties.get("shortcut", [])
+                                            for key in chord)
             for child in children:
                 walk(child)
         walk(self.call(self.menu_path, "com.canonical.dbusmenu", "GetLayout", dbus.Int32(0),

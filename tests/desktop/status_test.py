@@ -51,6 +51,16 @@ class StatusTest(unittest.TestCase):
         self.assertEqual(told, [(BUS_NAME, {"AutomaticMode": True}),
                                 (BUS_NAME, {"SelectedProfile": "other"})])
 
+        def item(name):
+            return tray.menu()[name][1], tray.keys[name]
+        self.assertEqual(subprocess.run([PROGRAM, "--shortcut", "profile:default=Ctrl+Super+D"],
+                                        timeout=60, check=False).returncode, 0)
+        wait_until(lambda: item("default") == (0, "Super+Control+D"),
+                   "the menu shows the profile's shortcut")
+        hands.keys("ctrl+super+d")
+        wait_until(lambda: program.property("SelectedProfile") == "default", "it selects the profile")
+        self.assertEqual((item("default")[0], item("other")), (1, (0, "")))
+
         def click():
             hands.activate("Preferences")
             hands.click(*eyes.middle(eyes.find(CHECK_BOX, "Start at login")))

@@ -3,6 +3,7 @@
 #include "engine/Operations.h"
 #include "platform/qt/QtKeys.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
+#include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/FindReplaceTable.h"
 #include "shell/Mnemonics.h"
@@ -934,17 +935,18 @@ TEST(ShownChanges, AreAllOfAShortTextAndTheChangedPartsOfALongOne) {
 
 using Menu = ProgramFixture;
 
+QMenu *submenuOf(StatusMenu &menu, const char *name) {
+    const auto actions = menu.menu().actions();
+    const auto found = std::ranges::find_if(actions, [&](const QAction *action) {
+        return action->menu() && action->menu()->objectName() == name;
+    });
+    return found == actions.end() ? nullptr : (*found)->menu();
+}
+
 TEST_F(Menu, ItemsProfilesAndKeys) {
     StatusMenu menu(program);
     menu.setProfiles({"A", "A", "R&D", "a_b & c & d"}, 1);
-    const auto submenu = [&](const char *name) {
-        const auto actions = menu.menu().actions();
-        const auto found = std::ranges::find_if(actions, [&](const QAction *action) {
-            return action->menu() && action->menu()->objectName() == name;
-        });
-        return found == actions.end() ? nullptr : (*found)->menu();
-    };
-    auto *profiles = submenu("profilesMenu");
+    auto *profiles = submenuOf(menu, "profilesMenu");
     ASSERT_TRUE(profiles);
     ASSERT_EQ(profiles->actions().size(), 4);
     EXPECT_TRUE(profiles->actions()[1]->isChecked());
@@ -953,7 +955,7 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     menu.setShownOverBus(true);
     EXPECT_EQ(profiles->actions()[2]->text(), "R&&D");
     EXPECT_EQ(profiles->actions()[3]->text(), "a__b && c & d");
-    auto *operations = submenu("operationsMenu");
+    auto *operations = submenuOf(menu, "operationsMenu");
     EXPECT_EQ(operations->findChildren<QAction *>(QRegularExpression("^operation")).size(),
               static_cast<qsizetype>(engine::operations().size()));
     const auto result = [&](QAction &action) {
@@ -977,6 +979,51 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     const auto items = menu.mainMenu();
     EXPECT_EQ(items[1].keyEquivalent, u"q");
     EXPECT_EQ(items[1].modifierMask, 0x100000u);
+}
+
+TEST_F(Menu, AProfileHasAShortcutThatFollowsItsName) {
+    program.start();
+    preferences.profilesImport(
+        {{{"profileName", u"Mail\t&\n1"}}, {{"profileName", u"Mail\t&\n1"}}});
+    const shortcuts::nrShortcut shortcut(46, shortcuts::controlModifier); // M
+    program.hotKeys().setGlobalShortcut(shortcut, settings::profileHotKey(u"Mail\t&\n1"));
+    const auto shown = [&] {
+        QString texts;
+        for (const QAction *action :
+             submenuOf(program.windows().menu(), "profilesMenu")->actions()) {
+            texts += action->text() + (action->isChecked() ? "*" : "") +
+                     action->shortcut().toString() + ' ';
+        }
+        return texts.toStdString();
+    };
+    const auto press = [&] {
+        auto &keys = static_cast<test::MemoryHotKeys &>(*desktop.hotKeys.backend);
+        const bool taken = keys.press(46, shortcut.carbonFlags());
+        queue.runPosted();
+        return taken;
+    };
+    EXPECT_EQ(shown(), "default* Mail && 1Meta+M Mail && 1 ");
+    EXPECT_TRUE(press());
+    EXPECT_EQ(shown(), "default Mail && 1*Meta+M Mail && 1 ");
+    const auto mail = preferences.profilesItems()[1].id;
+    preferences.profilesRename(mail, u"A");
+    EXPECT_EQ(shown(), "default A* Mail && 1Meta+M ") << "another one has the name";
+    preferences.profilesRename(preferences.profilesItems()[2].id, u"B");
+    EXPECT_EQ(shown(), "default A* BMeta+M ");
+    EXPECT_TRUE(press());
+    EXPECT_EQ(shown(), "default A B*Meta+M ");
+    preferences.undo();
+    EXPECT_EQ(shown(), "default A* Mail && 1Meta+M ");
+    preferences.redo();
+    EXPECT_EQ(shown(), "default A* BMeta+M ");
+    EXPECT_TRUE(press());
+    preferences.profilesRemove();
+    EXPECT_FALSE(press());
+    preferences.undo();
+    preferences.profilesSwitch(0);
+    EXPECT_TRUE(press());
+    EXPECT_EQ(program.profileName(), "B");
+    EXPECT_NE(program.doctor(true).find("profile:B=Super+M: works"), std::string::npos);
 }
 
 TEST_F(Menu, TheProgramOfTheLastCopyIsLeftAloneAndTheRowsAreSaid) {
