@@ -3,6 +3,7 @@
 #include "shell/Strings.h"
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -17,6 +18,9 @@ namespace {
 
 const auto watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
+const auto panelName = QStringLiteral("org.nerlo.NerloPro.Shell");
+// Ours while the panel is to show the icon.
+const auto inPanelName = QStringLiteral("org.nerlo.NerloPro.StatusItem");
 
 QString stateName(TrayState state) {
     switch (state) {
@@ -44,12 +48,22 @@ TrayIcon::TrayIcon(QMenu &menu)
     , watcher_(new QDBusServiceWatcher(watcherName, QDBusConnection::sessionBus(),
                                        QDBusServiceWatcher::WatchForRegistration |
                                            QDBusServiceWatcher::WatchForUnregistration,
-                                       this)) {
+                                       this))
+    , panelWatcher_(new QDBusServiceWatcher(panelName, QDBusConnection::sessionBus(),
+                                            QDBusServiceWatcher::WatchForOwnerChange, this)) {
+    const auto bus = QDBusConnection::sessionBus();
+    panelThere_ = bus.isConnected() && bus.interface()->isServiceRegistered(panelName);
+    connect(panelWatcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &owner) {
+                panelThere_ = !owner.isEmpty();
+                updatePanel();
+            });
     connect(watcher_, &QDBusServiceWatcher::serviceRegistered, this, &TrayIcon::lookForHost);
     // The toolkit puts the icon back when the host returns.
     connect(watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
         hostGone_ = true;
         hostSeen_ = false;
+        updatePanel();
     });
     QDBusConnection::sessionBus().connect(watcherName, watcherPath, watcherName,
                                           QStringLiteral("StatusNotifierHostRegistered"), this,
@@ -86,6 +100,22 @@ void TrayIcon::trayAppeared() {
     if (wanted_ && !statusItem_) {
         make();
     }
+    updatePanel();
+}
+
+void TrayIcon::updatePanel() {
+    const bool inPanel = wanted_ && panelThere_ && (!statusItem_ || hostGone_);
+    if (inPanel == inPanel_) {
+        return;
+    }
+    inPanel_ = inPanel;
+    auto bus = QDBusConnection::sessionBus();
+    if (inPanel_) {
+        bus.registerService(inPanelName);
+        emit appeared();
+    } else {
+        bus.unregisterService(inPanelName);
+    }
 }
 
 void TrayIcon::make() {
@@ -108,15 +138,17 @@ void TrayIcon::show() {
     if (hostSeen_ && !statusItem_) {
         make();
     }
+    updatePanel();
 }
 
 void TrayIcon::drop() {
     wanted_ = false;
     statusItem_.reset();
+    updatePanel();
 }
 
 bool TrayIcon::shown() const {
-    return statusItem_ && !hostGone_;
+    return inPanel_ || (statusItem_ && !hostGone_);
 }
 
 void TrayIcon::setState(TrayState state) {

@@ -1,5 +1,6 @@
 // The status item in the desktop's tray, once there is one: a StatusNotifierItem host or an XEmbed
-// tray, whichever comes first and whenever it comes.
+// tray, whichever comes first and whenever it comes; or, where there is none, GNOME's panel by our
+// extension, which shows an icon of its own as long as this program has a name on the bus for it.
 //
 // The toolkit looks for a host once, when its first icon is made; so none is made before. Main
 // thread only.
@@ -54,9 +55,13 @@ class TrayIcon final : public QObject {
 
   private:
     void make();
+    void updatePanel();
 
     QMenu &menu_;
     QDBusServiceWatcher *watcher_;
+    QDBusServiceWatcher *panelWatcher_;
+    bool panelThere_ = false;
+    bool inPanel_ = false;
     bool wanted_ = false;
     bool hostSeen_ = false;
     bool hostGone_ = false; // it was there

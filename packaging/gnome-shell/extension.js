@@ -1,18 +1,20 @@
 // Connects the program Nerlo Pro with the Shell, which keeps from other programs what they need for
 // cleaning the clipboard.
 
-const {Clipboard} = imports.misc.extensionUtils.getCurrentExtension().imports.clipboard;
+const extension = imports.misc.extensionUtils.getCurrentExtension();
+const {Clipboard} = extension.imports.clipboard;
+const {Panel} = extension.imports.panel;
 
 class Extension {
     enable() {
-        this._clipboard = new Clipboard();
+        this._parts = [new Clipboard(), new Panel()];
     }
 
     // The clipboard goes on behind the lock screen (see "session-modes"), so that what stands on it
     // stays.
     disable() {
-        this._clipboard.destroy();
-        this._clipboard = null;
+        this._parts.forEach(part => part.destroy());
+        this._parts = [];
     }
 }
 

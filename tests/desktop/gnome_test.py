@@ -46,9 +46,9 @@ class GnomeTest(unittest.TestCase):
         self.assertEqual((paste("text/html"), paste("text/rtf")), (html, rtf))
 
     def test_a_secret_stays_one_when_the_shell_keeps_its_text(self):
-        with owner("x-kde-passwordManagerHint=secret", "UTF8_STRING=p  w"):
+        with owner("x-kde-passwordManagerHint=secret", "UTF8_STRING=p  w") as copied:
+            wait_until(lambda: "send UTF8_STRING" in copied.lines, "the Shell reads it")
             wait_until(lambda: paste() == b"p  w", "the secret")
-            time.sleep(1)  # the Shell reads it
         wait_until(lambda: "TARGETS" in formats(), "the Shell offers what it has kept")
         self.program.call("Operation", 1)
         time.sleep(1.5)  # and the next tick
@@ -61,6 +61,19 @@ class GnomeTest(unittest.TestCase):
             file.write(text)
         with owner("UTF8_STRING=@" + path):
             self.expect(text.replace(b"  ", b" ").rstrip())
+
+    def test_the_panel_has_the_program_in_it(self):
+        button = "Main.panel.statusArea['org.nerlo.NerloPro']"
+
+        def shell(expression):
+            return ask(self.program.bus, "org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell",
+                       "Eval", f"String({expression})")[1]
+
+        wait_until(lambda: "automatic" in shell(button + "?._icon.icon_name"), "the icon")
+        self.program.call("Automatic", "off")
+        wait_until(lambda: "idle" in shell(button + "._icon.icon_name"), "the other icon")
+        self.program.call("Automatic", "on")
+        self.assertIn("Quit", shell(button + ".menu._getMenuItems().map(item => item.label.text)"))
 
     def test_the_extension_listens_to_the_program_alone(self):
         with self.assertRaisesRegex(dbus.DBusException, "AccessDenied"):
