@@ -221,9 +221,11 @@ class CutRows {
         return broken * 4 >= full;
     }
 
-    // The words that no edge has cut.
+    // The words that no edge has cut; no more than a long book has, because a larger table would not
+    // stay in the cache.
     void collectWords() {
-        for (std::size_t at = 0; at < lines_.size(); ++at) {
+        constexpr std::size_t most = 1 << 16;
+        for (std::size_t at = 0; at < lines_.size() && words_.size() < most; ++at) {
             const View row = rowAt(lines_[at]);
             std::size_t begin = at > 0 && widths_[at - 1] == width_ ? row.find(u' ') : 0;
             const std::size_t last = widths_[at] == width_ ? row.rfind(u' ') : row.size();
