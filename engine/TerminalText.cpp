@@ -164,37 +164,56 @@ std::vector<Row> insideOf(std::span<Row> frame) {
     return inside;
 }
 
-// A frame may have lost its upper or lower edge when it was selected.
+// Rows from `begin` on that may be a frame.
+struct Frame {
+    std::size_t end = 0;
+    std::size_t sides = 0;   // rows with both sides
+    std::size_t columns = 0; // those with lines inside, too
+    bool edges = false;      // has an upper or a lower one
+    bool even = true;        // the right sides stand below each other
+
+    // One that was selected may have lost its edges.
+    bool isFrame() const {
+        return columns * 2 <= sides && sides > 0 && (edges || (sides > 1 && even));
+    }
+};
+
+Frame frameAt(const std::vector<Row> &rows, std::size_t begin) {
+    Frame frame{begin};
+    std::size_t width = 0;
+    while (frame.end < rows.size()) {
+        const std::u16string &words = rows[frame.end].words;
+        const Edge edge = edgeOf(words);
+        if (edge == Edge::none || (edge == Edge::top && frame.end > begin)) {
+            break;
+        }
+        frame.edges = frame.edges || edge == Edge::top || edge == Edge::bottom;
+        frame.columns += hasColumns(words);
+        if (edge == Edge::sides) {
+            const std::size_t columns = columnsOf(View(words).substr(0, inkEnd(words)));
+            frame.even = frame.even && (++frame.sides == 1 || columns == width);
+            width = columns;
+        }
+        ++frame.end;
+        if (edge == Edge::bottom) {
+            break;
+        }
+    }
+    return frame;
+}
+
 bool openFrames(std::vector<Row> &rows) {
     std::vector<Row> result;
     bool opened = false;
     for (std::size_t begin = 0; begin < rows.size();) {
-        std::size_t end = begin;
-        std::size_t sides = 0;
-        std::size_t columned = 0;
-        bool edges = false;
-        while (end < rows.size()) {
-            const Edge edge = edgeOf(rows[end].words);
-            if (edge == Edge::none || (edge == Edge::top && end > begin)) {
-                break;
-            }
-            sides += edge == Edge::sides;
-            edges = edges || edge == Edge::top || edge == Edge::bottom;
-            columned += hasColumns(rows[end].words);
-            ++end;
-            if (edge == Edge::bottom) {
-                break;
-            }
-        }
-        if (columned * 2 <= sides && sides > 0 && (edges || sides > 1)) {
-            std::ranges::move(insideOf(std::span(rows).subspan(begin, end - begin)),
-                              std::back_inserter(result));
+        const Frame frame = frameAt(rows, begin);
+        const std::size_t end = std::max(frame.end, begin + 1);
+        const auto part = std::span(rows).subspan(begin, end - begin);
+        if (frame.isFrame()) {
+            std::ranges::move(insideOf(part), std::back_inserter(result));
             opened = true;
         } else {
-            end = std::max(end, begin + 1);
-            for (std::size_t at = begin; at < end; ++at) {
-                result.push_back(std::move(rows[at]));
-            }
+            std::ranges::move(part, std::back_inserter(result));
         }
         begin = end;
     }
@@ -259,17 +278,25 @@ bool removePadding(std::vector<Row> &rows) {
     return true;
 }
 
-// Whether most lines with words are prose, or some around code in fences are.
+// Whether most lines with words are prose, those in fences aside; in Markdown, tables and indented
+// blocks aside, too.
 bool isMostlyProse(View text) {
     std::size_t prose = 0;
     std::size_t inked = 0;
-    bool fenced = false;
+    std::size_t aside = 0;
+    bool markdown = false;
     for (const auto &line : scanStructure(text)) {
-        inked += line.kind != LineKind::blank;
-        prose += line.kind == LineKind::prose;
-        fenced = fenced || line.kind == LineKind::fence;
+        const bool fence = line.kind == LineKind::fence;
+        const View mark = text.substr(line.words, 2);
+        const bool mayBeComment = mark.starts_with(u'#') && mark != u"##";
+        const bool heading = line.kind == LineKind::heading && !mayBeComment;
+        const bool indented = line.kind == LineKind::code && line.words - line.begin >= 4;
+        markdown = markdown || fence || heading;
+        inked += line.kind != LineKind::blank && !fence;
+        aside += line.kind == LineKind::table || indented;
+        prose += line.kind == LineKind::prose || heading;
     }
-    return prose * (fenced ? 6 : 2) > inked;
+    return prose * 2 > inked - (markdown ? aside : 0);
 }
 
 } // namespace

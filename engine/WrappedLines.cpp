@@ -221,8 +221,8 @@ class CutRows {
         return broken * 4 >= full;
     }
 
-    // The words that no edge has cut; no more than a long book has, because a larger table would not
-    // stay in the cache.
+    // The words that no edge has cut; no more than a long book has, because a larger table would
+    // not stay in the cache.
     void collectWords() {
         constexpr std::size_t most = 1 << 16;
         for (std::size_t at = 0; at < lines_.size() && words_.size() < most; ++at) {
@@ -410,7 +410,8 @@ class WrappedLines {
             (above.words == above.end && !above.item)) {
             return false;
         }
-        const bool setApart = indentAt(first) >= codeIndent && isDoubtful(first) && !first.item;
+        const bool setApart = (indentAt(first) >= codeIndent && isDoubtful(first) && !first.item) ||
+                              isRestOfCode(first);
         const std::size_t quoted = isOneQuoted(at + 1) ? below.begin : below.quoted;
         const View marks = View(text_).substr(below.begin, quoted - below.begin);
         if (setApart || (marks != marksOf(above) && !(marks.empty() && keepsBlank(above)))) {
@@ -424,6 +425,17 @@ class WrappedLines {
         // where one blank may have stood behind a word that filled the row.
         return indent <= 1 || indent == first.words - first.quoted || indent == indentAt(first) ||
                (indent < codeIndent && (&above == &first || indent == indentAt(above)));
+    }
+
+    // Below an indented line of code that fills the screen: what had no room in it.
+    bool isRestOfCode(const StructuredLine &first) const {
+        const auto at = static_cast<std::size_t>(&first - lines_.data());
+        if (at == 0) {
+            return false;
+        }
+        const auto &above = lines_[at - 1];
+        return above.kind == LineKind::code && !above.item && indentAt(above) >= codeIndent &&
+               above.words < above.end;
     }
 
     void findPairs() {
