@@ -421,6 +421,11 @@ class Guard {
             const View words = cut(line.words, line.end);
             const bool kept = isMeant(row) || !lineEndsGo_ || line.end == line.next();
             more = goesOn(row + 1);
+            if (more && mayBeJoined(at, row)) {
+                source_.append(cut(line.words, line.next()));
+                source_.append(cut(lines_[row + 1].quoted, lines_[row + 1].words));
+                continue;
+            }
             source_.append(words.substr(0, more || !kept ? inkEnd(words) : words.size()));
             if (more) {
                 literal_.assign(kept ? words.substr(inkEnd(words)) : View());
@@ -440,6 +445,17 @@ class Guard {
         result_.free(last.next());
         result_.append(cut(last.end, last.next()));
         return row + 1;
+    }
+
+    // Whether nothing stands between the line and the next one any more, so that they are as those
+    // of any paragraph. `first` is the first one of theirs.
+    bool mayBeJoined(std::size_t first, std::size_t at) {
+        const auto depth = [&](std::size_t row) {
+            const View marks = cut(lines_[row].begin, lines_[row].quoted);
+            return std::ranges::count(marks, u'>');
+        };
+        return marksGo_ && !lines_[first].item && !isMeant(at) && depth(at) == depth(at + 1) &&
+               isQuotedProse(at) && isQuotedProse(at + 1);
     }
 
     void addBreak(View literal) {
@@ -463,15 +479,25 @@ class Guard {
         }
     }
 
-    // Whether the line is part of a quotation of nothing but prose.
+    // Whether the line is part of a paragraph of a quotation that is nothing but prose. Blank lines
+    // go with the paragraph above.
     bool isQuotedProse(std::size_t at) {
         const auto isQuoted = [&](std::size_t row) {
             return row < lines_.size() && lines_[row].quoted > lines_[row].begin;
         };
         if (isQuoted(at) && at >= quotationEnd_) {
             quotedProse_ = true;
+            bool inked = false;
+            bool blankAbove = false;
             for (quotationEnd_ = at; isQuoted(quotationEnd_); ++quotationEnd_) {
-                quotedProse_ = quotedProse_ && lines_[quotationEnd_].kind == LineKind::prose;
+                const auto &line = lines_[quotationEnd_];
+                const bool blank = line.words == line.end;
+                if (inked && blankAbove && !blank) {
+                    break;
+                }
+                inked = inked || !blank;
+                blankAbove = blank;
+                quotedProse_ = quotedProse_ && line.kind == LineKind::prose;
             }
         }
         return isQuoted(at) && quotedProse_;
@@ -568,7 +594,7 @@ class Guard {
     std::u16string marks_;
     std::u16string literal_;
     text::Range fixed_;
-    std::size_t quotationEnd_ = 0; // of the quotation looked at last
+    std::size_t quotationEnd_ = 0; // of the quoted paragraph looked at last
     bool quotedProse_ = false;
 };
 

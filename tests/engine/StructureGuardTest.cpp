@@ -58,10 +58,20 @@ TEST(StructureGuard, JoinsOnlyWhatWasWrapped) {
           u"jumps "
           u"over\n- sleeps"}},
         [](const std::u16string &text) { return clean(text, spacesAndBreaks); });
+    auto reply = spacesAndBreaks;
+    reply.set("udRemoveReplyQuotes", 1);
+    EXPECT_EQ(
+        clean(u"> The quick brown fox jumps over the lazy dog and\n> sleeps until morning comes "
+              u"and it is time.\n>> The quick",
+              reply),
+        u"The quick brown fox jumps over the lazy dog and sleeps until morning comes and it is "
+        u"time.\nThe quick");
 }
 
 TEST(StructureGuard, MarksGoByTheirRulesOnly) {
     expectRows({{"a reply", u"> a > b\n>> c\nnew", u"a > b\nc\nnew"},
+                {"a table in a reply", u"> a\n>\n> b | c\n> d | e\n>\n> f",
+                 u"a\n\n> b | c\n> d | e\n>\nf"},
                 {"bullets", u"\u2022 one \u2022 a\n  \u25E6 two\n- three",
                  u"one \u2022 a\n  two\n- three"}},
                [](const std::u16string &text) {

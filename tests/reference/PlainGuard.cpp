@@ -110,16 +110,35 @@ class PlainGuard {
     }
     bool isQuoted(std::size_t at) const { return lines_[at].quoted > lines_[at].begin; }
 
+    bool isInked(std::size_t at) const { return lines_[at].words < lines_[at].end; }
+
     bool isQuotedProse(std::size_t at) const {
-        std::size_t end = at;
-        for (; at > 0 && isQuoted(at) && isQuoted(at - 1); --at) {
+        std::size_t begin = at;
+        while (isQuoted(begin) && begin > 0 && isQuoted(begin - 1) &&
+               !(isInked(begin) && !isInked(begin - 1) && hasQuotedInkAbove(begin))) {
+            --begin;
         }
-        for (end = at; end < lines_.size() && isQuoted(end); ++end) {
+        bool inked = false;
+        std::size_t end = begin;
+        for (; end < lines_.size() && isQuoted(end); ++end) {
+            if (inked && isInked(end) && !isInked(end - 1)) {
+                break;
+            }
+            inked = inked || isInked(end);
             if (lines_[end].kind != LineKind::prose) {
                 return false;
             }
         }
-        return end > at;
+        return end > begin;
+    }
+
+    bool hasQuotedInkAbove(std::size_t at) const {
+        while (at > 0 && isQuoted(at - 1)) {
+            if (isInked(--at)) {
+                return true;
+            }
+        }
+        return false;
     }
 
     bool goesOn(std::size_t at) const {
@@ -132,6 +151,10 @@ class PlainGuard {
         const std::size_t ink = inkEnd(line);
         return line.size() > 1 && ink > 0 && goesOn(at + 1) &&
                (line.substr(ink) == u"  " || (ink == line.size() && line.back() == u'\\'));
+    }
+
+    auto depth(std::size_t at) const {
+        return std::ranges::count(cut(lines_[at].begin, lines_[at].quoted), u'>');
     }
 
     String marks(std::size_t at) const {
@@ -180,6 +203,7 @@ class PlainGuard {
 
     std::size_t markedParagraph(std::size_t at) {
         result_ += marks(at);
+        const bool item = lines_[at].item;
         String words;
         std::vector<std::size_t> places;
         std::vector<String> breaks;
@@ -190,6 +214,11 @@ class PlainGuard {
             if (!goesOn(at + 1)) {
                 clean(words + (kept ? all : all.substr(0, inkEnd(all))), places, breaks);
                 return at;
+            }
+            if (has(Reach::quoteMarks) && !item && !isMeant(at) && depth(at) == depth(at + 1) &&
+                isQuotedProse(at) && isQuotedProse(at + 1)) {
+                words += all + cut(line.end, line.next()) + marks(at + 1);
+                continue;
             }
             words += all.substr(0, inkEnd(all)) + engine::breakSign;
             places.push_back(words.size() - 1);
