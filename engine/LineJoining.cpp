@@ -282,8 +282,8 @@ class WrappedParagraphs {
             if (!hasWords(at) || isCut(at, width) || (!full && !staysApart(at))) {
                 return false;
             }
-            goesOn = goesOn || text::letterCase(firstOf(at + 1)) == LetterCase::Other ||
-                     isIdeograph(firstOf(at + 1));
+            const bool lower = text::letterCase(firstOf(at + 1)) == LetterCase::Other;
+            goesOn = goesOn || ((lower || isIdeograph(firstOf(at + 1))) && !isStatus(at + 1));
         }
         return goesOn && width >= (isIdeograph(firstOf(0)) ? leastWrappedIdeographs : leastWrapped);
     }
@@ -339,8 +339,19 @@ class WrappedParagraphs {
                text::isAsciiLetter(firstOf(at + 1));
     }
 
+    // The name of a file alone in the last row, as pagers write it there.
+    bool isStatus(std::size_t at) const {
+        const std::u16string_view line = lineAt(at);
+        const std::size_t dot = line.rfind(u'.');
+        return lines_[at].end == text_.size() && dot != line.npos && dot > 2 &&
+               line.size() - dot > 1 && line.size() - dot < 6 && line.find(u' ') == line.npos;
+    }
+
     // A letter alone would end no sentence any more once it is joined to the line above.
     bool staysApart(std::size_t at) const {
+        if (isStatus(at + 1)) {
+            return true;
+        }
         return text::letterCase(firstOf(at + 1)) != LetterCase::Other && lineAt(at).size() > 1 &&
                checkLineForEndSentenceChar(lineAt(at), false);
     }

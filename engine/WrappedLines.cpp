@@ -210,15 +210,18 @@ class CutRows {
     bool isBrokenElsewhere() const {
         std::size_t full = 0;
         std::size_t broken = 0;
+        std::size_t wide = 0; // where the author had about as many columns as the screen
         for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
             if (!mayGoOn(at) || lines_[at].kind != LineKind::prose) {
                 continue;
             }
             const bool prose = lines_[at + 1].kind == LineKind::prose && !lines_[at + 1].item;
             full += widths_[at] == width_;
-            broken += prose && widths_[at] + 1 < width_ && widths_[at] * 2 > width_;
+            const bool ends = prose && widths_[at] + 1 < width_;
+            broken += ends && widths_[at] * 2 > width_;
+            wide += ends && widths_[at] * 8 > width_ * 7;
         }
-        return broken * 4 >= full;
+        return broken * 4 >= full || wide * 16 >= full;
     }
 
     // The words that no edge has cut; no more than a long book has, because a larger table would

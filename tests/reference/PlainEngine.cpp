@@ -546,10 +546,17 @@ String joinWrappedLines(const String &text, bool withSpace) {
         for (std::size_t at = begin; at < end; ++at) {
             width = std::max(width, lines[at].words.size());
         }
+        const auto isFile = [&](std::size_t at) {
+            const String &words = lines[at].words;
+            const std::size_t dot = words.rfind(u'.');
+            return at + 1 == lines.size() && lines[at].after.empty() && dot != String::npos &&
+                   dot > 2 && words.size() > dot + 1 && words.size() < dot + 6 &&
+                   words.find(u' ') == String::npos;
+        };
         const auto isTwoSentences = [&](std::size_t at) {
-            return lines[at].words.size() > 1 &&
-                   engine::checkLineForEndSentenceChar(lines[at].words, false) &&
-                   !isLower(lines[at + 1].words[0]);
+            return isFile(at + 1) || (lines[at].words.size() > 1 &&
+                                      engine::checkLineForEndSentenceChar(lines[at].words, false) &&
+                                      !isLower(lines[at + 1].words[0]));
         };
         bool even = end > begin && width >= (isWide(lines[begin].words[0]) ? 16u : 32u);
         bool goesOn = false;
@@ -564,7 +571,7 @@ String joinWrappedLines(const String &text, bool withSpace) {
             const bool names = !isWide(line[0]) && std::count(line.begin(), line.end(), u' ') < 2;
             even = even && !cut && !names &&
                    ((lines[at].words.size() + word) * 5 > width * 4 || isTwoSentences(at));
-            goesOn = goesOn || isLower(next[0]) || isWide(next[0]);
+            goesOn = goesOn || ((isLower(next[0]) || isWide(next[0])) && !isFile(at + 1));
         }
         for (std::size_t at = begin; at < end; ++at) {
             String words = lines[at].words;

@@ -46,7 +46,7 @@ constexpr std::u16string_view wrapped =
     u"\n%\n%\n%\r\n%\r%\n\n% %  "
     u"%\u00A0%\t%-\n%.\n%a%B%1%\u3042%\u65E5\u672C\u8A9E\u6587\u5B57\u5217%\u3002%"
     u"The quick brown fox jumps over the lazy dog%and then it sleeps under the old oak tree%"
-    u"until the morning comes again to wake it up%word%Word%:%\u00E9%,%\u201D";
+    u"until the morning comes again to wake it up%word%Word%name.txt%:%\u00E9%,%\u201D";
 
 constexpr const char *locales[] = {"en_US", "de_DE", "tr_TR", "el_GR", "lt_LT",
                                    "nl_NL", "ja_JP", "th_TH", "",      "fr_FR"};
