@@ -5,6 +5,7 @@
 #include "text/Characters.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <numeric>
 #include <span>
@@ -116,7 +117,7 @@ class CutRows {
 
     // Empty if nothing was cut.
     std::u16string run() {
-        width_ = widths_.empty() ? 0 : std::ranges::max(widths_);
+        width_ = widthOfMost();
         std::u16string result;
         if (width_ < leastWidth || width_ > mostWidth || !isCut()) {
             return result;
@@ -132,6 +133,24 @@ class CutRows {
     }
 
   private:
+    // The widest width but for a few rows, of which terminals and we think differently: with tabs, or
+    // characters that were not always wide.
+    std::size_t widthOfMost() const {
+        constexpr std::size_t fewest = 4;
+        std::array<std::size_t, mostWidth + 1> rows{};
+        std::size_t wider = 0;
+        for (const std::size_t width : widths_) {
+            ++rows[std::min(width, mostWidth)];
+        }
+        for (std::size_t width = mostWidth; width > 0; --width) {
+            if (rows[width] >= fewest && rows[width] >= 8 * wider) {
+                return width;
+            }
+            wider += rows[width];
+        }
+        return widths_.empty() ? 0 : std::ranges::max(widths_);
+    }
+
     View rowAt(const StructuredLine &line) const { return wordsOf(text_, line.begin, line.end); }
 
     bool isJoinable(std::size_t at) const {
@@ -198,7 +217,7 @@ class CutRows {
             return false;
         }
         if (widths_[at] == width_) {
-            return !endsWithWord(at);
+            return !(lines_[at + 1].item && endsSentence(rowAt(lines_[at]))) && !endsWithWord(at);
         }
         // The next character was too wide for the last column, or a blank stood in it.
         return widths_[at] + 1 == width_ && text_[lines_[at + 1].begin] != u' ' &&
