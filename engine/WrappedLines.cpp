@@ -133,8 +133,8 @@ class CutRows {
     }
 
   private:
-    // The widest width but for a few rows, of which terminals and we think differently: with tabs, or
-    // characters that were not always wide.
+    // The widest width but for a few rows, of which terminals and we think differently: with tabs,
+    // or characters that were not always wide.
     std::size_t widthOfMost() const {
         constexpr std::size_t fewest = 4;
         std::array<std::size_t, mostWidth + 1> rows{};
@@ -432,8 +432,8 @@ class WrappedLines {
             (above.words == above.end && !above.item)) {
             return false;
         }
-        const bool setApart = (indentAt(first) >= codeIndent && isDoubtful(first) && !first.item) ||
-                              isRestOfCode(first);
+        const bool setApart =
+            isSetApart(first) && !(&above == &first && beginsIndented(first, below));
         const std::size_t quoted = isOneQuoted(at + 1) ? below.begin : below.quoted;
         const View marks = View(text_).substr(below.begin, quoted - below.begin);
         if (setApart || (marks != marksOf(above) && !(marks.empty() && keepsBlank(above)))) {
@@ -449,20 +449,21 @@ class WrappedLines {
                (indent < codeIndent && (&above == &first || indent == indentAt(above)));
     }
 
-    // Below an indented line of code that fills the screen: what had no room in it.
-    bool isRestOfCode(const StructuredLine &first) const {
-        const auto at = static_cast<std::size_t>(&first - lines_.data());
-        if (at == 0) {
-            return false;
-        }
-        const auto &above = lines_[at - 1];
-        return above.kind == LineKind::code && !above.item && indentAt(above) >= codeIndent &&
-               above.words < above.end;
+    // An indented block, most probably of code.
+    bool isSetApart(const StructuredLine &line) const {
+        return indentAt(line) >= codeIndent && isDoubtful(line) && !line.item;
+    }
+
+    // Whether it may be the indented first line of a paragraph.
+    bool beginsIndented(const StructuredLine &line, const StructuredLine &below) const {
+        const char16_t first = text_[line.words];
+        return first >= u'A' && first <= u'Z' && indentAt(below) == 0;
     }
 
     void findPairs() {
         std::size_t first = 0;  // row of the paragraph
         std::size_t paired = 0; // pairs of the paragraphs above
+        bool belowCode = false;
         const auto endParagraph = [&](std::size_t end) {
             if (isList(paired, end)) {
                 std::for_each(pairs_.begin() + static_cast<std::ptrdiff_t>(paired), pairs_.end(),
@@ -474,7 +475,12 @@ class WrappedLines {
             if (lines_[at].item) {
                 first = at;
             }
-            if (fits(lines_[first], at) &&
+            // Right below an indented line stands what had no room in it.
+            const bool apart = isSetApart(lines_[at]) && indentAt(lines_[at + 1]) < codeIndent;
+            const bool ends = lines_[at + 1].words == lines_[at + 1].end || lines_[at + 1].item;
+            belowCode =
+                !ends && (belowCode || (apart && !beginsIndented(lines_[at], lines_[at + 1])));
+            if (!belowCode && fits(lines_[first], at) &&
                 !((lines_[at + 1].item || isOneQuoted(at + 1)) && isItem(first, at + 1))) {
                 pairs_.push_back(pairOf(at));
                 const std::size_t indent = indentAt(lines_[at + 1]);
@@ -680,7 +686,9 @@ class WrappedLines {
             begin = pair.begin;
         }
         const auto &last = lines_[paragraph.back().row + 1];
-        return isProseWhole(joined.append(wordsOf(text_, begin, last.end)));
+        joined.append(wordsOf(text_, begin, last.end));
+        const bool indented = isSetApart(lines_[paragraph.front().row]);
+        return isProseWhole(joined) && (!indented || endsSentence(joined));
     }
 
     void appendWords(std::u16string &result, View words) const {
