@@ -278,14 +278,14 @@ bool removePadding(std::vector<Row> &rows) {
     return true;
 }
 
-// Whether most lines with words are prose, those in fences aside; in Markdown, tables and indented
-// blocks aside, too.
+// Whether most lines with words are prose, those in fences aside; in Markdown, tables, HTML and
+// indented blocks aside, too.
 bool isMostlyProse(View text) {
     std::size_t prose = 0;
     std::size_t inked = 0;
     std::size_t aside = 0;
     bool markdown = false;
-    for (const auto &line : scanStructure(text)) {
+    const auto count = [&](const StructuredLine &line) {
         const bool fence = line.kind == LineKind::fence;
         const View mark = text.substr(line.words, 2);
         const bool mayBeComment = mark.starts_with(u'#') && mark != u"##";
@@ -293,10 +293,12 @@ bool isMostlyProse(View text) {
         const bool indented = line.kind == LineKind::code && line.words - line.begin >= 4;
         markdown = markdown || fence || heading;
         inked += line.kind != LineKind::blank && !fence;
-        aside += line.kind == LineKind::table || indented;
+        aside += line.kind == LineKind::table || line.kind == LineKind::markup || indented;
         prose += line.kind == LineKind::prose || heading;
-    }
-    return prose * 2 > inked - (markdown ? aside : 0);
+    };
+    const bool program = scanStructure(
+        text, [&](std::span<const StructuredLine> lines) { std::ranges::for_each(lines, count); });
+    return markdown ? prose * 2 > inked - aside : !program && prose * 2 > inked;
 }
 
 } // namespace

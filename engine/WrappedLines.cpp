@@ -456,8 +456,9 @@ class WrappedLines {
 
     // Whether it may be the indented first line of a paragraph.
     bool beginsIndented(const StructuredLine &line, const StructuredLine &below) const {
+        const bool begins = &line == lines_.data() || (&line)[-1].kind == LineKind::blank;
         const char16_t first = text_[line.words];
-        return first >= u'A' && first <= u'Z' && indentAt(below) == 0;
+        return begins && first >= u'A' && first <= u'Z' && indentAt(below) == 0;
     }
 
     void findPairs() {
