@@ -1148,8 +1148,12 @@ TEST_F(FirstStart, TheFirstTipAsksForTheRulesAndAllAreChosen) {
     }
     gentle.click();
     EXPECT_EQ(preferences.profilesItems().size(), 2u) << "it is added once";
+    const auto &notice = *tips.findChild<QLabel *>("tipNotice");
+    EXPECT_FALSE(notice.isVisible());
+    tips.setNotice("the keys are taken");
+    EXPECT_TRUE(notice.isVisible());
     tips.setPage(1);
-    EXPECT_FALSE(gentle.isVisible());
+    EXPECT_FALSE(gentle.isVisible() || notice.isVisible());
 }
 
 TEST(Strings, DecideTheDirectionOfTheLayout) {
