@@ -1,4 +1,5 @@
-// The Shell's clipboard on the session bus, for the one program that owns the name of Nerlo Pro.
+// The Shell's clipboard on the session bus, and what comes to the front, for the one program that owns
+// the name of Nerlo Pro.
 //
 // Nothing here waits: bytes go through pipes and files that the program passes, piece by piece or on
 // another thread, and what an owner of the clipboard or the program does not do in time is given up.
@@ -42,6 +43,10 @@ const INTERFACE = `<node><interface name="org.nerlo.NerloPro.Shell">
     <arg name="count" type="x"/>
     <arg name="formats" type="as"/>
     <arg name="complete" type="b"/>
+  </signal>
+  <!-- Another window came to the front. -->
+  <signal name="Activated">
+    <arg name="application" type="s"/>
   </signal>
 </interface></node>`;
 
@@ -92,6 +97,11 @@ var Clipboard = class {
             if (type === CLIPBOARD)
                 this._replaced(source);
         });
+        this._focus = global.display.connect('notify::focus-window', () => {
+            const window = global.display.focus_window;
+            if (window)
+                this._emit('Activated', new GLib.Variant('(s)', [window.get_wm_class() ?? '']));
+        });
         this._object = Gio.DBusExportedObject.wrapJSObject(INTERFACE, this);
         this._object.export(Gio.DBus.session, PATH);
         this._watch = Gio.bus_watch_name(Gio.BusType.SESSION, PROGRAM, Gio.BusNameWatcherFlags.NONE,
@@ -110,6 +120,7 @@ var Clipboard = class {
         Gio.bus_unown_name(this._name);
         Gio.bus_unwatch_name(this._watch);
         this._selection.disconnect(this._changes);
+        global.display.disconnect(this._focus);
         this._object.unexport();
         this._cancel(this._transfers);
         this._cancel(this._writes);
@@ -253,8 +264,12 @@ var Clipboard = class {
     }
 
     _tell() {
+        this._emit('Changed', this._state());
+    }
+
+    _emit(signal, parameters) {
         if (this._program)
-            Gio.DBus.session.emit_signal(this._program, PATH, NAME, 'Changed', this._state());
+            Gio.DBus.session.emit_signal(this._program, PATH, NAME, signal, parameters);
     }
 
     // Whether the call comes from the program; answers it if not.

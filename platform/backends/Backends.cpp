@@ -1,6 +1,7 @@
 #include "platform/backends/Backends.h"
 
 #include "platform/Created.h"
+#include "platform/qt/GnomeActiveApplication.h"
 #include "platform/qt/GnomePasteboard.h"
 #include "platform/qt/KdeHotKeys.h"
 #include "platform/qt/PortalHotKeys.h"
@@ -66,6 +67,14 @@ Chosen<Interface> firstOf(Create... create) {
     return chosen;
 }
 
+// X11 sessions have a better way than GNOME's extension.
+template <class Interface, class Create>
+Created<Interface> inWayland(Create create) {
+    return wayland::EventLoop::defaultDisplay().empty()
+               ? Created<Interface>{nullptr, "this is not GNOME on Wayland"}
+               : create();
+}
+
 // The last resort, which never declines.
 template <class Interface, class Backend, class... Arguments>
 Created<Interface> always(Arguments... arguments) {
@@ -95,20 +104,16 @@ std::vector<std::string> Backends::whyNoDisplay() {
 }
 
 Chosen<Pasteboard> Backends::openPasteboard() {
-    return firstOf<Pasteboard>([&] { return createWaylandPasteboard(mainQueue_, io_); },
-                               [&]() -> Created<Pasteboard> {
-                                   // X11 sessions have a better way than the extension.
-                                   return wayland::EventLoop::defaultDisplay().empty()
-                                              ? Created<Pasteboard>{nullptr,
-                                                                    "this is not GNOME on Wayland"}
-                                              : createGnomePasteboard(mainQueue_);
-                               },
-                               [&] { return createX11Pasteboard(mainQueue_, io_); });
+    return firstOf<Pasteboard>(
+        [&] { return createWaylandPasteboard(mainQueue_, io_); },
+        [&] { return inWayland<Pasteboard>([&] { return createGnomePasteboard(mainQueue_); }); },
+        [&] { return createX11Pasteboard(mainQueue_, io_); });
 }
 
 Chosen<ActiveApplication> Backends::openActiveApplication() {
     return firstOf<ActiveApplication>(
         [&] { return createWaylandActiveApplication(mainQueue_, io_); },
+        [] { return inWayland<ActiveApplication>(createGnomeActiveApplication); },
         [&] {
             return createX11ActiveApplication(mainQueue_, x11(),
                                               !wayland::EventLoop::defaultDisplay().empty());

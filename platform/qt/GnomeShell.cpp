@@ -26,6 +26,8 @@ GnomeShell::GnomeShell(QDBusConnection bus)
     : bus_(std::move(bus)) {
     bus_.connect(service, servicePath, service, QStringLiteral("Changed"), this,
                  SLOT(onChanged(QDBusMessage)));
+    bus_.connect(service, servicePath, service, QStringLiteral("Activated"), this,
+                 SLOT(onActivated(QString)));
     auto *watcher =
         new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
     connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, &GnomeShell::left);

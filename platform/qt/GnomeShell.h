@@ -34,13 +34,18 @@ class GnomeShell : public QObject {
 
   signals:
     void changed(const QDBusMessage &state);
+    // Another window came to the front, with the name that it gives itself.
+    void activated(const QString &application);
     // The extension was ended; it may come back, with a signal of its own.
     void left();
 
   private slots:
     void onChanged(const QDBusMessage &state) { emit changed(state); }
+    void onActivated(const QString &application) { emit activated(application.left(longestName)); }
 
   private:
+    static constexpr qsizetype longestName = 256;
+
     QDBusConnection bus_;
 };
 
