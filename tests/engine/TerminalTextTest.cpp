@@ -23,8 +23,8 @@ TEST(TerminalText, TakesTheTerminalsOwnMarksOut) {
           u"\u2502 > ask \u2502\n\u2570\u2500\u2500\u2500\u2500\u2500\u2500\u256F\n", u"> ask\n"},
          {"a bar in front of each row", u"\u2502 one\n\u2502\n\u2502 two", u"one\n\ntwo"},
          {"a bar in front of a table that is drawn",
-          u"\u2502 a\n\u2502 \u2502 1 \u2502\n\u2502 \u2502 10 \u2502\n\u2502 b",
-          u"a\n\u2502 1 \u2502\n\u2502 10 \u2502\nb"},
+          u"\u2502 a\n\u2502 // \u2502 1 \u2502 2 \u2502\n\u2502   1   \u2502\n\u2502 b",
+          u"a\n// \u2502 1 \u2502 2 \u2502\n  1   \u2502\nb"},
          {"blanks in front of Markdown",
           u"  ## A\n\n  ```\n  x = 1;\n  ```\n\n  | a | b |\n  | c | d |\n",
           u"## A\n\n```\nx = 1;\n```\n\n| a | b |\n| c | d |\n"},
@@ -51,12 +51,14 @@ TEST(TerminalText, JoinsWhatWasWrapped) {
          {"not what had no room in a line of code",
           u"The quick brown fox jumps over the lazy\ndog and then it sleeps under the old "
           u"oak\ntree.\n\n"
-          u"    path/to/configure\nCC=path/to/msvcc.sh\nCXX=path/to/msvcc.sh LD=link "
-          u"CPP=\"cl\n-nologo\"",
+          u"    path/to/configure\nCC=path/to/msvcc.sh and some more of it\nthat stands in the "
+          u"next row "
+          u"of the code\nand -nologo",
           u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak "
           u"tree.\n\n"
-          u"    path/to/configure\nCC=path/to/msvcc.sh\nCXX=path/to/msvcc.sh LD=link "
-          u"CPP=\"cl\n-nologo\""},
+          u"    path/to/configure\nCC=path/to/msvcc.sh and some more of it\nthat stands in the "
+          u"next row "
+          u"of the code\nand -nologo"},
          {"an address that was cut",
           u"All of the documentation of it is found "
           u"at\nhttps://example.org/a/long/path/to/somewhere/"
