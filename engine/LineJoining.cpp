@@ -341,10 +341,13 @@ class WrappedParagraphs {
 
     // The name of a file alone in the last row, as pagers write it there.
     bool isStatus(std::size_t at) const {
+        if (lines_[at].end != text_.size()) {
+            return false;
+        }
         const std::u16string_view line = lineAt(at);
         const std::size_t dot = line.rfind(u'.');
-        return lines_[at].end == text_.size() && dot != line.npos && dot > 2 &&
-               line.size() - dot > 1 && line.size() - dot < 6 && line.find(u' ') == line.npos;
+        return dot != line.npos && dot > 2 && line.size() - dot > 1 && line.size() - dot < 6 &&
+               line.find(u' ') == line.npos;
     }
 
     // A letter alone would end no sentence any more once it is joined to the line above.
