@@ -32,6 +32,7 @@ class GroupCompleter final : public QCompleter {
         }
         setModel(new QStringListModel(groups, this));
         setWidget(&field);
+        popup()->setLayoutDirection(Qt::LeftToRight); // as a replacement is read
         connect(&field, &QLineEdit::textEdited, this, &GroupCompleter::offer);
         connect(this, qOverload<const QString &>(&QCompleter::activated), this,
                 &GroupCompleter::insert);
@@ -75,6 +76,11 @@ void EagerDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
         option->direction = mirrored ? Qt::RightToLeft : Qt::LeftToRight;
         option->displayAlignment =
             Qt::AlignVCenter | Qt::AlignAbsolute | (alignsRight ? Qt::AlignRight : Qt::AlignLeft);
+    } else if (option->direction == Qt::RightToLeft && !option->text.isRightToLeft()) {
+        // Beside a picture that stands where a line from right to left begins.
+        constexpr QChar isolate(0x2066);
+        constexpr QChar end(0x2069);
+        option->text = isolate + option->text + end;
     }
 }
 
@@ -87,6 +93,9 @@ QWidget *EagerDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
     field->setFrame(true);
     if (index.data(RuleModel::leftToRightRole).toBool()) {
         field->setLayoutDirection(Qt::LeftToRight);
+        if (parent->isRightToLeft()) { // where the cell shows it
+            field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
     }
     // Not textEdited(), which is silent when an accessibility tool sets the text.
     connect(field, &QLineEdit::textChanged, this,

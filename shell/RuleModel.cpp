@@ -164,13 +164,20 @@ QString RuleModel::text(const QModelIndex &index) const {
     }
 }
 
-// For a screen reader, which reads a cell without its column.
+// For a screen reader, which reads a cell without its row and column, and does not see marks.
 QString RuleModel::spoken(const QModelIndex &index) const {
-    const QString title = localized(columnTitles[index.column()]);
-    const QString value = text(index);
-    return index.column() == find && !value.isEmpty() ? value
-           : value.isEmpty()                          ? title
-                                                      : title + ": " + value;
+    const int column = index.column();
+    QString value = text(index);
+    if (column == on) {
+        value = text(index.siblingAtColumn(find)); // of which rule
+    } else if (column == found && !problem(index.row()).isEmpty()) {
+        value.clear(); // the description tells why there is no number
+    }
+    if (column == find && !value.isEmpty()) {
+        return value;
+    }
+    const QString title = localized(columnTitles[column]);
+    return value.isEmpty() ? title : title + ": " + value;
 }
 
 QVariant RuleModel::mark(const QModelIndex &index) const {

@@ -118,9 +118,11 @@ void SampleTable::setResults(const std::vector<settings::SampleResult> &results)
         cell.setText(QString(told).replace('\n', ' '));
         cell.setToolTip(told);
         cell.setIcon(broken ? brokenIcon() : QIcon());
-        cell.setData(Qt::AccessibleTextRole,
-                     horizontalHeaderItem(result)->text() + ": " +
-                         (broken ? localized("sRuleSampleFails") + ": " : QString()) + told);
+        nameCell(cell);
+        if (broken && !given->failure) { // what it gives, and that this is wrong
+            cell.setData(Qt::AccessibleTextRole, horizontalHeaderItem(result)->text() + ": " +
+                                                     localized("sRuleSampleFails") + ": " + told);
+        }
         for (int column = 0; column < columns; ++column) {
             item(row, column)->setBackground(broken ? QBrush(alarmColor(palette())) : QBrush());
         }
