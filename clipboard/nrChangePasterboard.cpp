@@ -198,6 +198,13 @@ nrChangePasterboard &nrChangePasterboard::sharedInstance() {
     return *shared;
 }
 
+void nrChangePasterboard::keepOriginalsUpTo(std::size_t limit) {
+    originalLimit_ = limit;
+    if (limit == 0) {
+        dropOriginal(Restored::nothingKept);
+    }
+}
+
 void nrChangePasterboard::setAllBools(const storage::PropertyDictionary &dictionary,
                                       std::shared_ptr<const engine::LinkRules> linkRules) {
     auto filled = std::make_shared<engine::CleaningOptions>();
@@ -560,10 +567,12 @@ void nrChangePasterboard::startNextWrite() {
 
 void nrChangePasterboard::written(WriteBack writeBack, platform::ChangeCount count) {
     if (!writeBack.ofOurs) {
-        original_ = std::move(writeBack.original);
-        whyNot_ = writeBack.whyNotKept;
+        // No longer wanted, perhaps, since it was read.
+        original_ = originalLimit_ > 0 ? std::move(writeBack.original) : nullptr;
+        whyNot_ = originalLimit_ > 0 ? writeBack.whyNotKept : Restored::nothingKept;
     }
-    result_ = std::make_shared<const Kept>(std::move(writeBack.cleaned));
+    // It can only be swapped for the original.
+    result_ = original_ ? std::make_shared<const Kept>(std::move(writeBack.cleaned)) : nullptr;
     originalShown_ = false;
     lastResult_ = writeBack.hash;
     ownSource_ = writeBack.source;

@@ -94,8 +94,9 @@ class nrChangePasterboard {
 
     // Not owned; null for none.
     void setListener(ClipboardListener *listener) { listener_ = listener; }
-    // In bytes, for the originals from now on. With 0 none is kept.
-    void keepOriginalsUpTo(std::size_t limit) { originalLimit_ = limit; }
+    // In bytes, for the originals from now on. With 0 none is kept, the present one included, and
+    // no formats are asked for but those that a clean needs.
+    void keepOriginalsUpTo(std::size_t limit);
     // Makes a popup for each showing; without it there is none.
     using CountWindowMaker = std::function<std::unique_ptr<CountWindow>()>;
     void setCountWindowMaker(CountWindowMaker maker) { makeCountWindow_ = std::move(maker); }

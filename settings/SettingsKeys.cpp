@@ -54,6 +54,8 @@ constexpr StoreKey storeKeys[] = {
      "clean on every change of the clipboard", false},
     {"cleanAtOnce", SettingKind::Boolean, "application",
      "automatic cleaning follows a copy without a delay"},
+    {"keepNoOriginal", SettingKind::Boolean, "application",
+     "a clean asks for the text alone, and nothing can be restored"},
     {"showInMenubar", SettingKind::Boolean, "application", "show the status-bar item", true},
     {"runInTheBackground", SettingKind::Boolean, "application",
      "neither a status-bar item nor an entry in the taskbar"},

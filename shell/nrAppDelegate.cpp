@@ -14,6 +14,7 @@ namespace {
 
 constexpr auto automaticKey = "automaticallyClearFormatting";
 constexpr auto cleanAtOnceKey = "cleanAtOnce";
+constexpr auto keepNoOriginalKey = "keepNoOriginal";
 constexpr auto showInMenuBarKey = "showInMenubar";
 constexpr auto stayOnTopKey = "stayOnTop";
 constexpr auto launchOnStartupKey = "lunchOnStartup"; // the misspelling is the key
@@ -57,6 +58,9 @@ void nrAppDelegate::applicationWillFinishLaunching() {
 void nrAppDelegate::applicationDidFinishLaunching() {
     excelException_ = userDef_.boolForKey(disableAutomaticKey);
     watcher_.setAtOnce(cleanAtOnceChecked());
+    if (keepNoOriginalChecked()) {
+        engine_.keepOriginalsUpTo(0);
+    }
     if (userDef_.boolForKey(automaticKey)) {
         watchPasteboard();
         automatic_ = true;
@@ -200,6 +204,15 @@ bool nrAppDelegate::cleanAtOnceChecked() const {
 void nrAppDelegate::cleanAtOnce(bool on) {
     userDef_.set(cleanAtOnceKey, on);
     watcher_.setAtOnce(on);
+}
+
+bool nrAppDelegate::keepNoOriginalChecked() const {
+    return userDef_.boolForKey(keepNoOriginalKey);
+}
+
+void nrAppDelegate::keepNoOriginal(bool on) {
+    userDef_.set(keepNoOriginalKey, on);
+    engine_.keepOriginalsUpTo(on ? 0 : clipboard::keptOriginalLimit);
 }
 
 void nrAppDelegate::showPreferences() {

@@ -60,6 +60,7 @@ class nrAppDelegate {
     bool automatic() const { return automatic_; }
     bool excelException() const { return excelException_; }
     bool cleanAtOnceChecked() const;
+    bool keepNoOriginalChecked() const;
     bool showInMenuBarChecked() const;
     bool runInTheBackgroundChecked() const;
     bool launchOnStartupChecked() const;
@@ -71,6 +72,8 @@ class nrAppDelegate {
     void disableAutomaticallyClearFormatting();
     // Whether automatic cleaning follows a copy without a delay.
     void cleanAtOnce(bool on);
+    // Whether a clean leaves nothing to be restored, and asks the other program for less.
+    void keepNoOriginal(bool on);
     void showPreferences();
     void openAboutApp();
     void quitApp();

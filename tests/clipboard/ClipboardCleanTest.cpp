@@ -581,6 +581,43 @@ TEST_F(RestoreTest, TellsWhatItDoesNotHave) {
     EXPECT_EQ(pasteboard.formatNames(), Log({"UTF8_STRING", "image/png"}));
 }
 
+// Each line of the log names what the owner was asked for.
+TEST_F(RestoreTest, WithoutOriginalsOnlyWhatTheCleanNeedsIsAskedFor) {
+    const auto asked = [&](const PasteboardContent &copied) {
+        pasteboard.copy(copied);
+        pasteboard.log.clear();
+        clean();
+        std::erase_if(pasteboard.log, [](const auto &line) { return !line.starts_with("read "); });
+        return pasteboard.log;
+    };
+    EXPECT_EQ(asked(rich), Log({"read UTF8_STRING,text/html,image/png"}));
+    engine.keepOriginalsUpTo(0);
+    EXPECT_EQ(restore(), Restored::nothingKept) << "the one that was kept";
+    EXPECT_EQ(asked(rich), Log({"read UTF8_STRING"}));
+    EXPECT_EQ(text(), "ab");
+    EXPECT_EQ(restore(), Restored::nothingKept);
+    auto hinted = rich;
+    hinted.push_back(content({{"CLIPBOARD_STATE", "plain"}})[0]);
+    EXPECT_EQ(asked(hinted), Log({"read CLIPBOARD_STATE", "read UTF8_STRING"}));
+    // A rule for pages needs the page.
+    auto page = rich;
+    page.push_back(content({{"text/x-moz-url-priv", "https://a.example/"}})[0]);
+    engine.setCopyTableMaker([this] {
+        return CopyTable{
+            {{.on = true, .host = "b.example", .profile = u"p"}, 1, u"p", engine.snapshot()}};
+    });
+    EXPECT_EQ(asked(page), Log({"read UTF8_STRING,text/x-moz-url-priv,text/html"}));
+    engine.setCopyTableMaker(nullptr);
+    // What is on its way when the setting changes is not kept either.
+    engine.keepOriginalsUpTo(keptOriginalLimit);
+    pasteboard.copy(rich);
+    engine.changePasteboard();
+    mainQueue.runPosted();
+    engine.keepOriginalsUpTo(0);
+    finish();
+    EXPECT_EQ(restore(), Restored::nothingKept);
+}
+
 TEST_F(RestoreTest, OfTwoCleansOfOurResultTheOriginalStays) {
     setOptions({{"udRemoveAllSpaces", true}, {"udPrefixTextField", u">"}});
     pasteboard.copy(rich);
