@@ -12,6 +12,8 @@ template <class Interface>
 struct Created {
     std::unique_ptr<Interface> backend; // null: declined
     std::string declined;               // then why, in English, for the user's eyes
+    // What this desktop keeps the backend from doing, in the same words; empty for nothing.
+    std::string lacks{};
 };
 
 } // namespace nerlo::platform

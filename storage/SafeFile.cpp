@@ -21,9 +21,10 @@ namespace {
 constexpr const char *lockName = "/.lock";
 constexpr auto lockPatience = std::chrono::seconds(2);
 
-std::string failure(const char *what, const std::string &path) {
+// What the system says, in its own language.
+std::string failure(const std::string &path) {
     const int code = errno;
-    return std::string("cannot ") + what + " " + path + ": " + std::strerror(code);
+    return path + ": " + std::strerror(code);
 }
 
 // Closes on every way out.
@@ -119,7 +120,7 @@ FileContent readFile(const std::string &path, std::size_t limit, FileCalls &call
         if (errno == ENOENT || errno == ENOTDIR) {
             return {};
         }
-        return {FileContent::State::Failed, {}, failure("open", path)};
+        return {FileContent::State::Failed, {}, failure(path)};
     }
     FileContent content{FileContent::State::Read, {}, {}};
     char buffer[16384];
@@ -132,11 +133,12 @@ FileContent readFile(const std::string &path, std::size_t limit, FileCalls &call
             continue;
         }
         if (size < 0) {
-            return {FileContent::State::Failed, {}, failure("read", path)};
+            return {FileContent::State::Failed, {}, failure(path)};
         }
         content.bytes.append(buffer, static_cast<std::size_t>(size));
         if (content.bytes.size() > limit) {
-            return {FileContent::State::Failed, {}, path + " is too large"};
+            errno = EFBIG;
+            return {FileContent::State::Failed, {}, failure(path)};
         }
     }
 }
@@ -144,7 +146,7 @@ FileContent readFile(const std::string &path, std::size_t limit, FileCalls &call
 std::string replaceFile(const std::string &path, std::string_view bytes, FileCalls &calls) {
     const std::optional<std::string> followed = target(path);
     if (!followed) {
-        return failure("follow the link", path);
+        return failure(path);
     }
     const std::string &real = *followed;
     const std::string temporary = temporaryFor(real);
@@ -153,17 +155,17 @@ std::string replaceFile(const std::string &path, std::string_view bytes, FileCal
     calls.unlink(temporary);
     OpenFile file(calls, temporary, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0600);
     if (!file) {
-        return failure("create", temporary);
+        return failure(temporary);
     }
     std::string error;
     if (!writeAll(calls, file.get(), bytes)) {
-        error = failure("write", temporary);
+        error = failure(temporary);
     } else if (calls.fsync(file.get()) != 0) {
-        error = failure("flush", temporary);
+        error = failure(temporary);
     } else if (!file.close()) {
-        error = failure("close", temporary);
+        error = failure(temporary);
     } else if (calls.rename(temporary, real) != 0) {
-        error = failure("replace", real);
+        error = failure(real);
     }
     if (!error.empty()) {
         calls.unlink(temporary);
@@ -222,22 +224,35 @@ bool makeFolder(const std::string &path, FileCalls &calls) {
     return calls.mkdir(path, 0700) == 0 || errno == EEXIST;
 }
 
+std::string whyNotWritable(const std::string &folder) {
+    const std::string above = folderOf(folder);
+    if (::access(folder.c_str(), F_OK) != 0 && errno == ENOENT && above != folder) {
+        return whyNotWritable(above);
+    }
+    struct stat status {};
+    if (::stat(folder.c_str(), &status) == 0 && !S_ISDIR(status.st_mode)) {
+        errno = ENOTDIR;
+        return failure(folder);
+    }
+    return ::access(folder.c_str(), W_OK | X_OK) == 0 ? std::string() : failure(folder);
+}
+
 FolderLock::FolderLock(const std::string &folder, FileCalls &calls)
     : calls_(calls) {
     if (!makeFolder(folder, calls)) {
-        error_ = failure("make", folder);
+        error_ = failure(folder);
         return;
     }
     const std::string path = folder + lockName;
     file_ = calls.open(path, O_RDONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (file_ < 0) {
-        error_ = failure("open", path);
+        error_ = failure(path);
         return;
     }
     const auto end = std::chrono::steady_clock::now() + lockPatience;
     while (calls.flock(file_, LOCK_EX | LOCK_NB) != 0) {
         if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() > end) {
-            error_ = failure("lock", path);
+            error_ = failure(path);
             return;
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(1));

@@ -3,7 +3,8 @@
 // A save is a temporary file beside the target, flushed to the disk, renamed over it, and the
 // folder flushed: whenever the process or the machine stops, the file is the old one or the new
 // one. A target that is a symbolic link stays one; the file that it points to is replaced. Any
-// thread; errors are English texts that name the file and what the system said.
+// thread; errors are texts that begin with the file or folder and go on with what the
+// system said, in the language of the process.
 #pragma once
 
 #include "storage/FileCalls.h"
@@ -53,6 +54,10 @@ std::optional<std::string> moveAside(const std::string &path, const char *reason
 
 // Makes the folder and those above it (mode 0700). False when it is not there afterwards.
 bool makeFolder(const std::string &path, FileCalls &calls = FileCalls::system());
+
+// Empty when files can be made in the folder, or when it can be made first; else why not, as
+// the other errors. Makes nothing.
+std::string whyNotWritable(const std::string &folder);
 
 // Holds a folder's lock file against other processes and other holders in this one, until it goes.
 // The system frees the lock of a process that ends, however it ends.

@@ -30,9 +30,7 @@ namespace {
 class NoActiveApplication final : public ActiveApplication {
   public:
     void setActivatedHandler(Handler) override {}
-    std::string description() const override {
-        return "none: which application is in front cannot be told here";
-    }
+    std::string description() const override { return "none"; }
 };
 
 class NoHotKeys final : public HotKeyService {
@@ -58,6 +56,7 @@ Chosen<Interface> firstOf(Create... create) {
         if (!chosen.backend) {
             Created<Interface> created = createOne();
             chosen.backend = std::move(created.backend);
+            chosen.lacks = std::move(created.lacks);
             if (!chosen.backend) {
                 chosen.declined.push_back(std::move(created.declined));
             }
@@ -79,6 +78,15 @@ Created<Interface> inWayland(Create create) {
 template <class Interface, class Backend, class... Arguments>
 Created<Interface> always(Arguments... arguments) {
     return {std::make_unique<Backend>(std::move(arguments)...), {}};
+}
+
+// A backend for X11 that stands in for one of Wayland, where `lacks` is true of it.
+template <class Interface>
+Created<Interface> onWayland(Created<Interface> x11, const char *lacks) {
+    if (x11.backend && underWayland()) {
+        x11.lacks = lacks;
+    }
+    return x11;
 }
 
 } // namespace
@@ -107,7 +115,11 @@ Chosen<Pasteboard> Backends::openPasteboard() {
     return firstOf<Pasteboard>(
         [&] { return createWaylandPasteboard(mainQueue_, io_); },
         [&] { return inWayland<Pasteboard>([&] { return createGnomePasteboard(mainQueue_); }); },
-        [&] { return createX11Pasteboard(mainQueue_, io_); });
+        [&] {
+            return onWayland(createX11Pasteboard(mainQueue_, io_),
+                             "copies come by way of Xwayland, where the compositor passes them on; "
+                             "GNOME does");
+        });
 }
 
 Chosen<ActiveApplication> Backends::openActiveApplication() {
@@ -115,10 +127,16 @@ Chosen<ActiveApplication> Backends::openActiveApplication() {
         [&] { return createWaylandActiveApplication(mainQueue_, io_); },
         [] { return inWayland<ActiveApplication>(createGnomeActiveApplication); },
         [&] {
-            return createX11ActiveApplication(mainQueue_, x11(),
-                                              !wayland::EventLoop::defaultDisplay().empty());
+            return onWayland(createX11ActiveApplication(mainQueue_, x11()),
+                             "windows of Wayland programs are not told apart, so rules for a "
+                             "program fit only copies from programs on X11");
         },
-        [] { return always<ActiveApplication, NoActiveApplication>(); });
+        [] {
+            auto none = always<ActiveApplication, NoActiveApplication>();
+            none.lacks = "which program is in front cannot be told, so rules for a program fit no "
+                         "copy";
+            return none;
+        });
 }
 
 Chosen<KeyboardLayout> Backends::openKeyboardLayout() {
@@ -153,7 +171,10 @@ Chosen<PopupLayer> Backends::openPopupLayer() {
 
 Chosen<Paster> Backends::openPaster(const KeyboardLayout &layout) {
     return firstOf<Paster>([&] { return createWaylandPaster(mainQueue_, io_); },
-                           [&] { return createX11Paster(mainQueue_, layout, x11()); });
+                           [&] {
+                               return onWayland(createX11Paster(mainQueue_, layout, x11()),
+                                                "pastes into windows of programs on X11 alone");
+                           });
 }
 
 bool Backends::grabGetsAllKeys() {
@@ -161,7 +182,7 @@ bool Backends::grabGetsAllKeys() {
         return false;
     }
     // To a window in Xwayland only the compositor gives keys.
-    return wayland::EventLoop::defaultDisplay().empty() || unmanagedWindowsGetKeys(x11());
+    return !underWayland() || unmanagedWindowsGetKeys(x11());
 }
 
 std::unique_ptr<TaskbarHint> Backends::openTaskbarHint() {
@@ -170,6 +191,14 @@ std::unique_ptr<TaskbarHint> Backends::openTaskbarHint() {
 
 std::unique_ptr<TrayWatch> Backends::openTrayWatch(std::function<void()> appeared) {
     return qtIsOnX11() ? createX11TrayWatch(mainQueue_, x11(), std::move(appeared)) : nullptr;
+}
+
+bool Backends::hasXembedTray() {
+    return x11TrayThere(x11());
+}
+
+bool underWayland() {
+    return !wayland::EventLoop::defaultDisplay().empty();
 }
 
 bool keyboardCanBeGrabbed() {

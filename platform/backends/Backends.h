@@ -29,6 +29,7 @@ struct Chosen {
     std::unique_ptr<Interface> backend;
     // Why those before it declined, one English line each, for the user's eyes.
     std::vector<std::string> declined;
+    std::string lacks{}; // as in Created
 };
 
 // What is opened shares one thread and, but for the clipboard, one connection to the X server.
@@ -86,6 +87,9 @@ class Backends {
     // one comes. Null where there are no trays of this kind.
     std::unique_ptr<TrayWatch> openTrayWatch(std::function<void()> appeared);
 
+    // Whether there is such a tray now; needs no application object.
+    bool hasXembedTray();
+
   private:
     // Opened when it is first needed, and closed with the last that uses it. Null without a
     // display.
@@ -95,6 +99,9 @@ class Backends {
     IoThread io_;
     std::weak_ptr<x11::SharedConnection> x11_;
 };
+
+// Whether the session is one of Wayland, whatever else it has.
+bool underWayland();
 
 // The rest is for the main thread, once the toolkit's application object is there.
 

@@ -92,11 +92,9 @@ class ActiveWindow final : public SharedConnection::Listener {
 
 class X11ActiveApplication final : public ActiveApplication {
   public:
-    X11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared,
-                         bool amongOthers)
+    X11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> shared)
         : mainQueue_(mainQueue)
-        , shared_(std::move(shared))
-        , amongOthers_(amongOthers) {}
+        , shared_(std::move(shared)) {}
     ~X11ActiveApplication() override { setActivatedHandler(nullptr); }
 
     void setActivatedHandler(Handler activated) override {
@@ -113,29 +111,23 @@ class X11ActiveApplication final : public ActiveApplication {
         });
     }
 
-    std::string description() const override {
-        const std::string x11 = "X11, _NET_ACTIVE_WINDOW";
-        return amongOthers_ ? x11 + "; Wayland windows are not told apart" : x11;
-    }
+    std::string description() const override { return "X11, _NET_ACTIVE_WINDOW"; }
 
   private:
     MainQueue &mainQueue_;
     std::shared_ptr<SharedConnection> shared_;
-    bool amongOthers_;
     Alive alive_;                          // of one handler after the other
     std::unique_ptr<ActiveWindow> window_; // on the I/O thread; null: nobody listens
 };
 
 } // namespace
 
-Created<ActiveApplication> createX11ActiveApplication(MainQueue &mainQueue,
-                                                      std::shared_ptr<SharedConnection> connection,
-                                                      bool amongOthers) {
+Created<ActiveApplication>
+createX11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<SharedConnection> connection) {
     if (!connection) {
         return {nullptr, x11::noDisplay};
     }
-    return {std::make_unique<X11ActiveApplication>(mainQueue, std::move(connection), amongOthers),
-            {}};
+    return {std::make_unique<X11ActiveApplication>(mainQueue, std::move(connection)), {}};
 }
 
 } // namespace nerlo::platform

@@ -13,10 +13,9 @@ namespace x11 {
 class SharedConnection;
 }
 
-// Declines a null connection. `amongOthers`: the display is an Xwayland, where only X windows are
-// seen; the description says so. The main queue must outlive the result.
+// Declines a null connection; under Xwayland only X windows are seen. The main queue must outlive
+// the result.
 Created<ActiveApplication>
-createX11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<x11::SharedConnection> connection,
-                           bool amongOthers = false);
+createX11ActiveApplication(MainQueue &mainQueue, std::shared_ptr<x11::SharedConnection> connection);
 
 } // namespace nerlo::platform

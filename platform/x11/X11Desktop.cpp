@@ -19,6 +19,14 @@ using x11::SharedConnection;
 constexpr const char *traySelection = "_NET_SYSTEM_TRAY_S0";
 constexpr const char *managerMessage = "MANAGER";
 
+bool hasTray(Connection &connection) {
+    auto *xcb = connection.get();
+    const auto cookie = xcb_get_selection_owner(xcb, connection.atom(traySelection));
+    const x11::Reply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(xcb, cookie, nullptr));
+    return reply && reply->owner != XCB_NONE;
+}
+
 // Lives on the I/O thread.
 class TrayListener final : public SharedConnection::Listener {
   public:
@@ -29,10 +37,7 @@ class TrayListener final : public SharedConnection::Listener {
         , manager_(shared.connection().atom(managerMessage)) {
         shared_.add(*this);
         // Asked after the events were, so that no tray is missed between the two.
-        auto *xcb = shared_.connection().get();
-        const x11::Reply<xcb_get_selection_owner_reply_t> reply(
-            xcb_get_selection_owner_reply(xcb, xcb_get_selection_owner(xcb, tray_), nullptr));
-        if (reply && reply->owner != XCB_NONE) {
+        if (hasTray(shared_.connection())) {
             tell();
         }
     }
@@ -159,6 +164,14 @@ std::unique_ptr<TrayWatch> createX11TrayWatch(MainQueue &mainQueue,
     return connection ? std::make_unique<X11TrayWatch>(std::move(connection), mainQueue,
                                                        std::move(appeared))
                       : nullptr;
+}
+
+bool x11TrayThere(const std::shared_ptr<SharedConnection> &connection) {
+    bool there = false;
+    if (connection) {
+        connection->run([&, &x = connection->connection()] { there = hasTray(x); });
+    }
+    return there;
 }
 
 bool unmanagedWindowsGetKeys(const std::shared_ptr<SharedConnection> &connection) {

@@ -23,6 +23,9 @@ std::unique_ptr<TrayWatch> createX11TrayWatch(MainQueue &mainQueue,
                                               std::shared_ptr<x11::SharedConnection> connection,
                                               std::function<void()> appeared);
 
+// Whether there is a tray now. False for a null connection. Main thread.
+bool x11TrayThere(const std::shared_ptr<x11::SharedConnection> &connection);
+
 // In Xwayland: whether the compositor gives the keyboard also to windows that it does not manage.
 // False for a null connection. Main thread.
 bool unmanagedWindowsGetKeys(const std::shared_ptr<x11::SharedConnection> &connection);
