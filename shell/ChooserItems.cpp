@@ -3,6 +3,7 @@
 #include "engine/Operations.h"
 #include "settings/ReadyProfiles.h"
 #include "settings/nrPreferences.h"
+#include "shell/PreferencesLayout.h"
 #include "shell/Strings.h"
 
 #include <QRegularExpression>
@@ -110,7 +111,7 @@ int rank(const ChooserItem &item, const QString &text, const QStringList &words)
 std::vector<ChooserItem> operationItems() {
     std::vector<ChooserItem> items;
     for (const auto &operation : engine::operations()) {
-        items.push_back({localized(operation.hotKey),
+        items.push_back({localized(commandText(operation.hotKey)),
                          localized("sChooserOperation"),
                          QString::fromUtf8(operation.name.data(), qsizetype(operation.name.size())),
                          {nullptr, operation.index, {}}});

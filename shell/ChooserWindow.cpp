@@ -7,7 +7,6 @@
 #include "shell/TextPanes.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -74,7 +73,8 @@ ChooserWindow::ChooserWindow(Program &program)
     , list_(new QTreeWidget)
     , before_(makeShownPane("chooserBefore", "sPreviewBefore", "sChooserBeforeTip"))
     , after_(makeShownPane("chooserAfter", "sPreviewAfter", "sChooserAfterTip"))
-    , note_(new QLabel) {
+    , note_(new QLabel)
+    , pointerSearch_(program.parts().desktop.popupLayer.backend.get(), mainQueue_) {
     setObjectName("chooser");
     setWindowTitle(localized("sChooseForClipboard"));
     setAccessibleName(windowTitle());
@@ -135,39 +135,11 @@ void ChooserWindow::open() {
     }
     program_.engine().readClipboardText(
         alive_.guard([this](std::optional<std::u16string> text) { setText(std::move(text)); }));
-    findPointer();
-}
-
-// Where no window is told where the pointer is, the popups are: one is asked for, but never drawn.
-void ChooserWindow::findPointer() {
-    const auto &layer = program_.parts().desktop.popupLayer.backend;
-    auto at = std::make_shared<std::optional<QPoint>>();
-    platform::Popup popup;
-    popup.width = 1;
-    popup.height = 1;
-    popup.atPointer = true;
-    popup.place = [at](const platform::PopupScreen &screen,
-                       std::optional<platform::PopupPoint> pointer) {
-        if (pointer) {
-            *at = QPoint(screen.origin.x + pointer->x, screen.origin.y + pointer->y);
-        }
-        return platform::PopupPoint();
-    };
-    popup.closed = alive_.guardOn(mainQueue_, [this, at] {
-        // It stays until the end: the compositor looks anew for who gets the keyboard when a
-        // surface goes.
-        if (open_ && !isVisible()) {
-            showAt(at->value_or(QCursor::pos()));
+    pointerSearch_.start([this](QPoint pointer) {
+        if (open_) {
+            showAt(pointer);
         }
     });
-    popup.draw = [closed = popup.closed](int scale) {
-        closed();
-        return platform::PopupPicture{scale, scale, scale, {}};
-    };
-    pointerSearch_ = layer ? layer->show(std::move(popup)) : nullptr;
-    if (!pointerSearch_) {
-        showAt(QCursor::pos());
-    }
 }
 
 void ChooserWindow::showAt(QPoint pointer) {
@@ -375,7 +347,7 @@ void ChooserWindow::changeEvent(QEvent *event) {
 
 void ChooserWindow::closeEvent(QCloseEvent *event) {
     open_ = false;
-    pointerSearch_.reset();
+    pointerSearch_.stop();
     mainQueue_.cancel(std::exchange(retry_, 0));
     if (grabs_ && windowHandle()) {
         windowHandle()->setMouseGrabEnabled(false);

@@ -6,8 +6,8 @@
 
 #include "platform/Alive.h"
 #include "platform/MainQueue.h"
-#include "platform/PopupLayer.h"
 #include "shell/ChooserItems.h"
+#include "shell/PointerSearch.h"
 #include "shell/ShownChanges.h"
 
 #include <QLabel>
@@ -54,7 +54,6 @@ class ChooserWindow final : public QWidget {
     };
 
     void arrange();
-    void findPointer();
     void showAt(QPoint pointer);
     void takeKeyboard();
     void stayActive();
@@ -76,7 +75,7 @@ class ChooserWindow final : public QWidget {
     QPlainTextEdit *before_;
     QPlainTextEdit *after_;
     QLabel *note_;
-    std::unique_ptr<platform::ShownPopup> pointerSearch_;
+    PointerSearch pointerSearch_;
     std::optional<std::u16string> text_; // of the clipboard
     Preview preview_;
     bool previewRuns_ = false;

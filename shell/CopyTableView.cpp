@@ -40,7 +40,8 @@ const LooksRow &rowOf(std::optional<Looks> looks) {
 } // namespace
 
 CopyTableView::CopyTableView(Program &program)
-    : program_(program)
+    : QGroupBox(localized("sCopyTable"))
+    , program_(program)
     , list_(new RowList) {
     describe(*list_, "copyTable", "sCopyTable", "sCopyTableTip");
     list_->setFixedHeight(shownRows * (list_->fontMetrics().height() + 6));

@@ -9,6 +9,7 @@
 #include "storage/SettingsStore.h"
 
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <functional>
@@ -20,7 +21,7 @@ namespace nerlo::shell {
 
 class Program;
 
-class CopyTableView final : public QWidget {
+class CopyTableView final : public QGroupBox {
     Q_OBJECT
 
   public:

@@ -9,6 +9,10 @@
 
 namespace nerlo::shell {
 
+std::string runtimeFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toStdString();
+}
+
 Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &workerQueue) {
     Desktop desktop;
     desktop.backends = std::make_unique<platform::Backends>(mainQueue);
@@ -21,10 +25,12 @@ Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &worke
     desktop.paster = desktop.backends->openPaster(layout);
     desktop.systemHotKeys = platform::createDesktopHotKeys(
         layout, workerQueue, mainQueue, platform::DesktopSources::system(applicationId));
-    const auto configFolder = QStandardPaths::writableLocation(QStandardPaths::ConfigLocation);
+    const auto autostart =
+        QStandardPaths::writableLocation(QStandardPaths::ConfigLocation).toStdString() +
+        "/autostart";
     desktop.loginItem = std::make_unique<platform::AutostartEntry>(
-        configFolder.toStdString() + "/autostart",
-        QCoreApplication::applicationFilePath().toStdString());
+        autostart, QCoreApplication::applicationFilePath().toStdString());
+    desktop.folders = {autostart, runtimeFolder()};
     return desktop;
 }
 

@@ -7,6 +7,8 @@
 #include "platform/backends/Backends.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace nerlo::shell {
 
@@ -23,7 +25,11 @@ struct Desktop {
     platform::Chosen<platform::Paster> paster;         // may be null
     std::unique_ptr<platform::SystemHotKeys> systemHotKeys;
     std::unique_ptr<platform::LoginItem> loginItem;
+    std::vector<std::string> folders{}; // where the program writes, besides those of the settings
 };
+
+// Where the session keeps what goes with it.
+std::string runtimeFolder();
 
 // Needs a QCoreApplication; the queues must outlive the result.
 Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &workerQueue);

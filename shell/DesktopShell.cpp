@@ -9,8 +9,8 @@
 #include "shell/PreferencesWindow.h"
 #include "shell/Program.h"
 #include "shell/Strings.h"
+#include "shell/TextWindow.h"
 #include "shell/TipsWindow.h"
-#include "shell/WhatsNewWindow.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -36,6 +36,17 @@ constexpr auto trayExpectedWithin = 2000ms;
 
 // The command that the notice tells users to bind to a key themselves.
 const auto cleanCommand = QStringLiteral("nerlo-pro --clean");
+
+// What a problem means to the user, where its text names a file and what the system said; else
+// null.
+const char *meaningOf(ShellWindows::Problem problem) {
+    using Problem = ShellWindows::Problem;
+    return problem == Problem::settings    ? "sSettingsNotSaved"
+           : problem == Problem::profiles  ? "sProfilesNotSaved"
+           : problem == Problem::loginItem ? "sLoginItemNotSet"
+           : problem == Problem::linkRules ? "sLinkRulesUnusable"
+                                           : nullptr;
+}
 
 // What a restore has come to, where it was not done as a whole.
 QString textOf(clipboard::nrChangePasterboard::Restored outcome) {
@@ -66,18 +77,21 @@ DesktopShell::DesktopShell(Program &program)
     , shortcutList_(program)
     , menu_(std::make_unique<StatusMenu>(program))
     , tray_(std::make_unique<TrayIcon>(menu_->menu()))
+    , pointer_(program.parts().desktop.popupLayer.backend.get(), program.parts().mainQueue)
     , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
     QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(), [this] {
         menu_->setShownOverBus(tray_->overBus());
         setProblem(Problem::tray, {});
         stateChanged(); // also of the taskbar, to which windows no longer need to have an entry
     });
-    QObject::connect(&menu_->menu(), &QMenu::aboutToHide, tray_.get(),
-                     [this] { menu_->setShownOverBus(tray_->overBus()); });
+    QObject::connect(&menu_->menu(), &QMenu::aboutToHide, tray_.get(), [this] {
+        pointer_.stop();
+        menu_->setShownOverBus(tray_->overBus());
+    });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
         if (platform::pointerPositionKnown()) {
             menu_->setShownOverBus(false);
-            menu_->menu().popup(QCursor::pos());
+            pointer_.start([this](QPoint at) { menu_->menu().popup(at); });
         } else {
             program_.showPreferences();
         }
@@ -319,7 +333,8 @@ bool DesktopShell::hasVisibleWindow() const {
 }
 
 std::vector<QWidget *> DesktopShell::windows() const {
-    std::vector<QWidget *> made{tipsController_.get(), whatsNewController_.get(), window_.get()};
+    std::vector<QWidget *> made{tipsController_.get(), whatsNewController_.get(), help_.get(),
+                                window_.get()};
     std::erase(made, nullptr);
     return made;
 }
@@ -373,17 +388,34 @@ void DesktopShell::showTips(bool firstStart) {
     present(*tipsController_);
 }
 
+std::unique_ptr<TextWindow> DesktopShell::makeTextWindow(const char *name, const QString &title,
+                                                         const QString &text) {
+    auto made = std::make_unique<TextWindow>(name, title, text, [this] { showTips(false); });
+    made->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
+    QObject::connect(made.get(), &QDialog::finished, made.get(),
+                     [this] { giveBackTheKeyboard(window_.get()); });
+    return made;
+}
+
 void DesktopShell::showWhatsNew() {
     if (!whatsNewController_) {
-        whatsNewController_ = std::make_unique<WhatsNewWindow>([this] { showTips(false); });
-        whatsNewController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
+        whatsNewController_ =
+            makeTextWindow("whatsNew", localized("sWhatsNewWindow"), localized("sWhatsNewText"));
         QObject::connect(whatsNewController_.get(), &QDialog::finished, whatsNewController_.get(),
-                         [this] {
-                             program_.store().set("updateReleaseNotes3_1", true);
-                             giveBackTheKeyboard(window_.get());
-                         });
+                         [this] { program_.store().set("updateReleaseNotes3_1", true); });
     }
     present(*whatsNewController_);
+}
+
+void DesktopShell::showHelp() {
+    if (!help_) {
+        help_ = makeTextWindow("help", localized(Table::menu, "Help"),
+                               filled(localized("sHelpText"),
+                                      {localized(settings::cleanHotKey),
+                                       localized(Table::menu, "Automatically clear formatting"),
+                                       localized(Table::menu, "Restore the original")}));
+    }
+    present(*help_);
 }
 
 void DesktopShell::showAbout() {
@@ -470,6 +502,9 @@ void DesktopShell::updateNotice() {
     }
     QStringList lines;
     for (const auto &[problem, text] : problems_) {
+        if (const char *meaning = meaningOf(problem)) {
+            lines.push_back(localized(meaning));
+        }
         lines.push_back(QString::fromStdString(text));
     }
     window_->setNotice(lines.join('\n'));

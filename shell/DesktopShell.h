@@ -7,6 +7,7 @@
 #include "platform/MainQueue.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
+#include "shell/PointerSearch.h"
 #include "shell/ShellWindows.h"
 #include "shell/ShortcutList.h"
 #include "shell/StatusMenu.h"
@@ -26,8 +27,8 @@ namespace nerlo::shell {
 class ChooserWindow;
 class PreferencesWindow;
 class Program;
+class TextWindow;
 class TipsWindow;
-class WhatsNewWindow;
 
 class DesktopShell final : public ShellWindows {
   public:
@@ -47,6 +48,7 @@ class DesktopShell final : public ShellWindows {
     // And which program the last copy came from.
     void updateProgram();
     void hidePreferences();
+    void showHelp();
     // Closes it where it is open.
     void showChooser();
     // Whether the preferences, when they are closed, must stay as an entry in the taskbar, because
@@ -74,6 +76,8 @@ class DesktopShell final : public ShellWindows {
     void quit() override;
 
   private:
+    std::unique_ptr<TextWindow> makeTextWindow(const char *name, const QString &title,
+                                               const QString &text);
     void inform(const QString &message, const QString &informative);
     void makePreferencesWindow();
     void connectPreferences();
@@ -96,6 +100,7 @@ class DesktopShell final : public ShellWindows {
     ShortcutList shortcutList_;
     std::unique_ptr<StatusMenu> menu_;
     std::unique_ptr<TrayIcon> tray_;
+    PointerSearch pointer_;                                // for a menu at the icon
     const std::unique_ptr<platform::TaskbarHint> taskbar_; // null where there is none
     std::unique_ptr<platform::TrayWatch> xembed_;
     std::map<Problem, std::string> problems_; // none is empty
@@ -103,7 +108,8 @@ class DesktopShell final : public ShellWindows {
     std::unique_ptr<PreferencesWindow> window_;
     std::unique_ptr<ChooserWindow> chooser_; // the last one
     std::unique_ptr<TipsWindow> tipsController_;
-    std::unique_ptr<WhatsNewWindow> whatsNewController_;
+    std::unique_ptr<TextWindow> whatsNewController_;
+    std::unique_ptr<TextWindow> help_;
     bool taskbarEntry_ = true;
     platform::MainQueue::TaskId settle_ = 0;
     storage::SettingsStore::Observation cleanShortcut_;

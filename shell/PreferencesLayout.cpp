@@ -118,6 +118,10 @@ std::string titleKey(const OptionRow &row) {
     return row.hotKey.empty() ? labelKey(row.key) : row.hotKey;
 }
 
+std::string commandText(std::string_view hotKey) {
+    return std::string(hotKey == "sStatistics" ? "sCountClipboard" : hotKey);
+}
+
 std::string labelKey(std::string_view settingsKey) {
     std::string key = stringKey(settingsKey);
     // The ten check boxes are numbered; the fields beside them need not be.

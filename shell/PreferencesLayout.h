@@ -31,6 +31,10 @@ const std::vector<PreferencesPage> &preferencesPages();
 // The key of a check box's title: for an operation the one that its shortcut has.
 std::string titleKey(const OptionRow &row);
 
+// The key of the text that says what a command does, by its shortcut's key. For most it is the
+// option's title; that of the statistics says what the option is switched on for.
+std::string commandText(std::string_view hotKey);
+
 // The keys of an option's texts in the standard string table. Options that come in tens share their
 // tooltips, and the names of their text fields.
 std::string labelKey(std::string_view settingsKey);

@@ -52,6 +52,8 @@ constexpr GeneralBox generalBoxes[] = {
      [](Delegate &delegate, bool) { delegate.automaticallyClearFormatting(); }, true},
     {"cleanAtOnce", "Clean right after the copy", "sCleanAtOnceTip", &Delegate::cleanAtOnceChecked,
      [](Delegate &delegate, bool on) { delegate.cleanAtOnce(on); }, true},
+    {"keepNoOriginal", "Keep no original", "sKeepNoOriginalTip", &Delegate::keepNoOriginalChecked,
+     [](Delegate &delegate, bool on) { delegate.keepNoOriginal(on); }, true},
     {"excelException", "Except copies from Excel", "sExceptSpreadsheetTip",
      &Delegate::excelException,
      [](Delegate &delegate, bool) { delegate.disableAutomaticallyClearFormatting(); }, true},
@@ -66,7 +68,7 @@ constexpr GeneralBox generalBoxes[] = {
     {"stayOnTop", "sStayOnTop", "sStayOnTopTip", &Delegate::stayOnTopChecked,
      [](Delegate &delegate, bool on) { delegate.aStayOnTop(on); }, false},
 };
-constexpr std::size_t showInMenuBarBox = 3; // dimmed while the program runs in the background
+constexpr std::size_t showInMenuBarBox = 4; // dimmed while the program runs in the background
 
 QCheckBox *makeBox(const char *name, const QString &title, const char *tipKey) {
     auto *box = new QCheckBox(title);
@@ -419,7 +421,7 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
     }
     copyTable_ = new CopyTableView(program_);
     connect(copyTable_, &CopyTableView::removed, this, [this] { tellDone({}); });
-    addGroup("sCopyTable")->addWidget(copyTable_);
+    layout->addWidget(copyTable_);
     layout->addStretch();
 
     generalTexts_ += ' ' + copyTable_->searchTexts();
@@ -435,7 +437,6 @@ void PreferencesWindow::addPage(const QString &title, QWidget *page, Filter filt
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setAccessibleName(title);
     // Not a stop of the Tab key: its controls are.
     scroll->setFocusPolicy(Qt::NoFocus);
     page->setAccessibleName(title);

@@ -6,6 +6,7 @@
 #include "settings/UserLocale.h"
 #include "shell/Doctor.h"
 #include "shell/HotKeyCommands.h"
+#include "shell/PreferencesLayout.h"
 #include "shell/Strings.h"
 #include "shell/Terminal.h"
 #include "shell/Why.h"
@@ -28,6 +29,19 @@ constexpr auto automaticKey = "automaticallyClearFormatting";
 bool isNeverIn(const clipboard::CopyRule &rule, const std::string &program) {
     return rule.leavesAlone() && rule.program == program && rule.format.empty() &&
            rule.host.empty() && !rule.looks;
+}
+
+// A file that could not be read: which one it is, and what becomes of it. What is wrong with it is
+// told on the terminal.
+QString damageText(const settings::SettingsPaths &paths, const std::string &damage) {
+    std::string file = damage;
+    for (const std::string &path : {paths.store, paths.profiles, paths.sharedFindReplace}) {
+        if (damage.starts_with(path + ":")) {
+            file = path;
+        }
+    }
+    return filled(localized("sFileUnreadable"), {QString::fromStdString(file)}) + ' ' +
+           localized("sFileDamaged");
 }
 
 } // namespace
@@ -122,7 +136,7 @@ void Program::tellDamages() {
     }
     QStringList lines;
     for (const auto &damage : damages) {
-        lines << QString::fromStdString(damage) + "\n" + localized("sFileDamaged");
+        lines << damageText(parts_.paths, damage);
         if (toldDamages_.insert(damage).second) {
             complain(damage);
         }
@@ -146,8 +160,8 @@ void Program::start() {
 void Program::registerHotKeys() {
     takesHotKeys_ = true;
     const auto bind = [this](std::string_view key, std::function<void()> run) {
-        hotKeys_.registerGlobalShortcutWithUserDefaultsKey(std::string(key), std::move(run),
-                                                           localized(key).toStdString());
+        hotKeys_.registerGlobalShortcutWithUserDefaultsKey(
+            std::string(key), std::move(run), localized(commandText(key)).toStdString());
     };
     bind(settings::cleanHotKey, [this] { clean(); });
     bind(settings::chooseHotKey, [this] { choose(); });
@@ -262,9 +276,9 @@ void Program::activate() {
 }
 
 std::string Program::doctor(bool sessionBus) const {
-    return doctorReport(
-        parts_.desktop, sessionBus,
-        RunningState{automatic(), hotKeyFindings(hotKeys_, shortcutTexts_.layout())});
+    return doctorReport(parts_.desktop, parts_.paths, sessionBus,
+                        RunningState{automatic(), parts_.desktop.backends->grabGetsAllKeys(),
+                                     hotKeyFindings(hotKeys_, shortcutTexts_.layout())});
 }
 
 std::string Program::why() const {

@@ -116,6 +116,7 @@ StatusMenu::StatusMenu(Program &program)
           add("restore", title("Restore the original"), [](Program &p) { p.windows().restore(); }))
     , preferences_(
           add("preferences", title("Preferences…"), [](Program &p) { p.showPreferences(); }))
+    , help_(add("help", title("Help"), [](Program &p) { p.windows().showHelp(); }))
     , tips_(add("tips", title("Tips"), [](Program &p) { p.delegate().aOpenTips(); }))
     , whatsNew_(add("whatsNew", title("What's new"),
                     [](Program &p) { p.delegate().openReleaseNotesNerloPro(); }))
@@ -131,6 +132,7 @@ StatusMenu::StatusMenu(Program &program)
     never_->setCheckable(true);
     never_->setEnabled(false);
     preferences_->setShortcut(QKeySequence(preferencesKeys));
+    help_->setShortcut(QKeySequence(Qt::Key_F1));
     quit_->setShortcut(QKeySequence(quitKeys));
     quit_->setMenuRole(QAction::NoRole);
     // The hot key itself works everywhere; in the menu it is only shown.
@@ -153,7 +155,7 @@ StatusMenu::StatusMenu(Program &program)
     statusMenu_->addMenu(operations_.get());
     statusMenu_->addMenu(trayProfiles_.get());
     statusMenu_->addSeparator();
-    statusMenu_->addActions({preferences_, tips_, whatsNew_});
+    statusMenu_->addActions({preferences_, help_, tips_, whatsNew_});
     statusMenu_->addSeparator();
     statusMenu_->addActions({rate_, support_, email_, about_});
     statusMenu_->addSeparator();
@@ -181,7 +183,7 @@ void StatusMenu::makeOperations() {
             if (operation == engine::operations().end()) {
                 continue;
             }
-            auto *action = menu->addAction(escaped(localized(operation->hotKey)));
+            auto *action = menu->addAction(escaped(localized(commandText(operation->hotKey))));
             action->setObjectName("operation" + QString::number(operation->index));
             connect(action, &QAction::triggered, this,
                     [this, index = operation->index] { program_.runOperation(index); });
@@ -230,7 +232,7 @@ void StatusMenu::fillMenuBar(QMenuBar &bar) {
     bar.addMenu(titles[2])->addActions(QList<QAction *>(edit_.begin(), edit_.end()));
     QMenu *help = bar.addMenu(titles[3]);
     help->setToolTipsVisible(true);
-    help->addActions({tips_, whatsNew_, support_, email_});
+    help->addActions({help_, tips_, whatsNew_, support_, email_});
 }
 
 void StatusMenu::setAutomatic(bool on) {

@@ -73,6 +73,7 @@ class StatusMenu final : public QObject {
     QAction *restore_;
     QString restorable_;
     QAction *preferences_;
+    QAction *help_;
     QAction *tips_;
     QAction *whatsNew_;
     QAction *rate_;

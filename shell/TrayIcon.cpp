@@ -6,7 +6,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusReply>
 #include <QDBusServiceWatcher>
 #include <QGuiApplication>
 #include <QPalette>
@@ -41,7 +41,26 @@ bool panelColoursIcons() {
     return desktops.contains("KDE") || desktops.contains("GNOME");
 }
 
+// Whether a host of status items is registered.
+QDBusMessage hostQuestion() {
+    auto call = QDBusMessage::createMethodCall(watcherName, watcherPath,
+                                               QStringLiteral("org.freedesktop.DBus.Properties"),
+                                               QStringLiteral("Get"));
+    call.setAutoStartService(false);
+    call.setArguments({watcherName, QStringLiteral("IsStatusNotifierHostRegistered")});
+    return call;
+}
+
+bool saysYes(const QDBusReply<QVariant> &reply) {
+    return reply.isValid() && reply.value().toBool();
+}
+
 } // namespace
+
+bool trayHostIsThere() {
+    constexpr int patience = 1000; // in milliseconds
+    return saysYes(QDBusConnection::sessionBus().call(hostQuestion(), QDBus::Block, patience));
+}
 
 TrayIcon::TrayIcon(QMenu &menu)
     : menu_(menu)
@@ -77,17 +96,11 @@ void TrayIcon::lookForHost() {
     if (hostSeen_) {
         return;
     }
-    auto call = QDBusMessage::createMethodCall(watcherName, watcherPath,
-                                               QStringLiteral("org.freedesktop.DBus.Properties"),
-                                               QStringLiteral("Get"));
-    call.setAutoStartService(false);
-    call.setArguments({watcherName, QStringLiteral("IsStatusNotifierHostRegistered")});
     auto *waiting =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(hostQuestion()), this);
     connect(waiting, &QDBusPendingCallWatcher::finished, this, [this, waiting] {
         waiting->deleteLater();
-        const QDBusPendingReply<QVariant> reply = *waiting;
-        if (!reply.isError() && reply.value().toBool()) {
+        if (saysYes(waiting->reply())) {
             overBus_ = !statusItem_ || overBus_;
             trayAppeared();
         }

@@ -19,6 +19,9 @@ namespace nerlo::shell {
 
 enum class TrayState { idle, automatic, problem };
 
+// Whether a panel shows status items now. Waits for a second at most.
+bool trayHostIsThere();
+
 class TrayIcon final : public QObject {
     Q_OBJECT
 

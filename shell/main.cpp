@@ -24,7 +24,6 @@
 #include <QApplication>
 #include <QDBusConnection>
 #include <QLocale>
-#include <QStandardPaths>
 #include <QSysInfo>
 
 namespace {
@@ -38,14 +37,10 @@ using shell::succeeded;
 constexpr auto unreachable = "a nerlo-pro runs on this display, but not on this session bus, so it "
                              "cannot be told anything; end it from its menu, or with kill";
 
-std::string runtimeFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toStdString();
-}
-
 // Answers requests that need no running program. Nothing is returned if the program is to start.
 std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
     if (commandLine.asksFor(Command::quit)) {
-        const platform::DisplayLock display(runtimeFolder());
+        const platform::DisplayLock display(shell::runtimeFolder());
         return display.heldByAnother() ? complain(unreachable) : succeeded;
     }
     if (commandLine.asksFor(Command::restore)) {
@@ -58,8 +53,8 @@ std::optional<int> withoutProgram(const shell::CommandLine &commandLine) {
     platform::QtWorkerQueue workerQueue;
     if (commandLine.asksFor(Command::doctor)) {
         const auto desktop = shell::openDesktop(mainQueue, workerQueue);
-        std::cout << shell::doctorReport(desktop, QDBusConnection::sessionBus().isConnected(),
-                                         std::nullopt);
+        std::cout << shell::doctorReport(desktop, settings::SettingsPaths::standard(),
+                                         QDBusConnection::sessionBus().isConnected(), {});
         return desktop.clipboard.backend ? succeeded : failed;
     }
     // Without a display the toolkit's application object would abort the process.
@@ -148,7 +143,7 @@ int main(int argc, char **argv) {
     shell::installTranslations(*QCoreApplication::instance(), QLocale::system());
 
     shell::BusService bus;
-    platform::DisplayLock display(runtimeFolder());
+    platform::DisplayLock display(shell::runtimeFolder());
     if (const auto status = becomeTheOne(bus, display, commandLine)) {
         return *status;
     }

@@ -257,8 +257,28 @@
         <translation>لا يعرض سطح المكتب هذا صينية نظام، لذا تُفتح هذه النافذة عند كل تشغيل.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>تتعذر قراءة «%@».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>يبدأ محتواه من جديد. يُحفظ الملف التالف بجانب موضعه، وفي اسمه «.unreadable-» والوقت.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>لم تُحفظ الإعدادات:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>لم تُحفظ ملفات الإعدادات:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>تعذر تغيير البدء عند تسجيل الدخول:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>ملف قواعد الروابط غير مستخدم:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>قبل: تُنظَّف النسخة خلال نصف ثانية.
 بعد: تُنظَّف النسخة فورًا.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>قبل: يُحتفظ بالأصل عشر دقائق لتمكن استعادته.
+بعد: لا يُطلب من البرنامج الآخر إلا النص، ولا شيء يُستعاد.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>إظهار الإحصاءات بعد التنظيف</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>عدّ محتوى الحافظة</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1638,8 +1667,52 @@
         <translation>الجديد في Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### انسخ، نظّف، الصق
+
+انسخ نصًا، ثم اختر «%@» من قائمة الأيقونة أو اضغط اختصارها، ثم الصق. التفضيلات تحدد ما يُنظَّف، والمعاينة تُظهره على نص.
+
+### تلقائيًا
+
+«%@» ينظّف كل نسخة. تبقى الروابط والملفات والصور وكلمات المرور كما هي.
+
+### العودة إلى الأصل
+
+«%@» يعيد ما نُسخ مع تنسيقه، خلال عشر دقائق.
+
+### عملية واحدة
+
+في القائمة كل عملية على حدة. مع `nerlo-pro --choose` اكتب ما تبحث عنه، وشاهد النتيجة، واضغط Enter.
+
+### ملفات الإعدادات
+
+ملف الإعدادات مجموعة خيارات. بدّله من القائمة أو من أعلى التفضيلات.
+
+### المفاتيح في التفضيلات
+
+Ctrl+F للبحث في الخيارات، وCtrl+Z للتراجع، وF1 لفتح هذه المساعدة.
+
+### عندما لا يعمل شيء
+
+`nerlo-pro --doctor` في الطرفية يذكر ما ينقص سطح المكتب هذا، و`nerlo-pro --why` ما آلت إليه آخر نسخة. والباقي في `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>اعرض التلميحات</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **ملفات إعدادات جاهزة**: لملفات PDF والبريد وصفحات الويب والطرفية وإجابات المساعد والشيفرة.
+- **الملف المناسب تلقائيًا**: جدول في صفحة «عام» يحدد أي ملف ينظّف أي نسخة.
+- **الشيفرة والجداول والقوائم**: يمكن أن تبقى كما هي.
+- **عمليات جديدة**: فك مخرجات الطرفية، وإصلاح الترميز الخاطئ، وتنظيف المحارف الخفية، ووصل الكلمات المقطوعة، وتنظيف الروابط.
+- **المنتقي**: `nerlo-pro --choose` يجد العملية أثناء الكتابة ويُظهر النص قبلها وبعدها.
+- **البحث والاستبدال**: للقواعد عينات وعدّاد، ويمكن نسخها واستيرادها وتصديرها.
+- **المعاينة**: تسمّي الخطوة التي أحدثت التغيير وتقود إلى خيارها.
+- **التراجع**: يعيد Ctrl+Z تغييرات الخيارات والقواعد والملفات.
+- **الاستعادة**: تسمّي ما ستعيده.
+- **الاختصارات**: تُسمّى بأسماء المفاتيح، وتعمل في KDE مع Wayland.
+- **في الطرفية**: `nerlo check` و`--explain` وأنابيب بلا نهاية وJSON Lines ومكتبة لـ C وPython.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2056,6 +2129,10 @@
         <translation>التنظيف فور النسخ</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>عدم الاحتفاظ بالأصل</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>ما عدا النسخ من Excel</translation>
     </message>
@@ -2114,7 +2191,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>امحُ</translation>
+        <translation>تنظيف</translation>
     </message>
     <message>
         <source>Edit</source>

@@ -257,8 +257,28 @@
         <translation>Diese Arbeitsumgebung zeigt keinen Infobereich, darum öffnet sich dieses Fenster bei jedem Start.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>„%@“ lässt sich nicht lesen.</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Was darin stand, beginnt neu. Die beschädigte Datei liegt daneben, mit „.unreadable-“ und der Zeit im Namen.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Die Einstellungen sind nicht gespeichert:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Die Profile sind nicht gespeichert:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Der Start bei der Anmeldung ließ sich nicht ändern:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Die Datei mit Regeln für Links wird nicht verwendet:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Nachher: Jede Kopie wird von selbst bereinigt.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Vorher: Eine Kopie wird innerhalb einer halben Sekunde bereinigt.
 Nachher: Eine Kopie wird sofort bereinigt.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Vorher: Das Original wird zehn Minuten aufbewahrt und lässt sich zurückholen.
+Nachher: Das andere Programm wird nur nach dem Text gefragt, und nichts lässt sich zurückholen.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Nachher, mit /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Nach dem Bereinigen die Statistik zeigen</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Zwischenablage zählen</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Nachher: Sie öffnen sich bei jedem Start von Nerlo Pro.</translation>
         <translation>Neues in Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Kopieren, bereinigen, einfügen
+
+Kopieren Sie einen Text, wählen Sie „%@“ im Menü des Infobereichs oder drücken Sie das Tastenkürzel, und fügen Sie ein. Was bereinigt wird, steht in den Einstellungen; die Vorschau zeigt es an einem Text.
+
+### Von selbst
+
+„%@“ bereinigt jede Kopie. Links, Dateien, Bilder und Passwörter bleiben, wie sie sind.
+
+### Zurück zum Original
+
+„%@“ bringt zehn Minuten lang zurück, was kopiert wurde, samt Formatierung.
+
+### Ein einzelner Vorgang
+
+Das Menü hat jeden Vorgang für sich. Mit `nerlo-pro --choose` tippen Sie, was Sie suchen, sehen das Ergebnis und drücken die Eingabetaste.
+
+### Profile
+
+Ein Profil ist ein Satz von Optionen. Gewechselt wird im Menü oder oben in den Einstellungen.
+
+### Tasten in den Einstellungen
+
+Strg+F sucht Optionen, Strg+Z macht rückgängig, F1 öffnet diese Hilfe.
+
+### Wenn etwas nicht geht
+
+`nerlo-pro --doctor` in einem Terminal nennt, was diesem Desktop fehlt, `nerlo-pro --why`, was aus der letzten Kopie wurde. Den Rest hat `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Tipps anzeigen</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Fertige Profile**: für PDF, Mail, Webseiten, Terminal, Antworten eines Assistenten und Code.
+- **Das richtige Profil von selbst**: Eine Tabelle auf der Seite Allgemein sagt, welches Profil welche Kopie bereinigt.
+- **Code, Tabellen und Listen**: können bleiben, wie sie sind.
+- **Neue Vorgänge**: Terminalausgaben auflösen, falsche Kodierung reparieren, unsichtbare Zeichen bereinigen, getrennte Wörter verbinden, Links bereinigen.
+- **Die Auswahl**: `nerlo-pro --choose` findet beim Tippen einen Vorgang und zeigt den Text vorher und nachher.
+- **Suchen und Ersetzen**: Regeln haben Proben und Zähler und lassen sich kopieren, importieren und exportieren.
+- **Die Vorschau**: nennt den Schritt, der etwas geändert hat, und führt zu seiner Option.
+- **Rückgängig**: Strg+Z nimmt Änderungen an Optionen, Regeln und Profilen zurück.
+- **Zurückholen**: nennt, was zurückkommt.
+- **Tastenkürzel**: heißen wie die Tasten und gehen auch in KDE mit Wayland.
+- **Im Terminal**: `nerlo check`, `--explain`, Pipes ohne Ende, JSON Lines und eine Bibliothek für C und Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2057,6 +2130,10 @@ MIT-Lizenz</translation>
         <translation>Gleich nach dem Kopieren bereinigen</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>Kein Original aufbewahren</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>Außer bei Kopien aus Excel</translation>
     </message>
@@ -2115,7 +2192,7 @@ MIT-Lizenz</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>Leeren</translation>
+        <translation>Bereinigen</translation>
     </message>
     <message>
         <source>Edit</source>

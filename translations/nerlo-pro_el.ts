@@ -257,8 +257,28 @@
         <translation>Αυτό το περιβάλλον δεν έχει περιοχή ειδοποιήσεων, γι’ αυτό το παράθυρο ανοίγει σε κάθε εκκίνηση.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Δεν είναι δυνατή η ανάγνωση του «%@».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Το περιεχόμενό του ξεκινά από την αρχή. Το κατεστραμμένο αρχείο φυλάσσεται δίπλα, με «.unreadable-» και την ώρα στο όνομά του.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Οι ρυθμίσεις δεν αποθηκεύτηκαν:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Τα προφίλ δεν αποθηκεύτηκαν:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Η εκκίνηση κατά τη σύνδεση δεν άλλαξε:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Το αρχείο κανόνων για συνδέσμους δεν χρησιμοποιείται:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>Πριν: ένα αντίγραφο καθαρίζεται μέσα σε μισό δευτερόλεπτο.
 Μετά: ένα αντίγραφο καθαρίζεται αμέσως.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Πριν: το πρωτότυπο φυλάσσεται δέκα λεπτά για επαναφορά.
+Μετά: από το άλλο πρόγραμμα ζητείται μόνο το κείμενο και τίποτα δεν επαναφέρεται.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>Εμφάνιση στατιστικών μετά τον καθαρισμό</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Καταμέτρηση του προχείρου</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@
         <translation>Τι νέο υπάρχει στο Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Αντιγραφή, καθαρισμός, επικόλληση
+
+Αντιγράψτε ένα κείμενο, επιλέξτε «%@» στο μενού του εικονιδίου ή πατήστε τη συντόμευσή του και επικολλήστε. Οι προτιμήσεις λένε τι καθαρίζεται· η προεπισκόπηση το δείχνει σε ένα κείμενο.
+
+### Αυτόματα
+
+«%@» καθαρίζει κάθε αντίγραφο. Σύνδεσμοι, αρχεία, εικόνες και κωδικοί μένουν όπως είναι.
+
+### Πίσω στο πρωτότυπο
+
+«%@» φέρνει πίσω ό,τι αντιγράφηκε, με τη μορφοποίησή του, για δέκα λεπτά.
+
+### Μία λειτουργία
+
+Το μενού έχει κάθε λειτουργία χωριστά. Με το `nerlo-pro --choose` γράφετε τι ψάχνετε, βλέπετε το αποτέλεσμα και πατάτε Enter.
+
+### Προφίλ
+
+Ένα προφίλ είναι ένα σύνολο επιλογών. Αλλάζει στο μενού ή στην κορυφή των προτιμήσεων.
+
+### Πλήκτρα στις προτιμήσεις
+
+Ctrl+F ψάχνει επιλογές, Ctrl+Z αναιρεί, F1 ανοίγει αυτή τη βοήθεια.
+
+### Όταν κάτι δεν λειτουργεί
+
+`nerlo-pro --doctor` σε τερματικό λέει τι λείπει από αυτή την επιφάνεια εργασίας, `nerlo-pro --why` τι έγινε το τελευταίο αντίγραφο. Τα υπόλοιπα στο `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Εμφάνιση συμβουλών</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Έτοιμα προφίλ**: για PDF, αλληλογραφία, ιστοσελίδες, τερματικό, απαντήσεις βοηθού και κώδικα.
+- **Το σωστό προφίλ αυτόματα**: ένας πίνακας στη σελίδα Γενικά λέει ποιο προφίλ καθαρίζει ποιο αντίγραφο.
+- **Κώδικας, πίνακες και λίστες**: μπορούν να μείνουν όπως είναι.
+- **Νέες λειτουργίες**: έξοδος τερματικού, λάθος κωδικοποίηση, αόρατοι χαρακτήρες, κομμένες λέξεις, σύνδεσμοι.
+- **Ο επιλογέας**: το `nerlo-pro --choose` βρίσκει μια λειτουργία όσο γράφετε και δείχνει το κείμενο πριν και μετά.
+- **Εύρεση και αντικατάσταση**: οι κανόνες έχουν δείγματα και μετρητές, και αντιγράφονται, εισάγονται και εξάγονται.
+- **Η προεπισκόπηση**: λέει ποιο βήμα έκανε μια αλλαγή και οδηγεί στην επιλογή του.
+- **Αναίρεση**: το Ctrl+Z παίρνει πίσω αλλαγές σε επιλογές, κανόνες και προφίλ.
+- **Επαναφορά**: λέει τι φέρνει πίσω.
+- **Συντομεύσεις**: λέγονται όπως τα πλήκτρα και λειτουργούν στο KDE με Wayland.
+- **Στο τερματικό**: `nerlo check`, `--explain`, σωληνώσεις χωρίς τέλος, JSON Lines και βιβλιοθήκη για C και Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2057,6 +2130,10 @@
         <translation>Καθαρισμός αμέσως μετά την αντιγραφή</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>Να μη φυλάσσεται το πρωτότυπο</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>Εκτός από αντίγραφα του Excel</translation>
     </message>
@@ -2115,7 +2192,7 @@
     </message>
     <message>
         <source>Clear</source>
-        <translation>Εκκαθάριση</translation>
+        <translation>Καθαρισμός</translation>
     </message>
     <message>
         <source>Edit</source>

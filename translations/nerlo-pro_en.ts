@@ -258,8 +258,29 @@
         <translation>This desktop shows no tray, so this window opens at each start.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <extracomment>%@ is a file.</extracomment>
+        <translation>“%@” cannot be read.</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>What it held begins anew. The damaged file is kept beside its place, with “.unreadable-” and the time in its name.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>The settings are not saved:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>The profiles are not saved:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>The start at login could not be changed:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>The file of rules for links is not used:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -314,6 +335,11 @@ After: every copy is cleaned by itself.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Before: a copy is cleaned within half a second.
 After: a copy is cleaned at once.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Before: the original is kept for ten minutes, to be restored.
+After: the other program is asked for the text alone, and nothing can be restored.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -404,6 +430,11 @@ After, with /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Show the statistics after a clean</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <extracomment>The command; sStatistics is the option.</extracomment>
+        <translation>Count the clipboard</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1648,8 +1679,54 @@ After: they open each time Nerlo Pro starts.</translation>
         <translation>What&apos;s new in Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <extracomment>Markdown. %@ are three titles of the menu: clean, automatic cleaning, restore.</extracomment>
+        <translation>### Copy, clean, paste
+
+Copy a text, choose “%@” in the tray menu or press its shortcut, and paste. The preferences say what is cleaned; the preview shows it on a text.
+
+### By itself
+
+“%@” cleans every copy. Links, files, pictures and passwords are left alone.
+
+### Back to the original
+
+“%@” brings back what was copied, with its formatting, for ten minutes.
+
+### One operation
+
+The tray menu has each operation by itself. With `nerlo-pro --choose` you type what you look for, see the result and press Enter.
+
+### Profiles
+
+A profile is a set of options. Switch it in the tray menu or at the top of the preferences.
+
+### Keys in the preferences
+
+Ctrl+F searches the options, Ctrl+Z takes back, F1 opens this help.
+
+### When something does not work
+
+`nerlo-pro --doctor` in a terminal names what this desktop lacks, `nerlo-pro --why` what became of the last copy. `man nerlo-pro` has the rest.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Show the tips</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <extracomment>Markdown. The whole list is in CHANGELOG.md.</extracomment>
+        <translation>- **Ready profiles**: for PDF, mail, web pages, the terminal, an assistant’s answers and code.
+- **The right profile by itself**: a table on the page General says which profile cleans which copy.
+- **Code, tables and lists**: can be left as they are.
+- **New operations**: take apart terminal output, repair wrong encoding, clean invisible characters, rejoin cut words, and clean links.
+- **The chooser**: `nerlo-pro --choose` finds an operation as you type and shows the text before and after.
+- **Find and replace**: rules have samples and counts, and can be copied, imported and exported.
+- **The preview**: names the step that made a change and leads to its option.
+- **Undo**: Ctrl+Z takes back changes of options, rules and profiles.
+- **Restore**: names what it brings back.
+- **Shortcuts**: are called by the names on the keys, and work on KDE with Wayland.
+- **In the terminal**: `nerlo check`, `--explain`, pipes without end, JSON Lines, and a library for C and Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2072,6 +2149,10 @@ MIT licence</translation>
     <message>
         <source>Clean right after the copy</source>
         <translation>Clean right after the copy</translation>
+    </message>
+    <message>
+        <source>Keep no original</source>
+        <translation>Keep no original</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

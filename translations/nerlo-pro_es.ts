@@ -257,8 +257,28 @@
         <translation>Este escritorio no muestra una bandeja, así que esta ventana se abre en cada inicio.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>No se puede leer «%@».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Su contenido empieza de nuevo. El archivo dañado se conserva al lado, con «.unreadable-» y la hora en su nombre.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Los ajustes no se han guardado:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Los perfiles no se han guardado:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>No se pudo cambiar el inicio con la sesión:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>El archivo de reglas para enlaces no se usa:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Después: cada copia se limpia sola.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Antes: una copia se limpia en medio segundo.
 Después: una copia se limpia al instante.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Antes: el original se conserva diez minutos para restaurarlo.
+Después: al otro programa solo se le pide el texto y no se puede restaurar nada.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Después, con /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Mostrar las estadísticas después de limpiar</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Contar el portapapeles</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Después: se abren cada vez que se inicia Nerlo Pro.</translation>
         <translation>Novedades de Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Copiar, limpiar, pegar
+
+Copie un texto, elija «%@» en el menú de la bandeja o pulse su atajo, y pegue. Las preferencias dicen qué se limpia; la vista previa lo muestra en un texto.
+
+### Por sí solo
+
+«%@» limpia cada copia. Los enlaces, archivos, imágenes y contraseñas no se tocan.
+
+### Volver al original
+
+«%@» devuelve lo que se copió, con su formato, durante diez minutos.
+
+### Una sola operación
+
+El menú tiene cada operación por separado. Con `nerlo-pro --choose` escriba lo que busca, vea el resultado y pulse Intro.
+
+### Perfiles
+
+Un perfil es un conjunto de opciones. Se cambia en el menú o arriba en las preferencias.
+
+### Teclas en las preferencias
+
+Ctrl+F busca opciones, Ctrl+Z deshace, F1 abre esta ayuda.
+
+### Cuando algo no funciona
+
+`nerlo-pro --doctor` en un terminal dice qué le falta a este escritorio, `nerlo-pro --why` qué fue de la última copia. Lo demás está en `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Mostrar los consejos</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Perfiles listos**: para PDF, correo, páginas web, terminal, respuestas de un asistente y código.
+- **El perfil adecuado por sí solo**: una tabla en la página General dice qué perfil limpia qué copia.
+- **Código, tablas y listas**: pueden quedarse como están.
+- **Operaciones nuevas**: salida de terminal, codificación errónea, caracteres invisibles, palabras cortadas y enlaces.
+- **El selector**: `nerlo-pro --choose` encuentra una operación mientras escribe y muestra el texto antes y después.
+- **Buscar y reemplazar**: las reglas tienen muestras y recuentos, y se copian, importan y exportan.
+- **La vista previa**: dice qué paso hizo un cambio y lleva a su opción.
+- **Deshacer**: Ctrl+Z revierte cambios de opciones, reglas y perfiles.
+- **Restaurar**: dice qué devuelve.
+- **Atajos**: se llaman como las teclas y funcionan en KDE con Wayland.
+- **En el terminal**: `nerlo check`, `--explain`, tuberías sin fin, JSON Lines y una biblioteca para C y Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2055,6 +2128,10 @@ Licencia MIT</translation>
     <message>
         <source>Clean right after the copy</source>
         <translation>Limpiar justo después de copiar</translation>
+    </message>
+    <message>
+        <source>Keep no original</source>
+        <translation>No conservar el original</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -257,8 +257,28 @@
         <translation>Ce bureau n’a pas de zone de notification ; cette fenêtre s’ouvre donc à chaque démarrage.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Impossible de lire « %@ ».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Son contenu repart de zéro. Le fichier endommagé est conservé à côté, avec « .unreadable- » et l’heure dans son nom.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Les réglages ne sont pas enregistrés :</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Les profils ne sont pas enregistrés :</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Le démarrage à la connexion n’a pas pu être changé :</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Le fichier de règles pour les liens n’est pas utilisé :</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Après : chaque copie est nettoyée toute seule.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Avant : une copie est nettoyée en moins d’une demi-seconde.
 Après : une copie est nettoyée aussitôt.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Avant : l’original est gardé dix minutes, pour être restauré.
+Après : on ne demande que le texte à l’autre programme, et rien ne peut être restauré.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Après, avec / : a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Afficher les statistiques après un nettoyage</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Compter le presse-papiers</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Après : elles s’ouvrent à chaque démarrage de Nerlo Pro.</translation>
         <translation>Nouveautés de Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Copier, nettoyer, coller
+
+Copiez un texte, choisissez « %@ » dans le menu de l’icône ou appuyez sur son raccourci, puis collez. Les préférences disent ce qui est nettoyé ; l’aperçu le montre sur un texte.
+
+### De lui-même
+
+« %@ » nettoie chaque copie. Les liens, fichiers, images et mots de passe restent tels quels.
+
+### Revenir à l’original
+
+« %@ » ramène ce qui a été copié, avec sa mise en forme, pendant dix minutes.
+
+### Une seule opération
+
+Le menu a chaque opération à part. Avec `nerlo-pro --choose`, tapez ce que vous cherchez, voyez le résultat et appuyez sur Entrée.
+
+### Profils
+
+Un profil est un jeu d’options. On en change dans le menu ou en haut des préférences.
+
+### Touches dans les préférences
+
+Ctrl+F cherche des options, Ctrl+Z annule, F1 ouvre cette aide.
+
+### Quand quelque chose ne marche pas
+
+`nerlo-pro --doctor` dans un terminal dit ce qui manque à ce bureau, `nerlo-pro --why` ce qu’est devenue la dernière copie. Le reste est dans `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Afficher les astuces</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Des profils prêts**: pour PDF, courrier, pages web, terminal, réponses d’un assistant et code.
+- **Le bon profil de lui-même**: un tableau de la page Général dit quel profil nettoie quelle copie.
+- **Code, tableaux et listes**: peuvent rester tels quels.
+- **Nouvelles opérations**: sorties de terminal, mauvais codage, caractères invisibles, mots coupés et liens.
+- **Le sélecteur**: `nerlo-pro --choose` trouve une opération à la frappe et montre le texte avant et après.
+- **Rechercher et remplacer**: les règles ont des exemples et des compteurs, se copient, s’importent et s’exportent.
+- **L’aperçu**: nomme l’étape qui a fait un changement et mène à son option.
+- **Annuler**: Ctrl+Z reprend les changements d’options, de règles et de profils.
+- **Restaurer**: nomme ce qui revient.
+- **Les raccourcis**: portent les noms des touches et marchent sous KDE avec Wayland.
+- **Dans le terminal**: `nerlo check`, `--explain`, tubes sans fin, JSON Lines et une bibliothèque pour C et Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2057,6 +2130,10 @@ Licence MIT</translation>
         <translation>Nettoyer dès la copie</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>Ne pas garder l’original</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>Sauf les copies depuis Excel</translation>
     </message>
@@ -2115,7 +2192,7 @@ Licence MIT</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>Effacer</translation>
+        <translation>Nettoyer</translation>
     </message>
     <message>
         <source>Edit</source>

@@ -257,8 +257,28 @@
         <translation>Questo desktop non mostra un vassoio, perciò questa finestra si apre a ogni avvio.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Impossibile leggere «%@».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Il suo contenuto riparte da zero. Il file danneggiato è conservato accanto, con “.unreadable-” e l’ora nel nome.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Le impostazioni non sono salvate:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>I profili non sono salvati:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>L’avvio all’accesso non è stato cambiato:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Il file di regole per i link non viene usato:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Dopo: ogni copia viene ripulita da sola.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Prima: una copia viene ripulita entro mezzo secondo.
 Dopo: una copia viene ripulita subito.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Prima: l’originale viene conservato dieci minuti per poterlo ripristinare.
+Dopo: all’altro programma si chiede solo il testo e nulla può essere ripristinato.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Dopo, con /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Mostra le statistiche dopo la pulizia</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Conta gli appunti</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Dopo: si aprono a ogni avvio di Nerlo Pro.</translation>
         <translation>Novità in Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Copiare, ripulire, incollare
+
+Copia un testo, scegli «%@» nel menu dell’icona o premi la sua scorciatoia, e incolla. Le preferenze dicono che cosa viene ripulito; l’anteprima lo mostra su un testo.
+
+### Da sé
+
+«%@» ripulisce ogni copia. Link, file, immagini e password restano come sono.
+
+### Tornare all’originale
+
+«%@» riporta ciò che era stato copiato, con la sua formattazione, per dieci minuti.
+
+### Una sola operazione
+
+Il menu ha ogni operazione a sé. Con `nerlo-pro --choose` scrivi che cosa cerchi, vedi il risultato e premi Invio.
+
+### Profili
+
+Un profilo è un insieme di opzioni. Si cambia nel menu o in alto nelle preferenze.
+
+### Tasti nelle preferenze
+
+Ctrl+F cerca le opzioni, Ctrl+Z annulla, F1 apre questo aiuto.
+
+### Quando qualcosa non funziona
+
+`nerlo-pro --doctor` in un terminale dice che cosa manca a questo desktop, `nerlo-pro --why` che ne è stato dell’ultima copia. Il resto è in `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Mostra i suggerimenti</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Profili pronti**: per PDF, posta, pagine web, terminale, risposte di un assistente e codice.
+- **Il profilo giusto da sé**: una tabella nella pagina Generale dice quale profilo ripulisce quale copia.
+- **Codice, tabelle ed elenchi**: possono restare come sono.
+- **Nuove operazioni**: uscite del terminale, codifica errata, caratteri invisibili, parole spezzate e link.
+- **Il selettore**: `nerlo-pro --choose` trova un’operazione mentre scrivi e mostra il testo prima e dopo.
+- **Trova e sostituisci**: le regole hanno esempi e contatori, e si copiano, importano ed esportano.
+- **L’anteprima**: dice quale passo ha fatto una modifica e porta alla sua opzione.
+- **Annulla**: Ctrl+Z riprende le modifiche a opzioni, regole e profili.
+- **Ripristina**: dice che cosa torna.
+- **Scorciatoie**: si chiamano come i tasti e funzionano in KDE con Wayland.
+- **Nel terminale**: `nerlo check`, `--explain`, pipe senza fine, JSON Lines e una libreria per C e Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2057,6 +2130,10 @@ Licenza MIT</translation>
         <translation>Ripulisci subito dopo la copia</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>Non conservare l’originale</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>Tranne le copie da Excel</translation>
     </message>
@@ -2115,7 +2192,7 @@ Licenza MIT</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>Svuota</translation>
+        <translation>Ripulisci</translation>
     </message>
     <message>
         <source>Edit</source>

@@ -257,8 +257,28 @@
         <translation>このデスクトップにはトレイがないため、起動のたびにこのウィンドウが開きます。</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>「%@」を読めません。</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>その内容は最初からやり直しになります。壊れたファイルは、名前に「.unreadable-」と時刻を付けて元の場所の隣に残されています。</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>設定を保存できません：</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>プロファイルを保存できません：</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>ログイン時の起動を変更できません：</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>リンクの規則のファイルは使われません：</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>前：コピーは半秒以内に整形されます。
 後：コピーはすぐに整形されます。</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>前：元の内容は 10 分間残り、戻せます。
+後：相手のプログラムにはテキストだけを求め、元には戻せません。</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>整形後に統計を表示</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>クリップボードを数える</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1638,8 +1667,52 @@
         <translation>Nerlo Pro の新機能</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### コピー、整形、貼り付け
+
+テキストをコピーし、トレイのメニューで「%@」を選ぶかショートカットを押して、貼り付けます。何を整形するかは環境設定で決め、プレビューで確かめます。
+
+### 自動で
+
+「%@」はコピーのたびに整形します。リンク、ファイル、画像、パスワードには触れません。
+
+### 元に戻す
+
+「%@」はコピーした内容を書式ごと戻します。10 分間有効です。
+
+### 一つの操作だけ
+
+メニューには操作が一つずつあります。`nerlo-pro --choose` では、探す言葉を入力し、結果を見て Enter を押します。
+
+### プロファイル
+
+プロファイルはオプションの組です。メニューか環境設定の上部で切り替えます。
+
+### 環境設定のキー
+
+Ctrl+F はオプションを探し、Ctrl+Z は取り消し、F1 はこのヘルプを開きます。
+
+### うまく動かないとき
+
+端末で `nerlo-pro --doctor` はこのデスクトップに足りないものを、`nerlo-pro --why` は最後のコピーがどうなったかを示します。ほかは `man nerlo-pro` にあります。</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>ヒントを表示</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **用意されたプロファイル**: PDF、メール、ウェブページ、端末、アシスタントの回答、コード用。
+- **適したプロファイルを自動で**: 一般のページの表で、どのコピーをどのプロファイルが整形するかを決めます。
+- **コード、表、リスト**: そのまま残せます。
+- **新しい操作**: 端末の出力の整理、文字化けの修復、見えない文字の掃除、切れた単語の結合、リンクの掃除。
+- **選択ウィンドウ**: `nerlo-pro --choose` は入力しながら操作を探し、前後のテキストを見せます。
+- **検索と置換**: 規則には見本と回数があり、コピー、読み込み、書き出しができます。
+- **プレビュー**: 変更した手順を示し、そのオプションへ導きます。
+- **取り消し**: Ctrl+Z はオプション、規則、プロファイルの変更を戻します。
+- **元に戻す**: 何が戻るかを示します。
+- **ショートカット**: キーの名前で表示され、KDE の Wayland でも使えます。
+- **端末では**: `nerlo check`、`--explain`、終わりのないパイプ、JSON Lines、C と Python のライブラリ。</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2056,6 +2129,10 @@ MIT ライセンス</translation>
         <translation>コピー直後に整形</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>元の内容を残さない</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>Excel からのコピーを除く</translation>
     </message>
@@ -2114,7 +2191,7 @@ MIT ライセンス</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>消去</translation>
+        <translation>整形</translation>
     </message>
     <message>
         <source>Edit</source>

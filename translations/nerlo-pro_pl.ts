@@ -257,8 +257,28 @@
         <translation>To środowisko nie ma zasobnika, więc to okno otwiera się przy każdym uruchomieniu.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Nie można odczytać „%@”.</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Jego zawartość zaczyna się od nowa. Uszkodzony plik został obok, z „.unreadable-” i czasem w nazwie.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Ustawienia nie są zapisane:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Profile nie są zapisane:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Nie udało się zmienić uruchamiania przy logowaniu:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Plik reguł dla linków nie jest używany:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Po: każda kopia jest czyszczona sama.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Przed: kopia jest czyszczona w ciągu pół sekundy.
 Po: kopia jest czyszczona od razu.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Przed: oryginał jest przechowywany dziesięć minut i można go przywrócić.
+Po: drugi program jest pytany tylko o tekst i niczego nie można przywrócić.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Po, z /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Pokazuj statystykę po czyszczeniu</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Policz schowek</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Po: otwierają się przy każdym uruchomieniu Nerlo Pro.</translation>
         <translation>Co nowego w Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Kopiuj, czyść, wklej
+
+Skopiuj tekst, wybierz „%@” w menu ikony lub naciśnij jego skrót i wklej. Preferencje mówią, co jest czyszczone; podgląd pokazuje to na tekście.
+
+### Samo
+
+„%@” czyści każdą kopię. Linki, pliki, obrazy i hasła pozostają bez zmian.
+
+### Z powrotem do oryginału
+
+„%@” przywraca to, co skopiowano, z formatowaniem, przez dziesięć minut.
+
+### Jedna operacja
+
+Menu ma każdą operację osobno. Z `nerlo-pro --choose` wpisz, czego szukasz, zobacz wynik i naciśnij Enter.
+
+### Profile
+
+Profil to zestaw opcji. Zmienia się go w menu lub u góry preferencji.
+
+### Klawisze w preferencjach
+
+Ctrl+F szuka opcji, Ctrl+Z cofa, F1 otwiera tę pomoc.
+
+### Gdy coś nie działa
+
+`nerlo-pro --doctor` w terminalu mówi, czego brakuje temu środowisku, a `nerlo-pro --why`, co stało się z ostatnią kopią. Resztę ma `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Pokaż wskazówki</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Gotowe profile**: dla PDF, poczty, stron WWW, terminala, odpowiedzi asystenta i kodu.
+- **Właściwy profil samoczynnie**: tabela na stronie Ogólne mówi, który profil czyści którą kopię.
+- **Kod, tabele i listy**: mogą zostać, jakie są.
+- **Nowe operacje**: wyjście terminala, złe kodowanie, niewidoczne znaki, przecięte słowa i linki.
+- **Okno wyboru**: `nerlo-pro --choose` znajduje operację podczas pisania i pokazuje tekst przed i po.
+- **Znajdź i zamień**: reguły mają próbki i liczniki, można je kopiować, importować i eksportować.
+- **Podgląd**: nazywa krok, który coś zmienił, i prowadzi do jego opcji.
+- **Cofanie**: Ctrl+Z cofa zmiany opcji, reguł i profili.
+- **Przywracanie**: nazywa to, co wraca.
+- **Skróty**: nazywają się jak klawisze i działają w KDE z Waylandem.
+- **W terminalu**: `nerlo check`, `--explain`, potoki bez końca, JSON Lines i biblioteka dla C i Pythona.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2055,6 +2128,10 @@ Licencja MIT</translation>
     <message>
         <source>Clean right after the copy</source>
         <translation>Czyść zaraz po skopiowaniu</translation>
+    </message>
+    <message>
+        <source>Keep no original</source>
+        <translation>Nie zachowuj oryginału</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -257,8 +257,28 @@
         <translation>Este ambiente não mostra uma bandeja, por isso esta janela abre a cada início.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Não é possível ler “%@”.</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>O seu conteúdo recomeça do zero. O ficheiro danificado fica guardado ao lado, com “.unreadable-” e a hora no nome.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>As definições não estão guardadas:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Os perfis não estão guardados:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Não foi possível mudar o início com a sessão:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>O ficheiro de regras para ligações não é usado:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Depois: cada cópia é limpa sozinha.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Antes: uma cópia é limpa em meio segundo.
 Depois: uma cópia é limpa na hora.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Antes: o original é guardado dez minutos, para ser restaurado.
+Depois: ao outro programa só se pede o texto, e nada pode ser restaurado.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Depois, com /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Mostrar as estatísticas depois de limpar</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Contar a área de transferência</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Depois: elas abrem sempre que o Nerlo Pro inicia.</translation>
         <translation>Novidades do Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Copiar, limpar, colar
+
+Copie um texto, escolha “%@” no menu do ícone ou prima o seu atalho, e cole. As preferências dizem o que é limpo; a pré-visualização mostra-o num texto.
+
+### Por si só
+
+“%@” limpa cada cópia. Ligações, ficheiros, imagens e palavras-passe ficam como estão.
+
+### De volta ao original
+
+“%@” traz de volta o que foi copiado, com a sua formatação, durante dez minutos.
+
+### Uma só operação
+
+O menu tem cada operação em separado. Com `nerlo-pro --choose` escreva o que procura, veja o resultado e prima Enter.
+
+### Perfis
+
+Um perfil é um conjunto de opções. Muda-se no menu ou no topo das preferências.
+
+### Teclas nas preferências
+
+Ctrl+F procura opções, Ctrl+Z desfaz, F1 abre esta ajuda.
+
+### Quando algo não funciona
+
+`nerlo-pro --doctor` num terminal diz o que falta a este ambiente, `nerlo-pro --why` o que foi feito da última cópia. O resto está em `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Mostrar as dicas</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Perfis prontos**: para PDF, correio, páginas web, terminal, respostas de um assistente e código.
+- **O perfil certo por si só**: uma tabela na página Geral diz que perfil limpa que cópia.
+- **Código, tabelas e listas**: podem ficar como estão.
+- **Novas operações**: saída do terminal, codificação errada, caracteres invisíveis, palavras cortadas e ligações.
+- **O seletor**: `nerlo-pro --choose` encontra uma operação enquanto escreve e mostra o texto antes e depois.
+- **Localizar e substituir**: as regras têm amostras e contagens, e podem ser copiadas, importadas e exportadas.
+- **A pré-visualização**: diz que passo fez uma alteração e leva à sua opção.
+- **Desfazer**: Ctrl+Z reverte alterações de opções, regras e perfis.
+- **Restaurar**: diz o que volta.
+- **Atalhos**: chamam-se como as teclas e funcionam no KDE com Wayland.
+- **No terminal**: `nerlo check`, `--explain`, pipes sem fim, JSON Lines e uma biblioteca para C e Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2055,6 +2128,10 @@ Licença MIT</translation>
     <message>
         <source>Clean right after the copy</source>
         <translation>Limpar logo depois de copiar</translation>
+    </message>
+    <message>
+        <source>Keep no original</source>
+        <translation>Não guardar o original</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

@@ -257,8 +257,28 @@
         <translation>В этой рабочей среде нет системного лотка, поэтому это окно открывается при каждом запуске.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Не удаётся прочитать «%@».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Его содержимое начинается заново. Повреждённый файл сохранён рядом, с «.unreadable-» и временем в имени.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Настройки не сохранены:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Профили не сохранены:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Не удалось изменить запуск при входе:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Файл правил для ссылок не используется:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>До: скопированное очищается в течение полусекунды.
 После: скопированное очищается сразу.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>До: оригинал хранится десять минут, и его можно вернуть.
+После: у другой программы запрашивается только текст, и вернуть ничего нельзя.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>Показывать статистику после очистки</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Подсчитать буфер обмена</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@
         <translation>Что нового в Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Скопировать, очистить, вставить
+
+Скопируйте текст, выберите «%@» в меню значка или нажмите его сочетание клавиш и вставьте. Что очищается, задают настройки; предпросмотр показывает это на тексте.
+
+### Само
+
+«%@» очищает каждую копию. Ссылки, файлы, картинки и пароли остаются как есть.
+
+### Назад к оригиналу
+
+«%@» возвращает скопированное с его форматированием в течение десяти минут.
+
+### Одна операция
+
+В меню каждая операция стоит отдельно. С `nerlo-pro --choose` наберите, что ищете, посмотрите результат и нажмите Enter.
+
+### Профили
+
+Профиль — это набор параметров. Он меняется в меню или вверху настроек.
+
+### Клавиши в настройках
+
+Ctrl+F ищет параметры, Ctrl+Z отменяет, F1 открывает эту справку.
+
+### Если что-то не работает
+
+`nerlo-pro --doctor` в терминале называет, чего недостаёт этому рабочему столу, `nerlo-pro --why` — что стало с последней копией. Остальное — в `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Показать советы</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Готовые профили**: для PDF, почты, веб-страниц, терминала, ответов помощника и кода.
+- **Нужный профиль сам собой**: таблица на странице «Общие» говорит, какой профиль очищает какую копию.
+- **Код, таблицы и списки**: могут остаться как есть.
+- **Новые операции**: вывод терминала, неверная кодировка, невидимые символы, разрезанные слова и ссылки.
+- **Окно выбора**: `nerlo-pro --choose` находит операцию по мере ввода и показывает текст до и после.
+- **Поиск и замена**: у правил есть образцы и счётчики; их можно копировать, импортировать и экспортировать.
+- **Предпросмотр**: называет шаг, который сделал изменение, и ведёт к его параметру.
+- **Отмена**: Ctrl+Z отменяет изменения параметров, правил и профилей.
+- **Возврат**: называет, что вернётся.
+- **Сочетания клавиш**: названы как на клавишах и работают в KDE с Wayland.
+- **В терминале**: `nerlo check`, `--explain`, бесконечные каналы, JSON Lines и библиотека для C и Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2055,6 +2128,10 @@
     <message>
         <source>Clean right after the copy</source>
         <translation>Очищать сразу после копирования</translation>
+    </message>
+    <message>
+        <source>Keep no original</source>
+        <translation>Не хранить оригинал</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

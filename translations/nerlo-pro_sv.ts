@@ -257,8 +257,28 @@
         <translation>Den här skrivbordsmiljön visar inget systemfält, så det här fönstret öppnas vid varje start.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>”%@” kan inte läsas.</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Innehållet börjar om från början. Den skadade filen finns kvar bredvid, med ”.unreadable-” och tiden i namnet.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Inställningarna är inte sparade:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Profilerna är inte sparade:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Start vid inloggning kunde inte ändras:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Filen med regler för länkar används inte:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@ Efter: varje kopia rensas av sig själv.</translation>
         <source>sCleanAtOnceTip</source>
         <translation>Före: en kopia rensas inom en halv sekund.
 Efter: en kopia rensas genast.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>Före: originalet behålls i tio minuter och kan återställas.
+Efter: det andra programmet tillfrågas bara om texten, och inget kan återställas.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@ Efter, med /: a</translation>
     <message>
         <source>sStatistics</source>
         <translation>Visa statistik efter en rensning</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Räkna urklipp</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@ Efter: de öppnas varje gång Nerlo Pro startar.</translation>
         <translation>Nyheter i Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Kopiera, rensa, klistra in
+
+Kopiera en text, välj ”%@” i ikonens meny eller tryck på dess kortkommando och klistra in. Inställningarna säger vad som rensas; förhandsvisningen visar det på en text.
+
+### Av sig självt
+
+”%@” rensar varje kopia. Länkar, filer, bilder och lösenord lämnas i fred.
+
+### Tillbaka till originalet
+
+”%@” hämtar tillbaka det som kopierades, med formatering, i tio minuter.
+
+### En enda åtgärd
+
+Menyn har varje åtgärd för sig. Med `nerlo-pro --choose` skriver du vad du söker, ser resultatet och trycker på Retur.
+
+### Profiler
+
+En profil är en uppsättning alternativ. Byt den i menyn eller överst i inställningarna.
+
+### Tangenter i inställningarna
+
+Ctrl+F söker alternativ, Ctrl+Z ångrar, F1 öppnar den här hjälpen.
+
+### När något inte fungerar
+
+`nerlo-pro --doctor` i en terminal säger vad skrivbordet saknar, `nerlo-pro --why` vad som hände med den senaste kopian. Resten finns i `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Visa tipsen</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Färdiga profiler**: för PDF, e-post, webbsidor, terminal, en assistents svar och kod.
+- **Rätt profil av sig självt**: en tabell på sidan Allmänt säger vilken profil som rensar vilken kopia.
+- **Kod, tabeller och listor**: kan lämnas som de är.
+- **Nya åtgärder**: terminalutskrift, fel kodning, osynliga tecken, avhuggna ord och länkar.
+- **Väljaren**: `nerlo-pro --choose` hittar en åtgärd medan du skriver och visar texten före och efter.
+- **Sök och ersätt**: regler har prov och räknare och kan kopieras, importeras och exporteras.
+- **Förhandsvisningen**: nämner steget som ändrade något och leder till dess alternativ.
+- **Ångra**: Ctrl+Z tar tillbaka ändringar av alternativ, regler och profiler.
+- **Återställ**: nämner vad som kommer tillbaka.
+- **Kortkommandon**: heter som tangenterna och fungerar i KDE med Wayland.
+- **I terminalen**: `nerlo check`, `--explain`, rör utan slut, JSON Lines och ett bibliotek för C och Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2057,6 +2130,10 @@ MIT-licens</translation>
         <translation>Rensa direkt efter kopieringen</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>Behåll inget original</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>Utom kopior från Excel</translation>
     </message>
@@ -2115,7 +2192,7 @@ MIT-licens</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>Töm</translation>
+        <translation>Rensa</translation>
     </message>
     <message>
         <source>Edit</source>

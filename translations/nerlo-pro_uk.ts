@@ -257,8 +257,28 @@
         <translation>У цьому середовищі немає системного лотка, тому це вікно відкривається під час кожного запуску.</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>Не вдається прочитати «%@».</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>Його вміст починається наново. Пошкоджений файл збережено поруч, з «.unreadable-» і часом у назві.</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>Налаштування не збережено:</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>Профілі не збережено:</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>Не вдалося змінити запуск під час входу:</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>Файл правил для посилань не використовується:</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>До: скопійоване очищається протягом пів секунди.
 Після: скопійоване очищається одразу.</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>До: оригінал зберігається десять хвилин, і його можна повернути.
+Після: в іншої програми запитується лише текст, і повернути нічого не можна.</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>Показувати статистику після очищення</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>Підрахувати буфер обміну</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1639,8 +1668,52 @@
         <translation>Що нового в Nerlo Pro</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### Скопіювати, очистити, вставити
+
+Скопіюйте текст, виберіть «%@» у меню значка або натисніть його сполучення клавіш і вставте. Що очищається, визначають налаштування; перегляд показує це на тексті.
+
+### Само
+
+«%@» очищає кожну копію. Посилання, файли, зображення й паролі залишаються як є.
+
+### Назад до оригіналу
+
+«%@» повертає скопійоване з його форматуванням протягом десяти хвилин.
+
+### Одна операція
+
+У меню кожна операція стоїть окремо. З `nerlo-pro --choose` наберіть, що шукаєте, подивіться результат і натисніть Enter.
+
+### Профілі
+
+Профіль — це набір параметрів. Він змінюється в меню або вгорі налаштувань.
+
+### Клавіші в налаштуваннях
+
+Ctrl+F шукає параметри, Ctrl+Z скасовує, F1 відкриває цю довідку.
+
+### Якщо щось не працює
+
+`nerlo-pro --doctor` у терміналі називає, чого бракує цій стільниці, `nerlo-pro --why` — що сталося з останньою копією. Решта — у `man nerlo-pro`.</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>Показати поради</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **Готові профілі**: для PDF, пошти, вебсторінок, термінала, відповідей помічника й коду.
+- **Потрібний профіль сам собою**: таблиця на сторінці «Загальні» каже, який профіль очищає яку копію.
+- **Код, таблиці й списки**: можуть залишитися як є.
+- **Нові операції**: вивід термінала, хибне кодування, невидимі символи, розрізані слова й посилання.
+- **Вікно вибору**: `nerlo-pro --choose` знаходить операцію під час набору й показує текст до і після.
+- **Пошук і заміна**: правила мають зразки й лічильники; їх можна копіювати, імпортувати й експортувати.
+- **Перегляд**: називає крок, що зробив зміну, і веде до його параметра.
+- **Скасування**: Ctrl+Z скасовує зміни параметрів, правил і профілів.
+- **Повернення**: називає, що повернеться.
+- **Сполучення клавіш**: названо як на клавішах; вони працюють у KDE з Wayland.
+- **У терміналі**: `nerlo check`, `--explain`, нескінченні канали, JSON Lines і бібліотека для C та Python.</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2055,6 +2128,10 @@
     <message>
         <source>Clean right after the copy</source>
         <translation>Очищати одразу після копіювання</translation>
+    </message>
+    <message>
+        <source>Keep no original</source>
+        <translation>Не зберігати оригінал</translation>
     </message>
     <message>
         <source>Except copies from Excel</source>

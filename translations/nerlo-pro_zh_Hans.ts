@@ -257,8 +257,28 @@
         <translation>此桌面没有托盘，因此每次启动都会打开此窗口。</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>无法读取“%@”。</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>其中的内容重新开始。损坏的文件保留在原处旁边，名称中带有“.unreadable-”和时间。</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>设置未保存：</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>配置未保存：</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>无法更改登录时启动：</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>链接规则文件未使用：</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>之前：复制的内容会在半秒内清理。
 之后：复制的内容会立即清理。</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>之前：原内容会保留十分钟，以便恢复。
+之后：只向其他程序请求文本，无法恢复任何内容。</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>清理后显示统计</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>统计剪贴板</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1638,8 +1667,52 @@
         <translation>Nerlo Pro 的新功能</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### 复制、清理、粘贴
+
+复制文本，在托盘菜单中选择“%@”或按其快捷键，然后粘贴。清理什么由偏好设置决定；预览会在一段文本上显示。
+
+### 自动进行
+
+“%@”会清理每次复制。链接、文件、图片和密码保持原样。
+
+### 恢复原内容
+
+“%@”可在十分钟内恢复复制的内容及其格式。
+
+### 只做一项操作
+
+菜单中有每一项操作。用 `nerlo-pro --choose` 输入要找的内容，查看结果，按 Enter。
+
+### 配置
+
+配置是一组选项。可在菜单或偏好设置顶部切换。
+
+### 偏好设置中的按键
+
+Ctrl+F 搜索选项，Ctrl+Z 撤销，F1 打开本帮助。
+
+### 出现问题时
+
+在终端中，`nerlo-pro --doctor` 会说明此桌面缺少什么，`nerlo-pro --why` 会说明上次复制的结果。其余见 `man nerlo-pro`。</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>显示提示</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **现成的配置**: 用于 PDF、邮件、网页、终端、助手的回答和代码。
+- **自动选用合适的配置**: “常规”页上的表格决定哪个配置清理哪次复制。
+- **代码、表格和列表**: 可以保持原样。
+- **新操作**: 整理终端输出、修复错误编码、清理不可见字符、连接被截断的单词、清理链接。
+- **选择窗口**: `nerlo-pro --choose` 边输入边查找操作，并显示前后的文本。
+- **查找和替换**: 规则带有样例和计数，可以复制、导入和导出。
+- **预览**: 指出作出更改的步骤，并引向其选项。
+- **撤销**: Ctrl+Z 撤销对选项、规则和配置的更改。
+- **恢复**: 说明将恢复什么。
+- **快捷键**: 以按键上的名称显示，并可在 KDE 的 Wayland 中使用。
+- **在终端中**: `nerlo check`、`--explain`、无尽的管道、JSON Lines，以及 C 和 Python 的库。</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2056,6 +2129,10 @@ MIT 许可证</translation>
         <translation>复制后立即清理</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>不保留原内容</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>从 Excel 复制的除外</translation>
     </message>
@@ -2114,7 +2191,7 @@ MIT 许可证</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>清除</translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Edit</source>

@@ -257,8 +257,28 @@
         <translation>此桌面沒有系統匣，因此每次啟動都會開啟此視窗。</translation>
     </message>
     <message>
+        <source>sFileUnreadable</source>
+        <translation>無法讀取「%@」。</translation>
+    </message>
+    <message>
         <source>sFileDamaged</source>
         <translation>其中的內容重新開始。損壞的檔案保留在原處旁邊，名稱中帶有「.unreadable-」和時間。</translation>
+    </message>
+    <message>
+        <source>sSettingsNotSaved</source>
+        <translation>設定未儲存：</translation>
+    </message>
+    <message>
+        <source>sProfilesNotSaved</source>
+        <translation>設定檔未儲存：</translation>
+    </message>
+    <message>
+        <source>sLoginItemNotSet</source>
+        <translation>無法變更登入時啟動：</translation>
+    </message>
+    <message>
+        <source>sLinkRulesUnusable</source>
+        <translation>連結規則檔案未使用：</translation>
     </message>
     <message>
         <source>sLaunchOnStartup</source>
@@ -313,6 +333,11 @@
         <source>sCleanAtOnceTip</source>
         <translation>之前：複製的內容會在半秒內清理。
 之後：複製的內容會立即清理。</translation>
+    </message>
+    <message>
+        <source>sKeepNoOriginalTip</source>
+        <translation>之前：原內容會保留十分鐘，以便還原。
+之後：只向其他程式要求文字，無法還原任何內容。</translation>
     </message>
     <message>
         <source>sExceptSpreadsheetTip</source>
@@ -402,6 +427,10 @@
     <message>
         <source>sStatistics</source>
         <translation>清理後顯示統計</translation>
+    </message>
+    <message>
+        <source>sCountClipboard</source>
+        <translation>統計剪貼簿</translation>
     </message>
     <message>
         <source>sStatisticsTip</source>
@@ -1638,8 +1667,52 @@
         <translation>Nerlo Pro 的新功能</translation>
     </message>
     <message>
+        <source>sHelpText</source>
+        <translation>### 複製、清理、貼上
+
+複製文字，在系統匣選單中選擇「%@」或按其快速鍵，然後貼上。清理什麼由偏好設定決定；預覽會在一段文字上顯示。
+
+### 自動進行
+
+「%@」會清理每次複製。連結、檔案、圖片和密碼保持原樣。
+
+### 還原原內容
+
+「%@」可在十分鐘內還原複製的內容及其格式。
+
+### 只做一項操作
+
+選單中有每一項操作。用 `nerlo-pro --choose` 輸入要找的內容，查看結果，按 Enter。
+
+### 設定檔
+
+設定檔是一組選項。可在選單或偏好設定頂端切換。
+
+### 偏好設定中的按鍵
+
+Ctrl+F 搜尋選項，Ctrl+Z 復原，F1 開啟本說明。
+
+### 發生問題時
+
+在終端機中，`nerlo-pro --doctor` 會說明此桌面缺少什麼，`nerlo-pro --why` 會說明上次複製的結果。其餘見 `man nerlo-pro`。</translation>
+    </message>
+    <message>
         <source>sWhatsNewTips</source>
         <translation>顯示提示</translation>
+    </message>
+    <message>
+        <source>sWhatsNewText</source>
+        <translation>- **現成的設定檔**: 用於 PDF、郵件、網頁、終端機、助理的回答和程式碼。
+- **自動選用合適的設定檔**: 「一般」頁上的表格決定哪個設定檔清理哪次複製。
+- **程式碼、表格和清單**: 可以保持原樣。
+- **新操作**: 整理終端機輸出、修復錯誤編碼、清理不可見字元、連接被截斷的單字、清理連結。
+- **選擇視窗**: `nerlo-pro --choose` 邊輸入邊尋找操作，並顯示前後的文字。
+- **尋找與取代**: 規則帶有樣例和計數，可以複製、匯入和匯出。
+- **預覽**: 指出作出變更的步驟，並引向其選項。
+- **復原**: Ctrl+Z 復原對選項、規則和設定檔的變更。
+- **還原**: 說明將還原什麼。
+- **快速鍵**: 以按鍵上的名稱顯示，並可在 KDE 的 Wayland 中使用。
+- **在終端機中**: `nerlo check`、`--explain`、無盡的管線、JSON Lines，以及 C 和 Python 的函式庫。</translation>
     </message>
     <message>
         <source>sTip1Title</source>
@@ -2056,6 +2129,10 @@ MIT 授權</translation>
         <translation>複製後立即清理</translation>
     </message>
     <message>
+        <source>Keep no original</source>
+        <translation>不保留原內容</translation>
+    </message>
+    <message>
         <source>Except copies from Excel</source>
         <translation>從 Excel 複製的除外</translation>
     </message>
@@ -2114,7 +2191,7 @@ MIT 授權</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>清除</translation>
+        <translation>清理</translation>
     </message>
     <message>
         <source>Edit</source>

@@ -59,9 +59,10 @@ std::string nameOf(const QString &language, const Key &key) {
     return (language + ": " + key.first + " / " + key.second).toStdString();
 }
 
-// What the program fills in or reads: "%@", "%1", "{search}". A translation must keep it.
+// What the program fills in or reads: "%@", "%1", "{search}", marks of Markdown. A translation must
+// keep it.
 QStringList placeholders(const QString &text) {
-    static const QRegularExpression pattern("%@|%[0-9]|\\{[a-z]+\\}|<[a-z]+>");
+    static const QRegularExpression pattern("%@|%[0-9]|\\{[a-z]+\\}|<[a-z]+>|`[^`]+`|### |\\*\\*");
     QStringList found;
     for (auto match = pattern.globalMatch(text); match.hasNext();) {
         found.push_back(match.next().captured());

@@ -59,15 +59,5 @@ TEST(Pictures, QtDrawsTheApplicationIconAndAPictureForEachTip) {
     }
 }
 
-TEST(Pictures, TheReleaseNotesBeginWithTheLastRelease) {
-    QFile file(":/CHANGELOG.md");
-    ASSERT_TRUE(file.open(QFile::ReadOnly));
-    const QByteArray notes = file.readAll();
-    EXPECT_TRUE(notes.startsWith("# What's new\n\n## " NERLO_VERSION " ("))
-        << notes.left(60).data();
-    EXPECT_TRUE(notes.contains("\n- "));
-    EXPECT_FALSE(notes.contains("## Unreleased"));
-}
-
 } // namespace
 } // namespace nerlo

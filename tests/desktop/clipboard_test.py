@@ -96,7 +96,7 @@ class ClipboardTest(unittest.TestCase):
 
     def start_automatic(self):
         program = self.start("--automatic", "on")
-        self.assertEqual(nerlo("--doctor").stdout.splitlines()[-1], "Automatic cleaning: on")
+        self.assertEqual(nerlo("--doctor").stdout.splitlines()[-2], "Automatic cleaning: on")
         return program
 
     def expect_clean(self, text):

@@ -5,6 +5,7 @@
 #include "platform/xkb/XkbKeyboardLayout.h"
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
+#include "shell/Doctor.h"
 #include "shell/FindReplaceTable.h"
 #include "shell/Mnemonics.h"
 #include "shell/ProfilesPage.h"
@@ -837,7 +838,7 @@ TEST(Strings, EveryOptionAndOperationHasItsTexts) {
         }
     }
     for (const engine::Operation &operation : engine::operations()) {
-        expectText(std::string(operation.hotKey));
+        expectText(commandText(operation.hotKey));
     }
     EXPECT_EQ(filled("%@ is %@", {"%@", "b"}), "%@ is b");
 }
@@ -968,6 +969,7 @@ TEST_F(Menu, ItemsProfilesAndKeys) {
     };
     auto &sort = *operations->findChild<QAction *>("operation23");
     EXPECT_EQ(sort.text(), "Sort lines");
+    EXPECT_EQ(operations->findChild<QAction *>("operation25")->text(), "Count the clipboard");
     EXPECT_EQ(result(sort), "a\nb  b");
     auto &clean = *menu.findChild<QAction *>("clean");
     EXPECT_EQ(result(clean), "b b a");
@@ -1026,6 +1028,43 @@ TEST_F(Menu, AProfileHasAShortcutThatFollowsItsName) {
     EXPECT_TRUE(press());
     EXPECT_EQ(program.profileName(), "B");
     EXPECT_NE(program.doctor(true).find("profile:B=Super+M: works"), std::string::npos);
+}
+
+TEST_F(Menu, ProblemsAndGapsAreToldByFile) {
+    program.start();
+    program.showPreferences();
+    queue.advance(5s); // what is to be saved is
+    test::putBytes(folder / "Data/profiles.nrp", "<");
+    preferences.profilesFileChanged();
+    program.windows().setProblem(ShellWindows::Problem::settings, "/a: full");
+    program.windows().menu().findChild<QAction *>("help")->trigger();
+    const auto shows = [](const char *name, const std::string &text) {
+        const auto widgets = QApplication::allWidgets();
+        return std::ranges::any_of(widgets, [&](const QWidget *widget) {
+            const auto shown =
+                widget->property("text").toString() + widget->property("plainText").toString();
+            return widget->objectName() == name && widget->isVisible() &&
+                   shown.contains(QString::fromStdString(text));
+        });
+    };
+    EXPECT_TRUE(
+        shows("notice", "“" + (folder / "Data/profiles.nrp") + "” cannot be read. What it"));
+    EXPECT_TRUE(shows("notice", "The settings are not saved:\n/a: full\n"));
+    EXPECT_TRUE(shows("helpText", "choose “Clear formating from clipboard” in"));
+
+    desktop.activeApplication.lacks = "not told";
+    test::putBytes(folder / "file", "");
+    const settings::SettingsPaths paths{
+        folder / "file/defaults.plist", folder / "new/new/profiles.nrp", {}, {}};
+    const auto report = QString::fromStdString(doctorReport(desktop, paths, false, {}));
+    for (const std::string &gap :
+         {std::string("not told"), std::string("the running program cannot be told anything"),
+          folder / "file: Not a directory"}) {
+        EXPECT_TRUE(report.contains("\n  but: " + QString::fromStdString(gap) + "\n")) << gap;
+    }
+    EXPECT_TRUE(report.contains("\n  " + QString::fromStdString(folder / "new/new") + "\n"));
+    EXPECT_TRUE(report.contains("\nGaps: " + QString::number(report.count("\n  but: ")) + ", "))
+        << report.toStdString();
 }
 
 TEST_F(Menu, TheProgramOfTheLastCopyIsLeftAloneAndTheRowsAreSaid) {

@@ -1,9 +1,8 @@
-#include "shell/WhatsNewWindow.h"
+#include "shell/TextWindow.h"
 
 #include "shell/ScreenRoom.h"
 #include "shell/Strings.h"
 
-#include <QFile>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QTextBrowser>
@@ -12,30 +11,26 @@
 
 namespace nerlo::shell {
 
-WhatsNewWindow::WhatsNewWindow(std::function<void()> showTips) {
-    setObjectName("whatsNewWindow");
-    setWindowTitle(localized("sWhatsNewWindow"));
-    auto *notes = new QTextBrowser;
-    notes->setObjectName("releaseNotes");
-    notes->setAccessibleName(windowTitle());
-    notes->setOpenExternalLinks(true);
-    // The notes are English in every language.
-    notes->setLayoutDirection(Qt::LeftToRight);
-    QFile file(":/CHANGELOG.md");
-    if (file.open(QIODevice::ReadOnly)) {
-        notes->setMarkdown(QString::fromUtf8(file.readAll()));
-    }
+TextWindow::TextWindow(const QString &name, const QString &title, const QString &text,
+                       std::function<void()> showTips) {
+    setObjectName(name);
+    setWindowTitle(title);
+    auto *shown = new QTextBrowser;
+    shown->setObjectName(name + "Text");
+    shown->setAccessibleName(title);
+    shown->setOpenExternalLinks(true);
+    shown->setMarkdown(text);
     auto *tips = new QPushButton(localized("sWhatsNewTips"));
-    tips->setObjectName("whatsNewTips");
+    tips->setObjectName(name + "Tips");
     tips->setAutoDefault(false);
     auto *close = new QPushButton(localized("sClose"));
-    close->setObjectName("whatsNewClose");
+    close->setObjectName(name + "Close");
     close->setDefault(true);
     connect(tips, &QPushButton::clicked, this, [show = std::move(showTips)] { show(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(notes);
+    layout->addWidget(shown);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(tips);
     buttons->addStretch();

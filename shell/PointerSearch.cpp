@@ -1,0 +1,45 @@
+#include "shell/PointerSearch.h"
+
+#include <QCursor>
+#include <optional>
+#include <utility>
+
+namespace nerlo::shell {
+
+// Popups are told where the pointer is: one is asked for, but never drawn.
+void PointerSearch::start(std::function<void(QPoint)> found) {
+    stop();
+    found_ = std::move(found);
+    auto at = std::make_shared<std::optional<QPoint>>();
+    platform::Popup popup;
+    popup.width = 1;
+    popup.height = 1;
+    popup.atPointer = true;
+    popup.place = [at](const platform::PopupScreen &screen,
+                       std::optional<platform::PopupPoint> pointer) {
+        if (pointer) {
+            *at = QPoint(screen.origin.x + pointer->x, screen.origin.y + pointer->y);
+        }
+        return platform::PopupPoint();
+    };
+    popup.closed = alive_.guardOn(mainQueue_, [this, at] {
+        if (const auto tell = std::exchange(found_, nullptr)) {
+            tell(at->value_or(QCursor::pos()));
+        }
+    });
+    popup.draw = [closed = popup.closed](int scale) {
+        closed();
+        return platform::PopupPicture{scale, scale, scale, {}};
+    };
+    search_ = layer_ ? layer_->show(std::move(popup)) : nullptr;
+    if (!search_) {
+        std::exchange(found_, nullptr)(QCursor::pos());
+    }
+}
+
+void PointerSearch::stop() {
+    found_ = nullptr;
+    search_.reset();
+}
+
+} // namespace nerlo::shell

@@ -1,0 +1,37 @@
+// Finds out where the pointer is, on desktops too that tell no window of the toolkit.
+//
+// Main thread only.
+#pragma once
+
+#include "platform/Alive.h"
+#include "platform/MainQueue.h"
+#include "platform/PopupLayer.h"
+
+#include <QPoint>
+#include <functional>
+#include <memory>
+
+namespace nerlo::shell {
+
+class PointerSearch {
+  public:
+    // `layer` is null where the toolkit knows. Both must outlive this.
+    PointerSearch(platform::PopupLayer *layer, platform::MainQueue &mainQueue)
+        : layer_(layer)
+        , mainQueue_(mainQueue) {}
+
+    // `found` runs once, perhaps inside this call, and not after stop() or another start(). The
+    // point is in the toolkit's coordinates. What was needed for the search stays until stop(): the
+    // compositor looks anew for who gets the keyboard when a surface goes.
+    void start(std::function<void(QPoint)> found);
+    void stop();
+
+  private:
+    platform::PopupLayer *layer_;
+    platform::MainQueue &mainQueue_;
+    std::function<void(QPoint)> found_;
+    std::unique_ptr<platform::ShownPopup> search_;
+    platform::Alive alive_;
+};
+
+} // namespace nerlo::shell
