@@ -46,7 +46,6 @@ CopyTableView::CopyTableView(Program &program)
     describe(*list_, "copyTable", "sCopyTable", "sCopyTableTip");
     list_->setFixedHeight(shownRows * (list_->fontMetrics().height() + 6));
     auto *layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(list_, 0, 0, 1, 2);
 
     const struct {
