@@ -1,10 +1,19 @@
 #include "shell/PointerSearch.h"
 
 #include <QCursor>
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 namespace nerlo::shell {
+
+namespace {
+
+int kept(int at, int first, int size) {
+    return std::clamp(at, first, std::max(first, first + size - 1));
+}
+
+} // namespace
 
 // Popups are told where the pointer is: one is asked for, but never drawn.
 void PointerSearch::start(std::function<void(QPoint)> found) {
@@ -18,7 +27,9 @@ void PointerSearch::start(std::function<void(QPoint)> found) {
     popup.place = [at](const platform::PopupScreen &screen,
                        std::optional<platform::PopupPoint> pointer) {
         if (pointer) {
-            *at = QPoint(screen.origin.x + pointer->x, screen.origin.y + pointer->y);
+            const auto &free = screen.free;
+            *at = QPoint(screen.origin.x + kept(pointer->x, free.x, screen.freeWidth),
+                         screen.origin.y + kept(pointer->y, free.y, screen.freeHeight));
         }
         return platform::PopupPoint();
     };

@@ -21,8 +21,10 @@ class PointerSearch {
         , mainQueue_(mainQueue) {}
 
     // `found` runs once, perhaps inside this call, and not after stop() or another start(). The
-    // point is in the toolkit's coordinates. What was needed for the search stays until stop(): the
-    // compositor looks anew for who gets the keyboard when a surface goes.
+    // point is in the toolkit's coordinates; where the toolkit does not know it, a point under a
+    // panel is moved beside the panel, which would cover what is put there. What was needed for the
+    // search stays until stop(): the compositor looks anew for who gets the keyboard when a surface
+    // goes.
     void start(std::function<void(QPoint)> found);
     void stop();
 

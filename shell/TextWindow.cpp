@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextOption>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -19,6 +20,10 @@ TextWindow::TextWindow(const QString &name, const QString &title, const QString 
     shown->setObjectName(name + "Text");
     shown->setAccessibleName(title);
     shown->setOpenExternalLinks(true);
+    // Also paragraphs that begin with a command or a key go the way of the language.
+    QTextOption option = shown->document()->defaultTextOption();
+    option.setTextDirection(layoutDirection());
+    shown->document()->setDefaultTextOption(option);
     shown->setMarkdown(text);
     auto *tips = new QPushButton(localized("sWhatsNewTips"));
     tips->setObjectName(name + "Tips");
