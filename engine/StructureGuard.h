@@ -14,8 +14,9 @@ namespace nerlo::engine {
 // that was wrapped has its lines joined. Steps that take the whole text still see all of it.
 //
 // A ">" or a bullet goes only where it marks the beginning of a line, a ">" only from quoted
-// paragraphs that are nothing but prose; their lines are joined as those of others. Spaces next to the line breaks of prose go, however many there are. The marks of
-// Markdown go last, because those of headings, lists and code tell what is structure.
+// paragraphs that are nothing but prose; their lines are joined as those of others. Spaces next to
+// the line breaks of prose go, however many there are. The marks of Markdown go last, because those
+// of headings, lists and code tell what is structure.
 std::u16string runGuarded(std::u16string text, std::span<const Operation *const> steps,
                           const CleaningContext &context, std::size_t pieceSize);
 

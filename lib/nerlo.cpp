@@ -210,8 +210,7 @@ class Context {
         } else if (cleaner_.options.udProtectStructure) {
             text = engine::runPipeline(std::move(text), context_);
         } else {
-            text = engine::runSteps(std::move(text), cleaner_.steps, context_,
-                                    engine::cachedPiece);
+            text = engine::runSteps(std::move(text), cleaner_.steps, context_, engine::cachedPiece);
         }
         checkReport();
         return text;

@@ -75,8 +75,8 @@ class PortalSession : public QObject {
     QString awaitedRequest_; // the object path whose Response counts
     Answer answer_;
     quint64 generation_ = 0; // of bind(); late answers belong to an earlier one
-    quint64 tokens_ = 0;   // of requests
-    quint64 sessions_ = 0; // since the portal was started
+    quint64 tokens_ = 0;     // of requests
+    quint64 sessions_ = 0;   // since the portal was started
     bool introduced_ = false;
     bool available_ = true;
 };
