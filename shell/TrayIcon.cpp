@@ -55,11 +55,16 @@ bool saysYes(const QDBusReply<QVariant> &reply) {
     return reply.isValid() && reply.value().toBool();
 }
 
+bool panelIsThere(const QDBusConnection &bus) {
+    return bus.isConnected() && bus.interface()->isServiceRegistered(panelName);
+}
+
 } // namespace
 
 bool trayHostIsThere() {
     constexpr int patience = 1000; // in milliseconds
-    return saysYes(QDBusConnection::sessionBus().call(hostQuestion(), QDBus::Block, patience));
+    const auto bus = QDBusConnection::sessionBus();
+    return saysYes(bus.call(hostQuestion(), QDBus::Block, patience)) || panelIsThere(bus);
 }
 
 TrayIcon::TrayIcon(QMenu &menu)
@@ -70,8 +75,7 @@ TrayIcon::TrayIcon(QMenu &menu)
                                        this))
     , panelWatcher_(new QDBusServiceWatcher(panelName, QDBusConnection::sessionBus(),
                                             QDBusServiceWatcher::WatchForOwnerChange, this)) {
-    const auto bus = QDBusConnection::sessionBus();
-    panelThere_ = bus.isConnected() && bus.interface()->isServiceRegistered(panelName);
+    panelThere_ = panelIsThere(QDBusConnection::sessionBus());
     connect(panelWatcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &, const QString &, const QString &owner) {
                 panelThere_ = !owner.isEmpty();

@@ -10,7 +10,7 @@ import unittest
 
 import dbus
 
-from desktop_session import Logged, Program, ask, paste, read, wait_until
+from desktop_session import Logged, Program, ask, output_of, paste, read, wait_until
 
 SHELL = "org.nerlo.NerloPro.Shell"
 
@@ -79,6 +79,7 @@ class GnomeTest(unittest.TestCase):
         wait_until(lambda: "idle" in self.shell(button + "._icon.icon_name"), "the other icon")
         self.program.call("Automatic", "on")
         self.assertIn("Quit", self.shell(button + ".menu._getMenuItems().map(item => item.label.text)"))
+        self.assertIn("Tray: yes", output_of(os.environ["NERLO_PRO"], "--doctor"))
 
     def test_a_copy_is_known_by_the_window_in_front(self):
         name = "First.Editor"
