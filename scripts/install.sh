@@ -35,7 +35,7 @@ $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --reinstall --no-
 nerlo --version
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     setsid nerlo-pro </dev/null >/dev/null 2>&1 &
-    echo "nerlo-pro runs: its icon is in the tray"
+    echo "nerlo-pro runs; its icon is in the tray if this desktop has one"
 else
     echo "There is no desktop here. On one, start nerlo-pro from its menu of programs."
 fi
