@@ -36,10 +36,12 @@ constexpr auto grabAgainAfter = 15ms;
 constexpr auto grabWithin = 3s;
 constexpr auto activeWithin = 40ms;
 
-constexpr Qt::WindowFlags common = Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
+// A dialog by its flags would belong to the program's other windows, and KWin would give one of
+// them the focus afterwards.
+constexpr Qt::WindowFlags common = Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
 
 Qt::WindowFlags flagsFor(bool grabs) {
-    return grabs ? common | Qt::Window | Qt::BypassWindowManagerHint : common | Qt::Dialog;
+    return grabs ? common | Qt::BypassWindowManagerHint : common;
 }
 
 void becomeActive(QWidget &window) {
@@ -79,6 +81,7 @@ ChooserWindow::ChooserWindow(Program &program)
     setWindowTitle(localized("sChooseForClipboard"));
     setAccessibleName(windowTitle());
     setAttribute(Qt::WA_QuitOnClose, false);
+    setAttribute(Qt::WA_X11NetWmWindowTypeDialog, !grabs_); // so that no window manager tiles it
     arrange();
     connect(search_, &QLineEdit::textChanged, this, &ChooserWindow::fill);
     connect(list_, &QTreeWidget::currentItemChanged, this, &ChooserWindow::schedulePreview);
@@ -308,6 +311,9 @@ bool ChooserWindow::eventFilter(QObject *watched, QEvent *event) {
         QApplication::sendEvent(list_, event);
         return true;
     }
+    if (watched == search_ && event->type() == QEvent::KeyRelease) {
+        keyReleaseEvent(static_cast<QKeyEvent *>(event)); // the field keeps these for itself
+    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -318,11 +324,29 @@ void ChooserWindow::keyPressEvent(QKeyEvent *event) {
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        choose(event->modifiers() & Qt::ShiftModifier);
+        pastesOnRelease_ = shiftHeld_;
+        if (!pastesOnRelease_) {
+            choose(event->modifiers() & Qt::ShiftModifier);
+        }
+        break;
+    case Qt::Key_Shift:
+        shiftHeld_ = true;
         break;
     default:
         QWidget::keyPressEvent(event);
     }
+}
+
+// A key that is still held would make other keys of those for pasting, and some desktops tell only
+// the window in front that it is released.
+void ChooserWindow::keyReleaseEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Shift) {
+        shiftHeld_ = false;
+        if (std::exchange(pastesOnRelease_, false)) {
+            choose(true);
+        }
+    }
+    QWidget::keyReleaseEvent(event);
 }
 
 void ChooserWindow::mousePressEvent(QMouseEvent *event) {

@@ -42,6 +42,7 @@ class ChooserWindow final : public QWidget {
     void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
@@ -84,6 +85,8 @@ class ChooserWindow final : public QWidget {
     platform::MainQueue::Clock::time_point patience_;
     bool open_ = false;
     bool wasActive_ = false;
+    bool shiftHeld_ = false;
+    bool pastesOnRelease_ = false;
     platform::Alive alive_;
 };
 

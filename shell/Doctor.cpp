@@ -78,7 +78,9 @@ void windows(Report &report, const Desktop &desktop, const std::optional<Running
     if (running) {
         report.line("Chooser", running->chooserLeavesFocus ? "a window that leaves the focus"
                                                            : "a window that takes the focus");
-        report.gap(running->chooserLeavesFocus ? "" : "the compositor says where it stands");
+        report.gap(running->chooserLeavesFocus || running->chooserAtPointer
+                       ? ""
+                       : "the compositor says where it stands");
     }
     const auto &paster = desktop.paster;
     report.topic("Pasting for you", paster, "none");

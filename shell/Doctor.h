@@ -14,6 +14,7 @@ namespace nerlo::shell {
 struct RunningState {
     bool automatic = false;
     bool chooserLeavesFocus = false;
+    bool chooserAtPointer = false;
     std::vector<std::string> hotKeyFindings; // a line for each shortcut that is set
 };
 

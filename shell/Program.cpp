@@ -276,8 +276,10 @@ void Program::activate() {
 }
 
 std::string Program::doctor(bool sessionBus) const {
-    return doctorReport(parts_.desktop, parts_.paths, sessionBus,
-                        RunningState{automatic(), parts_.desktop.backends->grabGetsAllKeys(),
+    const auto &desktop = parts_.desktop;
+    return doctorReport(desktop, parts_.paths, sessionBus,
+                        RunningState{automatic(), desktop.backends->grabGetsAllKeys(),
+                                     platform::pointerPositionKnown() && desktop.popupLayer.backend,
                                      hotKeyFindings(hotKeys_, shortcutTexts_.layout())});
 }
 

@@ -170,7 +170,7 @@ Chosen<PopupLayer> Backends::openPopupLayer() {
 }
 
 Chosen<Paster> Backends::openPaster(const KeyboardLayout &layout) {
-    return firstOf<Paster>([&] { return createWaylandPaster(mainQueue_, io_); },
+    return firstOf<Paster>([&] { return createWaylandPaster(mainQueue_, layout, io_); },
                            [&] {
                                return onWayland(createX11Paster(mainQueue_, layout, x11()),
                                                 "pastes into windows of programs on X11 alone");

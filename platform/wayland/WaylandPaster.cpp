@@ -1,6 +1,7 @@
 #include "platform/wayland/WaylandPaster.h"
 
 #include "platform/Pasteboard.h"
+#include "platform/VirtualKeys.h"
 #include "platform/wayland/EventLoop.h"
 #include "platform/wayland/Registry.h"
 #include "platform/xkb/Keymap.h"
@@ -10,6 +11,7 @@
 #include <string_view>
 #include <utility>
 
+#include <fake-input-client.h>
 #include <linux/input-event-codes.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -28,44 +30,84 @@ using wayland::Registry;
 // a moment later.
 constexpr auto keyboardIsBackAfter = 60ms;
 
-// A connection that lives for one paste: the compositor ends the keyboard with it, whatever
+// A connection that lives for one paste: the compositor lets go of the keys with it, whatever
 // happens.
-class Keyboard {
+class Keys {
   public:
-    // Null without a compositor that gives out keyboards; `declined` says why.
-    static std::unique_ptr<Keyboard> make(IoThread &io, const std::string &display,
-                                          std::string &declined) {
+    // Null without a compositor that lets this program press keys; `declined` says why.
+    static std::unique_ptr<Keys> make(IoThread &io, const std::string &display,
+                                      std::string &declined) {
         auto loop = EventLoop::connect(io, display);
         if (!loop) {
             declined = "there is no Wayland compositor";
             return nullptr;
         }
-        std::unique_ptr<Keyboard> keyboard(new Keyboard(std::move(loop)));
-        if (!keyboard->loop_->roundTrip(pasteboardStallLimit)) {
+        std::unique_ptr<Keys> keys(new Keys(std::move(loop)));
+        if (!keys->loop_->roundTrip(pasteboardStallLimit)) {
             declined = "the Wayland compositor does not answer";
             return nullptr;
         }
-        if (!keyboard->seat_ || !keyboard->manager_) {
-            declined = "the Wayland compositor lets programs press no keys";
+        if (!keys->haveKeyboard() && !keys->fakeInput_) {
+            declined = "the Wayland compositor lets this program press no keys (KWin lets one that "
+                       "is installed)";
             return nullptr;
         }
-        return keyboard;
+        return keys;
     }
 
-    ~Keyboard() {
+    ~Keys() {
         if (keyboard_) {
             zwp_virtual_keyboard_v1_destroy(keyboard_);
         }
         if (manager_) {
             zwp_virtual_keyboard_manager_v1_destroy(manager_);
         }
+        if (fakeInput_) {
+            org_kde_kwin_fake_input_destroy(fakeInput_);
+        }
         if (seat_) {
             wl_seat_destroy(seat_);
         }
     }
 
-    // False if the compositor did not do it.
-    bool pressCtrlV() {
+    const char *protocol() const {
+        return haveKeyboard() ? "Wayland, virtual keyboard" : "KWin, fake input";
+    }
+
+    // `letter` is the evdev code of the key that writes a V in the user's layout. False if the
+    // compositor did not do it.
+    bool pressCtrlV(std::uint32_t letter) {
+        return haveKeyboard() ? pressOnOwnKeyboard() : pressOnUsersKeyboard(letter);
+    }
+
+  private:
+    explicit Keys(std::unique_ptr<EventLoop> loop)
+        : loop_(std::move(loop)) {
+        registry_ = std::make_unique<Registry>(
+            loop_->display(),
+            [this](std::uint32_t name, std::string_view interface, std::uint32_t version) {
+                found(name, interface, version);
+            },
+            [](std::uint32_t) {});
+    }
+
+    void found(std::uint32_t name, std::string_view interface, std::uint32_t version) {
+        constexpr std::uint32_t firstWithKeys = ORG_KDE_KWIN_FAKE_INPUT_KEYBOARD_KEY_SINCE_VERSION;
+        if (!seat_ && interface == wl_seat_interface.name) {
+            seat_ = reinterpret_cast<wl_seat *>(registry_->bind(name, wl_seat_interface, 1));
+        } else if (!manager_ && interface == zwp_virtual_keyboard_manager_v1_interface.name) {
+            manager_ = reinterpret_cast<zwp_virtual_keyboard_manager_v1 *>(
+                registry_->bind(name, zwp_virtual_keyboard_manager_v1_interface, 1));
+        } else if (!fakeInput_ && interface == org_kde_kwin_fake_input_interface.name &&
+                   version >= firstWithKeys) {
+            fakeInput_ = reinterpret_cast<org_kde_kwin_fake_input *>(
+                registry_->bind(name, org_kde_kwin_fake_input_interface, firstWithKeys));
+        }
+    }
+
+    bool haveKeyboard() const { return seat_ && manager_; }
+
+    bool pressOnOwnKeyboard() {
         const auto layout = xkb::Keymap::fromNames("us");
         if (!layout || !begin(layout->asText())) {
             return false;
@@ -78,24 +120,6 @@ class Keyboard {
         key(KEY_LEFTCTRL, WL_KEYBOARD_KEY_STATE_RELEASED);
         zwp_virtual_keyboard_v1_modifiers(keyboard_, 0, 0, 0, 0);
         return loop_->roundTrip(pasteboardStallLimit);
-    }
-
-  private:
-    explicit Keyboard(std::unique_ptr<EventLoop> loop)
-        : loop_(std::move(loop)) {
-        registry_ = std::make_unique<Registry>(
-            loop_->display(),
-            [this](std::uint32_t name, std::string_view interface, std::uint32_t) {
-                if (!seat_ && interface == wl_seat_interface.name) {
-                    seat_ =
-                        reinterpret_cast<wl_seat *>(registry_->bind(name, wl_seat_interface, 1));
-                } else if (!manager_ &&
-                           interface == zwp_virtual_keyboard_manager_v1_interface.name) {
-                    manager_ = reinterpret_cast<zwp_virtual_keyboard_manager_v1 *>(
-                        registry_->bind(name, zwp_virtual_keyboard_manager_v1_interface, 1));
-                }
-            },
-            [](std::uint32_t) {});
     }
 
     // The letters stand where a us keyboard has them, whatever the user's layout.
@@ -115,24 +139,42 @@ class Keyboard {
         zwp_virtual_keyboard_v1_key(keyboard_, ++time_, code, state);
     }
 
+    // As if the user had pressed them: his layout counts, and so do keys that he holds.
+    bool pressOnUsersKeyboard(std::uint32_t letter) {
+        org_kde_kwin_fake_input_authenticate(fakeInput_, "Nerlo Pro", "pastes the cleaned text");
+        const std::pair<std::uint32_t, std::uint32_t> keys[] = {
+            {KEY_LEFTCTRL, WL_KEYBOARD_KEY_STATE_PRESSED},
+            {letter, WL_KEYBOARD_KEY_STATE_PRESSED},
+            {letter, WL_KEYBOARD_KEY_STATE_RELEASED},
+            {KEY_LEFTCTRL, WL_KEYBOARD_KEY_STATE_RELEASED}};
+        for (const auto &[code, state] : keys) {
+            org_kde_kwin_fake_input_keyboard_key(fakeInput_, code, state);
+        }
+        return loop_->roundTrip(pasteboardStallLimit);
+    }
+
     std::unique_ptr<EventLoop> loop_;
     std::unique_ptr<Registry> registry_;
     wl_seat *seat_ = nullptr;
     zwp_virtual_keyboard_manager_v1 *manager_ = nullptr;
     zwp_virtual_keyboard_v1 *keyboard_ = nullptr;
     std::uint32_t time_ = 0; // only its order counts
+    org_kde_kwin_fake_input *fakeInput_ = nullptr;
 };
 
 class WaylandPaster final : public Paster {
   public:
-    WaylandPaster(MainQueue &mainQueue, IoThread &io, std::string display)
+    WaylandPaster(MainQueue &mainQueue, const KeyboardLayout &layout, IoThread &io,
+                  std::string display, std::string description)
         : mainQueue_(mainQueue)
+        , layout_(layout)
         , io_(io)
-        , display_(std::move(display)) {}
+        , display_(std::move(display))
+        , description_(std::move(description)) {}
     ~WaylandPaster() override { mainQueue_.cancel(next_); }
 
-    // The compositor gives the keyboard back by itself, and no other keyboard's modifiers count for
-    // ours.
+    // The compositor gives the keyboard back by itself. Modifiers that the user holds do not count
+    // for a keyboard of our own; elsewhere no program is told of them but the one in front.
     void remember() override {}
 
     void paste(std::function<void(bool)> done) override {
@@ -140,30 +182,38 @@ class WaylandPaster final : public Paster {
         next_ = mainQueue_.postAfter(keyboardIsBackAfter, [this, done = std::move(done)] {
             next_ = 0;
             std::string declined;
-            const auto keyboard = Keyboard::make(io_, display_, declined);
-            done(keyboard && keyboard->pressCtrlV());
+            const auto keys = Keys::make(io_, display_, declined);
+            done(keys && keys->pressCtrlV(letterKey()));
         });
     }
 
-    std::string description() const override { return "Wayland, virtual keyboard"; }
+    std::string description() const override { return description_; }
 
   private:
+    std::uint32_t letterKey() const {
+        const auto key = layout_.keyOfSymbol("v");
+        return (key ? evdevOfVirtualKey(*key) : std::nullopt).value_or(KEY_V);
+    }
+
     MainQueue &mainQueue_;
+    const KeyboardLayout &layout_;
     IoThread &io_;
     const std::string display_;
+    const std::string description_;
     MainQueue::TaskId next_ = 0;
 };
 
 } // namespace
 
-Created<Paster> createWaylandPaster(MainQueue &mainQueue, IoThread &io,
-                                    const std::string &display) {
+Created<Paster> createWaylandPaster(MainQueue &mainQueue, const KeyboardLayout &layout,
+                                    IoThread &io, const std::string &display) {
     const std::string name = display.empty() ? EventLoop::defaultDisplay() : display;
     std::string declined;
-    if (!Keyboard::make(io, name, declined)) {
+    const auto keys = Keys::make(io, name, declined);
+    if (!keys) {
         return {nullptr, std::move(declined)};
     }
-    return {std::make_unique<WaylandPaster>(mainQueue, io, name), {}};
+    return {std::make_unique<WaylandPaster>(mainQueue, layout, io, name, keys->protocol()), {}};
 }
 
 } // namespace nerlo::platform

@@ -1,12 +1,15 @@
-// KWin's list of windows: the other protocol is tried on a real compositor, by the desktop tests.
+// KWin's own protocols for windows and keys: the others are tried on a real compositor, by the
+// desktop tests.
 #include "platform/wayland/WaylandActiveApplication.h"
-
+#include "platform/wayland/WaylandPaster.h"
+#include "platform/xkb/XkbKeyboardLayout.h"
 #include "tests/Until.h"
 #include "tests/fakes/MemoryMainQueue.h"
 #include "tests/platform/wayland/FakeCompositor.h"
 
 #include <gtest/gtest.h>
 
+#include <fake-input-server.h>
 #include <plasma-window-management-server.h>
 #include <wayland-server.h>
 
@@ -73,6 +76,32 @@ TEST(WaylandActiveApplication, KWinTellsOfEachWindowThatComesToTheFront) {
         }
         EXPECT_EQ(told.size(), expected);
     }
+}
+
+TEST(WaylandPaster, AsksKWinBeforeItPressesKeysAndNotBeforeSomebodyPastes) {
+    std::mutex mutex;
+    std::vector<std::string> requests;
+    test::FakeCompositor compositor(
+        &org_kde_kwin_fake_input_interface, 0,
+        {{}, [&](const std::string &request, wl_resource *, wl_resource *) {
+             const std::lock_guard lock(mutex);
+             if (!request.ends_with(".bind")) {
+                 requests.push_back(request.substr(request.find('.')));
+             }
+         }});
+    test::MemoryMainQueue queue;
+    IoThread io;
+    const XkbKeyboardLayout layout(xkb::Keymap::fromNames("us"));
+    const auto created = createWaylandPaster(queue, layout, io, compositor.display());
+    ASSERT_TRUE(created.backend) << created.declined;
+    EXPECT_EQ(created.backend->description(), "KWin, fake input");
+    bool pasted = false;
+    created.backend->paste([&](bool done) { pasted = done; });
+    queue.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(pasted);
+    const std::lock_guard lock(mutex);
+    EXPECT_EQ(requests, (std::vector<std::string>{".authenticate", ".keyboard_key", ".keyboard_key",
+                                                  ".keyboard_key", ".keyboard_key"}));
 }
 
 } // namespace
