@@ -925,8 +925,20 @@ void nrPreferences::carryShortcuts(const EditHistory::Change &change) {
     }
 }
 
+namespace {
+
+// A rule that has come is selected, else the place stays.
+int rowAfter(const PropertyArray &before, const PropertyArray &after, int row) {
+    return after.size() > before.size()
+               ? static_cast<int>(std::ranges::mismatch(before, after).in2 - after.begin())
+               : std::min(row, static_cast<int>(after.size()) - 1);
+}
+
+} // namespace
+
 void nrPreferences::carryProfiles(const EditHistory::Change &change) {
     const EditedState now = editedState();
+    const PropertyArray rules = findReplace_.items();
     const int row = findReplace_.lastClickedRow();
     profilesItems_ = carried(now.profiles, change.from.profiles, change.to.profiles);
     keepRemoved(now.profiles, profilesItems_);
@@ -939,7 +951,9 @@ void nrPreferences::carryProfiles(const EditHistory::Change &change) {
     }
     refreshProfilesMenu();
     profilesSelect();
-    findReplace_.select(std::min(row, static_cast<int>(findReplace_.items().size()) - 1));
+    const bool sameList = now.selected == change.to.selected && now.onlyOne == change.to.onlyOne;
+    const PropertyArray &shown = findReplace_.items();
+    findReplace_.select(rowAfter(sameList ? rules : shown, shown, row));
     updateUI(RulesUpdate::changed);
 }
 

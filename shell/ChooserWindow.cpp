@@ -51,7 +51,6 @@ void becomeActive(QWidget &window) {
     QT_WARNING_POP
 }
 
-// Some desktops' dark colours have no readable one for this.
 QColor dimmed(const QPalette &palette) {
     QColor colour = palette.color(QPalette::Active, QPalette::WindowText);
     colour.setAlphaF(0.6F);
@@ -97,9 +96,6 @@ ChooserWindow::~ChooserWindow() {
 void ChooserWindow::arrange() {
     describe(*search_, "chooserSearch", "sChooserSearch", "sChooserSearchTip");
     search_->setPlaceholderText(localized("sChooserSearch"));
-    QPalette colours = search_->palette();
-    colours.setColor(QPalette::PlaceholderText, dimmed(colours));
-    search_->setPalette(colours);
     search_->installEventFilter(this);
     describe(*list_, "chooserList", "sChooserList", "sChooserListTip");
     setUpPairs(*list_);

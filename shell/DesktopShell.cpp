@@ -152,6 +152,7 @@ void DesktopShell::updateProfiles() {
     }
     menu_->setProfiles(names, program_.preferences().selectedItem());
     updateProfileShortcuts();
+    shortcutList_.followProfiles();
     if (window_) {
         window_->profilesChanged();
     }
@@ -199,14 +200,6 @@ void DesktopShell::updateHotKeys() {
         }
         if (window_) {
             window_->setHotKeyProblem(command.hotKey, conflict);
-        }
-    }
-    for (const auto &[key, hotKey] : program_.hotKeys().registeredUserDefaultsHotKeys()) {
-        const auto status = hotKey->status();
-        if (key.starts_with(settings::profileHotKeyPrefix) &&
-            status.state == platform::HotKeyState::refused) {
-            refused.push_back(QString::fromStdString(hotKey->title) + ": " +
-                              localized(Table::shortcut, status.text));
         }
     }
     if (!refused.empty() && !program_.parts().desktop.hotKeys.backend->available()) {
@@ -423,6 +416,7 @@ void DesktopShell::showAbout() {
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setObjectName("about");
     box->setWindowTitle(localized(Table::menu, "About"));
+    box->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
     box->setText(localized(Table::menu, "Nerlo Pro"));
     box->setInformativeText(localized("sAboutText").arg(QCoreApplication::applicationVersion()));
     box->setIconPixmap(QIcon(":/icons/org.nerlo.NerloPro.svg").pixmap(64, 64));

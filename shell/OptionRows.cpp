@@ -167,12 +167,10 @@ void OptionPage::addRow(const OptionRow &row, const RecorderMaker &makeRecorder)
             grid->addWidget(control, line++, 2, 1, 2);
         }
     }
-    layout_->addWidget(widget, row.ruleList ? 1 : 0);
     if (row.ruleList) {
-        addRules(texts);
-        grid->addWidget(rules_, line, 0, 1, 4);
-        grid->setRowStretch(line, 1);
+        widget = withRules(*widget, texts);
     }
+    layout_->addWidget(widget, row.ruleList ? 1 : 0);
     rows_.push_back({widget, texts.toLower(), row.hotKey, problem});
 }
 
@@ -293,9 +291,16 @@ void OptionPage::setReport(const engine::CleaningReport &report) {
     }
 }
 
-void OptionPage::addRules(QString &texts) {
+// The list is no part of the row in which the recorder is quiet: who works in it wants no shortcut.
+QWidget *OptionPage::withRules(QWidget &row, QString &texts) {
+    auto *both = new QWidget;
+    auto *layout = new QVBoxLayout(both);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(&row);
     rules_ = new FindReplaceTable(preferences_);
+    layout->addWidget(rules_, 1);
     texts += ' ' + rules_->searchTexts();
+    return both;
 }
 
 QWidget *OptionPage::control(std::string_view key) const {

@@ -82,7 +82,7 @@ class OptionPage final : public QWidget {
     QComboBox *makeChoice(const std::string &key, QString &texts);
     QWidget *makeText(const std::string &key);
     void addPatternMark(QLineEdit &field);
-    void addRules(QString &texts);
+    QWidget *withRules(QWidget &row, QString &texts);
     void updateDependents();
     QWidget *control(std::string_view key) const;
     void setEnabledWithLabel(std::string_view key, bool enabled);

@@ -230,6 +230,7 @@ QWidget *PreferencesWindow::makeDeletedBar() {
 
 // Until something else is done. Empty: something has gone.
 void PreferencesWindow::tellDone(const QString &what) {
+    beforeDone_ = QApplication::focusWidget();
     whatWasDone_->setText(what.isEmpty() ? localized("sDeleted") : what);
     deleted_->setAccessibleName(whatWasDone_->text());
     deleted_->show();
@@ -237,7 +238,11 @@ void PreferencesWindow::tellDone(const QString &what) {
     QAccessible::updateAccessibility(&event);
 }
 
+// Who has pressed "Undo" there goes on where the thing was done.
 void PreferencesWindow::historyChanged() {
+    if (beforeDone_ && deleted_->isAncestorOf(QApplication::focusWidget())) {
+        beforeDone_->setFocus();
+    }
     deleted_->hide();
 }
 
@@ -394,6 +399,7 @@ QWidget *PreferencesWindow::makeGeneralPage(const RecorderMaker &makeRecorder) {
         auto *line = new QHBoxLayout(widget);
         line->setContentsMargins(0, 0, 0, 0);
         const QString command = localized(row.key);
+        widget->setAccessibleName(command); // without one it would have that of the group
         auto *label = new QLabel(command);
         setTip(*label, localized(std::string(row.key) + "Tip"));
         line->addWidget(label, 1);
@@ -527,6 +533,7 @@ void PreferencesWindow::profilesChanged() {
     profilesPopupButton_->setCurrentIndex(preferences_.popupSelection().value_or(-1));
     copyTable_->profilesChanged();
     profilesPage_->profilesChanged();
+    shortcutPage_->profilesChanged();
 }
 
 void PreferencesWindow::controlsLoaded() {

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <functional>
@@ -101,6 +102,7 @@ class PreferencesWindow final : public QMainWindow {
     QLabel *notice_;
     QWidget *deleted_ = nullptr; // a line that offers to take back what was done last
     QLabel *whatWasDone_ = nullptr;
+    QPointer<QWidget> beforeDone_;                         // had the keyboard
     std::map<std::string_view, QLabel *> commandProblems_; // by hot key
     PreviewPane *preview_;
     ProfilesPage *profilesPage_;

@@ -5,6 +5,7 @@
 #include "settings/SettingsKeys.h"
 #include "shell/Alerts.h"
 #include "shell/Controls.h"
+#include "shell/ShortcutList.h"
 #include "shell/Strings.h"
 
 #include <QDropEvent>
@@ -84,6 +85,7 @@ void ProfilesPage::updateRecorder() {
         recorder_->setAssociatedUserDefaultsKey(key);
     }
     recorder_->setEnabled(any);
+    recorder_->setAccessibleName(filled(localized("sShortcutOf"), {selectingTitle(name)}));
 }
 
 void ProfilesPage::makeButtons() {

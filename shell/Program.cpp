@@ -204,7 +204,7 @@ void Program::bindProfile(const std::string &name) {
     // Later: the profile may turn out to be gone, and its hot key with it.
     hotKeys_.registerGlobalShortcutWithUserDefaultsKey(
         key, [this, name] { parts_.mainQueue.post([this, name] { selectProfile(name); }); },
-        filled(localized("sSelectsProfile"), {QString::fromStdString(name)}).toStdString());
+        selectingTitle(text::utf8ToUtf16(name).text).toStdString());
 }
 
 void Program::followOtherProcesses() {

@@ -132,8 +132,9 @@ QString RuleModel::brokenSample(int row) const {
         return {};
     }
     const auto number = broken - tried->samples.begin() + 1;
-    return filled(localized("sRuleSampleBroken"), {QLocale().toString(static_cast<int>(number)),
-                                                   QString::fromStdU16String(broken->given)});
+    return filled(localized("sRuleSampleBroken"),
+                  {QLocale().toString(static_cast<int>(number)),
+                   isolated(QString::fromStdU16String(broken->given))});
 }
 
 int RuleModel::rowCount(const QModelIndex &parent) const {

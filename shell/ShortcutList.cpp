@@ -7,6 +7,7 @@
 #include "shell/Strings.h"
 
 #include <algorithm>
+#include <set>
 
 namespace nerlo::shell {
 
@@ -32,9 +33,31 @@ std::vector<ListedCommand> listedCommands() {
 
 } // namespace
 
+bool selectsProfile(const ListedCommand &command) {
+    return command.hotKey.starts_with(settings::profileHotKeyPrefix);
+}
+
+QString selectingTitle(const std::u16string &profile) {
+    return filled(localized("sSelectsProfile"), {shortName(QString::fromStdU16String(profile))});
+}
+
 ShortcutList::ShortcutList(Program &program)
     : program_(program)
-    , commands_(listedCommands()) {}
+    , commands_(listedCommands()) {
+    followProfiles();
+}
+
+void ShortcutList::followProfiles() {
+    std::erase_if(commands_, selectsProfile);
+    std::set<std::u16string> names{u""};
+    for (const settings::ProfileItem &item : program_.preferences().profilesItems()) {
+        const auto name = settings::profileNameOf(item.record);
+        if (names.insert(name).second) {
+            commands_.push_back({settings::profileHotKey(name), selectingTitle(name),
+                                 localized("sProfileTip"), localized(Table::menu, "Profiles")});
+        }
+    }
+}
 
 std::optional<shortcuts::nrShortcut> ShortcutList::shortcut(const std::string &hotKey) const {
     return shortcuts::storedShortcut(program_.store(), hotKey);

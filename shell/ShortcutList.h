@@ -21,15 +21,22 @@ struct ListedCommand {
     QString title;
     QString tip;
     QString page; // of the preferences, on which its options are
+    bool operator==(const ListedCommand &) const = default;
 };
+// Whether it selects a profile; those come and go.
+bool selectsProfile(const ListedCommand &command);
+// What the shortcut of a profile does.
+QString selectingTitle(const std::u16string &profile);
 
 class ShortcutList {
   public:
     // `program` must outlive this.
     explicit ShortcutList(Program &program);
 
-    // In the order of the pages, and on each as there.
+    // In the order of the pages, and on each as there; the profiles come last, each name once.
     const std::vector<ListedCommand> &commands() const { return commands_; }
+    // Those of the profiles that there are now.
+    void followProfiles();
     // "Super+V"; empty for none.
     QString keys(const ListedCommand &command) const;
     // "Super+V: KWin, Close Window": who has the keys, or why the desktop does not give them; empty

@@ -28,7 +28,9 @@ QLabel *makeHeading(const QString &page) {
 
 ShortcutPage::ShortcutPage(ShortcutList &list, const RecorderMaker &makeRecorder)
     : list_(list)
-    , resetAll_(new QPushButton(localized("sShortcutsReset"))) {
+    , makeRecorder_(makeRecorder)
+    , resetAll_(new QPushButton(localized("sShortcutsReset")))
+    , layout_(new QVBoxLayout) {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 8, 12, 12);
     layout->setSpacing(2);
@@ -38,16 +40,10 @@ ShortcutPage::ShortcutPage(ShortcutList &list, const RecorderMaker &makeRecorder
         list_.resetAll();
         emit resetDone();
     });
-    QLabel *heading = nullptr;
-    for (const ListedCommand &command : list.commands()) {
-        if (!heading || heading->text() != command.page) {
-            heading = makeHeading(command.page);
-            layout->addWidget(heading);
-        }
-        addRow(command, heading, makeRecorder);
-        layout->addWidget(rows_.back().widget);
-    }
+    layout_->setSpacing(2);
+    layout->addLayout(layout_);
     layout->addStretch();
+    addRows(list.commands());
     makeStop(rows_.front().recorder);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, const QWidget *now) {
         if (std::ranges::find(rows_, now, &Row::recorder) != rows_.end()) {
@@ -56,8 +52,19 @@ ShortcutPage::ShortcutPage(ShortcutList &list, const RecorderMaker &makeRecorder
     });
 }
 
-void ShortcutPage::addRow(const ListedCommand &command, QLabel *heading,
-                          const RecorderMaker &makeRecorder) {
+void ShortcutPage::addRows(std::span<const ListedCommand> commands) {
+    QLabel *heading = nullptr;
+    for (const ListedCommand &command : commands) {
+        if (!heading || heading->text() != command.page) {
+            heading = makeHeading(command.page);
+            layout_->addWidget(heading);
+        }
+        addRow(command, heading);
+        layout_->addWidget(rows_.back().widget);
+    }
+}
+
+void ShortcutPage::addRow(const ListedCommand &command, QLabel *heading) {
     auto *widget = new QWidget;
     auto *grid = new QGridLayout(widget);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -77,14 +84,14 @@ void ShortcutPage::addRow(const ListedCommand &command, QLabel *heading,
     kept.setRetainSizeWhenHidden(true);
     reset->setSizePolicy(kept);
     grid->addWidget(reset, 0, 1);
-    QWidget *recorder = shell::makeRecorder(makeRecorder, command.hotKey, command.title, *widget);
+    QWidget *recorder = shell::makeRecorder(makeRecorder_, command.hotKey, command.title, *widget);
     recorder->setObjectName("listed." + QString::fromStdString(command.hotKey));
     grid->addWidget(recorder, 0, 2);
     auto *conflict = makeProblem();
     grid->addWidget(conflict, 1, 0, 1, 3);
-    rows_.push_back({&command, heading, widget, conflict, reset, recorder});
+    rows_.push_back({command, heading, widget, conflict, reset, recorder});
     show(rows_.back());
-    connect(reset, &QToolButton::clicked, this, [this, &command, recorder] {
+    connect(reset, &QToolButton::clicked, this, [this, command, recorder] {
         recorder->setFocus(); // the button goes
         list_.reset(command);
     });
@@ -92,25 +99,45 @@ void ShortcutPage::addRow(const ListedCommand &command, QLabel *heading,
 
 void ShortcutPage::update(std::string_view hotKey) {
     const auto row = std::ranges::find_if(
-        rows_, [&](const Row &candidate) { return candidate.command->hotKey == hotKey; });
+        rows_, [&](const Row &candidate) { return candidate.command.hotKey == hotKey; });
     if (row != rows_.end()) {
         show(*row);
     }
 }
 
 void ShortcutPage::show(const Row &row) {
-    showProblem(*row.conflict, list_.conflict(row.command->hotKey));
-    row.reset->setVisible(!list_.isAsAtFirst(*row.command));
+    showProblem(*row.conflict, list_.conflict(row.command.hotKey));
+    row.reset->setVisible(!list_.isAsAtFirst(row.command));
     resetAll_->setEnabled(
         std::ranges::any_of(rows_, [](const Row &other) { return !other.reset->isHidden(); }));
 }
 
+// Their rows are the last ones.
+void ShortcutPage::profilesChanged() {
+    const auto isProfile = [](const Row &row) { return selectsProfile(row.command); };
+    const auto first = std::ranges::find_if(rows_, isProfile);
+    const auto &commands = list_.commands();
+    const auto firstCommand = std::ranges::find_if(commands, selectsProfile);
+    if (std::ranges::equal(first, rows_.end(), firstCommand, commands.end(), {}, &Row::command)) {
+        return;
+    }
+    if (first != rows_.end()) {
+        delete first->heading;
+        std::ranges::for_each(first, rows_.end(), [](const Row &row) { delete row.widget; });
+        rows_.erase(first, rows_.end());
+    }
+    addRows({firstCommand, commands.end()});
+    makeStop(rows_.front().recorder);
+    filter(words_);
+}
+
 bool ShortcutPage::filter(const QStringList &words) {
+    words_ = words;
     for (const Row &row : rows_) {
         row.heading->hide();
     }
     for (const Row &row : rows_) {
-        const bool matches = list_.matches(*row.command, words);
+        const bool matches = list_.matches(row.command, words);
         row.widget->setVisible(matches);
         row.heading->setVisible(matches || !row.heading->isHidden());
     }

@@ -10,7 +10,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
-#include <QWidget>
+#include <QVBoxLayout>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -28,6 +29,8 @@ class ShortcutPage final : public QWidget {
     bool filter(const QStringList &words);
     // Shows anew whom the keys of this command collide with.
     void update(std::string_view hotKey);
+    // Shows the profiles that the list has now.
+    void profilesChanged();
 
   signals:
     void resetDone();
@@ -37,21 +40,25 @@ class ShortcutPage final : public QWidget {
 
   private:
     struct Row {
-        const ListedCommand *command;
+        ListedCommand command;
         QLabel *heading; // of the rows that follow each other with the same page
         QWidget *widget;
         QLabel *conflict;
         QToolButton *reset;
         QWidget *recorder;
     };
-    void addRow(const ListedCommand &command, QLabel *heading, const RecorderMaker &makeRecorder);
+    void addRows(std::span<const ListedCommand> commands);
+    void addRow(const ListedCommand &command, QLabel *heading);
     void show(const Row &row);
     std::vector<const Row *> shownRows() const;
     void makeStop(const QWidget *recorder);
 
     ShortcutList &list_;
+    RecorderMaker makeRecorder_;
     QPushButton *resetAll_;
+    QVBoxLayout *layout_; // of the rows
     std::vector<Row> rows_;
+    QStringList words_; // of the filter
 };
 
 } // namespace nerlo::shell

@@ -67,6 +67,12 @@ QString filled(QString text, std::initializer_list<QString> values) {
     return text;
 }
 
+QString isolated(const QString &text) {
+    constexpr QChar begin(0x2068); // goes by the first letter of the text
+    constexpr QChar end(0x2069);
+    return begin + text + end;
+}
+
 QString shortName(const QString &name) {
     constexpr int most = 60;
     const QString line = name.left(10 * most).simplified();

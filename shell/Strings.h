@@ -27,6 +27,10 @@ QString localized(std::string_view key);
 // again.
 QString filled(QString text, std::initializer_list<QString> values);
 
+// A text of the user's within one of ours: whichever way the one is read, the other keeps its
+// order.
+QString isolated(const QString &text);
+
 // A name that a file may have given, in one line of a length that a menu can show.
 QString shortName(const QString &name);
 

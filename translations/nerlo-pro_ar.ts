@@ -2249,6 +2249,11 @@ Ctrl+F للبحث في الخيارات، وCtrl+Z للتراجع، وF1 لفت�
         <translation>انقر لتسجيل اختصار</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>غير معيّن</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>اضغط الاختصار</translation>
     </message>

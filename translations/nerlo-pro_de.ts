@@ -2250,6 +2250,11 @@ MIT-Lizenz</translation>
         <translation>Tastenkürzel aufnehmen</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>nicht gesetzt</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Tastenkürzel drücken</translation>
     </message>

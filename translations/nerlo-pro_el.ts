@@ -2250,6 +2250,11 @@ Ctrl+F ψάχνει επιλογές, Ctrl+Z αναιρεί, F1 ανοίγει �
         <translation>Εγγραφή συντόμευσης</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>δεν έχει οριστεί</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Πατήστε τη συντόμευση</translation>
     </message>

@@ -2274,6 +2274,11 @@ MIT licence</translation>
         <translation>Click to record shortcut</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>not set</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Type shortcut</translation>
     </message>

@@ -2250,6 +2250,11 @@ Licencia MIT</translation>
         <translation>Grabar un atajo</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>sin definir</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Pulse el atajo</translation>
     </message>

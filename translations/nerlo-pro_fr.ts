@@ -2250,6 +2250,11 @@ Licence MIT</translation>
         <translation>Enregistrer un raccourci</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>non défini</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Tapez le raccourci</translation>
     </message>

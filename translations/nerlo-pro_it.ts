@@ -2250,6 +2250,11 @@ Licenza MIT</translation>
         <translation>Registra una scorciatoia</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>non impostata</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Digiti la scorciatoia</translation>
     </message>

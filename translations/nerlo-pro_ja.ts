@@ -2249,6 +2249,11 @@ MIT ライセンス</translation>
         <translation>ショートカットを記録</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>未設定</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>ショートカットを入力</translation>
     </message>

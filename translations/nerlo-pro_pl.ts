@@ -2250,6 +2250,11 @@ Licencja MIT</translation>
         <translation>Nagraj skrót</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>nie ustawiono</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Naciśnij skrót</translation>
     </message>

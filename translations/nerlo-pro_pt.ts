@@ -2250,6 +2250,11 @@ Licença MIT</translation>
         <translation>Gravar um atalho</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>não definido</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Digite o atalho</translation>
     </message>

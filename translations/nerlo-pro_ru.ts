@@ -2250,6 +2250,11 @@ Ctrl+F ищет параметры, Ctrl+Z отменяет, F1 открывае
         <translation>Записать комбинацию</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>не задано</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Нажмите комбинацию</translation>
     </message>

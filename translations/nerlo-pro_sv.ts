@@ -2250,6 +2250,11 @@ MIT-licens</translation>
         <translation>Spela in en genväg</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>inte angivet</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Tryck genvägen</translation>
     </message>

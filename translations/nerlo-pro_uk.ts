@@ -2250,6 +2250,11 @@ Ctrl+F шукає параметри, Ctrl+Z скасовує, F1 відкрив
         <translation>Записати комбінацію</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>не задано</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>Натисніть комбінацію</translation>
     </message>

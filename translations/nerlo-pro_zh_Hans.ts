@@ -2249,6 +2249,11 @@ MIT 许可证</translation>
         <translation>单击以录制快捷键</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>未设置</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>请按快捷键</translation>
     </message>

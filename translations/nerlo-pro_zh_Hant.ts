@@ -2249,6 +2249,11 @@ MIT 授權</translation>
         <translation>按一下以錄製快捷鍵</translation>
     </message>
     <message>
+        <source>Not set</source>
+        <extracomment>For screen readers, after “Shortcut: Sort lines, ”.</extracomment>
+        <translation>未設定</translation>
+    </message>
+    <message>
         <source>Type shortcut</source>
         <translation>請按快捷鍵</translation>
     </message>

@@ -229,10 +229,10 @@ QString nrShortcutView::warning() const {
 }
 
 QString nrShortcutView::spokenValue() const {
-    if (recording_ || !shortcutValue_) {
-        return title();
-    }
-    return QString::fromStdU16String(shortcutValue_->spelledOutName(context_.texts));
+    return recording_ ? title()
+           : shortcutValue_
+               ? QString::fromStdU16String(shortcutValue_->spelledOutName(context_.texts))
+               : fromTable(u"Not set");
 }
 
 int nrShortcutView::buttonWidth() const {

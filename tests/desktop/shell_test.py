@@ -323,7 +323,7 @@ class ShellTest(unittest.TestCase):
         # A shortcut is recorded and pressed.
         self.click(LIST_ITEM, "Spaces and tabs")
         recorder = "Shortcut: Remove all spaces, "
-        self.click(BUTTON, recorder + "Click to record shortcut")
+        self.click(BUTTON, recorder + "not set")
         self.eyes.find(BUTTON, recorder + "Type shortcut")
         self.desktop.keys("ctrl+shift+k")
         wait_until(lambda: "sRemoveAllSpaces" in (stored(CONFIG) or {}), "the shortcut is saved")

@@ -307,6 +307,11 @@ TEST_F(Profiles, WhatWasDoneIsTakenBackAndDoneAgain) {
     EXPECT_FALSE(preferences.canRedo());
     preferences.undo();
     EXPECT_EQ(names().size(), 4U) << "the removal of a profile was the last gesture";
+    preferences.pasteRules(list);
+    const int pasted = preferences.findReplaceList().lastClickedRow();
+    preferences.deleteFindReplace();
+    preferences.undo();
+    EXPECT_EQ(preferences.findReplaceList().lastClickedRow(), pasted);
 }
 
 TEST_F(Profiles, WhatGoesIsKeptAndWhatRefersToAProfileFollowsIt) {

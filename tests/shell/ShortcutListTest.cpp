@@ -112,6 +112,17 @@ TEST_F(Shortcuts, StandInOneListThatIsSearchedAndWalkedByKeys) {
     EXPECT_EQ(recorder("sClearFormatingFromClipboard")->focusPolicy(), Qt::ClickFocus);
     window.findChild<QAbstractButton *>("reset.sSort")->click();
     EXPECT_EQ(keys("sSort"), "");
+    // Profiles are commands too, and come and go.
+    preferences.profilesAddingCloseWindow(u"Mail");
+    window.profilesChanged();
+    record("selectProfile:Mail", superW);
+    window.findChild<QLineEdit *>("search")->setText("mail super+w");
+    EXPECT_TRUE(recorder("selectProfile:Mail")->isVisible());
+    window.findChild<QAbstractButton *>("reset.selectProfile:Mail")->click();
+    preferences.profilesRename(preferences.profilesItems()[1].id, u"Post");
+    window.profilesChanged();
+    EXPECT_FALSE(recorder("selectProfile:Mail"));
+    EXPECT_EQ(recorder("selectProfile:Post")->focusPolicy(), Qt::ClickFocus);
     EXPECT_FALSE(window.findChild<QAbstractButton *>("resetShortcuts")->isEnabled())
         << "nothing is left to reset";
 }
