@@ -94,16 +94,17 @@ bool isUtf8(std::string_view charset) {
     return charset == "utf-8" || charset == "utf8";
 }
 
-// 0 is best; nothing for a format in which no text is read.
+// 0 is best; nothing for a format in which no text is read. The name of X11 comes before the MIME
+// types, because GTK's programs write the latter with breaks of CR LF.
 std::optional<int> textRank(const std::string &format) {
     if (isPlainMime(format)) {
         const auto charset = charsetOf(format);
         return charset.empty()            ? std::optional(2)
-               : isUtf8(charset)          ? std::optional(0)
+               : isUtf8(charset)          ? std::optional(1)
                : text::isCharset(charset) ? std::optional(3)
                                           : std::nullopt;
     }
-    return same(format, utf8Format)       ? std::optional(1)
+    return same(format, utf8Format)       ? std::optional(0)
            : same(format, compoundFormat) ? std::optional(4)
            : same(format, latin1Format)   ? std::optional(5)
            : same(format, anyTextFormat)  ? std::optional(6)

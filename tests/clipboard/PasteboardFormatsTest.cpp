@@ -10,7 +10,8 @@ using Names = std::vector<std::string>;
 
 TEST(PasteboardFormats, TextsAreKnownByName) {
     const std::pair<Names, Names> rows[] = {
-        {{"STRING", "UTF8_STRING"}, {"UTF8_STRING", "STRING"}},
+        {{"STRING", "text/plain;charset=utf-8", "UTF8_STRING"},
+         {"UTF8_STRING", "text/plain;charset=utf-8", "STRING"}},
         {{"text/html", "TEXT", "text/plain", "text/plain;charset=utf-8"},
          {"text/plain;charset=utf-8", "text/plain", "TEXT"}},
         {{"STRING", R"(Text/Plain ; x=y; Charset = "UTF-8")"},
