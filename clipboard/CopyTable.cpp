@@ -138,7 +138,7 @@ PropertyDictionary dictionaryOf(const CopyRule &rule) {
 
 } // namespace
 
-Looks looksOf(std::u16string_view text) {
+Looks looksOf(std::u16string_view text, bool withPage) {
     if (isUrl(trimmed(text))) {
         return Looks::link;
     }
@@ -146,6 +146,8 @@ Looks looksOf(std::u16string_view text) {
     std::size_t inked = 0;
     std::size_t tables = 0;
     std::size_t codes = 0;
+    std::size_t codeLines = 0;
+    std::size_t codeLike = 0;
     if (text.find(u'\u001B') != text.npos) {
         return Looks::terminal;
     }
@@ -156,9 +158,12 @@ Looks looksOf(std::u16string_view text) {
         }
         inked += line.kind != LineKind::blank;
         tables += line.kind == LineKind::table;
-        codes += line.kind == LineKind::code || line.kind == LineKind::fence ||
-                 line.kind == LineKind::diff || line.kind == LineKind::markup;
+        codeLines += line.kind == LineKind::code;
+        codeLike += line.kind == LineKind::code && line.codeLike;
+        codes += line.kind == LineKind::fence || line.kind == LineKind::diff ||
+                 line.kind == LineKind::markup;
     }
+    codes += withPage && codeLike * 4 < codeLines ? 0 : codeLines;
     if (inked > 0 && tables * 2 >= inked) {
         return Looks::table;
     }

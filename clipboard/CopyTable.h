@@ -21,8 +21,9 @@ namespace nerlo::clipboard {
 enum class Looks { other, link, code, table, terminal };
 
 // What the text looks like, by its beginning. Of a text that could be several things, the one that
-// a clean would harm most.
-Looks looksOf(std::u16string_view text);
+// a clean would harm most. What came with a page is no code by its indent alone, which browsers
+// give to the items of lists.
+Looks looksOf(std::u16string_view text, bool withPage = false);
 
 // What is known of a copy. Names are UTF-8.
 struct Copy {

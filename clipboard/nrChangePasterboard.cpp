@@ -123,7 +123,7 @@ bool nrChangePasterboard::Reading::takes(std::u16string_view content) {
     copy.host = copy.host.value_or(std::string());
     auto found = lookUp();
     if (found.open) {
-        copy.looks = looksOf(content);
+        copy.looks = looksOf(content, !pageFormats(copy.formats).empty());
         found = lookUp();
     }
     if (found.place) {

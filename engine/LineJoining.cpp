@@ -302,7 +302,7 @@ class WrappedParagraphs {
         const bool hyphen = isHyphenated(at);
         const bool apart =
             withSpace_ && !hyphen && !(isIdeograph(lastOf(at)) && isIdeograph(firstOf(at + 1)));
-        put(begin, hyphen ? end - 1 : end);
+        put(begin, hyphen && !isCompound(at + 1) ? end - 1 : end);
         if (apart) {
             text_[to_++] = u' ';
         }
@@ -364,6 +364,13 @@ class WrappedParagraphs {
         return line.size() > 1 && line.back() == u'-' &&
                text::letterCase(line[line.size() - 2]) != LetterCase::Caseless &&
                text::letterCase(firstOf(at + 1)) == LetterCase::Other;
+    }
+
+    // The first word has a hyphen of its own, as "of-the-art" has.
+    bool isCompound(std::size_t at) const {
+        const Line &line = lines_[at];
+        const std::u16string_view word = lineAt(at).substr(0, line.wordEnd - line.begin);
+        return word.find(u'-') < word.size() - 1;
     }
 
     std::u16string &text_;

@@ -324,6 +324,70 @@ bool isPrompt(View words) {
            words.substr(0, sign).find(u' ') == View::npos;
 }
 
+std::size_t digitsAt(View words, std::size_t at) {
+    std::size_t end = at;
+    while (end < words.size() && isAsciiDigit(words[end])) {
+        ++end;
+    }
+    return end - at;
+}
+
+// Behind "2025-03-01", "1/3/25", "1.3.2025" or "Mar  1" at `at`; `at` where there is none.
+std::size_t dateEnd(View words, std::size_t at) {
+    static constexpr View months = u"Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec ";
+    const View name = words.substr(at, 4);
+    if (name.size() == 4 && name[3] == u' ' && isAsciiLetter(name[0]) &&
+        months.find(name) % 4 == 0) {
+        const std::size_t day = firstInk(words, at + 4);
+        return digitsAt(words, day) > 0 ? day + digitsAt(words, day) : at;
+    }
+    std::size_t end = at;
+    for (int part = 0; part < 3; ++part) {
+        const std::size_t digits = digitsAt(words, end);
+        if (digits == 0 || digits > 4) {
+            return at;
+        }
+        end += digits;
+        if (part < 2) {
+            if (end == words.size() || View(u"-/.").find(words[end]) == View::npos) {
+                return at;
+            }
+            ++end;
+        }
+    }
+    return end;
+}
+
+// A day with the time of it, as entries of logs and of chats begin, or "[  12.345678]".
+bool isStamped(View words) {
+    const std::size_t open = words.starts_with(u'[') ? 1 : 0;
+    const std::size_t end = dateEnd(words, open);
+    if (end > open) {
+        std::size_t clock = words.find_first_not_of(u", T", end);
+        clock = std::min(clock, words.size());
+        const std::size_t hours = digitsAt(words, clock);
+        return clock > end && hours > 0 && hours < 3 && words.substr(clock + hours, 1) == u":" &&
+               digitsAt(words, clock + hours + 1) == 2;
+    }
+    const std::size_t seconds = firstInk(words, open);
+    const std::size_t dot = seconds + digitsAt(words, seconds);
+    return open == 1 && dot > seconds && words.substr(dot, 1) == u"." &&
+           words.substr(dot + 1 + digitsAt(words, dot + 1), 1) == u"]";
+}
+
+// "#1  main ()": a row of a debugger's stack.
+bool isStackFrame(View words) {
+    const std::size_t digits = words.starts_with(u'#') ? digitsAt(words, 1) : 0;
+    return digits > 0 && words.substr(1 + digits).starts_with(u"  ");
+}
+
+// "key: value", the key a single word.
+bool isKeyed(View words) {
+    const std::size_t colon = words.find_first_of(u": ");
+    return colon != View::npos && colon > 0 && words[colon] == u':' && isAsciiLetter(words[0]) &&
+           (colon + 1 == words.size() || isBlank(words[colon + 1]));
+}
+
 constexpr std::array<View, 34> blockTags{
     u"address", u"article", u"aside", u"blockquote", u"body",   u"center", u"details",
     u"dialog",  u"div",     u"dl",    u"fieldset",   u"figure", u"footer", u"form",
@@ -554,8 +618,11 @@ class MarkedStructure {
         if (isPrompt(words)) {
             return LineKind::prompt;
         }
-        if (isFileMode(words)) {
+        if (isFileMode(words) || isStamped(words)) {
             return LineKind::table;
+        }
+        if (isStackFrame(words)) {
+            return LineKind::code;
         }
         if (const std::size_t mark = listMark(words)) {
             line.item = true;
@@ -644,11 +711,6 @@ bool isDrawn(View words) {
         words, [](char16_t unit) { return unit >= u'\u2500' && unit <= u'\u257F'; });
 }
 
-bool isPipeRow(View words) {
-    words = trimmed(words);
-    return words.size() > 2 && words.starts_with(u'|') && words.ends_with(u'|');
-}
-
 std::size_t innerTabs(View words) {
     return static_cast<std::size_t>(std::ranges::count(trimmed(words), u'\t'));
 }
@@ -659,6 +721,7 @@ struct Columns {
     std::vector<std::size_t> ends;
     std::vector<std::size_t> starts;
     std::size_t wide = 0; // gaps of more than two blanks
+    bool isFar = false;   // a gap that nobody leaves by mistake
     bool isField = false; // "Name:   value"
 };
 
@@ -677,6 +740,7 @@ Columns columnsOf(View line, std::size_t words) {
             columns.ends.push_back(gap);
             columns.starts.push_back(at);
             columns.wide += at - gap > 2 ? 1 : 0;
+            columns.isFar = columns.isFar || at - gap > 4;
             columns.isField = columns.isField || named;
         }
     }
@@ -690,7 +754,8 @@ bool shareColumn(const std::vector<std::size_t> &a, const std::vector<std::size_
 
 bool isAligned(const Columns &a, const Columns &b) {
     return shareColumn(a.starts, b.starts) || shareColumn(a.ends, b.ends) ||
-           (a.starts.size() > 1 && b.starts.size() > 1);
+           (a.starts.size() > 1 && b.starts.size() > 1) ||
+           (a.wide > 0 && b.wide > 0 && (a.isFar || b.isFar));
 }
 
 // Separators of a list of values: not followed by a blank, nor between digits.
@@ -826,6 +891,9 @@ class Paragraphs {
             tables(begin, end);
             hangingCells(begin, end);
         }
+        if (run_.mostIndent > run_.leastIndent) {
+            valuesOfKeys(begin, end);
+        }
         if (isListOfValues(begin, end)) {
             become(LineKind::table, begin, end);
         } else if (isMostlyCode(begin, end) || isIndentedUnevenly()) {
@@ -854,6 +922,26 @@ class Paragraphs {
             const bool same = indent > 0 && indent == above.words - above.begin;
             if (above.kind == LineKind::table && (indent >= hanging || same)) {
                 lines_[at].kind = LineKind::table;
+            }
+        }
+    }
+
+    // What stands further in below a key belongs to it, as in YAML and in the heads of mails.
+    void valuesOfKeys(std::size_t begin, std::size_t end) {
+        bool below = false;
+        std::size_t keyIndent = 0;
+        for (std::size_t at = begin; at < end; ++at) {
+            auto &line = lines_[at];
+            const std::size_t indent = line.words - line.begin;
+            below = below && indent > keyIndent;
+            if (line.item || line.quoted > line.begin) {
+                continue;
+            }
+            if (below) {
+                line.kind = LineKind::code;
+            } else if (line.marked && isKeyed(wordsAt(at))) {
+                below = true;
+                keyIndent = indent;
             }
         }
     }
@@ -910,9 +998,10 @@ class Paragraphs {
             if (barred && barredAbove) {
                 lines_[at - 1].kind = LineKind::table;
             }
-            const bool alone = own.wide > 1 || own.isField || (barred && barredAbove);
+            const bool alone = own.wide > 1 || own.isFar || own.isField || (barred && barredAbove);
             barredAbove = barred;
-            if (aligned || alone || below || ownTabs > 1 || isPipeRow(words) || isDrawn(words)) {
+            if (aligned || alone || below || ownTabs > 1 || words.starts_with(u'|') ||
+                isDrawn(words)) {
                 lines_[at].kind = LineKind::table;
             }
             columns = std::move(own);

@@ -32,6 +32,13 @@ TEST(StructureGuard, TidiesProseAndLeavesStructure) {
           u"-   on e\n-   two\n    -   in side"},
          {"an item of two lines", u"* one  a \n  goes  on\n* two", u"* one a\n  goes on\n* two"},
          {"a quotation", u"> one   a\n> b > c\n", u"> one a\n> b > c"},
+         {"a log and a chat",
+          u"2025-03-01T10:12:44 a  b\n[22.1.25, 9:04:11] c  d\nJan  2 10:00 e  f",
+          u"2025-03-01T10:12:44 a  b\n[22.1.25, 9:04:11] c  d\nJan  2 10:00 e  f"},
+         {"keys and values", u"a  b\nc:\n  d:\n    e: f  g\n - h",
+          u"a b\nc:\n  d:\n    e: f  g\n - h"},
+         {"far apart", u"Total      1\nTip   2\n\n| a  b", u"Total      1\nTip   2\n\n| a  b"},
+         {"a stack", u"#1  0x1\n[  1.25] d  e", u"#1  0x1\n[  1.25] d  e"},
          {"code and addresses in prose",
           u"See  `a  b`, <a  b=\"c\">, https://a.org/b__c  and  me@a.org .",
           u"See `a  b`, <a  b=\"c\">, https://a.org/b__c and me@a.org ."},
@@ -50,13 +57,10 @@ TEST(StructureGuard, JoinsOnlyWhatWasWrapped) {
           u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak tree "
           u"until morning comes. It was a long day for all of the dogs.\n\nNext"},
          {"an address", u"Jane Doe\n12 Long Street\nLondon", u"Jane Doe\n12 Long Street\nLondon"},
-         {"a quotation and a list",
-          u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\n- The quick brown fox "
-          u"jumps "
-          u"over\n- sleeps",
-          u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\n- The quick brown fox "
-          u"jumps "
-          u"over\n- sleeps"}},
+         {"a quotation", u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\nNext",
+          u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\nNext"},
+         {"a compound", u"The quick brown fox jumps over the state-\nof-the-art fence.",
+          u"The quick brown fox jumps over the state-of-the-art fence."}},
         [](const std::u16string &text) { return clean(text, spacesAndBreaks); });
     auto reply = spacesAndBreaks;
     reply.set("udRemoveReplyQuotes", 1);
