@@ -24,8 +24,4 @@ void describe(QWidget &widget, const char *objectName, std::string_view nameKey,
 // A list of names, each with a word behind it: the name has the room that the word leaves.
 void setUpPairs(QTreeWidget &list);
 
-// Once, for as long as the program runs: some desktops' dark colours have none for the hints in
-// empty fields, which would then stay as dark as on white.
-void keepHintsReadable();
-
 } // namespace nerlo::shell

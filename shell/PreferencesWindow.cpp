@@ -269,6 +269,9 @@ void PreferencesWindow::connectKeys() {
     });
     connect(new QShortcut(Qt::Key_Escape, search_, nullptr, nullptr, Qt::WidgetShortcut),
             &QShortcut::activated, search_, &QLineEdit::clear);
+    connect(new QShortcut(Qt::Key_Down, search_, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, this, &PreferencesWindow::enterPage);
+    connect(search_, &QLineEdit::returnPressed, this, &PreferencesWindow::enterPage);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
 }
 
@@ -480,6 +483,20 @@ void PreferencesWindow::search(const QString &text) {
         pageList_->setCurrentRow(std::max(0, std::exchange(pageBeforeSearch_, -1)));
     } else if (firstHit >= 0 && pageList_->currentItem()->isHidden()) {
         pageList_->setCurrentRow(firstHit);
+    }
+}
+
+// To the first control that the search has left on the page.
+void PreferencesWindow::enterPage() {
+    auto *scroll = static_cast<QScrollArea *>(pages_->currentWidget());
+    const QWidget *page = scroll->widget();
+    for (QWidget *next = page->nextInFocusChain(); page->isAncestorOf(next);
+         next = next->nextInFocusChain()) {
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus)) {
+            next->setFocus(Qt::TabFocusReason);
+            scroll->ensureWidgetVisible(next);
+            return;
+        }
     }
 }
 

@@ -24,6 +24,8 @@ TextWindow::TextWindow(const QString &name, const QString &title, const QString 
     QTextOption option = shown->document()->defaultTextOption();
     option.setTextDirection(layoutDirection());
     shown->document()->setDefaultTextOption(option);
+    shown->document()->setDocumentMargin(10);
+    shown->document()->setIndentWidth(20);
     shown->setMarkdown(text);
     auto *tips = new QPushButton(localized("sWhatsNewTips"));
     tips->setObjectName(name + "Tips");

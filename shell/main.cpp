@@ -7,7 +7,7 @@
 #include "platform/qt/QtWorkerQueue.h"
 #include "shell/BusService.h"
 #include "shell/CommandLine.h"
-#include "shell/Controls.h"
+#include "shell/DarkColours.h"
 #include "shell/Desktop.h"
 #include "shell/Doctor.h"
 #include "shell/Program.h"
@@ -141,7 +141,7 @@ int main(int argc, char **argv) {
     const QApplication application(argc, argv);
     QApplication::setDesktopFileName(shell::applicationId);
     QApplication::setQuitOnLastWindowClosed(false);
-    shell::keepHintsReadable();
+    shell::keepDarkColoursReadable();
     shell::installTranslations(*QCoreApplication::instance(), QLocale::system());
 
     shell::BusService bus;
