@@ -22,6 +22,8 @@ class ActiveApplication {
 
     // For the user's eyes: one English line, also on what is missing.
     virtual std::string description() const = 0;
+    // What it cannot do now and could at another time, in the same words; empty for nothing.
+    virtual std::string limitation() const { return {}; }
 };
 
 } // namespace nerlo::platform

@@ -19,6 +19,8 @@ class Paster {
     virtual void paste(std::function<void(bool pasted)> done) = 0;
     // One line for the user's eyes, in English.
     virtual std::string description() const = 0;
+    // What it cannot do now and could at another time, in the same words; empty for nothing.
+    virtual std::string limitation() const { return {}; }
 };
 
 } // namespace nerlo::platform

@@ -72,8 +72,9 @@ void windows(Report &report, const Desktop &desktop, const std::optional<Running
     report.gap(tray ? "" : "there is no icon to click, so the preferences open at each start");
     const auto &popup = desktop.popupLayer;
     report.topic("Statistics popup", popup, wayland ? "a window" : "a window placed exactly");
-    report.gap(popup.backend || !wayland
-                   ? ""
+    report.gap(popup.backend || !wayland ? ""
+               : running && !platform::pointerPositionKnown()
+                   ? "the compositor says where it stands"
                    : "where the pointer is, is known only over windows of programs on X11");
     if (running) {
         report.line("Chooser", running->chooserLeavesFocus ? "a window that leaves the focus"
@@ -84,7 +85,8 @@ void windows(Report &report, const Desktop &desktop, const std::optional<Running
     }
     const auto &paster = desktop.paster;
     report.topic("Pasting for you", paster, "none");
-    report.gap(paster.backend ? "" : "what the chooser makes is pasted by hand");
+    report.gap(paster.backend ? paster.backend->limitation()
+                              : "what the chooser makes is pasted by hand");
 }
 
 void folders(Report &report, const Desktop &desktop, const settings::SettingsPaths &paths) {
@@ -108,6 +110,7 @@ std::string doctorReport(const Desktop &desktop, const settings::SettingsPaths &
     Report report;
     clipboard(report, desktop);
     report.topic("Application in front", desktop.activeApplication, {});
+    report.gap(desktop.activeApplication.backend->limitation());
     hotKeys(report, desktop, running);
     windows(report, desktop, running);
     report.line("Session bus", sessionBus ? "yes" : "none");

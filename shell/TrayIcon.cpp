@@ -1,5 +1,6 @@
 #include "shell/TrayIcon.h"
 
+#include "shell/PanelMenu.h"
 #include "shell/Strings.h"
 
 #include <QDBusConnection>
@@ -128,10 +129,13 @@ void TrayIcon::updatePanel() {
     inPanel_ = inPanel;
     auto bus = QDBusConnection::sessionBus();
     if (inPanel_) {
+        panelMenu_ = std::make_unique<PanelMenu>(menu_, panelName);
+        panelMenu_->setIcon(stateName(state_), tooltipOf(state_));
         bus.registerService(inPanelName);
         emit appeared();
     } else {
         bus.unregisterService(inPanelName);
+        panelMenu_.reset();
     }
 }
 
@@ -173,6 +177,9 @@ void TrayIcon::setState(TrayState state) {
     if (statusItem_) {
         statusItem_->setIcon(iconOf(state));
         statusItem_->setToolTip(tooltipOf(state));
+    }
+    if (panelMenu_) {
+        panelMenu_->setIcon(stateName(state), tooltipOf(state));
     }
 }
 

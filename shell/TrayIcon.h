@@ -1,6 +1,7 @@
 // The status item in the desktop's tray, once there is one: a StatusNotifierItem host or an XEmbed
 // tray, whichever comes first and whenever it comes; or, where there is none, GNOME's panel by our
-// extension, which shows an icon of its own as long as this program has a name on the bus for it.
+// extension, which shows an icon of its own, with the same menu, as long as this program has a name
+// on the bus for it.
 //
 // The toolkit looks for a host once, when its first icon is made; so none is made before. Main
 // thread only.
@@ -16,6 +17,8 @@ class QDBusServiceWatcher;
 class QSystemTrayIcon;
 
 namespace nerlo::shell {
+
+class PanelMenu;
 
 enum class TrayState { idle, automatic, problem };
 
@@ -71,6 +74,7 @@ class TrayIcon final : public QObject {
     bool overBus_ = false;
     TrayState state_ = TrayState::idle;
     std::unique_ptr<QSystemTrayIcon> statusItem_;
+    std::unique_ptr<PanelMenu> panelMenu_; // while it stands in the panel
 };
 
 } // namespace nerlo::shell

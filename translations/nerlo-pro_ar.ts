@@ -2358,6 +2358,14 @@ Ctrl+F للبحث في الخيارات، وCtrl+Z للتراجع، وF1 لفت�
         <translation>لا يمكن استخدام تركيبة المفاتيح «%@» لأن عنصر القائمة «%@» يستخدمها.</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>يشغّل GNOME إصدارًا أقدم من الإضافة «Nerlo Pro». سجّل الخروج ثم الدخول.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>لا تستجيب إضافة GNOME «Nerlo Pro».</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>يحتاج الاختصار إلى Ctrl أو Super، أو إلى مفتاح وظيفي.</translation>
     </message>

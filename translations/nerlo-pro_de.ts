@@ -2359,6 +2359,14 @@ MIT-Lizenz</translation>
         <translation>Die Tastenkombination „%@“ kann nicht verwendet werden, weil der Menüeintrag „%@“ sie schon benutzt.</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME hat noch eine ältere Version der Erweiterung „Nerlo Pro“ geladen. Melden Sie sich ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>GNOMEs Erweiterung „Nerlo Pro“ antwortet nicht.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Ein Tastenkürzel braucht Strg oder Super oder eine Funktionstaste.</translation>
     </message>

@@ -2359,6 +2359,14 @@ Ctrl+F ψάχνει επιλογές, Ctrl+Z αναιρεί, F1 ανοίγει �
         <translation>Ο συνδυασμός πλήκτρων «%@» δεν μπορεί να χρησιμοποιηθεί, γιατί τον χρησιμοποιεί ήδη το στοιχείο μενού «%@».</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>Το GNOME εκτελεί παλαιότερη έκδοση της επέκτασης «Nerlo Pro». Αποσυνδεθείτε και συνδεθείτε ξανά.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>Η επέκταση «Nerlo Pro» του GNOME δεν απαντά.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Μια συντόμευση χρειάζεται Ctrl ή Super ή ένα πλήκτρο λειτουργίας.</translation>
     </message>

@@ -2383,6 +2383,14 @@ MIT licence</translation>
         <translation>The key combination &quot;%@&quot; can&apos;t be used because it&apos;s already used by the menu item &quot;%@&quot;.</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;. Log out and in.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>A shortcut needs Ctrl or Super, or a function key.</translation>
     </message>

@@ -2359,6 +2359,14 @@ Licencia MIT</translation>
         <translation>No se puede usar la combinación de teclas «%@» porque ya la usa el elemento de menú «%@».</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME ejecuta una versión anterior de la extensión «Nerlo Pro». Cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>La extensión «Nerlo Pro» de GNOME no responde.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Un atajo necesita Ctrl o Super, o una tecla de función.</translation>
     </message>

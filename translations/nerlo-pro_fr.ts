@@ -2359,6 +2359,14 @@ Licence MIT</translation>
         <translation>La combinaison de touches « %@ » ne peut pas être utilisée, car elle sert déjà à l’élément de menu « %@ ».</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME utilise une version plus ancienne de l’extension « Nerlo Pro ». Fermez la session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>L’extension « Nerlo Pro » de GNOME ne répond pas.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Un raccourci doit contenir Ctrl ou Super, ou une touche de fonction.</translation>
     </message>

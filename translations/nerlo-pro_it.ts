@@ -2359,6 +2359,14 @@ Licenza MIT</translation>
         <translation>La combinazione di tasti «%@» non può essere usata perché la usa già la voce di menu «%@».</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME usa una versione precedente dell’estensione «Nerlo Pro». Terminare la sessione e accedere di nuovo.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>L’estensione «Nerlo Pro» di GNOME non risponde.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Una scorciatoia richiede Ctrl o Super, oppure un tasto funzione.</translation>
     </message>

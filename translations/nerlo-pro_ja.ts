@@ -2358,6 +2358,14 @@ MIT ライセンス</translation>
         <translation>キーの組み合わせ「%@」は、メニュー項目「%@」ですでに使われているため使えません。</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME が拡張機能「Nerlo Pro」の古いバージョンを実行しています。一度ログアウトしてからログインしてください。</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>GNOME の拡張機能「Nerlo Pro」が応答しません。</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>ショートカットには Ctrl、Super、またはファンクションキーが必要です。</translation>
     </message>

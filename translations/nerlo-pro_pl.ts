@@ -2359,6 +2359,14 @@ Licencja MIT</translation>
         <translation>Nie można użyć kombinacji klawiszy „%@”, bo używa jej już pozycja menu „%@”.</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME używa starszej wersji rozszerzenia „Nerlo Pro”. Wyloguj się i zaloguj ponownie.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>Rozszerzenie „Nerlo Pro” środowiska GNOME nie odpowiada.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Skrót wymaga klawisza Ctrl lub Super albo klawisza funkcyjnego.</translation>
     </message>

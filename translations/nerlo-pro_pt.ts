@@ -2359,6 +2359,14 @@ Licença MIT</translation>
         <translation>A combinação de teclas “%@” não pode ser usada porque o item de menu “%@” já a usa.</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>O GNOME está executando uma versão mais antiga da extensão “Nerlo Pro”. Saia da sessão e entre de novo.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>A extensão “Nerlo Pro” do GNOME não responde.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Um atalho precisa de Ctrl ou Super, ou de uma tecla de função.</translation>
     </message>

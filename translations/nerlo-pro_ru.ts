@@ -2359,6 +2359,14 @@ Ctrl+F ищет параметры, Ctrl+Z отменяет, F1 открывае
         <translation>Комбинацию клавиш «%@» использовать нельзя, потому что она уже занята пунктом меню «%@».</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME использует более старую версию расширения «Nerlo Pro». Выйдите из сеанса и войдите снова.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>Расширение «Nerlo Pro» для GNOME не отвечает.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Комбинации нужна клавиша Ctrl или Super либо функциональная клавиша.</translation>
     </message>

@@ -2359,6 +2359,14 @@ MIT-licens</translation>
         <translation>Tangentkombinationen ”%@” kan inte användas eftersom den redan används av menyposten ”%@”.</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME kör en äldre version av tillägget ”Nerlo Pro”. Logga ut och in igen.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>GNOME-tillägget ”Nerlo Pro” svarar inte.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>En genväg behöver Ctrl eller Super, eller en funktionstangent.</translation>
     </message>

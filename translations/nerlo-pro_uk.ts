@@ -2359,6 +2359,14 @@ Ctrl+F шукає параметри, Ctrl+Z скасовує, F1 відкрив
         <translation>Комбінацію клавіш «%@» використати не можна, бо вона вже зайнята пунктом меню «%@».</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME використовує старішу версію розширення «Nerlo Pro». Вийдіть із сеансу та увійдіть знову.</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>Розширення «Nerlo Pro» для GNOME не відповідає.</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>Комбінації потрібна клавіша Ctrl або Super чи функціональна клавіша.</translation>
     </message>

@@ -2358,6 +2358,14 @@ MIT 许可证</translation>
         <translation>无法使用按键组合“%@”，因为菜单项“%@”已在使用。</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME 正在运行旧版本的“Nerlo Pro”扩展。请注销后重新登录。</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>GNOME 的“Nerlo Pro”扩展没有响应。</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>快捷键需要 Ctrl 或 Super，或者是功能键。</translation>
     </message>

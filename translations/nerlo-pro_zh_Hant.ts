@@ -2358,6 +2358,14 @@ MIT 授權</translation>
         <translation>無法使用按鍵組合「%@」，因為選單項目「%@」已在使用。</translation>
     </message>
     <message>
+        <source>GNOME runs an older version of the extension &quot;Nerlo Pro&quot;: log out and in</source>
+        <translation>GNOME 正在執行舊版本的「Nerlo Pro」擴充功能。請登出後重新登入。</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s extension &quot;Nerlo Pro&quot; does not answer</source>
+        <translation>GNOME 的「Nerlo Pro」擴充功能沒有回應。</translation>
+    </message>
+    <message>
         <source>a shortcut needs Ctrl or Super, or a function key</source>
         <translation>快速鍵需要 Ctrl 或 Super，或者是功能鍵。</translation>
     </message>

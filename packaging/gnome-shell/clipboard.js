@@ -6,9 +6,9 @@
 
 const {Gio, GLib, GObject, Meta} = imports.gi;
 
-const PROGRAM = 'org.nerlo.NerloPro';
+const {PATH} = imports.misc.extensionUtils.getCurrentExtension().imports.program;
+
 const NAME = 'org.nerlo.NerloPro.Shell';
-const PATH = '/org/nerlo/NerloPro/Shell';
 
 // Formats are MIME types, in the owner's order. A count belongs to one content: it grows with each
 // replacement.
@@ -86,7 +86,8 @@ class NerloProText extends Meta.SelectionSourceMemory {
 });
 
 var Clipboard = class {
-    constructor() {
+    constructor(program) {
+        this._program = program;
         this._selection = global.display.get_selection();
         // No count of an earlier time comes again: replacements are not as fast as this clock.
         this._count = GLib.get_monotonic_time();
@@ -99,26 +100,17 @@ var Clipboard = class {
         });
         this._focus = global.display.connect('notify::focus-window', () => {
             const window = global.display.focus_window;
-            if (window)
-                this._emit('Activated', new GLib.Variant('(s)', [window.get_wm_class() ?? '']));
+            if (window) {
+                const name = window.get_wm_class() ?? '';
+                program.emit(NAME, 'Activated', new GLib.Variant('(s)', [name]));
+            }
         });
         this._object = Gio.DBusExportedObject.wrapJSObject(INTERFACE, this);
         this._object.export(Gio.DBus.session, PATH);
-        this._watch = Gio.bus_watch_name(Gio.BusType.SESSION, PROGRAM, Gio.BusNameWatcherFlags.NONE,
-            (_bus, _name, owner) => {
-                this._program = owner;
-                this._tell();
-            },
-            () => {
-                this._program = null;
-                this._cancel(this._transfers);
-            });
-        this._name = Gio.DBus.session.own_name(NAME, Gio.BusNameOwnerFlags.NONE, null, null);
+        program.follow(this);
     }
 
     destroy() {
-        Gio.bus_unown_name(this._name);
-        Gio.bus_unwatch_name(this._watch);
         this._selection.disconnect(this._changes);
         global.display.disconnect(this._focus);
         this._object.unexport();
@@ -126,23 +118,31 @@ var Clipboard = class {
         this._cancel(this._writes);
     }
 
+    came() {
+        this._tell();
+    }
+
+    left() {
+        this._cancel(this._transfers);
+    }
+
     get Version() {
-        return 1;
+        return 2;
     }
 
     StateAsync(_parameters, invocation) {
-        if (this._admits(invocation))
+        if (this._program.admits(invocation))
             invocation.return_value(this._state());
     }
 
     ReadAsync([count, format], invocation, fdList) {
         const fd = this._takeDescriptor(fdList);
-        const admitted = this._admits(invocation);
+        const admitted = this._program.admits(invocation);
         if (fd === null || !admitted) {
             if (fd !== null)
                 Gio.UnixOutputStream.new(fd, true).close(null);
             if (admitted)
-                this._refuse(invocation, 'there is no pipe');
+                this._program.refuse(invocation, 'there is no pipe');
             return;
         }
         GLib.unix_set_fd_nonblocking(fd, true);
@@ -169,20 +169,20 @@ var Clipboard = class {
     WriteAsync([conditional, over, formats, _handle, size], invocation, fdList) {
         const fd = this._takeDescriptor(fdList);
         const file = fd === null ? null : Gio.UnixInputStream.new(fd, true);
-        if (!this._admits(invocation)) {
+        if (!this._program.admits(invocation)) {
             file?.close(null);
             return;
         }
         if (file === null || size > BYTES_LIMIT || this._writes.size >= TRANSFER_LIMIT) {
             file?.close(null);
-            this._refuse(invocation, 'too much');
+            this._program.refuse(invocation, 'too much');
             return;
         }
         let bytes = null;
         const end = read => {
             file.close(null);
             if (!read || bytes.get_size() !== size) {
-                this._refuse(invocation, 'the bytes did not arrive');
+                this._program.refuse(invocation, 'the bytes did not arrive');
                 return;
             }
             // Not at once: copies that a busy Shell has not looked at yet come first.
@@ -264,26 +264,7 @@ var Clipboard = class {
     }
 
     _tell() {
-        this._emit('Changed', this._state());
-    }
-
-    _emit(signal, parameters) {
-        if (this._program)
-            Gio.DBus.session.emit_signal(this._program, PATH, NAME, signal, parameters);
-    }
-
-    // Whether the call comes from the program; answers it if not.
-    _admits(invocation) {
-        const admitted = this._program && invocation.get_sender() === this._program;
-        if (!admitted) {
-            invocation.return_dbus_error('org.freedesktop.DBus.Error.AccessDenied',
-                `only for the owner of ${PROGRAM}`);
-        }
-        return admitted;
-    }
-
-    _refuse(invocation, why) {
-        invocation.return_dbus_error('org.freedesktop.DBus.Error.Failed', why);
+        this._program.emit(NAME, 'Changed', this._state());
     }
 
     // The only descriptor of a call, which is now ours; null if there are none or more. Those of the

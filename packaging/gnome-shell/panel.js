@@ -1,54 +1,137 @@
-// The program's icon in the Shell's panel, with the commands of its desktop file, which has their names
-// in the user's language. It is there while the program has a name for it on the bus.
+// The program's icon in the Shell's panel, with the menu that the program has for it. It is there while
+// the program has a name for it on the bus.
 
-const {Gio, GLib, GObject, St} = imports.gi;
+const {Clutter, Gio, GLib, GObject, St} = imports.gi;
 const Main = imports.ui.main;
 const PanelMenu = imports.ui.panelMenu;
+const PopupMenu = imports.ui.popupMenu;
 
-const PROGRAM = 'org.nerlo.NerloPro';
-const PATH = '/org/nerlo/NerloPro';
+const {NAME: PROGRAM} = imports.misc.extensionUtils.getCurrentExtension().imports.program;
+
+const PATH = '/org/nerlo/NerloPro/Panel';
+const INTERFACE = 'org.nerlo.NerloPro.Panel';
 const ICON = 'org.nerlo.NerloPro.StatusItem';
+
+const ICONS = ['idle', 'automatic', 'problem'];
+const ROWS = '(ssa(iuuss))';
+const FLAGS = {ENABLED: 1, CHECKABLE: 2, CHECKED: 4, SEPARATOR: 8, MENU: 16};
+// More are nonsense, and are left off.
+const ROW_LIMIT = 1000;
+
+function call(method, parameters, replyType = null, answer = null) {
+    Gio.DBus.session.call(PROGRAM, PATH, INTERFACE, method, parameters,
+        replyType && new GLib.VariantType(replyType), Gio.DBusCallFlags.NO_AUTO_START, -1, null,
+        (bus, result) => {
+            try {
+                answer?.(bus.call_finish(result).deepUnpack());
+            } catch (error) {
+                // The program has gone meanwhile, and the button with it.
+            }
+        });
+}
 
 const Button = GObject.registerClass(
 class NerloProButton extends PanelMenu.Button {
-    // Null where the program runs without being installed.
-    _init(application) {
+    _init(program) {
         super._init(0.5, 'Nerlo Pro');
+        this._program = program;
         this._icon = new St.Icon({style_class: 'system-status-icon'});
         this.add_child(this._icon);
-        this.setAutomatic(false);
-        for (const action of application?.list_actions() ?? []) {
-            this.menu.addAction(application.get_action_name(action), () =>
-                application.launch_action(action, global.create_app_launch_context(0, -1)));
+        this._items = [];
+        this._ids = [];
+        this.setIcon('idle', 'Nerlo Pro');
+        // The menu is opened with the rows that it had, which takes longer than the answer.
+        this.menu.connect('open-state-changed', (_menu, open) => {
+            if (open)
+                this.ask();
+        });
+        this.ask();
+    }
+
+    ask() {
+        call('Rows', null, ROWS, ([icon, title, rows]) => {
+            this.setIcon(icon, title);
+            this._show(rows.slice(0, ROW_LIMIT));
+        });
+    }
+
+    setIcon(icon, title) {
+        this._icon.icon_name =
+            `${PROGRAM}-${ICONS.includes(icon) ? icon : ICONS[0]}-symbolic`;
+        this.accessible_name = title;
+    }
+
+    // Rows that only differ in what they say stay where they are, under the pointer.
+    _show(rows) {
+        const shape = JSON.stringify(rows.map(([, depth, flags]) =>
+            [depth, flags & (FLAGS.CHECKABLE | FLAGS.SEPARATOR | FLAGS.MENU)]));
+        if (shape !== this._shape) {
+            this._shape = shape;
+            this._build(rows);
         }
-        if (!application)
-            this._addCall('Nerlo Pro', 'Preferences');
-        // In the Shell's own words, which has one for this in every language.
-        this._addCall(_('Quit'), 'Quit');
+        rows.forEach(([id, _depth, flags, title, keys], place) => {
+            const item = this._items[place];
+            this._ids[place] = id;
+            if (item.label.text !== title)
+                item.label.text = title;
+            if (flags & (FLAGS.SEPARATOR | FLAGS.MENU))
+                return;
+            item.setSensitive((flags & FLAGS.ENABLED) !== 0);
+            item.keys.text = keys;
+            if (flags & FLAGS.CHECKABLE) {
+                item.setOrnament(flags & FLAGS.CHECKED
+                    ? PopupMenu.Ornament.CHECK : PopupMenu.Ornament.NONE);
+            }
+        });
     }
 
-    _addCall(title, method) {
-        this.menu.addAction(title, () => Gio.DBus.session.call(PROGRAM, PATH, PROGRAM, method, null,
-            null, Gio.DBusCallFlags.NO_AUTO_START, -1, null, null));
+    // The Shell has menus in a menu, but none in those: they are parts of it, with a title.
+    _build(rows) {
+        this.menu.removeAll();
+        const menus = [this.menu];
+        this._items = rows.map(([, depth, flags], place) => {
+            const parent = menus[Math.min(depth, menus.length - 1)];
+            let item;
+            menus.length = Math.min(depth, menus.length - 1) + 1;
+            if (flags & FLAGS.MENU && parent === this.menu) {
+                item = new PopupMenu.PopupSubMenuMenuItem('');
+                menus.push(item.menu);
+            } else if (flags & (FLAGS.MENU | FLAGS.SEPARATOR)) {
+                item = new PopupMenu.PopupSeparatorMenuItem();
+                if (flags & FLAGS.MENU)
+                    menus.push(parent);
+            } else {
+                item = this._makeRow(place);
+            }
+            parent.addMenuItem(item);
+            return item;
+        });
     }
 
-    setAutomatic(on) {
-        this._icon.icon_name = `${PROGRAM}-${on ? 'automatic' : 'idle'}-symbolic`;
+    _makeRow(place) {
+        const item = new PopupMenu.PopupMenuItem('');
+        item.label.x_expand = true;
+        item.keys = new St.Label({opacity: 160, y_align: Clutter.ActorAlign.CENTER});
+        item.add_child(item.keys);
+        item.connect('activate', () => {
+            this._program.acted(global.get_current_time());
+            call('Run', new GLib.Variant('(i)', [this._ids[place]]));
+        });
+        return item;
     }
 });
 
 var Panel = class {
-    constructor() {
+    constructor(program) {
+        this._program = program;
         this._wanted = false;
         this._watch = Gio.bus_watch_name(Gio.BusType.SESSION, ICON, Gio.BusNameWatcherFlags.NONE,
             () => this._setWanted(true), () => this._setWanted(false));
         this._session = Main.sessionMode.connect('updated', () => this._show());
-        this._changes = Gio.DBus.session.signal_subscribe(PROGRAM,
-            'org.freedesktop.DBus.Properties', 'PropertiesChanged', PATH, PROGRAM,
-            Gio.DBusSignalFlags.NONE, (_bus, _sender, _path, _interface, _signal, parameters) => {
-                const [, changed] = parameters.deepUnpack();
-                if ('AutomaticMode' in changed)
-                    this._button?.setAutomatic(changed.AutomaticMode.deepUnpack() === true);
+        this._changes = Gio.DBus.session.signal_subscribe(PROGRAM, INTERFACE, 'IconChanged', PATH,
+            null, Gio.DBusSignalFlags.NONE, (_bus, _sender, _path, _interface, _signal, parameters) => {
+                if (parameters.get_type_string() === '(ss)')
+                    this._button?.setIcon(...parameters.deepUnpack());
             });
     }
 
@@ -69,22 +152,8 @@ var Panel = class {
             this._button?.destroy();
             this._button = null;
         } else if (!this._button) {
-            this._button = new Button(Gio.DesktopAppInfo.new(`${PROGRAM}.desktop`));
+            this._button = new Button(this._program);
             Main.panel.addToStatusArea(PROGRAM, this._button);
-            this._askAutomatic();
         }
-    }
-
-    _askAutomatic() {
-        Gio.DBus.session.call(PROGRAM, PATH, 'org.freedesktop.DBus.Properties', 'Get',
-            new GLib.Variant('(ss)', [PROGRAM, 'AutomaticMode']), null,
-            Gio.DBusCallFlags.NO_AUTO_START, -1, null, (bus, result) => {
-                try {
-                    const [mode] = bus.call_finish(result).recursiveUnpack();
-                    this._button?.setAutomatic(mode === true);
-                } catch (error) {
-                    // The program has gone meanwhile, and the button with it.
-                }
-            });
     }
 };

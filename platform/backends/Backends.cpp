@@ -2,7 +2,9 @@
 
 #include "platform/Created.h"
 #include "platform/qt/GnomeActiveApplication.h"
+#include "platform/qt/GnomeHotKeys.h"
 #include "platform/qt/GnomePasteboard.h"
+#include "platform/qt/GnomePaster.h"
 #include "platform/qt/KdeHotKeys.h"
 #include "platform/qt/PortalHotKeys.h"
 #include "platform/qt/QtWindowSystem.h"
@@ -108,29 +110,37 @@ std::shared_ptr<x11::SharedConnection> Backends::x11() {
 std::vector<std::string> Backends::whyNoDisplay() {
     auto chosen = firstOf<Pasteboard>([&] { return createWaylandPasteboard(mainQueue_, io_); },
                                       [&] { return createX11Pasteboard(mainQueue_, io_); });
-    return chosen.backend ? std::vector<std::string>() : std::move(chosen.declined);
+    const bool gnome = !chosen.backend && underWayland() && gnomeExtensionRuns();
+    return chosen.backend || gnome ? std::vector<std::string>() : std::move(chosen.declined);
 }
 
 Chosen<Pasteboard> Backends::openPasteboard() {
-    return firstOf<Pasteboard>(
-        [&] { return createWaylandPasteboard(mainQueue_, io_); },
-        [&] { return inWayland<Pasteboard>([&] { return createGnomePasteboard(mainQueue_); }); },
-        [&] {
-            return onWayland(createX11Pasteboard(mainQueue_, io_),
-                             "copies come by way of Xwayland, where the compositor passes them on; "
-                             "GNOME does");
-        });
+    const auto x11 = [this] {
+        return onWayland(createX11Pasteboard(mainQueue_, io_),
+                         "copies come by way of Xwayland, where the compositor passes them on; "
+                         "GNOME does");
+    };
+    return firstOf<Pasteboard>([&] { return createWaylandPasteboard(mainQueue_, io_); },
+                               [&] {
+                                   return inWayland<Pasteboard>(
+                                       [&] { return createGnomePasteboard(mainQueue_, x11); });
+                               },
+                               x11);
 }
 
 Chosen<ActiveApplication> Backends::openActiveApplication() {
+    const auto onX11 = [this] {
+        return onWayland(createX11ActiveApplication(mainQueue_, x11()),
+                         "windows of Wayland programs are not told apart, so rules for a program "
+                         "fit only copies from programs on X11");
+    };
     return firstOf<ActiveApplication>(
         [&] { return createWaylandActiveApplication(mainQueue_, io_); },
-        [] { return inWayland<ActiveApplication>(createGnomeActiveApplication); },
         [&] {
-            return onWayland(createX11ActiveApplication(mainQueue_, x11()),
-                             "windows of Wayland programs are not told apart, so rules for a "
-                             "program fit only copies from programs on X11");
+            return inWayland<ActiveApplication>(
+                [&] { return createGnomeActiveApplication(onX11()); });
         },
+        onX11,
         [] {
             auto none = always<ActiveApplication, NoActiveApplication>();
             none.lacks = "which program is in front cannot be told, so rules for a program fit no "
@@ -159,7 +169,11 @@ Chosen<HotKeyService> Backends::openHotKeys(const KeyboardLayout &layout,
                 return kde;
             }
             auto portal = createPortalHotKeys(mainQueue_, layout, applicationId);
-            return portal.backend ? std::move(portal) : always<HotKeyService, NoHotKeys>();
+            if (!portal.backend) {
+                portal = always<HotKeyService, NoHotKeys>();
+            }
+            auto gnome = createGnomeHotKeys(portal.backend);
+            return gnome.backend ? std::move(gnome) : std::move(portal);
         },
         [&] { return createX11HotKeys(mainQueue_, x11()); },
         [] { return always<HotKeyService, NoHotKeys>(); });
@@ -170,11 +184,16 @@ Chosen<PopupLayer> Backends::openPopupLayer() {
 }
 
 Chosen<Paster> Backends::openPaster(const KeyboardLayout &layout) {
+    const auto onX11 = [&] {
+        return onWayland(createX11Paster(mainQueue_, layout, x11()),
+                         "pastes into windows of programs on X11 alone");
+    };
     return firstOf<Paster>([&] { return createWaylandPaster(mainQueue_, layout, io_); },
                            [&] {
-                               return onWayland(createX11Paster(mainQueue_, layout, x11()),
-                                                "pastes into windows of programs on X11 alone");
-                           });
+                               return inWayland<Paster>(
+                                   [&] { return createGnomePaster(mainQueue_, layout, onX11()); });
+                           },
+                           onX11);
 }
 
 bool Backends::grabGetsAllKeys() {

@@ -52,8 +52,8 @@ class Backends {
     // The rest uses the toolkit's connection to the session bus, which belongs to the application
     // object that is there at its first use.
 
-    // Wayland, GNOME's extension, then X11 (under a Wayland compositor: its Xwayland). Null without
-    // any display.
+    // Wayland, in GNOME the Shell's extension, while that runs, then X11 (under a Wayland
+    // compositor: its Xwayland). Null without any display.
     Chosen<Pasteboard> openPasteboard();
 
     // In the same order; the last never declines and never learns of an application.
@@ -62,16 +62,17 @@ class Backends {
     // In the same order; the last never declines and is the us layout.
     Chosen<KeyboardLayout> openKeyboardLayout();
 
-    // On Wayland KDE's own service, else the desktop portal; else X11. The last never declines and
-    // refuses every hot key.
-    // `layout` must outlive the result. `applicationId` is that of the desktop file.
+    // On Wayland KDE's own service, or GNOME's extension while it runs, else the desktop portal;
+    // else X11. The last never declines and refuses every hot key. `layout` must outlive the
+    // result. `applicationId` is that of the desktop file.
     Chosen<HotKeyService> openHotKeys(const KeyboardLayout &layout,
                                       const std::string &applicationId);
 
     // Null where the toolkit's own windows are the best there is.
     Chosen<PopupLayer> openPopupLayer();
 
-    // Wayland, then X11. Null where no program may press keys. `layout` must outlive the result.
+    // In the same order as the clipboard. Null where no program may press keys. `layout` must
+    // outlive the result.
     Chosen<Paster> openPaster(const KeyboardLayout &layout);
 
     // The rest needs the toolkit's application object.

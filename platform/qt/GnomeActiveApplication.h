@@ -6,7 +6,8 @@
 
 namespace nerlo::platform {
 
-// Declines where the extension does not run. Main thread, with an event loop.
-Created<ActiveApplication> createGnomeActiveApplication();
+// Declines in other desktops. While the extension does not run, `otherwise` serves in its place, if
+// there is one. Main thread, with an event loop.
+Created<ActiveApplication> createGnomeActiveApplication(Created<ActiveApplication> otherwise);
 
 } // namespace nerlo::platform

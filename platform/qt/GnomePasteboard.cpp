@@ -1,6 +1,7 @@
 #include "platform/qt/GnomePasteboard.h"
 
 #include "platform/Alive.h"
+#include "platform/FallbackPasteboard.h"
 #include "platform/PasteboardReading.h"
 #include "platform/qt/GnomeShell.h"
 #include "platform/qt/MutterOffer.h"
@@ -91,22 +92,43 @@ class GnomePasteboard final : public Pasteboard {
                                  replaced(std::move(*state));
                              }
                          });
+        QObject::connect(&shell_, &GnomeShell::came, &shell_, [this] {
+            // Where it does not listen to us yet, its news comes as soon as it does.
+            shell_.call(QStringLiteral("State"), {}, pasteboardStallLimit,
+                        [this](const QDBusMessage &reply) {
+                            if (auto state = stateIn(reply)) {
+                                replaced(std::move(*state));
+                            }
+                        });
+        });
         QObject::connect(&shell_, &GnomeShell::left, &shell_, [this] {
             there_ = false;
             endReads(PasteboardStatus::unavailable);
+            if (left_) {
+                left_();
+            }
         });
     }
 
-    // Why not, or nothing.
-    std::string start() {
+    // `came` gets the count of what stands on the clipboard when the extension begins to listen to
+    // us; `left` runs when it has ended.
+    void setPresenceHandlers(std::function<void(ChangeCount)> came, std::function<void()> left) {
+        came_ = std::move(came);
+        left_ = std::move(left);
+    }
+
+    // Whether the extension is there, be it for another process.
+    bool start() {
+        if (!shell_.isThere()) {
+            return false;
+        }
         const QDBusMessage reply = shell_.ask(QStringLiteral("State"), pasteboardStallLimit);
         if (auto state = stateIn(reply)) {
             now_ = std::move(*state);
             there_ = true;
-        } else if (reply.errorName() != QLatin1String("org.freedesktop.DBus.Error.AccessDenied")) {
-            return "GNOME's extension \"Nerlo Pro\" does not answer";
         }
-        return {};
+        return there_ ||
+               reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.AccessDenied");
     }
 
     ChangeCount changeCount() const override { return now_.count; }
@@ -158,7 +180,9 @@ class GnomePasteboard final : public Pasteboard {
 
     std::string description() const override { return "GNOME, by the Shell's extension"; }
     std::vector<std::string> limitations() const override {
-        return {"When the screen is locked, what was restored keeps its text alone."};
+        return {shell_.isThere()
+                    ? "When the screen is locked, what was restored keeps its text alone."
+                    : GnomeShell::notEnabled};
     }
 
   private:
@@ -197,8 +221,12 @@ class GnomePasteboard final : public Pasteboard {
     }
 
     void replaced(State state) {
-        there_ = true;
-        if (offering_) {
+        if (!std::exchange(there_, true)) {
+            if (came_) {
+                came_(state.count);
+            }
+            take(std::move(state));
+        } else if (offering_) {
             // One of these is our own.
             duringOffer_.push_back(std::move(state));
         } else if (state.count > now_.count) {
@@ -413,6 +441,8 @@ class GnomePasteboard final : public Pasteboard {
     State now_;
     bool there_ = false; // and listens to us
     std::function<void()> changed_;
+    std::function<void(ChangeCount)> came_;
+    std::function<void()> left_;
     std::vector<std::shared_ptr<ReadJob>> reads_;
     std::deque<WriteJob> writes_;
     std::unique_ptr<MutterOffer> offer_; // of the last content that is no single text
@@ -422,16 +452,36 @@ class GnomePasteboard final : public Pasteboard {
 
 } // namespace
 
-Created<Pasteboard> createGnomePasteboard(MainQueue &mainQueue) {
-    if (std::string missing = GnomeShell::missing(QDBusConnection::sessionBus());
-        !missing.empty()) {
-        return {nullptr, std::move(missing)};
+Created<Pasteboard> createGnomePasteboard(MainQueue &mainQueue,
+                                          std::function<Created<Pasteboard>()> otherwise) {
+    if (auto why = GnomeShell::impossible(QDBusConnection::sessionBus()); !why.empty()) {
+        return {nullptr, std::move(why)};
     }
-    auto pasteboard = std::make_unique<GnomePasteboard>(mainQueue);
-    if (std::string declined = pasteboard->start(); !declined.empty()) {
-        return {nullptr, std::move(declined)};
+    auto gnome = std::make_unique<GnomePasteboard>(mainQueue);
+    auto &extension = *gnome;
+    auto both =
+        std::make_unique<FallbackPasteboard>(std::move(gnome), [otherwise = std::move(otherwise)] {
+            auto opened = otherwise();
+            opened.lacks += std::string("; ") + GnomeShell::notEnabled;
+            return opened;
+        });
+    extension.setPresenceHandlers([&both = *both](ChangeCount count) { both.useFirst(count); },
+                                  [&both = *both] { both.useOther(); });
+    if (!extension.start()) {
+        both->useOther();
+        if (both->usesFirst()) {
+            return {nullptr, GnomeShell::notEnabled};
+        }
     }
-    return {std::move(pasteboard), {}};
+    return {std::move(both), {}};
+}
+
+bool gnomeExtensionRuns() {
+    const auto name = QStringLiteral("nerlo-extension");
+    const auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    const bool runs = GnomeShell::impossible(bus).empty() && GnomeShell(bus).isThere();
+    QDBusConnection::disconnectFromBus(name);
+    return runs;
 }
 
 } // namespace nerlo::platform

@@ -13,35 +13,49 @@ namespace {
 const QString service = QStringLiteral("org.nerlo.NerloPro.Shell");
 const QString servicePath = QStringLiteral("/org/nerlo/NerloPro/Shell");
 
-QDBusMessage method(const QString &name, const QVariantList &arguments) {
-    auto message = QDBusMessage::createMethodCall(service, servicePath, service, name);
-    message.setArguments(arguments);
-    message.setAutoStartService(false);
-    return message;
-}
-
 } // namespace
 
-GnomeShell::GnomeShell(QDBusConnection bus)
-    : bus_(std::move(bus)) {
-    bus_.connect(service, servicePath, service, QStringLiteral("Changed"), this,
-                 SLOT(onChanged(QDBusMessage)));
-    bus_.connect(service, servicePath, service, QStringLiteral("Activated"), this,
-                 SLOT(onActivated(QString)));
+GnomeShell::GnomeShell(QDBusConnection bus, Part part)
+    : bus_(std::move(bus))
+    , interface_(part == Part::keys ? service + QStringLiteral(".Keys") : service)
+    , there_(bus_.interface()->isServiceRegistered(service)) {
+    if (part == Part::keys) {
+        bus_.connect(service, servicePath, interface_, QStringLiteral("Pressed"), this,
+                     SLOT(onPressed(uint)));
+        bus_.connect(service, servicePath, interface_, QStringLiteral("Listening"), this,
+                     SLOT(onListening()));
+    } else {
+        bus_.connect(service, servicePath, interface_, QStringLiteral("Changed"), this,
+                     SLOT(onChanged(QDBusMessage)));
+        bus_.connect(service, servicePath, interface_, QStringLiteral("Activated"), this,
+                     SLOT(onActivated(QString)));
+    }
     auto *watcher =
-        new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, &GnomeShell::left);
+        new QDBusServiceWatcher(service, bus_, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &owner) {
+                if (std::exchange(there_, false)) {
+                    emit left();
+                }
+                if (!owner.isEmpty()) {
+                    there_ = true;
+                    emit came();
+                }
+            });
 }
 
-std::string GnomeShell::missing(const QDBusConnection &bus) {
+std::string GnomeShell::impossible(const QDBusConnection &bus) {
     if (!qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':').contains("GNOME")) {
         return "this is not GNOME";
     }
-    if (!bus.isConnected() || !bus.interface()->isServiceRegistered(service)) {
-        return "GNOME's extension \"Nerlo Pro\" is not enabled: "
-               "gnome-extensions enable nerlo-pro@nerlo.org";
-    }
-    return {};
+    return bus.isConnected() ? std::string() : "there is no session bus";
+}
+
+QDBusMessage GnomeShell::method(const QString &name, const QVariantList &arguments) const {
+    auto message = QDBusMessage::createMethodCall(service, servicePath, interface_, name);
+    message.setArguments(arguments);
+    message.setAutoStartService(false);
+    return message;
 }
 
 void GnomeShell::call(const QString &name, const QVariantList &arguments,
@@ -53,7 +67,9 @@ void GnomeShell::call(const QString &name, const QVariantList &arguments,
                 const QDBusMessage reply = finished->reply();
                 // Now, because the call has copies of the descriptors that were passed.
                 finished->deleteLater();
-                answer(reply);
+                if (answer) {
+                    answer(reply);
+                }
             });
 }
 

@@ -19,16 +19,23 @@ class GnomeShell : public QObject {
     Q_OBJECT
 
   public:
-    explicit GnomeShell(QDBusConnection bus);
+    // What the extension offers has two parts.
+    enum class Part { clipboard, keys };
+    explicit GnomeShell(QDBusConnection bus, Part part = Part::clipboard);
 
-    // Why this desktop does not have the extension, in English; nothing if it runs. Waits for the
-    // bus.
-    static std::string missing(const QDBusConnection &bus);
+    // Why this desktop can never have the extension, in English; nothing if it can.
+    static std::string impossible(const QDBusConnection &bus);
+    // Why it is not there, for the user's eyes.
+    static constexpr const char *notEnabled = "GNOME's extension \"Nerlo Pro\" is not enabled: "
+                                              "gnome-extensions enable nerlo-pro@nerlo.org";
+
+    // Whether the extension runs, as far as is known.
+    bool isThere() const { return there_; }
 
     using Answer = std::function<void(const QDBusMessage &)>;
     // `answer` gets the reply, or an error, within `limit`, and not after the end of this object.
     void call(const QString &method, const QVariantList &arguments, std::chrono::milliseconds limit,
-              Answer answer);
+              Answer answer = {});
     // Waits for the reply, or an error, for at most `limit`.
     QDBusMessage ask(const QString &method, std::chrono::milliseconds limit);
 
@@ -36,17 +43,28 @@ class GnomeShell : public QObject {
     void changed(const QDBusMessage &state);
     // Another window came to the front, with the name that it gives itself.
     void activated(const QString &application);
-    // The extension was ended; it may come back, with a signal of its own.
+    // A hot key, by the number that the extension gave it.
+    void pressed(uint grabbed);
+    // It knows this program now; what it was asked for before it has refused.
+    void listening();
+    // The extension was ended, or runs again and knows nothing of what it was told before.
+    void came();
     void left();
 
   private slots:
     void onChanged(const QDBusMessage &state) { emit changed(state); }
     void onActivated(const QString &application) { emit activated(application.left(longestName)); }
+    void onPressed(uint grabbed) { emit pressed(grabbed); }
+    void onListening() { emit listening(); }
 
   private:
     static constexpr qsizetype longestName = 256;
 
+    QDBusMessage method(const QString &name, const QVariantList &arguments) const;
+
     QDBusConnection bus_;
+    const QString interface_;
+    bool there_;
 };
 
 } // namespace nerlo::platform

@@ -1,0 +1,83 @@
+#include "platform/qt/GnomePaster.h"
+
+#include "platform/VirtualKeys.h"
+#include "platform/qt/GnomeShell.h"
+
+#include <chrono>
+#include <memory>
+#include <utility>
+
+namespace nerlo::platform {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::uint64_t virtualV = 9;
+// The extension waits for the window that was in front, but not as long as this.
+constexpr auto answerLimit = 4s;
+
+class GnomePaster final : public Paster {
+  public:
+    GnomePaster(MainQueue &mainQueue, const KeyboardLayout &layout, Created<Paster> otherwise)
+        : mainQueue_(mainQueue)
+        , layout_(layout)
+        , otherwise_(std::move(otherwise)) {}
+
+    void remember() override {
+        if (shell_.isThere()) {
+            shell_.call(QStringLiteral("Remember"), {}, answerLimit);
+        }
+        if (otherwise_.backend) {
+            otherwise_.backend->remember();
+        }
+    }
+
+    void paste(std::function<void(bool)> done) override {
+        if (shell_.isThere()) {
+            // Programs take Ctrl and the key at its place where the layout writes no Latin letters.
+            const auto key = evdevOfVirtualKey(layout_.keyOfSymbol("v").value_or(virtualV));
+            shell_.call(QStringLiteral("Paste"), {uint{*key}}, answerLimit,
+                        [done = std::move(done)](const QDBusMessage &reply) {
+                            done(reply.type() == QDBusMessage::ReplyMessage &&
+                                 reply.arguments().value(0).toBool());
+                        });
+        } else if (otherwise_.backend) {
+            otherwise_.backend->paste(std::move(done));
+        } else {
+            mainQueue_.post([done = std::move(done)] { done(false); });
+        }
+    }
+
+    std::string description() const override {
+        return shell_.isThere()     ? "GNOME, by the Shell's extension"
+               : otherwise_.backend ? otherwise_.backend->description()
+                                    : "none";
+    }
+    std::string limitation() const override {
+        if (shell_.isThere()) {
+            return {};
+        }
+        return (otherwise_.backend ? otherwise_.lacks
+                                   : "what the chooser makes is pasted by hand") +
+               "; " + GnomeShell::notEnabled;
+    }
+
+  private:
+    MainQueue &mainQueue_;
+    const KeyboardLayout &layout_;
+    const Created<Paster> otherwise_;
+    GnomeShell shell_{QDBusConnection::sessionBus(), GnomeShell::Part::keys};
+};
+
+} // namespace
+
+Created<Paster> createGnomePaster(MainQueue &mainQueue, const KeyboardLayout &layout,
+                                  Created<Paster> otherwise) {
+    if (auto why = GnomeShell::impossible(QDBusConnection::sessionBus()); !why.empty()) {
+        return {nullptr, std::move(why)};
+    }
+    return {std::make_unique<GnomePaster>(mainQueue, layout, std::move(otherwise)), {}};
+}
+
+} // namespace nerlo::platform
