@@ -721,7 +721,7 @@ struct Columns {
     std::vector<std::size_t> ends;
     std::vector<std::size_t> starts;
     std::size_t wide = 0; // gaps of more than two blanks
-    bool isFar = false;   // a gap that nobody leaves by mistake
+    bool isFar = false;   // a gap that nobody leaves by mistake, or one before a remark
     bool isField = false; // "Name:   value"
 };
 
@@ -740,7 +740,8 @@ Columns columnsOf(View line, std::size_t words) {
             columns.ends.push_back(gap);
             columns.starts.push_back(at);
             columns.wide += at - gap > 2 ? 1 : 0;
-            columns.isFar = columns.isFar || at - gap > 4;
+            columns.isFar =
+                columns.isFar || at - gap > 4 || line[at] == u'#' || begins(line.substr(at), u"//");
             columns.isField = columns.isField || named;
         }
     }
@@ -802,7 +803,8 @@ bool looksLikeCode(View words) {
         return true;
     }
     if (last != u'.' && (words.find(u" = ") != View::npos || words.find(u"();") != View::npos ||
-                         words.find(u"->") != View::npos || words.find(u"::") != View::npos)) {
+                         words.find(u"$(") != View::npos || words.find(u"->") != View::npos ||
+                         words.find(u"::") != View::npos)) {
         return true;
     }
     return beginsLikeCode(words) && last != u'.';
