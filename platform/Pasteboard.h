@@ -93,6 +93,10 @@ struct PasteboardWrite {
         0; // with `done`: exactly the count that this write gave the clipboard
 };
 
+// What a backend says of itself that leaves keeping a text to others.
+inline constexpr const char *goesWithTheProgram =
+    "Text outlives the program only where a clipboard manager runs.";
+
 class Pasteboard {
   public:
     using FormatsHandler = std::function<void(PasteboardFormats)>;

@@ -91,9 +91,7 @@ class WaylandPasteboard final : public Pasteboard {
     }
 
     std::string description() const override { return description_; }
-    std::vector<std::string> limitations() const override {
-        return {"Text outlives the program only where a clipboard manager runs."};
-    }
+    std::vector<std::string> limitations() const override { return {goesWithTheProgram}; }
 
   private:
     void raise(ChangeCount count) {

@@ -5,6 +5,7 @@
 #include "platform/x11/X11Selection.h"
 
 #include <atomic>
+#include <future>
 #include <system_error>
 #include <utility>
 
@@ -63,7 +64,12 @@ class X11Pasteboard final : public Pasteboard {
     }
 
     std::string description() const override { return peer_->description(); }
-    std::vector<std::string> limitations() const override { return {}; }
+    std::vector<std::string> limitations() const override {
+        std::promise<bool> managerRuns;
+        pump_->submit([&] { managerRuns.set_value(peer_->managerRuns()); });
+        return managerRuns.get_future().get() ? std::vector<std::string>()
+                                              : std::vector<std::string>{goesWithTheProgram};
+    }
 
   private:
     MainQueue &mainQueue_;

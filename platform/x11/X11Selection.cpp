@@ -671,16 +671,18 @@ void X11Selection::dropSending(std::list<Sending>::iterator sending) {
     }
 }
 
-void X11Selection::handOver() {
-    if (lost_ || !owned()) {
-        return;
-    }
+bool X11Selection::managerRuns() const {
     auto *xcb = connection_->get();
     const Reply<xcb_get_selection_owner_reply_t> manager(
         xcb_get_selection_owner_reply(xcb, xcb_get_selection_owner(xcb, atoms_.manager), nullptr));
-    if (!manager || manager->owner == XCB_NONE) {
+    return manager && manager->owner != XCB_NONE;
+}
+
+void X11Selection::handOver() {
+    if (lost_ || !owned() || !managerRuns()) {
         return;
     }
+    auto *xcb = connection_->get();
     setProperty(window_, atoms_.data, XCB_ATOM_ATOM, offeredTargets());
     xcb_convert_selection(xcb, window_, atoms_.manager, atoms_.saveTargets, atoms_.data,
                           XCB_CURRENT_TIME);

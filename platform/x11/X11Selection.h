@@ -39,6 +39,8 @@ class X11Selection final : public EventSource {
     void read(ChangeCount of, PasteboardRequest request, Pasteboard::ReadHandler handler);
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                Pasteboard::WriteHandler handler);
+    // Whether there is a clipboard manager, which keeps texts of programs that end.
+    bool managerRuns() const;
     // Offers content of ours to the clipboard manager, if there is one, and serves it until it has
     // taken the content; blocks for a bounded time.
     void handOver();
