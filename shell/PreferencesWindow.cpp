@@ -258,7 +258,20 @@ bool PreferencesWindow::eventFilter(QObject *watched, QEvent *event) {
             return true;
         }
     }
+    if (watched == search_ && event->type() == QEvent::KeyPress) {
+        return searchKey(static_cast<QKeyEvent *>(event)->key());
+    }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// Not as shortcuts, which would also take the keys of a menu that is open.
+bool PreferencesWindow::searchKey(int key) {
+    if (key == Qt::Key_Escape) {
+        search_->clear();
+    } else if (key == Qt::Key_Down) {
+        enterPage();
+    }
+    return key == Qt::Key_Escape || key == Qt::Key_Down;
 }
 
 void PreferencesWindow::connectKeys() {
@@ -267,10 +280,6 @@ void PreferencesWindow::connectKeys() {
         search_->setFocus(Qt::ShortcutFocusReason);
         search_->selectAll();
     });
-    connect(new QShortcut(Qt::Key_Escape, search_, nullptr, nullptr, Qt::WidgetShortcut),
-            &QShortcut::activated, search_, &QLineEdit::clear);
-    connect(new QShortcut(Qt::Key_Down, search_, nullptr, nullptr, Qt::WidgetShortcut),
-            &QShortcut::activated, this, &PreferencesWindow::enterPage);
     connect(search_, &QLineEdit::returnPressed, this, &PreferencesWindow::enterPage);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
 }

@@ -87,6 +87,7 @@ class PreferencesWindow final : public QMainWindow {
     void addPage(const QString &title, QWidget *page, Filter filter);
     void showPage(const QWidget &page);
     void search(const QString &text);
+    bool searchKey(int key); // whether it is done with
     void enterPage();
     void showOption(std::string_view hotKey);
     void remember();
