@@ -163,9 +163,10 @@ class CutRows {
     // A cut row goes on without the marks of a quotation.
     bool isQuoted(std::size_t at) const { return lines_[at].quoted > lines_[at].begin + 1; }
 
-    bool mayGoOn(std::size_t at) const {
+    // What the row that goes on is taken for says nothing.
+    bool mayGoOn(std::size_t at, bool inside = false) const {
         if (at + 1 >= lines_.size() || widths_[at] == 0 || widths_[at + 1] == 0 ||
-            !isJoinable(at) || lines_[at + 1].kind == LineKind::fence || isQuoted(at + 1)) {
+            !(inside || isJoinable(at)) || lines_[at + 1].kind == LineKind::fence || isQuoted(at + 1)) {
             return false;
         }
         return at + 2 != inkedEnd_ || !isStatus(rowAt(lines_[at + 1]));
@@ -212,8 +213,8 @@ class CutRows {
         return text::characterBefore(row, row.size());
     }
 
-    bool goesOn(std::size_t at) const {
-        if (!mayGoOn(at) || indentOf(rowAt(lines_[at + 1])) > 1) {
+    bool goesOn(std::size_t at, bool inside) const {
+        if (!mayGoOn(at, inside) || indentOf(rowAt(lines_[at + 1])) > 1) {
             return false;
         }
         if (widths_[at] == width_) {
@@ -263,10 +264,10 @@ class CutRows {
 
     // Whether the row ends with a word of the text and the next one begins with another.
     bool endsWithWord(std::size_t at) const {
-        if (words_.empty()) {
+        const View row = rowAt(lines_[at]);
+        if (words_.empty() || text_[lines_[at + 1].begin] == u' ') {
             return false;
         }
-        const View row = rowAt(lines_[at]);
         const View above = row.substr(row.find_last_of(u" (") + 1);
         const View next = firstWord(rowAt(lines_[at + 1]));
         const View below = next.substr(0, std::min(next.find_first_of(u".,;:!?)"), next.size()));
@@ -280,7 +281,7 @@ class CutRows {
         std::size_t end = begin;
         bool doubtful = isDoubtful(lines_[begin]);
         std::u16string joined;
-        for (; goesOn(end); ++end) {
+        for (; goesOn(end, end > begin); ++end) {
             joined.append(rowAt(lines_[end]));
             if (widths_[end] < width_ && !beginsWide(end + 1)) {
                 joined.push_back(u' ');
@@ -353,6 +354,7 @@ class WrappedLines {
         , lines_(scanStructure(text_))
         , inkedEnd_(inkedEnd(lines_)) {
         if (!lines_.empty()) {
+            keepsBlanks_ = keepsBlanks();
             findPairs();
             findWidth();
         }
@@ -362,6 +364,7 @@ class WrappedLines {
         if (width_ == 0) {
             return std::move(text_);
         }
+        rejectItems();
         rejectOthers();
         std::u16string result;
         result.reserve(text_.size());
@@ -406,6 +409,24 @@ class WrappedLines {
         return line.end > line.begin && text_[line.end - 1] == u' ';
     }
 
+    // Whether the widest rows that are no last ones do.
+    bool keepsBlanks() const {
+        std::size_t widest = 0;
+        for (const auto &line : lines_) {
+            widest = keepsBlank(line) ? std::max(widest, line.end - line.begin) : widest;
+        }
+        std::size_t kept = 0;
+        std::size_t others = 0;
+        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
+            const auto &line = lines_[at];
+            if (lines_[at + 1].kind != LineKind::blank && isCandidate(line) &&
+                (line.end - line.begin) * 4 > widest * 3) {
+                ++(keepsBlank(line) ? kept : others);
+            }
+        }
+        return kept > 2 && kept > 3 * others;
+    }
+
     static bool isCandidate(const StructuredLine &line) {
         return line.kind == LineKind::prose || isDoubtful(line);
     }
@@ -415,7 +436,7 @@ class WrappedLines {
         const auto isQuoted = [&](std::size_t line) {
             return line < lines_.size() && lines_[line].quoted > lines_[line].begin;
         };
-        return isQuoted(at) && !isQuoted(at - 1) && !isQuoted(at + 1);
+        return at > 0 && isQuoted(at) && !isQuoted(at - 1) && !isQuoted(at + 1);
     }
 
     // Whether the words of the line below may go on with those of the line `at`. `first` is the
@@ -428,7 +449,8 @@ class WrappedLines {
             return false;
         }
         const bool marked = below.item || isOneQuoted(at + 1);
-        if (!isCandidate(above) || !isCandidate(below) || (below.words == below.end && !marked) ||
+        const bool begins = isCandidate(above) || above.kind == LineKind::data;
+        if (!begins || !isCandidate(below) || (below.words == below.end && !marked) ||
             (above.words == above.end && !above.item)) {
             return false;
         }
@@ -436,7 +458,9 @@ class WrappedLines {
             isSetApart(first) && !(&above == &first && beginsIndented(first, below));
         const std::size_t quoted = isOneQuoted(at + 1) ? below.begin : below.quoted;
         const View marks = View(text_).substr(below.begin, quoted - below.begin);
-        if (setApart || (marks != marksOf(above) && !(marks.empty() && keepsBlank(above)))) {
+        const bool chance = isOneQuoted(at) && !pairs_.empty() && pairs_.back().row + 1 == at;
+        const View marksAbove = chance ? View() : marksOf(above);
+        if (setApart || (marks != marksAbove && !(marks.empty() && keepsBlank(above)))) {
             return false;
         }
         const std::size_t indent = indentOf(View(text_).substr(quoted, below.end - quoted));
@@ -501,14 +525,18 @@ class WrappedLines {
         const auto isSibling = [&](const StructuredLine &other) {
             return line.item && other.item && indentAt(other) == indentAt(line);
         };
+        if (keepsBlanks_ && keepsBlank(lines_[at - 1])) {
+            return false;
+        }
         if (endsSentence(wordsOf(text_, lines_[at - 1].begin, lines_[at - 1].end)) ||
             isSibling(lines_[first])) {
             return true;
         }
         constexpr std::size_t farthest = 16; // lines that one item may have
         for (std::size_t below = at + 1; below < std::min(lines_.size(), at + farthest); ++below) {
-            if (isSibling(lines_[below]) || lines_[below].kind == LineKind::blank) {
-                return lines_[below].item;
+            const auto &other = lines_[below];
+            if (other.kind == LineKind::blank || (other.item && indentAt(other) <= indentAt(line))) {
+                return isSibling(other);
             }
         }
         return false;
@@ -559,6 +587,18 @@ class WrappedLines {
                (!pair.blank || pair.width >= width_);
     }
     bool isJoined(const Pair &pair) const { return !pair.rejected && isWrapped(pair); }
+
+    // What begins like an item, but has no sibling, is taken for words of the row above only if
+    // most of that kind had no room there.
+    void rejectItems() {
+        std::ptrdiff_t fitted = 0;
+        for (const Pair &pair : pairs_) {
+            fitted += !pair.marked ? 0 : isWrapped(pair) ? -1 : 1;
+        }
+        for (Pair &pair : pairs_) {
+            pair.rejected = pair.marked && fitted >= 0 && !keepsBlank(lines_[pair.row]);
+        }
+    }
 
     void findWidth() {
         constexpr std::size_t most = 4; // pairs of a paragraph that may not be prose
@@ -758,6 +798,7 @@ class WrappedLines {
     std::size_t inkedEnd_ = 0; // behind the last line with words
     std::vector<Pair> pairs_;
     std::size_t width_ = 0;
+    bool keepsBlanks_ = false;
     bool justified_ = false;
 };
 
