@@ -615,7 +615,7 @@ class MarkedStructure {
         if ((markupEnd_ = endOfMarkup(words, !apart && above_ == LineKind::prose))) {
             return insideMarkup();
         }
-        if (isPrompt(words)) {
+        if (isPrompt(words) && (words[0] != u'.' || above_ == LineKind::prompt)) {
             return LineKind::prompt;
         }
         if (isFileMode(words) || isStamped(words)) {

@@ -69,7 +69,8 @@ bool hasGap(View words) {
 // "Name: words", as the heads of mails and commits have them below each other.
 bool isField(View row) {
     const std::size_t end = row.find_first_of(u" :");
-    return end != View::npos && end > 1 && row[end] == u':' && row[0] >= u'A' && row[0] <= u'Z';
+    return end != View::npos && end > 1 && row.substr(end).starts_with(u": ") && row[0] >= u'A' &&
+           row[0] <= u'Z';
 }
 
 // What a pager writes into its last row.
@@ -119,12 +120,14 @@ class CutRows {
     std::u16string run() {
         width_ = widthOfMost();
         std::u16string result;
-        if (width_ < leastWidth || width_ > mostWidth || !isCut()) {
+        if (width_ < leastWidth || width_ > mostWidth) {
             return result;
         }
-        if (isBrokenElsewhere()) {
-            collectWords();
+        collectWords();
+        if (!isCut()) {
+            return result;
         }
+        brokenElsewhere_ = isBrokenElsewhere();
         result.reserve(text_.size());
         for (std::size_t at = 0; at < lines_.size();) {
             at = appendLine(result, at);
@@ -189,14 +192,23 @@ class CutRows {
             }
             const View below = rowAt(lines_[at + 1]);
             const View words = wordsOf(text_, lines_[at].words, lines_[at].end);
+            const bool wide = text::columnsOf(lastOf(at)) == 2 && beginsWide(at + 1);
             if (words.find(u' ') == View::npos) {
                 continue; // a word that is longer than the screen is cut in any case
             }
-            if (widths_[at] == width_) {
+            if (widths_[at] == width_ && keepsBlank(at)) {
+                score -= 25; // of a word that had room, not of a screen's last column
+            } else if (widths_[at] == width_ || (wide && widths_[at] + 1 == width_)) {
                 ++full;
                 gaps += hasGap(words) ? 1 : 0;
                 const std::size_t last = words.size() - words.rfind(u' ');
-                score += indentOf(below) > 1 ? -25 : indentOf(below) == 1 ? 35 : last > 20 ? 3 : 15;
+                score += indentOf(below) > 1     ? -25
+                         : indentOf(below) == 1 ? 35
+                         : wide                 ? 8
+                         : last > 20            ? 3
+                         : endsWithWord(at)     ? 0
+                         : isWordCut(at)        ? 30
+                                                : 15;
             } else if (widths_[at] + 1 == width_) {
                 score -= 1;
             } else if (widths_[at] + 12 > width_ &&
@@ -204,8 +216,16 @@ class CutRows {
                 score -= 25;
             }
         }
-        const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132;
-        return score >= (usual ? 30 : 40) && gaps * 3 <= full;
+        return score >= 30 && gaps * 3 <= full;
+    }
+
+    bool keepsBlank(std::size_t at) const { return text_[lines_[at].end - 1] == u' '; }
+
+    // A cut before a list mark would have left a blank in the last column.
+    bool isItem(std::size_t at) const {
+        const auto &line = lines_[at];
+        const bool alone = line.words == line.end;
+        return line.item && !(alone && text::isWordCharacter(text_[line.begin]));
     }
 
     char32_t lastOf(std::size_t at) const {
@@ -218,7 +238,7 @@ class CutRows {
             return false;
         }
         if (widths_[at] == width_) {
-            return !(lines_[at + 1].item && endsSentence(rowAt(lines_[at]))) && !endsWithWord(at);
+            return !isItem(at + 1) && !(brokenElsewhere_ && endsWithWord(at));
         }
         // The next character was too wide for the last column, or a blank stood in it.
         return widths_[at] + 1 == width_ && text_[lines_[at + 1].begin] != u' ' &&
@@ -264,16 +284,26 @@ class CutRows {
 
     // Whether the row ends with a word of the text and the next one begins with another.
     bool endsWithWord(std::size_t at) const {
-        const View row = rowAt(lines_[at]);
-        if (words_.empty() || text_[lines_[at + 1].begin] == u' ') {
+        if (text_[lines_[at + 1].begin] == u' ') {
             return false;
         }
-        const View above = row.substr(row.find_last_of(u" (") + 1);
-        const View next = firstWord(rowAt(lines_[at + 1]));
-        const View below = next.substr(0, std::min(next.find_first_of(u".,;:!?)"), next.size()));
+        const auto [above, below] = partsAt(at);
         const bool word = words_.contains(below) || (above.size() > 2 && below.size() > 3);
-        return word && words_.contains(above) &&
-               !words_.contains(View(std::u16string(above).append(below)));
+        return word && words_.contains(above) && !isWordCut(at);
+    }
+
+    // Whether a word of the text goes on in the next row.
+    bool isWordCut(std::size_t at) const {
+        const auto [above, below] = partsAt(at);
+        return words_.contains(View(std::u16string(above).append(below)));
+    }
+
+    // The last word of the row and the first one of the next.
+    std::pair<View, View> partsAt(std::size_t at) const {
+        const View row = rowAt(lines_[at]);
+        const View next = firstWord(rowAt(lines_[at + 1]));
+        return {row.substr(row.find_last_of(u" (") + 1),
+                next.substr(0, std::min(next.find_first_of(u".,;:!?)"), next.size()))};
     }
 
     // Returns the line behind.
@@ -303,6 +333,7 @@ class CutRows {
     std::vector<std::size_t> widths_;
     std::size_t width_ = 0;
     std::unordered_set<View> words_;
+    bool brokenElsewhere_ = false;
 };
 
 // --- lines that were broken between words
@@ -482,7 +513,7 @@ class WrappedLines {
     bool beginsIndented(const StructuredLine &line, const StructuredLine &below) const {
         const bool begins = &line == lines_.data() || (&line)[-1].kind == LineKind::blank;
         const char16_t first = text_[line.words];
-        return begins && first >= u'A' && first <= u'Z' && indentAt(below) == 0;
+        return begins && first >= u'A' && first <= u'Z' && indentAt(below) < codeIndent;
     }
 
     void findPairs() {
@@ -528,8 +559,8 @@ class WrappedLines {
         if (keepsBlanks_ && keepsBlank(lines_[at - 1])) {
             return false;
         }
-        if (endsSentence(wordsOf(text_, lines_[at - 1].begin, lines_[at - 1].end)) ||
-            isSibling(lines_[first])) {
+        const bool outdented = lines_[first].item && indentAt(line) <= indentAt(lines_[first]);
+        if (outdented || endsSentence(wordsOf(text_, lines_[at - 1].begin, lines_[at - 1].end))) {
             return true;
         }
         constexpr std::size_t farthest = 16; // lines that one item may have
@@ -593,10 +624,10 @@ class WrappedLines {
     void rejectItems() {
         std::ptrdiff_t fitted = 0;
         for (const Pair &pair : pairs_) {
-            fitted += !pair.marked ? 0 : isWrapped(pair) ? -1 : 1;
+            fitted += !lines_[pair.row + 1].item ? 0 : isWrapped(pair) ? -1 : 1;
         }
         for (Pair &pair : pairs_) {
-            pair.rejected = pair.marked && fitted >= 0 && !keepsBlank(lines_[pair.row]);
+            pair.rejected = lines_[pair.row + 1].item && fitted >= 0 && !keepsBlanks_;
         }
     }
 
