@@ -2,6 +2,8 @@
 
 #include "engine/ScreenText.h"
 #include "engine/Structure.h"
+#include "text/Ascii.h"
+#include "text/CaseMapping.h"
 #include "text/Characters.h"
 
 #include <algorithm>
@@ -87,6 +89,14 @@ bool isProseWhole(View paragraph) {
     paragraph.remove_prefix(std::min(paragraph.find_first_not_of(u" \"'([*_`"), paragraph.size()));
     const Lines lines = scanStructure(paragraph);
     return lines.size() == 1 && lines[0].kind == LineKind::prose && !hasGap(paragraph);
+}
+
+// Whether what begins a row like the mark of an item or of a quotation may be the end of the word
+// that the row above had no room for.
+bool mayBeCutOff(View above, View below) {
+    const char16_t first = below.front();
+    return text::isWordCharacter(first) || first == u' ' || first == above.back() ||
+           (first == u'>' && above.find(u'<') != View::npos);
 }
 
 // Behind the last line that is not blank.
@@ -221,11 +231,15 @@ class CutRows {
 
     bool keepsBlank(std::size_t at) const { return text_[lines_[at].end - 1] == u' '; }
 
-    // A cut before a list mark would have left a blank in the last column.
+    // A cut in front of a sign would have left a blank in the last column; letters and numbers may
+    // be what was cut off.
     bool isItem(std::size_t at) const {
         const auto &line = lines_[at];
-        const bool alone = line.words == line.end;
-        return line.item && !(alone && text::isWordCharacter(text_[line.begin]));
+        const View above = rowAt(lines_[at - 1]);
+        const View below = rowAt(line);
+        const bool ends = endsSentence(above) && line.words < line.end && below[0] != u' ';
+        const bool cutOff = mayBeCutOff(above, below) && !ends;
+        return line.item && !cutOff;
     }
 
     char32_t lastOf(std::size_t at) const {
@@ -556,11 +570,13 @@ class WrappedLines {
         const auto isSibling = [&](const StructuredLine &other) {
             return line.item && other.item && indentAt(other) == indentAt(line);
         };
-        if (keepsBlanks_ && keepsBlank(lines_[at - 1])) {
-            return false;
+        const View above = rowAt(lines_[at - 1]);
+        if (keepsBlanks_) {
+            const bool oneWord = above.find(u' ') == View::npos;
+            return !keepsBlank(lines_[at - 1]) && !(oneWord && mayBeCutOff(above, rowAt(line)));
         }
         const bool outdented = lines_[first].item && indentAt(line) <= indentAt(lines_[first]);
-        if (outdented || endsSentence(wordsOf(text_, lines_[at - 1].begin, lines_[at - 1].end))) {
+        if (outdented || endsSentence(above)) {
             return true;
         }
         constexpr std::size_t farthest = 16; // lines that one item may have
@@ -653,6 +669,9 @@ class WrappedLines {
         if (width_ == 0) {
             width_ = widthOf(all);
         }
+        if (width_ == 0) {
+            width_ = widthOfFew(sure);
+        }
         std::size_t exact = 0;
         std::size_t wrapped = 0;
         for (const Pair &pair : all) {
@@ -714,6 +733,35 @@ class WrappedLines {
             }
         }
         return found;
+    }
+
+    // Nobody breaks so long a row by hand in the midst of a sentence.
+    std::size_t widthOfFew(const std::vector<Pair> &pairs) const {
+        constexpr std::size_t least = 72;
+        std::size_t widest = 0;
+        for (const auto &line : lines_) {
+            const View row = wordsOf(text_, line.begin, line.end);
+            if (isCandidate(line) && row.find(u' ', indentOf(row)) != View::npos) {
+                widest = std::max(widest, columnsOf(row));
+            }
+        }
+        std::ptrdiff_t score = 0;
+        for (const Pair &pair : pairs) {
+            if (pair.width * 3 > widest * 2) {
+                const bool full = pair.least <= widest && pair.fitting > widest;
+                score += !full ? -1 : readsOn(pair) ? 1 : 0;
+            }
+        }
+        return widest >= least && widest <= mostWidth && score > 0 ? widest : 0;
+    }
+
+    bool readsOn(const Pair &pair) const {
+        const auto &line = lines_[pair.row];
+        const View above = wordsOf(text_, line.words, line.end);
+        const View next = firstWord(View(text_).substr(pair.begin));
+        const bool begins = text::letterCase(next[0]) == text::LetterCase::Upper ||
+                            text::isAsciiDigit(next[0]) || next.ends_with(u':');
+        return std::ranges::count(above, u' ') > 3 && !endsSentence(above) && !begins;
     }
 
     // Lines that were filled up with blanks between their words.
