@@ -799,7 +799,7 @@ bool looksLikeCode(View words) {
     const View ends = u"{};[(";
     const char16_t last = words.back();
     if (ends.find(last) != View::npos || words.ends_with(u"),") || words.ends_with(u"],") ||
-        words.ends_with(u"\",") || words.ends_with(u"):")) {
+        words.ends_with(u"\",") || (words.ends_with(u"):") && words.find(u"](") == View::npos)) {
         return true;
     }
     if (last != u'.' && (words.find(u" = ") != View::npos || words.find(u"();") != View::npos ||

@@ -87,6 +87,7 @@ bool isStatus(View row) {
 // Whether a paragraph that shares its looks with code or with a table is prose once it is whole.
 bool isProseWhole(View paragraph) {
     paragraph.remove_prefix(std::min(paragraph.find_first_not_of(u" \"'([*_`"), paragraph.size()));
+    paragraph.remove_prefix(paragraph.starts_with(u"<http") ? 1 : 0);
     const Lines lines = scanStructure(paragraph);
     return lines.size() == 1 && lines[0].kind == LineKind::prose && !hasGap(paragraph);
 }
@@ -95,8 +96,8 @@ bool isProseWhole(View paragraph) {
 // that the row above had no room for.
 bool mayBeCutOff(View above, View below) {
     const char16_t first = below.front();
-    return text::isWordCharacter(first) || first == u' ' || first == above.back() ||
-           (first == u'>' && above.find(u'<') != View::npos);
+    return text::isWordCharacter(first) || first == u'(' || first == u' ' ||
+           first == above.back() || (first == u'>' && above.find(u'<') != View::npos);
 }
 
 // Behind the last line that is not blank.
@@ -140,7 +141,7 @@ class CutRows {
         brokenElsewhere_ = isBrokenElsewhere();
         result.reserve(text_.size());
         for (std::size_t at = 0; at < lines_.size();) {
-            at = appendLine(result, at);
+            at = isTail_ ? appendTail(result, at) : appendLine(result, at);
         }
         return result;
     }
@@ -168,7 +169,7 @@ class CutRows {
 
     bool isJoinable(std::size_t at) const {
         const auto &line = lines_[at];
-        const bool looks = line.words - line.begin < codeIndent && isDoubtful(line);
+        const bool looks = indentOf(rowAt(line)) < codeIndent && isDoubtful(line);
         return looks || line.kind == LineKind::prose || line.kind == LineKind::heading ||
                line.kind == LineKind::data;
     }
@@ -226,7 +227,9 @@ class CutRows {
                 score -= 25;
             }
         }
-        return score >= 30 && gaps * 3 <= full;
+        const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132 ||
+                           width_ == 160 || width_ == 200;
+        return score >= (usual ? 15 : 30) && gaps * 3 <= full;
     }
 
     bool keepsBlank(std::size_t at) const { return text_[lines_[at].end - 1] == u' '; }
@@ -320,8 +323,22 @@ class CutRows {
                 next.substr(0, std::min(next.find_first_of(u".,;:!?)"), next.size()))};
     }
 
+    // Whether the row is a full one of what is not joined, and its rest stands below.
+    bool hasTail(std::size_t at) const {
+        return at + 1 < lines_.size() && widths_[at] == width_ && widths_[at + 1] > 0 &&
+               !isJoinable(at) && !isItem(at + 1);
+    }
+
+    // The rest of a line that is not joined stays apart, too.
+    std::size_t appendTail(std::u16string &result, std::size_t at) {
+        const auto &line = lines_[at];
+        result.append(text_, line.begin, line.next() - line.begin);
+        isTail_ = widths_[at] == width_;
+        return at + 1;
+    }
+
     // Returns the line behind.
-    std::size_t appendLine(std::u16string &result, std::size_t begin) const {
+    std::size_t appendLine(std::u16string &result, std::size_t begin) {
         std::size_t end = begin;
         bool doubtful = isDoubtful(lines_[begin]);
         std::u16string joined;
@@ -338,6 +355,7 @@ class CutRows {
             joined.assign(text_, lines_[begin].begin, last.end - lines_[begin].begin);
         }
         result.append(joined).append(text_, last.end, last.breakSize);
+        isTail_ = hasTail(end);
         return end + 1;
     }
 
@@ -348,6 +366,7 @@ class CutRows {
     std::size_t width_ = 0;
     std::unordered_set<View> words_;
     bool brokenElsewhere_ = false;
+    bool isTail_ = false; // the next row is the rest of one that is not joined
 };
 
 // --- lines that were broken between words
@@ -464,7 +483,8 @@ class WrappedLines {
         std::size_t others = 0;
         for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
             const auto &line = lines_[at];
-            if (lines_[at + 1].kind != LineKind::blank && isCandidate(line) &&
+            const auto &below = lines_[at + 1];
+            if (below.kind != LineKind::blank && !below.item && isCandidate(line) &&
                 (line.end - line.begin) * 4 > widest * 3) {
                 ++(keepsBlank(line) ? kept : others);
             }
@@ -547,7 +567,8 @@ class WrappedLines {
             }
             // Right below an indented line stands what had no room in it.
             const bool apart = isSetApart(lines_[at]) && indentAt(lines_[at + 1]) < codeIndent;
-            const bool ends = lines_[at + 1].words == lines_[at + 1].end || lines_[at + 1].item;
+            const auto &below = lines_[at + 1];
+            const bool ends = below.item || (below.words == below.end && !isOneQuoted(at + 1));
             belowCode =
                 !ends && (belowCode || (apart && !beginsIndented(lines_[at], lines_[at + 1])));
             if (!belowCode && fits(lines_[first], at) &&
@@ -575,7 +596,7 @@ class WrappedLines {
             const bool oneWord = above.find(u' ') == View::npos;
             return !keepsBlank(lines_[at - 1]) && !(oneWord && mayBeCutOff(above, rowAt(line)));
         }
-        const bool outdented = lines_[first].item && indentAt(line) <= indentAt(lines_[first]);
+        const bool outdented = line.item && lines_[first].item && indentAt(line) <= indentAt(lines_[first]);
         if (outdented || endsSentence(above)) {
             return true;
         }
@@ -599,7 +620,8 @@ class WrappedLines {
         for (std::size_t at = begin; at <= end; ++at) {
             blanks += std::ranges::count(wordsOf(text_, lines_[at].words, lines_[at].end), u' ');
         }
-        return blanks < static_cast<std::ptrdiff_t>(end - begin + 1);
+        const std::size_t rows = end - begin + 1;
+        return blanks < static_cast<std::ptrdiff_t>(rows) && (rows > 2 || !lines_[begin].item);
     }
 
     Pair pairOf(std::size_t at) const {
@@ -638,12 +660,17 @@ class WrappedLines {
     // What begins like an item, but has no sibling, is taken for words of the row above only if
     // most of that kind had no room there.
     void rejectItems() {
-        std::ptrdiff_t fitted = 0;
+        std::array<std::ptrdiff_t, 2> fitted{}; // of signs, of numbers and letters
+        const auto isNumber = [&](const Pair &pair) {
+            return text::isWordCharacter(text_[pair.begin]) || text_[pair.begin] == u'(';
+        };
         for (const Pair &pair : pairs_) {
-            fitted += !lines_[pair.row + 1].item ? 0 : isWrapped(pair) ? -1 : 1;
+            const bool item = lines_[pair.row + 1].item;
+            fitted.at(isNumber(pair)) += !item ? 0 : isWrapped(pair) ? -1 : 1;
         }
         for (Pair &pair : pairs_) {
-            pair.rejected = lines_[pair.row + 1].item && fitted >= 0 && !keepsBlanks_;
+            const bool item = lines_[pair.row + 1].item && fitted.at(isNumber(pair)) >= 0;
+            pair.rejected = item && !keepsBlanks_;
         }
     }
 
