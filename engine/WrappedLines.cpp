@@ -75,12 +75,19 @@ bool isField(View row) {
            row[0] <= u'Z';
 }
 
-// What a pager writes into its last row.
+// Lines of a log begin with the same number or day.
+bool beginAlike(View above, View below) {
+    return !above.empty() && text::isAsciiDigit(above[0]) && firstWord(above) == firstWord(below);
+}
+
+// What a pager or an editor writes into its last row.
 bool isStatus(View row) {
     const std::size_t dot = row.rfind(u'.');
     const bool file = row.find(u' ') == View::npos && dot != View::npos && dot > 2 &&
                       row.size() - dot > 1 && row.size() - dot < 6;
-    return row == u":" || row.ends_with(u"(END)") || row.starts_with(u"lines ") ||
+    const bool editor = row.starts_with(u'"') && row.find(u"\" ") != View::npos &&
+                        (row.ends_with(u"B") || row.ends_with(u" bytes"));
+    return row == u":" || editor || row.ends_with(u"(END)") || row.starts_with(u"lines ") ||
            row.starts_with(u"Manual page ") || row.starts_with(u"--More--") || file;
 }
 
@@ -413,8 +420,9 @@ std::size_t columnsOfPiece(View words) {
 
 class WrappedLines {
   public:
-    explicit WrappedLines(std::u16string text)
+    WrappedLines(std::u16string text, bool wasCut)
         : text_(std::move(text))
+        , wasCut_(wasCut)
         , lines_(scanStructure(text_))
         , inkedEnd_(inkedEnd(lines_)) {
         if (!lines_.empty()) {
@@ -510,7 +518,8 @@ class WrappedLines {
         const auto &above = lines_[at];
         const auto &below = lines_[at + 1];
         if ((at + 2 == inkedEnd_ && isStatus(rowAt(below))) ||
-            (isField(rowAt(above)) && isField(rowAt(below)))) {
+            (isField(rowAt(above)) && isField(rowAt(below))) ||
+            beginAlike(rowAt(above), rowAt(below))) {
             return false;
         }
         const bool marked = below.item || isOneQuoted(at + 1);
@@ -696,7 +705,7 @@ class WrappedLines {
         if (width_ == 0) {
             width_ = widthOf(all);
         }
-        if (width_ == 0) {
+        if (width_ == 0 && !wasCut_) {
             width_ = widthOfFew(sure);
         }
         std::size_t exact = 0;
@@ -776,10 +785,24 @@ class WrappedLines {
         for (const Pair &pair : pairs) {
             if (pair.width * 3 > widest * 2) {
                 const bool full = pair.least <= widest && pair.fitting > widest;
-                score += !full ? -1 : readsOn(pair) ? 1 : 0;
+                score += !full ? -1 : pair.width + 24 > widest && readsOn(pair) ? 1 : 0;
             }
         }
         return widest >= least && widest <= mostWidth && score > 0 ? widest : 0;
+    }
+
+    // Whether the lines from this one to the next blank one end as sentences do.
+    bool endsParagraph(std::size_t at) const {
+        constexpr std::size_t farthest = 8;
+        const std::size_t end = std::min(at + farthest, lines_.size() - 1);
+        while (at < end && lines_[at + 1].kind != LineKind::blank && !lines_[at + 1].item) {
+            ++at;
+        }
+        View row = rowAt(lines_[at]);
+        while (row.size() > 1 && isOneOf(row.back(), u")]*_`\"'\u201D")) {
+            row.remove_suffix(1);
+        }
+        return endsSentence(row) || row.size() < rowAt(lines_[at]).size();
     }
 
     bool readsOn(const Pair &pair) const {
@@ -788,7 +811,8 @@ class WrappedLines {
         const View next = firstWord(View(text_).substr(pair.begin));
         const bool begins = text::letterCase(next[0]) == text::LetterCase::Upper ||
                             text::isAsciiDigit(next[0]) || next.ends_with(u':');
-        return std::ranges::count(above, u' ') > 3 && !endsSentence(above) && !begins;
+        return std::ranges::count(above, u' ') > 3 && !endsSentence(above) && !begins &&
+               endsParagraph(pair.row);
     }
 
     // Lines that were filled up with blanks between their words.
@@ -900,6 +924,7 @@ class WrappedLines {
     }
 
     std::u16string text_;
+    const bool wasCut_; // by a screen, which breaks nothing between words
     Lines lines_;
     std::size_t inkedEnd_ = 0; // behind the last line with words
     std::vector<Pair> pairs_;
@@ -911,10 +936,9 @@ class WrappedLines {
 } // namespace
 
 std::u16string joinWrappedLines(std::u16string text) {
-    if (auto whole = CutRows(text).run(); !whole.empty()) {
-        text = std::move(whole);
-    }
-    return WrappedLines(std::move(text)).run();
+    auto whole = CutRows(text).run();
+    const bool wasCut = !whole.empty();
+    return WrappedLines(wasCut ? std::move(whole) : std::move(text), wasCut).run();
 }
 
 } // namespace nerlo::engine
