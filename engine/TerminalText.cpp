@@ -143,13 +143,14 @@ std::size_t commonIndent(const std::vector<Row> &rows) {
 }
 
 // The words between the sides of a frame, and its title. The edges themselves are no lines of the
-// text.
-std::vector<Row> insideOf(std::span<Row> frame) {
+// text. `screen` becomes the columns for words.
+std::vector<Row> insideOf(std::span<Row> frame, std::size_t &screen) {
     std::vector<Row> inside;
     std::vector<Row> titles;
     for (Row &row : frame) {
         if (edgeOf(row.words) == Edge::sides) {
             row.words.resize(inkEnd(row.words) - 1);
+            screen = columnsOf(row.words) - indentOf(row.words) - 1;
             keepInside(row, indentOf(row.words) + 1);
             inside.push_back(std::move(row));
         } else if (auto title = titleOf(row.words); !title.empty()) {
@@ -160,6 +161,7 @@ std::vector<Row> insideOf(std::span<Row> frame) {
     for (Row &row : inside) {
         keepInside(row, padding);
     }
+    screen -= std::min(screen, 2 * padding);
     inside.insert(inside.begin(), titles.begin(), titles.end());
     return inside;
 }
@@ -202,23 +204,23 @@ Frame frameAt(const std::vector<Row> &rows, std::size_t begin) {
     return frame;
 }
 
-bool openFrames(std::vector<Row> &rows) {
+// Returns the columns inside of the last one, 0 where there was none.
+std::size_t openFrames(std::vector<Row> &rows) {
     std::vector<Row> result;
-    bool opened = false;
+    std::size_t screen = 0;
     for (std::size_t begin = 0; begin < rows.size();) {
         const Frame frame = frameAt(rows, begin);
         const std::size_t end = std::max(frame.end, begin + 1);
         const auto part = std::span(rows).subspan(begin, end - begin);
         if (frame.isFrame()) {
-            std::ranges::move(insideOf(part), std::back_inserter(result));
-            opened = true;
+            std::ranges::move(insideOf(part, screen), std::back_inserter(result));
         } else {
             std::ranges::move(part, std::back_inserter(result));
         }
         begin = end;
     }
     rows = std::move(result);
-    return opened;
+    return screen;
 }
 
 // A bar in front of every row: "│ words".
@@ -255,8 +257,8 @@ bool removeBars(std::vector<Row> &rows) {
 
 // Blanks at the ends that fill up rows to one column, as a screen is copied with them. Two blanks
 // at the end of some lines may be meant.
-// Whether there was padding.
-bool removePadding(std::vector<Row> &rows) {
+// Returns that column, 0 where there was no padding.
+std::size_t removePadding(std::vector<Row> &rows) {
     std::map<std::size_t, std::size_t> ends; // columns, and how many rows are filled up to them
     std::size_t inked = 0;
     for (const Row &row : rows) {
@@ -268,14 +270,14 @@ bool removePadding(std::vector<Row> &rows) {
     const auto most =
         std::ranges::max_element(ends, {}, &std::pair<const std::size_t, std::size_t>::second);
     if (most == ends.end() || most->second < 2 || most->second * 2 < inked) {
-        return false;
+        return 0;
     }
     for (Row &row : rows) {
         if (columnsOf(row.words) == most->first) {
             row.words.resize(inkEnd(row.words));
         }
     }
-    return true;
+    return most->first;
 }
 
 // Whether most lines with words are prose, those in fences aside; in Markdown, tables, HTML and
@@ -339,21 +341,22 @@ std::u16string unwrapTerminal(std::u16string text) {
     std::vector<Row> rows = rowsOf(text);
     // Blanks in front of every line are a gutter where something else shows a screen, or where most
     // is prose; a piece of code keeps its indent.
-    bool screen = openFrames(rows);
-    screen = removeBars(rows) || screen;
-    screen = removePadding(rows) || screen;
+    std::size_t width = openFrames(rows);
+    const bool barred = removeBars(rows);
+    width = std::max(width, removePadding(rows));
+    const bool screen = barred || width > 0;
     std::u16string framed = textOf(rows);
     if (const std::size_t gutter = commonIndent(rows); gutter > 0) {
         for (Row &row : rows) {
             row.words.erase(0, std::min(gutter, indentOf(row.words)));
         }
         const std::u16string bare = textOf(rows);
-        std::u16string joined = joinWrappedLines(bare);
+        std::u16string joined = joinWrappedLines(bare, width - std::min(width, gutter));
         if (screen || joined != bare || isMostlyProse(bare)) {
             return joined;
         }
     }
-    return joinWrappedLines(std::move(framed));
+    return joinWrappedLines(std::move(framed), width);
 }
 
 } // namespace nerlo::engine

@@ -124,8 +124,9 @@ bool isDoubtful(const StructuredLine &line) {
 
 class CutRows {
   public:
-    explicit CutRows(View text)
+    CutRows(View text, std::size_t screen)
         : text_(text)
+        , screen_(screen)
         , lines_(scanStructure(text))
         , inkedEnd_(inkedEnd(lines_)) {
         widths_.reserve(lines_.size());
@@ -138,7 +139,7 @@ class CutRows {
     std::u16string run() {
         width_ = widthOfMost();
         std::u16string result;
-        if (width_ < leastWidth || width_ > mostWidth) {
+        if (width_ < std::max(leastWidth, screen_) || width_ > mostWidth) {
             return result;
         }
         collectWords();
@@ -187,7 +188,8 @@ class CutRows {
     // What the row that goes on is taken for says nothing.
     bool mayGoOn(std::size_t at, bool inside = false) const {
         if (at + 1 >= lines_.size() || widths_[at] == 0 || widths_[at + 1] == 0 ||
-            !(inside || isJoinable(at)) || lines_[at + 1].kind == LineKind::fence || isQuoted(at + 1)) {
+            !(inside || isJoinable(at)) || lines_[at + 1].kind == LineKind::fence ||
+            isQuoted(at + 1)) {
             return false;
         }
         return at + 2 != inkedEnd_ || !isStatus(rowAt(lines_[at + 1]));
@@ -204,6 +206,7 @@ class CutRows {
         int full = 0;
         int gaps = 0;
         int score = 0;
+        int contrary = 0;
         for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
             if (!mayGoOn(at) || (isIdeographic(lastOf(at)) && beginsWide(at + 1))) {
                 continue;
@@ -215,12 +218,12 @@ class CutRows {
                 continue; // a word that is longer than the screen is cut in any case
             }
             if (widths_[at] == width_ && keepsBlank(at)) {
-                score -= 25; // of a word that had room, not of a screen's last column
+                ++contrary; // of a word that had room, not of a screen's last column
             } else if (widths_[at] == width_ || (wide && widths_[at] + 1 == width_)) {
                 ++full;
                 gaps += hasGap(words) ? 1 : 0;
                 const std::size_t last = words.size() - words.rfind(u' ');
-                score += indentOf(below) > 1     ? -25
+                score += indentOf(below) > 1    ? -25
                          : indentOf(below) == 1 ? 35
                          : wide                 ? 8
                          : last > 20            ? 3
@@ -231,12 +234,13 @@ class CutRows {
                 score -= 1;
             } else if (widths_[at] + 12 > width_ &&
                        widths_[at] + 1 + columnsOf(firstWord(below)) > width_) {
-                score -= 25;
+                ++contrary;
             }
         }
         const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132 ||
                            width_ == 160 || width_ == 200;
-        return score >= (usual ? 15 : 30) && gaps * 3 <= full;
+        const int least = contrary > 0 ? (usual ? 30 : 40) : usual ? 15 : 30;
+        return score - 25 * contrary >= least && gaps * 3 <= full;
     }
 
     bool keepsBlank(std::size_t at) const { return text_[lines_[at].end - 1] == u' '; }
@@ -367,6 +371,7 @@ class CutRows {
     }
 
     const View text_;
+    const std::size_t screen_;
     const Lines lines_;
     const std::size_t inkedEnd_; // behind the last line with words
     std::vector<std::size_t> widths_;
@@ -605,14 +610,16 @@ class WrappedLines {
             const bool oneWord = above.find(u' ') == View::npos;
             return !keepsBlank(lines_[at - 1]) && !(oneWord && mayBeCutOff(above, rowAt(line)));
         }
-        const bool outdented = line.item && lines_[first].item && indentAt(line) <= indentAt(lines_[first]);
+        const bool outdented =
+            line.item && lines_[first].item && indentAt(line) <= indentAt(lines_[first]);
         if (outdented || endsSentence(above)) {
             return true;
         }
         constexpr std::size_t farthest = 16; // lines that one item may have
         for (std::size_t below = at + 1; below < std::min(lines_.size(), at + farthest); ++below) {
             const auto &other = lines_[below];
-            if (other.kind == LineKind::blank || (other.item && indentAt(other) <= indentAt(line))) {
+            if (other.kind == LineKind::blank ||
+                (other.item && indentAt(other) <= indentAt(line))) {
                 return isSibling(other);
             }
         }
@@ -935,8 +942,8 @@ class WrappedLines {
 
 } // namespace
 
-std::u16string joinWrappedLines(std::u16string text) {
-    auto whole = CutRows(text).run();
+std::u16string joinWrappedLines(std::u16string text, std::size_t screen) {
+    auto whole = CutRows(text, screen).run();
     const bool wasCut = !whole.empty();
     return WrappedLines(wasCut ? std::move(whole) : std::move(text), wasCut).run();
 }
