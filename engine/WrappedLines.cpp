@@ -135,6 +135,8 @@ class CutRows {
         }
     }
 
+    static constexpr int wordBonus = 15; // for a word of the text that an edge has cut
+
     // Empty if nothing was cut.
     std::u16string run() {
         width_ = widthOfMost();
@@ -142,8 +144,11 @@ class CutRows {
         if (width_ < std::max(leastWidth, screen_) || width_ > mostWidth) {
             return result;
         }
+        if (!isCut(wordBonus)) {
+            return result; // whatever the words
+        }
         collectWords();
-        if (!isCut()) {
+        if (!isCut(0)) {
             return result;
         }
         brokenElsewhere_ = isBrokenElsewhere();
@@ -201,8 +206,9 @@ class CutRows {
 
     // A cut fills all rows but the last of each line, whatever the words; a wrap at words leaves
     // most of them short of the edge by less than the next word. The weights are about ten times
-    // the logarithms of how much likelier a row is with a cut.
-    bool isCut() const {
+    // the logarithms of how much likelier a row is with a cut. `bonus` is what words could add to
+    // each full row before they are known.
+    bool isCut(int bonus) const {
         int full = 0;
         int gaps = 0;
         int score = 0;
@@ -228,8 +234,9 @@ class CutRows {
                          : wide                 ? 8
                          : last > 20            ? 3
                          : endsWithWord(at)     ? 0
-                         : isWordCut(at)        ? 30
+                         : isWordCut(at)        ? 15 + wordBonus
                                                 : 15;
+                score += bonus;
             } else if (widths_[at] + 1 == width_) {
                 score -= 1;
             } else if (widths_[at] + 12 > width_ &&
@@ -312,7 +319,7 @@ class CutRows {
 
     // Whether the row ends with a word of the text and the next one begins with another.
     bool endsWithWord(std::size_t at) const {
-        if (text_[lines_[at + 1].begin] == u' ') {
+        if (words_.empty() || text_[lines_[at + 1].begin] == u' ') {
             return false;
         }
         const auto [above, below] = partsAt(at);
@@ -322,6 +329,9 @@ class CutRows {
 
     // Whether a word of the text goes on in the next row.
     bool isWordCut(std::size_t at) const {
+        if (words_.empty()) {
+            return false;
+        }
         const auto [above, below] = partsAt(at);
         return words_.contains(View(std::u16string(above).append(below)));
     }
