@@ -5,6 +5,7 @@ const {Clutter, Gio, GLib, GObject, St} = imports.gi;
 const Main = imports.ui.main;
 const PanelMenu = imports.ui.panelMenu;
 const PopupMenu = imports.ui.popupMenu;
+const Util = imports.misc.util;
 
 const {NAME: PROGRAM} = imports.misc.extensionUtils.getCurrentExtension().imports.program;
 
@@ -39,6 +40,9 @@ class NerloProButton extends PanelMenu.Button {
         this.add_child(this._icon);
         this._items = [];
         this._ids = [];
+        this._rows = new PopupMenu.PopupMenuSection();
+        this.menu.addMenuItem(this._rows);
+        this._scrollRows();
         this.setIcon('idle', 'Nerlo Pro');
         // The menu is opened with the rows that it had, which takes longer than the answer.
         this.menu.connect('open-state-changed', (_menu, open) => {
@@ -46,6 +50,15 @@ class NerloProButton extends PanelMenu.Button {
                 this.ask();
         });
         this.ask();
+    }
+
+    // An open menu in the menu may need more height than the screen has; then all of it scrolls.
+    _scrollRows() {
+        const {actor} = this._rows;
+        this.menu.box.remove_actor(actor);
+        this._scroll = new St.ScrollView({hscrollbar_policy: St.PolicyType.NEVER});
+        this._scroll.add_actor(actor);
+        this.menu.box.add_actor(this._scroll);
     }
 
     ask() {
@@ -87,14 +100,16 @@ class NerloProButton extends PanelMenu.Button {
 
     // The Shell has menus in a menu, but none in those: they are parts of it, with a title.
     _build(rows) {
-        this.menu.removeAll();
-        const menus = [this.menu];
+        this._rows.removeAll();
+        const menus = [this._rows];
         this._items = rows.map(([, depth, flags], place) => {
             const parent = menus[Math.min(depth, menus.length - 1)];
             let item;
+            const ends = menus.length - 1 > depth && depth > 0;
             menus.length = Math.min(depth, menus.length - 1) + 1;
-            if (flags & FLAGS.MENU && parent === this.menu) {
+            if (flags & FLAGS.MENU && parent === this._rows) {
                 item = new PopupMenu.PopupSubMenuMenuItem('');
+                item.menu._needsScrollbar = () => false; // it would get the height of a bar
                 menus.push(item.menu);
             } else if (flags & (FLAGS.MENU | FLAGS.SEPARATOR)) {
                 item = new PopupMenu.PopupSeparatorMenuItem();
@@ -103,7 +118,10 @@ class NerloProButton extends PanelMenu.Button {
             } else {
                 item = this._makeRow(place);
             }
+            if (ends && !(flags & (FLAGS.MENU | FLAGS.SEPARATOR)))
+                parent.addMenuItem(new PopupMenu.PopupSeparatorMenuItem()); // a part has no other end
             parent.addMenuItem(item);
+            item.connect('key-focus-in', () => Util.ensureActorVisibleInScrollView(this._scroll, item));
             return item;
         });
     }
