@@ -788,6 +788,13 @@ bool isWordy(View words) {
     return plain > 5 && plain * 5 >= all * 3;
 }
 
+// "NAME=value"
+bool isAssignment(View words) {
+    const std::size_t sign = words.find_first_of(u"= ");
+    return sign != View::npos && sign > 0 && words[sign] == u'=' &&
+           (isAsciiLetter(words[0]) || words[0] == u'_');
+}
+
 bool looksLikeCode(View words) {
     words = trimmed(words);
     if (words.empty()) {
@@ -807,7 +814,7 @@ bool looksLikeCode(View words) {
                          words.find(u"::") != View::npos)) {
         return true;
     }
-    return beginsLikeCode(words) && last != u'.';
+    return (beginsLikeCode(words) || isAssignment(words)) && last != u'.';
 }
 
 // The second pass: what lines say together. Takes each run of lines that the first pass left as

@@ -39,7 +39,7 @@ TEST(StructureGuard, TidiesProseAndLeavesStructure) {
           u"a b\nc:\n  d:\n    e: f  g\n - h"},
          {"far apart", u"Total      1\nTip   2\n\n| a  b\n\na   # b",
           u"Total      1\nTip   2\n\n| a  b\n\na   # b"},
-         {"a rule of make", u"a: b\na : $(c)  d", u"a: b\na : $(c)  d"},
+         {"make and shell", u"a: b\na : $(c)  d\n\nA=b  c", u"a: b\na : $(c)  d\n\nA=b  c"},
          {"a stack", u"#1  0x1\n[  1.25] d  e", u"#1  0x1\n[  1.25] d  e"},
          {"code and addresses in prose",
           u"See  `a  b`, <a  b=\"c\">, https://a.org/b__c  and  me@a.org .",
