@@ -207,7 +207,7 @@ class WrappedParagraphs {
         text::UnitCursor cursor(all, lineBreaks);
         for (std::size_t at = 0; at < all.size();) {
             const std::size_t end = cursor.next();
-            const bool pair = all.substr(end).starts_with(u"\r\n");
+            const bool pair = end + 1 < all.size() && all[end] == u'\r' && all[end + 1] == u'\n';
             const std::size_t next = std::min((pair ? cursor.next() : end) + 1, all.size());
             if (!addLine(at, end)) {
                 endParagraph(next);

@@ -105,9 +105,21 @@ constexpr auto codeHashes = [] {
     return found;
 }();
 
+// What the others begin with.
+constexpr auto codeSigns = [] {
+    text::UnitSet signs;
+    for (const View start : codeStarts) {
+        if (!isAsciiLetter(start[0])) {
+            signs.add(start[0], start[0]);
+        }
+    }
+    return signs;
+}();
+
 bool beginsLikeCode(View words) {
-    const bool word = isAsciiLetter(words[0]);
-    if (word && (words.size() < 3 || !codeHashes[hashOf(words)])) {
+    const bool may = isAsciiLetter(words[0]) ? words.size() > 2 && codeHashes[hashOf(words)]
+                                             : codeSigns.contains(words[0]);
+    if (!may) {
         return false;
     }
     return std::ranges::any_of(
@@ -128,17 +140,23 @@ bool isFileMode(View words) {
            words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
 }
 
+// Whether a look at the first units is enough to see that no block begins with these words, unless
+// they have marks.
+bool beginsLikeProse(View words) {
+    if (words.size() < 3 || !isAsciiLetter(words[0]) || words[1] == u'.' || words[1] == u')') {
+        return false;
+    }
+    const bool mayBeginBlock = words[1] == u'S' ? begins(words, u"PS ")
+                               : words[1] == u'r' || words[1] == u'-'
+                                   ? isFileMode(words)
+                                   : words[1] == u'i' && begins(words, u"diff ");
+    return !mayBeginBlock;
+}
+
 // Whether a look at both ends of a line without marks, tabs and gaps is enough to see that it is
 // prose, or goes with the lines around it.
 bool isOrdinary(View line) {
-    if (line.size() < 3 || !isAsciiLetter(line[0]) || line[1] == u'.' || line[1] == u')') {
-        return false;
-    }
-    const bool mayBeginBlock = line[1] == u'S' ? begins(line, u"PS ")
-                               : line[1] == u'r' || line[1] == u'-'
-                                   ? isFileMode(line)
-                                   : line[1] == u'i' && begins(line, u"diff ");
-    return !mayBeginBlock && !mayBeCode(line);
+    return beginsLikeProse(line) && !mayBeCode(line);
 }
 
 // Walks over the breaks of a text and tells for each line whether it has marks or wide gaps.
@@ -166,38 +184,46 @@ class LineScan {
     }
 
   private:
-    // With the bit of the unit before.
-    static std::uint64_t shifted(std::uint64_t mask, std::uint64_t before) {
-        return mask << 1 | before >> 63;
+    // Masks of a block.
+    struct Signs {
+        std::uint64_t marks;
+        std::uint64_t values;
+        std::uint64_t columns;
+    };
+
+    // Each unit's bit where the next unit's is. `before` is the last block's mask, and then this
+    // one.
+    static std::uint64_t shifted(std::uint64_t mask, std::uint64_t &before) {
+        const std::uint64_t moved = mask << 1 | before >> 63;
+        before = mask;
+        return moved;
     }
 
     void take(const text::ClassMasks &found) {
-        const std::uint64_t gaps = found[blank] & shifted(found[blank], before_[blank]);
+        const std::uint64_t gaps = found[blank] & shifted(found[blank], blankBefore_);
         const std::uint64_t ink = ~(found[control] | found[blank]);
-        marks_ = found[mark];
-        values_ = shifted(found[separator], before_[separator]) & ink;
-        columns_ = found[bar] | (gaps != 0 ? wideGaps(gaps) : 0);
+        const Signs signs{found[mark], shifted(found[separator], separatorBefore_) & ink,
+                          found[bar] | (gaps != 0 ? wideGaps(gaps) : 0)};
         if (places_) {
-            const std::uint64_t twice = found[letterW] & shifted(found[letterW], before_[letterW]);
+            const std::uint64_t twice = found[letterW] & shifted(found[letterW], letterBefore_);
             places_->push_back(found[inlineMark] | twice);
         }
-        before_ = found;
         std::uint64_t rest = ~std::uint64_t{0};
         for (std::uint64_t left = found[control]; left != 0; left &= left - 1) {
             const auto bit = static_cast<std::size_t>(std::countr_zero(left));
             const std::uint64_t below = (std::uint64_t{1} << bit) - 1;
-            notice(rest & below);
+            notice(signs, rest & below);
             rest = ~below;
             takeControl(block_ + bit);
         }
-        notice(rest);
+        notice(signs, rest);
     }
 
     // What a part of the block says about the line at hand.
-    void notice(std::uint64_t part) {
-        marked_ = marked_ || (marks_ & part) != 0;
-        valued_ = valued_ || (values_ & part) != 0;
-        tabular_ = tabular_ || (columns_ & part) != 0;
+    void notice(const Signs &signs, std::uint64_t part) {
+        marked_ = marked_ || (signs.marks & part) != 0;
+        valued_ = valued_ || (signs.values & part) != 0;
+        tabular_ = tabular_ || (signs.columns & part) != 0;
     }
 
     // Those at whose end there is more than how some people end a sentence.
@@ -224,7 +250,7 @@ class LineScan {
     }
 
     void endLine(std::size_t end, std::uint8_t breakSize) {
-        const char16_t last = end > begin_ ? text_[end - 1] : u'\0';
+        const View whole = text_.substr(begin_, end - begin_);
         StructuredLine &line = lines_.emplace_back();
         line.begin = line.quoted = line.words = begin_;
         line.end = end;
@@ -232,8 +258,8 @@ class LineScan {
         line.marked = marked_;
         line.tabular = tabular_;
         line.valued = valued_;
-        line.mayBreak = last == u' ' || last == u'\\';
-        line.ordinary = !marked_ && !tabular_ && isOrdinary(text_.substr(begin_, end - begin_));
+        line.mayBreak = whole.ends_with(u"  ") || whole.ends_with(u'\\');
+        line.ordinary = !marked_ && !tabular_ && isOrdinary(whole);
         begin_ = end + breakSize;
         marked_ = tabular_ = valued_ = false;
     }
@@ -241,11 +267,10 @@ class LineScan {
     const View text_;
     Lines &lines_;
     InlinePlaces *const places_;
-    std::size_t block_ = 0;     // the units up to it have been looked at
-    text::ClassMasks before_{}; // of the block before
-    std::uint64_t marks_ = 0;
-    std::uint64_t values_ = 0;
-    std::uint64_t columns_ = 0;
+    std::size_t block_ = 0;         // the units up to it have been looked at
+    std::uint64_t blankBefore_ = 0; // masks of the block before
+    std::uint64_t separatorBefore_ = 0;
+    std::uint64_t letterBefore_ = 0;
     std::size_t begin_ = 0; // of the line at hand
     bool marked_ = false;
     bool tabular_ = false;
@@ -254,7 +279,8 @@ class LineScan {
 
 // A line of three or more of one sign, blanks between them allowed: "---", "* * *".
 bool isRule(View words) {
-    if (words.empty() || View(u"-*_=~#+\u2500\u2501\u2550\u2014").find(words[0]) == View::npos) {
+    if (words.size() < 3 || (words[1] != words[0] && !isBlank(words[1])) ||
+        View(u"-*_=~#+\u2500\u2501\u2550\u2014").find(words[0]) == View::npos) {
         return false;
     }
     std::size_t signs = 0;
@@ -312,7 +338,7 @@ bool isPrompt(View words) {
     static constexpr std::array<View, 7> signs{u"$ ",      u"% ",      u">>> ", u"... ",
                                                u"\u276F ", u"\u279C ", u"PS "};
     for (const View sign : signs) {
-        if (words.starts_with(sign)) {
+        if (words[0] == sign[0] && words.starts_with(sign)) {
             return sign != u"PS " || words.find(u"> ") != View::npos;
         }
     }
@@ -598,6 +624,10 @@ class MarkedStructure {
         if (column < content_ && (apart || above_ != LineKind::prose)) {
             content_ = 0;
         }
+        if (beginsLikeProse(words) &&
+            !(line.marked && (beginsWithHost(words) || isStamped(words)))) {
+            return LineKind::prose;
+        }
         if (isRule(trimmed(words))) {
             content_ = 0;
             const bool underlines = words[0] == u'=' || words[0] == u'-';
@@ -795,26 +825,35 @@ bool isAssignment(View words) {
            (isAsciiLetter(words[0]) || words[0] == u'_');
 }
 
+// " = ", "();", "$(", "->" or "::".
+bool hasOperator(View words) {
+    static constexpr text::UnitSet signs(u"=;>:$");
+    text::UnitCursor cursor(words, signs);
+    for (std::size_t at = cursor.next(); at < words.size(); at = cursor.next()) {
+        const View before = words.substr(0, at + 1);
+        if (begins(words.substr(at), u"$(") || before.ends_with(u"();") ||
+            before.ends_with(u"->") || before.ends_with(u"::") ||
+            (before.ends_with(u" =") && words.substr(at + 1).starts_with(u' '))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool hasSignsOfCode(View words) {
+    const char16_t last = words.back();
+    if (View(u"{};[(").find(last) != View::npos || words.ends_with(u"),") ||
+        words.ends_with(u"],") || words.ends_with(u"\",") ||
+        (words.ends_with(u"):") && words.find(u"](") == View::npos)) {
+        return true;
+    }
+    return last != u'.' && (beginsLikeCode(words) || isAssignment(words) || hasOperator(words));
+}
+
 bool looksLikeCode(View words) {
     words = trimmed(words);
-    if (words.empty()) {
-        return false;
-    }
-    if (isAsciiLetter(words.front()) && isWordy(words)) {
-        return false;
-    }
-    const View ends = u"{};[(";
-    const char16_t last = words.back();
-    if (ends.find(last) != View::npos || words.ends_with(u"),") || words.ends_with(u"],") ||
-        words.ends_with(u"\",") || (words.ends_with(u"):") && words.find(u"](") == View::npos)) {
-        return true;
-    }
-    if (last != u'.' && (words.find(u" = ") != View::npos || words.find(u"();") != View::npos ||
-                         words.find(u"$(") != View::npos || words.find(u"->") != View::npos ||
-                         words.find(u"::") != View::npos)) {
-        return true;
-    }
-    return (beginsLikeCode(words) || isAssignment(words)) && last != u'.';
+    return !words.empty() && hasSignsOfCode(words) &&
+           !(isAsciiLetter(words.front()) && isWordy(words));
 }
 
 // The second pass: what lines say together. Takes each run of lines that the first pass left as

@@ -42,7 +42,7 @@ struct StructuredLine {
     bool marked = false;        // has signs that are seldom in prose
     bool tabular = false;       // has tabs, bars or gaps
     bool valued = false;        // may have separators of values
-    bool mayBreak = false;      // ends in a blank or a backslash
+    bool mayBreak = false;      // ends in two blanks or a backslash
     bool codeLike = false;      // looks like code by itself
     bool ordinary = false;      // nothing in it says that it is something else than prose
 

@@ -11,6 +11,7 @@
 #include "text/UnitScan.h"
 
 #include <algorithm>
+#include <deque>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -23,14 +24,20 @@ using View = std::u16string_view;
 constexpr text::UnitSet lineBreaks(u"\r\n");
 using Steps = std::span<const Operation *const>;
 
-constexpr View blanks = u" \u00A0";
+bool isBlank(char16_t unit) {
+    return unit == u' ' || unit == u'\u00A0';
+}
 
 std::size_t inkBegin(View words) {
-    return std::min(words.find_first_not_of(blanks), words.size());
+    return static_cast<std::size_t>(std::ranges::find_if_not(words, isBlank) - words.begin());
 }
 
 std::size_t inkEnd(View words) {
-    return words.find_last_not_of(blanks) + 1; // npos + 1 is 0
+    std::size_t end = words.size();
+    while (end > 0 && isBlank(words[end - 1])) {
+        --end;
+    }
+    return end;
 }
 
 // All blanks next to breaks go, so that a second clean finds none.
@@ -123,7 +130,7 @@ class Literals {
 };
 
 bool isIndented(View text, const StructuredLine &line) {
-    return line.begin < line.end && blanks.find(text[line.begin]) != View::npos;
+    return line.begin < line.end && isBlank(text[line.begin]);
 }
 
 bool hasInk(View line) {
@@ -182,6 +189,9 @@ class TextInPlace {
     std::size_t free_ = 0;
 };
 
+// Does not move what it has when it grows, which would touch twice the memory.
+using Lines = std::deque<StructuredLine>;
+
 // The lines of a text, of which paragraphs of prose, with blank lines between them, count as one:
 // but for those in lists and quotations, and up to a break that may be meant.
 class GuardedLines {
@@ -212,7 +222,7 @@ class GuardedLines {
         return line.kind == LineKind::prose && !line.item && line.quoted == line.begin;
     }
 
-    std::vector<StructuredLine> lines() && { return std::move(lines_); }
+    Lines lines() && { return std::move(lines_); }
 
   private:
     void addProse(const StructuredLine &line) {
@@ -229,7 +239,7 @@ class GuardedLines {
     }
 
     const View text_;
-    std::vector<StructuredLine> lines_;
+    Lines lines_;
     bool inList_ = false;
     bool isMarked_ = false;
     bool inProse_ = false;
@@ -287,6 +297,7 @@ class Guard {
     // False where nothing is prose.
     bool findLines() {
         GuardedLines lines(text_);
+        places_.reserve(text_.size() / text::scanBlock + 1);
         const bool program = scanStructure(
             text_,
             [&](std::span<const StructuredLine> some) {
@@ -365,7 +376,7 @@ class Guard {
             from = cleanPieces(from, line.next());
             if (isMeant(row)) {
                 const std::size_t ink = line.begin + inkEnd(cut(line.begin, line.end));
-                source_.append(cut(from, ink));
+                block_.append(cut(from, ink));
                 addBreak(cut(ink, line.next()));
                 from = line.next();
             }
@@ -422,11 +433,11 @@ class Guard {
             const bool kept = isMeant(row) || !lineEndsGo_ || line.end == line.next();
             more = goesOn(row + 1);
             if (more && mayBeJoined(at, row)) {
-                source_.append(cut(line.words, line.next()));
-                source_.append(cut(lines_[row + 1].quoted, lines_[row + 1].words));
+                block_.append(cut(line.words, line.next()));
+                block_.append(cut(lines_[row + 1].quoted, lines_[row + 1].words));
                 continue;
             }
-            source_.append(words.substr(0, more || !kept ? inkEnd(words) : words.size()));
+            block_.append(words.substr(0, more || !kept ? inkEnd(words) : words.size()));
             if (more) {
                 literal_.assign(kept ? words.substr(inkEnd(words)) : View());
                 literal_.append(cut(line.end, line.next()));
@@ -459,9 +470,9 @@ class Guard {
     }
 
     void addBreak(View literal) {
-        breakPlaces_.push_back(source_.size());
-        source_.push_back(breakSign);
-        sourceBreaks_.add(literal);
+        breakPlaces_.push_back(block_.size());
+        block_.push_back(breakSign);
+        blockBreaks_.add(literal);
     }
 
     // What stands in front of the words of a line, without what is to go.
@@ -506,43 +517,48 @@ class Guard {
     // Gives what waits, and the words from `from` to `end` behind it, to the steps. With `last`,
     // their text ends here.
     void cleanPiece(std::size_t from, std::size_t end, bool last) {
-        if (source_.empty()) {
-            hideInlineStructure({cut(from, end), places_, from});
+        if (block_.empty()) {
+            block_.assign(cut(from, end));
+            hideInlineStructure(places_, from);
         } else {
-            source_.append(cut(from, end));
-            findInlinePlaces(source_, sourcePlaces_);
-            hideInlineStructure({source_, sourcePlaces_});
-            source_.clear();
+            block_.append(cut(from, end));
+            findInlinePlaces(block_, blockPlaces_);
+            hideInlineStructure(blockPlaces_, 0);
             breakPlaces_.clear();
         }
         result_.free(end);
         stream_.put(block_, last);
     }
 
-    // Puts it into the block, without code and addresses, and without the signs where it has them.
-    void hideInlineStructure(const PlacedText &source) {
-        findInlineStructure(source, breakPlaces_, tagsGo_, ranges_);
+    // Takes code and addresses out of the block, and the signs where it has them. The places of the
+    // block begin at `begin`.
+    void hideInlineStructure(const InlinePlaces &places, std::size_t begin) {
+        findInlineStructure({block_, places, begin}, breakPlaces_, tagsGo_, ranges_);
+        std::size_t to = 0;
         std::size_t from = 0;
         auto place = breakPlaces_.cbegin();
         const auto keepUpTo = [&](std::size_t end) {
-            block_.append(source.text, from, end - from);
+            if (to != from) {
+                std::char_traits<char16_t>::move(&block_[to], &block_[from], end - from);
+            }
+            to += end - from;
             for (; place != breakPlaces_.cend() && *place < end; ++place) {
-                breaks_.add(sourceBreaks_.take());
+                breaks_.add(blockBreaks_.take());
             }
         };
-        block_.clear();
         for (const text::Range &range : ranges_) {
             keepUpTo(range.begin);
             from = range.begin;
             literal_.clear();
             for (; place != breakPlaces_.cend() && *place < range.end; from = *place++ + 1) {
-                literal_.append(source.text, from, *place - from).append(sourceBreaks_.take());
+                literal_.append(block_, from, *place - from).append(blockBreaks_.take());
             }
-            words_.add(literal_.append(source.text, from, range.end - from));
-            block_.push_back(wordSign);
+            words_.add(literal_.append(block_, from, range.end - from));
+            block_[to++] = wordSign;
             from = range.end;
         }
-        keepUpTo(source.text.size());
+        keepUpTo(block_.size());
+        block_.resize(to);
     }
 
     void appendCleaned(View text) {
@@ -573,7 +589,7 @@ class Guard {
     const View text_;
     const CleaningContext &context_;
     const std::size_t pieceSize_;
-    std::vector<StructuredLine> lines_;
+    Lines lines_;
     InlinePlaces places_;
     TextInPlace result_;
     StepStream stream_;
@@ -583,12 +599,11 @@ class Guard {
     bool tagsGo_ = false;
     const Operation *links_ = nullptr;      // what is to be done to addresses
     std::u16string apostrophe_ = u"\u2019"; // what becomes of one
-    std::u16string source_; // words that are no stretch of the text, with signs for breaks
-    std::vector<std::size_t> breakPlaces_; // in it, of these signs
-    Literals sourceBreaks_;                // what these stand for
-    InlinePlaces sourcePlaces_;
     std::u16string block_; // words for the steps, with signs in them
-    Literals words_;       // what the signs in the blocks stand for
+    std::vector<std::size_t> breakPlaces_; // in it, of signs for breaks, while it is put together
+    Literals blockBreaks_;                 // what these stand for
+    InlinePlaces blockPlaces_;
+    Literals words_; // what the signs in the blocks stand for
     Literals breaks_;
     std::vector<text::Range> ranges_;
     std::u16string marks_;
