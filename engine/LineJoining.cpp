@@ -383,7 +383,9 @@ class WrappedParagraphs {
 } // namespace
 
 std::u16string joinWrappedLines(std::u16string text, bool withSpace) {
-    WrappedParagraphs(text, withSpace).run();
+    if (text::findUnit(text, 0, lineBreaks) < text.size()) {
+        WrappedParagraphs(text, withSpace).run();
+    }
     return text;
 }
 

@@ -918,13 +918,17 @@ class Paragraphs {
     }
 
     void add(const StructuredLine &line) {
+        ++run_.lines;
+        if (line.ordinary) {
+            run_.leastIndent = 0;
+            return;
+        }
         const std::size_t indent = line.words - line.begin;
         run_.leastIndent = std::min(run_.leastIndent, indent);
-        run_.mostIndent = run_.lines > 0 ? std::max(run_.mostIndent, indent) : 0;
+        run_.mostIndent = run_.lines > 1 ? std::max(run_.mostIndent, indent) : 0;
         run_.tabular = run_.tabular || line.tabular;
         run_.marked = run_.marked || line.item || line.quoted > line.begin;
         run_.code += line.codeLike ? 1 : 0;
-        ++run_.lines;
     }
 
     void endRun() {

@@ -11,6 +11,7 @@
 #include "text/UnitScan.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <deque>
 #include <string_view>
 #include <utility>
@@ -43,8 +44,9 @@ std::size_t inkEnd(View words) {
 // All blanks next to breaks go, so that a second clean finds none.
 std::u16string removeLineEnds(std::u16string text, const CleaningContext &) {
     std::size_t to = 0;
+    text::UnitCursor cursor(text, lineBreaks);
     for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = text::findUnit(text, begin, lineBreaks);
+        const std::size_t end = cursor.next();
         const View line = View(text).substr(begin, end - begin);
         const std::size_t from = begin == 0 ? 0 : inkBegin(line);
         const std::size_t till = end == text.size() ? line.size() : inkEnd(line);
@@ -231,7 +233,9 @@ class GuardedLines {
             lines_.push_back(line);
             return;
         }
-        lines_.resize(prose_ + 1);
+        while (lines_.size() > prose_ + 1) {
+            lines_.pop_back();
+        }
         StructuredLine &last = lines_.back();
         last.end = line.end;
         last.breakSize = line.breakSize;
@@ -292,6 +296,8 @@ class Guard {
     text::Range fixed() const { return fixed_; }
 
   private:
+    enum class Ends : std::uint8_t { no, yes, stripped };
+
     View cut(std::size_t begin, std::size_t end) const { return text_.substr(begin, end - begin); }
 
     // False where nothing is prose.
@@ -301,16 +307,19 @@ class Guard {
         const bool program = scanStructure(
             text_,
             [&](std::span<const StructuredLine> some) {
-                for (StructuredLine line : some) {
-                    if (tagsGo_ && line.kind == LineKind::markup) {
-                        line.kind = line.words < line.end ? LineKind::prose : LineKind::blank;
-                    }
-                    lines.add(line);
+                for (const StructuredLine &line : some) {
+                    lines.add(tagsGo_ && line.kind == LineKind::markup ? asText(line) : line);
                 }
             },
             &places_);
         lines_ = std::move(lines).lines();
         return !program;
+    }
+
+    // A line of HTML whose tags go.
+    static StructuredLine asText(StructuredLine line) {
+        line.kind = line.words < line.end ? LineKind::prose : LineKind::blank;
+        return line;
     }
 
     void markFixed(std::size_t begin) {
@@ -383,8 +392,7 @@ class Guard {
         }
         from = cleanPieces(from, end.end);
         const bool stripped = lineEndsGo_ && end.end < end.next();
-        const View words = cut(from, end.end);
-        cleanPiece(from, from + (stripped ? inkEnd(words) : words.size()), true);
+        cleanPiece(from, end.end, stripped ? Ends::stripped : Ends::yes);
         result_.free(end.next());
         result_.append(cut(end.end, end.next()));
         return last + 1;
@@ -398,7 +406,7 @@ class Guard {
             if (next > end) {
                 break;
             }
-            cleanPiece(from, next, false);
+            cleanPiece(from, next, Ends::no);
             from = next;
         }
         return from;
@@ -449,7 +457,7 @@ class Guard {
         const std::size_t begin = result_.size();
         result_.free(last.end);
         result_.append(marks_);
-        cleanPiece(last.end, last.end, true);
+        cleanPiece(last.end, last.end, Ends::yes);
         if (!marks_.empty() || row > at) {
             markFixed(begin);
         }
@@ -514,20 +522,23 @@ class Guard {
         return isQuoted(at) && quotedProse_;
     }
 
-    // Gives what waits, and the words from `from` to `end` behind it, to the steps. With `last`,
-    // their text ends here.
-    void cleanPiece(std::size_t from, std::size_t end, bool last) {
-        if (block_.empty()) {
-            block_.assign(cut(from, end));
+    // Gives what waits, and the words from `from` to `end` behind it, to the steps. `ends` says
+    // whether their text ends here, and without the blanks at its end.
+    void cleanPiece(std::size_t from, std::size_t end, Ends ends) {
+        const bool isStretch = block_.empty();
+        block_.append(cut(from, end));
+        if (ends == Ends::stripped) {
+            block_.resize(inkEnd(block_));
+        }
+        if (isStretch) {
             hideInlineStructure(places_, from);
         } else {
-            block_.append(cut(from, end));
             findInlinePlaces(block_, blockPlaces_);
             hideInlineStructure(blockPlaces_, 0);
             breakPlaces_.clear();
         }
         result_.free(end);
-        stream_.put(block_, last);
+        stream_.put(block_, ends != Ends::no);
     }
 
     // Takes code and addresses out of the block, and the signs where it has them. The places of the
