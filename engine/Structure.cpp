@@ -66,7 +66,7 @@ View trimmed(View line) {
 // Of a literal, whose length the compiler knows; a view would count it anew each time.
 template <std::size_t size>
 bool begins(View text, const char16_t (&literal)[size]) {
-    return text.size() >= size - 1 &&
+    return text.size() >= size - 1 && text[0] == literal[0] &&
            std::memcmp(text.data(), literal, (size - 1) * sizeof *literal) == 0;
 }
 

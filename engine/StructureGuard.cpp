@@ -610,9 +610,9 @@ class Guard {
     bool tagsGo_ = false;
     const Operation *links_ = nullptr;      // what is to be done to addresses
     std::u16string apostrophe_ = u"\u2019"; // what becomes of one
-    std::u16string block_; // words for the steps, with signs in them
-    std::vector<std::size_t> breakPlaces_; // in it, of signs for breaks, while it is put together
-    Literals blockBreaks_;                 // what these stand for
+    std::u16string block_;                  // words for the steps, with signs in them
+    std::vector<std::size_t> breakPlaces_;  // in it, of signs for breaks, while it is put together
+    Literals blockBreaks_;                  // what these stand for
     InlinePlaces blockPlaces_;
     Literals words_; // what the signs in the blocks stand for
     Literals breaks_;

@@ -105,7 +105,7 @@ void forEachOccurrence(View<Unit> text, View<Unit> find, Found found) {
         }
     }
     for (std::size_t at = std::max(block, free); at + find.size() <= text.size();) {
-        if (matches(at)) {
+        if (text[at] == find.front() && matches(at)) {
             found(at);
             at += find.size();
         } else {

@@ -86,18 +86,21 @@ std::uint64_t scanTailPairs(const char16_t *units, std::size_t count, char16_t u
     return scanPairs(block, unit);
 }
 
+std::uint64_t scanEnd(std::u16string_view text, std::size_t from, const UnitSet &set) {
+    const std::size_t left = text.size() - from;
+    return text.size() < scanBlock
+               ? scanTail(text.data() + from, left, set)
+               : scanUnits(text.data() + text.size() - scanBlock, set) >> (scanBlock - left);
+}
+
 std::size_t findUnit(std::u16string_view text, std::size_t from, const UnitSet &set) {
     for (; from + scanBlock <= text.size(); from += scanBlock) {
         if (const std::uint64_t mask = scanUnits(text.data() + from, set)) {
             return from + static_cast<std::size_t>(std::countr_zero(mask));
         }
     }
-    for (; from < text.size(); ++from) {
-        if (set.contains(text[from])) {
-            return from;
-        }
-    }
-    return text.size();
+    const std::uint64_t mask = from < text.size() ? scanEnd(text, from, set) : 0;
+    return mask != 0 ? from + static_cast<std::size_t>(std::countr_zero(mask)) : text.size();
 }
 
 std::size_t findUnit(std::u16string_view text, std::size_t from, char16_t unit) {

@@ -92,6 +92,9 @@ std::uint64_t scanTail(const char16_t *units, std::size_t count, const UnitSet &
 // The same for pairs in them; `unit` is not 0.
 std::uint64_t scanTailPairs(const char16_t *units, std::size_t count, char16_t unit);
 
+// The mask of the units from `from` on: 1 to 63 of them, or none of an empty text.
+std::uint64_t scanEnd(std::u16string_view text, std::size_t from, const UnitSet &set);
+
 // The same for UTF-8 and a set of ASCII.
 std::uint64_t scanUnits(const char *bytes, const UnitSet &ascii);
 std::uint64_t scanUnit(const char *bytes, char byte);
@@ -147,7 +150,7 @@ class UnitCursor {
     void load() {
         const std::size_t left = text_.size() - block_;
         all_ = left >= scanBlock ? scanUnits(text_.data() + block_, set_)
-                                 : scanTail(text_.data() + block_, left, set_);
+                                 : scanEnd(text_, block_, set_);
         if (pair_ != u'\0') {
             all_ |= left > scanBlock ? scanPairs(text_.data() + block_, pair_)
                                      : scanTailPairs(text_.data() + block_, left, pair_);
