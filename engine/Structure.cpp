@@ -745,6 +745,22 @@ std::size_t innerTabs(View words) {
     return static_cast<std::size_t>(std::ranges::count(trimmed(words), u'\t'));
 }
 
+// Most of its words are letters alone, as in a sentence.
+bool isWordy(View words) {
+    std::size_t plain = 0;
+    std::size_t all = 0;
+    for (std::size_t at = firstInk(words); at < words.size(); ++all) {
+        const std::size_t end = std::min(words.find(u' ', at), words.size());
+        View word = words.substr(at, end - at);
+        while (!word.empty() && View(u".,;:!?").find(word.back()) != View::npos) {
+            word.remove_suffix(1);
+        }
+        plain += !word.empty() && std::ranges::all_of(word, isAsciiLetter<char16_t>);
+        at = firstInk(words, end);
+    }
+    return plain > 5 && plain * 5 >= all * 3;
+}
+
 // The columns of a line: where ink ends before a gap of two or more blanks and begins behind it. A
 // gap behind the end of a sentence is how some people type; behind a name with a colon it is not.
 struct Columns {
@@ -753,6 +769,7 @@ struct Columns {
     std::size_t wide = 0; // gaps of more than two blanks
     bool isFar = false;   // a gap that nobody leaves by mistake, or one before a remark
     bool isField = false; // "Name:   value"
+    bool isProse = false; // words with no gap of more than two blanks, as justified text has
 };
 
 Columns columnsOf(View line, std::size_t words) {
@@ -775,18 +792,24 @@ Columns columnsOf(View line, std::size_t words) {
             columns.isField = columns.isField || named;
         }
     }
+    columns.isProse = columns.wide == 0 && !columns.isFar && !columns.starts.empty() &&
+                      isWordy(line.substr(words));
     return columns;
 }
 
-bool shareColumn(const std::vector<std::size_t> &a, const std::vector<std::size_t> &b) {
-    return std::ranges::any_of(
+std::ptrdiff_t sharedColumns(const std::vector<std::size_t> &a, const std::vector<std::size_t> &b) {
+    return std::ranges::count_if(
         a, [&](std::size_t column) { return std::ranges::binary_search(b, column); });
 }
 
+// In prose, one of several gaps may well stand below another by chance, but hardly the first one.
 bool isAligned(const Columns &a, const Columns &b) {
-    return shareColumn(a.starts, b.starts) || shareColumn(a.ends, b.ends) ||
-           (a.starts.size() > 1 && b.starts.size() > 1) ||
-           (a.wide > 0 && b.wide > 0 && (a.isFar || b.isFar));
+    const auto shared = std::max(sharedColumns(a.starts, b.starts), sharedColumns(a.ends, b.ends));
+    const bool several = a.starts.size() > 1 && b.starts.size() > 1;
+    if (several && a.isProse && b.isProse) {
+        return shared > 1 || a.starts[0] == b.starts[0];
+    }
+    return shared > 0 || several || (a.wide > 0 && b.wide > 0 && (a.isFar || b.isFar));
 }
 
 // Separators of a list of values: not followed by a blank, nor between digits.
@@ -800,22 +823,6 @@ std::size_t separators(View words) {
         count += isBlank(words[at + 1]) || number ? 0 : 1;
     }
     return count;
-}
-
-// Most of its words are letters alone, as in a sentence.
-bool isWordy(View words) {
-    std::size_t plain = 0;
-    std::size_t all = 0;
-    for (std::size_t at = firstInk(words); at < words.size(); ++all) {
-        const std::size_t end = std::min(words.find(u' ', at), words.size());
-        View word = words.substr(at, end - at);
-        while (!word.empty() && View(u".,;:!?").find(word.back()) != View::npos) {
-            word.remove_suffix(1);
-        }
-        plain += !word.empty() && std::ranges::all_of(word, isAsciiLetter<char16_t>);
-        at = firstInk(words, end);
-    }
-    return plain > 5 && plain * 5 >= all * 3;
 }
 
 // "NAME=value"
@@ -1042,7 +1049,8 @@ class Paragraphs {
                     return start <= indent && indent <= start + 2;
                 });
             const bool aligned = at > begin && (hangs || isAligned(columns, own) ||
-                                                (ownTabs > 0 && ownTabs == tabs));
+                                                (ownTabs > 0 && ownTabs == tabs) ||
+                                                (columns.isField && own.isField));
             if (aligned || (below && at > begin && isTableRule(words))) {
                 lines_[at - 1].kind = LineKind::table;
             }
@@ -1050,7 +1058,8 @@ class Paragraphs {
             if (barred && barredAbove) {
                 lines_[at - 1].kind = LineKind::table;
             }
-            const bool alone = own.wide > 1 || own.isFar || own.isField || (barred && barredAbove);
+            const bool alone = own.wide > 1 || own.isFar || (own.isField && !own.isProse) ||
+                               (barred && barredAbove);
             barredAbove = barred;
             if (aligned || alone || below || ownTabs > 1 || words.starts_with(u'|') ||
                 isDrawn(words)) {
