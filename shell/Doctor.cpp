@@ -74,7 +74,7 @@ void windows(Report &report, const Desktop &desktop, const std::optional<Running
     report.topic("Statistics popup", popup, wayland ? "a window" : "a window placed exactly");
     report.gap(popup.backend || !wayland ? ""
                : running && !platform::pointerPositionKnown()
-                   ? "the compositor says where it stands"
+                   ? "the compositor says where it stands, and gives it the keyboard"
                    : "where the pointer is, is known only over windows of programs on X11");
     if (running) {
         report.line("Chooser", running->chooserLeavesFocus ? "a window that leaves the focus"
