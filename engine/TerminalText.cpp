@@ -340,13 +340,13 @@ std::u16string unwrapTerminal(std::u16string text) {
     text = withoutControls(std::move(text));
     std::vector<Row> rows = rowsOf(text);
     // Blanks in front of every line are a gutter where something else shows a screen, or where most
-    // is prose; a piece of code keeps its indent.
+    // is prose; a piece of code keeps its indent. One blank alone is how some indent paragraphs.
     std::size_t width = openFrames(rows);
     const bool barred = removeBars(rows);
     width = std::max(width, removePadding(rows));
     const bool screen = barred || width > 0;
     std::u16string framed = textOf(rows);
-    if (const std::size_t gutter = commonIndent(rows); gutter > 0) {
+    if (const std::size_t gutter = commonIndent(rows); gutter > (screen ? 0 : 1)) {
         for (Row &row : rows) {
             row.words.erase(0, std::min(gutter, indentOf(row.words)));
         }

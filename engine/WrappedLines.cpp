@@ -120,6 +120,12 @@ bool isDoubtful(const StructuredLine &line) {
     return line.kind == LineKind::code || line.kind == LineKind::table;
 }
 
+// "-     code": an item whose words stand so far behind its mark.
+bool isCodeItem(View text, const StructuredLine &line) {
+    return line.item && line.kind == LineKind::code &&
+           text.substr(line.begin, line.words - line.begin).ends_with(u"     ");
+}
+
 // --- rows that the screen cut at its last column
 
 class CutRows {
@@ -182,7 +188,8 @@ class CutRows {
 
     bool isJoinable(std::size_t at) const {
         const auto &line = lines_[at];
-        const bool looks = indentOf(rowAt(line)) < codeIndent && isDoubtful(line);
+        const bool looks =
+            indentOf(rowAt(line)) < codeIndent && isDoubtful(line) && !isCodeItem(text_, line);
         return looks || line.kind == LineKind::prose || line.kind == LineKind::heading ||
                line.kind == LineKind::data;
     }
@@ -534,7 +541,7 @@ class WrappedLines {
         const auto &below = lines_[at + 1];
         if ((at + 2 == inkedEnd_ && isStatus(rowAt(below))) ||
             (isField(rowAt(above)) && isField(rowAt(below))) ||
-            beginAlike(rowAt(above), rowAt(below))) {
+            beginAlike(rowAt(above), rowAt(below)) || isCodeItem(text_, first)) {
             return false;
         }
         const bool marked = below.item || isOneQuoted(at + 1);
