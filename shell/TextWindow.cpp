@@ -43,7 +43,7 @@ TextWindow::TextWindow(const QString &name, const QString &title, const QString 
     buttons->addStretch();
     buttons->addWidget(close);
     layout->addLayout(buttons);
-    resize(QSize(620, 480).boundedTo(screenRoom(*this)));
+    resize(QSize(640, 540).boundedTo(screenRoom(*this)));
 }
 
 } // namespace nerlo::shell

@@ -564,7 +564,8 @@ void nrShortcutView::paintEvent(QPaintEvent *) {
     painter.setPen(text);
     const QRect area = shortcutRect().adjusted(margin, 0, -margin, 0);
     // Modifiers stand before the key in every language; only prompts follow the reading direction.
-    painter.setLayoutDirection(prompt ? layoutDirection() : Qt::LeftToRight);
+    const bool keys = recording_ ? title() == shortcutPlaceholder_ : shortcutValue_.has_value();
+    painter.setLayoutDirection(keys ? Qt::LeftToRight : layoutDirection());
     painter.drawText(area, Qt::AlignCenter,
                      fontMetrics().elidedText(title(), Qt::ElideRight, area.width()));
 
