@@ -38,27 +38,24 @@ TEST(TerminalText, JoinsWhatWasWrapped) {
     expectRows(
         {{"at the width that fills the rows",
           u"The quick brown fox jumps over the lazy dog\nand then it sleeps under the old oak "
-          u"tree\n"
-          u"until the morning.\n\nA second one.",
+          u"tree\nuntil the morning.\n\nA second one.",
           u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak tree "
           u"until the morning.\n\nA second one."},
-         {"the words of an item below each other",
-          u"- The quick brown fox jumps over the dogs\n  and sleeps under the old oak tree until "
-          u"a\n"
-          u"  morning.\n- Next.",
-          u"- The quick brown fox jumps over the dogs and sleeps under the old oak tree until a "
-          u"morning.\n- Next."},
+         {"the words of an item below each other, also behind a dash",
+          u"- The quick brown fox jumps over the dogs\n  - and sleeps under the old oak trees\n"
+          u"  until a morning comes up over the hills\n  and the moor.\n- Next.",
+          u"- The quick brown fox jumps over the dogs - and sleeps under the old oak trees until a "
+          u"morning comes up over the hills and the moor.\n- Next."},
          {"not what had no room in a line of code",
-          u"The quick brown fox jumps over the lazy\ndog and then it sleeps under the old "
-          u"oak\ntree.\n\n"
-          u"    path/to/configure\nCC=path/to/msvcc.sh and some more of it\nthat stands in the "
-          u"next row "
-          u"of the code\nand -nologo",
+          u"The quick brown fox jumps over the lazy\ndog and then it sleeps under the old oak\n"
+          u"tree.\n\n    path/to/configure\nCC=path/to/msvcc.sh and some more of it\nthat stands",
           u"The quick brown fox jumps over the lazy dog and then it sleeps under the old oak "
-          u"tree.\n\n"
-          u"    path/to/configure\nCC=path/to/msvcc.sh and some more of it\nthat stands in the "
-          u"next row "
-          u"of the code\nand -nologo"},
+          u"tree.\n\n    path/to/configure\nCC=path/to/msvcc.sh and some more of it\nthat stands"},
+         {"one wide row in the midst of a sentence, not the rows of a log",
+          u"The quick brown fox jumps over the lazy dog, and then it sleeps under the old oak "
+          u"until\nthe morning.\n\n16:00:10 status installed gawk\n16:00:10 startup archives",
+          u"The quick brown fox jumps over the lazy dog, and then it sleeps under the old oak "
+          u"until the morning.\n\n16:00:10 status installed gawk\n16:00:10 startup archives"},
          {"an address that was cut",
           u"All of the documentation of it is found "
           u"at\nhttps://example.org/a/long/path/to/somewhere/"
@@ -81,10 +78,12 @@ TEST(TerminalText, TellsCutRowsFromWrappedOnes) {
         {{"cut at 40",
           u"Rows that somebody wrapped at sixty colum\nns of an edit\n"
           u"or come out of a narrower pane cut in the\n middle of words\n"
-          u"and the rest of each stands below the one\n that is full.\n",
+          u"and the rest of each stands below the one\n that is full.\n"
+          u"- An item as wide as the screen by chance\n- Next\n",
           u"Rows that somebody wrapped at sixty columns of an edit\n"
           u"or come out of a narrower pane cut in the middle of words\n"
-          u"and the rest of each stands below the one that is full.\n"},
+          u"and the rest of each stands below the one that is full.\n"
+          u"- An item as wide as the screen by chance\n- Next\n"},
          {"a pager's last row is no text",
           u"The quick brown fox jumps over the lazy dog\nand then it sleeps under the old oak "
           u"tree\nuntil the morning comes up over the hills\nnotes.txt",
