@@ -72,6 +72,12 @@ void ShortcutPage::addRow(const ListedCommand &command, QLabel *heading) {
     grid->setColumnStretch(0, 1);
     auto *title = new QLabel(command.title);
     title->setTextFormat(Qt::PlainText);
+    if (selectsProfile(command)) { // whatever its name is, the row is no wider than the page
+        title->setWordWrap(true);
+        auto policy = title->sizePolicy();
+        policy.setHorizontalPolicy(QSizePolicy::Ignored);
+        title->setSizePolicy(policy);
+    }
     setTip(*title, command.tip);
     grid->addWidget(title, 0, 0);
     auto *reset = new QToolButton;
