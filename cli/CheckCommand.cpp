@@ -2,12 +2,12 @@
 #include "cli/ChangedLines.h"
 #include "cli/Commands.h"
 #include "cli/CommonArguments.h"
+#include "cli/FileRewriting.h"
 #include "cli/Findings.h"
 #include "cli/Input.h"
 #include "cli/OrderedWorkers.h"
 #include "cli/Output.h"
 #include "cli/Progress.h"
-#include "cli/Rewriting.h"
 #include "text/UnitScan.h"
 
 #include <CLI/App.hpp>

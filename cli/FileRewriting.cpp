@@ -1,4 +1,4 @@
-#include "cli/Rewriting.h"
+#include "cli/FileRewriting.h"
 
 #include <utility>
 
