@@ -88,7 +88,7 @@ QString PanelMenu::Rows(QString &title, QList<PanelRow> &rows) {
     if (!admits()) {
         return {};
     }
-    actions_.clear();
+    actions_.removeIf([](const auto &entry) { return entry.value().isNull(); });
     collect(menu_, 0, rows);
     title = title_;
     return icon_;
@@ -112,6 +112,14 @@ bool PanelMenu::admits() {
         sendErrorReply(QDBusError::AccessDenied, "only for the panel");
     }
     return admitted;
+}
+
+int PanelMenu::idOf(QAction &action) {
+    const int known = actions_.key(&action, 0);
+    if (known == 0) {
+        actions_.insert(++lastId_, &action);
+    }
+    return known == 0 ? lastId_ : known;
 }
 
 void PanelMenu::collect(const QMenu &menu, unsigned depth, QList<PanelRow> &rows) {

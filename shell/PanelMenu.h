@@ -42,7 +42,7 @@ class PanelMenu final : public QObject, protected QDBusContext {
 
   public slots:
     Q_SCRIPTABLE QString Rows(QString &title, QList<nerlo::shell::PanelRow> &rows);
-    // A row of the last answer; any other does nothing.
+    // A row of any answer; one that is no more does nothing.
     Q_SCRIPTABLE void Run(int id);
 
   signals:
@@ -50,13 +50,15 @@ class PanelMenu final : public QObject, protected QDBusContext {
 
   private:
     bool admits();
+    int idOf(QAction &action);
     void collect(const QMenu &menu, unsigned depth, QList<PanelRow> &rows);
 
     QMenu &menu_;
     const QString panel_;
     QString icon_;
     QString title_;
-    QHash<int, QPointer<QAction>> actions_; // of the last answer
+    // Each keeps its number: a row may be chosen while the next answer is on its way.
+    QHash<int, QPointer<QAction>> actions_;
     int lastId_ = 0;
 };
 
