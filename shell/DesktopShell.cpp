@@ -89,7 +89,8 @@ DesktopShell::DesktopShell(Program &program)
         menu_->setShownOverBus(tray_->overBus());
     });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
-        if (platform::pointerPositionKnown()) {
+        // A menu that gets no keys, as under KWin, is not closed by a press elsewhere either.
+        if (program_.parts().desktop.backends->grabGetsAllKeys()) {
             menu_->setShownOverBus(false);
             pointer_.start([this](QPoint at) { menu_->menu().popup(at); });
         } else {

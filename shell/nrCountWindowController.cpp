@@ -17,6 +17,7 @@
 #include <functional>
 #include <ranges>
 #include <utility>
+#include <vector>
 
 namespace nerlo::shell {
 
@@ -53,6 +54,31 @@ Screen mainScreen(QPoint pointer) {
         return ScreenRect{rect.x(), bottom - rect.bottom(), rect.width(), rect.height()};
     };
     return {{flipped(frame), flipped(visible), visible.top() - frame.top()}, bottom};
+}
+
+// Of each screen, all of it and what panels leave free, as the toolkit knows them.
+using Rooms = std::vector<std::pair<QRect, QRect>>;
+
+Rooms toolkitRooms() {
+    Rooms rooms;
+    for (const QScreen *screen : QGuiApplication::screens()) {
+        rooms.emplace_back(screen->geometry(), screen->availableGeometry());
+    }
+    return rooms;
+}
+
+// From the top left of the screen. A panel that is no layer, such as Plasma's, is known to the
+// toolkit alone.
+QRect freeRoom(const platform::PopupScreen &screen, const Rooms &rooms) {
+    const QRect free(screen.free.x, screen.free.y, screen.freeWidth, screen.freeHeight);
+    const QRect all(screen.origin.x, screen.origin.y, screen.width, screen.height);
+    for (const auto &[frame, room] : rooms) {
+        const QRect both = free & room.translated(-frame.topLeft());
+        if (frame == all && !both.isEmpty()) {
+            return both;
+        }
+    }
+    return free;
 }
 
 } // namespace
@@ -133,15 +159,15 @@ std::unique_ptr<platform::ShownPopup> nrTransparentWindow::showInLayer() {
     popup.width = width();
     popup.height = height();
     popup.atPointer = position == atPointerPosition;
-    popup.place = [position, width = width(),
-                   height = height()](const platform::PopupScreen &screen,
-                                      std::optional<platform::PopupPoint> pointer) {
+    popup.place = [position, width = width(), height = height(),
+                   rooms = toolkitRooms()](const platform::PopupScreen &screen,
+                                           std::optional<platform::PopupPoint> pointer) {
         const auto flipped = [&screen](int y) { return static_cast<double>(screen.height - y); };
-        const auto &free = screen.free;
+        const QRect free = freeRoom(screen, rooms);
         const MainScreen main{{0, 0, double(screen.width), double(screen.height)},
-                              {double(free.x), flipped(free.y + screen.freeHeight),
-                               double(screen.freeWidth), double(screen.freeHeight)},
-                              double(free.y)};
+                              {double(free.x()), flipped(free.y() + free.height()),
+                               double(free.width()), double(free.height())},
+                              double(free.y())};
         const ScreenPoint at =
             pointer ? ScreenPoint{double(pointer->x), flipped(pointer->y)} : ScreenPoint{};
         // Where the pointer cannot be found, the popup stands in the first corner.
