@@ -81,6 +81,7 @@ DesktopShell::DesktopShell(Program &program)
     , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
     QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(), [this] {
         menu_->setShownOverBus(tray_->overBus());
+        menuAtIcon_ = program_.parts().desktop.backends->grabGetsAllKeys();
         setProblem(Problem::tray, {});
         stateChanged(); // also of the taskbar, to which windows no longer need to have an entry
     });
@@ -89,8 +90,7 @@ DesktopShell::DesktopShell(Program &program)
         menu_->setShownOverBus(tray_->overBus());
     });
     QObject::connect(tray_.get(), &TrayIcon::activated, tray_.get(), [this] {
-        // A menu that gets no keys, as under KWin, is not closed by a press elsewhere either.
-        if (program_.parts().desktop.backends->grabGetsAllKeys()) {
+        if (menuAtIcon_) {
             menu_->setShownOverBus(false);
             pointer_.start([this](QPoint at) { menu_->menu().popup(at); });
         } else {

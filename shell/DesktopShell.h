@@ -110,6 +110,9 @@ class DesktopShell final : public ShellWindows {
     std::unique_ptr<TipsWindow> tipsController_;
     std::unique_ptr<TextWindow> whatsNewController_;
     std::unique_ptr<TextWindow> help_;
+    // Whether a click on the icon opens the menu there: one that gets no keys, as under KWin, is
+    // not closed by a press elsewhere either.
+    bool menuAtIcon_ = false;
     bool taskbarEntry_ = true;
     platform::MainQueue::TaskId settle_ = 0;
     storage::SettingsStore::Observation cleanShortcut_;
