@@ -380,7 +380,7 @@ bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
             const auto &keyEvent = static_cast<QKeyEvent &>(*event);
             const auto key = keyEventOf(keyEvent, context_.texts.layout());
             const bool pressed = event->type() == QEvent::KeyPress;
-            if (keyEvent.isAutoRepeat() || (!pressed && !isModifierKey(key.keyCode))) {
+            if (isRepeat(keyEvent) || (!pressed && !isModifierKey(key.keyCode))) {
                 return true;
             }
             if (pressed) {
@@ -392,6 +392,17 @@ bool nrShortcutView::eventFilter(QObject *watched, QEvent *event) {
     default:
         return false;
     }
+}
+
+// A busy machine's toolkit does not recognise every repetition: X11 tells it as a release and a
+// press of the same time, which may arrive one by one.
+bool nrShortcutView::isRepeat(const QKeyEvent &event) {
+    const Release now{event.nativeScanCode(), event.timestamp()};
+    if (event.type() == QEvent::KeyRelease) {
+        released_ = now;
+    }
+    return event.isAutoRepeat() ||
+           (event.type() == QEvent::KeyPress && now.time != 0 && now == released_);
 }
 
 bool nrShortcutView::monitor(const KeyEvent &event) {

@@ -109,6 +109,7 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     void setHinting(bool hinting);
     bool quiet() const;
     void announce();
+    bool isRepeat(const QKeyEvent &event);
     // A key-down or modifier change while recording; false to let it through.
     bool monitor(const KeyEvent &event);
     void setUnusable(bool unusable);
@@ -126,6 +127,12 @@ class nrShortcutView : public QWidget, public ShortcutControl {
     bool hinting_ = false;
     bool monitoring_ = false;
     bool unusable_ = false; // the last key cannot be used
+    struct Release {
+        quint32 key = 0;  // of the hardware
+        quint64 time = 0; // of the display; 0 for none
+        bool operator==(const Release &) const = default;
+    };
+    Release released_; // the last one
     QPointer<QWidget> observedWindow_;
     QPointer<QWidget> row_; // in which it is quiet; null for never
     Appearance appearance_ = Appearance::framed;
