@@ -402,12 +402,16 @@ class Guard {
     // Nothing inside a sentence reaches across an empty line.
     std::size_t cleanPieces(std::size_t from, std::size_t end) {
         while (end - from >= pieceSize_) {
-            const std::size_t next = behindEmptyLine(from, from + pieceSize_);
-            if (next > end) {
+            // What was found still holds for a place before it: rows are added one by one, and
+            // the next empty line may be far away.
+            if (emptyLineEnd_ < from + pieceSize_) {
+                emptyLineEnd_ = behindEmptyLine(from, from + pieceSize_);
+            }
+            if (emptyLineEnd_ > end) {
                 break;
             }
-            cleanPiece(from, next, Ends::no);
-            from = next;
+            cleanPiece(from, emptyLineEnd_, Ends::no);
+            from = emptyLineEnd_;
         }
         return from;
     }
@@ -600,6 +604,7 @@ class Guard {
     const View text_;
     const CleaningContext &context_;
     const std::size_t pieceSize_;
+    std::size_t emptyLineEnd_ = 0; // that was found last; see cleanPieces()
     Lines lines_;
     InlinePlaces places_;
     TextInPlace result_;
