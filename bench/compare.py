@@ -20,7 +20,7 @@ import time
 import zlib
 
 import make_corpus
-from operations import ENDLESS, ENDLESS_PEAK, KEEPS, PATTERNS, ROWS, STREAM_GOAL, STREAMS
+from operations import ENDLESS, ENDLESS_PEAK, KEEPS, PATTERNS, READY, ROWS, STREAM_GOAL, STREAMS
 
 LONGEST = 300  # seconds, after which a run is stopped
 MEGABYTE = 1e6
@@ -245,12 +245,13 @@ class Bench:
         small, large = (self.corpus(size, "--hostile") for size in (1, 4))
         ordinary = self.corpus(4)
         prose = os.path.join(ordinary, "prose.txt")
-        usual = {row.name: self.run(self.ours(row), prose).cpu for row in self.rows}
+        rows = self.rows + READY
+        usual = {row.name: self.run(self.ours(row), prose).cpu for row in rows}
         table = Table("text", "4 MB / 1 MB", "operation", "goal", "verdict", "hostile / prose", "operation")
         for name in make_corpus.HOSTILE:
             paths = [os.path.join(folder, name + ".txt") for folder in (large, small)]
             growths, slowness = [], []
-            for row in self.rows:
+            for row in rows:
                 ours = self.ours(row)
                 pair = [lambda path=path: self.run(ours, path) for path in paths]
                 ratio, runs = self.pairs(*pair, 1)

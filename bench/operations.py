@@ -253,6 +253,10 @@ PATTERNS = [
     pattern("marks", "repeated marks", r"([!?])\1+", None, "$1"),
 ]
 
+# Ready profiles in which structure is found; no tool does the like, so that only their growth is measured.
+READY = [row(profile, "profile " + profile, None, (), command="{nerlo} clean --profile " + profile)
+         for profile in ("mail", "terminal")]
+
 # By a pipe that the text comes through: the rows, with the names of their tools. The goal is the tool's CPU time.
 STREAMS = (("tabs", "tr -d"), ("reply-marks", "tr -d"), ("spaces", "tr -s"), ("white-space", "tr -s"),
            ("break-runs", "tr, tr"))
