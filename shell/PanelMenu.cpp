@@ -127,9 +127,8 @@ void PanelMenu::collect(const QMenu &menu, unsigned depth, QList<PanelRow> &rows
         if (!action->isVisible()) {
             continue;
         }
-        actions_.insert(++lastId_, action);
         rows.push_back(
-            {lastId_, depth, flagsOf(*action), shownText(action->text()), hotKeyOf(*action)});
+            {idOf(*action), depth, flagsOf(*action), shownText(action->text()), hotKeyOf(*action)});
         if (action->menu()) {
             collect(*action->menu(), depth + 1, rows);
         }
