@@ -1,18 +1,15 @@
 #include "engine/WrappedLines.h"
 
-#include "engine/ScreenText.h"
-#include "engine/Structure.h"
+#include "engine/CutRows.h"
+#include "engine/ScreenRows.h"
 #include "text/Ascii.h"
 #include "text/CaseMapping.h"
 #include "text/Characters.h"
 
 #include <algorithm>
-#include <array>
-#include <cstddef>
 #include <numeric>
 #include <span>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -23,49 +20,12 @@ namespace {
 using View = std::u16string_view;
 using Lines = std::vector<StructuredLine>;
 
-// No terminal is narrower than people can read, nor wider than they can afford.
-constexpr std::size_t leastWidth = 24;
-constexpr std::size_t mostWidth = 400;
 // Up to here a text must fill all its lines to be taken for wrapped: addresses and verses have
 // lines of that length too.
 constexpr std::size_t doubtfulWidth = 36;
-// Blanks that set a block apart from the text around it.
-constexpr std::size_t codeIndent = 4;
 
 bool isOneOf(char16_t unit, View units) {
     return units.find(unit) != View::npos;
-}
-
-View wordsOf(View text, std::size_t begin, std::size_t end) {
-    const View words = text.substr(begin, end - begin);
-    return words.substr(0, inkEnd(words));
-}
-
-// The first word of a row that has one.
-View firstWord(View row) {
-    row.remove_prefix(indentOf(row));
-    return row.substr(0, std::min(row.find(u' '), row.size()));
-}
-
-// Of the scripts that are broken between any two characters.
-bool isIdeographic(char32_t character) {
-    return text::columnsOf(character) == 2 && !text::isHangul(character) &&
-           character < U'\U0001F000';
-}
-
-bool endsSentence(View row) {
-    return isOneOf(row.back(), u".:;!?");
-}
-
-// A gap inside that is not behind the end of a sentence.
-bool hasGap(View words) {
-    for (std::size_t at = words.find(u"  "); at != View::npos; at = words.find(u"  ", at)) {
-        if (at > 0 && !endsSentence(words.substr(0, at))) {
-            return true;
-        }
-        at = std::min(words.find_first_not_of(u' ', at), words.size());
-    }
-    return false;
 }
 
 // "Name: words", as the heads of mails and commits have them below each other.
@@ -79,326 +39,6 @@ bool isField(View row) {
 bool beginAlike(View above, View below) {
     return !above.empty() && text::isAsciiDigit(above[0]) && firstWord(above) == firstWord(below);
 }
-
-// What a pager or an editor writes into its last row.
-bool isStatus(View row) {
-    const std::size_t dot = row.rfind(u'.');
-    const bool file = row.find(u' ') == View::npos && dot != View::npos && dot > 2 &&
-                      row.size() - dot > 1 && row.size() - dot < 6;
-    const bool editor = row.starts_with(u'"') && row.find(u"\" ") != View::npos &&
-                        (row.ends_with(u"B") || row.ends_with(u" bytes"));
-    return row == u":" || editor || row.ends_with(u"(END)") || row.starts_with(u"lines ") ||
-           row.starts_with(u"Manual page ") || row.starts_with(u"--More--") || file;
-}
-
-// Whether a paragraph that shares its looks with code or with a table is prose once it is whole.
-bool isProseWhole(View paragraph) {
-    paragraph.remove_prefix(std::min(paragraph.find_first_not_of(u" \"'([*_`"), paragraph.size()));
-    paragraph.remove_prefix(paragraph.starts_with(u"<http") ? 1 : 0);
-    const Lines lines = scanStructure(paragraph);
-    return lines.size() == 1 && lines[0].kind == LineKind::prose && !hasGap(paragraph);
-}
-
-// Whether what begins a row like the mark of an item or of a quotation may be the end of the word
-// that the row above had no room for.
-bool mayBeCutOff(View above, View below) {
-    const char16_t first = below.front();
-    return text::isWordCharacter(first) || first == u'(' || first == u' ' ||
-           first == above.back() || (first == u'>' && above.find(u'<') != View::npos);
-}
-
-// Behind the last line that is not blank.
-std::size_t inkedEnd(const Lines &lines) {
-    std::size_t end = lines.size();
-    while (end > 0 && lines[end - 1].kind == LineKind::blank) {
-        --end;
-    }
-    return end;
-}
-
-bool isDoubtful(const StructuredLine &line) {
-    return line.kind == LineKind::code || line.kind == LineKind::table;
-}
-
-// "-     code": an item whose words stand so far behind its mark.
-bool isCodeItem(View text, const StructuredLine &line) {
-    return line.item && line.kind == LineKind::code &&
-           text.substr(line.begin, line.words - line.begin).ends_with(u"     ");
-}
-
-// --- rows that the screen cut at its last column
-
-class CutRows {
-  public:
-    CutRows(View text, std::size_t screen)
-        : text_(text)
-        , screen_(screen)
-        , lines_(scanStructure(text))
-        , inkedEnd_(inkedEnd(lines_)) {
-        widths_.reserve(lines_.size());
-        for (const auto &line : lines_) {
-            widths_.push_back(columnsOf(rowAt(line)));
-        }
-    }
-
-    static constexpr int wordBonus = 15; // for a word of the text that an edge has cut
-
-    // Empty if nothing was cut.
-    std::u16string run() {
-        width_ = widthOfMost();
-        std::u16string result;
-        if (width_ < std::max(leastWidth, screen_) || width_ > mostWidth) {
-            return result;
-        }
-        if (!isCut(wordBonus)) {
-            return result; // whatever the words
-        }
-        collectWords();
-        if (!isCut(0)) {
-            return result;
-        }
-        brokenElsewhere_ = isBrokenElsewhere();
-        result.reserve(text_.size());
-        for (std::size_t at = 0; at < lines_.size();) {
-            at = isTail_ ? appendTail(result, at) : appendLine(result, at);
-        }
-        return result;
-    }
-
-  private:
-    // The widest width but for a few rows, of which terminals and we think differently: with tabs,
-    // or characters that were not always wide.
-    std::size_t widthOfMost() const {
-        constexpr std::size_t fewest = 4;
-        std::array<std::size_t, mostWidth + 1> rows{};
-        std::size_t wider = 0;
-        for (const std::size_t width : widths_) {
-            ++rows[std::min(width, mostWidth)];
-        }
-        for (std::size_t width = mostWidth; width > 0; --width) {
-            if (rows[width] >= fewest && rows[width] >= 8 * wider) {
-                return width;
-            }
-            wider += rows[width];
-        }
-        return widths_.empty() ? 0 : std::ranges::max(widths_);
-    }
-
-    View rowAt(const StructuredLine &line) const { return wordsOf(text_, line.begin, line.end); }
-
-    bool isJoinable(std::size_t at) const {
-        const auto &line = lines_[at];
-        const bool looks =
-            indentOf(rowAt(line)) < codeIndent && isDoubtful(line) && !isCodeItem(text_, line);
-        return looks || line.kind == LineKind::prose || line.kind == LineKind::heading ||
-               line.kind == LineKind::data;
-    }
-
-    // A cut row goes on without the marks of a quotation.
-    bool isQuoted(std::size_t at) const { return lines_[at].quoted > lines_[at].begin + 1; }
-
-    // What the row that goes on is taken for says nothing.
-    bool mayGoOn(std::size_t at, bool inside = false) const {
-        if (at + 1 >= lines_.size() || widths_[at] == 0 || widths_[at + 1] == 0 ||
-            !(inside || isJoinable(at)) || lines_[at + 1].kind == LineKind::fence ||
-            isQuoted(at + 1)) {
-            return false;
-        }
-        return at + 2 != inkedEnd_ || !isStatus(rowAt(lines_[at + 1]));
-    }
-
-    bool beginsWide(std::size_t at) const {
-        return text::columnsOf(text::characterAt(text_, lines_[at].begin)) == 2;
-    }
-
-    // A cut fills all rows but the last of each line, whatever the words; a wrap at words leaves
-    // most of them short of the edge by less than the next word. The weights are about ten times
-    // the logarithms of how much likelier a row is with a cut. `bonus` is what words could add to
-    // each full row before they are known.
-    bool isCut(int bonus) const {
-        int full = 0;
-        int gaps = 0;
-        int score = 0;
-        int contrary = 0;
-        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
-            if (!mayGoOn(at) || (isIdeographic(lastOf(at)) && beginsWide(at + 1))) {
-                continue;
-            }
-            const View below = rowAt(lines_[at + 1]);
-            const View words = wordsOf(text_, lines_[at].words, lines_[at].end);
-            const bool wide = text::columnsOf(lastOf(at)) == 2 && beginsWide(at + 1);
-            if (words.find(u' ') == View::npos) {
-                continue; // a word that is longer than the screen is cut in any case
-            }
-            if (widths_[at] == width_ && keepsBlank(at)) {
-                ++contrary; // of a word that had room, not of a screen's last column
-            } else if (widths_[at] == width_ || (wide && widths_[at] + 1 == width_)) {
-                ++full;
-                gaps += hasGap(words) ? 1 : 0;
-                const std::size_t last = words.size() - words.rfind(u' ');
-                score += indentOf(below) > 1    ? -25
-                         : indentOf(below) == 1 ? 35
-                         : wide                 ? 8
-                         : last > 20            ? 3
-                         : endsWithWord(at)     ? 0
-                         : isWordCut(at)        ? 15 + wordBonus
-                                                : 15;
-                score += bonus;
-            } else if (widths_[at] + 1 == width_) {
-                score -= 1;
-            } else if (widths_[at] + 12 > width_ &&
-                       widths_[at] + 1 + columnsOf(firstWord(below)) > width_) {
-                ++contrary;
-            }
-        }
-        const bool usual = width_ == 80 || width_ == 100 || width_ == 120 || width_ == 132 ||
-                           width_ == 160 || width_ == 200;
-        const int least = contrary > 0 ? (usual ? 30 : 40) : usual ? 15 : 30;
-        return score - 25 * contrary >= least && gaps * 3 <= full;
-    }
-
-    bool keepsBlank(std::size_t at) const { return text_[lines_[at].end - 1] == u' '; }
-
-    // A cut in front of a sign would have left a blank in the last column; letters and numbers may
-    // be what was cut off.
-    bool isItem(std::size_t at) const {
-        const auto &line = lines_[at];
-        const View above = rowAt(lines_[at - 1]);
-        const View below = rowAt(line);
-        const bool ends = endsSentence(above) && line.words < line.end && below[0] != u' ';
-        const bool cutOff = mayBeCutOff(above, below) && !ends;
-        return line.item && !cutOff;
-    }
-
-    char32_t lastOf(std::size_t at) const {
-        const View row = rowAt(lines_[at]);
-        return text::characterBefore(row, row.size());
-    }
-
-    bool goesOn(std::size_t at, bool inside) const {
-        if (!mayGoOn(at, inside) || indentOf(rowAt(lines_[at + 1])) > 1) {
-            return false;
-        }
-        if (widths_[at] == width_) {
-            return !isItem(at + 1) && !(brokenElsewhere_ && endsWithWord(at));
-        }
-        // The next character was too wide for the last column, or a blank stood in it.
-        return widths_[at] + 1 == width_ && text_[lines_[at + 1].begin] != u' ' &&
-               (beginsWide(at + 1) || !lines_[at + 1].item);
-    }
-
-    // Whether the text had lines of its own before the screen cut it. Then a full row may end where
-    // such a line did.
-    bool isBrokenElsewhere() const {
-        std::size_t full = 0;
-        std::size_t broken = 0;
-        std::size_t wide = 0; // where the author had about as many columns as the screen
-        for (std::size_t at = 0; at + 1 < lines_.size(); ++at) {
-            if (!mayGoOn(at) || lines_[at].kind != LineKind::prose) {
-                continue;
-            }
-            const bool prose = lines_[at + 1].kind == LineKind::prose && !lines_[at + 1].item;
-            full += widths_[at] == width_;
-            const bool ends = prose && widths_[at] + 1 < width_;
-            broken += ends && widths_[at] * 2 > width_;
-            wide += ends && widths_[at] * 8 > width_ * 7;
-        }
-        return broken * 4 >= full || wide * 16 >= full;
-    }
-
-    // The words that no edge has cut; no more than a long book has, because a larger table would
-    // not stay in the cache.
-    void collectWords() {
-        constexpr std::size_t most = 1 << 16;
-        for (std::size_t at = 0; at < lines_.size() && words_.size() < most; ++at) {
-            const View row = rowAt(lines_[at]);
-            std::size_t begin = at > 0 && widths_[at - 1] == width_ ? row.find(u' ') : 0;
-            const std::size_t last = widths_[at] == width_ ? row.rfind(u' ') : row.size();
-            while (begin < last && last != View::npos) {
-                const std::size_t end = std::min(row.find_first_of(u" .,;:!?)", begin), last);
-                if (end > begin) {
-                    words_.insert(row.substr(begin, end - begin));
-                }
-                begin = end + 1;
-            }
-        }
-    }
-
-    // Whether the row ends with a word of the text and the next one begins with another.
-    bool endsWithWord(std::size_t at) const {
-        if (words_.empty() || text_[lines_[at + 1].begin] == u' ') {
-            return false;
-        }
-        const auto [above, below] = partsAt(at);
-        const bool word = words_.contains(below) || (above.size() > 2 && below.size() > 3);
-        return word && words_.contains(above) && !isWordCut(at);
-    }
-
-    // Whether a word of the text goes on in the next row.
-    bool isWordCut(std::size_t at) const {
-        if (words_.empty()) {
-            return false;
-        }
-        const auto [above, below] = partsAt(at);
-        return words_.contains(View(std::u16string(above).append(below)));
-    }
-
-    // The last word of the row and the first one of the next.
-    std::pair<View, View> partsAt(std::size_t at) const {
-        const View row = rowAt(lines_[at]);
-        const View next = firstWord(rowAt(lines_[at + 1]));
-        return {row.substr(row.find_last_of(u" (") + 1),
-                next.substr(0, std::min(next.find_first_of(u".,;:!?)"), next.size()))};
-    }
-
-    // Whether the row is a full one of what is not joined, and its rest stands below.
-    bool hasTail(std::size_t at) const {
-        return at + 1 < lines_.size() && widths_[at] == width_ && widths_[at + 1] > 0 &&
-               !isJoinable(at) && !isItem(at + 1);
-    }
-
-    // The rest of a line that is not joined stays apart, too.
-    std::size_t appendTail(std::u16string &result, std::size_t at) {
-        const auto &line = lines_[at];
-        result.append(text_, line.begin, line.next() - line.begin);
-        isTail_ = widths_[at] == width_;
-        return at + 1;
-    }
-
-    // Returns the line behind.
-    std::size_t appendLine(std::u16string &result, std::size_t begin) {
-        std::size_t end = begin;
-        bool doubtful = isDoubtful(lines_[begin]);
-        std::u16string joined;
-        for (; goesOn(end, end > begin); ++end) {
-            joined.append(rowAt(lines_[end]));
-            if (widths_[end] < width_ && !beginsWide(end + 1)) {
-                joined.push_back(u' ');
-            }
-            doubtful = doubtful || isDoubtful(lines_[end + 1]);
-        }
-        const auto &last = lines_[end];
-        joined.append(text_, last.begin, last.end - last.begin);
-        if (end > begin && doubtful && !lines_[begin].item && !isProseWhole(joined)) {
-            joined.assign(text_, lines_[begin].begin, last.end - lines_[begin].begin);
-        }
-        result.append(joined).append(text_, last.end, last.breakSize);
-        isTail_ = hasTail(end);
-        return end + 1;
-    }
-
-    const View text_;
-    const std::size_t screen_;
-    const Lines lines_;
-    const std::size_t inkedEnd_; // behind the last line with words
-    std::vector<std::size_t> widths_;
-    std::size_t width_ = 0;
-    std::unordered_set<View> words_;
-    bool brokenElsewhere_ = false;
-    bool isTail_ = false; // the next row is the rest of one that is not joined
-};
-
-// --- lines that were broken between words
 
 struct Pair {
     std::size_t row = 0;     // which may go on in the next one
@@ -960,7 +600,7 @@ class WrappedLines {
 } // namespace
 
 std::u16string joinWrappedLines(std::u16string text, std::size_t screen) {
-    auto whole = CutRows(text, screen).run();
+    auto whole = joinCutRows(text, screen);
     const bool wasCut = !whole.empty();
     return WrappedLines(wasCut ? std::move(whole) : std::move(text), wasCut).run();
 }
