@@ -14,8 +14,8 @@ class Paster {
     // program takes the keyboard.
     virtual void remember() = 0;
     // Presses Ctrl+V once the one remembered has the keyboard again and nobody holds a modifier key
-    // that would make other keys of them, as far as the desktop tells. `done` runs on the main queue, never inside this call;
-    // false: it did not come to that soon, and no key was pressed.
+    // that would make other keys of them, as far as the desktop tells. `done` runs on the main
+    // queue, never inside this call; false: it did not come to that soon, and no key was pressed.
     virtual void paste(std::function<void(bool pasted)> done) = 0;
     // One line for the user's eyes, in English.
     virtual std::string description() const = 0;
