@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace nerlo::engine {

@@ -7,6 +7,7 @@
 #include "text/Characters.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <span>
 #include <string_view>
