@@ -204,12 +204,44 @@ Frame frameAt(const std::vector<Row> &rows, std::size_t begin) {
     return frame;
 }
 
-// Returns the columns inside of the last one, 0 where there was none.
+// The signs that open a fence; empty if the row opens none.
+View fenceOf(View words) {
+    words.remove_prefix(indentOf(words));
+    const char16_t sign = words.empty() ? u'\0' : words[0];
+    const std::size_t size = std::min(words.find_first_not_of(sign), words.size());
+    const bool opens =
+        isOneOf(sign, u"`~") && size > 2 && (sign == u'~' || words.find(sign, size) == View::npos);
+    return words.substr(0, opens ? size : 0);
+}
+
+// Whether the row lies between the signs of a fence, for each.
+std::vector<bool> fencedRows(const std::vector<Row> &rows) {
+    std::vector<bool> fenced(rows.size());
+    View fence;
+    std::size_t begin = 0;
+    for (std::size_t at = 0; at < rows.size(); ++at) {
+        const View words(rows[at].words);
+        if (fence.empty()) {
+            fence = fenceOf(words);
+            begin = at + 1;
+        } else if (const View own = fenceOf(words);
+                   own.starts_with(fence) && inkEnd(words) == indentOf(words) + own.size()) {
+            std::fill(fenced.begin() + static_cast<std::ptrdiff_t>(begin),
+                      fenced.begin() + static_cast<std::ptrdiff_t>(at), true);
+            fence = {};
+        }
+    }
+    return fenced;
+}
+
+// What is drawn in a fence stays. Returns the columns inside of the last frame, 0 where there was
+// none.
 std::size_t openFrames(std::vector<Row> &rows) {
+    const std::vector<bool> fenced = fencedRows(rows);
     std::vector<Row> result;
     std::size_t screen = 0;
     for (std::size_t begin = 0; begin < rows.size();) {
-        const Frame frame = frameAt(rows, begin);
+        const Frame frame = fenced[begin] ? Frame{} : frameAt(rows, begin);
         const std::size_t end = std::max(frame.end, begin + 1);
         const auto part = std::span(rows).subspan(begin, end - begin);
         if (frame.isFrame()) {

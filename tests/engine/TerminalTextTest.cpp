@@ -19,6 +19,11 @@ TEST(TerminalText, TakesTheTerminalsOwnMarksOut) {
           u"\u256D\u2500 Note \u2500\u2500\u256E\n\u2502 two    \u2502\n\u2502   rows \u2502\n"
           u"\u2570\u2500\u2500\u2500\u2500\u2500\u2500\u2500\u2500\u256F\nbehind",
           u"Note\ntwo\n  rows\nbehind"},
+         {"no frame in a fence",
+          u"```\n\u250C\u2500\u2500\u2500\u2510\n\u2502 a \u2502\n"
+          u"\u2514\u2500\u2500\u2500\u2518\n```\n",
+          u"```\n\u250C\u2500\u2500\u2500\u2510\n\u2502 a \u2502\n"
+          u"\u2514\u2500\u2500\u2500\u2518\n```\n"},
          {"the lower half of one",
           u"\u2502 > ask \u2502\n\u2570\u2500\u2500\u2500\u2500\u2500\u2500\u256F\n", u"> ask\n"},
          {"a bar in front of each row", u"\u2502 one\n\u2502\n\u2502 two", u"one\n\ntwo"},
