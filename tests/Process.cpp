@@ -45,16 +45,6 @@ std::string Process::output() const {
     return bytesOf(folder_ / "out");
 }
 
-bool Process::waitForLine(std::string_view line) {
-    const std::string whole = std::string(line) + "\n";
-    const auto printed = [&] {
-        const std::string text = output();
-        return text.starts_with(whole) || text.find("\n" + whole) != std::string::npos;
-    };
-    until([&] { return printed() || wait(std::chrono::milliseconds(0)); });
-    return printed();
-}
-
 std::optional<int> Process::wait(std::chrono::milliseconds limit) {
     until(
         [this] {

@@ -34,8 +34,6 @@ class Process {
 
     // What it has written to its standard output so far.
     std::string output() const;
-    // False if it ends without having written the line, or after twenty seconds.
-    bool waitForLine(std::string_view line);
     // The exit status, 128 + N for signal N; nothing if it still runs after `limit`.
     std::optional<int> wait(std::chrono::milliseconds limit = std::chrono::seconds(20));
     // The most memory that it ever had, once it has ended.

@@ -121,8 +121,9 @@ TEST_F(X11Backend, APeerThatHangsOrFloodsHoldsUpNothingElse) {
         return until([&] { return written > before; });
     };
     {
-        test::Process owner({ownerProgram, "--hang", "UTF8_STRING=text"});
-        ASSERT_TRUE(owner.waitForLine("owned"));
+        const auto before = ours.pasteboard->changeCount();
+        const test::Process owner({ownerProgram, "--hang", "UTF8_STRING=text"});
+        ASSERT_TRUE(until([&] { return ours.pasteboard->changeCount() != before; }));
         const auto count = ours.pasteboard->changeCount();
         std::optional<PasteboardRead> result;
         const auto start = std::chrono::steady_clock::now();
