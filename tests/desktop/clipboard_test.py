@@ -84,6 +84,12 @@ def nerlo(*arguments):
     return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, timeout=60)
 
 
+def copy_first(data):
+    """Copies for what is asked of the program next: xclip takes the clipboard in its own time."""
+    copy(data)
+    wait_until(lambda: paste() == data, "the copy")
+
+
 class ClipboardTest(unittest.TestCase):
     def setUp(self):
         for folder in ("XDG_CONFIG_HOME", "XDG_DATA_HOME"):
@@ -274,7 +280,7 @@ class ClipboardTest(unittest.TestCase):
             return subprocess.Popen([PROGRAM, "--restore"], stderr=subprocess.PIPE, text=True)
 
         for i in range(int(os.environ.get("NERLO_RESTORES", "20"))):
-            copy(b"old  %d" % i)
+            copy_first(b"old  %d" % i)
             self.assertEqual(nerlo("--operation", "remove-all-spaces").returncode, 0)
             self.expect_clean(b"old%d" % i)
             name = list(newer)[i % 3]
@@ -375,7 +381,7 @@ class ClipboardTest(unittest.TestCase):
             (found,) = search("Match", query)
             self.assertEqual(found.signature, "(sssida{sv})", "what the search can read")
             self.assertEqual([str(match[0]) for match in found], names, query)
-        copy(b"one\ttwo")
+        copy_first(b"one\ttwo")
         self.assertRaises(dbus.DBusException, search, "Run", "no-such", "")
         search("Run", "remove-tabs", "")
         self.expect_clean(b"onetwo")
@@ -383,7 +389,7 @@ class ClipboardTest(unittest.TestCase):
     def test_one_program_per_session(self):
         program = self.start()
         self.assertEqual(nerlo().returncode, 0)
-        copy(b"a  b c")
+        copy_first(b"a  b c")
         self.assertEqual(nerlo("--operation", "remove-all-spaces").returncode, 0)
         wait_until(lambda: paste() == b"abc", "the operation is done")
         for mode, answer in (("off", "off"), ("toggle", "on"), ("toggle", "off"), ("on", "on")):
