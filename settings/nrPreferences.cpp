@@ -511,11 +511,7 @@ std::optional<ProfileRecord> nrPreferences::recordNamed(std::u16string_view name
     ProfileRecord record = item->record;
     const PropertyValue *onlyOne = record.find(onlyOneKey);
     if (onlyOne && onlyOne->boolValue()) {
-        PropertyArray rules;
-        for (const RecordItem &rule : sharedRules_) {
-            rules.emplace_back(rule.record);
-        }
-        record.set(sharedListKey, std::move(rules));
+        record.set(sharedListKey, sharedRules());
     }
     return record;
 }

@@ -1,19 +1,21 @@
 #include "platform/qt/GnomeActiveApplication.h"
 
 #include "platform/SpreadsheetLinks.h"
-#include "platform/qt/GnomeShell.h"
+#include "platform/qt/GnomeOrOther.h"
 
-#include <memory>
+#include <string>
 #include <utility>
 
 namespace nerlo::platform {
 
 namespace {
 
-class GnomeActiveApplication final : public ActiveApplication {
+class GnomeActiveApplication final : public GnomeOrOther<ActiveApplication> {
   public:
     explicit GnomeActiveApplication(Created<ActiveApplication> otherwise)
-        : otherwise_(std::move(otherwise)) {
+        : GnomeOrOther(GnomeShell::Part::clipboard, std::move(otherwise),
+                       "which program is in front cannot be told, so rules for a program fit no "
+                       "copy") {
         QObject::connect(&shell_, &GnomeShell::activated, &shell_, [this](const QString &name) {
             const auto application = name.toStdString();
             const auto spreadsheet = spreadsheetOfWindow(application);
@@ -33,21 +35,6 @@ class GnomeActiveApplication final : public ActiveApplication {
         }
     }
 
-    std::string description() const override {
-        return shell_.isThere()     ? "GNOME, by the Shell's extension"
-               : otherwise_.backend ? otherwise_.backend->description()
-                                    : "none";
-    }
-    std::string limitation() const override {
-        if (shell_.isThere()) {
-            return {};
-        }
-        return (otherwise_.backend ? otherwise_.lacks
-                                   : "which program is in front cannot be told, so rules for a "
-                                     "program fit no copy") +
-               "; " + GnomeShell::notEnabled;
-    }
-
   private:
     void tell(std::string application) const {
         if (const Handler activated = activated_) {
@@ -55,18 +42,13 @@ class GnomeActiveApplication final : public ActiveApplication {
         }
     }
 
-    const Created<ActiveApplication> otherwise_;
     Handler activated_;
-    GnomeShell shell_{QDBusConnection::sessionBus()};
 };
 
 } // namespace
 
 Created<ActiveApplication> createGnomeActiveApplication(Created<ActiveApplication> otherwise) {
-    if (auto why = GnomeShell::impossible(QDBusConnection::sessionBus()); !why.empty()) {
-        return {nullptr, std::move(why)};
-    }
-    return {std::make_unique<GnomeActiveApplication>(std::move(otherwise)), {}};
+    return createInGnome<ActiveApplication, GnomeActiveApplication>(std::move(otherwise));
 }
 
 } // namespace nerlo::platform

@@ -1,12 +1,11 @@
 #include "platform/qt/GnomeHotKeys.h"
 
+#include "platform/HeldHotKeys.h"
 #include "platform/VirtualKeys.h"
-#include "platform/qt/GnomeShell.h"
+#include "platform/qt/GnomeOrOther.h"
 
 #include <chrono>
-#include <map>
 #include <utility>
-#include <vector>
 
 namespace nerlo::platform {
 
@@ -51,20 +50,26 @@ HotKeyStatus statusIn(const QDBusMessage &reply, uint grabbed) {
                   : "GNOME's extension \"Nerlo Pro\" does not answer"};
 }
 
-class GnomeHotKeys final : public HotKeyService {
+struct GnomeHotKey : HeldHotKey {
+    QString accelerator;
+    uint question = 0; // that is not answered yet; the answers to others come too late
+    uint grabbed = 0;  // by the extension; 0 for not
+    HotKeyService::Handle other = 0; // with the other service
+};
+
+class GnomeHotKeys final : public HeldHotKeys<GnomeHotKey> {
   public:
     explicit GnomeHotKeys(std::unique_ptr<HotKeyService> otherwise)
         : otherwise_(std::move(otherwise)) {
         QObject::connect(&shell_, &GnomeShell::pressed, &shell_,
-                         [this](uint grabbed) { press(grabbed); });
+                         [this](uint grabbed) { pressGrabbed(grabbed); });
         QObject::connect(&shell_, &GnomeShell::listening, &shell_, [this] { takeMissing(); });
         QObject::connect(&shell_, &GnomeShell::came, &shell_, [this] { move(); });
         QObject::connect(&shell_, &GnomeShell::left, &shell_, [this] { move(); });
         otherwise_->setStatusHandler([this](HotKeyId id, const HotKeyStatus &status) {
             for (const auto &[handle, entry] : entries_) {
                 if (entry.request.id == id && entry.other != 0) {
-                    const Handle changed = handle;
-                    setStatus(changed, status);
+                    setStatus(handle, status);
                     return;
                 }
             }
@@ -78,15 +83,11 @@ class GnomeHotKeys final : public HotKeyService {
     }
 
     bool installHandler(Pressed pressed) override {
-        pressed_ = std::move(pressed);
-        return otherwise_->installHandler([this](HotKeyId id) {
-            if (const Pressed run = pressed_) {
-                run(id);
-            }
-        });
+        HeldHotKeys::installHandler(std::move(pressed));
+        return otherwise_->installHandler([this](HotKeyId id) { press(id); });
     }
     void removeHandler() override {
-        pressed_ = nullptr;
+        HeldHotKeys::removeHandler();
         otherwise_->removeHandler();
     }
 
@@ -95,9 +96,9 @@ class GnomeHotKeys final : public HotKeyService {
         if (accelerator.isEmpty()) {
             return {0, "the keyboard has no such key"};
         }
-        entries_.emplace(++last_, Entry{request, accelerator, {HotKeyState::pending, {}}});
-        take(last_);
-        return {last_, {}};
+        const Handle handle = hold({{request}, accelerator});
+        take(handle);
+        return {handle, {}};
     }
     void unregisterHotKey(Handle handle) override {
         if (const auto entry = entries_.find(handle); entry != entries_.end()) {
@@ -105,12 +106,6 @@ class GnomeHotKeys final : public HotKeyService {
             entries_.erase(entry);
         }
     }
-
-    HotKeyStatus status(Handle handle) const override {
-        const auto entry = entries_.find(handle);
-        return entry == entries_.end() ? HotKeyStatus() : entry->second.status;
-    }
-    void setStatusHandler(StatusChanged changed) override { statusChanged_ = std::move(changed); }
 
     void setSuspended(bool suspended) override {
         if (std::exchange(suspended_, suspended) == suspended) {
@@ -136,22 +131,13 @@ class GnomeHotKeys final : public HotKeyService {
 
     bool available() const override { return shell_.isThere() || otherwise_->available(); }
     std::string description() const override {
-        return shell_.isThere() ? "GNOME, by the Shell's extension"
+        return shell_.isThere() ? GnomeShell::description
                                 : otherwise_->description() + "; " + GnomeShell::notEnabled;
     }
 
   private:
-    struct Entry {
-        HotKeyRequest request;
-        QString accelerator;
-        HotKeyStatus status;
-        uint question = 0; // that is not answered yet; the answers to others come too late
-        uint grabbed = 0;  // by the extension; 0 for not
-        Handle other = 0;  // with the other service
-    };
-
     void take(Handle handle) {
-        Entry &entry = entries_.at(handle);
+        GnomeHotKey &entry = entries_.at(handle);
         if (!shell_.isThere()) {
             Registration registration = otherwise_->registerHotKey(entry.request);
             entry.other = registration.handle;
@@ -186,7 +172,7 @@ class GnomeHotKeys final : public HotKeyService {
         }
     }
 
-    void release(Entry &entry) {
+    void release(GnomeHotKey &entry) {
         entry.question = 0;
         if (const uint grabbed = std::exchange(entry.grabbed, 0); grabbed != 0) {
             shell_.call(QStringLiteral("Release"), {grabbed}, answerLimit);
@@ -198,62 +184,36 @@ class GnomeHotKeys final : public HotKeyService {
 
     // The extension has come, and gives them all; or it has gone, with what it had given.
     void move() {
-        std::vector<Handle> handles;
         for (auto &[handle, entry] : entries_) {
             entry.grabbed = 0;
             release(entry);
-            handles.push_back(handle);
         }
-        for (const Handle handle : handles) {
+        for (const Handle handle : handles()) {
             if (entries_.contains(handle) && !(suspended_ && shell_.isThere())) {
                 take(handle);
-                tell(handle);
+                tell(entries_.at(handle).request.id, status(handle));
             }
         }
     }
 
-    void setStatus(Handle handle, const HotKeyStatus &status) {
-        if (std::exchange(entries_.at(handle).status, status) != status) {
-            tell(handle);
-        }
-    }
-
-    void tell(Handle handle) {
-        if (const StatusChanged changed = statusChanged_) {
-            const Entry entry = entries_.at(handle);
-            changed(entry.request.id, entry.status);
-        }
-    }
-
-    void press(uint grabbed) {
+    void pressGrabbed(uint grabbed) {
         for (const auto &[handle, entry] : entries_) {
-            if (entry.grabbed == grabbed && grabbed != 0 && !suspended_) {
-                const HotKeyId id = entry.request.id;
-                if (const Pressed pressed = pressed_) {
-                    pressed(id);
-                }
+            if (entry.grabbed == grabbed && grabbed != 0) {
+                press(entry.request.id);
                 return;
             }
         }
     }
 
     std::unique_ptr<HotKeyService> otherwise_;
-    Pressed pressed_;
-    StatusChanged statusChanged_;
-    std::map<Handle, Entry> entries_;
-    Handle last_ = 0;
     uint questions_ = 0;
-    bool suspended_ = false;
     GnomeShell shell_{QDBusConnection::sessionBus(), GnomeShell::Part::keys};
 };
 
 } // namespace
 
 Created<HotKeyService> createGnomeHotKeys(std::unique_ptr<HotKeyService> &otherwise) {
-    if (auto why = GnomeShell::impossible(QDBusConnection::sessionBus()); !why.empty()) {
-        return {nullptr, std::move(why)};
-    }
-    return {std::make_unique<GnomeHotKeys>(std::move(otherwise)), {}};
+    return createInGnome<HotKeyService, GnomeHotKeys>(std::move(otherwise));
 }
 
 } // namespace nerlo::platform

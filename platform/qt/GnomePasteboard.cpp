@@ -178,7 +178,7 @@ class GnomePasteboard final : public Pasteboard {
         }
     }
 
-    std::string description() const override { return "GNOME, by the Shell's extension"; }
+    std::string description() const override { return GnomeShell::description; }
     std::vector<std::string> limitations() const override {
         return {shell_.isThere()
                     ? "When the screen is locked, what was restored keeps its text alone."

@@ -1,10 +1,9 @@
 #include "platform/qt/GnomePaster.h"
 
 #include "platform/VirtualKeys.h"
-#include "platform/qt/GnomeShell.h"
+#include "platform/qt/GnomeOrOther.h"
 
 #include <chrono>
-#include <memory>
 #include <utility>
 
 namespace nerlo::platform {
@@ -17,12 +16,13 @@ constexpr std::uint64_t virtualV = 9;
 // The extension waits for the window that was in front, but not as long as this.
 constexpr auto answerLimit = 4s;
 
-class GnomePaster final : public Paster {
+class GnomePaster final : public GnomeOrOther<Paster> {
   public:
     GnomePaster(MainQueue &mainQueue, const KeyboardLayout &layout, Created<Paster> otherwise)
-        : mainQueue_(mainQueue)
-        , layout_(layout)
-        , otherwise_(std::move(otherwise)) {}
+        : GnomeOrOther(GnomeShell::Part::keys, std::move(otherwise),
+                       "what the chooser makes is pasted by hand")
+        , mainQueue_(mainQueue)
+        , layout_(layout) {}
 
     void remember() override {
         if (shell_.isThere()) {
@@ -49,35 +49,16 @@ class GnomePaster final : public Paster {
         }
     }
 
-    std::string description() const override {
-        return shell_.isThere()     ? "GNOME, by the Shell's extension"
-               : otherwise_.backend ? otherwise_.backend->description()
-                                    : "none";
-    }
-    std::string limitation() const override {
-        if (shell_.isThere()) {
-            return {};
-        }
-        return (otherwise_.backend ? otherwise_.lacks
-                                   : "what the chooser makes is pasted by hand") +
-               "; " + GnomeShell::notEnabled;
-    }
-
   private:
     MainQueue &mainQueue_;
     const KeyboardLayout &layout_;
-    const Created<Paster> otherwise_;
-    GnomeShell shell_{QDBusConnection::sessionBus(), GnomeShell::Part::keys};
 };
 
 } // namespace
 
 Created<Paster> createGnomePaster(MainQueue &mainQueue, const KeyboardLayout &layout,
                                   Created<Paster> otherwise) {
-    if (auto why = GnomeShell::impossible(QDBusConnection::sessionBus()); !why.empty()) {
-        return {nullptr, std::move(why)};
-    }
-    return {std::make_unique<GnomePaster>(mainQueue, layout, std::move(otherwise)), {}};
+    return createInGnome<Paster, GnomePaster>(mainQueue, layout, std::move(otherwise));
 }
 
 } // namespace nerlo::platform

@@ -25,6 +25,7 @@ class GnomeShell : public QObject {
 
     // Why this desktop can never have the extension, in English; nothing if it can.
     static std::string impossible(const QDBusConnection &bus);
+    static constexpr const char *description = "GNOME, by the Shell's extension";
     // Why it is not there, for the user's eyes.
     static constexpr const char *notEnabled = "GNOME's extension \"Nerlo Pro\" is not enabled: "
                                               "gnome-extensions enable nerlo-pro@nerlo.org";

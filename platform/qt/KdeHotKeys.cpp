@@ -1,6 +1,7 @@
 #include "platform/qt/KdeHotKeys.h"
 
 #include "platform/Alive.h"
+#include "platform/HeldHotKeys.h"
 #include "platform/qt/KdeShortcuts.h"
 #include "platform/qt/QtKeys.h"
 
@@ -15,7 +16,13 @@ namespace nerlo::platform {
 
 namespace {
 
-class KdeHotKeys final : public HotKeyService {
+struct KdeHotKey : HeldHotKey {
+    int key = 0;
+
+    QString action() const { return QString::fromStdString(name()); }
+};
+
+class KdeHotKeys final : public HeldHotKeys<KdeHotKey> {
   public:
     KdeHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout, QDBusConnection bus,
                const std::string &applicationId, const std::string &applicationName)
@@ -24,7 +31,7 @@ class KdeHotKeys final : public HotKeyService {
         , shortcuts_(std::move(bus), QString::fromStdString(applicationId),
                      QString::fromStdString(applicationName)) {
         QObject::connect(&shortcuts_, &KdeShortcuts::pressed, &shortcuts_,
-                         [this](const QString &action) { press(action); });
+                         [this](const QString &action) { pressAction(action); });
         QObject::connect(&shortcuts_, &KdeShortcuts::changed, &shortcuts_,
                          [this](const QString &action, int key) {
                              if (const auto entry = find(action); entry != entries_.end()) {
@@ -37,24 +44,18 @@ class KdeHotKeys final : public HotKeyService {
     }
     ~KdeHotKeys() override {
         for (const auto &[handle, entry] : entries_) {
-            shortcuts_.release(actionOf(entry.request));
+            shortcuts_.release(entry.action());
         }
     }
-
-    bool installHandler(Pressed pressed) override {
-        pressed_ = std::move(pressed);
-        return true;
-    }
-    void removeHandler() override { pressed_ = nullptr; }
 
     Registration registerHotKey(const HotKeyRequest &request) override {
         const int key = qtKeyOf(request.keyCode, request.modifiers, layout_);
         if (key == 0) {
             return {0, "the desktop has no name for this key"};
         }
-        entries_.emplace(++last_, Entry{request, key, {HotKeyState::pending, {}}});
-        bind(last_);
-        return {last_, {}};
+        const Handle handle = hold({{request}, key});
+        bind(handle);
+        return {handle, {}};
     }
 
     void unregisterHotKey(Handle handle) override {
@@ -62,7 +63,7 @@ class KdeHotKeys final : public HotKeyService {
         if (entry == entries_.end()) {
             return;
         }
-        const QString action = actionOf(entry->second.request);
+        const QString action = entry->second.action();
         entries_.erase(entry);
         shortcuts_.release(action);
         // At the end of the program, or when another shortcut follows, the service keeps what the
@@ -74,19 +75,13 @@ class KdeHotKeys final : public HotKeyService {
         }));
     }
 
-    HotKeyStatus status(Handle handle) const override {
-        const auto entry = entries_.find(handle);
-        return entry == entries_.end() ? HotKeyStatus() : entry->second.status;
-    }
-    void setStatusHandler(StatusChanged changed) override { statusChanged_ = std::move(changed); }
-
     void setSuspended(bool suspended) override {
         if (std::exchange(suspended_, suspended) == suspended) {
             return;
         }
         for (const auto &[handle, entry] : entries_) {
             if (suspended) {
-                shortcuts_.release(actionOf(entry.request));
+                shortcuts_.release(entry.action());
             } else {
                 bind(handle);
             }
@@ -96,27 +91,14 @@ class KdeHotKeys final : public HotKeyService {
     std::string description() const override { return "KDE's global shortcuts"; }
 
   private:
-    struct Entry {
-        HotKeyRequest request;
-        int key;
-        HotKeyStatus status;
-    };
-    using Entries = std::map<Handle, Entry>;
-
-    static QString actionOf(const HotKeyRequest &request) {
-        return request.name.empty() ? QStringLiteral("hot-key-%1").arg(request.id.id)
-                                    : QString::fromStdString(request.name);
-    }
-
-    Entries::iterator find(const QString &action) {
+    std::map<Handle, KdeHotKey>::iterator find(const QString &action) {
         return std::ranges::find_if(
-            entries_, [&](const auto &entry) { return actionOf(entry.second.request) == action; });
+            entries_, [&](const auto &entry) { return entry.second.action() == action; });
     }
 
     void bind(Handle handle) {
-        const Entry &entry = entries_.at(handle);
-        shortcuts_.bind(actionOf(entry.request), QString::fromStdString(entry.request.title),
-                        entry.key,
+        const KdeHotKey &entry = entries_.at(handle);
+        shortcuts_.bind(entry.action(), QString::fromStdString(entry.request.title), entry.key,
                         [this, handle](int key, const QString &why, const QString &owner) {
                             if (entries_.contains(handle) && !suspended_) {
                                 take(handle, key, why, owner);
@@ -125,31 +107,19 @@ class KdeHotKeys final : public HotKeyService {
     }
 
     void take(Handle handle, int key, const QString &why, const QString &owner = {}) {
-        Entry &entry = entries_.at(handle);
         HotKeyStatus status{HotKeyState::refused, why.toStdString(), owner.toStdString()};
         if (key != 0) {
-            const bool ours = key == entry.key;
+            const bool ours = key == entries_.at(handle).key;
             status = {HotKeyState::active,
                       ours ? ""
                            : QKeySequence(key).toString(QKeySequence::NativeText).toStdString(),
                       {}};
         }
-        if (status == entry.status) {
-            return;
-        }
-        entry.status = status;
-        if (statusChanged_) {
-            const StatusChanged changed = statusChanged_;
-            changed(entry.request.id, status);
-        }
+        setStatus(handle, status);
     }
 
     void restart(bool there) {
-        std::vector<Handle> handles;
-        for (const auto &[handle, entry] : entries_) {
-            handles.push_back(handle);
-        }
-        for (const Handle handle : handles) {
+        for (const Handle handle : handles()) {
             if (!entries_.contains(handle)) {
                 continue; // a status handler has ended it
             }
@@ -161,22 +131,15 @@ class KdeHotKeys final : public HotKeyService {
         }
     }
 
-    void press(const QString &action) {
-        const auto entry = find(action);
-        if (entry != entries_.end() && pressed_ && !suspended_) {
-            const Pressed pressed = pressed_;
-            pressed(entry->second.request.id);
+    void pressAction(const QString &action) {
+        if (const auto entry = find(action); entry != entries_.end()) {
+            press(entry->second.request.id);
         }
     }
 
     MainQueue &mainQueue_;
     const KeyboardLayout &layout_;
     KdeShortcuts shortcuts_;
-    Pressed pressed_;
-    StatusChanged statusChanged_;
-    Entries entries_;
-    Handle last_ = 0;
-    bool suspended_ = false;
     Alive alive_;
 };
 

@@ -1,11 +1,11 @@
 #include "platform/qt/PortalHotKeys.h"
 
 #include "platform/Alive.h"
+#include "platform/HeldHotKeys.h"
 #include "platform/qt/PortalSession.h"
 #include "platform/xkb/XkbKeyboardLayout.h"
 
 #include <algorithm>
-#include <map>
 #include <memory>
 #include <utility>
 
@@ -13,7 +13,7 @@ namespace nerlo::platform {
 
 namespace {
 
-class PortalHotKeys final : public HotKeyService {
+class PortalHotKeys final : public HeldHotKeys<HeldHotKey> {
   public:
     PortalHotKeys(MainQueue &mainQueue, const KeyboardLayout &layout, QDBusConnection bus,
                   const std::string &applicationId)
@@ -28,28 +28,15 @@ class PortalHotKeys final : public HotKeyService {
                          [this](const QString &why) { refuse(why.toStdString()); });
     }
 
-    bool installHandler(Pressed pressed) override {
-        pressed_ = std::move(pressed);
-        return true;
-    }
-    void removeHandler() override { pressed_ = nullptr; }
-
     Registration registerHotKey(const HotKeyRequest &request) override {
-        entries_.emplace(++last_, Entry{request, {HotKeyState::pending, {}}});
         bindSoon();
-        return {last_, {}};
+        return {hold({request}), {}};
     }
     void unregisterHotKey(Handle handle) override {
         if (entries_.erase(handle) != 0) {
             bindSoon();
         }
     }
-
-    HotKeyStatus status(Handle handle) const override {
-        const auto entry = entries_.find(handle);
-        return entry == entries_.end() ? HotKeyStatus() : entry->second.status;
-    }
-    void setStatusHandler(StatusChanged changed) override { statusChanged_ = std::move(changed); }
 
     // The desktop keeps the keys while we are suspended; pressing them runs nothing.
     void setSuspended(bool suspended) override { suspended_ = suspended; }
@@ -60,15 +47,7 @@ class PortalHotKeys final : public HotKeyService {
     }
 
   private:
-    struct Entry {
-        HotKeyRequest request;
-        HotKeyStatus status;
-    };
-
-    static QString idOf(const HotKeyRequest &request) {
-        return request.name.empty() ? QStringLiteral("hot-key-%1").arg(request.id.id)
-                                    : QString::fromStdString(request.name);
-    }
+    static QString idOf(const HeldHotKey &entry) { return QString::fromStdString(entry.name()); }
 
     // Many shortcuts may come and go within one task, above all at the start; binding after that
     // task asks the user once for all of them.
@@ -91,7 +70,7 @@ class PortalHotKeys final : public HotKeyService {
                 properties.insert(QStringLiteral("preferred_trigger"),
                                   QString::fromStdString(trigger));
             }
-            shortcuts.append({idOf(entry.request), properties});
+            shortcuts.append({idOf(entry), properties});
             if (entry.status.state != HotKeyState::active) {
                 entry.status = {HotKeyState::pending, {}};
             }
@@ -101,11 +80,8 @@ class PortalHotKeys final : public HotKeyService {
 
     void activate(const QString &id) {
         for (const auto &[handle, entry] : entries_) {
-            if (entry.status.state == HotKeyState::active && idOf(entry.request) == id) {
-                if (pressed_ && !suspended_) {
-                    const Pressed pressed = pressed_;
-                    pressed(entry.request.id);
-                }
+            if (entry.status.state == HotKeyState::active && idOf(entry) == id) {
+                press(entry.request.id);
                 return;
             }
         }
@@ -113,8 +89,8 @@ class PortalHotKeys final : public HotKeyService {
 
     void take(const QMap<QString, QString> &triggers) {
         missing_.clear();
-        setStatuses([&](const Entry &entry) -> HotKeyStatus {
-            const auto trigger = triggers.find(idOf(entry.request));
+        setStatuses([&](const HeldHotKey &entry) -> HotKeyStatus {
+            const auto trigger = triggers.find(idOf(entry));
             if (trigger == triggers.end()) {
                 return {HotKeyState::refused, "the desktop did not bind this shortcut"};
             }
@@ -124,7 +100,7 @@ class PortalHotKeys final : public HotKeyService {
 
     void refuse(const std::string &why) {
         missing_ = session_.available() ? std::string() : why;
-        setStatuses([&](const Entry &entry) {
+        setStatuses([&](const HeldHotKey &entry) {
             const bool stays = session_.isBound() && entry.status.state == HotKeyState::active;
             return stays ? entry.status : HotKeyStatus{HotKeyState::refused, why};
         });
@@ -140,21 +116,13 @@ class PortalHotKeys final : public HotKeyService {
             }
         }
         for (const auto &[id, status] : changes) {
-            if (statusChanged_) {
-                const StatusChanged changed = statusChanged_;
-                changed(id, status);
-            }
+            tell(id, status);
         }
     }
 
     MainQueue &mainQueue_;
     const KeyboardLayout &layout_;
     PortalSession session_;
-    Pressed pressed_;
-    StatusChanged statusChanged_;
-    std::map<Handle, Entry> entries_;
-    Handle last_ = 0;
-    bool suspended_ = false;
     std::string missing_; // why there is no portal, as far as is known
     bool bindPosted_ = false;
     Alive alive_;
