@@ -25,7 +25,7 @@ int keyNamed(std::u16string_view name) {
         return 0;
     }
     const int key = named[0].key();
-    return onKeypad ? key | Qt::KeypadModifier : key;
+    return onKeypad ? key | static_cast<int>(Qt::KeypadModifier) : key;
 }
 
 int keyByLayout(std::uint64_t keyCode, const KeyboardLayout &layout) {
