@@ -1,6 +1,7 @@
 #include "engine/StructureGuard.h"
 
 #include "engine/CharacterCleaning.h"
+#include "engine/CutSigns.h"
 #include "engine/InlineStructure.h"
 #include "engine/LineJoining.h"
 #include "engine/MarkdownMarks.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -89,11 +91,11 @@ const Operation *guarded(const Operation *step) {
                                                      : step;
 }
 
-std::vector<const Operation *> onProse(Steps steps) {
+std::vector<const Operation *> onProse(Steps steps, bool joinsLines) {
     std::vector<const Operation *> some;
     for (const Operation *const step : steps) {
-        if (step->reach == Reach::prose || step->reach == Reach::lineJoints ||
-            step->reach == Reach::lineEnds) {
+        if (step->reach == Reach::prose || step->reach == Reach::lineEnds ||
+            (joinsLines && step->reach == Reach::lineJoints)) {
             some.push_back(guarded(step));
         }
     }
@@ -256,10 +258,10 @@ class Guard {
         : text_(text)
         , context_(context)
         , pieceSize_(pieceSize)
-        , result_(text)
-        , stream_(onProse(steps), context, structureSigns, putsSignsIn(context.options),
-                  [this](View done) { appendCleaned(done); }) {
+        , steps_(steps)
+        , result_(text) {
         for (const Operation *const step : steps) {
+            joinsLines_ = joinsLines_ || step->reach == Reach::lineJoints;
             marksGo_ = marksGo_ || step->reach == Reach::quoteMarks;
             bulletsGo_ = bulletsGo_ || step->reach == Reach::bullets;
             lineEndsGo_ = lineEndsGo_ || step->reach == Reach::lineEnds;
@@ -276,6 +278,8 @@ class Guard {
             fixed_ = inkedLines(text_);
             return;
         }
+        stream_.emplace(onProse(steps_, joinsLines_), context_, structureSigns,
+                        putsSignsIn(context_.options), [this](View done) { appendCleaned(done); });
         bool inList = false;
         for (std::size_t at = 0; at < lines_.size();) {
             const auto &line = lines_[at];
@@ -300,19 +304,27 @@ class Guard {
 
     View cut(std::size_t begin, std::size_t end) const { return text_.substr(begin, end - begin); }
 
-    // False where nothing is prose.
+    // False where nothing is prose. Lines that a screen cut are not joined: no blank belongs there.
     bool findLines() {
         GuardedLines lines(text_);
+        CutSigns signs(text_);
+        const auto take = [&](const StructuredLine &line) {
+            if (joinsLines_) {
+                signs.add(line);
+            }
+            lines.add(line);
+        };
         places_.reserve(text_.size() / text::scanBlock + 1);
         const bool program = scanStructure(
             text_,
             [&](std::span<const StructuredLine> some) {
                 for (const StructuredLine &line : some) {
-                    lines.add(tagsGo_ && line.kind == LineKind::markup ? asText(line) : line);
+                    take(tagsGo_ && line.kind == LineKind::markup ? asText(line) : line);
                 }
             },
             &places_);
         lines_ = std::move(lines).lines();
+        joinsLines_ = joinsLines_ && !signs.areCut();
         return !program;
     }
 
@@ -542,7 +554,7 @@ class Guard {
             breakPlaces_.clear();
         }
         result_.free(end);
-        stream_.put(block_, ends != Ends::no);
+        stream_->put(block_, ends != Ends::no);
     }
 
     // Takes code and addresses out of the block, and the signs where it has them. The places of the
@@ -607,8 +619,10 @@ class Guard {
     std::size_t emptyLineEnd_ = 0; // that was found last; see cleanPieces()
     Lines lines_;
     InlinePlaces places_;
+    const Steps steps_;
     TextInPlace result_;
-    StepStream stream_;
+    std::optional<StepStream> stream_;
+    bool joinsLines_ = false;
     bool marksGo_ = false;
     bool bulletsGo_ = false;
     bool lineEndsGo_ = false;

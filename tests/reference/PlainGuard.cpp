@@ -1,4 +1,5 @@
 #include "engine/CharacterCleaning.h"
+#include "engine/CutSigns.h"
 #include "engine/MarkdownMarks.h"
 #include "engine/Markup.h"
 #include "engine/Structure.h"
@@ -50,11 +51,13 @@ class PlainGuard {
         : text_(text)
         , steps_(steps.begin(), steps.end())
         , context_(context)
-        , lines_(engine::scanStructure(text)) {
+        , lines_(engine::scanStructure(text))
+        , signs_(text_) {
         for (auto &line : lines_) {
             if (has(engine::tagsOperation) && line.kind == LineKind::markup) {
                 line.kind = line.words < line.end ? LineKind::prose : LineKind::blank;
             }
+            signs_.add(line);
         }
     }
 
@@ -272,8 +275,8 @@ class PlainGuard {
         for (const engine::Operation *const step : steps_) {
             String next = text;
             if (step->reach == Reach::lineJoints) {
-                next = joinWrappedLines(text,
-                                        context_.options.udChangeWrongInsertedReturnsOption == 1);
+                const bool spaced = context_.options.udChangeWrongInsertedReturnsOption == 1;
+                next = signs_.areCut() ? text : joinWrappedLines(text, spaced);
             } else if (step->reach == Reach::lineEnds) {
                 next = withoutLineEnds(text);
             } else if (step->index == engine::cleanCharactersOperation) {
@@ -299,6 +302,7 @@ class PlainGuard {
     const std::vector<const engine::Operation *> steps_;
     const engine::CleaningContext &context_;
     std::vector<engine::StructuredLine> lines_;
+    engine::CutSigns signs_;
     String result_;
     std::size_t fixedBegin_ = String::npos;
     std::size_t fixedEnd_ = 0;
