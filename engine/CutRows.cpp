@@ -79,7 +79,7 @@ class CutRows {
         const bool looks =
             indentOf(rowAt(line)) < codeIndent && isDoubtful(line) && !isCodeItem(text_, line);
         return looks || line.kind == LineKind::prose || line.kind == LineKind::heading ||
-               line.kind == LineKind::data;
+               line.kind == LineKind::data || line.kind == LineKind::numbered;
     }
 
     // A cut row goes on without the marks of a quotation.

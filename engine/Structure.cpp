@@ -407,6 +407,11 @@ bool isStackFrame(View words) {
     return digits > 0 && words.substr(1 + digits).starts_with(u"  ");
 }
 
+// "-- Name <mail>  day": below an entry of a changelog.
+bool isSigned(View words) {
+    return begins(words, u"-- ") && words.find(u">  ") != View::npos;
+}
+
 // "key: value", the key a single word.
 bool isKeyed(View words) {
     const std::size_t colon = words.find_first_of(u": ");
@@ -532,7 +537,9 @@ class MarkedStructure {
     void forget(std::size_t count) { at_ -= count; }
 
   private:
-    bool isInsideBlock() const { return fenceSize_ > 0 || signature_ || markupEnd_ || patch_; }
+    bool isInsideBlock() const {
+        return fenceSize_ > 0 || signature_ || markupEnd_ || patch_ || numbered_;
+    }
 
     LineKind ordinary() {
         if (content_ > 0 && (blankAbove_ || above_ != LineKind::prose)) {
@@ -558,6 +565,8 @@ class MarkedStructure {
         }
         if (words == line_.size()) {
             patch_ = patch_ && !line_.empty();
+            numbered_ = false;
+            numberEnd_ = 0;
             blankAbove_ = true;
             quotedAbove_ = false;
             return LineKind::blank;
@@ -572,13 +581,20 @@ class MarkedStructure {
         if (patch_) {
             return LineKind::diff;
         }
-        return withoutQuote(words, blankAbove);
+        numbered_ = isNumbered(words) || numbered_;
+        if (numbered_) {
+            return LineKind::numbered;
+        }
+        const LineKind kind = withoutQuote(words, blankAbove);
+        numberEnd_ = line.item ? 0 : numberEnd_;
+        return kind;
     }
 
     LineKind withoutQuote(std::size_t words, bool blankAbove) {
         auto &line = lines_[at_];
         std::size_t column = columnOf(line_, words);
-        bool apart = blankAbove || above_ == LineKind::code || above_ == LineKind::heading;
+        bool apart = blankAbove || above_ == LineKind::code || above_ == LineKind::heading ||
+                     above_ == LineKind::rule || above_ == LineKind::fence;
         if (column >= content_ + 4 && apart) {
             return LineKind::code;
         }
@@ -606,6 +622,25 @@ class MarkedStructure {
         const std::size_t marksEnd = columnOf(line_, behind - (line_[behind - 1] == u'\t' ? 1 : 0));
         column = columnOf(line_, words) - marksEnd - (line_[behind - 1] == u'\t' ? 1 : 0);
         return inside(line_.substr(words), column, apart);
+    }
+
+    // Whether the line counts on from the last one that began with blanks and a number. Those
+    // between them are what had no room on the screen.
+    bool isNumbered(std::size_t words) {
+        constexpr std::size_t most = 9; // digits
+        const std::size_t end = words + (words > 0 ? digitsAt(line_, words) : 0);
+        if (end == words || end - words > most || (end < line_.size() && !isBlank(line_[end]))) {
+            numberEnd_ = words > 1 ? 0 : numberEnd_;
+            return false;
+        }
+        std::uint32_t number = 0;
+        for (const char16_t digit : line_.substr(words, end - words)) {
+            number = number * 10 + (digit - u'0');
+        }
+        const bool follows = numberEnd_ == end && number == number_ + 1;
+        numberEnd_ = end;
+        number_ = number;
+        return follows;
     }
 
     LineKind inside(View words, std::size_t column, bool apart) {
@@ -648,7 +683,7 @@ class MarkedStructure {
         if (isPrompt(words) && (words[0] != u'.' || above_ == LineKind::prompt)) {
             return LineKind::prompt;
         }
-        if (isFileMode(words) || isStamped(words)) {
+        if (isFileMode(words) || isStamped(words) || isSigned(words)) {
             return LineKind::table;
         }
         if (isStackFrame(words)) {
@@ -722,12 +757,15 @@ class MarkedStructure {
     LineKind above_ = LineKind::blank;
     bool blankAbove_ = false;
     bool quotedAbove_ = false;
+    std::size_t numberEnd_ = 0; // of the last one that a line began with, behind blanks
+    std::uint32_t number_ = 0;
     std::size_t content_ = 0; // the column at which the words of the present list item begin
     std::size_t fenceSize_ = 0;
     char16_t fenceSign_ = 0;
     const char16_t *markupEnd_ = nullptr;
     bool signature_ = false;
     bool patch_ = false;
+    bool numbered_ = false;
 };
 
 // "|---|:-:|": below the head of a table of Markdown.
@@ -945,7 +983,22 @@ class Paragraphs {
         }
     }
 
+    // A line above a list with signs, as far in as these.
+    bool leadsIntoList(std::size_t begin) const {
+        const auto &line = lines_[begin];
+        const auto &below = lines_[begin + 1];
+        const View words = lineAt(begin + 1);
+        const std::size_t indent = firstInk(words);
+        const bool signs = below.item && !isAsciiDigit(words[indent]) &&
+                           !isAsciiLetter(words[indent]) && words[indent] != u'(';
+        return signs && indent > 0 && indent == firstInk(lineAt(begin)) && !line.item &&
+               line.quoted == line.begin;
+    }
+
     void paragraph(std::size_t begin, std::size_t end) {
+        if (run_.marked && end - begin > 1 && leadsIntoList(begin)) {
+            lines_[begin].kind = LineKind::heading;
+        }
         if (run_.tabular) {
             tables(begin, end);
             hangingCells(begin, end);

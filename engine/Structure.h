@@ -29,6 +29,7 @@ enum class LineKind : std::uint8_t {
     markup,    // blocks of HTML
     data,      // front matter, definitions of links
     signature, // below the "-- " of a mail
+    numbered,  // rows of an editor that shows the numbers of its lines
 };
 
 struct StructuredLine {
