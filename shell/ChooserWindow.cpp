@@ -75,7 +75,8 @@ ChooserWindow::ChooserWindow(Program &program)
     , before_(makeShownPane("chooserBefore", "sPreviewBefore", "sChooserBeforeTip"))
     , after_(makeShownPane("chooserAfter", "sPreviewAfter", "sChooserAfterTip"))
     , note_(new QLabel)
-    , pointerSearch_(program.parts().desktop.popupLayer.backend.get(), mainQueue_) {
+    , pointerSearch_(program.parts().desktop.popupLayer.backend.get(),
+                     program.parts().desktop.pointerPlace.backend.get(), mainQueue_) {
     setObjectName("chooser");
     setWindowTitle(localized("sChooseForClipboard"));
     setAccessibleName(windowTitle());

@@ -13,6 +13,11 @@ std::string runtimeFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toStdString();
 }
 
+bool tellsPointer(const Desktop &desktop) {
+    const auto &place = desktop.pointerPlace.backend;
+    return place && place->isKnown();
+}
+
 Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &workerQueue) {
     Desktop desktop;
     desktop.backends = std::make_unique<platform::Backends>(mainQueue);
@@ -22,6 +27,7 @@ Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &worke
     const auto &layout = *desktop.keyboardLayout.backend;
     desktop.hotKeys = desktop.backends->openHotKeys(layout, applicationId);
     desktop.popupLayer = desktop.backends->openPopupLayer();
+    desktop.pointerPlace = desktop.backends->openPointerPlace();
     desktop.paster = desktop.backends->openPaster(layout);
     desktop.systemHotKeys = platform::createDesktopHotKeys(
         layout, workerQueue, mainQueue, platform::DesktopSources::system(applicationId));

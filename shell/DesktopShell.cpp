@@ -77,7 +77,8 @@ DesktopShell::DesktopShell(Program &program)
     , shortcutList_(program)
     , menu_(std::make_unique<StatusMenu>(program))
     , tray_(std::make_unique<TrayIcon>(menu_->menu()))
-    , pointer_(program.parts().desktop.popupLayer.backend.get(), program.parts().mainQueue)
+    , pointer_(program.parts().desktop.popupLayer.backend.get(),
+               program.parts().desktop.pointerPlace.backend.get(), program.parts().mainQueue)
     , taskbar_(program.parts().desktop.backends->openTaskbarHint()) {
     QObject::connect(tray_.get(), &TrayIcon::appeared, tray_.get(), [this] {
         menu_->setShownOverBus(tray_->overBus());

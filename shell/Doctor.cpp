@@ -75,6 +75,8 @@ void windows(Report &report, const Desktop &desktop, const std::optional<Running
     report.gap(popup.backend || !wayland ? ""
                : running && !platform::pointerPositionKnown()
                    ? "the compositor says where it stands, and gives it the keyboard"
+               : tellsPointer(desktop)
+                   ? ""
                    : "where the pointer is, is known only over windows of programs on X11");
     if (running) {
         report.line("Chooser", running->chooserLeavesFocus ? "a window that leaves the focus"

@@ -2,7 +2,6 @@
 
 #include <QCursor>
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace nerlo::shell {
@@ -15,10 +14,23 @@ int kept(int at, int first, int size) {
 
 } // namespace
 
-// Popups are told where the pointer is: one is asked for, but never drawn.
 void PointerSearch::start(std::function<void(QPoint)> found) {
     stop();
     found_ = std::move(found);
+    if (searchInLayer()) {
+        return;
+    }
+    if (place_) {
+        place_->find(alive_.guard([this](std::optional<platform::PopupPoint> at) {
+            tell(at ? std::optional(QPoint(at->x, at->y)) : std::nullopt);
+        }));
+    } else {
+        tell({});
+    }
+}
+
+// Popups are told where the pointer is: one is asked for, but never drawn.
+bool PointerSearch::searchInLayer() {
     auto at = std::make_shared<std::optional<QPoint>>();
     platform::Popup popup;
     popup.width = 1;
@@ -33,18 +45,18 @@ void PointerSearch::start(std::function<void(QPoint)> found) {
         }
         return platform::PopupPoint();
     };
-    popup.closed = alive_.guardOn(mainQueue_, [this, at] {
-        if (const auto tell = std::exchange(found_, nullptr)) {
-            tell(at->value_or(QCursor::pos()));
-        }
-    });
+    popup.closed = alive_.guardOn(mainQueue_, [this, at] { tell(*at); });
     popup.draw = [closed = popup.closed](int scale) {
         closed();
         return platform::PopupPicture{scale, scale, scale, {}};
     };
     search_ = layer_ ? layer_->show(std::move(popup)) : nullptr;
-    if (!search_) {
-        std::exchange(found_, nullptr)(QCursor::pos());
+    return search_ != nullptr;
+}
+
+void PointerSearch::tell(std::optional<QPoint> at) {
+    if (const auto found = std::exchange(found_, nullptr)) {
+        found(at.value_or(QCursor::pos()));
     }
 }
 

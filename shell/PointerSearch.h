@@ -5,19 +5,24 @@
 
 #include "platform/Alive.h"
 #include "platform/MainQueue.h"
+#include "platform/PointerPlace.h"
 #include "platform/PopupLayer.h"
 
 #include <QPoint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace nerlo::shell {
 
 class PointerSearch {
   public:
-    // `layer` is null where the toolkit knows. Both must outlive this.
-    PointerSearch(platform::PopupLayer *layer, platform::MainQueue &mainQueue)
+    // Of `layer` and `place`, what is not null is asked, the layer first, else the toolkit. All
+    // must outlive this.
+    PointerSearch(platform::PopupLayer *layer, platform::PointerPlace *place,
+                  platform::MainQueue &mainQueue)
         : layer_(layer)
+        , place_(place)
         , mainQueue_(mainQueue) {}
 
     // `found` runs once, perhaps inside this call, and not after stop() or another start(). The
@@ -29,7 +34,11 @@ class PointerSearch {
     void stop();
 
   private:
+    bool searchInLayer();
+    void tell(std::optional<QPoint> at);
+
     platform::PopupLayer *layer_;
+    platform::PointerPlace *place_;
     platform::MainQueue &mainQueue_;
     std::function<void(QPoint)> found_;
     std::unique_ptr<platform::ShownPopup> search_;

@@ -96,7 +96,8 @@ Program::~Program() {
 void Program::connect() {
     engine_.setCountWindowMaker([this] {
         return std::make_unique<nrCountWindowController>(store_, parts_.mainQueue,
-                                                         parts_.desktop.popupLayer.backend.get());
+                                                         parts_.desktop.popupLayer.backend.get(),
+                                                         parts_.desktop.pointerPlace.backend.get());
     });
     engine_.setTooLargeHandler([this] {
         windows_.setProblem(
@@ -279,7 +280,8 @@ std::string Program::doctor(bool sessionBus) const {
     const auto &desktop = parts_.desktop;
     return doctorReport(desktop, parts_.paths, sessionBus,
                         RunningState{automatic(), desktop.backends->grabGetsAllKeys(),
-                                     platform::pointerPositionKnown() && desktop.popupLayer.backend,
+                                     platform::pointerPositionKnown() &&
+                                         (desktop.popupLayer.backend || tellsPointer(desktop)),
                                      hotKeyFindings(hotKeys_, shortcutTexts_.layout())});
 }
 

@@ -4,7 +4,6 @@
 #include "shell/StepNames.h"
 #include "shell/Strings.h"
 
-#include <QCursor>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -99,12 +98,14 @@ void nrRoundedView::paintEvent(QPaintEvent *) {
 
 nrTransparentWindow::nrTransparentWindow(const storage::SettingsStore &def_,
                                          platform::MainQueue &mainQueue,
-                                         platform::PopupLayer *layer)
+                                         platform::PopupLayer *layer,
+                                         platform::PointerPlace *pointer)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                            Qt::NoDropShadowWindowHint | Qt::WindowDoesNotAcceptFocus)
     , def(def_)
     , mainQueue_(mainQueue)
-    , layer_(layer) {
+    , layer_(layer)
+    , pointer_(nullptr, pointer, mainQueue) {
     setObjectName("countWindow");
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -116,8 +117,7 @@ nrTransparentWindow::~nrTransparentWindow() {
     closeCountWindow();
 }
 
-void nrTransparentWindow::windowPosition() {
-    const QPoint pointer = QCursor::pos();
+void nrTransparentWindow::windowPosition(QPoint pointer) {
     const Screen screen = mainScreen(pointer);
     const ScreenPoint origin = popupOrigin(def.integerForKey(positionKey), screen.screen, width(),
                                            height(), screen.fromToolkit(pointer));
@@ -135,8 +135,10 @@ void nrTransparentWindow::open() {
     adjustSize();
     shown_ = showInLayer();
     if (!shown_) {
-        windowPosition();
-        show();
+        pointer_.start([this](QPoint pointer) {
+            windowPosition(pointer);
+            show();
+        });
     }
     if (def.integerForKey("udStatisticsDelaySwitcher") != 0) {
         // A day is longer than anybody looks; more seconds than that would overflow the clock.
@@ -202,6 +204,7 @@ void nrTransparentWindow::closeCountWindow() {
     }
     mainQueue_.cancel(std::exchange(close_, 0));
     shown_.reset();
+    pointer_.stop();
     hide();
 }
 
@@ -219,8 +222,9 @@ void nrTransparentWindow::resizeEvent(QResizeEvent *event) {
 
 nrCountWindowController::nrCountWindowController(const storage::SettingsStore &settings,
                                                  platform::MainQueue &mainQueue,
-                                                 platform::PopupLayer *layer)
-    : window_(std::make_unique<nrTransparentWindow>(settings, mainQueue, layer)) {
+                                                 platform::PopupLayer *layer,
+                                                 platform::PointerPlace *pointer)
+    : window_(std::make_unique<nrTransparentWindow>(settings, mainQueue, layer, pointer)) {
     auto *around = new QGridLayout(window_.get());
     around->setContentsMargins(0, 0, 0, 0);
     auto *view = new nrRoundedView;

@@ -5,7 +5,9 @@
 
 #include "clipboard/nrChangePasterboard.h"
 #include "platform/MainQueue.h"
+#include "platform/PointerPlace.h"
 #include "platform/PopupLayer.h"
+#include "shell/PointerSearch.h"
 #include "shell/PopupPlacement.h"
 #include "storage/SettingsStore.h"
 
@@ -33,11 +35,12 @@ class nrTransparentWindow final : public QWidget {
 
   public:
     nrTransparentWindow(const storage::SettingsStore &def, platform::MainQueue &mainQueue,
-                        platform::PopupLayer *layer);
+                        platform::PopupLayer *layer, platform::PointerPlace *pointer);
     ~nrTransparentWindow() override;
 
-    // Puts the window, in its present size, where the settings say.
-    void windowPosition();
+    // Puts the window, in its present size, where the settings say; `pointer` is in the toolkit's
+    // coordinates.
+    void windowPosition(QPoint pointer);
     // In seconds.
     std::int64_t delayForCountWindow() const;
     // Shows it, and schedules its end if the settings say so.
@@ -59,6 +62,7 @@ class nrTransparentWindow final : public QWidget {
     platform::MainQueue &mainQueue_;
     platform::PopupLayer *layer_;
     std::unique_ptr<platform::ShownPopup> shown_;
+    PointerSearch pointer_; // for the window itself
     platform::MainQueue::TaskId close_ = 0;
     bool open_ = false;
 };
@@ -68,7 +72,8 @@ class nrCountWindowController final : public clipboard::CountWindow {
     // With a layer, the popup is shown there, and the window itself stays hidden. All must outlive
     // this.
     nrCountWindowController(const storage::SettingsStore &settings, platform::MainQueue &mainQueue,
-                            platform::PopupLayer *layer = nullptr);
+                            platform::PopupLayer *layer = nullptr,
+                            platform::PointerPlace *pointer = nullptr);
     ~nrCountWindowController() override;
 
     // The texts are shown as they are.

@@ -1,4 +1,5 @@
-// Keys for the program: its hot keys, and Ctrl with a key pressed in the user's place.
+// Keys for the program: its hot keys, and Ctrl with a key pressed in the user's place. And where the
+// pointer is, for what a key opens.
 
 const {Clutter, Gio, GLib, Meta, Shell} = imports.gi;
 const Main = imports.ui.main;
@@ -27,6 +28,10 @@ const INTERFACE = `<node><interface name="org.nerlo.NerloPro.Shell.Keys">
   <method name="Paste">
     <arg name="key" type="u" direction="in"/>
     <arg name="pressed" type="b" direction="out"/>
+  </method>
+  <method name="Pointer">
+    <arg name="x" type="i" direction="out"/>
+    <arg name="y" type="i" direction="out"/>
   </method>
 </interface></node>`;
 
@@ -127,6 +132,13 @@ var Keys = class {
                 return GLib.SOURCE_REMOVE;
             }),
         };
+    }
+
+    PointerAsync(_parameters, invocation) {
+        if (!this._program.admits(invocation))
+            return;
+        const [x, y] = global.get_pointer();
+        invocation.return_value(new GLib.Variant('(ii)', [x, y]));
     }
 
     _stopPasting(done = false) {

@@ -5,6 +5,7 @@
 #include "platform/qt/GnomeHotKeys.h"
 #include "platform/qt/GnomePasteboard.h"
 #include "platform/qt/GnomePaster.h"
+#include "platform/qt/GnomePointer.h"
 #include "platform/qt/KdeHotKeys.h"
 #include "platform/qt/PortalHotKeys.h"
 #include "platform/qt/QtWindowSystem.h"
@@ -181,6 +182,10 @@ Chosen<HotKeyService> Backends::openHotKeys(const KeyboardLayout &layout,
 
 Chosen<PopupLayer> Backends::openPopupLayer() {
     return firstOf<PopupLayer>([&] { return createWaylandPopupLayer(mainQueue_, io_); });
+}
+
+Chosen<PointerPlace> Backends::openPointerPlace() {
+    return firstOf<PointerPlace>([] { return inWayland<PointerPlace>(createGnomePointer); });
 }
 
 Chosen<Paster> Backends::openPaster(const KeyboardLayout &layout) {

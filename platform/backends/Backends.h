@@ -8,6 +8,7 @@
 #include "platform/MainQueue.h"
 #include "platform/Pasteboard.h"
 #include "platform/Paster.h"
+#include "platform/PointerPlace.h"
 #include "platform/PopupLayer.h"
 #include "platform/TaskbarHint.h"
 #include "platform/TrayWatch.h"
@@ -70,6 +71,9 @@ class Backends {
 
     // Null where the toolkit's own windows are the best there is.
     Chosen<PopupLayer> openPopupLayer();
+
+    // GNOME's extension. Null where there is nothing better than the toolkit and the popup layer.
+    Chosen<PointerPlace> openPointerPlace();
 
     // In the same order as the clipboard. Null where no program may press keys. `layout` must
     // outlive the result.

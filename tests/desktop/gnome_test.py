@@ -53,13 +53,15 @@ class ShellTest(unittest.TestCase):
         return ask(dbus.SessionBus(), "org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "Eval",
                    f"String({expression})")[1]
 
+    def device(self, kind, *events):
+        made = (f"(global.nerlo{kind} ??= imports.gi.Clutter.get_default_backend().get_default_seat()"
+                f".create_virtual_device(imports.gi.Clutter.InputDeviceType.{kind}_DEVICE))")
+        for method, *values in events:
+            self.shell(f"{made}.{method}(imports.gi.GLib.get_monotonic_time(), {str(values)[1:-1]})")
+
     def keys(self, chord):
         codes = [WaylandDesktop.CODES[name] for name in chord.split("+")]
-        self.shell("(() => { const {Clutter, GLib} = imports.gi;"
-                   "global.nerlo ??= Clutter.get_default_backend().get_default_seat()"
-                   ".create_virtual_device(Clutter.InputDeviceType.KEYBOARD_DEVICE);"
-                   f"for (const [code, down] of {[[code, 1] for code in codes] + [[code, 0] for code in codes]})"
-                   "global.nerlo.notify_key(GLib.get_monotonic_time(), code, down); })()")
+        self.device("KEYBOARD", *(("notify_key", code, down) for down in (1, 0) for code in codes))
 
     def bring_to_front(self, what, name):
         window = ("global.get_window_actors().map(actor => actor.meta_window)"
@@ -98,8 +100,11 @@ class GnomeTest(ShellTest):
                 self.bring_to_front("get_title", "field")
                 with owner(f"UTF8_STRING=for   {platform}"):
                     self.expect(f"for {platform}".encode())
+                    self.device("POINTER", ("notify_absolute_motion", 140, 190))
+                    wait_until(lambda: '"140,190' in self.shell("global.get_pointer()"), "the pointer")
                     self.keys("super+shift+j")
                     wait_until(lambda: self.chooser_shows(platform), "the chooser")
+                    self.assertEqual(self.shell("[(r => [r.x, r.y])(" + FOCUS + ".get_frame_rect())]"), '"140,190"')
                     self.keys("shift+Return")
                     wait_until(lambda: field.lines == [f"for {platform}"], "it is pasted")
 
@@ -178,7 +183,7 @@ class GnomeTest(ShellTest):
         shell = (SHELL, "/org/nerlo/NerloPro/Shell")
         for service, path, interface, method, *arguments in (
                 (*shell, SHELL, "State"), (*shell, SHELL + ".Keys", "Grab", "<Super>F11"),
-                (*shell, SHELL + ".Keys", "Paste", dbus.UInt32(47)),
+                (*shell, SHELL + ".Keys", "Paste", dbus.UInt32(47)), (*shell, SHELL + ".Keys", "Pointer"),
                 (Program.BUS_NAME, Program.PATH + "/Panel", Program.BUS_NAME + ".Panel", "Rows")):
             with self.subTest(method), self.assertRaisesRegex(dbus.DBusException, "AccessDenied"):
                 ask(self.program.bus, service, path, interface, method, *arguments)
