@@ -13,11 +13,6 @@ std::string runtimeFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation).toStdString();
 }
 
-bool tellsPointer(const Desktop &desktop) {
-    const auto &place = desktop.pointerPlace.backend;
-    return place && place->isKnown();
-}
-
 Desktop openDesktop(platform::MainQueue &mainQueue, platform::WorkerQueue &workerQueue) {
     Desktop desktop;
     desktop.backends = std::make_unique<platform::Backends>(mainQueue);

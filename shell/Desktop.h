@@ -21,16 +21,19 @@ struct Desktop {
     platform::Chosen<platform::ActiveApplication> activeApplication;
     platform::Chosen<platform::KeyboardLayout> keyboardLayout;
     platform::Chosen<platform::HotKeyService> hotKeys;
-    platform::Chosen<platform::PopupLayer> popupLayer;     // may be null
-    platform::Chosen<platform::PointerPlace> pointerPlace; // may be null
-    platform::Chosen<platform::Paster> paster;             // may be null
+    platform::Chosen<platform::PopupLayer> popupLayer; // may be null
+    platform::Chosen<platform::Paster> paster;         // may be null
     std::unique_ptr<platform::SystemHotKeys> systemHotKeys;
     std::unique_ptr<platform::LoginItem> loginItem;
+    platform::Chosen<platform::PointerPlace> pointerPlace{}; // may be null
     std::vector<std::string> folders{}; // where the program writes, besides those of the settings
 };
 
 // Whether the desktop tells where the pointer is, whatever it is over.
-bool tellsPointer(const Desktop &desktop);
+inline bool tellsPointer(const Desktop &desktop) {
+    const auto &place = desktop.pointerPlace.backend;
+    return place && place->isKnown();
+}
 
 // Where the session keeps what goes with it.
 std::string runtimeFolder();

@@ -40,7 +40,7 @@ QString damageText(const settings::SettingsPaths &paths, const std::string &dama
             file = path;
         }
     }
-    return filled(localized("sFileUnreadable"), {QString::fromStdString(file)}) + ' ' +
+    return filled(localized("sFileUnreadable"), {isolated(QString::fromStdString(file))}) + ' ' +
            localized("sFileDamaged");
 }
 

@@ -253,7 +253,7 @@ void StatusMenu::setProgram(const QString &name, bool never) {
 void StatusMenu::nameProgram() {
     const auto name = overBus_ ? escapedForBus(programName_) : escaped(programName_);
     never_->setText(name.isEmpty() ? title("Never in this program")
-                                   : title("Never in “%1”").arg(name));
+                                   : title("Never in “%1”").arg(isolated(name)));
 }
 
 void StatusMenu::setRestorable(const std::optional<QString> &words) {
@@ -266,7 +266,7 @@ void StatusMenu::setRestorable(const std::optional<QString> &words) {
 void StatusMenu::nameRestorable() {
     const auto words = overBus_ ? escapedForBus(restorable_) : escaped(restorable_);
     restore_->setText(words.isEmpty() ? title("Restore the original")
-                                      : title("Restore “%1”").arg(words));
+                                      : title("Restore “%1”").arg(isolated(words)));
 }
 
 void StatusMenu::setProfiles(const QStringList &names, int selected) {

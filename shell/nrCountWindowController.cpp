@@ -288,7 +288,8 @@ void nrCountWindowController::countToTextFields(std::u16string characters, std::
 }
 
 void nrCountWindowController::tellProfile(std::u16string name) {
-    cleanedAs_->setText(filled(localized("sCleanedAs"), {QString::fromStdU16String(name)}));
+    cleanedAs_->setText(
+        filled(localized("sCleanedAs"), {isolated(QString::fromStdU16String(name))}));
     cleanedAs_->show();
 }
 

@@ -72,7 +72,7 @@ TEST_F(Popup, ShowsTheTextsInTheCorner) {
     EXPECT_EQ(text("leftOut"), "");
     EXPECT_EQ(text("cleanedAs"), "");
     controller.tellProfile(u"<b>Mail");
-    EXPECT_EQ(text("cleanedAs"), "Cleaned as: <b>Mail");
+    EXPECT_EQ(text("cleanedAs"), "Cleaned as: \u2068<b>Mail\u2069");
     const auto step = [](const char *operation, std::size_t changes) {
         return clipboard::ChangedStep{engine::findOperation(operation), changes};
     };
