@@ -127,7 +127,7 @@ std::vector<ChooserItem> chooserItems(const settings::nrPreferences &preferences
     return items;
 }
 
-std::vector<std::size_t> found(const std::vector<ChooserItem> &items, const QString &text) {
+std::vector<std::size_t> placesOf(const std::vector<ChooserItem> &items, const QString &text) {
     const QString wanted = text.toCaseFolded().simplified();
     const QStringList words = wanted.split(' ', Qt::SkipEmptyParts);
     std::vector<std::pair<int, std::size_t>> ranked;

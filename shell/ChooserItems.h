@@ -30,6 +30,6 @@ std::vector<ChooserItem> operationItems();
 
 // The places of the items that have all words of `text`, the best first: those that begin with it,
 // then those in which each word begins a word. All, in their order, for an empty text.
-std::vector<std::size_t> found(const std::vector<ChooserItem> &items, const QString &text);
+std::vector<std::size_t> placesOf(const std::vector<ChooserItem> &items, const QString &text);
 
 } // namespace nerlo::shell

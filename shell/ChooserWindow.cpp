@@ -189,7 +189,7 @@ void ChooserWindow::fill(const QString &wanted) {
     list_->clear();
     const QColor dim = dimmed(palette());
     const QSize rowSize(0, fontMetrics().height() + rowSpacing);
-    for (const std::size_t place : found(items_, wanted)) {
+    for (const std::size_t place : placesOf(items_, wanted)) {
         auto *row = new QTreeWidgetItem(list_, {items_[place].title, items_[place].kind});
         row->setData(0, placeRole, qulonglong(place));
         row->setSizeHint(0, rowSize);

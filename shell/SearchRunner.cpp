@@ -111,7 +111,7 @@ QList<RunnerMatch> SearchRunner::Match(const QString &text) {
     }
     if (query->kind == exact) {
         const auto items = operationItems();
-        for (const auto place : found(items, query->rest)) {
+        for (const auto place : placesOf(items, query->rest)) {
             add(items[place].keywords, items[place].title);
         }
     }

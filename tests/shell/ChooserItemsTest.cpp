@@ -26,7 +26,7 @@ TEST(ChooserItems, ASearchFindsAllWordsTheBestFirst) {
         {"strip tabs", {3}}, {"space tabs", {}},    {"ends", {0, 1}},
     };
     for (const auto &row : rows) {
-        EXPECT_EQ(found(items, row.text), row.places) << row.text;
+        EXPECT_EQ(placesOf(items, row.text), row.places) << row.text;
     }
 }
 
