@@ -93,10 +93,6 @@ struct PasteboardWrite {
         0; // with `done`: exactly the count that this write gave the clipboard
 };
 
-// What a backend says of itself that leaves keeping a text to others.
-inline constexpr const char *goesWithTheProgram =
-    "Text outlives the program only where a clipboard manager runs.";
-
 class Pasteboard {
   public:
     using FormatsHandler = std::function<void(PasteboardFormats)>;
@@ -129,6 +125,12 @@ class Pasteboard {
     // reaches the compositor together with the write may still lose against it; on X11 it does not.
     virtual void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                        WriteHandler handler) = 0;
+
+    // For a program that ends with this object: where nobody else has our content when this is
+    // destroyed, a process is left behind that offers it, as it stands, until another program takes
+    // the clipboard or the display goes. Our content never changes hands for that, so a copy that
+    // comes meanwhile stays. Does nothing where the desktop keeps the content by itself.
+    virtual void stayBehind() {}
 
     // For the user's eyes: one English line on what this is ("X11, XFixes 5.0"), and one line for
     // each thing that it cannot do.

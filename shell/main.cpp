@@ -159,6 +159,7 @@ int main(int argc, char **argv) {
     if (!desktop.clipboard.backend) {
         return complain("the display is gone");
     }
+    desktop.clipboard.backend->stayBehind();
 
     shell::Program program(
         {mainQueue, workerQueue, desktop, settings::SettingsPaths::standard(), productLinks()});

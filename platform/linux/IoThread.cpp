@@ -1,5 +1,6 @@
 #include "platform/linux/IoThread.h"
 
+#include "platform/linux/LeftBehind.h"
 #include "platform/linux/NamedThread.h"
 
 #include <algorithm>
@@ -28,12 +29,16 @@ int opened(int fd, const char *what) {
 
 } // namespace
 
-IoThread::IoThread()
-    : epoll_(opened(epoll_create1(EPOLL_CLOEXEC), "epoll"))
-    , wakeUp_(opened(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), "eventfd")) {
+IoThread::IoThread() {
+    openQueue();
+    thread_ = startThread("nerlo-io", [this] { serve(); });
+}
+
+void IoThread::openQueue() {
+    epoll_ = opened(epoll_create1(EPOLL_CLOEXEC), "epoll");
+    wakeUp_ = opened(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), "eventfd");
     epoll_event event{EPOLLIN, {.u64 = 0}}; // no watch has this id
     opened(epoll_ctl(epoll_, EPOLL_CTL_ADD, wakeUp_, &event), "epoll");
-    thread_ = startThread("nerlo-io", [this] { serve(); });
 }
 
 IoThread::~IoThread() {
@@ -93,6 +98,16 @@ IoThread::Timer IoThread::at(Clock::time_point time, Task task) {
 
 void IoThread::end(const Due &timer) {
     timers_.erase(timer);
+}
+
+bool IoThread::goOnBehind(const std::vector<int> &kept) {
+    if (!leaveBehind(kept)) {
+        return false;
+    }
+    watched_.clear();
+    timers_.clear();
+    openQueue();
+    return true;
 }
 
 void IoThread::serve() {

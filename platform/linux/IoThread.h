@@ -88,12 +88,20 @@ class IoThread {
     // Runs `task` once, at `time` or as soon after it as the thread can.
     Timer at(Clock::time_point time, Task task);
 
+    // Leaves a process behind in which this thread goes on, alone, with the file descriptors
+    // `kept`, which lead nowhere here from now on (platform/linux/LeftBehind.h). Nothing is watched
+    // or timed there until it is asked for again; here, what is kept must not be watched any more.
+    // No other thread may call meanwhile. True in the new process; false here, also if the system
+    // grants none.
+    bool goOnBehind(const std::vector<int> &kept);
+
   private:
     struct Watched {
         int fd;
         std::shared_ptr<const Handler> handler;
     };
 
+    void openQueue();
     void end(Id watch);
     void end(const Due &timer);
     void serve();
@@ -101,8 +109,8 @@ class IoThread {
     void runTimers();
     int timeout() const;
 
-    const int epoll_;
-    const int wakeUp_; // eventfd
+    int epoll_ = -1;
+    int wakeUp_ = -1; // eventfd
     std::map<Id, Watched> watched_;
     std::map<Due, Task> timers_;
     Id lastId_ = 0;

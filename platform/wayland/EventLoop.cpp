@@ -124,6 +124,29 @@ void EventLoop::stop(Clock::time_point atLeast, Clock::time_point atMost) {
     end.wait();
 }
 
+bool EventLoop::goOnBehind(Watcher watcher) {
+    std::vector<int> kept{wl_display_get_fd(display_)};
+    for (const auto &running : transfers_) {
+        kept.push_back(running.transfer->fd());
+    }
+    if (!io_.goOnBehind(kept)) {
+        return false;
+    }
+    end_.reset();
+    roundTrips_.clear();
+    watcher_ = std::move(watcher);
+    watchDisplay();
+    for (auto &running : transfers_) {
+        watchTransfer(running);
+    }
+    post([] {}); // what is due
+    return true;
+}
+
+void EventLoop::endWithTransfers(Task reached) {
+    end_ = End{Clock::time_point::min(), Clock::time_point::max(), std::move(reached)};
+}
+
 void EventLoop::post(Task task) {
     io_.post([this, task = std::move(task)] {
         task();
@@ -155,7 +178,9 @@ void EventLoop::settle() {
         return;
     }
     abandonIncoming();
-    transfers_.clear();
+    for (auto &running : transfers_) {
+        running.watch = {};
+    }
     watch_ = {};
     timer_ = {};
     // The loop may be gone as soon as this is told.
@@ -166,6 +191,10 @@ void EventLoop::settle() {
 void EventLoop::add(std::unique_ptr<Transfer> transfer) {
     auto &running = transfers_.emplace_back();
     running.transfer = std::move(transfer);
+    watchTransfer(running);
+}
+
+void EventLoop::watchTransfer(Running &running) {
     const auto &added = *running.transfer;
     running.watch =
         io_.watch(added.fd(), static_cast<std::uint32_t>(added.events()), [this, &added](auto) {

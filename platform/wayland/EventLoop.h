@@ -57,7 +57,7 @@ class EventLoop {
     void start(Watcher watcher);
     // Serves on until `atLeast`, then gives outgoing transfers until `atMost` to finish, and waits
     // for the end of it; nothing runs on the I/O thread any more then. The connection still exists,
-    // for the caller to destroy its objects.
+    // for the caller to destroy its objects, and so do outgoing transfers that have not finished.
     void stop(Clock::time_point atLeast, Clock::time_point atMost);
 
     // Runs `task` on the I/O thread. Any thread, also after the connection was lost, but not after
@@ -65,6 +65,14 @@ class EventLoop {
     void post(Task task);
 
     // The rest is for the I/O thread alone.
+
+    // After stop(): leaves a process behind that goes on with the connection and the outgoing
+    // transfers, and forgets what ours still waited for. True in the new process, where `watcher`
+    // is told from now on; false here, where the connection leads nowhere then, or if the system
+    // grants none.
+    bool goOnBehind(Watcher watcher);
+    // Runs `reached` once no transfer is under way; nothing follows.
+    void endWithTransfers(Task reached);
 
     wl_display *display() const { return display_; }
     bool connected() const { return connected_; }
@@ -97,6 +105,7 @@ class EventLoop {
     EventLoop(IoThread &io, std::string displayName, wl_display *display);
 
     void watchDisplay();
+    void watchTransfer(Running &running);
     // After everything that runs on the I/O thread: sends what was asked for, and sees to it that
     // what is to come wakes the thread. At the end that was asked for, nothing may follow it.
     void settle();

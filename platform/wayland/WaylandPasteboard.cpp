@@ -8,6 +8,8 @@
 #include <atomic>
 #include <utility>
 
+#include <unistd.h>
+
 namespace nerlo::platform {
 
 namespace {
@@ -21,15 +23,21 @@ constexpr std::chrono::milliseconds managerLimit{500};
 
 class WaylandPasteboard final : public Pasteboard {
   public:
-    WaylandPasteboard(MainQueue &mainQueue, std::unique_ptr<EventLoop> loop)
+    WaylandPasteboard(MainQueue &mainQueue, IoThread &io, std::unique_ptr<EventLoop> loop)
         : mainQueue_(mainQueue)
+        , io_(io)
         , loop_(std::move(loop))
         , peer_(std::make_unique<WaylandSelection>(*loop_,
                                                    [this](ChangeCount count) { report(count); })) {}
 
     ~WaylandPasteboard() override {
         const auto now = Clock::now();
-        loop_->stop(lastWrite_ ? *lastWrite_ + managerLimit : now, now + pasteboardHandOverLimit);
+        const auto managerAsks = lastWrite_ ? *lastWrite_ + managerLimit : now;
+        // Who has not taken it all by then takes the rest from whom we leave behind.
+        loop_->stop(managerAsks, staysBehind_ ? managerAsks : now + pasteboardHandOverLimit);
+        if (staysBehind_) {
+            io_.run([this] { goOnBehind(); });
+        }
         peer_.reset();
     }
 
@@ -91,9 +99,18 @@ class WaylandPasteboard final : public Pasteboard {
     }
 
     std::string description() const override { return description_; }
-    std::vector<std::string> limitations() const override { return {goesWithTheProgram}; }
+    std::vector<std::string> limitations() const override { return {}; }
+    void stayBehind() override { staysBehind_ = true; }
 
   private:
+    // On the I/O thread.
+    void goOnBehind() {
+        const auto end = [] { _exit(0); };
+        if (peer_->owns() && loop_->goOnBehind({.lost = end, .restored = {}, .gone = {}})) {
+            peer_->onlyServe([this, end] { loop_->endWithTransfers(end); });
+        }
+    }
+
     void raise(ChangeCount count) {
         ChangeCount known = changeCount_;
         while (known < count && !changeCount_.compare_exchange_weak(known, count)) {
@@ -116,6 +133,8 @@ class WaylandPasteboard final : public Pasteboard {
     }
 
     MainQueue &mainQueue_;
+    IoThread &io_;
+    bool staysBehind_ = false;
     std::atomic<ChangeCount> changeCount_{0};
     std::atomic<bool> changeReported_ = false; // a task that reports a change is on its way
     std::function<void()> changed_;            // main thread, as is lost_
@@ -140,7 +159,7 @@ Created<Pasteboard> createWaylandPasteboard(MainQueue &mainQueue, IoThread &io,
     if (!loop) {
         return {nullptr, "there is no Wayland compositor"};
     }
-    auto pasteboard = std::make_unique<WaylandPasteboard>(mainQueue, std::move(loop));
+    auto pasteboard = std::make_unique<WaylandPasteboard>(mainQueue, io, std::move(loop));
     if (std::string declined = pasteboard->start(); !declined.empty()) {
         return {nullptr, std::move(declined)};
     }

@@ -142,6 +142,7 @@ void WaylandSelection::leaveSeat() {
         destroyDevice(std::exchange(device_, nullptr));
     }
     seat_ = 0;
+    tellWhetherNeeded();
 }
 
 void WaylandSelection::finished() {
@@ -395,6 +396,21 @@ void WaylandSelection::cancelled(wl_proxy *source) {
     }
     std::erase_if(sources_, [source](const OwnSource &own) { return own.proxy == source; });
     destroySource(source);
+    tellWhetherNeeded();
+}
+
+void WaylandSelection::onlyServe(std::function<void()> unneeded) {
+    reads_.clear();
+    writes_.clear();
+    window_.reset();
+    replaced_ = [](ChangeCount) {};
+    unneeded_ = std::move(unneeded);
+}
+
+void WaylandSelection::tellWhetherNeeded() const {
+    if (unneeded_ && !owns()) {
+        unneeded_();
+    }
 }
 
 void WaylandSelection::lost() {

@@ -43,6 +43,12 @@ class WaylandSelection final : private DeviceEvents, private OfferEvents, privat
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                Pasteboard::WriteHandler handler);
 
+    // Whether content of ours is on the clipboard, as far as we know.
+    bool owns() const { return !sources_.empty(); }
+    // From now on the content is served and nothing else is done. `unneeded` runs when it is ours
+    // no longer; what others still take of it is the loop's.
+    void onlyServe(std::function<void()> unneeded);
+
     // The connection is lost: everything under way ends. There may be a new one to prepare.
     void lost();
 
@@ -96,9 +102,11 @@ class WaylandSelection final : private DeviceEvents, private OfferEvents, privat
     void setContent();
     void confirmWrite();
     void endWrite(PasteboardWrite result);
+    void tellWhetherNeeded() const;
 
     EventLoop &loop_;
     std::function<void(ChangeCount)> replaced_;
+    std::function<void()> unneeded_;
     std::unique_ptr<Registry> registry_;
     std::map<std::uint32_t, wl_seat *> seats_;
     std::uint32_t seat_ = 0; // the one in use; 0, which names nothing, for none

@@ -5,9 +5,10 @@
 #include "platform/x11/X11Selection.h"
 
 #include <atomic>
-#include <future>
 #include <system_error>
 #include <utility>
+
+#include <unistd.h>
 
 namespace nerlo::platform {
 
@@ -17,6 +18,7 @@ class X11Pasteboard final : public Pasteboard {
   public:
     X11Pasteboard(MainQueue &mainQueue, IoThread &io, std::unique_ptr<x11::X11Selection> peer)
         : mainQueue_(mainQueue)
+        , io_(io)
         , peer_(std::move(peer)) {
         peer_->changed = [this] {
             if (observed_ && !announced_.exchange(true)) {
@@ -32,8 +34,12 @@ class X11Pasteboard final : public Pasteboard {
     }
 
     ~X11Pasteboard() override {
-        pump_->submit([this] { peer_->handOver(); });
+        bool onlyHere = false;
+        pump_->submit([&] { onlyHere = peer_->handOver(); });
         pump_.reset();
+        if (staysBehind_ && onlyHere) {
+            io_.run([this] { goOnBehind(); });
+        }
     }
 
     ChangeCount changeCount() const override { return peer_->changeCount(); }
@@ -64,15 +70,21 @@ class X11Pasteboard final : public Pasteboard {
     }
 
     std::string description() const override { return peer_->description(); }
-    std::vector<std::string> limitations() const override {
-        std::promise<bool> managerRuns;
-        pump_->submit([&] { managerRuns.set_value(peer_->managerRuns()); });
-        return managerRuns.get_future().get() ? std::vector<std::string>()
-                                              : std::vector<std::string>{goesWithTheProgram};
-    }
+    std::vector<std::string> limitations() const override { return {}; }
+    void stayBehind() override { staysBehind_ = true; }
 
   private:
+    // On the I/O thread.
+    void goOnBehind() {
+        if (io_.goOnBehind({peer_->fileDescriptor()})) {
+            peer_->onlyServe([] { _exit(0); });
+            pump_ = std::make_unique<x11::EventPump>(io_, *peer_);
+        }
+    }
+
     MainQueue &mainQueue_;
+    IoThread &io_;
+    bool staysBehind_ = false;
     std::function<void()> changed_; // main thread, as is lost_
     std::function<void()> lost_;
     std::atomic<bool> observed_ = false;

@@ -138,6 +138,9 @@ void X11Selection::process() {
         offers_.clear();
         lost();
     }
+    if (unneeded_ && !owned() && sendings_.empty()) {
+        unneeded_();
+    }
 }
 
 // Events
@@ -350,6 +353,7 @@ X11Selection::find(xcb_window_t window) {
 void X11Selection::arrived(const xcb_selection_notify_event_t &event) {
     if (event.selection == atoms_.manager && event.requestor == window_) {
         handingOver_ = false;
+        handedOver_ = event.property != XCB_NONE;
         return;
     }
     const auto found = find(event.requestor);
@@ -678,9 +682,9 @@ bool X11Selection::managerRuns() const {
     return manager && manager->owner != XCB_NONE;
 }
 
-void X11Selection::handOver() {
+bool X11Selection::handOver() {
     if (lost_ || !owned() || !managerRuns()) {
-        return;
+        return !lost_ && owned();
     }
     auto *xcb = connection_->get();
     setProperty(window_, atoms_.data, XCB_ATOM_ATOM, offeredTargets());
@@ -693,10 +697,17 @@ void X11Selection::handOver() {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
         pollfd waiting{fileDescriptor(), POLLIN, 0};
         if (left <= 0 || (!more_ && poll(&waiting, 1, static_cast<int>(left)) == 0)) {
-            return;
+            break;
         }
         process();
     }
+    return !lost_ && owned() && !handedOver_;
+}
+
+void X11Selection::onlyServe(std::function<void()> unneeded) {
+    questions_.clear();
+    changed = lost = [] {};
+    unneeded_ = std::move(unneeded);
 }
 
 } // namespace nerlo::platform::x11

@@ -39,11 +39,12 @@ class X11Selection final : public EventSource {
     void read(ChangeCount of, PasteboardRequest request, Pasteboard::ReadHandler handler);
     void write(PasteboardContent content, std::optional<ChangeCount> onlyOver,
                Pasteboard::WriteHandler handler);
-    // Whether there is a clipboard manager, which keeps texts of programs that end.
-    bool managerRuns() const;
     // Offers content of ours to the clipboard manager, if there is one, and serves it until it has
-    // taken the content; blocks for a bounded time.
-    void handOver();
+    // taken the content; blocks for a bounded time. Whether nobody has it but us.
+    bool handOver();
+    // From now on the content is served and nothing else is done. `unneeded` runs when it is ours
+    // no longer, and all that took it have it.
+    void onlyServe(std::function<void()> unneeded);
 
     int fileDescriptor() const override;
     std::optional<Clock::time_point> deadline() const override;
@@ -131,6 +132,8 @@ class X11Selection final : public EventSource {
     void sendPiece(Sending &sending);
     void pieceTaken(const xcb_property_notify_event_t &event);
     void dropSending(std::list<Sending>::iterator sending);
+    // Whether there is a clipboard manager, which keeps texts of programs that end.
+    bool managerRuns() const;
     std::vector<xcb_atom_t> offeredTargets() const;
 
     xcb_timestamp_t serverTime();
@@ -158,6 +161,8 @@ class X11Selection final : public EventSource {
     std::vector<Offer> offers_; // what we own; empty: nothing
     std::list<Sending> sendings_;
     bool handingOver_ = false;
+    bool handedOver_ = false;
+    std::function<void()> unneeded_;
     bool more_ = false; // events that the connection will not tell of again
 };
 
