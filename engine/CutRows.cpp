@@ -170,7 +170,10 @@ class CutRows {
         if (widths_[at] == width_) {
             return !isItem(at + 1) && !(brokenElsewhere_ && endsWithWord(at));
         }
-        // The next character was too wide for the last column, or a blank stood in it.
+        // The next character was too wide for the last column, or a blank stood in it, or both.
+        if (widths_[at] + 2 == width_ && text::isHangul(lastOf(at))) {
+            return beginsWide(at + 1);
+        }
         return widths_[at] + 1 == width_ && text_[lines_[at + 1].begin] != u' ' &&
                (beginsWide(at + 1) || !lines_[at + 1].item);
     }
@@ -260,7 +263,7 @@ class CutRows {
         std::u16string joined;
         for (; goesOn(end, end > begin); ++end) {
             joined.append(rowAt(lines_[end]));
-            if (widths_[end] < width_ && !beginsWide(end + 1)) {
+            if (widths_[end] < width_ && (!beginsWide(end + 1) || widths_[end] + 2 == width_)) {
                 joined.push_back(u' ');
             }
             doubtful = doubtful || isDoubtful(lines_[end + 1]);

@@ -8,9 +8,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <numeric>
 #include <span>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -52,6 +54,7 @@ struct Pair {
     bool blank = false;    // the next one begins with the blank that had no room
     bool marked = false;   // the next one begins like a list item
     bool doubtful = false; // one of them looks like code or a table
+    bool chance = false;   // and no other item counts up to it
     bool listed = false;   // its paragraph is mostly a word a line
     bool rejected = false; // what was joined would not be prose
 };
@@ -191,8 +194,7 @@ class WrappedLines {
             (above.words == above.end && !above.item)) {
             return false;
         }
-        const bool setApart =
-            isSetApart(first) && !(&above == &first && beginsIndented(first, below));
+        const bool setApart = isSetApart(first) && !beginsIndented(first, (&first)[1]);
         const std::size_t quoted = isOneQuoted(at + 1) ? below.begin : below.quoted;
         const View marks = View(text_).substr(below.begin, quoted - below.begin);
         const bool chance = isOneQuoted(at) && !pairs_.empty() && pairs_.back().row + 1 == at;
@@ -331,20 +333,50 @@ class WrappedLines {
     }
     bool isJoined(const Pair &pair) const { return !pair.rejected && isWrapped(pair); }
 
+    // "12." or "c)": its place in a list. 0 for a sign.
+    std::uint32_t ordinalOf(std::size_t begin) const {
+        View mark = View(text_).substr(begin, 10);
+        mark.remove_prefix(mark.starts_with(u'(') ? 1 : 0);
+        if (text::isAsciiLetter(mark[0])) {
+            return (mark[0] | 0x20u) - u'a' + 1;
+        }
+        std::uint32_t ordinal = 0;
+        for (std::size_t at = 0; at < mark.size() && text::isAsciiDigit(mark[at]); ++at) {
+            ordinal = ordinal * 10 + (mark[at] - u'0');
+        }
+        return ordinal;
+    }
+
+    // A number or a letter that no other counts up to, nor on from, is no item's.
+    void findChanceOrdinals() {
+        std::unordered_set<std::uint32_t> ordinals;
+        for (const StructuredLine &line : lines_) {
+            if (line.item) {
+                ordinals.insert(ordinalOf(line.quoted + indentAt(line)));
+            }
+        }
+        for (Pair &pair : pairs_) {
+            const std::uint32_t ordinal = lines_[pair.row + 1].item ? ordinalOf(pair.begin) : 0;
+            pair.chance =
+                ordinal > 1 && !ordinals.contains(ordinal - 1) && !ordinals.contains(ordinal + 1);
+        }
+    }
+
     // What begins like an item, but has no sibling, is taken for words of the row above only if
     // most of that kind had no room there.
     void rejectItems() {
+        findChanceOrdinals();
         std::array<std::ptrdiff_t, 2> fitted{}; // of signs, of numbers and letters
         const auto isNumber = [&](const Pair &pair) {
             return text::isWordCharacter(text_[pair.begin]) || text_[pair.begin] == u'(';
         };
         for (const Pair &pair : pairs_) {
-            const bool item = lines_[pair.row + 1].item;
+            const bool item = lines_[pair.row + 1].item && !pair.chance;
             fitted.at(isNumber(pair)) += !item ? 0 : isWrapped(pair) ? -1 : 1;
         }
         for (Pair &pair : pairs_) {
             const bool item = lines_[pair.row + 1].item && fitted.at(isNumber(pair)) >= 0;
-            pair.rejected = item && !keepsBlanks_;
+            pair.rejected = item && !pair.chance && !keepsBlanks_;
         }
     }
 
@@ -554,10 +586,21 @@ class WrappedLines {
 
     // A word that fills a row alone was longer than the screen, unless it ends like one.
     bool isCutWord(View above, View below, const Pair &pair) const {
+        if (!pair.oneWord || pair.width < width_) {
+            return false;
+        }
         const char32_t next = text::characterAt(below, 0);
-        const bool ends = (isOneOf(above.back(), u"),]") && text::isWordCharacter(next)) ||
-                          (isOneOf(above.back(), u".!?:;") && next >= U'A' && next <= U'Z');
-        return pair.oneWord && pair.width >= width_ && !ends;
+        const bool word = text::isWordCharacter(next) && next != U'_';
+        return !(word && (isOneOf(above.back(), u"),]") || isEnclosed(pair))) &&
+               !(isOneOf(above.back(), u".!?:;") && next >= U'A' && next <= U'Z');
+    }
+
+    // "`code`", "<address>", "\"word\"".
+    bool isEnclosed(const Pair &pair) const {
+        const View row = rowAt(lines_[pair.row]);
+        return (isOneOf(row[0], u"`\"") && row.back() == row[0]) ||
+               (row[0] == u'<' && row.find(u'>') == row.size() - 1 &&
+                row.find_first_of(u":@") != View::npos);
     }
 
     static bool isHyphenated(View above, View below) {

@@ -106,6 +106,13 @@ TEST(TerminalText, TellsCutRowsFromWrappedOnes) {
           u"\ntree until the morning.",
           u"The quick brown fox jumps over the lazy dog and then it sleeps under an old oak tree "
           u"until the morning."},
+         {"a paragraph set in, a year, and code that fills a row",
+          u"    The quick brown fox came out in\n1974. It then sleeps below the page of\n"
+          u"`a/very/long/path/to/some/lonely/code`\nand under an old oak tree, until the\n"
+          u"morning of the next day.",
+          u"    The quick brown fox came out in 1974. It then sleeps below the page of "
+          u"`a/very/long/path/to/some/lonely/code` and under an old oak tree, until the morning of "
+          u"the next day."},
          {"a bar in front of rows of which one has another",
           u"\u2502 one\n\u2502 two \u2502 three\n\u2502 four", u"one\ntwo \u2502 three\nfour"},
          {"an underline of tildes opens no fence",
@@ -147,10 +154,8 @@ TEST(TerminalText, LeavesAloneWhatMeansItsLines) {
              u"- one item of a list that ends at the very edge\n- and the next one that is as long "
              u"as the other\n- and one more that is a little bit shorter\n",
          }) {
-        EXPECT_EQ(reference::escaped(unwrapTerminal(unwrapTerminal(std::u16string(text)))),
-                  reference::escaped(std::u16string(text)));
         EXPECT_EQ(reference::escaped(unwrapTerminal(std::u16string(text))),
-                  reference::escaped(std::u16string(text)));
+                  reference::escaped(text));
     }
 }
 
