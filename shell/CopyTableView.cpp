@@ -47,33 +47,7 @@ CopyTableView::CopyTableView(Program &program)
     list_->setFixedHeight(shownRows * (list_->fontMetrics().height() + 6));
     auto *layout = new QGridLayout(this);
     layout->addWidget(list_, 0, 0, 1, 2);
-
-    const struct {
-        const char *name;
-        const char *key;
-        const char *tip;
-        std::function<void()> run;
-    } buttons[] = {
-        {"addCopyRow", "sCopyAdd", "sCopyAddTip",
-         [this] {
-             rules_.push_back({});
-             store();
-             load();
-             list_->setCurrentRow(static_cast<int>(rules_.size()) - 1);
-         }},
-        {"removeCopyRow", "sCopyRemove", "sCopyRemoveTip", [this] { emit list_->removeAsked(); }},
-        {"copyRowUp", "sFindReplaceUp", "sCopyUpTip", [this] { emit list_->moveAsked(-1); }},
-        {"copyRowDown", "sFindReplaceDown", "sCopyDownTip", [this] { emit list_->moveAsked(1); }},
-    };
-    for (int i = 0; const auto &row : buttons) {
-        auto *button = new QPushButton(localized(row.key));
-        describe(*button, row.name, row.key, row.tip);
-        connect(button, &QPushButton::clicked, this, row.run);
-        layout->addWidget(button, 1 + i / 2, i % 2);
-        if (i++ > 0) {
-            ofRow_.push_back(button);
-        }
-    }
+    makeButtons(*layout);
     auto *form = new QFormLayout;
     layout->addLayout(form, 3, 0, 1, 2);
     looks_ = addChoice(*form, "copyLooks", "sCopyLooks");
@@ -97,6 +71,44 @@ CopyTableView::CopyTableView(Program &program)
             rule.profile = profile_->currentData().toString().toStdU16String();
         });
     });
+    connectList();
+    observation_ = program.store().observe(clipboard::copyTableKey, [this] {
+        if (!storing_) {
+            load();
+        }
+    });
+}
+
+void CopyTableView::makeButtons(QGridLayout &layout) {
+    const struct {
+        const char *name;
+        const char *key;
+        const char *tip;
+        std::function<void()> run;
+    } buttons[] = {
+        {"addCopyRow", "sCopyAdd", "sCopyAddTip",
+         [this] {
+             rules_.push_back({});
+             store();
+             load();
+             list_->setCurrentRow(static_cast<int>(rules_.size()) - 1);
+         }},
+        {"removeCopyRow", "sCopyRemove", "sCopyRemoveTip", [this] { emit list_->removeAsked(); }},
+        {"copyRowUp", "sFindReplaceUp", "sCopyUpTip", [this] { emit list_->moveAsked(-1); }},
+        {"copyRowDown", "sFindReplaceDown", "sCopyDownTip", [this] { emit list_->moveAsked(1); }},
+    };
+    for (int i = 0; const auto &row : buttons) {
+        auto *button = new QPushButton(localized(row.key));
+        describe(*button, row.name, row.key, row.tip);
+        connect(button, &QPushButton::clicked, this, row.run);
+        layout.addWidget(button, 1 + i / 2, i % 2);
+        if (i++ > 0) {
+            ofRow_.push_back(button);
+        }
+    }
+}
+
+void CopyTableView::connectList() {
     connect(list_, &QListWidget::currentRowChanged, this, [this] {
         if (!loading_) {
             showRow();
@@ -119,11 +131,6 @@ CopyTableView::CopyTableView(Program &program)
             store();
             load();
             emit removed();
-        }
-    });
-    observation_ = program.store().observe(clipboard::copyTableKey, [this] {
-        if (!storing_) {
-            load();
         }
     });
 }

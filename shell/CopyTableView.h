@@ -16,6 +16,7 @@
 #include <vector>
 
 class QFormLayout;
+class QGridLayout;
 
 namespace nerlo::shell {
 
@@ -35,6 +36,8 @@ class CopyTableView final : public QGroupBox {
     void removed(); // a row has gone
 
   private:
+    void makeButtons(QGridLayout &layout);
+    void connectList();
     void load();
     void showRow();
     void describeRow(int row);

@@ -363,11 +363,10 @@ void DesktopShell::setFloating(bool floating) {
 }
 
 void DesktopShell::showTips(bool firstStart) {
-    constexpr auto atEachStartKey = "firstRunTips";
     if (!tipsController_) {
         tipsController_ = std::make_unique<TipsWindow>(
-            program_.store().boolForKey(atEachStartKey),
-            [this](bool on) { program_.store().set(atEachStartKey, on); });
+            program_.store().boolForKey(firstRunTipsKey),
+            [this](bool on) { program_.store().set(firstRunTipsKey, on); });
         tipsController_->setWindowIcon(QIcon(":/icons/org.nerlo.NerloPro.svg"));
         QObject::connect(tipsController_.get(), &QDialog::finished, tipsController_.get(),
                          [this] { giveBackTheKeyboard(window_.get()); });
@@ -397,7 +396,7 @@ void DesktopShell::showWhatsNew() {
         whatsNewController_ =
             makeTextWindow("whatsNew", localized("sWhatsNewWindow"), localized("sWhatsNewText"));
         QObject::connect(whatsNewController_.get(), &QDialog::finished, whatsNewController_.get(),
-                         [this] { program_.store().set("updateReleaseNotes3_1", true); });
+                         [this] { program_.store().set(releaseNotesKey, true); });
     }
     present(*whatsNewController_);
 }

@@ -23,8 +23,6 @@ namespace nerlo::shell {
 
 namespace {
 
-constexpr auto automaticKey = "automaticallyClearFormatting";
-
 // A row that leaves alone what comes from this program, whatever it is.
 bool isNeverIn(const clipboard::CopyRule &rule, const std::string &program) {
     return rule.leavesAlone() && rule.program == program && rule.format.empty() &&

@@ -148,7 +148,12 @@ StatusMenu::StatusMenu(Program &program)
     greyWithout(links.ratePage, *rate_);
     greyWithout(links.supportPage, *support_);
     greyWithout(links.email, *email_);
+    fillStatusMenu();
+}
 
+StatusMenu::~StatusMenu() = default;
+
+void StatusMenu::fillStatusMenu() {
     statusMenu_->setToolTipsVisible(true);
     statusMenu_->addActions({clean_, choose_, automatic_, excelException_, never_, restore_});
     statusMenu_->addSeparator();
@@ -161,8 +166,6 @@ StatusMenu::StatusMenu(Program &program)
     statusMenu_->addSeparator();
     statusMenu_->addAction(quit_);
 }
-
-StatusMenu::~StatusMenu() = default;
 
 QAction *StatusMenu::add(const char *name, const QString &text, void (*run)(Program &)) {
     auto *action = new QAction(text, this);

@@ -50,6 +50,7 @@ class StatusMenu final : public QObject {
 
   private:
     QAction *add(const char *name, const QString &text, void (*run)(Program &));
+    void fillStatusMenu();
     void makeOperations();
     void nameRestorable();
     void nameProgram();

@@ -12,15 +12,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto automaticKey = "automaticallyClearFormatting";
 constexpr auto cleanAtOnceKey = "cleanAtOnce";
 constexpr auto keepNoOriginalKey = "keepNoOriginal";
 constexpr auto showInMenuBarKey = "showInMenubar";
 constexpr auto stayOnTopKey = "stayOnTop";
 constexpr auto launchOnStartupKey = "lunchOnStartup"; // the misspelling is the key
 constexpr auto firstRunPreferencesKey = "firstRunPreferences";
-constexpr auto firstRunTipsKey = "firstRunTips";
-constexpr auto releaseNotesKey = "updateReleaseNotes3_1";
 
 // The taskbar entry takes the focus with it when it goes; then the window comes back.
 constexpr auto comesBackAfter = 100ms;

@@ -26,7 +26,10 @@ struct ProductLinks {
     std::string systemName; // "Debian GNU/Linux 12 (bookworm)"
 };
 
-// Settings of the desktop program that no other part of it reads.
+// Settings of the desktop program.
+inline constexpr const char *automaticKey = "automaticallyClearFormatting";
+inline constexpr const char *firstRunTipsKey = "firstRunTips";          // at each start
+inline constexpr const char *releaseNotesKey = "updateReleaseNotes3_1"; // they have been shown
 inline constexpr const char *runInTheBackgroundKey = "runInTheBackground";
 inline constexpr const char *disableAutomaticKey = "disableAutomaticallyClearFormatting";
 
