@@ -467,7 +467,7 @@ class PlainMarks {
         switch (text[at]) {
         case u'\u2014':
         case u'\u2015':
-            return editDash(text, at);
+            return dialogue_ ? Edit::keep(at, at + 1) : editDash(text, at);
         case u'\u2026':
             return {at, at + 1, u"..."};
         case u'\u2018':
@@ -496,6 +496,16 @@ class PlainMarks {
         lineEnd_ = text::findUnit(text, at, breaks_);
         const View line = text.substr(lineBegin_, lineEnd_ - lineBegin_);
         ideographic_ = text::findUnit(line, 0, ideographs) < line.size();
+        dialogue_ = isDialogue(line);
+    }
+
+    // "—¿Qué? —dijo él.": a dash right before the first word says that somebody speaks, and the
+    // others of its line go with it. Plain signs would look like those of a list.
+    static bool isDialogue(View line) {
+        line.remove_prefix(std::min(line.find_first_not_of(u" \t\u00A0"), line.size()));
+        return line.size() > 1 && (line[0] == u'\u2014' || line[0] == u'\u2015') &&
+               (text::isLetterOrNumber(text::characterAt(line, 1)) ||
+                isOneOf(line[1], u"\u00BF\u00A1\u00AB"));
     }
 
     // Between words it stands between blanks, as plain text has it.
@@ -524,6 +534,7 @@ class PlainMarks {
     std::size_t lineBegin_ = 0;
     std::size_t lineEnd_ = 0;
     bool ideographic_ = false;
+    bool dialogue_ = false;
 };
 
 // --- the table

@@ -115,6 +115,8 @@ TEST(CharacterCleaning, NarrowsAndMakesMarksPlain) {
           u"a\u2014b, **c**\u2014d \u2014 e \u2014\u201Cf\u2014\u201D",
           u"a - b, **c** - d - e - \"f-\""},
          {"at the begin of a line it begins no list", u"\u2014 Yes.\n1\u20142", u"-- Yes.\n1-2"},
+         {"in a dialogue", u"\u2014\u00BFYa? \u2014dijo\u2014.",
+          u"\u2014\u00BFYa? \u2014dijo\u2014."},
          {"not in Chinese", u"\u201C\u4F60\u201D\u2014\u2014\u2026\u2026",
           u"\u201C\u4F60\u201D\u2014\u2014\u2026\u2026"}},
         [](auto text) { return with(extras[2], text); });
