@@ -34,13 +34,10 @@ TEST(StructureGuard, TidiesProseAndLeavesStructure) {
          {"a quotation", u"> one   a\n> b > c\n", u"> one a\n> b > c"},
          {"keys and values", u"a  b\nc:\n  d:\n    e: f  g\n - h",
           u"a b\nc:\n  d:\n    e: f  g\n - h"},
-         {"numbered rows", u"  9 a  b\n\n    1 a\nc\n    2 b\n c\n    3",
-          u"9 a b\n\n    1 a\nc\n    2 b\n c\n    3"},
          {"code and addresses in prose",
           u"See  `a  b`, <a  b=\"c\">, https://a.org/b__c  and  me@a.org .",
           u"See `a  b`, <a  b=\"c\">, https://a.org/b__c and me@a.org ."},
          {"a break behind an address", u"https://a.org  \nb  c", u"https://a.org  \nb c"},
-         {"a break that is meant", u"one  \ntwo \\\nthree", u"one  \ntwo \\\nthree"},
          {"signs of its own", u"a  \u16F9  b\n\u16F8 c `\u16F8\u16F9`",
           u"a \u16F9 b\n\u16F8 c `\u16F8\u16F9`"}},
         [](const std::u16string &text) { return clean(text, spacesAndBreaks); });
@@ -51,7 +48,8 @@ TEST(StructureGuard, LeavesWhatIsLaidOutOrWasCut) {
          {u"2025-03-01T10:12:44 a  b\n[22.1.25, 9:04:11] c  d\nJan  2 10:00 e  f",
           u"Total      1\nTip   2\n\n| a  b\n\na   # b", u"a: b\na : $(c)  d\n\nA=b  c",
           u"a\n\n  [ B  C ]\n  * d\n\n -- E <e@f>  Sun", u"===\n      a  b",
-          u"#1  0x1\n[  1.25] d  e", u"Jane Doe\n12 Long Street\nLondon",
+          u"    1 a\nc\n    2 b\n c\n    3", u"one  \ntwo \\\nthree", u"#1  0x1\n[  1.25] d  e",
+          u"Jane Doe\n12 Long Street\nLondon",
           u"> The quick brown fox jumps over the lazy dog and\n> sleeps.\n\nNext",
           u"Somebody wrote these words and a\nnarrow window cut them wherever i\nts last column "
           u"came, so that nobo\ndy could tell afterwards where an\ny blank might still belong, nor "
