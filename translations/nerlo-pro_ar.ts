@@ -262,7 +262,7 @@
     </message>
     <message>
         <source>sFileDamaged</source>
-        <translation>يبدأ محتواه من جديد. يُحفظ الملف التالف بجانب موضعه، وفي اسمه «.unreadable-» والوقت.</translation>
+        <translation>يبدأ محتواه من جديد. يُحفظ الملف التالف بجانب موضعه، وفي اسمه «⁦.unreadable-⁩» والوقت.</translation>
     </message>
     <message>
         <source>sSettingsNotSaved</source>
