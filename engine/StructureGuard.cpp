@@ -507,8 +507,12 @@ class Guard {
         }
         const View mark = cut(line.quoted, line.words);
         if (bulletsGo_ && line.item) {
-            // An "o" is a bullet behind a break only.
-            to.append(removeBullets(std::u16string(u"\n").append(mark)), 1);
+            if (mark != itemMark_) {
+                itemMark_ = mark;
+                // An "o" is a bullet behind a break only.
+                itemMarkLeft_ = removeBullets(std::u16string(u"\n").append(mark)).substr(1);
+            }
+            to.append(itemMarkLeft_);
         } else {
             to.append(mark);
         }
@@ -637,6 +641,8 @@ class Guard {
     Literals breaks_;
     std::vector<text::Range> ranges_;
     std::u16string marks_;
+    std::u16string itemMark_;     // of the last item; most are like the one before
+    std::u16string itemMarkLeft_; // what is left of it without its bullet
     std::u16string literal_;
     text::Range fixed_;
     std::size_t quotationEnd_ = 0; // of the quoted paragraph looked at last

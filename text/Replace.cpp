@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <type_traits>
 
 namespace nerlo::text {
@@ -370,7 +371,7 @@ class ClusterMemory {
     Entry &of(const char16_t *cluster, std::size_t size, bool &known) {
         std::uint64_t units = 0;
         std::memcpy(&units, cluster, size * sizeof *cluster);
-        Entry &entry = entries_[(units * 0x9E3779B97F4A7C15u) >> 56];
+        Entry &entry = entries_[(units * 0x9E3779B97F4A7C15u) >> 58];
         known = entry.units == units && entry.size == size;
         entry.units = units;
         entry.size = static_cast<std::uint8_t>(size);
@@ -378,7 +379,7 @@ class ClusterMemory {
     }
 
   private:
-    std::array<Entry, 256> entries_{};
+    std::array<Entry, 64> entries_{};
 };
 
 void applyRows(std::u16string &cluster, std::span<const Replacement> rows) {
@@ -398,7 +399,7 @@ std::u16string ReplacementTable::apply(std::u16string text) const {
     if (pivot == text.size()) {
         return text;
     }
-    ClusterMemory memory;
+    std::optional<ClusterMemory> memory; // short texts mostly need none
     std::u16string cluster;
     char16_t *const units = text.data();
     const std::size_t size = text.size();
@@ -406,21 +407,28 @@ std::u16string ReplacementTable::apply(std::u16string text) const {
     std::size_t from = 0; // what is read; nothing behind it is looked at again
     while (pivot < size) {
         std::size_t begin = pivot;
-        while (begin > from && inCluster_.contains(units[begin - 1])) {
+        while (begin > from && isInCluster(units[begin - 1])) {
             --begin;
         }
         std::size_t end = pivot + 1;
-        while (end < size && inCluster_.contains(units[end])) {
+        while (end < size && isInCluster(units[end])) {
             ++end;
+        }
+        const std::size_t length = end - begin;
+        if (length < shortest_) {
+            pivot = cursor.nextFrom(end);
+            continue;
         }
         if (to != from) {
             move(units + to, units + from, begin - from);
         }
         to += begin - from;
-        const std::size_t length = end - begin;
         if (length <= ClusterMemory::longest) {
+            if (!memory) {
+                memory.emplace();
+            }
             bool known = false;
-            ClusterMemory::Entry &entry = memory.of(units + begin, length, known);
+            ClusterMemory::Entry &entry = memory->of(units + begin, length, known);
             if (!known) {
                 cluster.assign(units + begin, length);
                 applyRows(cluster, rows_);

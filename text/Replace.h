@@ -7,6 +7,7 @@
 #include "text/Range.h"
 #include "text/UnitScan.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
@@ -68,6 +69,7 @@ class ReplacementTable {
         : rows_(rows)
         , pivots_(pivots) {
         for (const Replacement &row : rows) {
+            shortest_ = std::min(shortest_, row.find.size());
             bool hasPivot = false;
             for (const char16_t unit : row.find) {
                 hasPivot = hasPivot || pivots_.contains(unit);
@@ -91,11 +93,20 @@ class ReplacementTable {
         if (!inCluster_.contains(unit)) {
             inCluster_.add(unit, unit);
         }
+        if (unit < ascii_.size()) {
+            ascii_[unit] = true;
+        }
+    }
+
+    bool isInCluster(char16_t unit) const {
+        return unit < ascii_.size() ? ascii_[unit] : inCluster_.contains(unit);
     }
 
     std::span<const Replacement> rows_;
     UnitSet pivots_;
     UnitSet inCluster_;
+    std::array<bool, 128> ascii_{};                    // those of its units that are ASCII
+    std::size_t shortest_ = std::u16string_view::npos; // a shorter cluster holds no match
 };
 
 } // namespace nerlo::text
