@@ -1,15 +1,14 @@
 #include "engine/Structure.h"
 
+#include "engine/LineLooks.h"
 #include "text/Ascii.h"
 #include "text/Range.h"
 #include "text/UnitClasses.h"
 #include "text/UnitScan.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cstdint>
-#include <cstring>
 #include <span>
 
 namespace nerlo::engine {
@@ -43,121 +42,6 @@ constexpr text::UnitClasses classes = [] {
     some.add(letterW, text::UnitSet(u"w"));
     return some;
 }();
-
-bool isBlank(char16_t unit) {
-    return unit == u' ' || unit == u'\t' || unit == u'\u00A0';
-}
-
-std::size_t firstInk(View line, std::size_t from = 0) {
-    while (from < line.size() && isBlank(line[from])) {
-        ++from;
-    }
-    return from;
-}
-
-View trimmed(View line) {
-    line.remove_prefix(firstInk(line));
-    while (!line.empty() && isBlank(line.back())) {
-        line.remove_suffix(1);
-    }
-    return line;
-}
-
-// Of a literal, whose length the compiler knows; a view would count it anew each time.
-template <std::size_t size>
-bool begins(View text, const char16_t (&literal)[size]) {
-    return text.size() >= size - 1 && text[0] == literal[0] &&
-           std::memcmp(text.data(), literal, (size - 1) * sizeof *literal) == 0;
-}
-
-// Columns in front of `at`; a tab goes to the next multiple of four.
-std::size_t columnOf(View line, std::size_t at) {
-    std::size_t column = 0;
-    for (const char16_t unit : line.substr(0, at)) {
-        column = unit == u'\t' ? column / 4 * 4 + 4 : column + 1;
-    }
-    return column;
-}
-
-std::size_t runOf(View text, char16_t unit) {
-    return std::min(text.find_first_not_of(unit), text.size());
-}
-
-constexpr std::array<View, 40> codeStarts{
-    u"#include", u"#define",  u"#if",    u"#!",      u"//",      u"/*",      u"*/",     u"def ",
-    u"class ",   u"import ",  u"return", u"if (",    u"if(",     u"for (",   u"for(",   u"while (",
-    u"else:",    u"else {",   u"elif ",  u"} ",      u"}",       u"{",       u"]",      u"const ",
-    u"let ",     u"var ",     u"fn ",    u"func ",   u"pub ",    u"static ", u"using ", u"package ",
-    u"public ",  u"private ", u"void ",  u"SELECT ", u"export ", u"@",       u"\"",     u"<"};
-
-// By the first three units, which every start that begins with a letter has.
-constexpr std::size_t hashOf(View start) {
-    return ((start[0] * 31u + start[1]) * 31u + start[2]) % 1024;
-}
-
-constexpr auto codeHashes = [] {
-    std::array<bool, 1024> found{};
-    for (const View start : codeStarts) {
-        if (isAsciiLetter(start[0])) {
-            found.at(hashOf(start)) = true;
-        }
-    }
-    return found;
-}();
-
-// What the others begin with.
-constexpr auto codeSigns = [] {
-    text::UnitSet signs;
-    for (const View start : codeStarts) {
-        if (!isAsciiLetter(start[0])) {
-            signs.add(start[0], start[0]);
-        }
-    }
-    return signs;
-}();
-
-bool beginsLikeCode(View words) {
-    const bool may = isAsciiLetter(words[0]) ? words.size() > 2 && codeHashes[hashOf(words)]
-                                             : codeSigns.contains(words[0]);
-    if (!may) {
-        return false;
-    }
-    return std::ranges::any_of(
-        codeStarts, [&](View start) { return words[0] == start[0] && words.starts_with(start); });
-}
-
-// Whether a line may look like code although it has no marks.
-bool mayBeCode(View line) {
-    const bool comma = line.size() > 1 && line.back() == u',';
-    const char16_t last = comma ? line[line.size() - 2] : line.back();
-    return (comma ? last == u')' || last == u'"' : last == u'(') || beginsLikeCode(line);
-}
-
-// "-rw-r--r-- 1 root": a line of a list of files.
-bool isFileMode(View words) {
-    return words.size() > 10 && (words[1] == u'-' || words[1] == u'r') &&
-           View(u"-dlbcps").find(words[0]) != View::npos &&
-           words.substr(1, 9).find_first_not_of(u"rwxsStT-") == View::npos;
-}
-
-// Whether a look at the first units is enough to see that no block begins with these words, unless
-// they have marks.
-bool beginsLikeProse(View words) {
-    if (words.size() < 3 || !isAsciiLetter(words[0]) || words[1] == u'.' || words[1] == u')') {
-        return false;
-    }
-    const bool mayBeginBlock = words[1] == u'S' ? begins(words, u"PS ")
-                               : words[1] == u'r' || words[1] == u'-'
-                                   ? isFileMode(words)
-                                   : words[1] == u'i' && begins(words, u"diff ");
-    return !mayBeginBlock;
-}
-
-// Whether a look at both ends of a line without marks, tabs and gaps is enough to see that it is
-// prose, or goes with the lines around it.
-bool isOrdinary(View line) {
-    return beginsLikeProse(line) && !mayBeCode(line);
-}
 
 // Walks over the breaks of a text and tells for each line whether it has marks or wide gaps.
 class LineScan {
@@ -259,7 +143,7 @@ class LineScan {
         line.tabular = tabular_;
         line.valued = valued_;
         line.mayBreak = whole.ends_with(u"  ") || whole.ends_with(u'\\');
-        line.ordinary = !marked_ && !tabular_ && isOrdinary(whole);
+        line.ordinary = !marked_ && !tabular_ && looks::isOrdinary(whole);
         begin_ = end + breakSize;
         marked_ = tabular_ = valued_ = false;
     }
@@ -277,222 +161,17 @@ class LineScan {
     bool valued_ = false;
 };
 
-// A line of three or more of one sign, blanks between them allowed: "---", "* * *".
-bool isRule(View words) {
-    if (words.size() < 3 || (words[1] != words[0] && !isBlank(words[1])) ||
-        View(u"-*_=~#+\u2500\u2501\u2550\u2014").find(words[0]) == View::npos) {
-        return false;
-    }
-    std::size_t signs = 0;
-    for (const char16_t unit : words) {
-        if (unit == words[0]) {
-            ++signs;
-        } else if (!isBlank(unit)) {
-            return false;
-        }
-    }
-    return signs >= 3;
-}
-
-bool isHeading(View words) {
-    const std::size_t signs = runOf(words, u'#');
-    return signs >= 1 && signs <= 6 && (signs == words.size() || isBlank(words[signs]));
-}
-
-// The size of a list mark with the blanks behind it, or 0: "- ", "12. ", "(a) ", "[x] ", "• ".
-std::size_t listMark(View words) {
-    std::size_t size = 0;
-    if (!words.empty() && View(u"-*+\u2022\u2023\u25E6\u2043\u2219\u00B7\u25AA\u25CF\u25CB\u25A0"
-                               u"\u25B8\u25BA\u2013\u2014\u23FA")
-                                  .find(words[0]) != View::npos) {
-        size = 1;
-    } else {
-        const std::size_t open = words.starts_with(u'(') ? 1 : 0;
-        std::size_t at = open;
-        while (at < words.size() && at < open + 9 && isAsciiDigit(words[at])) {
-            ++at;
-        }
-        if (at == open && at < words.size() && isAsciiLetter(words[at])) {
-            ++at;
-        }
-        const bool closed = at > open && at < words.size() &&
-                            (words[at] == u')' || (words[at] == u'.' && open == 0));
-        size = closed ? at + 1 : 0;
-    }
-    // Alone on its line, a letter with a dot is the end of a sentence rather than an empty item.
-    const bool alone = size == words.size();
-    if (size == 0 || (alone ? isAsciiLetter(words[0]) : !isBlank(words[size]))) {
-        return 0;
-    }
-    return firstInk(words, size);
-}
-
-// "user@host" at the beginning.
-bool beginsWithHost(View words) {
-    const std::size_t sign = words.find_first_of(u"@ ");
-    return sign != View::npos && sign > 0 && words[sign] == u'@';
-}
-
-// "$ make", "user@host:~/dir$ ls", ">>> x", "PS C:\> dir".
-bool isPrompt(View words) {
-    static constexpr std::array<View, 7> signs{u"$ ",      u"% ",      u">>> ", u"... ",
-                                               u"\u276F ", u"\u279C ", u"PS "};
-    for (const View sign : signs) {
-        if (words[0] == sign[0] && words.starts_with(sign)) {
-            return sign != u"PS " || words.find(u"> ") != View::npos;
-        }
-    }
-    if (!beginsWithHost(words)) {
-        return false;
-    }
-    const std::size_t sign = words.find_first_of(u"$#%");
-    return sign != View::npos && (sign + 1 == words.size() || words[sign + 1] == u' ') &&
-           words.substr(0, sign).find(u' ') == View::npos;
-}
-
-std::size_t digitsAt(View words, std::size_t at) {
-    std::size_t end = at;
-    while (end < words.size() && isAsciiDigit(words[end])) {
-        ++end;
-    }
-    return end - at;
-}
-
-// Behind "2025-03-01", "1/3/25", "1.3.2025" or "Mar  1" at `at`; `at` where there is none.
-std::size_t dateEnd(View words, std::size_t at) {
-    static constexpr View months = u"Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec ";
-    const View name = words.substr(at, 4);
-    if (name.size() == 4 && name[3] == u' ' && isAsciiLetter(name[0]) &&
-        months.find(name) % 4 == 0) {
-        const std::size_t day = firstInk(words, at + 4);
-        return digitsAt(words, day) > 0 ? day + digitsAt(words, day) : at;
-    }
-    std::size_t end = at;
-    for (int part = 0; part < 3; ++part) {
-        const std::size_t digits = digitsAt(words, end);
-        if (digits == 0 || digits > 4) {
-            return at;
-        }
-        end += digits;
-        if (part < 2) {
-            if (end == words.size() || View(u"-/.").find(words[end]) == View::npos) {
-                return at;
-            }
-            ++end;
-        }
-    }
-    return end;
-}
-
-// A day with the time of it, as entries of logs and of chats begin, or "[  12.345678]".
-bool isStamped(View words) {
-    const std::size_t open = words.starts_with(u'[') ? 1 : 0;
-    const std::size_t end = dateEnd(words, open);
-    if (end > open) {
-        std::size_t clock = words.find_first_not_of(u", T", end);
-        clock = std::min(clock, words.size());
-        const std::size_t hours = digitsAt(words, clock);
-        return clock > end && hours > 0 && hours < 3 && words.substr(clock + hours, 1) == u":" &&
-               digitsAt(words, clock + hours + 1) == 2;
-    }
-    const std::size_t seconds = firstInk(words, open);
-    const std::size_t dot = seconds + digitsAt(words, seconds);
-    return open == 1 && dot > seconds && words.substr(dot, 1) == u"." &&
-           words.substr(dot + 1 + digitsAt(words, dot + 1), 1) == u"]";
-}
-
-// "#1  main ()": a row of a debugger's stack.
-bool isStackFrame(View words) {
-    const std::size_t digits = words.starts_with(u'#') ? digitsAt(words, 1) : 0;
-    return digits > 0 && words.substr(1 + digits).starts_with(u"  ");
-}
-
-// "-- Name <mail>  day": below an entry of a changelog.
-bool isSigned(View words) {
-    return begins(words, u"-- ") && words.find(u">  ") != View::npos;
-}
-
-// "key: value", the key a single word.
-bool isKeyed(View words) {
-    const std::size_t colon = words.find_first_of(u": ");
-    return colon != View::npos && colon > 0 && words[colon] == u':' && isAsciiLetter(words[0]) &&
-           (colon + 1 == words.size() || isBlank(words[colon + 1]));
-}
-
-constexpr std::array<View, 34> blockTags{
-    u"address", u"article", u"aside", u"blockquote", u"body",   u"center", u"details",
-    u"dialog",  u"div",     u"dl",    u"fieldset",   u"figure", u"footer", u"form",
-    u"h1",      u"h2",      u"h3",    u"head",       u"header", u"hr",     u"html",
-    u"iframe",  u"li",      u"link",  u"main",       u"nav",    u"ol",     u"p",
-    u"section", u"table",   u"td",    u"tr",         u"ul",     u"summary"};
-constexpr std::array<View, 4> rawTags{u"script", u"pre", u"style", u"textarea"};
-
-bool isTag(View words, std::span<const View> names) {
-    std::size_t at = begins(words, u"</") ? 2 : 1;
-    std::u16string name;
-    for (; at < words.size() && name.size() < 12 &&
-           (isAsciiLetter(words[at]) || isAsciiDigit(words[at]));
-         ++at) {
-        name.push_back(
-            static_cast<char16_t>(isAsciiLetter(words[at]) ? words[at] | 0x20 : words[at]));
-    }
-    return std::ranges::find(names, View(name)) != names.end();
-}
-
-// What ends a block of HTML that begins with these words: a text, "" for a blank line. Inside of a
-// paragraph, a tag alone on its line begins none.
-const char16_t *endOfMarkup(View words, bool insideParagraph) {
-    if (!words.starts_with(u'<')) {
-        return nullptr;
-    }
-    if (begins(words, u"<!--")) {
-        return u"-->";
-    }
-    if (begins(words, u"<?")) {
-        return u"?>";
-    }
-    if (begins(words, u"<!")) {
-        return u">";
-    }
-    if (!begins(words, u"</") && isTag(words, rawTags)) {
-        return u"</";
-    }
-    const bool alone = words.size() > 2 && (isAsciiLetter(words[1]) || words[1] == u'/') &&
-                       words.find(u'>') == words.size() - 1 && words.find(u"://") == View::npos &&
-                       words.find(u'@') == View::npos;
-    return isTag(words, blockTags) || (alone && !insideParagraph) ? u"" : nullptr;
-}
-
-// "[name]: address"
-bool isLinkDefinition(View words) {
-    const std::size_t close = words.starts_with(u'[') ? words.find(u"]:") : View::npos;
-    return close != View::npos && close > 1 && words.substr(0, close).find(u'[', 1) == View::npos;
-}
-
-bool isPatchHead(View line) {
-    return begins(line, u"diff --git ") || begins(line, u"@@ -") || begins(line, u"Index: ");
-}
-
-bool goesOnInPatch(View line) {
-    if (line.empty()) {
-        return false;
-    }
-    return View(u" +-@\\").find(line[0]) != View::npos || begins(line, u"index ") ||
-           begins(line, u"diff ") || begins(line, u"new file") || begins(line, u"deleted file") ||
-           begins(line, u"similarity ") || begins(line, u"rename ") || begins(line, u"Binary ");
-}
-
 // Where the line at `at` ends, and where the next one begins.
 text::Range endOfLine(View text, std::size_t at) {
     static constexpr text::UnitSet breaks(u"\r\n");
     const std::size_t end = text::findUnit(text, at, breaks);
-    const std::size_t size = begins(text.substr(end), u"\r\n") ? 2 : 1;
+    const std::size_t size = looks::begins(text.substr(end), u"\r\n") ? 2 : 1;
     return {end, std::min(end + size, text.size())};
 }
 
 // Where YAML between two "---" at the very top ends, with the break behind it; 0 for none.
 std::size_t endOfFrontMatter(View text) {
-    std::size_t at = begins(text, u"---") ? endOfLine(text, 0).begin : 0;
+    std::size_t at = looks::begins(text, u"---") ? endOfLine(text, 0).begin : 0;
     if (at != 3) {
         return 0;
     }
@@ -500,7 +179,7 @@ std::size_t endOfFrontMatter(View text) {
     for (bool first = true; at < text.size(); first = false) {
         const text::Range end = endOfLine(text, at);
         const View line = text.substr(at, end.begin - at);
-        if (trimmed(line).empty() || (first && line.find(u':') == View::npos)) {
+        if (looks::trimmed(line).empty() || (first && line.find(u':') == View::npos)) {
             return 0;
         }
         if (line == u"---" || line == u"...") {
@@ -552,7 +231,7 @@ class MarkedStructure {
 
     LineKind next() {
         auto &line = lines_[at_];
-        std::size_t words = firstInk(line_);
+        std::size_t words = looks::firstInk(line_);
         line.words = line.begin + words;
         if (fenceSize_ > 0) {
             return insideFence();
@@ -577,7 +256,7 @@ class MarkedStructure {
             signature_ = true;
             return LineKind::signature;
         }
-        patch_ = isPatchHead(line_) || (patch_ && goesOnInPatch(line_));
+        patch_ = looks::isPatchHead(line_) || (patch_ && looks::goesOnInPatch(line_));
         if (patch_) {
             return LineKind::diff;
         }
@@ -592,7 +271,7 @@ class MarkedStructure {
 
     LineKind withoutQuote(std::size_t words, bool blankAbove) {
         auto &line = lines_[at_];
-        std::size_t column = columnOf(line_, words);
+        std::size_t column = looks::columnOf(line_, words);
         bool apart = blankAbove || above_ == LineKind::code || above_ == LineKind::heading ||
                      above_ == LineKind::rule || above_ == LineKind::fence;
         if (column >= content_ + 4 && apart) {
@@ -601,10 +280,10 @@ class MarkedStructure {
         const std::size_t quote = words;
         std::size_t behind = words; // the marks and one blank each
         while (words < line_.size() && line_[words] == u'>' &&
-               !begins(line_.substr(words), u">>> ")) {
+               !looks::begins(line_.substr(words), u">>> ")) {
             behind = words + 1;
-            behind += behind < line_.size() && isBlank(line_[behind]) ? 1 : 0;
-            words = firstInk(line_, words + 1);
+            behind += behind < line_.size() && looks::isBlank(line_[behind]) ? 1 : 0;
+            words = looks::firstInk(line_, words + 1);
         }
         const bool quoted = words > quote;
         apart = apart || (quoted && !quotedAbove_);
@@ -619,8 +298,9 @@ class MarkedStructure {
             return LineKind::prose; // "> " alone: a blank line of the quotation
         }
         // A tab behind the mark reaches as far as it would without the mark.
-        const std::size_t marksEnd = columnOf(line_, behind - (line_[behind - 1] == u'\t' ? 1 : 0));
-        column = columnOf(line_, words) - marksEnd - (line_[behind - 1] == u'\t' ? 1 : 0);
+        const std::size_t marksEnd =
+            looks::columnOf(line_, behind - (line_[behind - 1] == u'\t' ? 1 : 0));
+        column = looks::columnOf(line_, words) - marksEnd - (line_[behind - 1] == u'\t' ? 1 : 0);
         return inside(line_.substr(words), column, apart);
     }
 
@@ -628,8 +308,9 @@ class MarkedStructure {
     // between them are what had no room on the screen.
     bool isNumbered(std::size_t words) {
         constexpr std::size_t most = 9; // digits
-        const std::size_t end = words + (words > 0 ? digitsAt(line_, words) : 0);
-        if (end == words || end - words > most || (end < line_.size() && !isBlank(line_[end]))) {
+        const std::size_t end = words + (words > 0 ? looks::digitsAt(line_, words) : 0);
+        if (end == words || end - words > most ||
+            (end < line_.size() && !looks::isBlank(line_[end]))) {
             numberEnd_ = words > 1 ? 0 : numberEnd_;
             return false;
         }
@@ -659,11 +340,11 @@ class MarkedStructure {
         if (column < content_ && (apart || above_ != LineKind::prose)) {
             content_ = 0;
         }
-        if (beginsLikeProse(words) &&
-            !(line.marked && (beginsWithHost(words) || isStamped(words)))) {
+        if (looks::beginsLikeProse(words) &&
+            !(line.marked && (looks::beginsWithHost(words) || looks::isStamped(words)))) {
             return LineKind::prose;
         }
-        if (isRule(trimmed(words))) {
+        if (looks::isRule(looks::trimmed(words))) {
             content_ = 0;
             const bool underlines = words[0] == u'=' || words[0] == u'-';
             if (underlines && above_ == LineKind::prose && !apart) {
@@ -671,25 +352,25 @@ class MarkedStructure {
             }
             return LineKind::rule;
         }
-        if (isHeading(words)) {
+        if (looks::isHeading(words)) {
             return LineKind::heading;
         }
-        if (isLinkDefinition(words)) {
+        if (looks::isLinkDefinition(words)) {
             return LineKind::data;
         }
-        if ((markupEnd_ = endOfMarkup(words, !apart && above_ == LineKind::prose))) {
+        if ((markupEnd_ = looks::endOfMarkup(words, !apart && above_ == LineKind::prose))) {
             return insideMarkup();
         }
-        if (isPrompt(words) && (words[0] != u'.' || above_ == LineKind::prompt)) {
+        if (looks::isPrompt(words) && (words[0] != u'.' || above_ == LineKind::prompt)) {
             return LineKind::prompt;
         }
-        if (isFileMode(words) || isStamped(words) || isSigned(words)) {
+        if (looks::isFileMode(words) || looks::isStamped(words) || looks::isSigned(words)) {
             return LineKind::table;
         }
-        if (isStackFrame(words)) {
+        if (looks::isStackFrame(words)) {
             return LineKind::code;
         }
-        if (const std::size_t mark = listMark(words)) {
+        if (const std::size_t mark = looks::listMark(words)) {
             line.item = true;
             line.words += mark;
             content_ = column + mark;
@@ -707,14 +388,14 @@ class MarkedStructure {
 
     // Tildes as long as the line above make it a heading, as in reStructuredText.
     bool isUnderline(View words) const {
-        return words.size() > 3 && words[0] == u'~' && runOf(words, u'~') == words.size() &&
+        return words.size() > 3 && words[0] == u'~' && looks::runOf(words, u'~') == words.size() &&
                above_ == LineKind::prose &&
                lines_[at_ - 1].end - lines_[at_ - 1].words == words.size();
     }
 
     bool opensFence(View words) {
         const char16_t sign = words.empty() ? u'\0' : words[0];
-        const std::size_t size = sign == u'`' || sign == u'~' ? runOf(words, sign) : 0;
+        const std::size_t size = sign == u'`' || sign == u'~' ? looks::runOf(words, sign) : 0;
         if (size < 3 || (sign == u'`' && words.find(sign, size) != View::npos)) {
             return false;
         }
@@ -724,12 +405,12 @@ class MarkedStructure {
     }
 
     LineKind insideFence() {
-        View words = line_.substr(firstInk(line_));
+        View words = line_.substr(looks::firstInk(line_));
         while (words.starts_with(u'>')) {
-            words = words.substr(firstInk(words, 1));
+            words = words.substr(looks::firstInk(words, 1));
         }
-        words = trimmed(words);
-        if (words.size() >= fenceSize_ && runOf(words, fenceSign_) == words.size()) {
+        words = looks::trimmed(words);
+        if (words.size() >= fenceSize_ && looks::runOf(words, fenceSign_) == words.size()) {
             fenceSize_ = 0;
         }
         return LineKind::fence;
@@ -738,7 +419,7 @@ class MarkedStructure {
     LineKind insideMarkup() {
         const View end(markupEnd_);
         const bool ends =
-            end.empty() ? firstInk(line_) == line_.size() : line_.find(end) != View::npos;
+            end.empty() ? looks::firstInk(line_) == line_.size() : line_.find(end) != View::npos;
         if (ends) {
             markupEnd_ = nullptr;
             if (end.empty()) {
@@ -767,139 +448,6 @@ class MarkedStructure {
     bool patch_ = false;
     bool numbered_ = false;
 };
-
-// "|---|:-:|": below the head of a table of Markdown.
-bool isTableRule(View words) {
-    return words.find(u'|') != View::npos && words.find(u'-') != View::npos &&
-           words.find_first_not_of(u"|-: \t") == View::npos;
-}
-
-bool isDrawn(View words) {
-    return std::ranges::any_of(
-        words, [](char16_t unit) { return unit >= u'\u2500' && unit <= u'\u257F'; });
-}
-
-std::size_t innerTabs(View words) {
-    return static_cast<std::size_t>(std::ranges::count(trimmed(words), u'\t'));
-}
-
-// Most of its words are letters alone, as in a sentence.
-bool isWordy(View words) {
-    std::size_t plain = 0;
-    std::size_t all = 0;
-    for (std::size_t at = firstInk(words); at < words.size(); ++all) {
-        const std::size_t end = std::min(words.find(u' ', at), words.size());
-        View word = words.substr(at, end - at);
-        while (!word.empty() && View(u".,;:!?").find(word.back()) != View::npos) {
-            word.remove_suffix(1);
-        }
-        plain += !word.empty() && std::ranges::all_of(word, isAsciiLetter<char16_t>);
-        at = firstInk(words, end);
-    }
-    return plain > 5 && plain * 5 >= all * 3;
-}
-
-// The columns of a line: where ink ends before a gap of two or more blanks and begins behind it. A
-// gap behind the end of a sentence is how some people type; behind a name with a colon it is not.
-struct Columns {
-    std::vector<std::size_t> ends;
-    std::vector<std::size_t> starts;
-    std::size_t wide = 0; // gaps of more than two blanks
-    bool isFar = false;   // a gap that nobody leaves by mistake, or one before a remark
-    bool isField = false; // "Name:   value"
-    bool isProse = false; // words with no gap of more than two blanks, as justified text has
-};
-
-Columns columnsOf(View line, std::size_t words) {
-    Columns columns;
-    for (std::size_t at = words; at < line.size();) {
-        const std::size_t gap = line.find(u"  ", at);
-        if (gap == View::npos) {
-            break;
-        }
-        at = firstInk(line, gap);
-        const char16_t before = line[gap - 1];
-        const bool named =
-            before == u':' && line.substr(words, gap - words).find(u' ') == View::npos;
-        if (at < line.size() && (named || View(u".!?:").find(before) == View::npos)) {
-            columns.ends.push_back(gap);
-            columns.starts.push_back(at);
-            columns.wide += at - gap > 2 ? 1 : 0;
-            columns.isFar =
-                columns.isFar || at - gap > 4 || line[at] == u'#' || begins(line.substr(at), u"//");
-            columns.isField = columns.isField || named;
-        }
-    }
-    columns.isProse = columns.wide == 0 && !columns.isFar && !columns.starts.empty() &&
-                      isWordy(line.substr(words));
-    return columns;
-}
-
-std::ptrdiff_t sharedColumns(const std::vector<std::size_t> &a, const std::vector<std::size_t> &b) {
-    return std::ranges::count_if(
-        a, [&](std::size_t column) { return std::ranges::binary_search(b, column); });
-}
-
-// In prose, one of several gaps may well stand below another by chance, but hardly the first one.
-bool isAligned(const Columns &a, const Columns &b) {
-    const auto shared = std::max(sharedColumns(a.starts, b.starts), sharedColumns(a.ends, b.ends));
-    const bool several = a.starts.size() > 1 && b.starts.size() > 1;
-    if (several && a.isProse && b.isProse) {
-        return shared > 1 || a.starts[0] == b.starts[0];
-    }
-    return shared > 0 || several || (a.wide > 0 && b.wide > 0 && (a.isFar || b.isFar));
-}
-
-// Separators of a list of values: not followed by a blank, nor between digits.
-std::size_t separators(View words) {
-    static constexpr text::UnitSet units(u",;");
-    std::size_t count = 0;
-    text::UnitCursor cursor(words, units);
-    for (std::size_t at = cursor.next(); at + 1 < words.size(); at = cursor.next()) {
-        const bool number = words[at] == u',' && at > 0 && isAsciiDigit(words[at - 1]) &&
-                            isAsciiDigit(words[at + 1]);
-        count += isBlank(words[at + 1]) || number ? 0 : 1;
-    }
-    return count;
-}
-
-// "NAME=value"
-bool isAssignment(View words) {
-    const std::size_t sign = words.find_first_of(u"= ");
-    return sign != View::npos && sign > 0 && words[sign] == u'=' &&
-           (isAsciiLetter(words[0]) || words[0] == u'_');
-}
-
-// " = ", "();", "$(", "->" or "::".
-bool hasOperator(View words) {
-    static constexpr text::UnitSet signs(u"=;>:$");
-    text::UnitCursor cursor(words, signs);
-    for (std::size_t at = cursor.next(); at < words.size(); at = cursor.next()) {
-        const View before = words.substr(0, at + 1);
-        if (begins(words.substr(at), u"$(") || before.ends_with(u"();") ||
-            before.ends_with(u"->") || before.ends_with(u"::") ||
-            (before.ends_with(u" =") && words.substr(at + 1).starts_with(u' '))) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool hasSignsOfCode(View words) {
-    const char16_t last = words.back();
-    if (View(u"{};[(").find(last) != View::npos || words.ends_with(u"),") ||
-        words.ends_with(u"],") || words.ends_with(u"\",") ||
-        (words.ends_with(u"):") && words.find(u"](") == View::npos)) {
-        return true;
-    }
-    return last != u'.' && (beginsLikeCode(words) || isAssignment(words) || hasOperator(words));
-}
-
-bool looksLikeCode(View words) {
-    words = trimmed(words);
-    return !words.empty() && hasSignsOfCode(words) &&
-           !(isAsciiLetter(words.front()) && isWordy(words));
-}
 
 // The second pass: what lines say together. Takes each run of lines that the first pass left as
 // prose.
@@ -959,7 +507,8 @@ class Paragraphs {
 
     bool looksLikeCodeAt(std::size_t at) const {
         const View words = wordsAt(at);
-        return !words.empty() && (lines_[at].marked || mayBeCode(words)) && looksLikeCode(words);
+        return !words.empty() && (lines_[at].marked || looks::mayBeCode(words)) &&
+               looks::looksLikeCode(words);
     }
 
     void add(const StructuredLine &line) {
@@ -988,10 +537,10 @@ class Paragraphs {
         const auto &line = lines_[begin];
         const auto &below = lines_[begin + 1];
         const View words = lineAt(begin + 1);
-        const std::size_t indent = firstInk(words);
+        const std::size_t indent = looks::firstInk(words);
         const bool signs = below.item && !isAsciiDigit(words[indent]) &&
                            !isAsciiLetter(words[indent]) && words[indent] != u'(';
-        return signs && indent > 0 && indent == firstInk(lineAt(begin)) && !line.item &&
+        return signs && indent > 0 && indent == looks::firstInk(lineAt(begin)) && !line.item &&
                line.quoted == line.begin;
     }
 
@@ -1051,7 +600,7 @@ class Paragraphs {
             }
             if (below) {
                 line.kind = LineKind::code;
-            } else if (line.marked && isKeyed(wordsAt(at))) {
+            } else if (line.marked && looks::isKeyed(wordsAt(at))) {
                 below = true;
                 keyIndent = indent;
             }
@@ -1069,9 +618,9 @@ class Paragraphs {
         if (end - begin < 2 || !lines_[begin].valued || !lines_[begin + 1].valued) {
             return false;
         }
-        const std::size_t first = separators(wordsAt(begin));
+        const std::size_t first = looks::separators(wordsAt(begin));
         return first > 0 && (first > 1 || end - begin > 2) &&
-               separators(wordsAt(begin + 1)) == first;
+               looks::separators(wordsAt(begin + 1)) == first;
     }
 
     // Below its first line, prose outside of lists keeps to one edge.
@@ -1081,7 +630,7 @@ class Paragraphs {
 
     void tables(std::size_t begin, std::size_t end) {
         bool below = false; // the rule of a table of Markdown
-        Columns columns;
+        looks::Columns columns;
         std::size_t tabs = 0;
         bool barredAbove = false;
         for (std::size_t at = begin; at < end; ++at) {
@@ -1093,18 +642,18 @@ class Paragraphs {
                 continue;
             }
             const View words = wordsAt(at);
-            below = (below && words.find(u'|') != View::npos) || isTableRule(words);
-            Columns own = columnsOf(lineAt(at), lines_[at].words - lines_[at].begin);
-            const std::size_t ownTabs = innerTabs(words);
+            below = (below && words.find(u'|') != View::npos) || looks::isTableRule(words);
+            looks::Columns own = looks::columnsOf(lineAt(at), lines_[at].words - lines_[at].begin);
+            const std::size_t ownTabs = looks::innerTabs(words);
             const std::size_t indent = lines_[at].words - lines_[at].begin;
             const bool hangs = // in the column above, or behind a sign in it: "= words"
                 indent >= hanging && std::ranges::any_of(columns.starts, [&](std::size_t start) {
                     return start <= indent && indent <= start + 2;
                 });
-            const bool aligned = at > begin && (hangs || isAligned(columns, own) ||
+            const bool aligned = at > begin && (hangs || looks::isAligned(columns, own) ||
                                                 (ownTabs > 0 && ownTabs == tabs) ||
                                                 (columns.isField && own.isField));
-            if (aligned || (below && at > begin && isTableRule(words))) {
+            if (aligned || (below && at > begin && looks::isTableRule(words))) {
                 lines_[at - 1].kind = LineKind::table;
             }
             const bool barred = words.find(u'|') != View::npos;
@@ -1115,7 +664,7 @@ class Paragraphs {
                                (barred && barredAbove);
             barredAbove = barred;
             if (aligned || alone || below || ownTabs > 1 || words.starts_with(u'|') ||
-                isDrawn(words)) {
+                looks::isDrawn(words)) {
                 lines_[at].kind = LineKind::table;
             }
             columns = std::move(own);
