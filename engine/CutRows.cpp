@@ -82,8 +82,28 @@ class CutRows {
                line.kind == LineKind::data || line.kind == LineKind::numbered;
     }
 
-    // A cut row goes on without the marks of a quotation.
-    bool isQuoted(std::size_t at) const { return lines_[at].quoted > lines_[at].begin + 1; }
+    // A cut row goes on without the marks of a quotation, unless the sign closes what it opened.
+    bool isQuoted(std::size_t at) const {
+        if (lines_[at].quoted <= lines_[at].begin + 1) {
+            return false;
+        }
+        const View above = rowAt(lines_[at - 1]);
+        const std::size_t open = above.rfind(u'<');
+        return open == View::npos || above.find_first_of(u"> ", open) != View::npos;
+    }
+
+    // The first row of a paragraph, with blanks in front of it alone.
+    bool isSetIn(std::size_t at) const {
+        const bool begins = at == 0 || widths_[at - 1] == 0;
+        if (!begins || lines_[at].kind != LineKind::code || lines_[at].item ||
+            widths_[at] != width_ || at + 1 == lines_.size()) {
+            return false;
+        }
+        const View row = rowAt(lines_[at]);
+        const std::size_t indent = indentOf(row);
+        return indent >= codeIndent && row[indent] >= u'A' && row[indent] <= u'Z' &&
+               indentOf(rowAt(lines_[at + 1])) < 2;
+    }
 
     // What the row that goes on is taken for says nothing.
     bool mayGoOn(std::size_t at, bool inside = false) const {
@@ -164,7 +184,7 @@ class CutRows {
     }
 
     bool goesOn(std::size_t at, bool inside) const {
-        if (!mayGoOn(at, inside) || indentOf(rowAt(lines_[at + 1])) > 1) {
+        if (!mayGoOn(at, inside || isSetIn(at)) || indentOf(rowAt(lines_[at + 1])) > 1) {
             return false;
         }
         if (widths_[at] == width_) {
@@ -270,7 +290,8 @@ class CutRows {
         }
         const auto &last = lines_[end];
         joined.append(text_, last.begin, last.end - last.begin);
-        if (end > begin && doubtful && !lines_[begin].item && !isProseWhole(joined)) {
+        if (end > begin && doubtful && !lines_[begin].item &&
+            !(isProseWhole(joined) && (!isSetIn(begin) || endsSentence(joined)))) {
             joined.assign(text_, lines_[begin].begin, last.end - lines_[begin].begin);
         }
         result.append(joined).append(text_, last.end, last.breakSize);
