@@ -79,11 +79,13 @@ TEST(TerminalText, TellsCutRowsFromWrappedOnes) {
           u"Rows that somebody wrapped at sixty colum\nns of an edit\n"
           u"or come out of a narrower pane cut in the\n middle of words\n"
           u"and the rest of each stands below the one\n that is full.\n"
-          u"- An item as wide as the screen by chance\n- Next\n",
+          u"- An item as wide as the screen by chance\n- Next\n\n"
+          u"    Here is Janet <janet@some.example.org\n> set in.\n",
           u"Rows that somebody wrapped at sixty columns of an edit\n"
           u"or come out of a narrower pane cut in the middle of words\n"
           u"and the rest of each stands below the one that is full.\n"
-          u"- An item as wide as the screen by chance\n- Next\n"},
+          u"- An item as wide as the screen by chance\n- Next\n\n"
+          u"    Here is Janet <janet@some.example.org> set in.\n"},
          {"a pager's last row is no text",
           u"The quick brown fox jumps over the lazy dog\nand then it sleeps under the old oak "
           u"tree\nuntil the morning comes up over the hills\nnotes.txt",
