@@ -101,12 +101,16 @@ class Owner {
         return 1;
     }
 
+    // Who takes it at the same moment may have a later time, and then keeps it.
     void own(const char *selection) {
-        set(window_, x_->atom("TIME"), XCB_ATOM_INTEGER, 8, "");
-        const auto event = await(XCB_PROPERTY_NOTIFY);
-        xcb_set_selection_owner(x_->get(), window_, x_->atom(selection),
-                                as<xcb_property_notify_event_t>(event).time);
-        xcb_flush(x_->get());
+        for (Reply<xcb_get_selection_owner_reply_t> owner; !owner || owner->owner != window_;) {
+            set(window_, x_->atom("TIME"), XCB_ATOM_INTEGER, 8, "");
+            const auto event = await(XCB_PROPERTY_NOTIFY);
+            xcb_set_selection_owner(x_->get(), window_, x_->atom(selection),
+                                    as<xcb_property_notify_event_t>(event).time);
+            owner.reset(xcb_get_selection_owner_reply(
+                x_->get(), xcb_get_selection_owner(x_->get(), x_->atom(selection)), nullptr));
+        }
     }
 
     void set(xcb_window_t window, xcb_atom_t property, xcb_atom_t propertyType, std::uint8_t unit,

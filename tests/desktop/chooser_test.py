@@ -8,7 +8,7 @@ import plistlib
 import re
 import unittest
 
-from desktop_session import TEXT, WAYLAND, Eyes, Logged, Program, desktop, wait_until
+from desktop_session import TEXT, WAYLAND, Eyes, Logged, Program, desktop, do_until, wait_until
 
 CONFIG = os.environ["XDG_CONFIG_HOME"] + "/nerlo-pro"
 FIELD = os.environ["NERLO_FIELD"]
@@ -56,10 +56,10 @@ class ChooserTest(unittest.TestCase):
         self.open()
         self.find("sort")
         self.desktop.keys("Return")
-        wait_until(lambda: self.desktop.paste() == "apple\nfig\npear", "the result is there")
+        self.desktop.expect("apple\nfig\npear")
         wait_until(self.closed, "the chooser is gone")
         self.assertEqual(self.program.call("Restore")[0], "done")
-        self.assertEqual(self.desktop.paste(), LINES)
+        self.desktop.expect(LINES)
 
     def test_what_is_shown_is_what_one_gets_and_the_arrows_choose(self):
         self.open()
@@ -72,9 +72,9 @@ class ChooserTest(unittest.TestCase):
         wait_until(lambda: self.eyes.text(after) == "apple\nfig\npear", "it is the sorted text")
         self.desktop.keys("Escape")
         wait_until(self.closed, "the chooser is gone")
-        self.assertEqual(self.desktop.paste(), LINES)
-        self.desktop.keys("q")
-        wait_until(lambda: self.field.lines == ["q"], "the other program has the keyboard again")
+        self.desktop.expect(LINES)
+        do_until(lambda: self.desktop.keys("q"), lambda: self.field.lines,
+                 "the other program has the keyboard again")
 
     def test_shift_enter_pastes_into_the_program_in_front(self):
         self.open()
@@ -82,7 +82,7 @@ class ChooserTest(unittest.TestCase):
         self.desktop.keys("shift+Return")
         # The field shows a line break in its own way.
         wait_until(lambda: re.fullmatch(r"apple\W+fig\W+pear\W", self.field.text), "it is pasted")
-        self.assertEqual(self.desktop.paste(), "apple\nfig\npear")
+        self.desktop.expect("apple\nfig\npear")
 
 
 if __name__ == "__main__":

@@ -18,19 +18,13 @@ import unittest
 
 import dbus
 
-from desktop_session import WAYLAND, Logged, Program, ask, copy, desktop, paste, read, wait_until
+from desktop_session import (WAYLAND, Logged, Program, ask, copy, copy_first, desktop, expect, formats,
+                             paste, read, wait_until)
 
 PROGRAM = os.environ["NERLO_PRO"]
 OWNER = os.environ["NERLO_OWNER"]
 TICK = 0.5
 PLAIN = {"text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"}
-PROTOCOL = {"TARGETS", "MULTIPLE", "TIMESTAMP", "SAVE_TARGETS"}
-
-
-def formats():
-    names = (read("wl-paste", "--list-types") if WAYLAND
-             else read("xclip", "-o", "-sel", "c", "-t", "TARGETS"))
-    return {name for name in (names or b"").decode().split("\n") if name} - PROTOCOL
 
 
 def owner(*arguments):
@@ -80,12 +74,6 @@ def nerlo(*arguments):
     return subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, timeout=60)
 
 
-def copy_first(data):
-    """Copies for what is asked of the program next: xclip takes the clipboard in its own time."""
-    copy(data)
-    wait_until(lambda: paste() == data, "the copy")
-
-
 class ClipboardTest(unittest.TestCase):
     def setUp(self):
         for folder in ("XDG_CONFIG_HOME", "XDG_DATA_HOME"):
@@ -104,7 +92,7 @@ class ClipboardTest(unittest.TestCase):
     def expect_clean(self, text):
         # xclip serves one reader of a large text at a time, so it is not read while the program does.
         wait_until(lambda: WAYLAND or "TEXT" in formats(), "the program owns the clipboard")
-        wait_until(lambda: paste() == text, f"the clipboard holds {text[:40]!r}")
+        expect(text)
         self.assertEqual(formats() - PLAIN, set())
 
     def test_a_copy_is_clean_when_it_is_pasted(self):
@@ -114,13 +102,14 @@ class ClipboardTest(unittest.TestCase):
                 with owner("UTF8_STRING=one   two", "text/plain=one   two",
                            "text/html=<b>one</b>   two"):
                     self.expect_clean(b"one two")
-                time.sleep(4 * TICK)
-                before = len(changes.lines)
+                # Its first line, be it of the content that there was; the copy; the clean.
+                wait_until(lambda: len(changes.lines) == 3, "the copy and one clean")
                 copy("drei   vier, f\u00fcnf".encode())
                 self.expect_clean("drei vier, f\u00fcnf".encode())
+                wait_until(lambda: len(changes.lines) == 5, "the copy and one clean")
                 time.sleep(4 * TICK)
-                self.assertEqual(len(changes.lines) - before, 2, "the copy and one clean")
-                self.assertEqual(paste(), "drei vier, f\u00fcnf".encode())
+                self.assertEqual(len(changes.lines), 5, "and no more")
+                expect("drei vier, f\u00fcnf".encode())
 
     def test_what_is_not_text_stays_as_it_is(self):
         picture = os.path.join(os.environ["NERLO_SESSION_DIR"], "picture")
@@ -145,13 +134,13 @@ class ClipboardTest(unittest.TestCase):
                         self.assertEqual(nerlo("--operation", "1").returncode, 0)
                     time.sleep(3 * TICK)
                     self.assertNotIn("replaced", copied.lines)
-                    read = {line for line in copied.lines if line.startswith("send")}
-                    self.assertLessEqual(read, {"send TARGETS", "send CLIPBOARD_STATE"})
+                    asked = {line for line in copied.lines if line.startswith("send")}
+                    self.assertLessEqual(asked, {"send TARGETS", "send CLIPBOARD_STATE"})
                     names = {item.rsplit("=", 1)[0] for item in content}
-                    self.assertEqual(formats(), names)
+                    wait_until(lambda: formats() == names, "the same formats")
                     for item in content:
                         kind, value = item.rsplit("=", 1)
-                        self.assertEqual(paste(kind), pixels if value[0] == "@" else value.encode())
+                        expect(pixels if value[0] == "@" else value.encode(), kind)
 
     def test_the_table_decides_by_what_programs_offer(self):
         """With the formats that real programs were seen to offer."""
@@ -188,7 +177,7 @@ class ClipboardTest(unittest.TestCase):
         for name, (more, text, row, result) in programs.items():
             with self.subTest(name), owner(*more, f"UTF8_STRING={text}", f"text/plain={text}"):
                 wait_until(lambda: row in nerlo("--why").stdout, f"{name}: {row} decides")
-                wait_until(lambda: paste() == result.encode(), "the clipboard holds the result")
+                expect(result.encode())
                 self.assertNotIn(text, nerlo("--why").stdout)
 
     def test_fifty_megabytes_do_not_hold_the_program_up(self):
@@ -210,7 +199,7 @@ class ClipboardTest(unittest.TestCase):
                 before = now
                 time.sleep(0.002)
             seen = looking.communicate()[0]
-        self.assertEqual(paste(), text.replace(b"  ", b" "))
+        self.assertEqual(paste(seconds=60), text.replace(b"  ", b" "))
         print(f"\nmost work of the main thread between two answers, 50 MB: {max(work) * 1000:.1f} ms")
         self.assertLess(max(work), 0.05)
 
@@ -248,7 +237,7 @@ class ClipboardTest(unittest.TestCase):
                 size = random.randrange(1_000_000)
                 copy(letters[i:i + size] + b"  %d" % i)
             last = letters[count - 1:count - 1 + size] + b" %d" % (count - 1)
-            wait_until(lambda: paste() == last, "the last copy is clean", 30)
+            expect(last)
 
         copy_all(20)  # what a first use takes once
         before = program.memory()
@@ -286,13 +275,13 @@ class ClipboardTest(unittest.TestCase):
                 self.addCleanup(copied.close)
                 if not together:
                     restore = begin_restore()
-                told = restore.communicate(timeout=30)[1]
+                told = restore.communicate(timeout=60)[1]
                 if not together:
                     self.assertEqual(restore.returncode, 1)
                     self.assertEqual(told, "nerlo-pro: not restored: newer copy\n")
                 for item in newer[name]:
                     kind, value = (item % i).split("=")
-                    self.assertEqual(paste(kind), value.encode())
+                    expect(value.encode(), kind)
                 self.assertNotIn("replaced", copied.lines)
                 copied.close()
 
@@ -306,19 +295,16 @@ class ClipboardTest(unittest.TestCase):
         pictures = [f"image/p{i}=picture" for i in range(10)]
         texts = {"UTF8_STRING": "a  b", "text/html": "<b>a</b>  b"}
         texts_given = [f"{kind}={value}" for kind, value in texts.items()]
-        for how in (["--slow", "800"], ["--mute"]):
+        for how in (["--slow", "2000"], ["--mute"]):
             cleaned.clear()
             with self.subTest(how), owner(*how, *pictures, *texts_given):
-                begin = time.monotonic()
-                wait_until(lambda: cleaned, "the clean is done", 10)
-                took = time.monotonic() - begin
-                print(f"\n{how[0]}: clean after {took:.2f} s")
-                self.assertLess(took, 4)  # 2 on a machine that is not busy
+                # It takes a second and a half; to wait for all the owner's answers, fifteen or more.
+                wait_until(lambda: cleaned, "the clean is done", 12)
             done = nerlo("--restore")
             self.assertEqual(done.returncode, 0)
             self.assertIn("could not be read", done.stderr)
             for kind, value in texts.items():
-                self.assertEqual(paste(kind), value.encode(), kind)
+                expect(value.encode(), kind)
 
     def test_two_programs_come_to_rest(self):
         home = tempfile.mkdtemp(dir=os.environ["NERLO_SESSION_DIR"])
@@ -326,20 +312,21 @@ class ClipboardTest(unittest.TestCase):
                        env=os.environ | {"XDG_CONFIG_HOME": home, "XDG_DATA_HOME": home})
         self.addCleanup(other.close)
         self.start_automatic()
-        for text, rich in ((b"one   two", False), (b"three   four", True), (b"one two", False)):
-            with self.subTest(text, rich=rich), watch_changes() as changes:
-                time.sleep(2 + 2 * TICK)  # both have had their first tick, or the last copy's
-                before = len(changes.lines)
-                if not rich:
-                    copy(text)
-                with owner(f"UTF8_STRING={text.decode()}", "text/html=<b>x</b>",
-                           f"text/plain={text.decode()}") if rich else contextlib.nullcontext():
-                    clean = text.replace(b"   ", b" ")
-                    if clean != text:  # else it stays its owner's
-                        self.expect_clean(clean)
-                    time.sleep(8 * TICK)
-                    self.assertEqual(paste(), clean)
-                    self.assertLessEqual(len(changes.lines) - before, 1 + 2, "a copy, and its cleans")
+        with watch_changes() as changes:
+            for text, rich in ((b"one   two", False), (b"three   four", True), (b"one two", False)):
+                with self.subTest(text, rich=rich):
+                    time.sleep(2 + 2 * TICK)  # both have had their first tick, or the last copy's
+                    before = len(changes.lines)
+                    if not rich:
+                        copy(text)
+                    with owner(f"UTF8_STRING={text.decode()}", "text/html=<b>x</b>",
+                               f"text/plain={text.decode()}") if rich else contextlib.nullcontext():
+                        clean = text.replace(b"   ", b" ")
+                        if clean != text:  # else it stays its owner's
+                            self.expect_clean(clean)
+                        time.sleep(8 * TICK)
+                        expect(clean)
+                        self.assertLessEqual(len(changes.lines) - before, 1 + 2, "a copy, and its cleans")
 
     def test_the_text_survives_the_program(self):
         """Kept by a clipboard manager, else by a process that is left behind until the next copy."""
@@ -353,9 +340,9 @@ class ClipboardTest(unittest.TestCase):
                     self.assertEqual(nerlo("--clean").returncode, 0)
                     self.expect_clean(clean)
                     nerlo(end) if end == "--quit" else program.process.send_signal(end)
-                    self.assertEqual(program.process.wait(20), 0)
-                wait_until(lambda: paste() == clean, "the text is still there")
-                self.assertEqual(left_behind(), manager != clipboard_manager)
+                    self.assertEqual(program.process.wait(60), 0)
+                expect(clean)
+                wait_until(lambda: left_behind() == (manager != clipboard_manager), "who keeps it")
         rich = {"UTF8_STRING": "a  b", "text/html": "<b>a</b>  b", "x-own;x=1": "\u20ac"}
         with contextlib.closing(WatchedProgram()) as program:
             with owner(*(f"{kind}={value}" for kind, value in rich.items())):
@@ -363,8 +350,10 @@ class ClipboardTest(unittest.TestCase):
                 self.expect_clean(b"a b")
             self.assertEqual(nerlo("--restore").returncode, 0)
             self.assertEqual(nerlo("--quit").returncode, 0)
-            self.assertEqual(program.process.wait(20), 0)
-        self.assertEqual({kind: paste(kind).decode() for kind in formats()}, rich)
+            self.assertEqual(program.process.wait(60), 0)
+        wait_until(lambda: formats() == rich.keys(), "the same formats")
+        for kind, value in rich.items():
+            expect(value.encode(), kind)
         copy_first(b"newer")
         wait_until(lambda: not left_behind(), "no process is left")
 
@@ -389,27 +378,27 @@ class ClipboardTest(unittest.TestCase):
         self.assertEqual(nerlo().returncode, 0)
         copy_first(b"a  b c")
         self.assertEqual(nerlo("--operation", "remove-all-spaces").returncode, 0)
-        wait_until(lambda: paste() == b"abc", "the operation is done")
+        expect(b"abc")
         for mode, answer in (("off", "off"), ("toggle", "on"), ("toggle", "off"), ("on", "on")):
             self.assertEqual(nerlo("--automatic", mode).stdout, answer + "\n")
         with self.assertRaises(dbus.exceptions.DBusException):
             program.call("Automatic", "maybe")
         self.assertIsNone(program.process.poll())
         self.assertEqual(nerlo("--quit").returncode, 0)
-        self.assertEqual(program.process.wait(20), 0)
+        self.assertEqual(program.process.wait(60), 0)
         self.assertEqual(nerlo("--quit").returncode, 0, "quitting what does not run is no failure")
         program = self.start()
         self.assertIn("Automatic cleaning: on", nerlo("--doctor").stdout, "it was on before")
         # One that is just ending is waited for, and not asked.
         self.assertEqual(nerlo("--quit").returncode, 0)
         successor = self.start()
-        self.assertEqual(program.process.wait(20), 0)
+        self.assertEqual(program.process.wait(60), 0)
         self.assertIsNone(successor.process.poll())
 
     def test_without_a_display_it_says_so(self):
         bare = {name: value for name, value in os.environ.items()
                 if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
-        done = subprocess.run([PROGRAM], env=bare, capture_output=True, text=True, timeout=20)
+        done = subprocess.run([PROGRAM], env=bare, capture_output=True, text=True, timeout=60)
         self.assertEqual(done.returncode, 1)
         self.assertIn("no display", done.stderr)
 
@@ -424,19 +413,16 @@ class ClipboardTest(unittest.TestCase):
             hands.activate(title)
         copy(b"one  two")
         self.expect_clean(b"one two")
-        # The popup closes in the first stretch, and what windows have used is given back for up to
-        # half a minute: the program has to come to rest, and what wakes it all the time shows in each.
-        for _ in range(3):
-            before = program.wakeups()
-            time.sleep(seconds)
-            after = program.wakeups()
-            # A thread that has ended took its count along, but was woken at least once for that.
-            woken = (sum(count - before.get(task, 0) for task, count in after.items())
-                     + len(before.keys() - after.keys()))
-            print(f"\nwake-ups in {seconds:.0f} s of idling: {woken}")
-            if woken == 0:
-                break
-        self.assertEqual(woken, 0)
+        # The popup closes meanwhile, and what windows have used is given back for up to half a minute:
+        # the program has to come to rest.
+        last = [program.wakeups(), time.monotonic()]
+
+        def rests():
+            wakeups = program.wakeups()
+            if wakeups != last[0]:
+                last[:] = wakeups, time.monotonic()
+            return time.monotonic() - last[1] > seconds
+        wait_until(rests, f"{seconds:.0f} s in which nothing wakes it", seconds + 60)
 
 
 if __name__ == "__main__":

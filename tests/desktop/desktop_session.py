@@ -23,7 +23,7 @@ SCREEN = (1280, 800)
 dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
 
 
-def wait_until(condition, what, seconds=30):
+def wait_until(condition, what, seconds=60):
     """Until it gives something true; meanwhile this program's own objects on the bus answer."""
     end = time.monotonic() + seconds
     while True:
@@ -35,6 +35,17 @@ def wait_until(condition, what, seconds=30):
         if time.monotonic() > end:
             raise AssertionError("waited in vain: " + what)
         time.sleep(0.02)
+
+
+def do_until(act, condition, what):
+    """Again if need be: while the focus moves, a key goes nowhere."""
+    for _ in range(10):
+        act()
+        try:
+            return wait_until(condition, what, 5)
+        except AssertionError:
+            pass
+    raise AssertionError("done in vain: " + what)
 
 
 def ask(bus, service, path, interface, method, *arguments):
@@ -50,11 +61,11 @@ def ask(bus, service, path, interface, method, *arguments):
     return answer[0]
 
 
-def output_of(*command, text=None, seconds=30):
+def output_of(*command):
     """What the command printed; nothing where it fails."""
     try:
-        done = subprocess.run([str(part) for part in command], input=text, capture_output=True,
-                              text=True, timeout=seconds)
+        done = subprocess.run([str(part) for part in command], capture_output=True, text=True,
+                              timeout=60)
     except subprocess.TimeoutExpired:
         return ""
     return done.stdout if done.returncode == 0 else ""
@@ -129,42 +140,61 @@ WAYLAND = os.environ["NERLO_SESSION"] == "wayland"
 
 def copy(data):
     """Copies as plain text, with the session's ordinary tool. It stays to serve the text, and must not
-    hold the pipes of its starter."""
+    hold the pipes of its starter. The clipboard is taken later, in the tool's own time."""
     tool = ["wl-copy", "--type", "text/plain;charset=utf-8"] if WAYLAND else ["xclip", "-sel", "c"]
     subprocess.run(tool, input=data, check=True, stdout=subprocess.DEVNULL,
                    stderr=subprocess.DEVNULL)
 
 
-def read(*tool):
+def read(*tool, seconds=5):
     """The output of a tool that reads the clipboard, None if it fails. Where the owner ends just
     when it is asked, as xclip does when it loses the clipboard, a reader waits for ever."""
     try:
-        done = subprocess.run(tool, capture_output=True, timeout=5)
+        done = subprocess.run(tool, capture_output=True, timeout=seconds)
     except subprocess.TimeoutExpired:
         return None
     return done.stdout if done.returncode == 0 else None
 
 
-def paste(kind="UTF8_STRING"):
+def paste(kind="UTF8_STRING", seconds=5):
     """The bytes of one format, None if it cannot be had."""
-    if WAYLAND:
-        return read("wl-paste", "--no-newline", "--type", kind)
-    return read("xclip", "-o", "-sel", "c", "-t", kind)
+    tool = ["wl-paste", "--no-newline", "--type"] if WAYLAND else ["xclip", "-o", "-sel", "c", "-t"]
+    return read(*tool, kind, seconds=seconds)
+
+
+def formats():
+    """What the clipboard offers, without what only belongs to the protocol."""
+    names = (read("wl-paste", "--list-types") if WAYLAND
+             else read("xclip", "-o", "-sel", "c", "-t", "TARGETS")) or b""
+    return set(names.decode().split()) - {"TARGETS", "MULTIPLE", "TIMESTAMP", "SAVE_TARGETS"}
+
+
+def expect(data, kind="UTF8_STRING"):
+    """That this is what a paste brings. One that fails tells nothing: owners change, machines stall."""
+    wait_until(lambda: paste(kind) == data, f"the clipboard holds {data[:40]!r}")
+
+
+def copy_first(data):
+    """Copies for what is asked of the program next."""
+    copy(data)
+    expect(data)
 
 
 class Desktop:
     @staticmethod
     def copy(text):
-        copy(text.encode())
+        copy_first(text.encode())
 
     @staticmethod
-    def paste():
-        return (paste() or b"").decode(errors="replace")
+    def expect(text):
+        expect(text.encode())
 
     def activate(self, title):
-        window = wait_until(lambda: self.windows(title), f"a window {title}")[0]
-        self.focus(window)
-        wait_until(lambda: self.active() == window, f"{title} is in front")
+        """Asks again: a window manager drops the request while another window comes or goes."""
+        def in_front():
+            windows = self.windows(title)
+            return windows and (self.active() == windows[0] or self.focus(windows[0]))
+        wait_until(in_front, f"{title} is in front")
 
     def click(self, x, y):
         self.move(x, y)
@@ -226,7 +256,7 @@ class WaylandDesktop(Desktop):
 
     def __init__(self):
         self.socket = socket.socket(socket.AF_UNIX)
-        self.socket.settimeout(30)
+        self.socket.settimeout(60)
         self.socket.connect(os.path.join(os.environ["XDG_RUNTIME_DIR"],
                                          os.environ["WAYLAND_DISPLAY"]))
         self.received = b""
@@ -419,10 +449,18 @@ class Eyes:
     def text(self, node):
         return str(self.call(node, "org.a11y.atspi.Text", "GetText", 0, -1))
 
-    def extents(self, node):
-        return [int(number) for number in
-                self.call(node, "org.a11y.atspi.Component", "GetExtents", dbus.UInt32(0))]
+    def extents(self, role, name):
+        """Left, top, width and height, once they stay: what has just appeared may move others."""
+        seen = [None]
 
-    def middle(self, node):
-        x, y, width, height = self.extents(node)
+        def still():
+            node = self.shows(role, name)
+            seen.append(node and self.call(node, "org.a11y.atspi.Component", "GetExtents",
+                                           dbus.UInt32(0)))
+            return seen[-1] and seen[-1] == seen[-2]
+        wait_until(still, f"the control {name} has its place")
+        return [int(number) for number in seen[-1]]
+
+    def middle(self, role, name):
+        x, y, width, height = self.extents(role, name)
         return x + width // 2, y + height // 2

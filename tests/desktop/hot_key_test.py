@@ -96,7 +96,7 @@ class Kde:
 
     def close(self):
         self.service.terminate()
-        self.service.wait(timeout=20)
+        self.service.wait(timeout=60)
 
 
 class HotKeyTest(unittest.TestCase):
@@ -117,7 +117,7 @@ class HotKeyTest(unittest.TestCase):
 
     def store(self, shortcut, finding=None):
         """A shortcut, by the command line; `finding` is what becomes of it while the program runs."""
-        subprocess.run([PROGRAM, "--shortcut", shortcut], check=True, timeout=20)
+        subprocess.run([PROGRAM, "--shortcut", shortcut], check=True, timeout=60)
         if finding:
             self.finds(f"{shortcut}: {finding}")
 
@@ -126,9 +126,8 @@ class HotKeyTest(unittest.TestCase):
 
     def cleans(self, press):
         self.desktop.copy("a b c")
-        wait_until(lambda: self.desktop.paste() == "a b c", "the copy is there")
         press()
-        wait_until(lambda: self.desktop.paste() == "abc", "the spaces are gone")
+        self.desktop.expect("abc")
 
     def cleans_with(self, keys):
         self.cleans(lambda: self.desktop.keys(keys))
@@ -211,7 +210,7 @@ class HotKeyTest(unittest.TestCase):
                 (1, "clean=Super+G", "'remove-all-spaces'"),
                 (1, "sort-lines=Super+V", "'sort-lines'")):
             done = subprocess.run([PROGRAM, "--shortcut", "clean=Super+V", "--shortcut", bad],
-                                  capture_output=True, text=True, timeout=20, check=False,
+                                  capture_output=True, text=True, timeout=60, check=False,
                                   env=os.environ | {"XDG_CURRENT_DESKTOP": "KDE"})
             self.assertEqual(done.returncode, status, bad)
             self.assertIn(why, done.stderr)
@@ -219,7 +218,7 @@ class HotKeyTest(unittest.TestCase):
         self.assertEqual(self.program.text, "")
         # Together they may change places.
         subprocess.run([PROGRAM, "--shortcut", "clean=Super+G", "--shortcut", "1=Ctrl+F9"],
-                       check=True, timeout=20)
+                       check=True, timeout=60)
         self.finds("remove-all-spaces=Ctrl+F9: works")
         self.finds("clean=Super+G: works")
 
@@ -260,7 +259,7 @@ class HotKeyTest(unittest.TestCase):
                    f"the portal has bound {shortcuts}")
 
     def press(self):
-        subprocess.run([PORTAL, "press", "sRemoveAllSpaces"], check=True, timeout=20)
+        subprocess.run([PORTAL, "press", "sRemoveAllSpaces"], check=True, timeout=60)
 
     def test_wayland_the_portal_binds_what_is_stored_and_its_presses_clean(self):
         self.addCleanup(Portal().close)

@@ -8,7 +8,7 @@ import plistlib
 import subprocess
 import unittest
 
-from desktop_session import SCREEN, WaylandDesktop, output_of, wait_until
+from desktop_session import SCREEN, Program, WaylandDesktop, output_of, wait_until
 
 PROGRAM = os.environ["NERLO_PRO"]
 CONFIG = os.environ["XDG_CONFIG_HOME"]
@@ -35,7 +35,7 @@ class PopupTest(unittest.TestCase):
     def setUp(self):
         self.desktop = WaylandDesktop()
         self.addCleanup(self.desktop.close)
-        # A panel, whose tray keeps the program's windows closed, and a white window in front.
+        # A panel, and a white window in front.
         with open(CONFIG + "/sway", "a") as file:
             file.write(f"default_border none\nbar {{\n position top\n height {PANEL}\n}}\n")
         output_of("swaymsg", "reload")
@@ -45,18 +45,16 @@ class PopupTest(unittest.TestCase):
         self.addCleanup(editor.kill)
         wait_until(lambda: any(node["rect"]["y"] == PANEL for node in self.desktop.nodes()
                                if node.get("name") == "editor"), "the window is below the panel")
-        output_of("gdbus", "wait", "--session", "org.kde.StatusNotifierWatcher")
 
     def start(self, position):
         os.makedirs(CONFIG + "/nerlo-pro", exist_ok=True)
         with open(CONFIG + "/nerlo-pro/defaults.plist", "wb") as file:
             plistlib.dump({"firstRunPreferences": True, "firstRunTips": False,
-                           "updateReleaseNotes3_1": True, "showInMenubar": True,
+                           "updateReleaseNotes3_1": True, "runInTheBackground": True,
+                           "udStatisticsDelaySwitcher": 0,  # it stays until it is closed
                            "udStatisticsDefaultPosition": position}, file)
-        program = subprocess.Popen([PROGRAM])
-        self.addCleanup(program.wait)
-        self.addCleanup(program.terminate)
-        output_of("gdbus", "wait", "--session", "org.nerlo.NerloPro")
+        program = Program()
+        self.addCleanup(program.close)
         return program
 
     def box(self):
@@ -79,13 +77,12 @@ class PopupTest(unittest.TestCase):
                 0: (0, bottom - height),
                 3: (right - width, PANEL),
                 4: ((right - width + 1) // 2, (bottom + PANEL - 3 * height + 1) // 2)}[position])
-            program.terminate()
-            program.wait()
+            program.close()
             wait_until(lambda: not popup(), "it goes with the program")
 
         self.start(5)
         for x, y in ((300, 200), (right - 5, 5)):
-            for _ in range(5):
+            for _ in range(20):
                 self.desktop.move(x, y)
                 left, top, end, low = self.box()
                 self.assertEqual(self.desktop.active(), editor)

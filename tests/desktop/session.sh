@@ -33,9 +33,9 @@ start() {
     "$@" >"$log" 2>&1 </dev/null &
 }
 
-# wait_for WHAT COMMAND...: until COMMAND succeeds, for twenty seconds.
+# wait_for WHAT COMMAND...: until COMMAND succeeds, for a minute.
 wait_for() {
-    local what=$1 end=$((SECONDS + 20))
+    local what=$1 end=$((SECONDS + 60))
     shift
     until "$@" >/dev/null 2>&1; do
         if [ "$SECONDS" -ge "$end" ]; then

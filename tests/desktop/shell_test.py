@@ -16,7 +16,7 @@ import dbus
 import dbus.service
 
 from desktop_session import (BUTTON, CHECK_BOX, CHECKED, LIST_ITEM, SPIN_BUTTON, TABLE_CELL, TEXT, WAYLAND,
-                             Eyes, Program, ask, desktop, output_of, wait_until)
+                             Eyes, Program, ask, copy, desktop, do_until, output_of, wait_until)
 
 PROGRAM = os.environ["NERLO_PRO"]
 SESSION = os.environ["NERLO_SESSION_DIR"]
@@ -137,7 +137,7 @@ class Portal:
     def close(self):
         for process in (self.portal, self.backend):
             process.terminate()
-            process.wait(timeout=20)
+            process.wait(timeout=60)
         self.backend.stdout.close()
 
 
@@ -155,27 +155,10 @@ class ShellTest(unittest.TestCase):
         return program
 
     def click(self, role, name):
-        self.desktop.click(*self.eyes.middle(self.eyes.find(role, name)))
-
-    def do_until(self, act, condition, what):
-        """Again if need be: while the focus moves, a key goes nowhere."""
-        for _ in range(10):
-            act()
-            try:
-                return wait_until(condition, what, 3)
-            except AssertionError:
-                pass
-        raise AssertionError("done in vain: " + what)
+        self.desktop.click(*self.eyes.middle(role, name))
 
     def press_until(self, chords, condition, what):
-        return self.do_until(lambda: self.desktop.keys(*chords), condition, what)
-
-    def write(self, name, text):
-        """Into the text field, whatever stood in it."""
-        self.click(TEXT, name)
-        field = self.eyes.find(TEXT, name)
-        self.press_until(["ctrl+a", *text], lambda: self.eyes.text(field) == text,
-                         f"the field {name} has its text")
+        return do_until(lambda: self.desktop.keys(*chords), condition, what)
 
     def profile(self):
         records = stored(PROFILES) or []
@@ -195,8 +178,8 @@ class ShellTest(unittest.TestCase):
 
     def drag(self, source, target):
         """One row of a list over the upper edge of another."""
-        x, y = self.eyes.middle(self.eyes.find(TABLE_CELL, source))
-        end_x, end_y, _, _ = self.eyes.extents(self.eyes.find(TABLE_CELL, target))
+        x, y = self.eyes.middle(TABLE_CELL, source)
+        end_x, end_y, _, _ = self.eyes.extents(TABLE_CELL, target)
         end_x += 20
         self.desktop.move(x, y)
         self.desktop.button(True)
@@ -206,8 +189,8 @@ class ShellTest(unittest.TestCase):
         self.desktop.button(False)
 
     def clean_copy(self, text, clean):
-        self.desktop.copy(text)
-        wait_until(lambda: self.desktop.paste() == clean, f"{text} becomes {clean}")
+        copy(text.encode())
+        self.desktop.expect(clean)
 
     def press_shortcut(self):
         if WAYLAND:
@@ -222,7 +205,7 @@ class ShellTest(unittest.TestCase):
         self.clean_copy("\u2022 milk", "milk")
         self.clean_copy("a green b", "a blue b")
         self.press_shortcut()
-        wait_until(lambda: self.desktop.paste() == "ablueb", "the shortcut removes the spaces")
+        self.desktop.expect("ablueb")
 
     def choose(self, tray, place):
         """From the menu of the item, by its place."""
@@ -255,12 +238,12 @@ class ShellTest(unittest.TestCase):
 
         # The icon is clicked: the menu opens, and the arrow keys and Return choose from it.
         self.assertFalse(program.property("AutomaticMode"))
+        self.desktop.activate("Preferences")
         self.choose(tray, 3)
         wait_until(lambda: program.property("AutomaticMode"), "the automatic mode is on")
-        self.assertEqual(tray.menu()["Automatically clear formatting"][1], 1)
+        wait_until(lambda: tray.menu()["Automatically clear formatting"][1] == 1, "the menu shows it")
 
         # The popup is to stay for longer than this test is busy with it.
-        self.desktop.activate("Preferences")
         self.click(LIST_ITEM, "Statistics")
         self.click(SPIN_BUTTON, "Seconds")
         self.press_until(["ctrl+a", "9", "0"],
@@ -268,33 +251,33 @@ class ShellTest(unittest.TestCase):
 
         # A copy comes out clean; the popup stands at the pointer, over the box, and has the counts.
         box = self.eyes.find(CHECK_BOX, "Close by itself")
-        x, y = self.eyes.middle(box)
+        x, y = self.eyes.middle(CHECK_BOX, "Close by itself")
         self.desktop.move(x, y)
         active = self.desktop.active()
         self.eyes.names_heard()
         self.clean_copy("two   words", "two words")
-        names = []
-        wait_until(lambda: names.extend(self.eyes.names_heard()) or "Paragraphs: 1" in names,
+        missing = {"Characters: 9", "Spaces: 1", "Words: 2", "Paragraphs: 1"}
+        wait_until(lambda: missing.difference_update(self.eyes.names_heard()) or not missing,
                    "the popup has its counts")
-        for count in ("Characters: 9", "Spaces: 1", "Words: 2"):
-            self.assertIn(count, names)
         if not WAYLAND:  # whose compositor tells nobody of such windows
             wait_until(lambda: self.desktop.windows("Statistics"), "the popup is there")
             self.assertEqual(self.desktop.place("Statistics"), (x, y))
         self.assertEqual(self.desktop.active(), active, "the popup leaves the focus alone")
-        # It takes the first click, and the box below it the next.
+        # It takes the first click, and the box below it the next. Where the pointer has to be looked
+        # for, a machine that is too busy to find it in time shows the popup elsewhere.
         self.desktop.move(x + 12, y + 6)
-        self.desktop.press()
-        with self.assertRaises(AssertionError):
-            wait_until(lambda: not self.eyes.state(box, CHECKED), "the box is behind it", 1)
-        self.do_until(self.desktop.press, lambda: not self.eyes.state(box, CHECKED),
-                      "the box is no longer ticked")
+        if not WAYLAND:
+            self.desktop.press()
+            wait_until(lambda: not self.desktop.windows("Statistics"), "the popup is closed")
+            self.assertTrue(self.eyes.state(box, CHECKED))
+        do_until(self.desktop.press, lambda: not self.eyes.state(box, CHECKED),
+                 "the box is no longer ticked")
 
         # A profile is added by keyboard alone.
         self.desktop.activate("Preferences")
         self.press_until(["alt+a"], lambda: self.desktop.windows("Nerlo Pro"), "the prompt is open")
-        self.press_until([*PROFILE_KEYS, "Return"], lambda: not self.desktop.windows("Nerlo Pro"),
-                         "the prompt is closed")
+        self.desktop.activate("Nerlo Pro")
+        self.desktop.keys(*PROFILE_KEYS, "Return")
         wait_until(lambda: program.property("SelectedProfile") == PROFILE, "the profile is selected")
         self.desktop.activate("Preferences")
 
@@ -303,7 +286,6 @@ class ShellTest(unittest.TestCase):
                          lambda: self.eyes.shows(CHECK_BOX, "Remove bullets"),
                          "the search finds the option")
         self.click(CHECK_BOX, "Remove bullets")
-        self.assertTrue(self.eyes.state(self.eyes.find(CHECK_BOX, "Remove bullets"), CHECKED))
         wait_until(lambda: self.profile().get("udRemoveBullets") == 1, "the option is saved")
         self.press_until(["ctrl+f", "Delete"], lambda: self.eyes.shows(LIST_ITEM, "General"),
                          "the search has ended")
@@ -315,9 +297,9 @@ class ShellTest(unittest.TestCase):
         self.add_rule("red", "blue")
         self.add_rule("green", "red")
         self.clean_copy("a green b", "a red b")
-        self.do_until(lambda: self.drag("green", "red"),
-                      lambda: self.rules() == [("green", "red"), ("red", "blue")],
-                      "the rules have changed places")
+        do_until(lambda: self.drag("green", "red"),
+                 lambda: self.rules() == [("green", "red"), ("red", "blue")],
+                 "the rules have changed places")
         self.clean_copy("a green c", "a blue c")
 
         # A shortcut is recorded and pressed.
@@ -331,7 +313,7 @@ class ShellTest(unittest.TestCase):
 
         # Quit from the menu, and start again: everything is as it was.
         tray.click("Quit Nerlo Pro")
-        self.assertEqual(program.process.wait(timeout=20), 0)
+        self.assertEqual(program.process.wait(timeout=60), 0)
         wait_until(lambda: not program.bus.name_has_owner(BUS_NAME), "the program has ended")
         del tray.items[:]
         program = self.start()

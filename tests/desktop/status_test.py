@@ -10,7 +10,7 @@ import unittest
 
 import dbus
 
-from desktop_session import CHECK_BOX, CHECKED, Eyes, Program, desktop, output_of, wait_until
+from desktop_session import CHECK_BOX, CHECKED, Eyes, Program, desktop, do_until, output_of, wait_until
 from shell_test import BUS_NAME, PROFILES, PROGRAM, TrayHost, stored
 
 AUTOSTART = os.environ["XDG_CONFIG_HOME"] + "/autostart"
@@ -59,38 +59,38 @@ class StatusTest(unittest.TestCase):
                    "the menu shows the profile's shortcut")
         hands.keys("ctrl+super+d")
         wait_until(lambda: program.property("SelectedProfile") == "default", "it selects the profile")
-        self.assertEqual((item("default")[0], item("other")), (1, (0, "")))
+        wait_until(lambda: (item("default")[0], item("other")) == (1, (0, "")), "the menu shows it")
 
         def click():
             hands.activate("Preferences")
-            hands.click(*eyes.middle(eyes.find(CHECK_BOX, "Start at login")))
+            hands.click(*eyes.middle(CHECK_BOX, "Start at login"))
 
         def notice():
             return any(AUTOSTART in eyes.attribute(node, "Name") for node in eyes.shown()
                        if eyes.role(node) == LABEL)
         click()
         wait_until(notice, "the window says what is wrong")
-        self.assertEqual(tooltip(), WRONG)
+        wait_until(lambda: tooltip() == WRONG, "the item says so too")
         box = eyes.find(CHECK_BOX, "Start at login")
         self.assertFalse(eyes.state(box, CHECKED))
         os.remove(AUTOSTART)
         click()
         wait_until(lambda: eyes.state(box, CHECKED) and not notice(), "now it is right")
         self.assertTrue(os.listdir(AUTOSTART))
-        self.assertEqual(tooltip(), automatic)
+        wait_until(lambda: tooltip() == automatic, "so is the item")
 
         # After a dialog the window has the keyboard again, also without an entry in the taskbar; a
         # second start brings it to the front, and Ctrl+Q ends the program.
         hands.activate("Preferences")
         hands.keys("alt+a")
-        wait_until(lambda: hands.windows("Nerlo Pro"), "the prompt is open")
-        hands.keys("Escape")
+        hands.activate("Nerlo Pro")
+        do_until(lambda: hands.keys("Escape"), lambda: not hands.windows("Nerlo Pro"), "it is closed")
         wait_until(lambda: hands.active() in hands.windows("Preferences"), "the window is active")
         hands.activate("Tips")
         self.assertEqual(subprocess.run([PROGRAM], timeout=60, check=False).returncode, 0)
         wait_until(lambda: hands.active() in hands.windows("Preferences"), "the window is in front")
         hands.keys("ctrl+q")
-        self.assertEqual(program.process.wait(timeout=20), 0)
+        self.assertEqual(program.process.wait(timeout=60), 0)
 
     def test_without_a_bus_there_is_one_program_for_a_display(self):
         nowhere = os.environ | {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
