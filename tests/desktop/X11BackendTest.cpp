@@ -135,7 +135,7 @@ TEST_F(X11Backend, APeerThatHangsOrFloodsHoldsUpNothingElse) {
         EXPECT_EQ(result->status, PasteboardStatus::timedOut);
         const auto took = std::chrono::steady_clock::now() - start;
         EXPECT_GE(took, pasteboardStallLimit);
-        EXPECT_LT(took, pasteboardStallLimit + std::chrono::seconds(2));
+        EXPECT_LT(took, pasteboardReadLimit);
     }
     ours.write(content({"UTF8_STRING"}, std::string(200'000, 'x')));
     std::atomic<bool> flooding = true;

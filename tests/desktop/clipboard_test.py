@@ -99,6 +99,7 @@ class ClipboardTest(unittest.TestCase):
         with owner("text/plain=before  the start", "UTF8_STRING=before  the start"):
             self.start_automatic()
             with watch_changes() as changes:
+                wait_until(lambda: changes.lines, "it watches")
                 with owner("UTF8_STRING=one   two", "text/plain=one   two",
                            "text/html=<b>one</b>   two"):
                     self.expect_clean(b"one two")
