@@ -43,6 +43,8 @@ const KEY_LIMIT = 248; // of a keyboard
 const HELD = Clutter.ModifierType.SHIFT_MASK | Clutter.ModifierType.CONTROL_MASK |
     Clutter.ModifierType.MOD1_MASK | Clutter.ModifierType.MOD4_MASK;
 const LOOKS_EVERY_MS = 10;
+// A busy desktop takes its time to close one window and bring back another.
+const BACK_WITHIN_MS = 5000;
 // Who holds a key for longer has changed his mind.
 const PATIENCE_MS = 1500;
 
@@ -119,12 +121,19 @@ var Keys = class {
             this._program.refuse(invocation, 'no such key');
             return;
         }
-        const until = GLib.get_monotonic_time() + PATIENCE_MS * 1000;
+        let back = false;
+        let until = GLib.get_monotonic_time() + BACK_WITHIN_MS * 1000;
         this._pasting = {
             answer: done => invocation.return_value(new GLib.Variant('(b)', [done])),
             timer: GLib.timeout_add(GLib.PRIORITY_DEFAULT, LOOKS_EVERY_MS, () => {
-                const ready = this._isReady();
-                if (!ready && GLib.get_monotonic_time() < until)
+                const now = GLib.get_monotonic_time();
+                if (!back && this._isBack()) {
+                    back = true;
+                    until = now + PATIENCE_MS * 1000;
+                }
+                const ready = back && this._isReady();
+                // Another window that comes to the front is not the one to paste into.
+                if (!ready && now < until && this._last === this._target)
                     return GLib.SOURCE_CONTINUE;
                 if (ready)
                     this._press(key);
@@ -165,10 +174,14 @@ var Keys = class {
             this._last = window;
     }
 
+    _isBack() {
+        return this._target && global.display.focus_window === this._target;
+    }
+
     _isReady() {
         const [, , modifiers] = global.get_pointer();
-        return this._target && global.display.focus_window === this._target &&
-            (modifiers & HELD) === 0 && Main.actionMode === Shell.ActionMode.NORMAL;
+        return this._isBack() && (modifiers & HELD) === 0 &&
+            Main.actionMode === Shell.ActionMode.NORMAL;
     }
 
     _press(key) {

@@ -94,7 +94,7 @@ class GnomePasteboard final : public Pasteboard {
                          });
         QObject::connect(&shell_, &GnomeShell::came, &shell_, [this] {
             // Where it does not listen to us yet, its news comes as soon as it does.
-            shell_.call(QStringLiteral("State"), {}, pasteboardStallLimit,
+            shell_.call(QStringLiteral("State"), {}, pasteboardServerLimit,
                         [this](const QDBusMessage &reply) {
                             if (auto state = stateIn(reply)) {
                                 replaced(std::move(*state));
@@ -122,7 +122,7 @@ class GnomePasteboard final : public Pasteboard {
         if (!shell_.isThere()) {
             return false;
         }
-        const QDBusMessage reply = shell_.ask(QStringLiteral("State"), pasteboardStallLimit);
+        const QDBusMessage reply = shell_.ask(QStringLiteral("State"), pasteboardServerLimit);
         if (auto state = stateIn(reply)) {
             now_ = std::move(*state);
             there_ = true;
@@ -139,7 +139,7 @@ class GnomePasteboard final : public Pasteboard {
 
     void readFormats(FormatsHandler handler) override {
         // The news of a copy that was made just before may still be on its way.
-        shell_.call(QStringLiteral("State"), {}, pasteboardStallLimit,
+        shell_.call(QStringLiteral("State"), {}, pasteboardServerLimit,
                     [this, handler = std::move(handler)](const QDBusMessage &reply) {
                         const auto state = stateIn(reply);
                         if (!state) {
@@ -393,7 +393,7 @@ class GnomePasteboard final : public Pasteboard {
                 return;
             }
             // The news of all that was before comes before this answer.
-            shell_.call(QStringLiteral("State"), {}, pasteboardStallLimit,
+            shell_.call(QStringLiteral("State"), {}, pasteboardServerLimit,
                         [this](const QDBusMessage &) { offerEnded(); });
         });
     }

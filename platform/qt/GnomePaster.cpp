@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 constexpr std::uint64_t virtualV = 9;
 // The extension waits for the window that was in front, but not as long as this.
-constexpr auto answerLimit = 4s;
+constexpr auto answerLimit = 10s;
 
 class GnomePaster final : public GnomeOrOther<Paster> {
   public:

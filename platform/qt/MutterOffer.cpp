@@ -45,7 +45,7 @@ void MutterOffer::call(const QString &method, const QVariantList &arguments, Nex
                                                   first ? service : sessionInterface, method);
     message.setArguments(arguments);
     auto *watcher = new QDBusPendingCallWatcher(
-        bus_.asyncCall(message, static_cast<int>(pasteboardStallLimit.count())), this);
+        bus_.asyncCall(message, static_cast<int>(pasteboardServerLimit.count())), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this, next = std::move(next)](QDBusPendingCallWatcher *finished) {
                 finished->deleteLater();

@@ -378,9 +378,9 @@ void LayerPopup::open() {
         };
     };
     // What the compositor has, and then the scales of the screens and whether there is a pointer.
-    loop_.afterRoundTrip(pasteboardStallLimit, ifAnswered([this, ifAnswered] {
+    loop_.afterRoundTrip(pasteboardServerLimit, ifAnswered([this, ifAnswered] {
                              askPositions();
-                             loop_.afterRoundTrip(pasteboardStallLimit, ifAnswered([this] {
+                             loop_.afterRoundTrip(pasteboardServerLimit, ifAnswered([this] {
                                                       if (popup_.atPointer && pointer_ &&
                                                           viewporter_ && !outputs_.empty() &&
                                                           !tooLate_) {
@@ -461,8 +461,8 @@ void LayerPopup::measurePanels() {
         place();
     });
     // The compositor may send this event a moment after it has answered the round trip.
-    loop_.afterRoundTrip(pasteboardStallLimit, [this](bool) {
-        loop_.afterRoundTrip(pasteboardStallLimit, [this](bool) {
+    loop_.afterRoundTrip(pasteboardServerLimit, [this](bool) {
+        loop_.afterRoundTrip(pasteboardServerLimit, [this](bool) {
             if (menu_) {
                 place();
             }

@@ -32,7 +32,7 @@ class Tracking {
             return nullptr;
         }
         std::unique_ptr<Tracking> tracking(new Tracking(std::move(loop)));
-        if (!tracking->loop_->roundTrip(pasteboardStallLimit)) {
+        if (!tracking->loop_->roundTrip(pasteboardServerLimit)) {
             declined = "the Wayland compositor does not answer";
             return nullptr;
         }
@@ -43,8 +43,8 @@ class Tracking {
             return nullptr;
         }
         // Brings in the windows that are there already, and what KWin tells of them when asked.
-        tracking->loop_->roundTrip(pasteboardStallLimit);
-        tracking->loop_->roundTrip(pasteboardStallLimit);
+        tracking->loop_->roundTrip(pasteboardServerLimit);
+        tracking->loop_->roundTrip(pasteboardServerLimit);
         return tracking;
     }
 

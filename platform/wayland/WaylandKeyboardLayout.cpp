@@ -173,7 +173,7 @@ Created<KeyboardLayout> createWaylandKeyboardLayout(MainQueue &mainQueue, IoThre
     auto keyboard = std::make_unique<Keyboard>(loop->display());
     // The seats, then what they can, then the keymap.
     for (int trip = 0; trip < 3; ++trip) {
-        if (!loop->roundTrip(pasteboardStallLimit)) {
+        if (!loop->roundTrip(pasteboardServerLimit)) {
             keyboard.reset();
             return {nullptr, "the Wayland compositor does not answer"};
         }

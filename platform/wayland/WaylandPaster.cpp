@@ -43,7 +43,7 @@ class Keys {
             return nullptr;
         }
         std::unique_ptr<Keys> keys(new Keys(std::move(loop)));
-        if (!keys->loop_->roundTrip(pasteboardStallLimit)) {
+        if (!keys->loop_->roundTrip(pasteboardServerLimit)) {
             declined = "the Wayland compositor does not answer";
             return nullptr;
         }
@@ -119,7 +119,7 @@ class Keys {
         key(KEY_V, WL_KEYBOARD_KEY_STATE_RELEASED);
         key(KEY_LEFTCTRL, WL_KEYBOARD_KEY_STATE_RELEASED);
         zwp_virtual_keyboard_v1_modifiers(keyboard_, 0, 0, 0, 0);
-        return loop_->roundTrip(pasteboardStallLimit);
+        return loop_->roundTrip(pasteboardServerLimit);
     }
 
     // The letters stand where a us keyboard has them, whatever the user's layout.
@@ -132,7 +132,7 @@ class Keys {
         keyboard_ = zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(manager_, seat_);
         zwp_virtual_keyboard_v1_keymap(keyboard_, WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file.get(),
                                        static_cast<std::uint32_t>(size));
-        return loop_->roundTrip(pasteboardStallLimit);
+        return loop_->roundTrip(pasteboardServerLimit);
     }
 
     void key(std::uint32_t code, std::uint32_t state) {
@@ -150,7 +150,7 @@ class Keys {
         for (const auto &[code, state] : keys) {
             org_kde_kwin_fake_input_keyboard_key(fakeInput_, code, state);
         }
-        return loop_->roundTrip(pasteboardStallLimit);
+        return loop_->roundTrip(pasteboardServerLimit);
     }
 
     std::unique_ptr<EventLoop> loop_;

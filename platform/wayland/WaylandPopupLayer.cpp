@@ -94,7 +94,7 @@ Created<PopupLayer> createWaylandPopupLayer(MainQueue &mainQueue, IoThread &io,
     }
     const Popup none;
     const LayerPopup surface(*loop, none, {});
-    if (!loop->roundTrip(pasteboardStallLimit)) {
+    if (!loop->roundTrip(pasteboardServerLimit)) {
         return {nullptr, "the Wayland compositor does not answer"};
     }
     if (!surface.available()) {

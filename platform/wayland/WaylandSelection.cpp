@@ -73,7 +73,7 @@ std::string WaylandSelection::prepare() {
             addGlobal(name, interface, version);
         },
         [this](std::uint32_t name) { removeGlobal(name); });
-    if (!loop_.roundTrip(pasteboardStallLimit)) {
+    if (!loop_.roundTrip(pasteboardServerLimit)) {
         return "the Wayland compositor does not answer";
     }
     for (const auto &protocol : dataControls) {
@@ -89,7 +89,7 @@ std::string WaylandSelection::prepare() {
         return "the Wayland compositor has no data-control protocol";
     }
     takeSeat();
-    if (!loop_.roundTrip(pasteboardStallLimit)) {
+    if (!loop_.roundTrip(pasteboardServerLimit)) {
         return "the Wayland compositor does not answer";
     }
     return {};
@@ -253,7 +253,7 @@ void WaylandSelection::readOn(const std::shared_ptr<ReadJob> &job) {
     if (job->reading.finished()) {
         // A compositor closes the pipe at once when the content is replaced; the news of that may
         // come a moment later, and ends the job otherwise.
-        loop_.afterRoundTrip(pasteboardStallLimit,
+        loop_.afterRoundTrip(pasteboardServerLimit,
                              [this, job](bool) { endRead(job, PasteboardStatus::done); });
     }
 }
@@ -309,7 +309,7 @@ void WaylandSelection::write(PasteboardContent content, std::optional<ChangeCoun
 // One write at a time. The first round trip brings in what other programs did before; the second
 // one brings in the news of our own write.
 void WaylandSelection::startWrite() {
-    loop_.afterRoundTrip(pasteboardStallLimit, [this](bool answered) {
+    loop_.afterRoundTrip(pasteboardServerLimit, [this](bool answered) {
         const auto &onlyOver = writes_.front().onlyOver;
         if (!loop_.connected() || !device_) {
             endWrite({PasteboardStatus::unavailable, 0});
@@ -336,7 +336,7 @@ void WaylandSelection::setContent() {
         sources_.push_back({window_->source, std::move(content)});
     }
     setSelection(device_, window_->source);
-    loop_.afterRoundTrip(pasteboardStallLimit, [this](bool answered) {
+    loop_.afterRoundTrip(pasteboardServerLimit, [this](bool answered) {
         if (answered) {
             confirmWrite();
             return;

@@ -116,8 +116,10 @@ struct Grab {
     HotKeyRequest request;
     xcb_keycode_t key = 0;
     std::uint16_t modifiers = 0;
-    bool held = false;
+    std::set<std::uint16_t> states; // the modifiers with every set of locks, where it is held
     std::string refusal;
+
+    bool held() const { return !states.empty(); }
 };
 
 // Lives on the I/O thread.
@@ -153,7 +155,7 @@ class Grabs final : public SharedConnection::Listener {
 
     // Empty when the combination is ours now, else why it is not.
     std::string add(Handle handle, const HotKeyRequest &request) {
-        Grab grab{request, 0, 0, false, {}};
+        Grab grab{request, 0, 0, {}, {}};
         if (!takeUnlessSuspended(grab)) {
             // The map may have changed just now, and the layout's reader may have seen it first.
             followMap();
@@ -184,7 +186,7 @@ class Grabs final : public SharedConnection::Listener {
             const std::string before = grab.refusal;
             if (suspended_) {
                 release(grab);
-            } else if (!grab.held) {
+            } else if (!grab.held()) {
                 take(grab);
             }
             if (grab.refusal != before) {
@@ -219,7 +221,7 @@ class Grabs final : public SharedConnection::Listener {
     void press(const xcb_key_press_event_t &key) {
         const auto modifiers = static_cast<std::uint16_t>(key.state & 0xff & ~masks_.locks());
         for (const auto &[handle, grab] : grabs_) {
-            if (grab.held && grab.key == key.detail && grab.modifiers == modifiers) {
+            if (grab.held() && grab.key == key.detail && grab.modifiers == modifiers) {
                 pressed_(grab.request.id);
                 return;
             }
@@ -229,12 +231,16 @@ class Grabs final : public SharedConnection::Listener {
     void followMap() {
         const auto masks = readMasks(*connection_);
         if (masks != masks_) {
-            // Given back under the old masks, taken under the new ones.
+            masks_ = masks;
+            auto before = grabs_;
             for (auto &[handle, grab] : grabs_) {
+                grab.states.clear();
+            }
+            takeAgain();
+            // After that, so that a press in between finds the combinations that stay the same.
+            for (auto &[handle, grab] : before) {
                 release(grab);
             }
-            masks_ = masks;
-            takeAgain();
         }
     }
 
@@ -243,7 +249,7 @@ class Grabs final : public SharedConnection::Listener {
             return describe(grab);
         }
         take(grab);
-        return grab.held;
+        return grab.held();
     }
 
     // Finds the key and modifiers on the keyboard; false, and why, when they are not there.
@@ -263,7 +269,7 @@ class Grabs final : public SharedConnection::Listener {
         return true;
     }
 
-    // The modifiers with every set of locks; a lock without a key adds none.
+    // A lock without a key adds none.
     std::set<std::uint16_t> statesOf(const Grab &grab) const {
         std::set<std::uint16_t> states{grab.modifiers};
         for (const auto lock :
@@ -280,7 +286,8 @@ class Grabs final : public SharedConnection::Listener {
             return;
         }
         std::vector<xcb_void_cookie_t> cookies;
-        for (const auto state : statesOf(grab)) {
+        grab.states = statesOf(grab);
+        for (const auto state : grab.states) {
             if (++holders_[{grab.key, state}] == 1) {
                 cookies.push_back(xcb_grab_key_checked(connection_->get(), 0,
                                                        connection_->screen().root, state, grab.key,
@@ -294,7 +301,6 @@ class Grabs final : public SharedConnection::Listener {
             all = all && !error;
         }
         all = all && !connection_->broken();
-        grab.held = true;
         if (!all) {
             release(grab);
             grab.refusal = connection_->broken() ? "the X server is gone"
@@ -303,14 +309,12 @@ class Grabs final : public SharedConnection::Listener {
     }
 
     void release(Grab &grab) {
-        if (std::exchange(grab.held, false)) {
-            for (const auto state : statesOf(grab)) {
-                if (--holders_[{grab.key, state}] == 0) {
-                    xcb_ungrab_key(connection_->get(), grab.key, connection_->screen().root, state);
-                }
+        for (const auto state : std::exchange(grab.states, {})) {
+            if (--holders_[{grab.key, state}] == 0) {
+                xcb_ungrab_key(connection_->get(), grab.key, connection_->screen().root, state);
             }
-            xcb_flush(connection_->get());
         }
+        xcb_flush(connection_->get());
     }
 
     SharedConnection &shared_;

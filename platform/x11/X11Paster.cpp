@@ -23,6 +23,8 @@ using x11::SharedConnection;
 constexpr std::uint64_t virtualV = 9;
 constexpr std::uint64_t virtualCommand = 55; // the Ctrl key here
 constexpr auto looksEvery = 10ms;
+// A busy desktop takes its time to close one window and bring back another.
+constexpr auto backWithin = 5000ms;
 // Who holds a key for longer has changed his mind.
 constexpr auto patience = 1500ms;
 constexpr std::uint16_t held =
@@ -100,7 +102,8 @@ class X11Paster final : public Paster {
     void paste(std::function<void(bool)> done) override {
         mainQueue_.cancel(next_);
         done_ = std::move(done);
-        until_ = mainQueue_.now() + patience;
+        back_ = false;
+        until_ = mainQueue_.now() + backWithin;
         lookAgain();
     }
 
@@ -123,12 +126,16 @@ class X11Paster final : public Paster {
     }
 
     bool isReady() {
+        bool inFront = false;
         bool ready = false;
         shared_->run([&, this] {
             auto &connection = shared_->connection();
-            ready = !modifiersHeld(connection) && focusOf(connection) == target_ &&
-                    keyboardFree(connection);
+            inFront = focusOf(connection) == target_ && keyboardFree(connection);
+            ready = inFront && !modifiersHeld(connection);
         });
+        if (inFront && !std::exchange(back_, true)) {
+            until_ = mainQueue_.now() + patience;
+        }
         return ready;
     }
 
@@ -151,6 +158,7 @@ class X11Paster final : public Paster {
     std::shared_ptr<SharedConnection> shared_;
     xcb_window_t target_ = XCB_NONE;
     std::function<void(bool)> done_;
+    bool back_ = false; // the window that was in front has been there again
     MainQueue::Clock::time_point until_;
     MainQueue::TaskId next_ = 0;
 };
