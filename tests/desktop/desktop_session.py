@@ -63,12 +63,7 @@ def ask(bus, service, path, interface, method, *arguments):
 
 def output_of(*command):
     """What the command printed; nothing where it fails."""
-    try:
-        done = subprocess.run([str(part) for part in command], capture_output=True, text=True,
-                              timeout=60)
-    except subprocess.TimeoutExpired:
-        return ""
-    return done.stdout if done.returncode == 0 else ""
+    return (read(*map(str, command), seconds=60) or b"").decode()
 
 
 class Logged:
@@ -147,8 +142,8 @@ def copy(data):
 
 
 def read(*tool, seconds=5):
-    """The output of a tool that reads the clipboard, None if it fails. Where the owner ends just
-    when it is asked, as xclip does when it loses the clipboard, a reader waits for ever."""
+    """The output of a tool, None if it fails. Where the owner of the clipboard ends just when it is
+    asked, as xclip does when it loses it, a reader waits for ever."""
     try:
         done = subprocess.run(tool, capture_output=True, timeout=seconds)
     except subprocess.TimeoutExpired:
@@ -164,8 +159,7 @@ def paste(kind="UTF8_STRING", seconds=5):
 
 def formats():
     """What the clipboard offers, without what only belongs to the protocol."""
-    names = (read("wl-paste", "--list-types") if WAYLAND
-             else read("xclip", "-o", "-sel", "c", "-t", "TARGETS")) or b""
+    names = (read("wl-paste", "--list-types") if WAYLAND else paste("TARGETS")) or b""
     return set(names.decode().split()) - {"TARGETS", "MULTIPLE", "TIMESTAMP", "SAVE_TARGETS"}
 
 
