@@ -142,8 +142,8 @@ int main(int argc, char **argv) {
     const QApplication application(argc, argv);
     QApplication::setDesktopFileName(shell::applicationId);
     QApplication::setQuitOnLastWindowClosed(false);
-    // The toolkit only finds out whether a screen reader listens once it is asked, which would be too
-    // late for the first popup.
+    // The toolkit only finds out whether a screen reader listens once it is asked, which would be
+    // too late for the first popup.
     QAccessible::isActive();
     shell::keepDarkColoursReadable();
     shell::installTranslations(*QCoreApplication::instance(), QLocale::system());
