@@ -8,11 +8,15 @@
 namespace nerlo::engine {
 
 void CutSigns::add(const StructuredLine &line) {
+    if (taken_ == enough) {
+        return;
+    }
     if (line.kind != LineKind::prose || line.words == line.end || line.quoted > line.begin) {
         above_ = {};
         return;
     }
     if (above_.width > 0 && !line.item) {
+        ++taken_;
         ++rows_[above_.width];
         joints_[above_.width] += above_.endsInLetter && text::isAsciiLetter(text_[line.words]);
     }

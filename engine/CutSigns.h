@@ -27,6 +27,7 @@ class CutSigns {
 
   private:
     static constexpr std::size_t widest = 400;
+    static constexpr std::size_t enough = 1 << 12; // rows that tell what a long text is, too
 
     struct Row {
         std::size_t width = 0; // 0: the line below does not go on with it
@@ -36,6 +37,7 @@ class CutSigns {
 
     const std::u16string_view text_;
     Row above_;
+    std::size_t taken_ = 0;                          // rows that are counted
     std::array<std::uint32_t, widest + 1> rows_{};   // that go on below, by width
     std::array<std::uint32_t, widest + 1> joints_{}; // those with letters on both sides
 };
