@@ -32,8 +32,8 @@ inline constexpr std::chrono::milliseconds pasteboardReadLimit{15000};
 // All the others have this long together: a spreadsheet may need many seconds for its pictures.
 inline constexpr std::chrono::milliseconds pasteboardOthersLimit{1000};
 inline constexpr std::chrono::milliseconds pasteboardHandOverLimit{2000};
-// The display server and the desktop's shell are no owners: on a busy machine, as at login, they are
-// slow for everybody, and to go on without them costs more than to wait.
+// The display server and the desktop's shell are no owners: on a busy machine, as at login, they
+// are slow for everybody, and to go on without them costs more than to wait.
 inline constexpr std::chrono::milliseconds pasteboardServerLimit{5000};
 // More formats than this, or longer names (in bytes), are nonsense; they are left off the list.
 inline constexpr std::size_t pasteboardFormatLimit = 256;
