@@ -1,5 +1,7 @@
 #include "shell/Strings.h"
 
+#include <algorithm>
+
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -68,6 +70,14 @@ QString filled(QString text, std::initializer_list<QString> values) {
 }
 
 QString isolated(const QString &text) {
+    const auto characters = text.toUcs4();
+    const bool turns = std::ranges::any_of(characters, [](char32_t character) {
+        const auto direction = QChar::direction(character);
+        return direction == QChar::DirR || direction == QChar::DirAL;
+    });
+    if (!turns && QGuiApplication::isLeftToRight()) {
+        return text;
+    }
     constexpr QChar begin(0x2068); // goes by the first letter of the text
     constexpr QChar end(0x2069);
     return begin + text + end;

@@ -28,7 +28,8 @@ QString localized(std::string_view key);
 QString filled(QString text, std::initializer_list<QString> values);
 
 // A text of the user's within one of ours: whichever way the one is read, the other keeps its
-// order.
+// order. As it is where both are read from left to right, for what is copied out of a message has
+// to work elsewhere.
 QString isolated(const QString &text);
 
 // A name that a file may have given, in one line of a length that a menu can show.

@@ -71,8 +71,8 @@ TEST_F(Popup, ShowsTheTextsInTheCorner) {
     EXPECT_EQ(text("countParagraphs"), "8");
     EXPECT_EQ(text("leftOut"), "");
     EXPECT_EQ(text("cleanedAs"), "");
-    controller.tellProfile(u"<b>Mail");
-    EXPECT_EQ(text("cleanedAs"), "Cleaned as: \u2068<b>Mail\u2069");
+    controller.tellProfile(u"<b>\u05D3\u05D5\u05D0\u05E8");
+    EXPECT_EQ(text("cleanedAs"), "Cleaned as: \u2068<b>\u05D3\u05D5\u05D0\u05E8\u2069");
     const auto step = [](const char *operation, std::size_t changes) {
         return clipboard::ChangedStep{engine::findOperation(operation), changes};
     };
